@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstdint>
+
+#include "platform/types.h"
+
+namespace korvale {
+
+/// A window procedure that portable code puts in front of a window's own one.
+class WindowProcedure {
+ public:
+  virtual ~WindowProcedure() = default;
+
+  /// The four arguments of a WNDPROC. An exception that leaves this call is caught by the adapter
+  /// and handed to OnUncaught; it never reaches Windows.
+  virtual std::intptr_t Call(WindowHandle hwnd, std::uint32_t message, std::uintptr_t wParam,
+                             std::intptr_t lParam) = 0;
+
+  /// Called, inside a catch block, when Call ended with an exception.
+  virtual void OnUncaught() noexcept = 0;
+};
+
+/// Identifies a window's former procedure; only good for CallWindowProcA and for putting it back.
+using PreviousProcedure = std::intptr_t;
+
+/// System-wide hot keys and the window procedure that receives them.
+class HotKeyApi {
+ public:
+  virtual ~HotKeyApi() = default;
+
+  /// False when the combination is taken. `id` lies in 0..0xBFFF; `modifiers` is a sum of MOD_
+  /// values and `key` a virtual-key code, both passed on unchanged.
+  virtual bool RegisterHotKey(WindowHandle hwnd, int id, std::uint32_t modifiers,
+                              std::uint32_t key) = 0;
+  /// False when no hot key of this id belongs to the window.
+  virtual bool UnregisterHotKey(WindowHandle hwnd, int id) = 0;
+
+  /// SetWindowLongPtrA with GWLP_WNDPROC: puts `procedure`, which must outlive the hook, in front.
+  virtual PreviousProcedure SetWindowLongPtrA(WindowHandle hwnd, WindowProcedure& procedure) = 0;
+  /// SetWindowLongPtrA with GWLP_WNDPROC: puts a former procedure back.
+  virtual void SetWindowLongPtrA(WindowHandle hwnd, PreviousProcedure previous) = 0;
+  virtual std::intptr_t CallWindowProcA(PreviousProcedure previous, WindowHandle hwnd,
+                                        std::uint32_t message, std::uintptr_t wParam,
+                                        std::intptr_t lParam) = 0;
+};
+
+}  // namespace korvale

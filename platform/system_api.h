@@ -1,0 +1,61 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "platform/types.h"
+
+namespace korvale {
+
+/// What GetVersionExA reports.
+struct OsVersion {
+  std::uint32_t platformId = 0;
+  std::uint32_t majorVersion = 0;
+};
+
+/// What the executable's version resource says.
+struct VersionInfo {
+  int major = 0;
+  int minor = 0;
+  int revision = 0;
+  std::string legalCopyright;
+  std::string fileDescription;
+};
+
+/// A named system object that at most one process holds. Released when destroyed.
+class SystemMutex {
+ public:
+  virtual ~SystemMutex() = default;
+
+  /// Waits up to `milliseconds` (0 = only looks) to become the holder; true when it is one now. A
+  /// holder that died counts as having let go (WaitForSingleObject).
+  virtual bool WaitForSingleObject(std::uint32_t milliseconds) = 0;
+};
+
+/// The shell and the operating system around the program.
+class SystemApi {
+ public:
+  virtual ~SystemApi() = default;
+
+  /// Full path of the running executable.
+  virtual std::string GetModuleFileNameA() = 0;
+  /// The command line behind the program's own name, as typed.
+  virtual std::string GetCommandLineA() = 0;
+  /// VerQueryValueA on the executable; fields stay empty where the resource has none.
+  virtual VersionInfo GetFileVersionInfoA() = 0;
+  /// Fills from a structure whose size field is `structureSize`; platformId 0 when it failed.
+  virtual OsVersion GetVersionExA(std::uint32_t structureSize) = 0;
+  /// The Windows directory without a closing backslash, at most `bufferSize`-1 bytes; "" on failure.
+  virtual std::string GetWindowsDirectoryA(std::uint32_t bufferSize) = 0;
+  /// Opens a document or an address with its program; errors are ignored.
+  virtual void ShellExecuteA(WindowHandle hwnd, const std::string& verb, const std::string& file,
+                             int showCommand) = 0;
+  /// True when a file (not a folder) of this path exists (GetFileAttributesA).
+  virtual bool FileExists(const std::string& path) = 0;
+  /// Opens or makes the named mutex of this session without waiting for it (CreateMutexA); null
+  /// when the system refused.
+  virtual std::unique_ptr<SystemMutex> CreateMutexA(const std::string& name) = 0;
+};
+
+}  // namespace korvale
