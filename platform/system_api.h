@@ -46,7 +46,8 @@ class SystemApi {
   virtual VersionInfo GetFileVersionInfoA() = 0;
   /// Fills from a structure whose size field is `structureSize`; platformId 0 when it failed.
   virtual OsVersion GetVersionExA(std::uint32_t structureSize) = 0;
-  /// The Windows directory without a closing backslash, at most `bufferSize`-1 bytes; "" on failure.
+  /// The Windows directory without a closing backslash, at most `bufferSize`-1 bytes; "" on
+  /// failure.
   virtual std::string GetWindowsDirectoryA(std::uint32_t bufferSize) = 0;
   /// Opens a document or an address with its program; errors are ignored.
   virtual void ShellExecuteA(WindowHandle hwnd, const std::string& verb, const std::string& file,

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+
+#include "platform/system_api.h"
+
+namespace korvale {
+
+inline constexpr const char* kProductName = "Korvale";
+
+/// What the program knows about itself, fixed at start-up.
+struct ProgramIdentity {
+  std::string productName = kProductName;
+  /// The executable's folder with a closing backslash.
+  std::string programFolder;
+  /// The last component of the executable's folder.
+  std::string installationFolderName;
+  /// Major.minor.revision as in 1.10.0695.
+  std::string versionText;
+  std::string legalNotice;
+  std::string fileDescription;
+  /// "Korvale - Work" for a copy in a folder named Work; also the settings application name.
+  std::string mainCaption;
+  /// Title of every message box, followed by a suffix such as " - ERROR".
+  std::string messageTitle = kProductName;
+  /// File name of the executable without its folder.
+  std::string executableName;
+};
+
+/// Reads the executable's path and version resource.
+ProgramIdentity ReadProgramIdentity(SystemApi& system);
+
+}  // namespace korvale

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "app/core/message_boxes.h"
+#include "desktop/main_window.h"
+#include "desktop/previous_window.h"
+#include "desktop/window_enumeration.h"
+#include "desktop/window_filter.h"
+#include "platform/types.h"
+#include "platform/window_api.h"
+
+namespace korvale {
+
+enum ActivationResult : std::int16_t {
+  kActivationFailed = 0,
+  kActivationDone = 1,
+  kWindowNotOpen = 2,
+  kWindowNotEnabled = 3,
+};
+
+/// Every change that the program makes to a window of the desktop.
+class WindowActions {
+ public:
+  WindowActions(WindowQueries& windows, WindowCommands& commands, const WindowFilter& filter,
+                WindowEnumeration& enumeration, MainWindow& mainWindow, PreviousWindow& previous,
+                MessageBoxes& messages, std::string messageTitle);
+
+  /// Brings a window to the front, or with `act` false only tells whether that could be done.
+  /// `text` is refreshed for the Previous Window and its alternate; `hwnd` becomes 0 when the title
+  /// no longer fits. With `reportFailure` a failure is shown to the user.
+  ActivationResult ActivateWindow(WindowHandle& hwnd, std::string& text,
+                                  const std::string& className, bool reportFailure, bool act);
+  ActivationResult ActivateWindow(WindowTriple& window, bool reportFailure, bool act);
+
+  /// `hotKeyName` is HOTKEY_MINIMIZE_PARENT or HOTKEY_RESTORE/MAXIMIZE_PARENT; others do nothing.
+  void MinimizeOrMaximizeForeground(std::string_view hotKeyName);
+
+  /// Makes a window topmost or not, without moving it (SetWindowPos).
+  void SetTopmost(WindowHandle hwnd, bool topmost);
+
+  /// ShowWindow, without waiting for a window that hangs.
+  bool ShowDesktopWindow(WindowHandle hwnd, int command);
+
+ private:
+  bool RestoreIconicOwner(WindowHandle hwnd);
+  void RefreshRecordedTitle(WindowHandle hwnd, std::string& text);
+  bool BringForward(WindowHandle hwnd);
+  void MinimizeForeground(WindowHandle hwnd);
+  void MaximizeOrRestoreForeground(WindowHandle hwnd);
+
+  WindowQueries* windows_;
+  WindowCommands* commands_;
+  const WindowFilter* filter_;
+  WindowEnumeration* enumeration_;
+  MainWindow* mainWindow_;
+  PreviousWindow* previous_;
+  MessageBoxes* messages_;
+  std::string messageTitle_;
+};
+
+}  // namespace korvale

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "desktop/main_window.h"
+#include "desktop/tag_list.h"
+#include "desktop/window_filter.h"
+#include "platform/types.h"
+#include "platform/window_api.h"
+
+namespace korvale {
+
+/// What an enumeration does with each window; other numbers do nothing.
+enum EnumerationMode : std::int32_t {
+  kMinimizeAll = 1,
+  kRestoreAll = 2,
+  kTagRefresh = 3,
+  kSearchTitleAndClass = 4,
+  kTopWindow = 6,
+  kSearchTitle = 7,
+};
+
+/// Set before an enumeration, read after it.
+struct SearchFields {
+  std::string searchTitle;  ///< Mode 4.
+  std::string searchClass;
+  WindowHandle searchResult = 0;
+  std::int16_t topWindowCount = 0;  ///< Mode 6.
+  WindowHandle topWindowResult = 0;
+  std::string titleSearchText;  ///< Mode 7.
+  WindowHandle titleSearchResult = 0;
+  std::string instanceClass;  ///< Instance search.
+  std::string instanceTitle;
+  WindowHandle instanceResult = 0;
+};
+
+/// The one enumeration of the top-level windows through which every search over the desktop runs.
+class WindowEnumeration {
+ public:
+  WindowEnumeration(WindowQueries& windows, WindowCommands& commands, const WindowFilter& filter,
+                    const MainWindow& mainWindow, TagListPasses& tagPasses);
+
+  SearchFields& Fields() { return fields_; }
+
+  /// Hands every top-level window, topmost first, to EnumWindowsProc.
+  void EnumWindows(std::int32_t mode);
+  /// Hands every top-level window to EnumInstanceProc with mode 4.
+  void EnumInstances();
+
+  /// Always true, so that an enumeration visits all windows. Modes 4 and 7 keep the last match in
+  /// Z-order, mode 6 the first.
+  bool EnumWindowsProc(WindowHandle hwnd, std::int32_t mode);
+  /// Finds another copy of the program by exact class and title; the last match wins.
+  bool EnumInstanceProc(WindowHandle hwnd, std::int32_t mode);
+
+  /// Matches every Tag anew against the desktop: all unresolved first, then mode 3.
+  void RefreshTags();
+  /// Mode 7: the last visible window whose title fits the identification, 0 = none.
+  WindowHandle FindByTitle(const std::string& identificationText);
+  /// Mode 4: the same with an exact class.
+  WindowHandle FindByTitleAndClass(const std::string& title, const std::string& className);
+  /// The instance search; 0 = no other copy.
+  WindowHandle FindInstance(const std::string& className, const std::string& title);
+  /// Mode 6: the topmost window below the program's own, 0 = none.
+  WindowHandle FindTopWindow();
+
+ private:
+  bool CanMinimizeOrRestore(WindowHandle hwnd, bool iconic) const;
+  void CountTopWindow(WindowHandle hwnd);
+
+  WindowQueries* windows_;
+  WindowCommands* commands_;
+  const WindowFilter* filter_;
+  const MainWindow* mainWindow_;
+  TagListPasses* tagPasses_;
+  SearchFields fields_;
+};
+
+}  // namespace korvale

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "platform/types.h"
+#include "platform/window_api.h"
+
+namespace korvale {
+
+/// The whole title of a window, read now (GetWindowTextLengthA, GetWindowTextA); "" when the window
+/// is gone or untitled. A title that grew between the two calls is read again, never cut.
+std::string GetWindowTitle(WindowQueries& windows, WindowHandle hwnd);
+
+/// The class name of a window (GetClassNameA); "" when the window is gone.
+std::string GetWindowClass(WindowQueries& windows, WindowHandle hwnd);
+
+/// `which` 1: the first child window; 2: the owner if it has a minimize box; 0 when there is none,
+/// and for any other `which` (GetWindow, GetWindowLongA).
+WindowHandle GetRelatedWindow(WindowQueries& windows, WindowHandle hwnd, std::int16_t which);
+
+}  // namespace korvale

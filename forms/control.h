@@ -1,0 +1,90 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "platform/form_host.h"
+#include "platform/form_model.h"
+
+namespace korvale {
+
+class Form;
+
+/// One control of a loaded form. Setters change the model, show the change and raise the event
+/// that such a change means; setting a property to the value it has does nothing.
+class Control {
+ public:
+  Control(Form& form, ControlState& state) : form_(&form), state_(&state) {}
+
+  const ControlState& State() const { return *state_; }
+  int Id() const { return state_->id; }
+  int Index() const { return state_->index; }
+  const std::string& Name() const { return state_->name; }
+
+  /// Caption of a button or label, text of a text box. Changing the text of a text box by code
+  /// raises no event.
+  const std::string& Text() const { return state_->text; }
+  void SetText(std::string_view text);
+
+  bool Visible() const { return state_->visible; }
+  void SetVisible(bool visible);
+
+  /// Enables the control; for a timer, starts or stops it.
+  bool Enabled() const { return state_->enabled; }
+  void SetEnabled(bool enabled);
+
+  const TwipsRect& Place() const { return state_->place; }
+  void SetPlace(const TwipsRect& place);
+  void SetTop(Twips top);
+  void SetWidth(Twips width);
+  void SetHeight(Twips height);
+
+  /// 1 = chosen, 0 = not. Choosing an option button unchooses its neighbours in the same
+  /// container. Raises Click when the value changes (for option buttons: when it becomes 1).
+  int Value() const { return state_->value; }
+  void SetValue(int value);
+
+  Color BackColor() const { return state_->backColor; }
+  void SetBackColor(Color color);
+  Color ForeColor() const { return state_->foreColor; }
+  void SetForeColor(Color color);
+  bool Border() const { return state_->border; }
+  void SetBorder(bool border);
+
+  std::span<const ListItem> Items() const { return state_->items; }
+  void AddItem(std::string_view text, std::int32_t itemData = 0);
+  void SetItemText(int listIndex, std::string_view text);
+  /// Removes all entries; nothing is selected then.
+  void Clear();
+  int ListIndex() const { return state_->listIndex; }
+  /// Selects an entry, -1 = none; raises Click when the selection changes. Error 380 when there is
+  /// no such entry.
+  void SetListIndex(int listIndex);
+  /// Item data of the selected entry, or nothing selected: 0.
+  std::int32_t SelectedItemData() const;
+  /// Text of the selected entry, or nothing selected: "".
+  std::string SelectedText() const;
+
+  void SetFocus();
+  TextSelection Selection() const;
+  void SetSelection(TextSelection selection);
+
+  /// Timer: milliseconds, at least 10. A running timer starts anew.
+  std::uint32_t Interval() const { return state_->interval; }
+  void SetInterval(std::uint32_t milliseconds);
+
+  /// A text that belongs to the form's own routines.
+  const std::string& Tag() const { return tag_; }
+  void SetTag(std::string_view tag) { tag_ = tag; }
+
+ private:
+  void Changed(ControlProperty property);
+
+  Form* form_;
+  ControlState* state_;
+  std::string tag_;
+};
+
+}  // namespace korvale

@@ -1,0 +1,169 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "forms/control.h"
+#include "platform/clock.h"
+#include "platform/form_host.h"
+#include "platform/form_model.h"
+
+namespace korvale {
+
+class FormCollection;
+
+/// The fixed properties of a form.
+struct FormDesign {
+  const char* name;
+  const char* caption;
+  TwipsRect place;
+  BorderStyle border = BorderStyle::kFixedDialog;
+  bool minimizeBox = false;
+  bool maximizeBox = false;
+  bool modalFrame = true;
+  bool inTaskbar = false;
+  /// The height counts the frame and menu that the window really has; otherwise it counts the
+  /// classic frame (400 twips) and the window grows with a higher one, so that no control is cut.
+  bool exactHeight = false;
+  std::span<const ControlRow> controls = {};
+  std::span<const MenuRow> menu = {};
+};
+
+/// A form: its model, and what the user's doings mean. A form is loaded (its window exists,
+/// hidden), shown, and unloaded; it can be loaded again afterwards.
+class Form : public FormEvents {
+ public:
+  Form(const FormDesign& design, FormCollection& forms);
+  ~Form() override;
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+
+  const std::string& Name() const { return state_.name; }
+  bool IsLoaded() const { return handle_ != 0; }
+  /// The form's window, 0 while it is not loaded.
+  WindowHandle Handle() const { return handle_; }
+  const FormState& State() const { return state_; }
+
+  /// Makes the window from the design and runs Form_Load; does nothing when it is loaded.
+  void Load();
+  /// Asks Form_QueryUnload, then runs Form_Unload and destroys the window; false when the form
+  /// refused. Does nothing when it is not loaded.
+  bool Unload(CloseReason reason = CloseReason::kCode);
+  /// Loads the form if need be and shows it.
+  void Show();
+  /// Shows the form and returns when it has been unloaded or hidden; no other form of the program
+  /// takes input meanwhile.
+  void ShowModal();
+  void Hide();
+
+  const std::string& Caption() const { return state_.caption; }
+  void SetCaption(std::string_view caption);
+  /// Place and size in twips. Without FormDesign::exactHeight the size counts the classic frame.
+  const TwipsRect& Place() const { return place_; }
+  void SetPlace(const TwipsRect& place);
+  bool Enabled() const { return state_.enabled; }
+  void SetEnabled(bool enabled);
+  bool Visible() const { return state_.visible; }
+  ShowState WindowState() const { return state_.windowState; }
+  void SetWindowState(ShowState state);
+
+  /// A text that belongs to the program's routines ("GOTFOCUS", "NO_SHOW").
+  const std::string& Tag() const { return tag_; }
+  void SetTag(std::string_view tag) { tag_ = tag; }
+
+  /// The control of this name and array index; error 340 when there is none.
+  Control& Find(std::string_view name, int index = -1);
+  const Control& Find(std::string_view name, int index = -1) const;
+  bool Has(std::string_view name, int index = -1) const;
+  Control& ById(int id);
+  std::deque<Control>& Controls() { return controls_; }
+
+  /// The menu entry of this name; error 340 when there is none.
+  MenuItem& Menu(std::string_view name, int index = -1);
+  MenuBar& Menus() { return state_.menu; }
+  /// Shows changed captions and visibility of the menu bar.
+  void RefreshMenuBar();
+  void SetMenuShown(bool shown);
+
+  FormCollection& Collection() { return *forms_; }
+  /// The control that has the focus, 0 = none.
+  int FocusedControl() const { return focused_; }
+
+  // What the host tells (FormEvents).
+  void OnClick(int control) final;
+  void OnTextTyped(int control, const std::string& text) final;
+  void OnListPicked(int control, int listIndex) final;
+  void OnListDropDown(int control) final;
+  void OnListClosedUp(int control) final;
+  bool OnKeyDown(int control, int virtualKey, unsigned shift) final;
+  bool OnKeyUp(int control, int virtualKey, unsigned shift) final;
+  void OnMouse(int control, const MouseInput& input) final;
+  void OnFocusMoved(int control) final;
+  void OnMenuOpened(MenuItem& menu) final;
+  void OnMenuClicked(MenuItem& item) final;
+  void OnActivated() final;
+  void OnPlaced(ShowState state, const TwipsRect& place) final;
+  void OnCloseRequested(CloseReason reason) final;
+  void OnTimer(int control) final;
+  void OnUncaught() noexcept final;
+
+ protected:
+  using Handler = std::function<void(int index)>;
+
+  // What a form does; each is called by the shared code above.
+  virtual void Form_Load() {}
+  virtual void Form_Activate() {}
+  /// Sees each key before any control; set `key` to 0 to swallow it.
+  virtual void Form_KeyDown(int& key, unsigned shift);
+  virtual void Form_KeyUp(Control* focused, int& key, unsigned shift);
+  /// Set `cancel` to keep the form open.
+  virtual void Form_QueryUnload(bool& cancel, CloseReason reason);
+  virtual void Form_Unload() {}
+  virtual void Form_Resize() {}
+  virtual void Form_MouseMove(const MouseInput& input);
+  virtual void Control_Mouse(Control& control, const MouseInput& input);
+
+  /// Binds the click of a control (for lists: the choice; for timers: the tick; for text boxes: a
+  /// change by typing) or of a menu entry to its handler, which gets the array index (-1 = none).
+  void WhenClicked(std::string_view name, Handler handler);
+  void WhenDroppedDown(std::string_view name, Handler handler);
+  void WhenMenuOpens(std::string_view name, Handler handler);
+  void WhenMenuClicked(std::string_view name, Handler handler);
+
+ private:
+  friend class Control;
+  friend class FormCollection;
+
+  void BuildFromDesign();
+  void RaiseClick(Control& control);
+  void ChooseOption(Control& chosen);
+  void StartOrStopTimer(const Control& timer);
+  void ApplyPlace();
+  TwipsRect FrameGrowth() const;
+  bool DialogKey(int control, int virtualKey, unsigned shift);
+  bool MoveFocus(int from, bool backwards);
+  bool PressAccessKey(int virtualKey, int focused);
+  Control* DefaultButtonFor(int focused);
+  Control* ButtonWithFlag(unsigned flag);
+  void PressControl(Control& control);
+  bool CanTakeInput(const Control& control) const;
+
+  const FormDesign design_;
+  FormCollection* forms_;
+  FormState state_;
+  TwipsRect place_;
+  std::deque<Control> controls_;
+  WindowHandle handle_ = 0;
+  int focused_ = 0;
+  std::string tag_;
+  std::map<std::string, Handler, std::less<>> clicked_;
+  std::map<std::string, Handler, std::less<>> droppedDown_;
+  std::map<std::string, Handler, std::less<>> menuOpens_;
+  std::map<std::string, Handler, std::less<>> menuClicked_;
+};
+
+}  // namespace korvale

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <functional>
+#include <string_view>
+#include <vector>
+
+#include "platform/clock.h"
+#include "platform/form_host.h"
+#include "util/forms.h"
+
+namespace korvale {
+
+class Form;
+
+/// The loaded forms of the program and what they share: the host that shows them, their timers
+/// and the place where an error of an event handler is reported.
+class FormCollection : public LoadedForms {
+ public:
+  FormCollection(FormHost& host, TimerApi& timers) : host_(&host), timers_(&timers) {}
+
+  FormHost& Host() { return *host_; }
+  TimerApi& Timers() { return *timers_; }
+
+  /// The loaded forms in the order of their loading.
+  std::vector<LoadedForm> List() const override;
+  /// The loaded form of this name, ignoring case; null when there is none.
+  Form* Find(std::string_view name) const;
+  /// Unloads every loaded form except the one of this name, the last loaded first.
+  void UnloadAllExcept(std::string_view name);
+
+  /// Disables every other loaded form, runs messages until `form` is no longer shown, and enables
+  /// the forms again that were enabled before.
+  void RunModal(Form& form);
+  /// The form shown modally on top, null when there is none.
+  Form* TopModal() const { return modal_.empty() ? nullptr : modal_.back(); }
+
+  /// Called inside a catch block with an error that left an event handler; must not throw.
+  void SetUncaughtHandler(std::function<void()> handler) { uncaught_ = std::move(handler); }
+  void ReportUncaught() noexcept;
+
+ private:
+  friend class Form;
+  void Add(Form& form) { loaded_.push_back(&form); }
+  void Remove(Form& form);
+
+  FormHost* host_;
+  TimerApi* timers_;
+  std::vector<Form*> loaded_;
+  std::vector<Form*> modal_;
+  std::function<void()> uncaught_;
+};
+
+}  // namespace korvale

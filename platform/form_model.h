@@ -1,0 +1,123 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "platform/menu_model.h"
+#include "platform/types.h"
+
+namespace korvale {
+
+enum class ControlKind {
+  kLabel,
+  kLine,
+  kTextBox,
+  kButton,
+  kCheckBox,
+  kOptionButton,
+  kDropDownList,  ///< A combo box that offers its entries only.
+  kComboBox,      ///< A combo box with a text field.
+  kFrame,         ///< A group box; holds other controls.
+  kPage,          ///< A bare surface that holds the controls of one tab.
+  kTabStrip,      ///< `items` are the tabs, `listIndex` the chosen one.
+  kImage,
+  kTimer,
+};
+
+enum ControlFlags : unsigned {
+  kNoFlags = 0,
+  kDefaultButton = 1U << 0U,  ///< Enter presses it.
+  kCancelButton = 1U << 1U,   ///< Esc presses it.
+  kHidden = 1U << 2U,
+  kDisabled = 1U << 3U,
+  kReadOnly = 1U << 4U,
+  kNoTabStop = 1U << 5U,
+  kWordWrap = 1U << 6U,
+  kNoPrefix = 1U << 7U,  ///< "&" in the caption is shown as it is.
+  kSingleBorder = 1U << 8U,
+  kCentered = 1U << 9U,
+  kClickable = 1U << 10U,  ///< A label or image that reports the mouse.
+};
+
+/// One row of a form's control table. Rows stand in the order of the windows, which is the order
+/// of the Tab key; a frame or page stands before what it holds.
+struct ControlRow {
+  ControlKind kind;
+  const char* name;
+  int index;  ///< Position in a control array, or -1.
+  const char* caption;
+  const char* toolTip;
+  TwipsRect place;             ///< Within the container's client area.
+  const char* container = "";  ///< Name of the frame or page that holds it; "" = the form.
+  int containerIndex = -1;     ///< Its position in a control array, or -1.
+  unsigned flags = kNoFlags;
+  Color backColor = kButtonFaceColor;
+  Color foreColor = kButtonTextColor;
+};
+
+/// An entry of a list with the number that stands for it.
+struct ListItem {
+  std::string text;
+  std::int32_t itemData = 0;
+};
+
+/// What a host needs to know of a control to show it. Changed by the shared form code only.
+struct ControlState {
+  int id = 0;  ///< 1-based position in the table; also the Windows control id.
+  ControlKind kind = ControlKind::kLabel;
+  std::string name;
+  int index = -1;
+  std::string text;  ///< Caption or typed text. In captions "&" marks the access key.
+  std::string toolTip;
+  TwipsRect place;
+  int container = 0;  ///< Id of the frame or page that holds it, 0 = the form.
+  unsigned flags = kNoFlags;
+  bool visible = true;
+  bool enabled = true;
+  int value = 0;  ///< Check box and option button: 1 chosen, 0 not.
+  Color backColor = kButtonFaceColor;
+  Color foreColor = kButtonTextColor;
+  bool border = false;
+  std::vector<ListItem> items;
+  int listIndex = -1;
+  std::uint32_t interval = 0;  ///< Timer: milliseconds.
+};
+
+enum class ControlProperty {
+  kText,
+  kPlace,
+  kVisible,
+  kEnabled,
+  kValue,
+  kColors,
+  kBorder,
+  kItems,
+  kListIndex,
+  kToolTip,
+  kDefault
+};
+
+enum class BorderStyle { kSizable, kFixedDialog, kNone };
+
+enum class ShowState { kNormal = 0, kMinimized = 1, kMaximized = 2 };
+
+/// What a host needs to know of a form to show it. Changed by the shared form code only.
+struct FormState {
+  std::string name;  ///< Its window class is "Korvale." followed by this name.
+  std::string caption;
+  TwipsRect place;  ///< Place and size on the screen, frame included.
+  BorderStyle border = BorderStyle::kFixedDialog;
+  bool minimizeBox = false;
+  bool maximizeBox = false;
+  bool modalFrame = false;  ///< Carries DS_MODALFRAME.
+  bool inTaskbar = false;
+  bool visible = false;
+  bool enabled = true;
+  ShowState windowState = ShowState::kNormal;
+  MenuBar menu;
+  bool menuShown = true;  ///< The menu bar is visible.
+  std::vector<ControlState> controls;
+};
+
+}  // namespace korvale

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/types.h"
+
+namespace korvale {
+
+/// A form of the program that is loaded now. `handle` is 0 while it has no window.
+struct LoadedForm {
+  std::string name;
+  WindowHandle handle = 0;
+};
+
+/// The forms of the program that are loaded now.
+class LoadedForms {
+ public:
+  virtual ~LoadedForms() = default;
+
+  /// All loaded forms in the order of their loading.
+  virtual std::vector<LoadedForm> List() const = 0;
+};
+
+/// True when a form of this name is loaded, ignoring case. `flag` has no effect.
+bool IsFormLoaded(const LoadedForms& forms, std::string_view name, bool flag = false);
+
+/// Window of the first loaded form of this name, ignoring case; 0 when none is loaded.
+WindowHandle FormHandle(const LoadedForms& forms, std::string_view name);
+
+}  // namespace korvale
