@@ -1,0 +1,42 @@
+#include "util/forms.h"
+
+#include <gtest/gtest.h>
+
+#include <utility>
+#include <vector>
+
+namespace korvale {
+namespace {
+
+class FormsOfTest : public LoadedForms {
+ public:
+  explicit FormsOfTest(std::vector<LoadedForm> forms) : forms_(std::move(forms)) {}
+
+  std::vector<LoadedForm> List() const override { return forms_; }
+
+ private:
+  std::vector<LoadedForm> forms_;
+};
+
+TEST(IsFormLoadedTest, FindsAFormIgnoringCase) {
+  const FormsOfTest forms({{"frmMain", 1}, {"frmMsgBox2", 2}});
+  EXPECT_TRUE(IsFormLoaded(forms, "FRMMSGBOX2"));
+  EXPECT_TRUE(IsFormLoaded(forms, "frmmain", true));
+}
+
+TEST(IsFormLoadedTest, DoesNotFindOtherForms) {
+  EXPECT_FALSE(IsFormLoaded(FormsOfTest({{"frmMain", 1}}), "frmMsgBox2"));
+  EXPECT_FALSE(IsFormLoaded(FormsOfTest({}), "frmMain"));
+}
+
+TEST(FormHandleTest, IsTheWindowOfTheForm) {
+  const FormsOfTest forms({{"frmMain", 1}, {"frmOptions", 7}});
+  EXPECT_EQ(FormHandle(forms, "FrmOptions"), 7);
+}
+
+TEST(FormHandleTest, IsZeroForAFormThatIsNotLoaded) {
+  EXPECT_EQ(FormHandle(FormsOfTest({{"frmMain", 1}}), "frmOptions"), 0);
+}
+
+}  // namespace
+}  // namespace korvale

@@ -1,0 +1,88 @@
+#include "util/system.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace korvale {
+namespace {
+
+class SystemOfTest : public SystemApi {
+ public:
+  std::string GetModuleFileNameA() override { return ""; }
+  std::string GetCommandLineA() override { return ""; }
+  VersionInfo GetFileVersionInfoA() override { return {}; }
+  OsVersion GetVersionExA(std::uint32_t structureSize) override {
+    structure_size_ = structureSize;
+    return version_;
+  }
+  std::string GetWindowsDirectoryA(std::uint32_t bufferSize) override {
+    return folder_.substr(0, bufferSize - 1);
+  }
+  void ShellExecuteA(WindowHandle hwnd, const std::string& verb, const std::string& file,
+                     int showCommand) override {
+    opened_.push_back(std::to_string(hwnd) + " " + verb + " " + file + " " +
+                      std::to_string(showCommand));
+  }
+  bool FileExists(const std::string& /*path*/) override { return false; }
+  std::unique_ptr<SystemMutex> CreateMutexA(const std::string& /*name*/) override { return {}; }
+
+  OsVersion version_;
+  std::uint32_t structure_size_ = 0;
+  std::string folder_ = "C:\\Windows";
+  std::vector<std::string> opened_;
+};
+
+TEST(GetOSInfoTest, NamesThePlatformFamily) {
+  SystemOfTest system;
+  system.version_ = {1, 4};
+  EXPECT_EQ(GetOSInfo(system, "PLATFORM_ID"), "9x");
+  system.version_ = {2, 10};
+  EXPECT_EQ(GetOSInfo(system, "PLATFORM_ID"), "NT");
+  system.version_ = {0, 0};
+  EXPECT_EQ(GetOSInfo(system, "PLATFORM_ID"), "UNKNOWN");
+  system.version_ = {3, 0};
+  EXPECT_EQ(GetOSInfo(system, "PLATFORM_ID"), "UNKNOWN");
+}
+
+TEST(GetOSInfoTest, WritesTheMajorVersionInDecimal) {
+  SystemOfTest system;
+  system.version_ = {2, 10};
+  EXPECT_EQ(GetOSInfo(system, "MAJOR_VERSION"), "10");
+}
+
+TEST(GetOSInfoTest, AnswersUnknownToAnyOtherRequest) {
+  SystemOfTest system;
+  system.version_ = {2, 10};
+  EXPECT_EQ(GetOSInfo(system, "MINOR_VERSION"), "UNKNOWN");
+  EXPECT_EQ(GetOSInfo(system, ""), "UNKNOWN");
+}
+
+TEST(GetOSInfoTest, PassesAStructureOf148Bytes) {
+  SystemOfTest system;
+  GetOSInfo(system, "PLATFORM_ID");
+  EXPECT_EQ(system.structure_size_, 148U);
+}
+
+TEST(GetWindowsFolderTest, EndsInABackslash) {
+  SystemOfTest system;
+  EXPECT_EQ(GetWindowsFolder(system), "C:\\Windows\\");
+}
+
+TEST(GetWindowsFolderTest, ReadsIntoABufferOf255Characters) {
+  SystemOfTest system;
+  system.folder_ = std::string(300, 'w');
+  EXPECT_EQ(GetWindowsFolder(system), std::string(254, 'w') + "\\");
+}
+
+TEST(OpenDocumentTest, OpensWithTheMainWindowAsItsParent) {
+  SystemOfTest system;
+  OpenDocument(system, 42, "https://example.org/");
+  EXPECT_EQ(system.opened_, std::vector<std::string>{"42 Open https://example.org/ 1"});
+}
+
+}  // namespace
+}  // namespace korvale

@@ -1,0 +1,236 @@
+#include "util/text.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <string>
+
+#include "platform/run_time_error.h"
+
+namespace korvale {
+namespace {
+
+TEST(CharacterCountTest, CountsCodePointsNotBytes) {
+  EXPECT_EQ(CharacterCount(""), 0);
+  EXPECT_EQ(CharacterCount("Notepad"), 7);
+  EXPECT_EQ(CharacterCount("Блокнот"), 7);
+  EXPECT_EQ(CharacterCount("メモ帳"), 3);
+  EXPECT_EQ(CharacterCount("a😀b"), 3);
+}
+
+TEST(CharacterCountTest, CountsEachInvalidByteAsOneCharacter) {
+  EXPECT_EQ(CharacterCount("a\x80z"), 3);
+  EXPECT_EQ(CharacterCount("\xC3"), 1);
+  EXPECT_EQ(CharacterCount("\xF0\x9F\x98"), 3);
+  EXPECT_EQ(CharacterCount("\xFF\xFE"), 2);
+  EXPECT_EQ(CharacterCount("\xE2\x82z"), 3);
+}
+
+TEST(CharacterCountTest, TakesOverlongFormsSurrogatesAndTooLargeValuesAsInvalid) {
+  EXPECT_EQ(CharacterCount("\xC0\x80"), 2);
+  EXPECT_EQ(CharacterCount("\xE0\x80\x80"), 3);
+  EXPECT_EQ(CharacterCount("\xED\xA0\x80"), 3);
+  EXPECT_EQ(CharacterCount("\xF4\x90\x80\x80"), 4);
+  EXPECT_EQ(CharacterCount("\xF4\x8F\xBF\xBF"), 1);
+}
+
+TEST(LeftCharactersTest, CutsByCharacter) {
+  EXPECT_EQ(LeftCharacters("Блокнот", 3), "Бло");
+  EXPECT_EQ(LeftCharacters("😀😀", 1), "😀");
+  EXPECT_EQ(LeftCharacters("ab", 0), "");
+  EXPECT_EQ(LeftCharacters("ab", 5), "ab");
+  EXPECT_EQ(LeftCharacters("\x80\x81", 1), "\x80");
+  EXPECT_THROW(LeftCharacters("ab", -1), RunTimeError);
+}
+
+TEST(MidCharactersTest, StartsAtTheCharacterCountedFromOne) {
+  EXPECT_EQ(MidCharacters("Блокнот", 1), "Блокнот");
+  EXPECT_EQ(MidCharacters("Блокнот", 5), "нот");
+  EXPECT_EQ(MidCharacters("ab", 3), "");
+  EXPECT_EQ(MidCharacters("ab", 9), "");
+  EXPECT_THROW(MidCharacters("ab", 0), RunTimeError);
+}
+
+TEST(RightCharactersTest, CutsByCharacterFromTheEnd) {
+  EXPECT_EQ(RightCharacters("Блокнот", 3), "нот");
+  EXPECT_EQ(RightCharacters("a😀", 1), "😀");
+  EXPECT_EQ(RightCharacters("ab", 0), "");
+  EXPECT_EQ(RightCharacters("ab", 5), "ab");
+  EXPECT_THROW(RightCharacters("ab", -1), RunTimeError);
+}
+
+TEST(TrimTest, RemovesBlanksAtBothEndsOnly) {
+  EXPECT_EQ(Trim("  a  b "), "a  b");
+  EXPECT_EQ(Trim("   "), "");
+  EXPECT_EQ(Trim(""), "");
+  EXPECT_EQ(Trim("\ta\n"), "\ta\n");
+  EXPECT_EQ(Trim("\u00A0a"), "\u00A0a");
+}
+
+struct CasePair {
+  const char* lower;
+  const char* upper;
+};
+
+class UpperCaseTest : public testing::TestWithParam<CasePair> {};
+
+TEST_P(UpperCaseTest, UpperCasesEveryLetter) {
+  EXPECT_EQ(UpperCase(GetParam().lower), GetParam().upper);
+  EXPECT_EQ(UpperCase(GetParam().upper), GetParam().upper);
+  EXPECT_TRUE(EqualsIgnoreCase(GetParam().lower, GetParam().upper));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Letters, UpperCaseTest,
+    testing::Values(CasePair{"azAZ019[`{", "AZAZ019[`{"}, CasePair{"àöøþÿ", "ÀÖØÞŸ"},
+                    CasePair{"āėįĳķĺňŋŷźž", "ĀĖĮĲĶĹŇŊŶŹŽ"},
+                    CasePair{"άέίαπρςσωϊϋόύώ", "ΆΈΊΑΠΡΣΣΩΪΫΌΎΏ"},
+                    CasePair{"абяёѐџѡҁҋӂӎӏӑԯ", "АБЯЁЀЏѠҀҊӁӍӀӐԮ"},
+                    CasePair{"աֆ", "ԱՖ"}, CasePair{"ß÷×メモ😀", "ß÷×メモ😀"},
+                    CasePair{"a\xE4\x80", "A\xE4\x80"}));
+
+TEST(EqualsIgnoreCaseTest, TellsDifferentTextsApart) {
+  EXPECT_TRUE(EqualsIgnoreCase("frmMsgBox2", "FRMMSGBOX2"));
+  EXPECT_FALSE(EqualsIgnoreCase("frmMsgBox2", "frmMsgBox"));
+  EXPECT_FALSE(EqualsIgnoreCase("a", "b"));
+}
+
+TEST(PadTextTest, FillsUpToTheWidthOnTheSideOfTheMode) {
+  EXPECT_EQ(PadText("7", 3, "LEFT_SPACES"), "  7");
+  EXPECT_EQ(PadText("7", 3, "RIGHT_SPACES"), "7  ");
+  EXPECT_EQ(PadText("7", 3, "LEFT_ZEROES"), "007");
+}
+
+TEST(PadTextTest, NeverTruncates) {
+  EXPECT_EQ(PadText("1234", 3, "LEFT_SPACES"), "1234");
+  EXPECT_EQ(PadText("123", 3, "RIGHT_SPACES"), "123");
+  EXPECT_EQ(PadText("1", -1, "LEFT_ZEROES"), "1");
+}
+
+TEST(PadTextTest, LeavesTheTextAloneInAnyOtherMode) {
+  EXPECT_EQ(PadText("7", 3, ""), "7");
+  EXPECT_EQ(PadText("7", 3, "left_spaces"), "7");
+}
+
+TEST(PadTextTest, MeasuresTheWidthInCharacters) {
+  EXPECT_EQ(PadText("Бло", 5, "RIGHT_SPACES"), "Бло  ");
+  EXPECT_EQ(PadText("😀", 2, "LEFT_SPACES"), " 😀");
+}
+
+TEST(ReplaceTextTest, DoublesEachAmpersandOnce) {
+  EXPECT_EQ(ReplaceText("A&B&C", "&", "&&", false, true), "A&&B&&C");
+  EXPECT_EQ(ReplaceText("&&", "&", "&&", false, true), "&&&&");
+}
+
+TEST(ReplaceTextTest, StopsAfterTheFirstWhenAskedTo) {
+  EXPECT_EQ(ReplaceText("a-b-c", "-", "+", true, true), "a+b-c");
+}
+
+TEST(ReplaceTextTest, IgnoresCaseOnlyWhenAskedTo) {
+  EXPECT_EQ(ReplaceText("abAB", "AB", "x", false, true), "abx");
+  EXPECT_EQ(ReplaceText("abAB", "aB", "x", false, false), "xx");
+  EXPECT_EQ(ReplaceText("ПриветПРИВЕТ", "привет", "x", false, false), "xx");
+}
+
+TEST(ReplaceTextTest, KeepsTheCaseOfWhatIsNotReplaced) {
+  EXPECT_EQ(ReplaceText("Straße ONE", "one", "two", false, false), "Straße two");
+  EXPECT_EQ(ReplaceText("ÿÿb", "B", "c", false, false), "ÿÿc");
+}
+
+TEST(ReplaceTextTest, FindsNothingForAnEmptyOrLongerSought) {
+  EXPECT_EQ(ReplaceText("abc", "", "x", false, true), "abc");
+  EXPECT_EQ(ReplaceText("ab", "abc", "x", false, true), "ab");
+  EXPECT_EQ(ReplaceText("", "a", "x", false, true), "");
+}
+
+TEST(ReplaceTextTest, RemovesWithAnEmptyReplacementAndDoesNotOverlap) {
+  EXPECT_EQ(ReplaceText("aaaaa", "aa", "", false, true), "a");
+}
+
+TEST(ReplaceTextTest, NeverMatchesInsideACharacter) {
+  EXPECT_EQ(ReplaceText("é", "\xA9", "x", false, true), "é");
+}
+
+TEST(ReverseFindTest, CountsOneMoreThanTheCharactersBehindTheLastOccurrence) {
+  EXPECT_EQ(ReverseFind("a - b - c", " - ", 1, true), 2);
+  EXPECT_EQ(ReverseFind("a - ", " - ", 1, true), 1);
+  EXPECT_EQ(ReverseFind(" - abc", " - ", 1, true), 4);
+  EXPECT_EQ(ReverseFind("Блокнот - メモ帳", " - ", 1, true), 4);
+}
+
+TEST(ReverseFindTest, IsZeroWhenNothingMatches) {
+  EXPECT_EQ(ReverseFind("abc", " - ", 1, true), 0);
+  EXPECT_EQ(ReverseFind("", " - ", 1, true), 0);
+  EXPECT_EQ(ReverseFind("ab", "abc", 1, true), 0);
+}
+
+TEST(ReverseFindTest, LeavesOutCharactersAtTheEndForALaterStart) {
+  EXPECT_EQ(ReverseFind("a\\b\\c", "\\", 1, true), 2);
+  EXPECT_EQ(ReverseFind("a\\b\\c", "\\", 2, true), 2);
+  EXPECT_EQ(ReverseFind("a\\b\\c", "\\", 3, true), 4);
+  EXPECT_EQ(ReverseFind("a\\b\\c", "\\", 5, true), 0);
+  EXPECT_EQ(ReverseFind("a\\b\\c", "\\", 9, true), 0);
+}
+
+TEST(ReverseFindTest, MatchesNothingPastTheEndForAStartBelowOne) {
+  EXPECT_EQ(ReverseFind("ab", "b", 0, true), 1);
+  EXPECT_EQ(ReverseFind("ab", "b", -5, true), 1);
+}
+
+TEST(ReverseFindTest, FindsAnEmptyTextBehindTheLastCharacter) {
+  EXPECT_EQ(ReverseFind("abc", "", 1, true), 1);
+  EXPECT_EQ(ReverseFind("", "", 1, true), 1);
+  EXPECT_EQ(ReverseFind("abc", "", 2, true), 2);
+}
+
+TEST(ReverseFindTest, UpperCasesBothWhenCaseDoesNotMatter) {
+  EXPECT_EQ(ReverseFind("xABy", "ab", 1, true), 0);
+  EXPECT_EQ(ReverseFind("xABy", "ab", 1, false), 2);
+  EXPECT_EQ(ReverseFind("Окно", "ОК", 1, false), 3);
+}
+
+TEST(ReverseFindTest, OverflowsWhenThePositionNeedsMoreThanSixteenBits) {
+  EXPECT_EQ(ReverseFind("|" + std::string(32766, 'a'), "|", 1, true), 32767);
+  EXPECT_EQ(ReverseFind(std::string(40000, 'a') + "|", "|", 1, true), 1);
+  EXPECT_THROW(ReverseFind("|" + std::string(32767, 'a'), "|", 1, true), RunTimeError);
+}
+
+TEST(DecimalTextTest, WritesSignAndDigits) {
+  EXPECT_EQ(DecimalText(0), "0");
+  EXPECT_EQ(DecimalText(-2147483647 - 1), "-2147483648");
+}
+
+TEST(ParseInt32Test, ReadsDecimalNumbers) {
+  EXPECT_EQ(ParseInt32("0"), 0);
+  EXPECT_EQ(ParseInt32(" 8454143 "), 8454143);
+  EXPECT_EQ(ParseInt32("-2147483648"), -2147483647 - 1);
+  EXPECT_EQ(ParseInt32("+7"), 7);
+}
+
+TEST(ParseInt32Test, RefusesEverythingElse) {
+  for (const char* text :
+       {"", " ", "x", "1x", "1 2", "+-1", "+", "-", "2147483648", "1.5", "&H1"}) {
+    EXPECT_EQ(ParseInt32(text), std::nullopt) << text;
+  }
+}
+
+TEST(ParseInt16Test, RefusesWhatNeedsMoreThanSixteenBits) {
+  EXPECT_EQ(ParseInt16("32767"), std::int16_t{32767});
+  EXPECT_EQ(ParseInt16("-32768"), std::int16_t{-32768});
+  EXPECT_EQ(ParseInt16("32768"), std::nullopt);
+}
+
+TEST(ParseBooleanTest, ReadsBothWordsInAnyCase) {
+  EXPECT_EQ(ParseBoolean("True"), true);
+  EXPECT_EQ(ParseBoolean("fALSE"), false);
+  EXPECT_EQ(ParseBoolean(" TRUE "), true);
+}
+
+TEST(ParseBooleanTest, RefusesEverythingElse) {
+  EXPECT_EQ(ParseBoolean(""), std::nullopt);
+  EXPECT_EQ(ParseBoolean("1"), std::nullopt);
+  EXPECT_EQ(ParseBoolean("Yes"), std::nullopt);
+}
+
+}  // namespace
+}  // namespace korvale

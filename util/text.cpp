@@ -1,0 +1,168 @@
+#include "util/text.h"
+
+#include <charconv>
+#include <cstddef>
+#include <system_error>
+#include <vector>
+
+#include "platform/run_time_error.h"
+#include "util/characters.h"
+
+namespace korvale {
+namespace {
+
+void RequireCall(bool valid) {
+  if (!valid) throw RunTimeError(RunTimeError::kInvalidCall);
+}
+
+/// Bytes of the first `count` characters.
+std::size_t PrefixSize(std::string_view text, std::int32_t count) {
+  std::size_t size = 0;
+  for (; count > 0 && size < text.size(); --count) {
+    size += FirstCharacter(text.substr(size)).bytes.size();
+  }
+  return size;
+}
+
+std::string Repeated(char character, std::int32_t count) {
+  return std::string(static_cast<std::size_t>(count), character);
+}
+
+/// True when the characters from `position` on begin with all of `sought`.
+bool OccursAt(const std::vector<std::string_view>& text, std::size_t position,
+              const std::vector<std::string_view>& sought) {
+  if (position > text.size() || text.size() - position < sought.size()) return false;
+  for (std::size_t i = 0; i < sought.size(); ++i) {
+    if (text[position + i] != sought[i]) return false;
+  }
+  return true;
+}
+
+template <typename Integer>
+std::optional<Integer> ParseInteger(std::string_view text) {
+  const std::string trimmed = Trim(text);
+  std::string_view digits = trimmed;
+  if (digits.starts_with('+')) {
+    digits.remove_prefix(1);
+    if (digits.starts_with('-')) return std::nullopt;
+  }
+  Integer value = 0;
+  const char* const end = digits.data() + digits.size();
+  const auto [stopped, error] = std::from_chars(digits.data(), end, value);
+  if (error != std::errc() || stopped != end) return std::nullopt;
+  return value;
+}
+
+}  // namespace
+
+std::int32_t CharacterCount(std::string_view text) {
+  std::int32_t count = 0;
+  for (; !text.empty(); ++count) text.remove_prefix(FirstCharacter(text).bytes.size());
+  return count;
+}
+
+std::string LeftCharacters(std::string_view text, std::int32_t count) {
+  RequireCall(count >= 0);
+  return std::string(text.substr(0, PrefixSize(text, count)));
+}
+
+std::string MidCharacters(std::string_view text, std::int32_t from) {
+  RequireCall(from >= 1);
+  return std::string(text.substr(PrefixSize(text, from - 1)));
+}
+
+std::string RightCharacters(std::string_view text, std::int32_t count) {
+  RequireCall(count >= 0);
+  return std::string(text.substr(PrefixSize(text, CharacterCount(text) - count)));
+}
+
+std::string Trim(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return "";
+  return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
+}
+
+std::string UpperCase(std::string_view text) {
+  std::string result;
+  result.reserve(text.size());
+  while (!text.empty()) {
+    const Character character = FirstCharacter(text);
+    if (character.valid) {
+      result += EncodeUtf8(UpperCase(character.codePoint));
+    } else {
+      result += character.bytes;
+    }
+    text.remove_prefix(character.bytes.size());
+  }
+  return result;
+}
+
+bool EqualsIgnoreCase(std::string_view left, std::string_view right) {
+  return UpperCase(left) == UpperCase(right);
+}
+
+std::string PadText(std::string_view text, std::int16_t width, std::string_view mode) {
+  const std::int32_t missing = width - CharacterCount(text);
+  std::string result(text);
+  if (missing <= 0) return result;
+  if (mode == "LEFT_SPACES") return Repeated(' ', missing) + result;
+  if (mode == "RIGHT_SPACES") return result + Repeated(' ', missing);
+  if (mode == "LEFT_ZEROES") return Repeated('0', missing) + result;
+  return result;
+}
+
+std::string ReplaceText(std::string_view text, std::string_view sought,
+                        std::string_view replacement, bool firstOnly, bool caseSensitive) {
+  if (sought.empty()) return std::string(text);
+  const std::string searched = caseSensitive ? std::string(text) : UpperCase(text);
+  const std::string wanted = caseSensitive ? std::string(sought) : UpperCase(sought);
+  const auto original = SplitCharacters(text);
+  const auto searchedCharacters = SplitCharacters(searched);
+  const auto wantedCharacters = SplitCharacters(wanted);
+  std::string result;
+  bool done = false;
+  for (std::size_t i = 0; i < original.size();) {
+    if (!done && OccursAt(searchedCharacters, i, wantedCharacters)) {
+      result += replacement;
+      i += wantedCharacters.size();
+      done = firstOnly;
+    } else {
+      result += original[i++];
+    }
+  }
+  return result;
+}
+
+std::int16_t ReverseFind(std::string_view text, std::string_view sought, std::int16_t start,
+                         bool caseSensitive) {
+  if (!caseSensitive) return ReverseFind(UpperCase(text), UpperCase(sought), start, true);
+  const auto textCharacters = SplitCharacters(text);
+  const auto soughtCharacters = SplitCharacters(sought);
+  const auto length = static_cast<std::int32_t>(textCharacters.size());
+  const auto soughtLength = static_cast<std::int32_t>(soughtCharacters.size());
+  for (std::int32_t i = length - (soughtLength - 1) - (start - 1); i >= 1; --i) {
+    if (OccursAt(textCharacters, static_cast<std::size_t>(i - 1), soughtCharacters)) {
+      return ToInt16(length - i - soughtLength + 2);
+    }
+  }
+  return 0;
+}
+
+std::string DecimalText(std::int32_t value) { return std::to_string(value); }
+
+std::optional<std::int32_t> ParseInt32(std::string_view text) {
+  return ParseInteger<std::int32_t>(text);
+}
+
+std::optional<std::int16_t> ParseInt16(std::string_view text) {
+  return ParseInteger<std::int16_t>(text);
+}
+
+std::optional<bool> ParseBoolean(std::string_view text) {
+  const std::string word = Trim(text);
+  if (EqualsIgnoreCase(word, "True")) return true;
+  if (EqualsIgnoreCase(word, "False")) return false;
+  return std::nullopt;
+}
+
+}  // namespace korvale
