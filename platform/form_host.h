@@ -53,6 +53,9 @@ class FormEvents {
   /// has been dealt with and the control shall not see it.
   virtual bool OnKeyDown(int control, int virtualKey, unsigned shift) = 0;
   virtual bool OnKeyUp(int control, int virtualKey, unsigned shift) = 0;
+  /// A character came from the keyboard (WM_CHAR, WM_SYSCHAR) out of a key that OnKeyDown did not
+  /// deal with, before the control sees it; true when the control shall not see it.
+  virtual bool OnCharacter(int control, char32_t character, unsigned shift) = 0;
   virtual void OnMouse(int control, const MouseInput& input) = 0;
   virtual void OnFocusMoved(int control) = 0;
   /// A menu of the bar, or the pop-up, is about to be shown; it is shown as the model then stands.

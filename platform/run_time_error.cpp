@@ -1,0 +1,67 @@
+#include "platform/run_time_error.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+namespace korvale {
+namespace {
+
+struct Description {
+  std::int16_t number;
+  std::string_view text;
+};
+
+constexpr std::array kDescriptions = {
+    Description{RunTimeError::kInvalidCall, "Invalid procedure call or argument"},
+    Description{RunTimeError::kOverflow, "Overflow"},
+    Description{RunTimeError::kOutOfMemory, "Out of memory"},
+    Description{RunTimeError::kSubscriptOutOfRange, "Subscript out of range"},
+    Description{RunTimeError::kDivisionByZero, "Division by zero"},
+    Description{RunTimeError::kTypeMismatch, "Type mismatch"},
+    Description{RunTimeError::kInternalError, "Internal error"},
+    Description{RunTimeError::kBadFileName, "Bad file name or number"},
+    Description{RunTimeError::kFileNotFound, "File not found"},
+    Description{RunTimeError::kFileAlreadyOpen, "File already open"},
+    Description{RunTimeError::kDeviceInputOutput, "Device I/O error"},
+    Description{RunTimeError::kDiskFull, "Disk full"},
+    Description{RunTimeError::kPermissionDenied, "Permission denied"},
+    Description{RunTimeError::kDiskNotReady, "Disk not ready"},
+    Description{RunTimeError::kPathFileAccess, "Path/File access error"},
+    Description{RunTimeError::kPathNotFound, "Path not found"},
+    Description{RunTimeError::kObjectNotSet, "Object variable or With block variable not set"},
+    Description{RunTimeError::kNoSuchControlArrayElement,
+                "Control array element '|' doesn't exist"},
+    Description{RunTimeError::kObjectAlreadyLoaded, "Object already loaded"},
+    Description{RunTimeError::kCannotUnloadDesignControl,
+                "Can't unload controls created at design time"},
+    Description{RunTimeError::kInvalidPropertyValue, "Invalid property value"},
+};
+
+std::string DescriptionWith(std::int16_t number, std::string_view argument) {
+  std::string text = RunTimeErrorDescription(number);
+  const std::size_t mark = text.find('|');
+  if (mark != std::string::npos) text.replace(mark, 1, argument);
+  return text;
+}
+
+}  // namespace
+
+RunTimeError::RunTimeError(std::int16_t number, std::string_view argument)
+    : std::runtime_error(DescriptionWith(number, argument)), number_(number) {}
+
+std::string RunTimeErrorDescription(std::int16_t number) {
+  const auto* const found = std::ranges::find(kDescriptions, number, &Description::number);
+  if (found == kDescriptions.end()) return "Application-defined or object-defined error";
+  return std::string(found->text);
+}
+
+std::int16_t ToInt16(std::int32_t value) {
+  using Limits = std::numeric_limits<std::int16_t>;
+  if (value < Limits::min() || value > Limits::max()) throw RunTimeError(RunTimeError::kOverflow);
+  return static_cast<std::int16_t>(value);
+}
+
+std::int16_t AddInt16(std::int16_t left, std::int16_t right) { return ToInt16(left + right); }
+
+}  // namespace korvale
