@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "platform/types.h"
+
+namespace korvale {
+
+/// What hot keys make the forms do; implemented by the main form.
+class HotKeyActions {
+ public:
+  virtual ~HotKeyActions() = default;
+
+  /// True when entry `tag` of the Window menu's list exists and its caption begins with "&".
+  virtual bool HasTagCaption(std::int16_t tag) = 0;
+  virtual void mnuWindowParentList_Click(std::int16_t Index) = 0;
+  /// Brings the loaded Options dialog to the front and activates it.
+  virtual void BringOptionsToFront() = 0;
+  virtual void udmOptions(const std::string& strMode) = 0;
+  /// Pops the Window menu up at the mouse position.
+  virtual void PopUpWindowMenu() = 0;
+  virtual void SetWindowMenuTag(const std::string& tag) = 0;
+  /// Shows a tip that the user can silence; `height` in twips.
+  virtual void ShowTip(std::int32_t number, const std::string& text, const std::string& title,
+                       std::int16_t height) = 0;
+  /// Shows a text for so many milliseconds.
+  virtual void ShowWaitWindow(const std::string& caption, const std::string& text,
+                              std::uint32_t milliseconds) = 0;
+};
+
+}  // namespace korvale

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "desktop/main_window.h"
+#include "hotkeys/hot_key_table.h"
+#include "platform/hot_key_api.h"
+
+namespace korvale {
+
+/// The hook on the main window's message procedure that receives the hot keys.
+class WindowProcHook : public WindowProcedure {
+ public:
+  /// `process` is given the name of each hot key; `reportUncaught` is called inside a catch block.
+  WindowProcHook(HotKeyApi& hotKeys, const HotKeyTable& table, const MainWindow& mainWindow,
+                 std::function<void(const std::string&)> process,
+                 std::function<void()> reportUncaught);
+
+  /// "SET" installs the hot-key window procedure on the main window, "REMOVE" puts the former one
+  /// back; any other mode does nothing.
+  void HookWindowProc(std::string_view mode, WindowHandle hWnd);
+
+  /// Hands a WM_HOTKEY of the main window to the dispatcher, then passes every message on.
+  std::intptr_t HotKeyWindowProc(WindowHandle hWnd, std::uint32_t uMsg, std::uintptr_t wParam,
+                                 std::intptr_t lParam);
+
+  std::intptr_t Call(WindowHandle hwnd, std::uint32_t message, std::uintptr_t wParam,
+                     std::intptr_t lParam) override;
+  void OnUncaught() noexcept override;
+
+ private:
+  HotKeyApi* hotKeys_;
+  const HotKeyTable* table_;
+  const MainWindow* mainWindow_;
+  std::function<void(const std::string&)> process_;
+  std::function<void()> reportUncaught_;
+  PreviousProcedure prevWindowProc_ = 0;
+};
+
+}  // namespace korvale
