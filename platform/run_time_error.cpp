@@ -1,7 +1,7 @@
 #include "platform/run_time_error.h"
 
-#include <algorithm>
 #include <array>
+#include <cstddef>
 #include <limits>
 
 namespace korvale {
@@ -51,9 +51,10 @@ RunTimeError::RunTimeError(std::int16_t number, std::string_view argument)
     : std::runtime_error(DescriptionWith(number, argument)), number_(number) {}
 
 std::string RunTimeErrorDescription(std::int16_t number) {
-  const auto* const found = std::ranges::find(kDescriptions, number, &Description::number);
-  if (found == kDescriptions.end()) return "Application-defined or object-defined error";
-  return std::string(found->text);
+  for (const Description& description : kDescriptions) {
+    if (description.number == number) return std::string(description.text);
+  }
+  return "Application-defined or object-defined error";
 }
 
 std::int16_t ToInt16(std::int32_t value) {
