@@ -1,0 +1,39 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "app/core/identity.h"
+#include "app/core/message_boxes.h"
+#include "app/core/settings.h"
+#include "platform/system_api.h"
+
+namespace korvale {
+
+/// Application name of the register of all installations: section "0", settings application name ->
+/// folder.
+inline constexpr const char* kInstallationRegister = "Korvale Installations";
+
+/// What the main form does while settings of another installation are taken over.
+struct InstallationImport {
+  std::function<void()> udmLoadOptions;
+  std::function<void()> loadStartupSettings;
+  std::function<void()> udmSaveOptions;
+  std::function<void()> udmSaveINI;
+};
+
+struct InstallationResult {
+  /// The folder name belongs to another living installation; the program must end.
+  bool mustEnd = false;
+  /// Nothing was stored under this installation's name.
+  bool firstRun = false;
+  /// Result of the question about taking settings over, 0 when it was not asked.
+  std::int16_t lastAnswer = 0;
+};
+
+/// The rule that gives each installation folder its own settings; runs once before loading.
+InstallationResult RunInstallationRule(const ProgramIdentity& identity, Settings& settings,
+                                       SystemApi& system, MessageBoxes& messages,
+                                       const InstallationImport& import);
+
+}  // namespace korvale

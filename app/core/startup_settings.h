@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "platform/types.h"
+
+namespace korvale {
+
+inline constexpr Color kDefaultTargetColor = 0x009FFFFF;
+inline constexpr Color kDefaultClassColor = 0x00AEFFAE;
+inline constexpr Color kDefaultLastColor = 0x00FFFFFF;
+
+/// The main window's state as it is kept between runs. Lengths in twips.
+struct StartupSettings {
+  std::int32_t WindowState = 0;  ///< 0 normal, 1 minimized, 2 maximized.
+  std::int16_t Left = -1;        ///< -1 = never stored.
+  std::int16_t Top = -1;         ///< -1 = never stored.
+  std::int16_t Width = 4500;
+  std::int16_t Height = 1100;
+  bool AlwaysOnTop = false;
+  Color WI1BackColor = kDefaultTargetColor;  ///< Background of txtWindow.
+  Color WI2BackColor = kDefaultClassColor;   ///< Background of txtWindowClass.
+  std::string Tips;                          ///< One flag a tip: '1' shown, '0' silenced.
+  bool DisplayTips = true;
+  Color LastColorSelected = kDefaultLastColor;
+  bool Menu = true;
+  std::int16_t OptionsTab = 1;
+  bool WindowInfo = true;
+
+  friend bool operator==(const StartupSettings&, const StartupSettings&) = default;
+};
+
+}  // namespace korvale
