@@ -1,0 +1,54 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "forms/form.h"
+#include "forms/form_collection.h"
+#include "hotkeys/suspension.h"
+#include "platform/window_api.h"
+
+namespace korvale {
+
+/// Where a form shall come up, in twips of the screen; -1 = no wish.
+struct PlaceHints {
+  Twips left = -1;
+  Twips top = -1;
+};
+
+/// How a form is placed and shown; 0 switches a rule off.
+struct DisplaySwitches {
+  std::int16_t centerOnOwner = 1;   ///< Otherwise, or without owner, centred on the work area.
+  std::int16_t keepInWorkArea = 1;  ///< Moved inside the work area of its monitor.
+  std::int16_t followTopmost = 1;   ///< Topmost while the main window is always on top.
+  std::int16_t takeForeground = 1;  ///< Made the foreground window.
+};
+
+/// Places and shows the forms of the program.
+class FormDisplay {
+ public:
+  /// `alwaysOnTop` is the live state of the main window.
+  FormDisplay(FormCollection& forms, WindowQueries& windows, WindowCommands& commands,
+              Suspension& suspension, const bool& alwaysOnTop);
+
+  /// Shows the form above its owner until it closes, and returns its result string (its tag then).
+  /// Hot keys are suspended meanwhile. `milliseconds` is how long the form may take to become the
+  /// foreground window before it is left where Windows put it.
+  std::string ShowFormModal(Form& form, const DisplaySwitches& switches, std::int32_t milliseconds,
+                            const PlaceHints& hints, Form* owner);
+
+  /// Places a loaded form and brings it to the front.
+  void ShowFormNonModal(Form& form, const DisplaySwitches& switches, Form* owner);
+
+ private:
+  void PlaceForm(Form& form, const DisplaySwitches& switches, const PlaceHints& hints, Form* owner);
+  void BringToFront(Form& form, const DisplaySwitches& switches);
+
+  FormCollection* forms_;
+  WindowQueries* windows_;
+  WindowCommands* commands_;
+  Suspension* suspension_;
+  const bool* alwaysOnTop_;
+};
+
+}  // namespace korvale

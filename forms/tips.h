@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "forms/form_display.h"
+#include "forms/msg_tip_form.h"
+
+namespace korvale {
+
+/// Every tip has its own fixed number, the position of its flag in the record of silenced tips.
+enum class TipNumber : std::int32_t {
+  kCustomizeColors = 1,
+  kOtherInstance = 10,
+  kHotKeysDeactivated = 14,
+  kCommandLine = 17,
+};
+
+/// Shows tips that the user can silence one by one or all together.
+class Tips {
+ public:
+  /// `displayTips` and `hiddenTips` are the live settings DisplayTips and Tips.
+  Tips(frmMsgTip& form, FormDisplay& display, const bool& displayTips, std::string& hiddenTips,
+       std::string applicationTitle);
+
+  /// Shows a tip unless it is silenced. `title` "NO_TITLE" = no caption, "" = the application
+  /// title, anything else stands before it. `height` in twips, at least 2400.
+  void ShowTip(TipNumber number, const std::string& text, const std::string& title,
+               std::int16_t height, const PlaceHints& hints, Form* owner);
+
+ private:
+  std::string WindowTitle(const std::string& title) const;
+
+  frmMsgTip* form_;
+  FormDisplay* display_;
+  const bool* displayTips_;
+  std::string* hiddenTips_;
+  std::string applicationTitle_;
+};
+
+}  // namespace korvale
