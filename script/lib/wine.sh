@@ -1,0 +1,107 @@
+# Wine on a screen of its own. Source it, call wine_begin once, then wine_suite for each suite.
+# Everything that was started ends with the script that sources this file.
+
+WINE_LOADER=${WINE_LOADER:-/usr/lib/wine/wine64}
+WINE_SERVER=${WINE_SERVER:-/usr/lib/wine/wineserver64}
+WINE_SCREEN=${WINE_SCREEN:-1280x1024}
+
+# Starts a virtual display, unless KORVALE_DISPLAY names one, and leaves its name in DISPLAY.
+wine_display() {
+  if [ -n "${KORVALE_DISPLAY:-}" ]; then
+    export DISPLAY=$KORVALE_DISPLAY
+    return
+  fi
+  # Xvfb chooses a free number itself and writes it to the descriptor when it is ready.
+  Xvfb -displayfd 5 -screen 0 "${WINE_SCREEN}x24" -nolisten tcp \
+    5>"$WINE_WORK/display" >/dev/null 2>&1 &
+  WINE_XVFB=$!
+  local tries=0
+  until [ -s "$WINE_WORK/display" ]; do
+    tries=$((tries + 1))
+    if [ $tries -gt 200 ] || ! kill -0 "$WINE_XVFB" 2>/dev/null; then
+      echo "no virtual display" >&2
+      return 1
+    fi
+    sleep 0.05
+  done
+  DISPLAY=:$(tr -d '[:space:]' <"$WINE_WORK/display")
+  export DISPLAY
+}
+
+# The prefix that every suite starts from. Making one takes long, so it is kept between runs.
+wine_template() {
+  local wine_version
+  wine_version=$("$WINE_LOADER" --version | tr -c 'A-Za-z0-9.\n' '_')
+  WINE_TEMPLATE=${KORVALE_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/korvale}/prefix-2-$wine_version
+  if [ -f "$WINE_TEMPLATE.done" ]; then return; fi
+  rm -rf "$WINE_TEMPLATE"
+  mkdir -p "$(dirname "$WINE_TEMPLATE")"
+  export WINEPREFIX=$WINE_TEMPLATE
+  "$WINE_LOADER" wineboot -i >/dev/null 2>&1
+  # Without a window manager only Wine's own desktop window knows who is in front.
+  "$WINE_LOADER" reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d Default /f >/dev/null
+  "$WINE_LOADER" reg add 'HKCU\Software\Wine\Explorer\Desktops' /v Default /d "$WINE_SCREEN" /f \
+    >/dev/null
+  "$WINE_SERVER" -w
+  touch "$WINE_TEMPLATE.done"
+}
+
+# Prepares everything that the suites share; ends it all when the script ends.
+wine_begin() {
+  WINE_WORK=$(mktemp -d "${TMPDIR:-/tmp}/korvale-wine.XXXXXX")
+  WINE_PREFIXES=()
+  trap wine_end EXIT
+  trap 'exit 130' INT
+  trap 'exit 143' TERM
+  export WINEDEBUG=${WINEDEBUG:--all} WINEDLLOVERRIDES='mscoree,mshtml='
+  export WINESERVER=$WINE_SERVER WINELOADER=$WINE_LOADER
+  wine_display
+  wine_template
+}
+
+# A fresh prefix for the suite that follows.
+wine_suite() {
+  export WINEPREFIX=$WINE_WORK/prefix-${#WINE_PREFIXES[@]}
+  WINE_PREFIXES+=("$WINEPREFIX")
+  # Wine replaces its registry files as a whole, and nobody writes into its programs.
+  cp -al "$WINE_TEMPLATE" "$WINEPREFIX" 2>/dev/null || cp -a "$WINE_TEMPLATE" "$WINEPREFIX"
+}
+
+wine_run() { "$WINE_LOADER" "$@"; }
+
+# The same path as Windows programs write it.
+wine_path() { printf 'Z:%s' "$(realpath "$1" | tr / '\\')"; }
+
+# Takes the pictures that the programs under test ask for, until the script ends.
+wine_pictures() {
+  local folder=$1
+  mkdir -p "$folder"
+  rm -f "$folder"/*.request
+  KORVALE_PICTURES=$(wine_path "$folder")
+  export KORVALE_PICTURES
+  (
+    trap - EXIT INT TERM
+    while sleep 0.05; do
+      for request in "$folder"/*.request; do
+        [ -e "$request" ] || continue
+        import -window root "${request%.request}.png" 2>/dev/null
+        rm -f "$request"
+      done
+    done
+  ) &
+  WINE_PHOTOGRAPHER=$!
+}
+
+wine_end() {
+  local status=$?
+  trap - EXIT
+  [ -z "${WINE_PHOTOGRAPHER:-}" ] || kill "$WINE_PHOTOGRAPHER" 2>/dev/null || true
+  local prefix
+  for prefix in "${WINE_PREFIXES[@]}"; do
+    WINEPREFIX=$prefix "$WINE_SERVER" -k 2>/dev/null || true
+    WINEPREFIX=$prefix "$WINE_SERVER" -w 2>/dev/null || true
+  done
+  [ -z "${WINE_XVFB:-}" ] || kill "$WINE_XVFB" 2>/dev/null || true
+  rm -rf "$WINE_WORK"
+  exit "$status"
+}

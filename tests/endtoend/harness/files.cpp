@@ -1,0 +1,62 @@
+#include "tests/endtoend/harness/files.h"
+
+#include <windows.h>
+
+#include <filesystem>
+#include <fstream>
+#include <system_error>
+
+#include "tests/endtoend/harness/text.h"
+#include "tests/endtoend/harness/wait.h"
+
+namespace korvale::endtoend {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string Environment(const wchar_t* name) {
+  std::wstring buffer(1024, L'\0');
+  buffer.resize(GetEnvironmentVariableW(name, buffer.data(), static_cast<DWORD>(buffer.size())));
+  return Utf8(buffer);
+}
+
+}  // namespace
+
+std::string OwnFolder() {
+  std::wstring buffer(1024, L'\0');
+  buffer.resize(GetModuleFileNameW(nullptr, buffer.data(), static_cast<DWORD>(buffer.size())));
+  return Utf8(buffer.substr(0, buffer.rfind(L'\\') + 1));
+}
+
+std::string Quoted(const std::string& path) { return std::string(1, '"').append(path) + '"'; }
+
+std::string KorvaleProgram() {
+  const std::string chosen = Environment(L"KORVALE_EXE");
+  return chosen.empty() ? OwnFolder() + "Korvale.exe" : chosen;
+}
+
+TemporaryFolder::TemporaryFolder() {
+  static int count = 0;
+  path_ = Utf8((fs::temp_directory_path() / "korvale").wstring()) + "-" +
+          std::to_string(GetCurrentProcessId()) + "-" + std::to_string(++count) + "\\";
+  fs::create_directories(fs::path(Wide(path_)));
+}
+
+TemporaryFolder::~TemporaryFolder() {
+  // A program that was ended a moment ago may still hold its file.
+  WaitFor([this] {
+    std::error_code error;
+    fs::remove_all(fs::path(Wide(path_)), error);
+    return !error;
+  });
+}
+
+bool TakePicture(const std::string& name) {
+  const std::string folder = Environment(L"KORVALE_PICTURES");
+  if (folder.empty()) return false;
+  const fs::path request(Wide(folder + "\\" + name + ".request"));
+  std::ofstream(request) << name;
+  return WaitFor([&] { return !fs::exists(request); }, std::chrono::seconds(20));
+}
+
+}  // namespace korvale::endtoend

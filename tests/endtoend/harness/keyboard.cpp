@@ -1,0 +1,103 @@
+#include "tests/endtoend/harness/keyboard.h"
+
+#include <algorithm>
+
+#include "tests/endtoend/harness/text.h"
+
+namespace korvale::endtoend {
+namespace {
+
+constexpr int kProbeId = 0x77;
+
+bool IsExtended(WORD key) {
+  constexpr WORD kExtended[] = {VK_DOWN, VK_UP, VK_LEFT, VK_RIGHT, VK_HOME, VK_END, VK_LWIN};
+  return std::find(std::begin(kExtended), std::end(kExtended), key) != std::end(kExtended);
+}
+
+INPUT KeyInput(WORD key, bool up) {
+  INPUT input{};
+  input.type = INPUT_KEYBOARD;
+  input.ki.wVk = key;
+  input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
+  input.ki.dwFlags = (up ? KEYEVENTF_KEYUP : 0U) | (IsExtended(key) ? KEYEVENTF_EXTENDEDKEY : 0U);
+  return input;
+}
+
+void Send(std::vector<INPUT> inputs) {
+  SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+}
+
+std::vector<WORD> KeysOf(Chord chord) {
+  std::vector<WORD> keys;
+  if ((chord.modifiers & MOD_CONTROL) != 0) keys.push_back(VK_CONTROL);
+  if ((chord.modifiers & MOD_SHIFT) != 0) keys.push_back(VK_SHIFT);
+  if ((chord.modifiers & MOD_ALT) != 0) keys.push_back(VK_MENU);
+  if ((chord.modifiers & MOD_WIN) != 0) keys.push_back(VK_LWIN);
+  keys.push_back(static_cast<WORD>(chord.key));
+  return keys;
+}
+
+// SendInput counts positions in 65536ths of the screen.
+LONG Absolute(int pixel, int metric) { return MulDiv(pixel, 65536, GetSystemMetrics(metric)) + 1; }
+
+}  // namespace
+
+std::vector<Chord> AllHotKeys() {
+  std::vector<Chord> chords;
+  for (int tag = 0; tag <= 9; ++tag) chords.push_back(TagKey(tag));
+  chords.insert(chords.end(), {kMinimizeKey, kMaximizeKey, kOptionsKey, kMenuKey, kToggleKey});
+  return chords;
+}
+
+HeldKeys::HeldKeys(Chord chord) : keys_(KeysOf(chord)) {
+  std::vector<INPUT> inputs;
+  for (const WORD key : keys_) inputs.push_back(KeyInput(key, false));
+  Send(inputs);
+}
+
+HeldKeys::~HeldKeys() {
+  std::vector<INPUT> inputs;
+  for (auto key = keys_.rbegin(); key != keys_.rend(); ++key) {
+    inputs.push_back(KeyInput(*key, true));
+  }
+  Send(inputs);
+}
+
+void Press(Chord chord) { const HeldKeys held(chord); }
+
+void Type(const std::string& text) {
+  std::vector<INPUT> inputs;
+  for (const wchar_t unit : Wide(text)) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wScan = static_cast<WORD>(unit);
+    input.ki.dwFlags = KEYEVENTF_UNICODE;
+    inputs.push_back(input);
+    input.ki.dwFlags |= KEYEVENTF_KEYUP;
+    inputs.push_back(input);
+  }
+  Send(inputs);
+}
+
+void Click(Window window) {
+  RECT area{};
+  GetWindowRect(window.handle(), &area);
+  INPUT move{};
+  move.type = INPUT_MOUSE;
+  move.mi.dx = Absolute((area.left + area.right) / 2, SM_CXSCREEN);
+  move.mi.dy = Absolute((area.top + area.bottom) / 2, SM_CYSCREEN);
+  move.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
+  INPUT down = move;
+  down.mi.dwFlags |= MOUSEEVENTF_LEFTDOWN;
+  INPUT up = move;
+  up.mi.dwFlags |= MOUSEEVENTF_LEFTUP;
+  Send({move, down, up});
+}
+
+bool HotKeyIsFree(Chord chord) {
+  if (RegisterHotKey(nullptr, kProbeId, chord.modifiers, chord.key) == 0) return false;
+  UnregisterHotKey(nullptr, kProbeId);
+  return true;
+}
+
+}  // namespace korvale::endtoend

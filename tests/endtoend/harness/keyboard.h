@@ -1,0 +1,54 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+#include "tests/endtoend/harness/window.h"
+
+namespace korvale::endtoend {
+
+/// Modifier bits as RegisterHotKey takes them: MOD_ALT, MOD_CONTROL, MOD_SHIFT, MOD_WIN.
+struct Chord {
+  UINT modifiers = 0;
+  UINT key = 0;
+};
+
+inline constexpr Chord kMinimizeKey{MOD_ALT, VK_DOWN};
+inline constexpr Chord kMaximizeKey{MOD_ALT, VK_UP};
+inline constexpr Chord kOptionsKey{MOD_WIN, 'O'};
+inline constexpr Chord kMenuKey{MOD_WIN, 'W'};
+inline constexpr Chord kToggleKey{0, VK_PAUSE};
+
+/// The hot key of Tag `tag`, 0 to 9, as it is out of the box.
+constexpr Chord TagKey(int tag) { return {MOD_ALT, static_cast<UINT>('0' + tag)}; }
+
+/// Every hot key that is registered out of the box.
+std::vector<Chord> AllHotKeys();
+
+/// Keys held down, released in reverse when the owner lets go.
+class HeldKeys {
+ public:
+  explicit HeldKeys(Chord chord);
+  HeldKeys(const HeldKeys&) = delete;
+  HeldKeys& operator=(const HeldKeys&) = delete;
+  ~HeldKeys();
+
+ private:
+  std::vector<WORD> keys_;
+};
+
+/// Presses and releases a chord through SendInput: it reaches whatever is in front.
+void Press(Chord chord);
+
+/// Types text into whatever has the focus.
+void Type(const std::string& text);
+
+/// Clicks the left mouse button on the middle of a window or control.
+void Click(Window window);
+
+/// True when this process could take the hot key, that is, nobody else has it.
+bool HotKeyIsFree(Chord chord);
+
+}  // namespace korvale::endtoend

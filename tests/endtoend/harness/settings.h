@@ -1,0 +1,27 @@
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+
+namespace korvale::endtoend {
+
+/// The stored settings of one application name, read and written as the registry holds them:
+/// HKCU\Software\VB and VBA Program Settings\<application>\<section>, value <key>, text.
+class StoredSettings {
+ public:
+  explicit StoredSettings(std::string application) : application_(std::move(application)) {}
+
+  std::optional<std::string> Get(const std::string& section, const std::string& key) const;
+  std::map<std::string, std::string> Section(const std::string& section) const;
+  void Set(const std::string& section, const std::string& key, const std::string& value) const;
+  void DeleteValue(const std::string& section, const std::string& key) const;
+  void DeleteAll() const;
+
+ private:
+  std::wstring Path(const std::string& section) const;
+
+  std::string application_;
+};
+
+}  // namespace korvale::endtoend

@@ -1,0 +1,125 @@
+#include "tests/endtoend/harness/window.h"
+
+#include <strings.h>
+
+#include <algorithm>
+
+#include "tests/endtoend/harness/text.h"
+#include "tests/endtoend/harness/wait.h"
+
+namespace korvale::endtoend {
+namespace {
+
+constexpr UINT kAnswerMs = 1000;
+
+BOOL CALLBACK Collect(HWND handle, LPARAM windows) {
+  reinterpret_cast<std::vector<Window>*>(windows)->emplace_back(handle);
+  return TRUE;
+}
+
+// Windows lets a process take the foreground only after it made or received input.
+void EarnForeground() {
+  INPUT input{};
+  input.type = INPUT_MOUSE;
+  input.mi.dwFlags = MOUSEEVENTF_MOVE;
+  SendInput(1, &input, sizeof(input));
+}
+
+}  // namespace
+
+std::string Window::Title() const {
+  std::wstring buffer(2048, L'\0');
+  const int length = InternalGetWindowText(handle_, buffer.data(), static_cast<int>(buffer.size()));
+  buffer.resize(static_cast<size_t>(length));
+  return Utf8(buffer);
+}
+
+std::string Window::ClassName() const {
+  std::wstring buffer(256, L'\0');
+  const int length = GetClassNameW(handle_, buffer.data(), static_cast<int>(buffer.size()));
+  buffer.resize(static_cast<size_t>(length));
+  return Utf8(buffer);
+}
+
+std::string Window::Text() const {
+  std::wstring buffer(4096, L'\0');
+  const LRESULT length = Send(WM_GETTEXT, buffer.size(), reinterpret_cast<LPARAM>(buffer.data()));
+  buffer.resize(static_cast<size_t>(length));
+  return Utf8(buffer);
+}
+
+DWORD Window::ProcessId() const {
+  DWORD process = 0;
+  GetWindowThreadProcessId(handle_, &process);
+  return process;
+}
+
+std::vector<Window> Window::Children() const {
+  std::vector<Window> children;
+  for (HWND child = GetWindow(handle_, GW_CHILD); child != nullptr;
+       child = GetWindow(child, GW_HWNDNEXT)) {
+    children.emplace_back(child);
+  }
+  return children;
+}
+
+std::vector<Window> Window::Controls(const std::string& class_name) const {
+  std::vector<Window> controls = Children();
+  std::erase_if(controls, [&](Window child) {
+    return (child.Style() & WS_VISIBLE) == 0 ||
+           strcasecmp(child.ClassName().c_str(), class_name.c_str()) != 0;
+  });
+  return controls;
+}
+
+bool Window::Responds() const {
+  DWORD_PTR result = 0;
+  return SendMessageTimeoutW(handle_, WM_NULL, 0, 0, SMTO_NORMAL, kAnswerMs, &result) != 0;
+}
+
+LRESULT Window::Send(UINT message, WPARAM wparam, LPARAM lparam) const {
+  DWORD_PTR result = 0;
+  if (SendMessageTimeoutW(handle_, message, wparam, lparam, SMTO_NORMAL, kAnswerMs, &result) == 0) {
+    return 0;
+  }
+  return static_cast<LRESULT>(result);
+}
+
+void Window::SetTitle(const std::string& title) const {
+  const std::wstring wide = Wide(title);
+  Send(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(wide.c_str()));
+}
+
+bool Window::Close() const {
+  PostMessageW(handle_, WM_CLOSE, 0, 0);
+  return WaitFor([this] { return !Exists(); });
+}
+
+Window Foreground() { return Window(GetForegroundWindow()); }
+
+bool BringToFront(Window window) {
+  if (Foreground() == window) return true;
+  EarnForeground();
+  SetForegroundWindow(window.handle());
+  return WaitFor([&] { return Foreground() == window; });
+}
+
+std::vector<Window> TopLevelWindows() {
+  std::vector<Window> windows;
+  EnumWindows(Collect, reinterpret_cast<LPARAM>(&windows));
+  return windows;
+}
+
+Window FindTopLevel(const std::function<bool(Window)>& test) {
+  const std::vector<Window> windows = TopLevelWindows();
+  const auto found = std::find_if(windows.begin(), windows.end(), test);
+  return found == windows.end() ? Window() : *found;
+}
+
+Window WaitForTopLevel(const std::function<bool(Window)>& test) {
+  Window found;
+  WaitFor([&] { return static_cast<bool>(found = FindTopLevel(test)); });
+  return found;
+}
+
+}  // namespace korvale::endtoend

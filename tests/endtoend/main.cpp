@@ -1,0 +1,18 @@
+#include <gtest/gtest.h>
+
+#include <iostream>
+
+#include "tests/endtoend/harness/window.h"
+
+int main(int argc, char** argv) {
+  ::testing::InitGoogleTest(&argc, argv);
+  // The tests press system-wide hot keys: a copy that somebody works with would act on them.
+  const auto running = [](korvale::endtoend::Window window) {
+    return window.ClassName() == "Korvale.frmMain";
+  };
+  if (korvale::endtoend::FindTopLevel(running)) {
+    std::cerr << "Close the running Korvale first.\n";
+    return 2;
+  }
+  return RUN_ALL_TESTS();
+}
