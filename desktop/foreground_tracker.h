@@ -29,8 +29,8 @@ class ForegroundTracker {
   /// Sets both always-on-top check marks from the windows' real state.
   void udmRefreshAlwaysOnTopMenuChecked();
 
-  /// Whether a window that passed the basic checks may become the Previous Window: the options allow
-  /// it, or else a Tag identifies it, which then takes its handle.
+  /// Whether a window that passed the basic checks may become the Previous Window: the options
+  /// allow it, or else a Tag identifies it, which then takes its handle.
   bool AcceptForeground(WindowHandle hwnd, const std::string& title);
 
   /// Makes `window` the Previous Window. The window before it, or the main window when that was the

@@ -28,6 +28,9 @@ std::string IdentificationText(const MenuItem& entry);
 /// The window handle in a Tag entry's tag; 0 when unresolved or not a number.
 WindowHandle TagHandle(const MenuItem& entry);
 
+/// The class stored for a Tag entry, whose index must be 1-9.
+std::string& TagClass(TagList& tags, const MenuItem& entry);
+
 enum class TagListMode : std::int16_t {
   kExists = 1,     ///< 1 when Tag `tagNumber` has an entry (always for 0), else -1.
   kUnresolve = 2,  ///< Sets every entry's tag to "0".

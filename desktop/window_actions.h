@@ -38,13 +38,22 @@ class WindowActions {
   /// `hotKeyName` is HOTKEY_MINIMIZE_PARENT or HOTKEY_RESTORE/MAXIMIZE_PARENT; others do nothing.
   void MinimizeOrMaximizeForeground(std::string_view hotKeyName);
 
-  /// Makes a window topmost or not, without moving it (SetWindowPos).
+  /// Minimizes every window of the desktop that can be minimized, with the timers stopped.
+  void MinimizeAll();
+  /// Restores every minimized window of the desktop, then brings the main window to the front, with
+  /// the timers stopped.
+  void RestoreAll();
+
+  /// Makes a window topmost or not, without moving it or waiting for it when it hangs
+  /// (SetWindowPos).
   void SetTopmost(WindowHandle hwnd, bool topmost);
 
   /// ShowWindow, without waiting for a window that hangs.
   bool ShowDesktopWindow(WindowHandle hwnd, int command);
 
  private:
+  ActivationResult TryActivation(WindowHandle& hwnd, std::string& text,
+                                 const std::string& className, bool act);
   bool RestoreIconicOwner(WindowHandle hwnd);
   void RefreshRecordedTitle(WindowHandle hwnd, std::string& text);
   bool BringForward(WindowHandle hwnd);

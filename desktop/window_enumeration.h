@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 #include "desktop/main_window.h"
@@ -43,9 +44,11 @@ class WindowEnumeration {
 
   SearchFields& Fields() { return fields_; }
 
-  /// Hands every top-level window, topmost first, to EnumWindowsProc.
+  /// Hands every top-level window, topmost first, to EnumWindowsProc. An enumeration inside another
+  /// one would spoil its search fields: error 5.
   void EnumWindows(std::int32_t mode);
-  /// Hands every top-level window to EnumInstanceProc with mode 4.
+  /// Hands every top-level window to EnumInstanceProc with mode 4; error 5 inside another
+  /// enumeration.
   void EnumInstances();
 
   /// Always true, so that an enumeration visits all windows. Modes 4 and 7 keep the last match in
@@ -66,7 +69,10 @@ class WindowEnumeration {
   WindowHandle FindTopWindow();
 
  private:
+  void Enumerate(const std::function<bool(WindowHandle)>& visit);
+  void HandleSelectable(WindowHandle hwnd, std::int32_t mode);
   bool CanMinimizeOrRestore(WindowHandle hwnd, bool iconic) const;
+  bool FitsTitle(WindowHandle hwnd, const std::string& text) const;
   void CountTopWindow(WindowHandle hwnd);
 
   WindowQueries* windows_;
@@ -75,6 +81,7 @@ class WindowEnumeration {
   const MainWindow* mainWindow_;
   TagListPasses* tagPasses_;
   SearchFields fields_;
+  bool enumerating_ = false;
 };
 
 }  // namespace korvale

@@ -1,0 +1,82 @@
+#include "desktop/tag_list.h"
+
+#include <cstddef>
+
+#include "desktop/title_match.h"
+#include "desktop/window_readers.h"
+#include "util/text.h"
+
+namespace korvale {
+namespace {
+
+bool IsTag(int index) { return index >= 1 && index <= kTagCount; }
+
+template <typename Visit>
+void ForEachTag(const TagList& tags, Visit visit) {
+  for (const int index : tags.mnuWindowParentList.Indexes()) {
+    if (IsTag(index)) visit(*tags.mnuWindowParentList.Find(index));
+  }
+}
+
+}  // namespace
+
+std::string IdentificationText(const MenuItem& entry) {
+  return Trim(MidCharacters(entry.caption, 3));
+}
+
+WindowHandle TagHandle(const MenuItem& entry) { return ParseInt32(entry.tag).value_or(0); }
+
+std::string& TagClass(TagList& tags, const MenuItem& entry) {
+  return tags.ParentWindowClass.at(static_cast<std::size_t>(entry.index - 1));
+}
+
+TagListPasses::TagListPasses(TagList& tags, WindowQueries& windows, SettingsStore& store)
+    : tags_(&tags), windows_(&windows), store_(&store) {}
+
+std::int16_t TagListPasses::TagListPass(TagListMode mode, std::int16_t tagNumber,
+                                        const std::string& appName, WindowHandle hwnd) {
+  switch (mode) {
+    case TagListMode::kExists:
+      if (tagNumber == 0) return 1;
+      return IsTag(tagNumber) && tags_->mnuWindowParentList.Find(tagNumber) != nullptr ? 1 : -1;
+    case TagListMode::kUnresolve:
+      ForEachTag(*tags_, [](MenuItem& entry) { entry.tag = "0"; });
+      break;
+    case TagListMode::kMatch:
+      ForEachTag(*tags_, [&](MenuItem& entry) { Match(entry, hwnd); });
+      break;
+    case TagListMode::kSave:
+      ForEachTag(*tags_, [&](const MenuItem& entry) { Save(entry, appName); });
+      break;
+    case TagListMode::kUnload:
+      ForEachTag(*tags_,
+                 [&](const MenuItem& entry) { tags_->mnuWindowParentList.Unload(entry.index); });
+      break;
+  }
+  return -1;
+}
+
+void TagListPasses::RemoveClosed() {
+  ForEachTag(*tags_, [&](const MenuItem& entry) {
+    if (!windows_->IsWindow(TagHandle(entry))) tags_->mnuWindowParentList.Unload(entry.index);
+  });
+}
+
+void TagListPasses::Match(MenuItem& entry, WindowHandle hwnd) {
+  if (TagHandle(entry) != 0) return;
+  std::string& storedClass = TagClass(*tags_, entry);
+  if (!storedClass.empty() && storedClass != GetWindowClass(*windows_, hwnd)) return;
+  if (!TitleMatches(entry.caption, GetWindowTitle(*windows_, hwnd), true)) return;
+  // Only a window with at least one child window counts.
+  if (GetRelatedWindow(*windows_, hwnd, 1) == 0) return;
+  entry.tag = DecimalText(hwnd);
+  if (storedClass.empty()) storedClass = GetWindowClass(*windows_, hwnd);
+}
+
+void TagListPasses::Save(const MenuItem& entry, const std::string& appName) {
+  const std::string key = DecimalText(entry.index);
+  store_->SaveSetting(appName, "ParentWindowList", key, entry.caption);
+  store_->SaveSetting(appName, "ParentWindowClass", key, TagClass(*tags_, entry));
+}
+
+}  // namespace korvale

@@ -1,0 +1,142 @@
+#include "desktop/window_actions.h"
+
+#include <utility>
+
+#include "desktop/show_window.h"
+#include "desktop/timer_pause.h"
+#include "desktop/title_match.h"
+#include "desktop/window_readers.h"
+#include "platform/win32_constants.h"
+
+namespace korvale {
+namespace {
+
+constexpr std::string_view kMinimizeHotKey = "HOTKEY_MINIMIZE_PARENT";
+constexpr std::string_view kRestoreMaximizeHotKey = "HOTKEY_RESTORE/MAXIMIZE_PARENT";
+
+bool CanBeSized(WindowQueries& windows, WindowHandle hwnd, std::int32_t box) {
+  return windows.IsWindowEnabled(hwnd) && !windows.IsIconic(hwnd) &&
+         (windows.GetWindowLongA(hwnd, win32::kGwlStyle) & box) != 0;
+}
+
+}  // namespace
+
+WindowActions::WindowActions(WindowQueries& windows, WindowCommands& commands,
+                             const WindowFilter& filter, WindowEnumeration& enumeration,
+                             MainWindow& mainWindow, PreviousWindow& previous,
+                             MessageBoxes& messages, std::string messageTitle)
+    : windows_(&windows),
+      commands_(&commands),
+      filter_(&filter),
+      enumeration_(&enumeration),
+      mainWindow_(&mainWindow),
+      previous_(&previous),
+      messages_(&messages),
+      messageTitle_(std::move(messageTitle)) {}
+
+ActivationResult WindowActions::ActivateWindow(WindowHandle& hwnd, std::string& text,
+                                               const std::string& className, bool reportFailure,
+                                               bool act) {
+  const ActivationResult result = TryActivation(hwnd, text, className, act);
+  if (result != kActivationDone && reportFailure) {
+    messages_->ShowMessageBox("The window operation was not successful.  Please try again.",
+                              win32::kMbSetForeground, messageTitle_);
+  }
+  return result;
+}
+
+ActivationResult WindowActions::ActivateWindow(WindowTriple& window, bool reportFailure, bool act) {
+  return ActivateWindow(window.handle, window.text, window.className, reportFailure, act);
+}
+
+ActivationResult WindowActions::TryActivation(WindowHandle& hwnd, std::string& text,
+                                              const std::string& className, bool act) {
+  if (hwnd == 0 || !windows_->IsWindow(hwnd)) return kWindowNotOpen;
+  if (!filter_->IsSelectableWindow(hwnd, false, false)) return kActivationFailed;
+  if (GetWindowClass(*windows_, hwnd) != className) return kActivationFailed;
+  if (act && !RestoreIconicOwner(hwnd)) return kActivationFailed;
+  if (!windows_->IsWindowVisible(hwnd)) return kWindowNotOpen;
+  RefreshRecordedTitle(hwnd, text);
+  if (!TitleMatches(text, GetWindowTitle(*windows_, hwnd), false)) {
+    hwnd = 0;
+    return kActivationFailed;
+  }
+  if (!windows_->IsWindowEnabled(hwnd)) return kWindowNotEnabled;
+  if (act && !BringForward(hwnd)) return kActivationFailed;
+  return kActivationDone;
+}
+
+/// False only when an owner should have been restored and was not.
+bool WindowActions::RestoreIconicOwner(WindowHandle hwnd) {
+  const WindowHandle owner = GetRelatedWindow(*windows_, hwnd, 2);
+  if (owner == 0 || !windows_->IsIconic(owner)) return true;
+  return ShowDesktopWindow(owner, win32::kSwRestore);
+}
+
+/// The recorded windows are known by their handles, so a new title never disqualifies them.
+void WindowActions::RefreshRecordedTitle(WindowHandle hwnd, std::string& text) {
+  for (WindowTriple* const recorded : {&previous_->current, &previous_->alternate}) {
+    if (recorded->handle != hwnd) continue;
+    recorded->text = GetWindowTitle(*windows_, hwnd);
+    text = recorded->text;
+  }
+}
+
+bool WindowActions::BringForward(WindowHandle hwnd) {
+  if (windows_->GetForegroundWindow() != hwnd && !commands_->SetForegroundWindow(hwnd)) {
+    return false;
+  }
+  return !windows_->IsIconic(hwnd) || ShowDesktopWindow(hwnd, win32::kSwRestore);
+}
+
+void WindowActions::MinimizeOrMaximizeForeground(std::string_view hotKeyName) {
+  if (hotKeyName != kMinimizeHotKey && hotKeyName != kRestoreMaximizeHotKey) return;
+  const TimerPause pause(*mainWindow_);
+  const WindowHandle hwnd = windows_->GetForegroundWindow();
+  if (hwnd == 0) return;
+  if (hotKeyName == kMinimizeHotKey) {
+    MinimizeForeground(hwnd);
+  } else {
+    MaximizeOrRestoreForeground(hwnd);
+  }
+}
+
+void WindowActions::MinimizeForeground(WindowHandle hwnd) {
+  if (!CanBeSized(*windows_, hwnd, win32::kWsMinimizeBox)) return;
+  const WindowHandle owner = GetRelatedWindow(*windows_, hwnd, 2);
+  ShowDesktopWindow(owner != 0 ? owner : hwnd, win32::kSwMinimize);
+  const bool mainInFront = mainWindow_->FocusTag() == kGotFocus;
+  WindowTriple& next = mainInFront ? previous_->current : previous_->alternate;
+  if (windows_->IsWindowVisible(next.handle) && !windows_->IsIconic(next.handle)) {
+    ActivateWindow(next, false, true);
+  }
+}
+
+void WindowActions::MaximizeOrRestoreForeground(WindowHandle hwnd) {
+  if (!CanBeSized(*windows_, hwnd, win32::kWsMaximizeBox)) return;
+  ShowDesktopWindow(hwnd, windows_->IsZoomed(hwnd) ? win32::kSwRestore : win32::kSwMaximize);
+}
+
+void WindowActions::MinimizeAll() {
+  const TimerPause pause(*mainWindow_);
+  enumeration_->EnumWindows(kMinimizeAll);
+}
+
+void WindowActions::RestoreAll() {
+  const TimerPause pause(*mainWindow_);
+  enumeration_->EnumWindows(kRestoreAll);
+  commands_->SetForegroundWindow(mainWindow_->MainHandle());
+}
+
+void WindowActions::SetTopmost(WindowHandle hwnd, bool topmost) {
+  std::uint32_t flags = win32::kSwpNoSize | win32::kSwpNoMove;
+  if (windows_->IsHungAppWindow(hwnd)) flags |= win32::kSwpAsyncWindowPos;
+  commands_->SetWindowPos(hwnd, topmost ? win32::kHwndTopmost : win32::kHwndNoTopmost, 0, 0, 0, 0,
+                          flags);
+}
+
+bool WindowActions::ShowDesktopWindow(WindowHandle hwnd, int command) {
+  return korvale::ShowDesktopWindow(*windows_, *commands_, hwnd, command);
+}
+
+}  // namespace korvale
