@@ -28,10 +28,16 @@ struct MenuItem {
   bool checked = false;
   bool enabled = true;
   bool visible = true;
+  /// From this character on, "&" in the caption is shown as it stands; -1 = nowhere.
+  int literalFrom = -1;
   std::vector<std::unique_ptr<MenuItem>> items;
 
   bool IsSeparator() const { return caption == "-"; }
 };
+
+/// The caption as Windows' menus take it: "&" marks the access key, "&&" stands for itself. Hosts
+/// show this text, never the caption itself.
+std::string MenuText(const MenuItem& item);
 
 /// A menu bar: the root has no caption, its items are the menus.
 class MenuBar {

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "app/core/instance_lock.h"
+#include "forms/main_form.h"
+#include "platform/platform.h"
+
+namespace korvale {
+
+/// Start-up, first activation and shutdown of the program.
+class StartUp : public ProgramLifetime {
+ public:
+  explicit StartUp(Platform& platform) : platform_(&platform) {}
+
+  void Initialise(frmMain& form) override;
+  void FirstActivation(frmMain& form) override;
+  void Unload(frmMain& form, bool booNormalShutDown) override;
+
+ private:
+  void FixIdentity(frmMain& form);
+  void RunInstallation(frmMain& form);
+  void RefuseSecondCopy(frmMain& form);
+  WindowHandle FindOtherCopy(frmMain& form);
+  void MentionOtherInstallation(frmMain& form);
+  void MentionCommandLine(frmMain& form);
+  void ShowSplash(frmMain& form);
+  void LayOut(frmMain& form);
+  void PrepareMenusAndTimers(frmMain& form);
+  void InstallHotKeys(frmMain& form);
+  void RecordPreviousWindow(frmMain& form);
+  void AskToReviewHotKeys(frmMain& form);
+
+  Platform* platform_;
+  std::unique_ptr<InstanceLock> instanceLock_;
+};
+
+}  // namespace korvale

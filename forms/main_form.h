@@ -1,0 +1,155 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "app/core/identity.h"
+#include "desktop/main_window.h"
+#include "forms/about_form.h"
+#include "forms/form.h"
+#include "forms/get_window_form.h"
+#include "forms/main_parts.h"
+#include "forms/msg_tip_form.h"
+#include "forms/options_form.h"
+#include "forms/options_owner.h"
+#include "forms/tips.h"
+#include "forms/wait_window_form.h"
+#include "forms/window_menu.h"
+#include "hotkeys/hot_key_actions.h"
+#include "platform/platform.h"
+
+namespace korvale {
+
+class frmMain;
+
+/// Start-up and shutdown around the main form's life.
+class ProgramLifetime {
+ public:
+  virtual ~ProgramLifetime() = default;
+
+  /// The body of the load handler; leaves with ProgramEnded when the program shall not run.
+  virtual void Initialise(frmMain& form) = 0;
+  virtual void FirstActivation(frmMain& form) = 0;
+  /// The one way down; `booNormalShutDown` saves the settings first.
+  virtual void Unload(frmMain& form, bool booNormalShutDown) = 0;
+};
+
+/// The main window: a strip with the target window's title and class under a menu bar. It owns
+/// everything that lives for the whole run.
+class frmMain : public Form, public MainWindow, public HotKeyActions, public OptionsDialogOwner {
+ public:
+  frmMain(Platform& platform, FormCollection& forms, ProgramLifetime& lifetime);
+
+  MainParts& Parts() { return parts_; }
+  Tips& TipMessages() { return tips_; }
+  WindowMenu& TheWindowMenu() { return windowMenu_; }
+  frmMsgBox2& About() { return about_; }
+
+  void udmUnload(bool booNormalShutDown);
+  void udmLoadOptions();
+  void udmSaveOptions() override;
+  void udmDeleteOptions();
+  void udmSaveINI();
+  /// Reads the main window's state and the Tag list from the store.
+  void LoadStartupSettings();
+  std::string udmProcessHotKey(const std::string& name, bool booDoAction, bool booReturnWindow,
+                               const std::string& strSupplyWindowText);
+  void udmRefreshAlwaysOnTopMenuChecked();
+  void udmNonFatalError(ErrorPlace intErrorNumber, std::int16_t intVB_ErrNumber);
+
+  /// Brings the menus up to date; `source` is "mnu" after a menu command, a menu item's name, or
+  /// the name of the routine that asks ("Form_Load", "Form_KeyDown").
+  void RefreshMenus(std::string_view source);
+  /// Gives txtWindow and txtWindowClass the colours of the settings.
+  void ApplyColors();
+  /// Applies the stored place and state of the window.
+  void ApplyPlacement();
+  void Form_Resize() override;
+
+  void mnuToolsOptions_Click();
+  void mnuToolsToggleHotKeys_Click();
+  void mnuFileExit_Click();
+  void mnuHelpAbout_Click();
+  void mnuHelpDisplayTips_Click();
+  void mnuViewMenu_Click();
+  void mnuViewWindowInfo_Click();
+  void mnuViewDefaultSettingsWindowInfoColor_Click();
+
+  // MainWindow
+  WindowHandle MainHandle() const override { return Handle(); }
+  std::string MainCaption() const override { return Caption(); }
+  std::string FocusTag() const override { return Tag(); }
+  void SetFocusTag(std::string_view tag) override { SetTag(tag); }
+  void SetMainEnabled(bool enabled) override { SetEnabled(enabled); }
+  TimerControl& tmrWindow() override { return tmrWindow_; }
+  void udmTimersEnabled(bool booTrueFalse) override;
+  void ShowTargetWindow(const std::string& title, const std::string& className) override;
+  void EnablePreviousWindowItems(bool enabled) override;
+  void CheckAlwaysOnTop(bool checked) override;
+  void CheckPreviousWindowAlwaysOnTop(bool checked) override;
+
+  // HotKeyActions
+  bool HasTagCaption(std::int16_t tag) override;
+  void mnuWindowParentList_Click(std::int16_t Index) override;
+  void BringOptionsToFront() override;
+  void udmOptions(const std::string& strMode) override;
+  void PopUpWindowMenu() override;
+  void SetWindowMenuTag(const std::string& tag) override;
+  void ShowTip(std::int32_t number, const std::string& text, const std::string& title,
+               std::int16_t height) override;
+  void ShowWaitWindow(const std::string& caption, const std::string& text,
+                      std::uint32_t milliseconds) override;
+
+ protected:
+  void Form_Load() override;
+  void Form_Activate() override;
+  void Form_KeyDown(int& key, unsigned shift) override;
+  void Form_QueryUnload(bool& cancel, CloseReason reason) override;
+  void Form_Unload() override;
+  void Form_MouseMove(const MouseInput& input) override;
+  void Control_Mouse(Control& control, const MouseInput& input) override;
+
+ private:
+  /// A timer control of this form as the lower layers see it.
+  class FormTimer : public TimerControl {
+   public:
+    FormTimer(Form& form, const char* name) : form_(&form), name_(name) {}
+    bool Enabled() const override { return form_->Find(name_).Enabled(); }
+    void SetEnabled(bool enabled) override { form_->Find(name_).SetEnabled(enabled); }
+    std::string Tag() const override { return form_->Find(name_).Tag(); }
+    void SetTag(std::string_view tag) override { form_->Find(name_).SetTag(tag); }
+    void SetInterval(std::uint32_t milliseconds) override {
+      form_->Find(name_).SetInterval(milliseconds);
+    }
+
+   private:
+    Form* form_;
+    const char* name_;
+  };
+
+  void BindMenus();
+  void BindWindowMenu();
+  void ShowAddWindow(AddWindowMode mode);
+  void CloseAbout();
+  void RestoreTagList();
+  Twips HeightForContent() const;
+  void LayOutFields();
+  void RememberPlace();
+
+  Platform* platform_;
+  ProgramLifetime* lifetime_;
+  FormTimer tmrWindow_;
+  MainParts parts_;
+  frmMsgTip tipForm_;
+  frmWaitWindow waitForm_;
+  frmMsgBox2 about_;
+  AddWindowMode addWindowMode_ = AddWindowMode::kNone;
+  frmGetWindow addWindow_;
+  frmOptions options_;
+  Tips tips_;
+  WindowMenu windowMenu_;
+  bool unloaded_ = false;
+};
+
+}  // namespace korvale

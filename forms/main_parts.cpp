@@ -1,0 +1,38 @@
+#include "forms/main_parts.h"
+
+#include <utility>
+
+#include "forms/form.h"
+
+namespace korvale {
+
+namespace {
+
+MenuItem& WindowMenuItems(MenuBar& menus) { return *menus.Find("mnuWindow"); }
+
+}  // namespace
+
+MainParts::MainParts(Platform& platform, FormCollection& forms, MainWindow& mainWindow,
+                     MenuBar& menus, HotKeyActions& hotKeyActions, std::function<void()> shutDown)
+    : settings(platform.store, ""),
+      tags{MenuItemArray(WindowMenuItems(menus), "mnuWindowParentList")},
+      tagPasses(tags, platform.windows, platform.store),
+      filter(platform.windows, options, forms, mainWindow),
+      enumeration(platform.windows, platform.commands, filter, mainWindow, tagPasses),
+      messages(platform.host, platform.windows, platform.commands, mainWindow, suspension),
+      errors(messages, platform.clock, identity, state, std::move(shutDown)),
+      actions(platform.windows, platform.commands, filter, enumeration, mainWindow, previous,
+              messages, identity.messageTitle),
+      tracker(platform.windows, filter, actions, mainWindow, previous, tags),
+      display(forms, platform.windows, platform.commands, suspension, startup.AlwaysOnTop),
+      hotKeys(platform.hotKeys, options, mainWindow),
+      toggle(hotKeys, options, hotKeyActions, identity.productName, identity.messageTitle),
+      dispatch({platform.windows, platform.commands, mainWindow, forms, tagPasses, enumeration,
+                actions, tracker, previous, suspension, messages, hotKeyActions, toggle, errors},
+               identity.productName, identity.messageTitle),
+      hook(
+          platform.hotKeys, hotKeys, mainWindow,
+          [this](const std::string& name) { dispatch.udmProcessHotKey(name, true, false, ""); },
+          [&forms] { forms.ReportUncaught(); }) {}
+
+}  // namespace korvale

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+#include "app/core/error_reports.h"
+#include "app/core/identity.h"
+#include "app/core/options.h"
+#include "app/core/settings.h"
+#include "app/core/startup_settings.h"
+#include "desktop/foreground_tracker.h"
+#include "desktop/previous_window.h"
+#include "desktop/tag_list.h"
+#include "desktop/window_actions.h"
+#include "desktop/window_enumeration.h"
+#include "desktop/window_filter.h"
+#include "forms/form_collection.h"
+#include "forms/form_display.h"
+#include "hotkeys/hot_key_dispatch.h"
+#include "hotkeys/hot_key_table.h"
+#include "hotkeys/hot_key_toggle.h"
+#include "hotkeys/message_box.h"
+#include "hotkeys/suspension.h"
+#include "hotkeys/window_proc_hook.h"
+#include "platform/platform.h"
+
+namespace korvale {
+
+/// What of the main form's state is neither an option nor a stored setting.
+struct MainState {
+  /// Set at the end of the first activation.
+  bool firstActivation = false;
+  /// No settings of this installation existed at start-up.
+  bool firstRun = false;
+  /// Result code of the last Yes/No question of the main form.
+  std::int16_t lastAnswer = 0;
+  /// Up to here the main window keeps its size.
+  bool startUpFinished = false;
+};
+
+/// The records and routines that the main form owns for the whole run, in the order in which they
+/// build on each other.
+struct MainParts {
+  MainParts(Platform& platform, FormCollection& forms, MainWindow& mainWindow, MenuBar& menus,
+            HotKeyActions& actions, std::function<void()> shutDown);
+  MainParts(const MainParts&) = delete;
+  MainParts& operator=(const MainParts&) = delete;
+
+  ProgramIdentity identity;
+  MainState state;
+  StartupSettings startup;
+  OptionsHolder options;
+  Settings settings;
+
+  TagList tags;
+  TagListPasses tagPasses;
+  PreviousWindow previous;
+  WindowFilter filter;
+  WindowEnumeration enumeration;
+
+  Suspension suspension;
+  SuspendingMessageBoxes messages;
+  ErrorReports errors;
+
+  WindowActions actions;
+  ForegroundTracker tracker;
+  FormDisplay display;
+
+  HotKeyTable hotKeys;
+  HotKeyToggle toggle;
+  HotKeyDispatch dispatch;
+  WindowProcHook hook;
+};
+
+}  // namespace korvale
