@@ -67,11 +67,12 @@ class Control {
   /// Text of the selected entry, or nothing selected: "".
   std::string SelectedText() const;
 
+  /// Moves the focus here; does nothing while the user could not reach the control.
   void SetFocus();
   TextSelection Selection() const;
   void SetSelection(TextSelection selection);
 
-  /// Timer: milliseconds, at least 10. A running timer starts anew.
+  /// Timer: milliseconds, at least 10, or 0 to keep it from ticking. A running timer starts anew.
   std::uint32_t Interval() const { return state_->interval; }
   void SetInterval(std::uint32_t milliseconds);
 
@@ -80,7 +81,10 @@ class Control {
   void SetTag(std::string_view tag) { tag_ = tag; }
 
  private:
+  friend class Form;
+
   void Changed(ControlProperty property);
+  void TakeListIndex(int listIndex);
 
   Form* form_;
   ControlState* state_;

@@ -6,6 +6,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "forms/control.h"
 #include "platform/clock.h"
@@ -101,6 +102,7 @@ class Form : public FormEvents {
   void OnListClosedUp(int control) final;
   bool OnKeyDown(int control, int virtualKey, unsigned shift) final;
   bool OnKeyUp(int control, int virtualKey, unsigned shift) final;
+  bool OnCharacter(int control, char32_t character, unsigned shift) final;
   void OnMouse(int control, const MouseInput& input) final;
   void OnFocusMoved(int control) final;
   void OnMenuOpened(MenuItem& menu) final;
@@ -113,8 +115,10 @@ class Form : public FormEvents {
 
  protected:
   using Handler = std::function<void(int index)>;
+  using Handlers = std::map<std::string, Handler, std::less<>>;
 
   // What a form does; each is called by the shared code above.
+  /// An error here unloads the form again and goes on to the caller of Load.
   virtual void Form_Load() {}
   virtual void Form_Activate() {}
   /// Sees each key before any control; set `key` to 0 to swallow it.
@@ -123,6 +127,7 @@ class Form : public FormEvents {
   /// Set `cancel` to keep the form open.
   virtual void Form_QueryUnload(bool& cancel, CloseReason reason);
   virtual void Form_Unload() {}
+  /// The form is shown for the first time, or its size or state has changed.
   virtual void Form_Resize() {}
   virtual void Form_MouseMove(const MouseInput& input);
   virtual void Control_Mouse(Control& control, const MouseInput& input);
@@ -138,19 +143,39 @@ class Form : public FormEvents {
   friend class Control;
   friend class FormCollection;
 
+  // form.cpp: the life of a form.
   void BuildFromDesign();
-  void RaiseClick(Control& control);
-  void ChooseOption(Control& chosen);
-  void StartOrStopTimer(const Control& timer);
-  void ApplyPlace();
+  int ContainerId(const ControlRow& row) const;
   TwipsRect FrameGrowth() const;
+  TwipsRect RealPlace() const;
+  bool AgreesToUnload(CloseReason reason);
+  void Destroy();
+
+  // form_events.cpp: what the user's doings mean.
+  static void RaiseFor(const Handlers& handlers, std::string_view name, int index);
+  void RaiseClick(Control& control);
+  void UnchooseNeighbours(const Control& chosen);
+  void StartOrStopTimer(const Control& timer);
+
+  // form_keys.cpp: keys of dialogs, access keys and the focus.
   bool DialogKey(int control, int virtualKey, unsigned shift);
   bool MoveFocus(int from, bool backwards);
-  bool PressAccessKey(int virtualKey, int focused);
+  bool MoveChoice(int from, bool backwards);
+  bool PressAccessKey(int focused, char32_t character, bool alt);
+  bool UseAccessKey(Control& control, char32_t character);
+  bool FocusBehind(int control);
+  void FocusOn(int control);
+  void EnsureFocus();
+  void KeepFocusReachable();
+  void MarkDefaultButton();
   Control* DefaultButtonFor(int focused);
   Control* ButtonWithFlag(unsigned flag);
-  void PressControl(Control& control);
-  bool CanTakeInput(const Control& control) const;
+  std::vector<int> TabStops() const;
+  int TabStopOf(int control) const;
+  bool CanTakeInput(const ControlState& control) const;
+  bool CanTakeFocus(const ControlState& control) const;
+  ControlState& StateOf(int control);
+  const ControlState& StateOf(int control) const;
 
   const FormDesign design_;
   FormCollection* forms_;
@@ -159,11 +184,14 @@ class Form : public FormEvents {
   std::deque<Control> controls_;
   WindowHandle handle_ = 0;
   int focused_ = 0;
+  int droppedList_ = 0;  ///< The list that is open, 0 = none.
+  bool shownBefore_ = false;
+  bool unloading_ = false;
   std::string tag_;
-  std::map<std::string, Handler, std::less<>> clicked_;
-  std::map<std::string, Handler, std::less<>> droppedDown_;
-  std::map<std::string, Handler, std::less<>> menuOpens_;
-  std::map<std::string, Handler, std::less<>> menuClicked_;
+  Handlers clicked_;
+  Handlers droppedDown_;
+  Handlers menuOpens_;
+  Handlers menuClicked_;
 };
 
 }  // namespace korvale

@@ -28,11 +28,11 @@ class FormCollection : public LoadedForms {
   /// Unloads every loaded form except the one of this name, the last loaded first.
   void UnloadAllExcept(std::string_view name);
 
-  /// Disables every other loaded form, runs messages until `form` is no longer shown, and enables
-  /// the forms again that were enabled before.
+  /// Disables every other loaded form, shows `form`, runs messages until it is no longer shown, and
+  /// enables the forms again that were enabled before.
   void RunModal(Form& form);
   /// The form shown modally on top, null when there is none.
-  Form* TopModal() const { return modal_.empty() ? nullptr : modal_.back(); }
+  Form* TopModal() const { return modal_.empty() ? nullptr : modal_.back().form; }
 
   /// Called inside a catch block with an error that left an event handler; must not throw.
   void SetUncaughtHandler(std::function<void()> handler) { uncaught_ = std::move(handler); }
@@ -40,13 +40,24 @@ class FormCollection : public LoadedForms {
 
  private:
   friend class Form;
+
+  /// A form shown modally and the forms that it keeps from taking input.
+  struct Modal {
+    Form* form;
+    std::vector<Form*> blocked;
+  };
+
   void Add(Form& form) { loaded_.push_back(&form); }
   void Remove(Form& form);
+  bool IsModal(const Form& form) const;
+  bool IsBlocked(const Form& form) const;
+  /// Gives the blocked forms back to the user, or to a modal form above this one.
+  void EndModal(const Form& form);
 
   FormHost* host_;
   TimerApi* timers_;
   std::vector<Form*> loaded_;
-  std::vector<Form*> modal_;
+  std::vector<Modal> modal_;
   std::function<void()> uncaught_;
 };
 

@@ -92,8 +92,10 @@ class FormHost {
   virtual void EnableWindow(WindowHandle hwnd, bool enable) = 0;
   /// `command` is one of the SW_ values.
   virtual void ShowWindow(WindowHandle hwnd, int command) = 0;
-  /// Gives the focus to a control of the form.
+  /// Gives the focus to a control of the form, 0 = the form itself; does nothing while the form is
+  /// not the active window (it asks again when it is activated).
   virtual void SetFocus(WindowHandle hwnd, int control) = 0;
+  /// The control of the form that has the focus, 0 = none.
   virtual int GetFocus(WindowHandle hwnd) = 0;
 
   virtual TextSelection GetSelection(WindowHandle hwnd, int control) = 0;

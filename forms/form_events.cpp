@@ -1,0 +1,167 @@
+#include <utility>
+
+#include "forms/form.h"
+#include "forms/form_collection.h"
+
+namespace korvale {
+
+void Form::Form_KeyDown(int& /*key*/, unsigned /*shift*/) {}
+void Form::Form_KeyUp(Control* /*focused*/, int& /*key*/, unsigned /*shift*/) {}
+void Form::Form_QueryUnload(bool& /*cancel*/, CloseReason /*reason*/) {}
+void Form::Form_MouseMove(const MouseInput& /*input*/) {}
+void Form::Control_Mouse(Control& /*control*/, const MouseInput& /*input*/) {}
+
+void Form::WhenClicked(std::string_view name, Handler handler) {
+  clicked_.insert_or_assign(std::string(name), std::move(handler));
+}
+
+void Form::WhenDroppedDown(std::string_view name, Handler handler) {
+  droppedDown_.insert_or_assign(std::string(name), std::move(handler));
+}
+
+void Form::WhenMenuOpens(std::string_view name, Handler handler) {
+  menuOpens_.insert_or_assign(std::string(name), std::move(handler));
+}
+
+void Form::WhenMenuClicked(std::string_view name, Handler handler) {
+  menuClicked_.insert_or_assign(std::string(name), std::move(handler));
+}
+
+void Form::RaiseFor(const Handlers& handlers, std::string_view name, int index) {
+  if (const auto found = handlers.find(name); found != handlers.end()) found->second(index);
+}
+
+void Form::RaiseClick(Control& control) { RaiseFor(clicked_, control.Name(), control.Index()); }
+
+void Form::UnchooseNeighbours(const Control& chosen) {
+  for (Control& control : controls_) {
+    const ControlState& state = control.State();
+    const bool neighbour = state.kind == ControlKind::kOptionButton &&
+                           state.container == chosen.State().container && state.id != chosen.Id();
+    if (neighbour) control.SetValue(0);
+  }
+}
+
+void Form::StartOrStopTimer(const Control& timer) {
+  if (!IsLoaded()) return;
+  if (timer.Enabled() && timer.Interval() > 0) {
+    forms_->Timers().SetTimer(handle_, timer.Id(), timer.Interval());
+  } else {
+    forms_->Timers().KillTimer(handle_, timer.Id());
+  }
+}
+
+void Form::OnClick(int control) {
+  if (!IsLoaded() || !CanTakeInput(StateOf(control))) return;
+  Control& clicked = ById(control);
+  switch (clicked.State().kind) {
+    case ControlKind::kCheckBox:
+      clicked.SetValue(1 - clicked.Value());
+      break;
+    case ControlKind::kOptionButton:
+      clicked.SetValue(1);
+      break;
+    default:
+      RaiseClick(clicked);
+  }
+}
+
+void Form::OnTextTyped(int control, const std::string& text) {
+  if (!IsLoaded()) return;
+  ControlState& state = StateOf(control);
+  if (state.text == text) return;
+  state.text = text;
+  if (state.kind == ControlKind::kComboBox) state.listIndex = -1;
+  RaiseClick(ById(control));
+}
+
+void Form::OnListPicked(int control, int listIndex) {
+  if (!IsLoaded()) return;
+  Control& list = ById(control);
+  list.TakeListIndex(listIndex);
+  RaiseClick(list);
+}
+
+void Form::OnListDropDown(int control) {
+  if (!IsLoaded()) return;
+  droppedList_ = control;
+  RaiseFor(droppedDown_, StateOf(control).name, StateOf(control).index);
+}
+
+void Form::OnListClosedUp(int control) {
+  if (droppedList_ == control) droppedList_ = 0;
+}
+
+bool Form::OnKeyDown(int control, int virtualKey, unsigned shift) {
+  if (!IsLoaded()) return false;
+  int key = virtualKey;
+  Form_KeyDown(key, shift);
+  if (key == 0 || !IsLoaded()) return true;
+  return DialogKey(control, key, shift);
+}
+
+bool Form::OnKeyUp(int control, int virtualKey, unsigned shift) {
+  if (!IsLoaded()) return false;
+  int key = virtualKey;
+  Form_KeyUp(control == 0 ? nullptr : &ById(control), key, shift);
+  return key == 0;
+}
+
+void Form::OnMouse(int control, const MouseInput& input) {
+  if (!IsLoaded()) return;
+  if (control != 0) {
+    Control_Mouse(ById(control), input);
+  } else if (input.event == MouseEvent::kMove) {
+    Form_MouseMove(input);
+  }
+}
+
+void Form::OnFocusMoved(int control) {
+  // Without a control the focus has left the form for a while and comes back to the same one.
+  if (!IsLoaded() || control == 0 || control == focused_) return;
+  focused_ = control;
+  MarkDefaultButton();
+}
+
+void Form::OnMenuOpened(MenuItem& menu) {
+  if (IsLoaded()) RaiseFor(menuOpens_, menu.name, menu.index);
+}
+
+void Form::OnMenuClicked(MenuItem& item) {
+  if (!IsLoaded() || !item.enabled || !item.visible) return;
+  // The handler may remove the entry, so it gets a name of its own.
+  const std::string name = item.name;
+  RaiseFor(menuClicked_, name, item.index);
+}
+
+void Form::OnActivated() {
+  if (!IsLoaded()) return;
+  EnsureFocus();
+  forms_->Host().SetFocus(handle_, focused_);
+  Form_Activate();
+}
+
+void Form::OnPlaced(ShowState state, const TwipsRect& place) {
+  if (!IsLoaded()) return;
+  bool changed = state != state_.windowState;
+  state_.windowState = state;
+  if (state != ShowState::kMinimized) {
+    changed = changed || place.width != state_.place.width || place.height != state_.place.height;
+    const TwipsRect growth = FrameGrowth();
+    state_.place = place;
+    place_ = {place.left, place.top, place.width - growth.width, place.height - growth.height};
+  }
+  if (changed && shownBefore_) Form_Resize();
+}
+
+void Form::OnCloseRequested(CloseReason reason) { Unload(reason); }
+
+void Form::OnTimer(int control) {
+  if (!IsLoaded()) return;
+  Control& timer = ById(control);
+  if (timer.Enabled()) RaiseClick(timer);
+}
+
+void Form::OnUncaught() noexcept { forms_->ReportUncaught(); }
+
+}  // namespace korvale
