@@ -10,6 +10,7 @@
 #include "desktop/previous_window.h"
 #include "desktop/tag_list.h"
 #include "desktop/window_actions.h"
+#include "desktop/window_filter.h"
 #include "hotkeys/hot_key_actions.h"
 #include "hotkeys/hot_key_toggle.h"
 #include "hotkeys/suspension.h"
@@ -25,10 +26,10 @@ struct HotKeyDispatchParts {
   MainWindow& mainWindow;
   const LoadedForms& forms;
   TagListPasses& tagPasses;
-  WindowEnumeration& enumeration;
+  const WindowFilter& filter;
   WindowActions& windowActions;
   ForegroundTracker& tracker;
-  PreviousWindow& previous;
+  const PreviousWindow& previous;
   Suspension& suspension;
   MessageBoxes& messages;
   HotKeyActions& actions;
@@ -43,16 +44,25 @@ class HotKeyDispatch {
 
   /// Returns the description of the hot key; performs its action only when `booDoAction` is true.
   /// While a message box or dialog of the program is shown it does neither and tells the user so.
-  /// With `booReturnWindow` the title of the window concerned is returned instead.
+  /// With `booReturnWindow` the title of the window concerned is returned instead:
+  /// `strSupplyWindowText` unless that is empty, else of the main window while it has the focus,
+  /// else of the target window. A name of no hot key makes the foreground window the target. An
+  /// error is reported and gives ""; only ProgramEnded leaves this call.
   std::string udmProcessHotKey(const std::string& name, bool booDoAction, bool booReturnWindow,
                                const std::string& strSupplyWindowText);
 
  private:
+  std::string Process(const std::string& name, bool doAction, bool returnWindow,
+                      const std::string& suppliedText);
   void ShowSuspensionNotice();
   WindowTriple ChooseWindow(const std::string& suppliedText);
   bool IdentifyForeground(WindowTriple& chosen);
+  bool IsIdentified(const WindowTriple& window);
+  void MakeTarget(const WindowTriple& window);
+  void ShowNotRecognized(const std::string& title);
   void Perform(const std::string& name);
   void SelectTag(int tag);
+  void ShowOptions();
   void PopUpWindowMenu();
 
   HotKeyDispatchParts parts_;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <array>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -16,12 +16,13 @@ inline constexpr const char* kHotKeyToggleHotKeys = "HOTKEY_TOGGLE_HOTKEYS";
 /// The first name in a table that was never filled.
 inline constexpr const char* kArrayNotUsedYet = "ARRAY_NOT_USED_YET";
 
-/// All 27 names of hot-key operations, the registered ones and the reserved ones.
-std::array<std::string_view, 27> HotKeyNameSet();
+/// All names of hot-key operations: the 15 that are registered, then the reserved ones.
+std::span<const std::string_view> HotKeyNameSet();
 
+/// Exact and case-sensitive.
 bool IsHotKeyName(std::string_view name);
 
-/// "HOTKEY_PARENT" + the digit 0-9.
+/// "HOTKEY_PARENT" + the digit of Tag 0-9.
 std::string ParentHotKeyName(int tag);
 
 /// The Tag of a name HOTKEY_PARENT0..9, -1 for every other name.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 #include "app/core/message_boxes.h"
@@ -8,24 +9,49 @@
 #include "hotkeys/suspension.h"
 #include "platform/form_host.h"
 #include "platform/window_api.h"
+#include "util/forms.h"
 
 namespace korvale {
 
 /// Shows the program's message boxes and suspends the hot keys meanwhile.
 class SuspendingMessageBoxes : public MessageBoxes {
  public:
+  /// `modalOnTop` gives the window of the dialog that is shown modally on top, 0 when there is
+  /// none.
   SuspendingMessageBoxes(FormHost& host, WindowQueries& windows, WindowCommands& commands,
-                         MainWindow& mainWindow, Suspension& suspension);
+                         MainWindow& mainWindow, const LoadedForms& forms, Suspension& suspension,
+                         std::function<WindowHandle()> modalOnTop);
 
+  /// Besides what every message box does: Windows brings another program to the front when the box
+  /// closes over the disabled main window; a window of our own that was in front before the
+  /// outermost box is put there again (SetForegroundWindow). Error 6 beyond 32767 nested boxes.
   std::int16_t ShowMessageBox(const std::string& prompt, std::int32_t buttons,
                               const std::string& title) override;
 
  private:
+  /// What the outermost box gives back.
+  struct Remembered {
+    bool timerEnabled = false;
+    std::string timerTag;
+    WindowHandle ownForeground = 0;
+  };
+
+  Remembered Remember();
+  void Suspend();
+  void Resume(const Remembered& before);
+  std::int16_t ShowOutermost(const std::string& prompt, std::int32_t buttons,
+                             const std::string& title);
+  std::int16_t Show(const std::string& prompt, std::int32_t buttons, const std::string& title);
+  void BringBack(WindowHandle ownForeground);
+  bool IsOurs(WindowHandle hwnd) const;
+
   FormHost* host_;
   WindowQueries* windows_;
   WindowCommands* commands_;
   MainWindow* mainWindow_;
+  const LoadedForms* forms_;
   Suspension* suspension_;
+  std::function<WindowHandle()> modalOnTop_;
 };
 
 }  // namespace korvale

@@ -14,16 +14,19 @@ namespace korvale {
 /// The hook on the main window's message procedure that receives the hot keys.
 class WindowProcHook : public WindowProcedure {
  public:
-  /// `process` is given the name of each hot key; `reportUncaught` is called inside a catch block.
+  /// `process` is given the name of each hot key; `reportUncaught` is called inside a catch block
+  /// and must not throw.
   WindowProcHook(HotKeyApi& hotKeys, const HotKeyTable& table, const MainWindow& mainWindow,
                  std::function<void(const std::string&)> process,
                  std::function<void()> reportUncaught);
 
   /// "SET" installs the hot-key window procedure on the main window, "REMOVE" puts the former one
-  /// back; any other mode does nothing.
+  /// back; any other mode does nothing. So do a second "SET" in a row and a "REMOVE" without "SET"
+  /// (SetWindowLongPtrA).
   void HookWindowProc(std::string_view mode, WindowHandle hWnd);
 
-  /// Hands a WM_HOTKEY of the main window to the dispatcher, then passes every message on.
+  /// Hands a WM_HOTKEY of the main window to the dispatcher, then passes every message on,
+  /// also when the dispatcher failed (CallWindowProcA).
   std::intptr_t HotKeyWindowProc(WindowHandle hWnd, std::uint32_t uMsg, std::uintptr_t wParam,
                                  std::intptr_t lParam);
 
@@ -32,6 +35,8 @@ class WindowProcHook : public WindowProcedure {
   void OnUncaught() noexcept override;
 
  private:
+  void Dispatch(std::uintptr_t identifier);
+
   HotKeyApi* hotKeys_;
   const HotKeyTable* table_;
   const MainWindow* mainWindow_;

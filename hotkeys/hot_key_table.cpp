@@ -1,0 +1,86 @@
+#include "hotkeys/hot_key_table.h"
+
+#include <cstddef>
+
+#include "hotkeys/hot_key_names.h"
+#include "platform/run_time_error.h"
+
+namespace korvale {
+namespace {
+
+constexpr std::int16_t kDigitZeroKey = 0x30;
+
+}  // namespace
+
+HotKeyTable::HotKeyTable(HotKeyApi& hotKeys, const OptionsHolder& options,
+                         const MainWindow& mainWindow)
+    : hotKeys_(&hotKeys),
+      options_(&options),
+      mainWindow_(&mainWindow),
+      hotKeyNames_({kArrayNotUsedYet}) {}
+
+void HotKeyTable::SetHotKeys(std::string_view mode) {
+  if (mode == "SET") {
+    Set();
+  } else if (mode == "REMOVE") {
+    Remove();
+  }
+}
+
+void HotKeyTable::Set() {
+  const clsOptions& options = options_->Get();
+  hotKeyCount_ = 0;
+  for (std::int16_t tag = 0; tag <= 9; ++tag) {
+    if (options.booHotKeyParent.at(static_cast<std::size_t>(tag))) {
+      AddHotKey(ParentHotKeyName(tag), options.intHotKeyModParent, AddInt16(kDigitZeroKey, tag));
+    }
+  }
+
+  struct Action {
+    const char* name;
+    std::int16_t modifiers;
+    std::int16_t key;
+  };
+  const Action actions[] = {
+      {kHotKeyMinimizeParent, options.intHotKeyModAction[0], options.intHotKeyAction[0]},
+      {kHotKeyRestoreMaximizeParent, options.intHotKeyModAction[1], options.intHotKeyAction[1]},
+      {kHotKeyDisplayOptions, options.intHotKeyModGeneral[0], options.intHotKeyGeneral[0]},
+      {kHotKeyWindowMenuPopup, options.intHotKeyModGeneral[1], options.intHotKeyGeneral[1]},
+      {kHotKeyToggleHotKeys, options.intHotKeyModGeneral[2], options.intHotKeyGeneral[2]},
+  };
+  for (const Action& action : actions) {
+    if (action.key != 0) AddHotKey(action.name, action.modifiers, action.key);
+  }
+}
+
+void HotKeyTable::AddHotKey(std::string_view name, std::int16_t modifiers, std::int16_t key) {
+  hotKeyCount_ = AddInt16(hotKeyCount_, 1);
+  const auto count = static_cast<std::size_t>(hotKeyCount_);
+  hotKeyNames_.resize(count);
+  hotKeyNames_.back() = name;
+  registered_.resize(count);
+  registered_.back() = {std::string(name), modifiers, key, false};
+  registered_.back().accepted = hotKeys_->RegisterHotKey(mainWindow_->MainHandle(), hotKeyCount_,
+                                                         static_cast<std::uint32_t>(modifiers),
+                                                         static_cast<std::uint32_t>(key));
+}
+
+void HotKeyTable::Remove() {
+  if (hotKeyNames_.front() == kArrayNotUsedYet) return;
+  const WindowHandle mainWindow = mainWindow_->MainHandle();
+  const auto highest = static_cast<int>(hotKeyNames_.size());
+  for (int identifier = 1; identifier <= highest; ++identifier) {
+    hotKeys_->UnregisterHotKey(mainWindow, identifier);
+  }
+  hotKeyNames_.assign(1, "");
+  registered_.clear();
+}
+
+const std::string& HotKeyTable::NameOf(std::uintptr_t identifier) const {
+  if (identifier < 1 || identifier > hotKeyNames_.size()) {
+    throw RunTimeError(RunTimeError::kSubscriptOutOfRange);
+  }
+  return hotKeyNames_[identifier - 1];
+}
+
+}  // namespace korvale

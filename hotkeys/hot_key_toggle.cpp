@@ -1,0 +1,64 @@
+#include "hotkeys/hot_key_toggle.h"
+
+#include <cstdint>
+#include <utility>
+
+#include "hotkeys/hot_key_names.h"
+
+namespace korvale {
+namespace {
+
+constexpr std::int32_t kToggleTip = 14;
+constexpr std::int16_t kToggleTipHeight = 3000;
+constexpr std::uint32_t kNoticeMilliseconds = 800;
+
+}  // namespace
+
+HotKeyToggle::HotKeyToggle(HotKeyTable& table, const OptionsHolder& options, HotKeyActions& actions,
+                           std::string productName, std::string programTitle)
+    : table_(&table),
+      options_(&options),
+      actions_(&actions),
+      productName_(std::move(productName)),
+      programTitle_(std::move(programTitle)) {}
+
+void HotKeyToggle::ToggleHotKeys(std::string_view caller) {
+  if (table_->HotKeysActive()) {
+    SwitchOff(caller);
+  } else {
+    SwitchOn();
+  }
+}
+
+void HotKeyToggle::SwitchOff(std::string_view caller) {
+  if (caller == kToggleFromMenu) {
+    actions_->ShowTip(kToggleTip,
+                      "This deactivates all hot keys except the hot key assigned to "
+                      "Activate/Deactivate Hot Keys.  When " +
+                          productName_ +
+                          " is installed, the default hot key to Activate/Deactivate Hot Keys is "
+                          "the Pause key.  If you wish, this hot key can be changed on the Hot "
+                          "Keys tab of the Options dialog box.",
+                      "TIP", kToggleTipHeight);
+  }
+  table_->SetHotKeysActive(false);
+  table_->SetHotKeys("REMOVE");
+  table_->ResetHotKeyCount();
+  const clsOptions& options = options_->Get();
+  if (options.intHotKeyGeneral[2] != 0) {
+    table_->AddHotKey(kHotKeyToggleHotKeys, options.intHotKeyModGeneral[2],
+                      options.intHotKeyGeneral[2]);
+  }
+  actions_->ShowWaitWindow(programTitle_ + " - Hot Keys (OFF)", "Hot Keys are now Deactivated",
+                           kNoticeMilliseconds);
+}
+
+void HotKeyToggle::SwitchOn() {
+  table_->SetHotKeysActive(true);
+  table_->SetHotKeys("REMOVE");
+  table_->SetHotKeys("SET");
+  actions_->ShowWaitWindow(programTitle_ + " - Hot Keys (ON)", "Hot Keys are now Activated",
+                           kNoticeMilliseconds);
+}
+
+}  // namespace korvale

@@ -1,0 +1,107 @@
+#include "hotkeys/message_box.h"
+
+#include <utility>
+
+#include "platform/run_time_error.h"
+
+namespace korvale {
+namespace {
+
+/// Counts a message box for as long as it is shown.
+class DepthCount {
+ public:
+  explicit DepthCount(std::int16_t& depth) : depth_(&depth) { depth = AddInt16(depth, 1); }
+  ~DepthCount() { --*depth_; }
+  DepthCount(const DepthCount&) = delete;
+  DepthCount& operator=(const DepthCount&) = delete;
+
+ private:
+  std::int16_t* depth_;
+};
+
+}  // namespace
+
+SuspendingMessageBoxes::SuspendingMessageBoxes(FormHost& host, WindowQueries& windows,
+                                               WindowCommands& commands, MainWindow& mainWindow,
+                                               const LoadedForms& forms, Suspension& suspension,
+                                               std::function<WindowHandle()> modalOnTop)
+    : host_(&host),
+      windows_(&windows),
+      commands_(&commands),
+      mainWindow_(&mainWindow),
+      forms_(&forms),
+      suspension_(&suspension),
+      modalOnTop_(std::move(modalOnTop)) {}
+
+std::int16_t SuspendingMessageBoxes::ShowMessageBox(const std::string& prompt, std::int32_t buttons,
+                                                    const std::string& title) {
+  const DepthCount count(suspension_->MessageBoxDepth);
+  if (suspension_->MessageBoxDepth > 1) return Show(prompt, buttons, title);
+  return ShowOutermost(prompt, buttons, title);
+}
+
+std::int16_t SuspendingMessageBoxes::ShowOutermost(const std::string& prompt, std::int32_t buttons,
+                                                   const std::string& title) {
+  const Remembered before = Remember();
+  std::int16_t button = 0;
+  try {
+    Suspend();
+    button = Show(prompt, buttons, title);
+  } catch (...) {
+    Resume(before);
+    throw;
+  }
+  Resume(before);
+  BringBack(before.ownForeground);
+  return button;
+}
+
+SuspendingMessageBoxes::Remembered SuspendingMessageBoxes::Remember() {
+  const TimerControl& timer = mainWindow_->tmrWindow();
+  const WindowHandle foreground = windows_->GetForegroundWindow();
+  return {timer.Enabled(), timer.Tag(), IsOurs(foreground) ? foreground : 0};
+}
+
+void SuspendingMessageBoxes::Suspend() {
+  suspension_->MessageBoxShown = true;
+  TimerControl& timer = mainWindow_->tmrWindow();
+  timer.SetEnabled(false);
+  // Another tag than "ON" keeps udmTimersEnabled from restarting it while the box is shown.
+  timer.SetTag("OFF");
+  mainWindow_->SetMainEnabled(false);
+}
+
+void SuspendingMessageBoxes::Resume(const Remembered& before) {
+  suspension_->MessageBoxShown = false;
+  TimerControl& timer = mainWindow_->tmrWindow();
+  timer.SetEnabled(before.timerEnabled);
+  timer.SetTag(before.timerTag);
+  mainWindow_->SetMainEnabled(true);
+}
+
+std::int16_t SuspendingMessageBoxes::Show(const std::string& prompt, std::int32_t buttons,
+                                          const std::string& title) {
+  // Owned by the main window alone, a box would open behind the dialog above it.
+  const WindowHandle dialog = modalOnTop_();
+  const WindowHandle owner = dialog != 0 ? dialog : mainWindow_->MainHandle();
+  return host_->MessageBoxW(owner, prompt, title, buttons);
+}
+
+void SuspendingMessageBoxes::BringBack(WindowHandle ownForeground) {
+  if (ownForeground == 0 || IsOurs(windows_->GetForegroundWindow())) return;
+  if (windows_->IsWindow(ownForeground) && windows_->IsWindowVisible(ownForeground) &&
+      windows_->IsWindowEnabled(ownForeground)) {
+    commands_->SetForegroundWindow(ownForeground);
+  }
+}
+
+bool SuspendingMessageBoxes::IsOurs(WindowHandle hwnd) const {
+  if (hwnd == 0) return false;
+  if (hwnd == mainWindow_->MainHandle()) return true;
+  for (const LoadedForm& form : forms_->List()) {
+    if (form.handle == hwnd) return true;
+  }
+  return false;
+}
+
+}  // namespace korvale
