@@ -1,0 +1,190 @@
+#include "tests/endtoend/korvale_test.h"
+
+namespace korvale::endtoend {
+namespace {
+
+constexpr char kClass[] = "Test.Window";
+
+class AddWindow : public KorvaleTest {
+ protected:
+  void StoreTags(std::initializer_list<int> tags) {
+    for (const int tag : tags) {
+      installation_.StoreTag(tag, "Window " + std::to_string(tag), kClass);
+    }
+  }
+
+  /// Opens a window of that title and the dialog for it.
+  AddWindowDialog OpenFor(const char* title) {
+    window_ = Open(title);
+    EXPECT_TRUE(WorkIn(window_));
+    return OpenAddWindow();
+  }
+
+  /// Works in another window, presses the Tag's key, and expects the tagged window.
+  void ExpectTagSelects(int tag, Window window) {
+    ASSERT_TRUE(WorkIn(Open("Elsewhere")));
+    Press(TagKey(tag));
+    EXPECT_TRUE(InFront(window));
+  }
+
+  Window window_;
+};
+
+TEST_F(AddWindow, ShowsThePreviousWindowAndItsClass) {
+  Start();
+  const AddWindowDialog dialog = OpenFor("Alpha");
+  EXPECT_EQ(dialog.form().Title(), "Korvale - Add Window");
+  EXPECT_EQ(dialog.TitleBox().Text(), "Alpha");
+  EXPECT_EQ(dialog.ClassBox().Text(), kClass);
+  EXPECT_EQ(dialog.SelectedTag(), "1");
+  EXPECT_EQ(dialog.State(), "Available");
+  EXPECT_FALSE(dialog.RemoveButton().Enabled());
+}
+
+TEST_F(AddWindow, TagsAWindowByItsTitle) {
+  Start();
+  const AddWindowDialog dialog = OpenFor("Alpha");
+  ASSERT_TRUE(dialog.Confirm());
+  ExpectTagSelects(1, window_);
+}
+
+TEST_F(AddWindow, TagsAWindowByTheRightPartOfItsTitle) {
+  Start();
+  const AddWindowDialog dialog = OpenFor("one - two - three");
+  ASSERT_EQ(dialog.Choices().size(), 3U);
+  EXPECT_EQ(dialog.Choices()[1].Text(), "one - ***");
+  EXPECT_EQ(dialog.Choices()[2].Text(), "*** - three");
+  ASSERT_TRUE(dialog.SelectTag(3));
+  ASSERT_TRUE(dialog.Choose(2));
+  ASSERT_TRUE(dialog.Confirm());
+  window_.SetTitle("four - three");
+  ExpectTagSelects(3, window_);
+  ASSERT_TRUE(Exit());
+  EXPECT_EQ(installation_.settings().Get("ParentWindowList", "3"), "&3  *** - three");
+  EXPECT_EQ(installation_.settings().Get("ParentWindowClass", "3"), kClass);
+}
+
+TEST_F(AddWindow, TagsAWindowByTheLeftPartOfItsTitle) {
+  Start();
+  const AddWindowDialog dialog = OpenFor("one - two");
+  ASSERT_TRUE(dialog.Choose(1));
+  ASSERT_TRUE(dialog.Confirm());
+  window_.SetTitle("one - something else");
+  ExpectTagSelects(1, window_);
+}
+
+TEST_F(AddWindow, OffersTheWholeTitleAsItsPartsWhenThereIsNoSeparator) {
+  Start();
+  const AddWindowDialog dialog = OpenFor("Alpha");
+  ASSERT_EQ(dialog.Choices().size(), 3U);
+  EXPECT_EQ(dialog.Choices()[1].Text(), "Alpha - ***");
+  EXPECT_EQ(dialog.Choices()[2].Text(), "*** - Alpha");
+}
+
+TEST_F(AddWindow, OffersOnlyTheTitleOfAnUntitledWindow) {
+  installation_.SetOption("AllowNoTextWindow", "True");
+  Start();
+  Open({.title = ""});
+  ASSERT_TRUE(Target("(window without a title)"));
+  const AddWindowDialog dialog = OpenAddWindow();
+  EXPECT_EQ(dialog.Choices().size(), 1U);
+}
+
+TEST_F(AddWindow, TagsAWindowByATitleThatTheUserEdited) {
+  Start();
+  const AddWindowDialog dialog = OpenFor("Report of Monday");
+  Press({MOD_ALT, 'P'});
+  Type("Report");
+  ASSERT_TRUE(WaitFor([&] { return dialog.TitleBox().Text() == "Report"; }));
+  ASSERT_TRUE(dialog.Confirm());
+  window_.SetTitle("Report of Tuesday");
+  ExpectTagSelects(1, window_);
+  ASSERT_TRUE(Exit());
+  EXPECT_EQ(installation_.settings().Get("ParentWindowList", "1"), "&1  Report");
+}
+
+TEST_F(AddWindow, OffersTheLowestFreeTag) {
+  StoreTags({1, 2, 4});
+  Start();
+  const AddWindowDialog dialog = OpenFor("Alpha");
+  EXPECT_EQ(dialog.SelectedTag(), "3");
+  EXPECT_EQ(dialog.State(), "Available");
+}
+
+TEST_F(AddWindow, OffersTagOneWhenAllNineAreAssignedAndReplacesIt) {
+  StoreTags({1, 2, 3, 4, 5, 6, 7, 8, 9});
+  Start();
+  const AddWindowDialog dialog = OpenFor("Alpha");
+  EXPECT_EQ(dialog.SelectedTag(), "1  Window 1");
+  EXPECT_EQ(dialog.State(), "Window 1");
+  EXPECT_TRUE(dialog.RemoveButton().Enabled());
+  ASSERT_TRUE(dialog.Confirm());
+  ExpectTagSelects(1, window_);
+}
+
+TEST_F(AddWindow, RemovesATagAndStaysOpen) {
+  StoreTags({2});
+  Start();
+  const AddWindowDialog dialog = OpenFor("Window 2");
+  ASSERT_TRUE(dialog.SelectTag(2));
+  EXPECT_EQ(dialog.State(), "Window 2");
+  Click(dialog.RemoveButton());
+  EXPECT_TRUE(WaitFor([&] { return dialog.State() == "Available"; }));
+  EXPECT_EQ(dialog.SelectedTag(), "2");
+  EXPECT_FALSE(dialog.RemoveButton().Enabled());
+  ASSERT_TRUE(dialog.Cancel());
+  const Window elsewhere = Open("Elsewhere");
+  ASSERT_TRUE(WorkIn(elsewhere));
+  Press(TagKey(2));
+  EXPECT_TRUE(StaysInFront(elsewhere));
+}
+
+TEST_F(AddWindow, ChangesNothingOnEscape) {
+  Start();
+  const AddWindowDialog dialog = OpenFor("Alpha");
+  ASSERT_TRUE(dialog.Cancel());
+  const Window elsewhere = Open("Elsewhere");
+  ASSERT_TRUE(WorkIn(elsewhere));
+  Press(TagKey(1));
+  EXPECT_TRUE(StaysInFront(elsewhere));
+}
+
+TEST_F(AddWindow, TagsTheMainWindowItself) {
+  Start();
+  ASSERT_TRUE(WorkIn(Open("Alpha")));
+  ASSERT_TRUE(OpenWindowMenu());
+  Press({0, 'U'});
+  const AddWindowDialog dialog(korvale_->Form("frmGetWindow"));
+  ASSERT_TRUE(dialog.form());
+  EXPECT_EQ(dialog.TitleBox().Text(), installation_.name());
+  EXPECT_EQ(dialog.Choices().size(), 1U);
+  ASSERT_TRUE(dialog.Confirm());
+  ExpectTagSelects(1, main());
+}
+
+TEST_F(AddWindow, StoresAWindowWithoutChildWindowsWithoutItsClass) {
+  Start();
+  const Window bare = Open({.title = "Bare", .with_child = false});
+  ASSERT_TRUE(WorkIn(bare));
+  const AddWindowDialog dialog = OpenAddWindow();
+  ASSERT_TRUE(dialog.Confirm());
+  ASSERT_TRUE(Exit());
+  EXPECT_EQ(installation_.settings().Get("ParentWindowList", "1"), "&1  Bare");
+  EXPECT_EQ(installation_.settings().Get("ParentWindowClass", "1").value_or(""), "");
+}
+
+TEST_F(AddWindow, KeepsATitleInAnyScript) {
+  Start();
+  const AddWindowDialog dialog = OpenFor("Счёт №5 - 会計 🧮 & co");
+  EXPECT_EQ(dialog.TitleBox().Text(), "Счёт №5 - 会計 🧮 & co");
+  ASSERT_EQ(dialog.Choices().size(), 3U);
+  EXPECT_EQ(dialog.Choices()[1].Text(), "Счёт №5 - ***");
+  ASSERT_TRUE(dialog.Choose(1));
+  ASSERT_TRUE(dialog.Confirm());
+  ExpectTagSelects(1, window_);
+  ASSERT_TRUE(Exit());
+  EXPECT_EQ(installation_.settings().Get("ParentWindowList", "1"), "&1  Счёт №5 - ***");
+}
+
+}  // namespace
+}  // namespace korvale::endtoend

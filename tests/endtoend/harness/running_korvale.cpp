@@ -1,0 +1,80 @@
+#include "tests/endtoend/harness/running_korvale.h"
+
+#include "tests/endtoend/harness/keyboard.h"
+#include "tests/endtoend/harness/wait.h"
+
+namespace korvale::endtoend {
+namespace {
+
+constexpr char kBoxClass[] = "#32770";
+constexpr char kMenuClass[] = "#32768";
+
+}  // namespace
+
+RunningKorvale::RunningKorvale(const Installation& installation, const std::string& arguments)
+    : process_(Quoted(installation.program()) + arguments, installation.folder()) {}
+
+Window RunningKorvale::Find(const std::string& class_name) const {
+  return FindTopLevel([&](Window window) {
+    return window.ProcessId() == process_.id() && window.Visible() &&
+           window.ClassName() == class_name;
+  });
+}
+
+Window RunningKorvale::Wait(const std::string& class_name) const {
+  Window found;
+  WaitFor([&] { return static_cast<bool>(found = Find(class_name)); });
+  return found;
+}
+
+Window RunningKorvale::Main() const { return Wait("Korvale.frmMain"); }
+
+Window RunningKorvale::Form(const std::string& name) const { return Wait("Korvale." + name); }
+
+bool RunningKorvale::HasForm(const std::string& name) const {
+  return static_cast<bool>(Find("Korvale." + name));
+}
+
+Window RunningKorvale::MessageBox() const { return Wait(kBoxClass); }
+
+bool RunningKorvale::HasMessageBox() const { return static_cast<bool>(Find(kBoxClass)); }
+
+std::vector<Window> RunningKorvale::MessageBoxes(const std::string& title) const {
+  std::vector<Window> boxes = TopLevelWindows();
+  std::erase_if(boxes, [&](Window window) {
+    return window.ProcessId() != process_.id() || window.ClassName() != kBoxClass ||
+           window.Title() != title || !window.Visible();
+  });
+  return boxes;
+}
+
+std::string RunningKorvale::TargetTitle() const {
+  const std::vector<Window> boxes = Main().Controls("Edit");
+  return boxes.size() < 2 ? "" : boxes[0].Text();
+}
+
+std::string RunningKorvale::TargetClass() const {
+  const std::vector<Window> boxes = Main().Controls("Edit");
+  return boxes.size() < 2 ? "" : boxes[1].Text();
+}
+
+Window RunningKorvale::OpenMenu() const { return Wait(kMenuClass); }
+
+bool RunningKorvale::HasMenu() const { return static_cast<bool>(Find(kMenuClass)); }
+
+std::string LabelText(Window dialog) {
+  for (const Window label : dialog.Controls("Static")) {
+    const std::string text = label.Text();
+    if (!text.empty()) return text;
+  }
+  return "";
+}
+
+bool AnswerBox(Window box, int button) {
+  const Window control(GetDlgItem(box.handle(), button));
+  if (!WaitFor([&] { return control.Visible() && control.Enabled(); })) return false;
+  Click(control);
+  return WaitFor([&] { return !box.Exists() || !box.Visible(); });
+}
+
+}  // namespace korvale::endtoend

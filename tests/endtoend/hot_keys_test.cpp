@@ -1,0 +1,78 @@
+#include <algorithm>
+
+#include "tests/endtoend/korvale_test.h"
+
+namespace korvale::endtoend {
+namespace {
+
+constexpr char kClass[] = "Test.Window";
+
+class HotKeys : public KorvaleTest {
+ protected:
+  static bool AllFree() {
+    const std::vector<Chord> chords = AllHotKeys();
+    return std::all_of(chords.begin(), chords.end(), HotKeyIsFree);
+  }
+};
+
+TEST_F(HotKeys, AreAllTakenWhileTheProgramRunsAndFreeAfterwards) {
+  EXPECT_TRUE(AllFree());
+  Start();
+  for (const Chord chord : AllHotKeys()) EXPECT_FALSE(HotKeyIsFree(chord)) << chord.key;
+  ASSERT_TRUE(Exit());
+  EXPECT_TRUE(AllFree());
+}
+
+TEST_F(HotKeys, AreTakenByAnotherProgramAfterTheExit) {
+  Start();
+  EXPECT_FALSE(program_.TakeHotKey(TagKey(1)));
+  ASSERT_TRUE(Exit());
+  EXPECT_TRUE(program_.TakeHotKey(TagKey(1)));
+}
+
+TEST_F(HotKeys, OfDisabledTagsAreLeftToOthersAndTheRestStillSelectTheirWindows) {
+  for (const int tag : {2, 4}) {
+    installation_.StoreTag(tag, "Window " + std::to_string(tag), kClass);
+  }
+  installation_.SetOption("HotKeyParent1", "False");
+  installation_.SetOption("HotKeyParent3", "False");
+  Start();
+  EXPECT_TRUE(HotKeyIsFree(TagKey(1)));
+  EXPECT_TRUE(HotKeyIsFree(TagKey(3)));
+  const Window two = Open("Window 2");
+  const Window four = Open("Window 4");
+  Press(TagKey(2));
+  EXPECT_TRUE(InFront(two));
+  Press(TagKey(4));
+  EXPECT_TRUE(InFront(four));
+}
+
+TEST_F(HotKeys, WithoutAKeyAreNotTaken) {
+  installation_.SetOption("HotKeyGeneral1", "0");
+  Start();
+  EXPECT_TRUE(HotKeyIsFree(kMenuKey));
+  EXPECT_FALSE(HotKeyIsFree(kOptionsKey));
+}
+
+TEST_F(HotKeys, OfTheTagsTakeTheModifierFromTheOptions) {
+  installation_.StoreTag(1, "Alpha", kClass);
+  installation_.SetOption("HotKeyModParent", "2");
+  Start();
+  const Window alpha = Open("Alpha");
+  ASSERT_TRUE(WorkIn(Open("Beta")));
+  EXPECT_TRUE(HotKeyIsFree(TagKey(1)));
+  Press({MOD_CONTROL, '1'});
+  EXPECT_TRUE(InFront(alpha));
+}
+
+TEST_F(HotKeys, OpenTheOptionsDialog) {
+  Start();
+  ASSERT_TRUE(WorkIn(Open("Alpha")));
+  Press(kOptionsKey);
+  const Window options = korvale_->Form("frmOptions");
+  ASSERT_TRUE(options);
+  EXPECT_EQ(options.Title(), "Korvale - Options");
+}
+
+}  // namespace
+}  // namespace korvale::endtoend

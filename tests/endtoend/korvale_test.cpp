@@ -1,0 +1,96 @@
+#include "tests/endtoend/korvale_test.h"
+
+#include "tests/endtoend/harness/files.h"
+
+namespace korvale::endtoend {
+
+using ::testing::AssertionFailure;
+using ::testing::AssertionResult;
+using ::testing::AssertionSuccess;
+
+namespace {
+
+AssertionResult Check(bool holds, const std::string& otherwise) {
+  return holds ? AssertionSuccess() : AssertionFailure() << otherwise;
+}
+
+}  // namespace
+
+std::string Describe(Window window) {
+  if (!window) return "no window";
+  return std::string("'").append(window.Title()).append("' [").append(window.ClassName()) + "]";
+}
+
+void KorvaleTest::Start() {
+  installation_.MarkAsUsed();
+  korvale_.emplace(installation_);
+  const Window window = main();
+  ASSERT_TRUE(window) << "the main window did not come";
+  ASSERT_TRUE(InFront(window));
+}
+
+void KorvaleTest::TearDown() {
+  if (!HasFailure()) return;
+  const ::testing::TestInfo* test = ::testing::UnitTest::GetInstance()->current_test_info();
+  TakePicture(std::string(test->test_suite_name()) + "." + test->name());
+}
+
+AssertionResult KorvaleTest::WorkIn(Window window) {
+  if (!BringToFront(window)) {
+    return AssertionFailure() << Describe(window) << " does not come to the front; "
+                              << Describe(Foreground()) << " is";
+  }
+  return Target(window.Title());
+}
+
+AssertionResult KorvaleTest::InFront(Window window) {
+  return Check(WaitFor([&] { return Foreground() == window; }),
+               Describe(Foreground()) + " is in front, not " + Describe(window));
+}
+
+AssertionResult KorvaleTest::StaysInFront(Window window) {
+  return Check(HoldsFor([&] { return Foreground() == window && !korvale_->HasMessageBox(); }),
+               Describe(Foreground()) + " came instead of " + Describe(window));
+}
+
+AssertionResult KorvaleTest::Target(const std::string& title) {
+  return Check(WaitFor([&] { return korvale_->TargetTitle() == title; }),
+               std::string("the Target Window is '").append(korvale_->TargetTitle()) + "', not '" +
+                   title + "'");
+}
+
+AssertionResult KorvaleTest::Says(const std::string& text) {
+  const Window box = korvale_->MessageBox();
+  if (!box) return AssertionFailure() << "no message; " << Describe(Foreground()) << " is in front";
+  const std::string said = LabelText(box);
+  if (said != text) return AssertionFailure() << "it says '" << said << "', not '" << text << "'";
+  return Check(AnswerBox(box, IDOK) || AnswerBox(box, IDCANCEL), "the message does not go");
+}
+
+AssertionResult KorvaleTest::OpenWindowMenu() {
+  if (!BringToFront(main())) return AssertionFailure() << "the main window does not come";
+  Press({MOD_ALT, 'W'});
+  return Check(static_cast<bool>(korvale_->OpenMenu()), "the menu does not open");
+}
+
+AssertionResult KorvaleTest::PopUpWindowMenu() {
+  Press(kMenuKey);
+  return Check(static_cast<bool>(korvale_->OpenMenu()), "the menu does not pop up");
+}
+
+AddWindowDialog KorvaleTest::OpenAddWindow() {
+  EXPECT_TRUE(OpenWindowMenu());
+  Press({0, 'W'});
+  const AddWindowDialog dialog(korvale_->Form("frmGetWindow"));
+  EXPECT_TRUE(dialog.form()) << "the Add Window dialog did not come";
+  EXPECT_TRUE(InFront(dialog.form()));
+  return dialog;
+}
+
+AssertionResult KorvaleTest::Exit() {
+  if (!BringToFront(main())) return AssertionFailure() << "the main window does not come";
+  Press({MOD_ALT, VK_F4});
+  return Check(korvale_->process().WaitForExit() == 0U, "the program does not end with code 0");
+}
+
+}  // namespace korvale::endtoend

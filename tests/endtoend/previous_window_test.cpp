@@ -1,0 +1,198 @@
+#include "tests/endtoend/korvale_test.h"
+
+namespace korvale::endtoend {
+namespace {
+
+class PreviousWindow : public KorvaleTest {
+ protected:
+  void OpenAlphaAndBeta() {
+    alpha_ = Open("Alpha");
+    ASSERT_TRUE(WorkIn(alpha_));
+    beta_ = Open("Beta");
+    ASSERT_TRUE(WorkIn(beta_));
+  }
+
+  /// Shows the window for as long as three ticks, then goes back to Beta.
+  void VisitAndReturnToBeta(Window visited) {
+    ASSERT_TRUE(BringToFront(visited));
+    ASSERT_TRUE(StaysInFront(visited));
+    ASSERT_TRUE(BringToFront(beta_));
+    ASSERT_TRUE(StaysInFront(beta_));
+  }
+
+  Window alpha_;
+  Window beta_;
+};
+
+TEST_F(PreviousWindow, IsOneKeyAwayThereAndBack) {
+  Start();
+  OpenAlphaAndBeta();
+  Press(TagKey(0));
+  EXPECT_TRUE(InFront(alpha_));
+  EXPECT_TRUE(Target("Alpha"));
+  Press(TagKey(0));
+  EXPECT_TRUE(InFront(beta_));
+}
+
+TEST_F(PreviousWindow, ShowsItsTitleAndClassInTheMainWindow) {
+  Start();
+  const Window window = Open({.title = "Счёт - 会計 🧮", .class_name = "Special.Class"});
+  ASSERT_TRUE(WorkIn(window));
+  EXPECT_EQ(korvale_->TargetTitle(), "Счёт - 会計 🧮");
+  EXPECT_EQ(korvale_->TargetClass(), "Special.Class");
+}
+
+TEST_F(PreviousWindow, StaysTheSameWhileTheMainWindowIsInFront) {
+  Start();
+  OpenAlphaAndBeta();
+  ASSERT_TRUE(BringToFront(main()));
+  ASSERT_TRUE(StaysInFront(main()));
+  EXPECT_EQ(korvale_->TargetTitle(), "Beta");
+  Press(TagKey(0));
+  EXPECT_TRUE(InFront(beta_));
+}
+
+TEST_F(PreviousWindow, IsTheMainWindowForTheUserWhoCameFromIt) {
+  Start();
+  OpenAlphaAndBeta();
+  ASSERT_TRUE(BringToFront(main()));
+  ASSERT_TRUE(StaysInFront(main()));
+  ASSERT_TRUE(BringToFront(alpha_));
+  ASSERT_TRUE(Target("Alpha"));
+  Press(TagKey(0));
+  EXPECT_TRUE(InFront(main()));
+}
+
+TEST_F(PreviousWindow, IsNeverAToolWindow) {
+  Start();
+  OpenAlphaAndBeta();
+  VisitAndReturnToBeta(Open({.title = "Tool", .extended_style = WS_EX_TOOLWINDOW}));
+  Press(TagKey(0));
+  EXPECT_TRUE(InFront(alpha_));
+}
+
+TEST_F(PreviousWindow, IsAToolWindowWhenTheOptionAllowsIt) {
+  installation_.SetOption("AllowToolbarWindow", "True");
+  Start();
+  OpenAlphaAndBeta();
+  const Window tool = Open({.title = "Tool", .extended_style = WS_EX_TOOLWINDOW});
+  ASSERT_TRUE(WorkIn(tool));
+  ASSERT_TRUE(WorkIn(beta_));
+  Press(TagKey(0));
+  EXPECT_TRUE(InFront(tool));
+}
+
+TEST_F(PreviousWindow, IsNeverAnUntitledWindow) {
+  Start();
+  OpenAlphaAndBeta();
+  VisitAndReturnToBeta(Open({.title = ""}));
+  Press(TagKey(0));
+  EXPECT_TRUE(InFront(alpha_));
+}
+
+TEST_F(PreviousWindow, IsShownAsAWindowWithoutATitleWhenTheOptionAllowsIt) {
+  installation_.SetOption("AllowNoTextWindow", "True");
+  Start();
+  OpenAlphaAndBeta();
+  const Window untitled = Open({.title = ""});
+  EXPECT_TRUE(Target("(window without a title)"));
+  ASSERT_TRUE(WorkIn(beta_));
+  Press(TagKey(0));
+  EXPECT_TRUE(InFront(untitled));
+}
+
+TEST_F(PreviousWindow, IsNeverAWindowWithAModalFrame) {
+  Start();
+  OpenAlphaAndBeta();
+  VisitAndReturnToBeta(Open({.title = "Framed", .style = WS_OVERLAPPEDWINDOW | DS_MODALFRAME}));
+  Press(TagKey(0));
+  EXPECT_TRUE(InFront(alpha_));
+}
+
+TEST_F(PreviousWindow, IsAToolWindowThatTheUserTagged) {
+  installation_.StoreTag(1, "Tool", "Test.Window");
+  Start();
+  OpenAlphaAndBeta();
+  const Window tool = Open({.title = "Tool", .extended_style = WS_EX_TOOLWINDOW});
+  ASSERT_TRUE(WorkIn(tool));
+  ASSERT_TRUE(WorkIn(beta_));
+  Press(TagKey(0));
+  EXPECT_TRUE(InFront(tool));
+}
+
+TEST_F(PreviousWindow, IsAModalFrameThatTheUserTagged) {
+  installation_.StoreTag(1, "Framed", "Test.Window");
+  Start();
+  OpenAlphaAndBeta();
+  const Window framed = Open({.title = "Framed", .style = WS_OVERLAPPEDWINDOW | DS_MODALFRAME});
+  ASSERT_TRUE(WorkIn(framed));
+  ASSERT_TRUE(WorkIn(beta_));
+  Press(TagKey(0));
+  EXPECT_TRUE(InFront(framed));
+}
+
+TEST_F(PreviousWindow, IsSelectedAlthoughItsTitleChanged) {
+  Start();
+  OpenAlphaAndBeta();
+  alpha_.SetTitle("Alpha, edited");
+  Press(TagKey(0));
+  EXPECT_TRUE(InFront(alpha_));
+  EXPECT_TRUE(Target("Alpha, edited"));
+}
+
+TEST_F(PreviousWindow, IsRestoredWhenItIsMinimized) {
+  Start();
+  OpenAlphaAndBeta();
+  ShowWindow(alpha_.handle(), SW_MINIMIZE);
+  ASSERT_TRUE(WaitFor([&] { return alpha_.Minimized(); }));
+  ASSERT_TRUE(BringToFront(beta_));
+  Press(TagKey(0));
+  EXPECT_TRUE(InFront(alpha_));
+  EXPECT_TRUE(WaitFor([&] { return !alpha_.Minimized(); }));
+}
+
+TEST_F(PreviousWindow, FallsBackToTheOneBeforeWhenItCloses) {
+  Start();
+  OpenAlphaAndBeta();
+  ASSERT_TRUE(BringToFront(main()));
+  ASSERT_TRUE(StaysInFront(main()));
+  ASSERT_TRUE(beta_.Close());
+  ASSERT_TRUE(OpenWindowMenu());
+  Press({0, VK_ESCAPE});
+  Press({0, VK_ESCAPE});
+  EXPECT_TRUE(Target("Alpha"));
+}
+
+TEST_F(PreviousWindow, IsEmptyWhenBothAreGone) {
+  Start();
+  OpenAlphaAndBeta();
+  ASSERT_TRUE(BringToFront(main()));
+  ASSERT_TRUE(StaysInFront(main()));
+  ASSERT_TRUE(beta_.Close());
+  ASSERT_TRUE(alpha_.Close());
+  ASSERT_TRUE(OpenWindowMenu());
+  Press({0, VK_ESCAPE});
+  Press({0, VK_ESCAPE});
+  EXPECT_TRUE(Target(""));
+  EXPECT_EQ(korvale_->TargetClass(), "");
+}
+
+TEST_F(PreviousWindow, IsTheWindowThatWasInFrontBeforeTheProgramStarted) {
+  ASSERT_TRUE(BringToFront(Open("Earlier")));
+  Start();
+  EXPECT_TRUE(Target("Earlier"));
+}
+
+TEST_F(PreviousWindow, ComesForwardAtTheStartWhenTheOptionSaysSo) {
+  installation_.MarkAsUsed();
+  installation_.SetOption("SelectPrevWinOnStart", "True");
+  const Window earlier = Open("Earlier");
+  korvale_.emplace(installation_);
+  ASSERT_TRUE(main());
+  EXPECT_TRUE(Target("Earlier"));
+  EXPECT_TRUE(InFront(earlier));
+  EXPECT_TRUE(StaysInFront(earlier));
+}
+
+}  // namespace
+}  // namespace korvale::endtoend

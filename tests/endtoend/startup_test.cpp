@@ -1,0 +1,151 @@
+#include "tests/endtoend/korvale_test.h"
+
+namespace korvale::endtoend {
+namespace {
+
+constexpr char kReviewQuestion[] =
+    "Korvale is installed with Hot Keys active.  It is recommended that you review the Hot Keys "
+    "before getting started.";
+
+class StartUp : public KorvaleTest {
+ protected:
+  /// The first-run question, after the question about importing settings, if that is asked.
+  Window ReviewQuestion() {
+    Window question;
+    WaitFor([&] {
+      const std::vector<Window> found = korvale_->MessageBoxes("Korvale - CAUTION");
+      if (!found.empty()) question = found.front();
+      return static_cast<bool>(question);
+    });
+    return question;
+  }
+};
+
+TEST_F(StartUp, TheMainWindowIsNamedAfterTheFolder) {
+  Start();
+  EXPECT_EQ(main().Title(), "Korvale - Probe");
+}
+
+TEST_F(StartUp, AFolderNameInAnyScriptIsKept) {
+  const Installation other("Работа 仕事");
+  other.MarkAsUsed();
+  korvale_.emplace(other);
+  EXPECT_EQ(main().Title(), "Korvale - Работа 仕事");
+}
+
+TEST_F(StartUp, TheFirstRunStoresAllDefaultsBeforeItAsksToReviewTheHotKeys) {
+  korvale_.emplace(installation_);
+  const Window question = ReviewQuestion();
+  ASSERT_TRUE(question);
+  EXPECT_TRUE(LabelText(question).starts_with(kReviewQuestion)) << LabelText(question);
+  EXPECT_TRUE(LabelText(question).ends_with("Do you want to review the Hot Keys now ?"));
+  EXPECT_EQ(installation_.settings().Section("Options").size(), 26U);
+  EXPECT_EQ(installation_.settings().Get("Options", "HotKeyGeneral2"), "19");
+  EXPECT_EQ(installation_.settings().Get("Startup", "WI1BackColor"), "10485759");
+  EXPECT_TRUE(AnswerBox(question, IDNO));
+  EXPECT_TRUE(InFront(main()));
+}
+
+TEST_F(StartUp, TheFirstRunOpensTheOptionsForTheUserWhoWantsToReviewTheHotKeys) {
+  korvale_.emplace(installation_);
+  const Window question = ReviewQuestion();
+  ASSERT_TRUE(question);
+  EXPECT_TRUE(AnswerBox(question, IDYES));
+  EXPECT_TRUE(korvale_->Form("frmOptions"));
+}
+
+TEST_F(StartUp, ALaterRunShowsASplashThatGoesByItself) {
+  installation_.SetOption("SplashScreen", "True");
+  korvale_.emplace(installation_);
+  EXPECT_TRUE(korvale_->Form("frmMsgBox2"));
+  EXPECT_TRUE(WaitFor([&] { return !korvale_->HasForm("frmMsgBox2"); }, std::chrono::seconds(15)));
+  EXPECT_TRUE(main().Visible());
+}
+
+TEST_F(StartUp, ASecondCopyFromTheSameFolderBringsTheFirstForwardAndEnds) {
+  Start();
+  const Window first_main = main();
+  ASSERT_TRUE(WorkIn(Open("Alpha")));
+  const std::map<std::string, std::string> before = installation_.settings().Section("Options");
+  RunningKorvale second(installation_);
+  const Window box = second.MessageBox();
+  ASSERT_TRUE(box);
+  EXPECT_EQ(LabelText(box), "'Korvale - Probe' is already open.");
+  EXPECT_TRUE(AnswerBox(box, IDOK) || AnswerBox(box, IDCANCEL));
+  EXPECT_EQ(second.process().WaitForExit(), 0U);
+  EXPECT_TRUE(InFront(first_main));
+  EXPECT_EQ(installation_.settings().Section("Options"), before);
+  EXPECT_FALSE(HotKeyIsFree(TagKey(1)));
+}
+
+TEST_F(StartUp, TwoCopiesStartedInTheSameInstantEndAsOne) {
+  installation_.MarkAsUsed();
+  korvale_.emplace(installation_);
+  RunningKorvale second(installation_);
+  const auto refused = [&] { return korvale_->HasMessageBox() || second.HasMessageBox(); };
+  ASSERT_TRUE(WaitFor(refused));
+  RunningKorvale& loser = second.HasMessageBox() ? second : *korvale_;
+  RunningKorvale& winner = second.HasMessageBox() ? *korvale_ : second;
+  EXPECT_TRUE(AnswerBox(loser.MessageBox(), IDOK) || AnswerBox(loser.MessageBox(), IDCANCEL));
+  EXPECT_EQ(loser.process().WaitForExit(), 0U);
+  EXPECT_TRUE(winner.Main());
+}
+
+TEST_F(StartUp, ACopyFromAnotherFolderGivesATipAndRuns) {
+  Start();
+  const Installation other("Second");
+  other.MarkAsUsed();
+  other.SetOption("HotKeyModParent", "2");
+  other.StoreTag(1, "Alpha", "Test.Window");
+  RunningKorvale second(other);
+  const Window tip = second.Form("frmMsgTip");
+  ASSERT_TRUE(tip);
+  EXPECT_TRUE(LabelText(tip).starts_with("Another instance of Korvale is currently running.  "));
+  EXPECT_TRUE(LabelText(tip).ends_with("or simply by restarting Korvale."));
+  Press({0, VK_ESCAPE});
+  EXPECT_EQ(second.Main().Title(), "Korvale - Second");
+  EXPECT_TRUE(InFront(second.Main()));
+  const Window alpha = Open("Alpha");
+  ASSERT_TRUE(WorkIn(Open("Beta")));
+  Press({MOD_CONTROL, '1'});
+  EXPECT_TRUE(InFront(alpha));
+}
+
+TEST_F(StartUp, AnArgumentGivesATipAndIsIgnored) {
+  installation_.MarkAsUsed();
+  korvale_.emplace(installation_, " /anything");
+  const Window tip = korvale_->Form("frmMsgTip");
+  ASSERT_TRUE(tip);
+  EXPECT_EQ(LabelText(tip), "Korvale does not accept command line arguments.");
+  ASSERT_TRUE(InFront(tip));
+  Press({0, VK_ESCAPE});
+  EXPECT_TRUE(InFront(main()));
+}
+
+TEST_F(StartUp, BlanksAsArgumentsGiveNoTip) {
+  installation_.MarkAsUsed();
+  korvale_.emplace(installation_, "   ");
+  EXPECT_TRUE(InFront(main()));
+  EXPECT_FALSE(korvale_->HasForm("frmMsgTip"));
+}
+
+TEST_F(StartUp, TheExitStoresTheTagsOfClosedWindowsToo) {
+  installation_.StoreTag(2, "Gone", "Test.Window");
+  Start();
+  ASSERT_TRUE(Exit());
+  EXPECT_EQ(installation_.settings().Get("ParentWindowList", "2"), "&2  Gone");
+}
+
+TEST_F(StartUp, TheEndOfTheSessionEndsTheProgramAsAnExitDoes) {
+  installation_.StoreTag(2, "Gone", "Test.Window");
+  Start();
+  const Window window = main();
+  EXPECT_NE(window.Send(WM_QUERYENDSESSION), 0);
+  installation_.settings().DeleteValue("ParentWindowList", "2");
+  window.Send(WM_ENDSESSION, TRUE);
+  EXPECT_TRUE(WaitFor([] { return HotKeyIsFree(TagKey(1)); }));
+  EXPECT_EQ(installation_.settings().Get("ParentWindowList", "2"), "&2  Gone");
+}
+
+}  // namespace
+}  // namespace korvale::endtoend

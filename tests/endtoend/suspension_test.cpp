@@ -1,0 +1,128 @@
+#include "tests/endtoend/korvale_test.h"
+
+namespace korvale::endtoend {
+namespace {
+
+constexpr char kClass[] = "Test.Window";
+constexpr char kNoticeTitle[] = "Korvale     ";
+constexpr char kNotice[] =
+    "Hot Keys are temporarily suspended when Korvale has a message box or a dialog box displayed.";
+
+class Suspension : public KorvaleTest {
+ protected:
+  Window Notice() {
+    WaitFor([&] { return !korvale_->MessageBoxes(kNoticeTitle).empty(); });
+    const std::vector<Window> notices = korvale_->MessageBoxes(kNoticeTitle);
+    return notices.empty() ? Window() : notices.front();
+  }
+};
+
+TEST_F(Suspension, ShowsItsNoticeOnceHoweverOftenAKeyIsPressed) {
+  installation_.StoreTag(1, "Nowhere", kClass);
+  installation_.StoreTag(2, "Alpha", kClass);
+  Start();
+  const Window alpha = Open("Alpha");
+  ASSERT_TRUE(WorkIn(Open("Beta")));
+  Press(TagKey(1));
+  const Window message = korvale_->MessageBox();
+  ASSERT_TRUE(message);
+  Press(TagKey(2));
+  const Window notice = Notice();
+  ASSERT_TRUE(notice);
+  EXPECT_EQ(LabelText(notice), kNotice);
+  Press(TagKey(2));
+  Press(TagKey(1));
+  EXPECT_TRUE(HoldsFor([&] { return korvale_->MessageBoxes(kNoticeTitle).size() == 1; }));
+  EXPECT_TRUE(AnswerBox(notice, IDOK));
+  EXPECT_TRUE(Says("Window:  [Nowhere]  is not open."));
+  Press(TagKey(2));
+  EXPECT_TRUE(InFront(alpha));
+}
+
+TEST_F(Suspension, HoldsWhileTheAddWindowDialogIsOpen) {
+  installation_.StoreTag(2, "Beta", kClass);
+  Start();
+  ASSERT_TRUE(WorkIn(Open("Alpha")));
+  const Window beta = Open("Beta");
+  ASSERT_TRUE(WorkIn(beta));
+  const AddWindowDialog dialog = OpenAddWindow();
+  Press(TagKey(2));
+  const Window notice = Notice();
+  ASSERT_TRUE(notice);
+  EXPECT_NE(Foreground(), beta);
+  EXPECT_TRUE(AnswerBox(notice, IDOK));
+  EXPECT_TRUE(dialog.Cancel());
+  Press(TagKey(2));
+  EXPECT_TRUE(InFront(beta));
+}
+
+class Toggle : public KorvaleTest {
+ protected:
+  void ExpectNotice(const std::string& title, const std::string& text) {
+    const Window notice = korvale_->Form("frmWaitWindow");
+    ASSERT_TRUE(notice);
+    EXPECT_EQ(notice.Title(), title);
+    EXPECT_EQ(LabelText(notice), text);
+    EXPECT_TRUE(WaitFor([&] { return !korvale_->HasForm("frmWaitWindow"); }));
+  }
+
+  void SwitchOff() {
+    Press(kToggleKey);
+    ExpectNotice("Korvale - Hot Keys (OFF)", "Hot Keys are now Deactivated");
+  }
+
+  void SwitchOn() {
+    Press(kToggleKey);
+    ExpectNotice("Korvale - Hot Keys (ON)", "Hot Keys are now Activated");
+  }
+};
+
+TEST_F(Toggle, SwitchesTheOtherHotKeysOffAndOnAgain) {
+  installation_.StoreTag(3, "Alpha", kClass);
+  Start();
+  const Window alpha = Open("Alpha");
+  const Window beta = Open("Beta");
+  ASSERT_TRUE(WorkIn(beta));
+  SwitchOff();
+  ASSERT_TRUE(BringToFront(beta));
+  Press(TagKey(3));
+  EXPECT_TRUE(StaysInFront(beta));
+  SwitchOn();
+  ASSERT_TRUE(BringToFront(beta));
+  Press(TagKey(3));
+  EXPECT_TRUE(InFront(alpha));
+}
+
+TEST_F(Toggle, LeavesTheKeysToOtherProgramsWhileTheyAreOff) {
+  Start();
+  SwitchOff();
+  EXPECT_TRUE(HotKeyIsFree(TagKey(5)));
+  EXPECT_TRUE(HotKeyIsFree(kMenuKey));
+  EXPECT_FALSE(HotKeyIsFree(kToggleKey));
+  SwitchOn();
+  EXPECT_FALSE(HotKeyIsFree(TagKey(5)));
+  EXPECT_FALSE(HotKeyIsFree(kMenuKey));
+  EXPECT_FALSE(HotKeyIsFree(kToggleKey));
+}
+
+TEST_F(Toggle, TakesAKeyThatAnotherProgramHadAtTheStart) {
+  installation_.StoreTag(5, "Alpha", kClass);
+  const Window alpha = Open("Alpha");
+  std::optional<TestProgram> holder(std::in_place);
+  ASSERT_TRUE(holder->TakeHotKey(TagKey(5)));
+  Start();
+  const Window beta = Open("Beta");
+  ASSERT_TRUE(WorkIn(beta));
+  Press(TagKey(5));
+  EXPECT_TRUE(StaysInFront(beta));
+  holder.reset();
+  ASSERT_TRUE(WaitFor([] { return HotKeyIsFree(TagKey(5)); }));
+  SwitchOff();
+  SwitchOn();
+  ASSERT_TRUE(BringToFront(beta));
+  Press(TagKey(5));
+  EXPECT_TRUE(InFront(alpha));
+}
+
+}  // namespace
+}  // namespace korvale::endtoend
