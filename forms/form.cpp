@@ -26,6 +26,15 @@ int ShowCommand(ShowState state) {
   return win32::kSwShow;
 }
 
+std::vector<ControlRow> InWindowOrder(std::span<const ControlRow> table) {
+  std::vector<ControlRow> rows(table.begin(), table.end());
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    if (rows[i].tabIndex < 0) rows[i].tabIndex = static_cast<int>(i);
+  }
+  std::ranges::stable_sort(rows, {}, &ControlRow::tabIndex);
+  return rows;
+}
+
 ControlState StateFromRow(const ControlRow& row, int id, int container) {
   ControlState state;
   state.id = id;
@@ -59,7 +68,8 @@ class FlagGuard {
 
 }  // namespace
 
-Form::Form(const FormDesign& design, FormCollection& forms) : design_(design), forms_(&forms) {
+Form::Form(const FormDesign& design, FormCollection& forms)
+    : design_(design), rows_(InWindowOrder(design.controls)), forms_(&forms) {
   BuildFromDesign();
 }
 
@@ -80,8 +90,8 @@ void Form::BuildFromDesign() {
   droppedList_ = 0;
   shownBefore_ = false;
   controls_.clear();
-  state_.controls.reserve(design_.controls.size());
-  for (const ControlRow& row : design_.controls) {
+  state_.controls.reserve(rows_.size());
+  for (const ControlRow& row : rows_) {
     const int id = static_cast<int>(state_.controls.size()) + 1;
     state_.controls.push_back(StateFromRow(row, id, ContainerId(row)));
   }

@@ -136,6 +136,8 @@ class Form : public FormEvents {
   /// change by typing) or of a menu entry to its handler, which gets the array index (-1 = none).
   void WhenClicked(std::string_view name, Handler handler);
   void WhenDroppedDown(std::string_view name, Handler handler);
+  /// Binds the closing of a list, with or without a choice; may come before or after the choice.
+  void WhenClosedUp(std::string_view name, Handler handler);
   void WhenMenuOpens(std::string_view name, Handler handler);
   void WhenMenuClicked(std::string_view name, Handler handler);
 
@@ -178,6 +180,7 @@ class Form : public FormEvents {
   const ControlState& StateOf(int control) const;
 
   const FormDesign design_;
+  const std::vector<ControlRow> rows_;  ///< The design's controls in the order of the windows.
   FormCollection* forms_;
   FormState state_;
   TwipsRect place_;
@@ -190,6 +193,7 @@ class Form : public FormEvents {
   std::string tag_;
   Handlers clicked_;
   Handlers droppedDown_;
+  Handlers closedUp_;
   Handlers menuOpens_;
   Handlers menuClicked_;
 };

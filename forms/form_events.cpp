@@ -19,6 +19,10 @@ void Form::WhenDroppedDown(std::string_view name, Handler handler) {
   droppedDown_.insert_or_assign(std::string(name), std::move(handler));
 }
 
+void Form::WhenClosedUp(std::string_view name, Handler handler) {
+  closedUp_.insert_or_assign(std::string(name), std::move(handler));
+}
+
 void Form::WhenMenuOpens(std::string_view name, Handler handler) {
   menuOpens_.insert_or_assign(std::string(name), std::move(handler));
 }
@@ -90,6 +94,7 @@ void Form::OnListDropDown(int control) {
 
 void Form::OnListClosedUp(int control) {
   if (droppedList_ == control) droppedList_ = 0;
+  if (IsLoaded()) RaiseFor(closedUp_, StateOf(control).name, StateOf(control).index);
 }
 
 bool Form::OnKeyDown(int control, int virtualKey, unsigned shift) {

@@ -129,7 +129,7 @@ void Form::KeepFocusReachable() {
 Control* Form::ButtonWithFlag(unsigned flag) {
   for (Control& control : controls_) {
     // The design tells; the flags of the model tell which button is drawn as the default.
-    const unsigned flags = design_.controls[static_cast<std::size_t>(control.Id()) - 1].flags;
+    const unsigned flags = rows_[static_cast<std::size_t>(control.Id()) - 1].flags;
     if ((flags & flag) != 0 && CanTakeInput(control.State())) return &control;
   }
   return nullptr;

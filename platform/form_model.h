@@ -41,7 +41,7 @@ enum ControlFlags : unsigned {
 };
 
 /// One row of a form's control table. Rows stand in the order of the windows, which is the order
-/// of the Tab key; a frame or page stands before what it holds.
+/// of the Tab key, unless `tabIndex` says otherwise; a frame or page stands before what it holds.
 struct ControlRow {
   ControlKind kind;
   const char* name;
@@ -54,6 +54,8 @@ struct ControlRow {
   unsigned flags = kNoFlags;
   Color backColor = kButtonFaceColor;
   Color foreColor = kButtonTextColor;
+  /// Place in the order of the windows, counted from 0; -1 = the row's own place in the table.
+  int tabIndex = -1;
 };
 
 /// An entry of a list with the number that stands for it.
@@ -64,7 +66,7 @@ struct ListItem {
 
 /// What a host needs to know of a control to show it. Changed by the shared form code only.
 struct ControlState {
-  int id = 0;  ///< 1-based position in the table; also the Windows control id.
+  int id = 0;  ///< 1-based position in the order of the windows; also the Windows control id.
   ControlKind kind = ControlKind::kLabel;
   std::string name;
   int index = -1;
