@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "platform/system_api.h"
 
@@ -26,6 +27,10 @@ struct ProgramIdentity {
   /// File name of the executable without its folder.
   std::string executableName;
 };
+
+/// The last component of a folder, closing backslashes left aside: "Work" of "D:\Tools\Work\",
+/// "C:" of a drive's root.
+std::string FolderName(std::string_view folder);
 
 /// Reads the executable's path and version resource.
 ProgramIdentity ReadProgramIdentity(SystemApi& system);

@@ -31,7 +31,12 @@ struct InstallationResult {
   std::int16_t lastAnswer = 0;
 };
 
-/// The rule that gives each installation folder its own settings; runs once before loading.
+/// The rule that gives each installation folder its own settings; runs once before loading, in the
+/// only copy of the installation that is starting. First ends a save that a killed run began.
+///
+/// Settings are taken over as one save: at any moment they stand under one of the two names. They
+/// are the ones of the first registered installation that has settings and whose folder no longer
+/// holds the executable.
 InstallationResult RunInstallationRule(const ProgramIdentity& identity, Settings& settings,
                                        SystemApi& system, MessageBoxes& messages,
                                        const InstallationImport& import);

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 
 #include "app/core/options.h"
 #include "app/core/startup_settings.h"
@@ -17,6 +18,10 @@ struct StoredTagList {
 
 /// Loads and saves everything that the program remembers between runs, one table row a setting.
 /// A value that is missing or cannot be converted yields the setting's default.
+///
+/// A save is made as a whole or not at all, even when the program is killed in the middle of it;
+/// what was begun is ended by FinishInterruptedSave of the next run. Saving throws RunTimeError 70
+/// when the store refuses a value.
 class Settings {
  public:
   Settings(SettingsStore& store, std::string appName);
@@ -26,27 +31,45 @@ class Settings {
   const std::string& AppName() const { return appName_; }
   void SetAppName(std::string appName) { appName_ = std::move(appName); }
 
+  /// Every field of `options` that is stored; the others stay as they are.
   void LoadOptions(clsOptions& options) const;
   void SaveOptions(const clsOptions& options);
   /// Deletes the section "Options" if it holds any values.
   void DeleteOptions();
 
   StartupSettings LoadStartup() const;
+  /// In ascending order of the Tags; without keys other than "1" to "9" and without captions that
+  /// do not begin with "&", the key and two blanks.
   StoredTagList LoadTagList() const;
   /// Deletes the sections of the main window's state, the old ones of earlier designs and the Tag
-  /// list, writes the state, then lets `saveTagList` write the Tag list under AppName().
-  void SaveINI(const StartupSettings& startup, const std::function<void()>& saveTagList);
+  /// list, writes the state, then lets `saveTagList` write the Tag list under AppName() into the
+  /// store that it is given.
+  void SaveINI(const StartupSettings& startup,
+               const std::function<void(SettingsStore&)>& saveTagList);
   /// Only the deletions of SaveINI.
   void DeleteINI();
+  /// Deletes the settings that are not taken over from another installation.
+  void DeletePlacement();
 
   /// True when no section of this installation holds anything.
   bool NothingStored() const;
+
+  /// Everything that `work` saves and deletes, here and through the store that it is given, is made
+  /// as one when it has ended, and none of it when it throws. Until then reads see the store as it
+  /// was. Calls within `work` belong to it.
+  void SaveTogether(const std::function<void(SettingsStore&)>& work);
+
+  /// Ends a save under AppName() that a killed run began, or drops it when it had not got far
+  /// enough. To be called before loading, and by the only running copy of the installation.
+  void FinishInterruptedSave();
 
   SettingsStore& Store() { return *store_; }
 
  private:
   SettingsStore* store_;
   std::string appName_;
+  /// Collects what the running SaveTogether will make; null outside of one.
+  SettingsStore* together_ = nullptr;
 };
 
 }  // namespace korvale

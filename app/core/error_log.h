@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+#include "app/core/identity.h"
+#include "platform/clock.h"
+
+namespace korvale {
+
+/// What every record of the error log says about the running program.
+struct ErrorLogState {
+  /// The main window has been active once.
+  bool firstActivation = false;
+  /// The main window's menu bar is shown.
+  bool menuShown = true;
+  /// Result of the main form's last Yes/No question: 6 Yes, 7 No, 0 none yet.
+  std::int16_t lastAnswer = 0;
+};
+
+/// Appends records to "Error.log" in the program's folder, lines ended by CR LF.
+class ErrorLog {
+ public:
+  /// `state` is asked once a record.
+  ErrorLog(const ProgramIdentity& identity, Clock& clock, std::function<ErrorLogState()> state);
+
+  /// Appends one record; the file is open only meanwhile. When it cannot be opened throws
+  /// RunTimeError 76 (no such folder), 75 (not a file that can be written) or 70 (refused); errors
+  /// while writing are ignored.
+  void Append(const std::string& errorNumber, const std::string& problem,
+              const std::string& locals);
+
+ private:
+  const ProgramIdentity* identity_;
+  Clock* clock_;
+  std::function<ErrorLogState()> state_;
+};
+
+}  // namespace korvale

@@ -1,0 +1,55 @@
+#include "app/core/error_reports.h"
+
+#include <utility>
+
+#include "platform/run_time_error.h"
+#include "platform/win32_constants.h"
+#include "util/text.h"
+
+namespace korvale {
+namespace {
+
+std::string PlaceText(ErrorPlace place) { return DecimalText(static_cast<std::int16_t>(place)); }
+
+std::string RunTimeErrorText(std::int16_t number) {
+  return "VB ERROR " + DecimalText(number) + " - " + RunTimeErrorDescription(number);
+}
+
+// For the last steps of a program that ends whatever they come to.
+void RunAndForgetErrors(const std::function<void()>& step) {
+  try {
+    step();
+  } catch (...) {
+    return;
+  }
+}
+
+}  // namespace
+
+ErrorReports::ErrorReports(const ProgramIdentity& identity, MessageBoxes& messages, ErrorLog& log,
+                           std::function<void()> shutDown)
+    : identity_(&identity), messages_(&messages), log_(&log), shutDown_(std::move(shutDown)) {}
+
+void ErrorReports::udmNonFatalError(ErrorPlace intErrorNumber, std::int16_t intVB_ErrNumber) {
+  Show(RunTimeErrorText(intVB_ErrNumber) + "\r\r" + identity_->productName + " Error #" +
+       PlaceText(intErrorNumber));
+}
+
+void ErrorReports::udmFatalError(ErrorPlace intErrorNumber, std::int16_t intVB_ErrNumber,
+                                 const FatalErrorTexts& texts) {
+  const std::string runTimeError = intVB_ErrNumber != 0 ? RunTimeErrorText(intVB_ErrNumber) : "";
+  const std::string place = PlaceText(intErrorNumber);
+  Show(runTimeError + "\r\r" + identity_->productName + " Error #" + place + "\r" +
+       texts.strUserMessage);
+  const std::string problem = runTimeError + " -- " + texts.strDescForErrorLog;
+  RunAndForgetErrors([&] { log_->Append(place, problem, texts.strLocalsForErrorLog); });
+  RunAndForgetErrors(shutDown_);
+  throw ProgramEnded();
+}
+
+void ErrorReports::Show(const std::string& text) {
+  messages_->ShowMessageBox(text, win32::kMbOk | win32::kMbSetForeground,
+                            identity_->messageTitle + " - ERROR");
+}
+
+}  // namespace korvale

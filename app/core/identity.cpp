@@ -1,0 +1,39 @@
+#include "app/core/identity.h"
+
+#include <cstddef>
+#include <string_view>
+
+#include "util/text.h"
+
+namespace korvale {
+namespace {
+
+std::string VersionText(const VersionInfo& version) {
+  return DecimalText(version.major) + "." + PadText(DecimalText(version.minor), 2, "LEFT_ZEROES") +
+         "." + PadText(DecimalText(version.revision), 4, "LEFT_ZEROES");
+}
+
+}  // namespace
+
+std::string FolderName(std::string_view folder) {
+  while (folder.ends_with('\\')) folder.remove_suffix(1);
+  const std::size_t separator = folder.rfind('\\');
+  return std::string(separator == std::string_view::npos ? folder : folder.substr(separator + 1));
+}
+
+ProgramIdentity ReadProgramIdentity(SystemApi& system) {
+  ProgramIdentity identity;
+  const std::string path = system.GetModuleFileNameA();
+  const std::size_t nameStart = path.rfind('\\') + 1;  // npos + 1 is 0: the whole path is the name
+  identity.programFolder = path.substr(0, nameStart);
+  identity.executableName = path.substr(nameStart);
+  identity.installationFolderName = FolderName(identity.programFolder);
+  const VersionInfo version = system.GetFileVersionInfoA();
+  identity.versionText = VersionText(version);
+  identity.legalNotice = version.legalCopyright;
+  identity.fileDescription = version.fileDescription;
+  identity.mainCaption = identity.productName + " - " + identity.installationFolderName;
+  return identity;
+}
+
+}  // namespace korvale

@@ -1,0 +1,147 @@
+#include "app/core/installation.h"
+
+#include <string_view>
+
+#include "platform/win32_constants.h"
+#include "util/text.h"
+
+namespace korvale {
+namespace {
+
+constexpr const char* kRegisterSection = "0";
+
+std::string WithoutClosingBackslash(std::string_view folder) {
+  while (folder.ends_with('\\')) folder.remove_suffix(1);
+  return std::string(folder);
+}
+
+/// Points the settings at another installation and back again, however the scope is left.
+class PointedAt {
+ public:
+  PointedAt(Settings& settings, const std::string& appName)
+      : settings_(settings), own_(settings.AppName()) {
+    settings_.SetAppName(appName);
+  }
+  ~PointedAt() { settings_.SetAppName(own_); }
+  PointedAt(const PointedAt&) = delete;
+  PointedAt& operator=(const PointedAt&) = delete;
+
+ private:
+  Settings& settings_;
+  std::string own_;
+};
+
+class InstallationRule {
+ public:
+  InstallationRule(const ProgramIdentity& identity, Settings& settings, SystemApi& system,
+                   MessageBoxes& messages)
+      : identity_(identity),
+        settings_(settings),
+        system_(system),
+        messages_(messages),
+        folder_(WithoutClosingBackslash(identity.programFolder)) {}
+
+  InstallationResult Run(const InstallationImport& import) {
+    InstallationResult result;
+    settings_.FinishInterruptedSave();
+    result.firstRun = settings_.NothingStored();
+    const auto installations =
+        settings_.Store().GetAllSettings(kInstallationRegister, kRegisterSection);
+    if (NameIsTaken(installations)) {
+      ShowNameIsTaken();
+      result.mustEnd = true;
+      return result;
+    }
+    // Without an entry only the rule about equal names is lost; no reason not to start.
+    settings_.Store().SaveSetting(kInstallationRegister, kRegisterSection, settings_.AppName(),
+                                  folder_);
+    if (!result.firstRun) return result;
+    const std::string other = FirstToTakeOver(installations);
+    if (other.empty()) return result;
+    result.lastAnswer = AskForImport(other);
+    if (result.lastAnswer == win32::kIdYes) Import(other, import);
+    return result;
+  }
+
+ private:
+  bool HoldsExecutable(const std::string& folder) {
+    return system_.FileExists(WithoutClosingBackslash(folder) + "\\" + identity_.executableName);
+  }
+
+  bool NameIsTaken(const SettingsStore::Pairs& installations) {
+    for (const auto& [name, folder] : installations) {
+      if (EqualsIgnoreCase(FolderName(folder), identity_.installationFolderName) &&
+          !EqualsIgnoreCase(WithoutClosingBackslash(folder), folder_) && HoldsExecutable(folder)) {
+        return true;
+      }
+    }
+    return false;
+  }
+
+  void ShowNameIsTaken() {
+    const std::string& product = identity_.productName;
+    messages_.ShowMessageBox(
+        "An installation in a folder named '" + identity_.installationFolderName +
+            "' already exists.  " + product +
+            " does not support two installations with the same folder name.  Please rename the "
+            "folder then re-run " +
+            product + ".",
+        win32::kMbOk, identity_.messageTitle);
+  }
+
+  /// The first installation that has left its folder and its settings behind; "" when none has.
+  std::string FirstToTakeOver(const SettingsStore::Pairs& installations) {
+    for (const auto& [name, folder] : installations) {
+      if (name.empty() || EqualsIgnoreCase(name, settings_.AppName())) continue;
+      if (HoldsExecutable(folder)) continue;
+      const PointedAt other(settings_, name);
+      settings_.FinishInterruptedSave();
+      if (!settings_.NothingStored()) return name;
+    }
+    return "";
+  }
+
+  std::int16_t AskForImport(const std::string& other) {
+    const std::string& product = identity_.productName;
+    return messages_.ShowMessageBox("Do you want to import common settings and options from " +
+                                        other + " into this installation of " + product + " ?",
+                                    win32::kMbYesNo, identity_.messageTitle);
+  }
+
+  /// All of it is one save: the other installation's settings are never gone before they stand
+  /// under this installation's name.
+  void Import(const std::string& other, const InstallationImport& import) {
+    settings_.SaveTogether([&](SettingsStore& store) {
+      {
+        const PointedAt from(settings_, other);
+        import.udmLoadOptions();
+        import.loadStartupSettings();
+      }
+      import.udmSaveOptions();
+      import.udmSaveINI();
+      store.DeleteSetting(kInstallationRegister, kRegisterSection, other);
+      {
+        const PointedAt removed(settings_, other);
+        settings_.DeleteINI();
+        settings_.DeleteOptions();
+      }
+      settings_.DeletePlacement();
+    });
+  }
+
+  const ProgramIdentity& identity_;
+  Settings& settings_;
+  SystemApi& system_;
+  MessageBoxes& messages_;
+  std::string folder_;
+};
+
+}  // namespace
+
+InstallationResult RunInstallationRule(const ProgramIdentity& identity, Settings& settings,
+                                       SystemApi& system, MessageBoxes& messages,
+                                       const InstallationImport& import) {
+  return InstallationRule(identity, settings, system, messages).Run(import);
+}
+
+}  // namespace korvale

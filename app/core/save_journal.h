@@ -1,0 +1,41 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "app/core/store_changes.h"
+#include "platform/settings_store.h"
+
+namespace korvale {
+
+/// Section that holds the changes of a save while it is being made; gone once it is done.
+inline constexpr const char* kJournalSection = "Saving";
+
+/// Makes several changes as one: a program killed between any two writes leaves behind either
+/// nothing of them, or what FinishInterrupted needs to make the rest.
+///
+/// All changes are first written into the journal section with a mark at the end that counts them,
+/// then made, then the journal is deleted. Making them twice leads to the same state.
+class SaveJournal {
+ public:
+  /// The journal stands under `appName`; the changes may concern any application name.
+  SaveJournal(SettingsStore& store, std::string appName);
+
+  /// Makes the changes in their order. Throws RunTimeError 70 (Permission denied) when the store
+  /// refused a value: with no change made when the journal could not be written, otherwise after
+  /// all other changes.
+  void Commit(const std::vector<StoreChange>& changes);
+
+  /// Makes all changes of a complete journal that was left behind and removes it; drops an
+  /// incomplete one. Does nothing when there is none.
+  void FinishInterrupted();
+
+ private:
+  bool Write(const std::vector<StoreChange>& changes);
+  bool Apply(const std::vector<StoreChange>& changes);
+
+  SettingsStore* store_;
+  std::string appName_;
+};
+
+}  // namespace korvale

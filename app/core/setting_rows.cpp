@@ -1,0 +1,127 @@
+#include "app/core/setting_rows.h"
+
+#include <array>
+#include <cstddef>
+#include <type_traits>
+
+#include "util/text.h"
+
+namespace korvale {
+namespace {
+
+template <auto Member>
+SettingField Option(clsOptions& options) {
+  return &(options.*Member);
+}
+
+template <auto Member, std::size_t Index>
+SettingField OptionAt(clsOptions& options) {
+  return &(options.*Member)[Index];
+}
+
+template <auto Member>
+SettingField Startup(StartupSettings& startup) {
+  return &(startup.*Member);
+}
+
+template <std::size_t Tag>
+constexpr auto kTagEnabled = OptionAt<&clsOptions::booHotKeyParent, Tag>;
+
+constexpr std::array kOptionRows = std::to_array<SettingRow<clsOptions>>({
+    {kOptionsSection, "SplashScreen", Option<&clsOptions::booSplashScreen>},
+    {kOptionsSection, "SelectPrevWinOnStart", Option<&clsOptions::booSelectPrevWinOnStart>},
+    {kOptionsSection, "AllowNoTextWindow", Option<&clsOptions::booAllowNoTextWindow>},
+    {kOptionsSection, "AllowToolbarWindow", Option<&clsOptions::booAllowToolbarWindow>},
+    {kOptionsSection, "HotKeyEnabled", Option<&clsOptions::colHotKeyEnabled>},
+    {kOptionsSection, "HotKeyModParent", Option<&clsOptions::intHotKeyModParent>},
+    {kOptionsSection, "HotKeyParent0", kTagEnabled<0>},
+    {kOptionsSection, "HotKeyParent1", kTagEnabled<1>},
+    {kOptionsSection, "HotKeyParent2", kTagEnabled<2>},
+    {kOptionsSection, "HotKeyParent3", kTagEnabled<3>},
+    {kOptionsSection, "HotKeyParent4", kTagEnabled<4>},
+    {kOptionsSection, "HotKeyParent5", kTagEnabled<5>},
+    {kOptionsSection, "HotKeyParent6", kTagEnabled<6>},
+    {kOptionsSection, "HotKeyParent7", kTagEnabled<7>},
+    {kOptionsSection, "HotKeyParent8", kTagEnabled<8>},
+    {kOptionsSection, "HotKeyParent9", kTagEnabled<9>},
+    {kOptionsSection, "HotKeyModAction0", OptionAt<&clsOptions::intHotKeyModAction, 0>},
+    {kOptionsSection, "HotKeyModAction1", OptionAt<&clsOptions::intHotKeyModAction, 1>},
+    {kOptionsSection, "HotKeyAction0", OptionAt<&clsOptions::intHotKeyAction, 0>},
+    {kOptionsSection, "HotKeyAction1", OptionAt<&clsOptions::intHotKeyAction, 1>},
+    {kOptionsSection, "HotKeyModGeneral0", OptionAt<&clsOptions::intHotKeyModGeneral, 0>},
+    {kOptionsSection, "HotKeyModGeneral1", OptionAt<&clsOptions::intHotKeyModGeneral, 1>},
+    {kOptionsSection, "HotKeyModGeneral2", OptionAt<&clsOptions::intHotKeyModGeneral, 2>},
+    {kOptionsSection, "HotKeyGeneral0", OptionAt<&clsOptions::intHotKeyGeneral, 0>},
+    {kOptionsSection, "HotKeyGeneral1", OptionAt<&clsOptions::intHotKeyGeneral, 1>},
+    {kOptionsSection, "HotKeyGeneral2", OptionAt<&clsOptions::intHotKeyGeneral, 2>},
+});
+
+constexpr std::array kStartupRows = std::to_array<SettingRow<StartupSettings>>({
+    {kStartupSection, "WindowState", Startup<&StartupSettings::WindowState>, OnImport::kDrop, 0, 2},
+    {kStartupSection, "Left", Startup<&StartupSettings::Left>, OnImport::kDrop},
+    {kStartupSection, "Top", Startup<&StartupSettings::Top>, OnImport::kDrop},
+    {kStartupSection, "Width", Startup<&StartupSettings::Width>, OnImport::kDrop},
+    {kStartupSection, "Height", Startup<&StartupSettings::Height>, OnImport::kDrop},
+    {kStartupSection, "AlwaysOnTop", Startup<&StartupSettings::AlwaysOnTop>},
+    {kStartupSection, "WI1BackColor", Startup<&StartupSettings::WI1BackColor>},
+    {kStartupSection, "WI2BackColor", Startup<&StartupSettings::WI2BackColor>},
+    {kStartupSection, "Tips", Startup<&StartupSettings::Tips>},
+    {kStartupSection, "DisplayTips", Startup<&StartupSettings::DisplayTips>, OnImport::kDrop},
+    {kStartupSection, "LastColorSelected", Startup<&StartupSettings::LastColorSelected>},
+    {kStartupSection, "Menu", Startup<&StartupSettings::Menu>},
+    {kStartupSection, "OptionsTab", Startup<&StartupSettings::OptionsTab>, OnImport::kKeep, 1, 3},
+    {kStartupSection, "WindowInfo", Startup<&StartupSettings::WindowInfo>},
+});
+
+template <typename Value>
+std::optional<Value> Converted(const std::string& text, std::int32_t least, std::int32_t most) {
+  if constexpr (std::is_same_v<Value, bool>) {
+    return ParseBoolean(text);
+  } else if constexpr (std::is_same_v<Value, std::string>) {
+    return text;
+  } else {
+    std::optional<Value> number;
+    if constexpr (std::is_same_v<Value, std::int16_t>) {
+      number = ParseInt16(text);
+    } else {
+      number = ParseInt32(text);
+    }
+    if (number && (*number < least || *number > most)) number.reset();
+    return number;
+  }
+}
+
+}  // namespace
+
+std::span<const SettingRow<clsOptions>> OptionRows() { return kOptionRows; }
+
+std::span<const SettingRow<StartupSettings>> StartupRows() { return kStartupRows; }
+
+bool ReadSetting(const std::optional<std::string>& stored, SettingField field, std::int32_t least,
+                 std::int32_t most) {
+  if (!stored) return false;
+  return std::visit(
+      [&](auto* target) {
+        const auto value = Converted<std::remove_pointer_t<decltype(target)>>(*stored, least, most);
+        if (value) *target = *value;
+        return value.has_value();
+      },
+      field);
+}
+
+std::string SettingText(SettingField field) {
+  struct Text {
+    std::string operator()(const bool* value) const { return *value ? "True" : "False"; }
+    std::string operator()(const std::int16_t* value) const { return DecimalText(*value); }
+    std::string operator()(const std::int32_t* value) const { return DecimalText(*value); }
+    std::string operator()(const std::string* value) const { return *value; }
+  };
+  return std::visit(Text(), field);
+}
+
+void CopySetting(SettingField from, SettingField to) {
+  std::visit(
+      [&](auto* target) { *target = *std::get<std::remove_cvref_t<decltype(target)>>(from); }, to);
+}
+
+}  // namespace korvale
