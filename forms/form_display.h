@@ -32,17 +32,23 @@ class FormDisplay {
               Suspension& suspension, const bool& alwaysOnTop);
 
   /// Shows the form above its owner until it closes, and returns its result string (its tag then).
-  /// Hot keys are suspended meanwhile. `milliseconds` is how long the form may take to become the
-  /// foreground window before it is left where Windows put it.
+  /// Hot keys are suspended meanwhile. When no other window has taken the foreground by then, the
+  /// one that had it before gets it back. `milliseconds` has no effect: Windows grants or refuses
+  /// the foreground at once. A form that is shown already is only brought to the front.
   std::string ShowFormModal(Form& form, const DisplaySwitches& switches, std::int32_t milliseconds,
                             const PlaceHints& hints, Form* owner);
 
-  /// Places a loaded form and brings it to the front.
+  /// Brings a loaded form to the front; does nothing when it is not loaded. A form that the user
+  /// already sees stays where it is, a minimized one is restored.
   void ShowFormNonModal(Form& form, const DisplaySwitches& switches, Form* owner);
 
  private:
   void PlaceForm(Form& form, const DisplaySwitches& switches, const PlaceHints& hints, Form* owner);
+  void KeepInWorkArea(Form& form);
   void BringToFront(Form& form, const DisplaySwitches& switches);
+  void FollowTopmost(WindowHandle hwnd);
+  void GiveForegroundBack(WindowHandle before);
+  bool IsOwnForm(WindowHandle hwnd) const;
 
   FormCollection* forms_;
   WindowQueries* windows_;

@@ -1,0 +1,136 @@
+#include "forms/form_display.h"
+
+#include <algorithm>
+
+#include "platform/win32_constants.h"
+
+namespace korvale {
+namespace {
+
+/// Sets a flag for a scope and puts its former value back, also when an error leaves the scope.
+class RaisedFlag {
+ public:
+  explicit RaisedFlag(bool& flag) : flag_(&flag), before_(flag) { flag = true; }
+  ~RaisedFlag() { *flag_ = before_; }
+  RaisedFlag(const RaisedFlag&) = delete;
+  RaisedFlag& operator=(const RaisedFlag&) = delete;
+
+ private:
+  bool* flag_;
+  bool before_;
+};
+
+void MoveTo(Form& form, Twips left, Twips top) {
+  TwipsRect place = form.Place();
+  place.left = left;
+  place.top = top;
+  form.SetPlace(place);
+}
+
+/// Where something of this length begins when it stands in the middle.
+Twips Centred(Twips start, Twips room, Twips length) { return start + (room - length) / 2; }
+
+/// The nearest beginning inside the room; what is longer than the room begins with it.
+Twips Inside(Twips wished, Twips start, Twips room, Twips length) {
+  return std::max(start, std::min(wished, start + room - length));
+}
+
+bool CanBeCentredOn(const Form* owner) {
+  return owner != nullptr && owner->IsLoaded() && owner->Visible() &&
+         owner->WindowState() != ShowState::kMinimized;
+}
+
+}  // namespace
+
+FormDisplay::FormDisplay(FormCollection& forms, WindowQueries& windows, WindowCommands& commands,
+                         Suspension& suspension, const bool& alwaysOnTop)
+    : forms_(&forms),
+      windows_(&windows),
+      commands_(&commands),
+      suspension_(&suspension),
+      alwaysOnTop_(&alwaysOnTop) {}
+
+std::string FormDisplay::ShowFormModal(Form& form, const DisplaySwitches& switches,
+                                       std::int32_t /*milliseconds*/, const PlaceHints& hints,
+                                       Form* owner) {
+  if (form.Visible()) {
+    // A second loop for the same form would never see its end.
+    BringToFront(form, switches);
+    return form.Tag();
+  }
+  const WindowHandle before = windows_->GetForegroundWindow();
+  {
+    const RaisedFlag shown(suspension_->DialogShown);
+    form.Load();
+    PlaceForm(form, switches, hints, owner);
+    form.Show();
+    BringToFront(form, switches);
+    // It may have gone already in answer to its activation; showing it would load it anew.
+    if (form.IsLoaded()) form.ShowModal();
+  }
+  GiveForegroundBack(before);
+  return form.Tag();
+}
+
+void FormDisplay::ShowFormNonModal(Form& form, const DisplaySwitches& switches, Form* owner) {
+  if (!form.IsLoaded()) return;
+  if (!form.Visible()) {
+    PlaceForm(form, switches, {}, owner);
+    form.Show();
+  } else if (form.WindowState() == ShowState::kMinimized) {
+    form.SetWindowState(ShowState::kNormal);
+  } else if (switches.keepInWorkArea != 0) {
+    KeepInWorkArea(form);
+  }
+  BringToFront(form, switches);
+}
+
+void FormDisplay::PlaceForm(Form& form, const DisplaySwitches& switches, const PlaceHints& hints,
+                            Form* owner) {
+  const bool onOwner = switches.centerOnOwner != 0 && CanBeCentredOn(owner);
+  const TwipsRect room = onOwner ? owner->State().place
+                                 : forms_->Host().GetMonitorInfoW(windows_->GetForegroundWindow());
+  const TwipsRect size = form.State().place;
+  MoveTo(form, hints.left != -1 ? hints.left : Centred(room.left, room.width, size.width),
+         hints.top != -1 ? hints.top : Centred(room.top, room.height, size.height));
+  if (switches.keepInWorkArea != 0) KeepInWorkArea(form);
+}
+
+void FormDisplay::KeepInWorkArea(Form& form) {
+  const TwipsRect area = forms_->Host().GetMonitorInfoW(form.Handle());
+  const TwipsRect place = form.State().place;
+  MoveTo(form, Inside(place.left, area.left, area.width, place.width),
+         Inside(place.top, area.top, area.height, place.height));
+}
+
+void FormDisplay::BringToFront(Form& form, const DisplaySwitches& switches) {
+  if (form.IsLoaded() && switches.followTopmost != 0) FollowTopmost(form.Handle());
+  if (form.IsLoaded() && switches.takeForeground != 0) {
+    commands_->SetForegroundWindow(form.Handle());
+  }
+}
+
+void FormDisplay::FollowTopmost(WindowHandle hwnd) {
+  const bool topmost =
+      (windows_->GetWindowLongA(hwnd, win32::kGwlExStyle) & win32::kWsExTopmost) != 0;
+  // A window without the style that is told so once more would come before its neighbours.
+  if (!*alwaysOnTop_ && !topmost) return;
+  commands_->SetWindowPos(hwnd, *alwaysOnTop_ ? win32::kHwndTopmost : win32::kHwndNoTopmost, 0, 0,
+                          0, 0, win32::kSwpNoMove | win32::kSwpNoSize);
+}
+
+void FormDisplay::GiveForegroundBack(WindowHandle before) {
+  const WindowHandle now = windows_->GetForegroundWindow();
+  if (before == 0 || now == before || (now != 0 && !IsOwnForm(now))) return;
+  if (windows_->IsWindow(before) && windows_->IsWindowVisible(before) &&
+      windows_->IsWindowEnabled(before)) {
+    commands_->SetForegroundWindow(before);
+  }
+}
+
+bool FormDisplay::IsOwnForm(WindowHandle hwnd) const {
+  return std::ranges::any_of(forms_->List(),
+                             [&](const LoadedForm& form) { return form.handle == hwnd; });
+}
+
+}  // namespace korvale

@@ -1,0 +1,239 @@
+#include "forms/get_window_form.h"
+
+#include <utility>
+
+#include "desktop/window_readers.h"
+#include "forms/get_window_design.h"
+#include "forms/shortened_text.h"
+#include "platform/win32_constants.h"
+#include "util/text.h"
+
+namespace korvale {
+namespace {
+
+constexpr const char* kSeparator = " - ";
+constexpr const char* kLeftTail = " - ***";
+constexpr const char* kRightHead = "*** - ";
+
+constexpr Color kRed = 255;
+constexpr Color kBlue = 0xC00000;
+
+constexpr Twips kDroppedWidth = 4785;
+constexpr Twips kHeightWithoutChildSection = 3465;
+constexpr Twips kButtonTopWithoutChildSection = 2700;
+
+// What the label and the option buttons have room for.
+constexpr int kLabelColumns = 50;
+constexpr int kChoiceColumns = 72;
+
+/// What a Tag of the list stands for, "" when it is free.
+std::string AssignedText(std::string_view item) {
+  return item.empty() ? "" : Trim(MidCharacters(item, 2));
+}
+
+std::string ShownChoice(int index, const std::string& identification) {
+  if (index != 1) return ShortenedText(identification, kChoiceColumns);
+  const std::string_view left =
+      std::string_view(identification)
+          .substr(0, identification.size() - std::string_view(kLeftTail).size());
+  return ShortenedText(left, kChoiceColumns, kLeftTail);
+}
+
+}  // namespace
+
+frmGetWindow::frmGetWindow(FormCollection& forms, AddWindowContext context)
+    : Form(GetWindowDesign(), forms), context_(context) {
+  WhenClicked("cmdOK", [this](int) { cmdOK_Click(); });
+  WhenClicked("cmdClose", [this](int) { cmdClose_Click(); });
+  WhenClicked("cmdRemove", [this](int) { cmdRemove_Click(); });
+  WhenClicked("cboWindow", [this](int) { cboWindow_Click(); });
+  WhenClicked("txtWindow", [this](int) { SetChoice(0, Find("txtWindow").Text()); });
+  WhenDroppedDown("cboWindow", [this](int) { cboWindow_DropDown(); });
+  // A list that is closed without a choice must not stay wide with Remove disabled.
+  WhenClosedUp("cboWindow", [this](int) { cboWindow_Click(); });
+}
+
+void frmGetWindow::PrepareForWindowMenu(std::string_view applicationTitle) {
+  SetCaption(std::string(applicationTitle) + " - Add Window");
+  for (const char* const name : {"lblChildWindow", "Line3", "chkChildWindow", "cboChildWindow"}) {
+    Find(name).SetVisible(false);
+  }
+  Find("lblIdentifyWindow").SetText("Identify &Window");
+  TwipsRect place = Place();
+  place.height = kHeightWithoutChildSection;
+  SetPlace(place);
+  Find("cmdOK").SetTop(kButtonTopWithoutChildSection);
+  Find("cmdClose").SetTop(kButtonTopWithoutChildSection);
+}
+
+void frmGetWindow::Form_Load() {
+  activatedBefore_ = false;
+  designWidthOfTags_ = Find("cboWindow").Place().width;
+  FillTags();
+  SelectLowestFreeTag();
+  ShowTagState();
+  switch (std::exchange(context_.mode, AddWindowMode::kNone)) {
+    case AddWindowMode::kPreviousWindow:
+      LoadPreviousWindow();
+      break;
+    case AddWindowMode::kThisWindow:
+    case AddWindowMode::kNone:
+      LoadThisWindow();
+      break;
+  }
+  Find("optWindow", 0).SetValue(1);
+}
+
+void frmGetWindow::FillTags() {
+  Control& tags = Find("cboWindow");
+  for (int tag = 1; tag <= kTagCount; ++tag) tags.AddItem(DecimalText(tag), tag);
+  context_.tags.mnuWindowParentList.ForEach([&](const MenuItem& entry) {
+    if (entry.index < 1 || entry.index > kTagCount) return;
+    std::string text = IdentificationText(entry);
+    if (text.empty()) text = "(window without a title)";
+    tags.SetItemText(entry.index - 1, DecimalText(entry.index) + "  " + text);
+  });
+}
+
+void frmGetWindow::SelectLowestFreeTag() {
+  Control& tags = Find("cboWindow");
+  int lowest = 0;
+  for (int i = kTagCount - 1; i >= 0; --i) {
+    if (AssignedText(tags.Items()[static_cast<std::size_t>(i)].text).empty()) lowest = i;
+  }
+  tags.SetListIndex(lowest);
+}
+
+void frmGetWindow::ShowTagState() {
+  const std::string text = AssignedText(Find("cboWindow").SelectedText());
+  Control& lblWindow = Find("lblWindow");
+  lblWindow.SetText(text.empty() ? "Available" : ShortenedText(text, kLabelColumns));
+  lblWindow.SetForeColor(text.empty() ? kBlue : kRed);
+  Find("cmdRemove").SetEnabled(!text.empty());
+}
+
+void frmGetWindow::LoadPreviousWindow() {
+  SetTag("PREVIOUS_WINDOW");
+  const WindowTriple& previous = context_.previous.current;
+  window_ = previous.handle;
+  Find("txtWindow").SetText(previous.text);
+  Find("txtWindowClass").SetText(previous.className);
+  SetChoice(0, previous.text);
+  if (previous.text.empty()) {
+    HidePortions();
+  } else {
+    OfferPortions(previous.text);
+  }
+}
+
+void frmGetWindow::LoadThisWindow() {
+  SetTag("THIS_WINDOW");
+  window_ = context_.mainWindow.MainHandle();
+  const std::string title = context_.mainWindow.MainCaption();
+  Find("txtWindow").SetText(title);
+  Find("txtWindowClass").SetText(GetWindowClass(context_.windows, window_));
+  SetChoice(0, title);
+  HidePortions();
+}
+
+void frmGetWindow::OfferPortions(const std::string& title) {
+  const std::size_t first = title.find(kSeparator);
+  const std::size_t last = title.rfind(kSeparator);
+  const bool whole = first == std::string::npos;
+  SetChoice(1, title.substr(0, first) + kLeftTail);
+  SetChoice(
+      2, kRightHead + (whole ? title : title.substr(last + std::string_view(kSeparator).size())));
+}
+
+void frmGetWindow::HidePortions() {
+  Find("optWindow", 1).SetVisible(false);
+  Find("optWindow", 2).SetVisible(false);
+}
+
+void frmGetWindow::SetChoice(int index, std::string identification) {
+  Find("optWindow", index).SetText(ShownChoice(index, identification));
+  choices_[static_cast<std::size_t>(index)] = std::move(identification);
+}
+
+std::string frmGetWindow::ChosenIdentification() const {
+  for (std::size_t i = 0; i < choices_.size(); ++i) {
+    if (Find("optWindow", static_cast<int>(i)).Value() == 1) return choices_[i];
+  }
+  return choices_.front();
+}
+
+void frmGetWindow::cmdOK_Click() {
+  SetChoice(0, Find("txtWindow").Text());
+  const Control& tags = Find("cboWindow");
+  if (tags.ListIndex() < 0) return;
+  const int tag = tags.SelectedText().front() - '0';
+  RemoveEntry(tags.SelectedItemData());
+  const bool ofChild = Find("chkChildWindow").Value() == 1;
+  AddEntry(tag, (ofChild ? "" : "&") + DecimalText(tag) + "  " + ChosenIdentification());
+  cmdClose_Click();
+}
+
+void frmGetWindow::AddEntry(int tag, const std::string& caption) {
+  MenuItem& entry = context_.tags.mnuWindowParentList.Load(tag);
+  entry.caption = caption;
+  // Only a window with a child window is stored with its handle and class; kept so on purpose.
+  const bool hasChild = GetRelatedWindow(context_.windows, window_, 1) != 0;
+  entry.tag = hasChild ? DecimalText(window_) : "0";
+  context_.tags.ParentWindowClass.at(static_cast<std::size_t>(tag) - 1) =
+      hasChild ? GetWindowClass(context_.windows, window_) : "";
+  entry.visible = true;
+}
+
+void frmGetWindow::RemoveEntry(int tag) {
+  const MenuItemArray& entries = context_.tags.mnuWindowParentList;
+  if (entries.Find(tag) != nullptr) entries.Unload(tag);
+}
+
+void frmGetWindow::cmdClose_Click() { Unload(); }
+
+void frmGetWindow::cmdRemove_Click() {
+  Control& tags = Find("cboWindow");
+  if (tags.ListIndex() < 0) return;
+  const int tag = tags.SelectedItemData();
+  RemoveEntry(tag);
+  tags.Clear();
+  FillTags();
+  tags.SetListIndex(tag - 1);
+  ShowTagState();
+}
+
+void frmGetWindow::cboWindow_DropDown() {
+  Find("cmdRemove").SetEnabled(false);
+  Find("cboWindow").SetWidth(kDroppedWidth);
+}
+
+void frmGetWindow::cboWindow_Click() {
+  ShowTagState();
+  Find("cboWindow").SetWidth(designWidthOfTags_);
+}
+
+void frmGetWindow::Form_Activate() {
+  // Coming back from another program, the user finds the focus where it was.
+  if (!std::exchange(activatedBefore_, true)) Find("cboWindow").SetFocus();
+}
+
+void frmGetWindow::Form_KeyDown(int& key, unsigned shift) {
+  if (shift != kAlt) return;
+  if (key == 'P') {
+    key = 0;
+    ToggleTitleSelection();
+  } else if (key == win32::kVkF4) {
+    key = 0;
+    cmdClose_Click();
+  }
+}
+
+void frmGetWindow::ToggleTitleSelection() {
+  Control& txtWindow = Find("txtWindow");
+  txtWindow.SetFocus();
+  const int length = CharacterCount(txtWindow.Text());
+  const bool selectAll = txtWindow.Selection().length < length;
+  txtWindow.SetSelection({0, selectAll ? length : 0});
+}
+
+}  // namespace korvale

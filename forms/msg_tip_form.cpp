@@ -1,0 +1,88 @@
+#include "forms/msg_tip_form.h"
+
+#include "platform/win32_constants.h"
+
+namespace korvale {
+namespace {
+
+using enum ControlKind;
+
+constexpr Twips kWidth = 8400;
+constexpr Twips kDesignHeight = 3400;
+
+// Distances from the lower edge of the form, its frame included.
+constexpr Twips kTextAboveBottom = 1800;
+constexpr Twips kCheckBoxAboveBottom = 1275;
+constexpr Twips kButtonAboveBottom = 795;
+
+constexpr ControlRow kControls[] = {
+    {kCheckBox,
+     "chkStopMsg",
+     -1,
+     "&In the future, do not show this message",
+     " Do not show this message again  (Alt+I) ",
+     {150, kDesignHeight - kCheckBoxAboveBottom, 5000, 270}},
+    {kButton,
+     "cmdOK",
+     -1,
+     "OK",
+     " Close  (Enter) ",
+     {3540, kDesignHeight - kButtonAboveBottom, 1215, 345},
+     "",
+     -1,
+     kDefaultButton},
+    {kLabel,
+     "lblTip",
+     -1,
+     "*get what*",
+     "",
+     {150, 150, 8010, kDesignHeight - kTextAboveBottom},
+     "",
+     -1,
+     kWordWrap | kNoPrefix},
+};
+
+constexpr FormDesign kDesign = {.name = "frmMsgTip",
+                                .caption = "",
+                                .place = {0, 0, kWidth, kDesignHeight},
+                                .controls = kControls};
+
+constexpr bool ClosesTip(int key, unsigned shift) {
+  return (key == win32::kVkEscape && shift == kNoShift) || (key == win32::kVkF4 && shift == kAlt);
+}
+
+}  // namespace
+
+frmMsgTip::frmMsgTip(FormCollection& forms) : Form(kDesign, forms) {
+  WhenClicked("cmdOK", [this](int) { cmdOK_Click(); });
+}
+
+void frmMsgTip::Form_Load() { SetTag(""); }
+
+void frmMsgTip::Prepare(std::string_view caption, std::string_view text, Twips height) {
+  SetCaption(caption);
+  Find("lblTip").SetText(text);
+  TwipsRect place = Place();
+  place.height = height;
+  SetPlace(place);
+  Find("lblTip").SetHeight(height - kTextAboveBottom);
+  Find("chkStopMsg").SetTop(height - kCheckBoxAboveBottom);
+  Find("cmdOK").SetTop(height - kButtonAboveBottom);
+}
+
+void frmMsgTip::cmdOK_Click() { Unload(); }
+
+void frmMsgTip::Form_KeyDown(int& key, unsigned shift) {
+  if (!ClosesTip(key, shift)) return;
+  key = 0;
+  cmdOK_Click();
+}
+
+void frmMsgTip::Form_QueryUnload(bool& /*cancel*/, CloseReason reason) {
+  // The close box does what cmdOK does; at the end of the session nobody has answered.
+  if (reason != CloseReason::kSession) KeepResult();
+}
+
+void frmMsgTip::KeepResult() { SetTag(Find("chkStopMsg").Value() == 1 ? kNoShow : ""); }
+
+}  // namespace korvale

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace korvale {
+
+/// Width of a text in columns: 1 for most characters, 2 for the wide ones of East Asian scripts and
+/// for emoji.
+int ColumnCount(std::string_view text);
+
+/// `text` followed by `tail` when both fit into so many columns; otherwise as much of the beginning
+/// of `text` as fits, "..." and `tail`.
+std::string ShortenedText(std::string_view text, int columns, std::string_view tail = "");
+
+}  // namespace korvale

@@ -1,0 +1,54 @@
+#include "forms/wait_window_form.h"
+
+#include "platform/win32_constants.h"
+
+namespace korvale {
+namespace {
+
+using enum ControlKind;
+
+constexpr std::int32_t kForegroundWait = 1000;
+
+constexpr ControlRow kControls[] = {
+    {kLabel,
+     "lblMessage",
+     -1,
+     "",
+     "",
+     {150, 360, 4410, 270},
+     "",
+     -1,
+     kCentered | kWordWrap | kNoPrefix},
+    {kTimer, "tmrWait", -1, "", "", {}, "", -1, kDisabled},
+};
+
+constexpr FormDesign kDesign = {
+    .name = "frmWaitWindow", .caption = "", .place = {0, 0, 4800, 1450}, .controls = kControls};
+
+}  // namespace
+
+frmWaitWindow::frmWaitWindow(FormCollection& forms, FormDisplay& display)
+    : Form(kDesign, forms), display_(&display) {
+  WhenClicked("tmrWait", [this](int) { Unload(); });
+}
+
+void frmWaitWindow::ShowWaitWindow(const std::string& caption, const std::string& text,
+                                   std::uint32_t milliseconds) {
+  Load();
+  SetCaption(caption);
+  Find("lblMessage").SetText(text);
+  Control& tmrWait = Find("tmrWait");
+  tmrWait.SetInterval(milliseconds);
+  tmrWait.SetEnabled(true);
+  display_->ShowFormModal(*this, {}, kForegroundWait, {}, nullptr);
+}
+
+void frmWaitWindow::Form_KeyDown(int& key, unsigned shift) {
+  const bool closes =
+      (key == win32::kVkEscape && shift == kNoShift) || (key == win32::kVkF4 && shift == kAlt);
+  if (!closes) return;
+  key = 0;
+  Unload();
+}
+
+}  // namespace korvale
