@@ -1,0 +1,64 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "platform/types.h"
+
+namespace korvale {
+
+/// The calls that fakes received, in their order, one line each: "ShowWindow(Alpha, SW_MINIMIZE)".
+/// One log may serve several fakes. Windows are written by the title that they opened with, those
+/// without one by their number.
+class CallLog {
+ public:
+  /// A call that changes something.
+  void Add(std::string call);
+  /// A call that only reads; left out unless IncludeReads(true).
+  void AddRead(std::string call);
+
+  void IncludeReads(bool include) { include_reads_ = include; }
+  /// Writes `name` for this window from now on; "" goes back to its number.
+  void NameWindow(WindowHandle hwnd, std::string name);
+
+  /// Does something once, right before the next call that begins with `prefix`, reads included, is
+  /// answered: so a window can vanish in the middle of an operation.
+  void WhenCalled(std::string prefix, std::function<void()> action);
+
+  const std::vector<std::string>& Calls() const { return calls_; }
+  /// The calls so far; the log is empty afterwards.
+  std::vector<std::string> Take();
+  void Clear() { calls_.clear(); }
+  /// The calls whose line begins with `prefix`.
+  std::vector<std::string> CallsOf(const std::string& prefix) const;
+
+  /// How a window is written: its name, else "0x12".
+  std::string Window(WindowHandle hwnd) const;
+
+ private:
+  struct Action {
+    std::string prefix;
+    std::function<void()> run;
+  };
+
+  void RunActions(const std::string& call);
+
+  std::vector<std::string> calls_;
+  std::vector<Action> actions_;
+  std::map<WindowHandle, std::string> names_;
+  bool include_reads_ = false;
+};
+
+/// "0x1f".
+std::string HexText(std::uint32_t value);
+/// "SW_RESTORE"; the number for a command without a name here.
+std::string ShowCommandText(int command);
+/// "HWND_TOPMOST" and its like, else the window.
+std::string InsertAfterText(const CallLog& log, WindowHandle insertAfter);
+/// "MOD_ALT|MOD_SHIFT", "0" for none.
+std::string ModifiersText(std::uint32_t modifiers);
+
+}  // namespace korvale

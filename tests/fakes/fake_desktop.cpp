@@ -1,0 +1,125 @@
+#include "tests/fakes/fake_desktop.h"
+
+#include <stdexcept>
+#include <utility>
+
+#include "platform/win32_constants.h"
+
+namespace korvale {
+
+WindowHandle FakeDesktop::Open(const std::string& title, const NewWindow& options) {
+  const WindowHandle hwnd = windows_.Create(title, options);
+  log_.NameWindow(hwnd, title);
+  return hwnd;
+}
+
+WindowHandle FakeDesktop::OpenModalDialog(WindowHandle owner, const std::string& title) {
+  NewWindow options;
+  options.className = "#32770";
+  options.owner = owner;
+  options.style = fakes::kWsPopup | fakes::kWsCaption | win32::kDsModalFrame;
+  options.process = Existing(owner).process;
+  SetEnabled(owner, false);
+  return Open(title, options);
+}
+
+void FakeDesktop::CloseModalDialog(WindowHandle dialog) {
+  SetEnabled(Existing(dialog).owner, true);
+  Close(dialog);
+}
+
+void FakeDesktop::OpenShell() {
+  NewWindow desktop;
+  desktop.className = "Progman";
+  desktop.style = fakes::kWsPopup;
+  desktop.exStyle = win32::kWsExToolWindow;
+  desktop.activate = false;
+  desktop.atBottom = true;
+  Open("Program Manager", desktop);
+  NewWindow taskbar;
+  taskbar.className = "Shell_TrayWnd";
+  taskbar.style = fakes::kWsPopup;
+  taskbar.exStyle = win32::kWsExToolWindow | win32::kWsExTopmost;
+  taskbar.activate = false;
+  Open("", taskbar);
+}
+
+void FakeDesktop::Close(WindowHandle hwnd) {
+  Existing(hwnd);
+  windows_.Destroy(hwnd);
+}
+
+void FakeDesktop::Rename(WindowHandle hwnd, const std::string& title) {
+  Existing(hwnd).title = title;
+}
+
+void FakeDesktop::UserActivates(WindowHandle hwnd) {
+  const FakeWindow& window = Existing(hwnd);
+  if (!window.enabled) {
+    const WindowHandle popup = windows_.EnabledPopupOf(hwnd);
+    if (popup != 0) windows_.Activate(popup);
+  } else if (window.iconic) {
+    windows_.Show(hwnd, win32::kSwRestore);
+  } else {
+    windows_.Activate(hwnd);
+  }
+}
+
+void FakeDesktop::UserMinimizes(WindowHandle hwnd) {
+  Existing(hwnd);
+  windows_.Show(hwnd, win32::kSwMinimize);
+}
+
+void FakeDesktop::UserMaximizes(WindowHandle hwnd) {
+  Existing(hwnd);
+  windows_.Show(hwnd, win32::kSwMaximize);
+}
+
+void FakeDesktop::UserRestores(WindowHandle hwnd) {
+  Existing(hwnd);
+  windows_.Show(hwnd, win32::kSwRestore);
+}
+
+void FakeDesktop::Hide(WindowHandle hwnd) {
+  Existing(hwnd);
+  windows_.Show(hwnd, win32::kSwHide);
+}
+
+void FakeDesktop::Reveal(WindowHandle hwnd) {
+  Existing(hwnd);
+  windows_.Show(hwnd, fakes::kSwShowNa);
+}
+
+void FakeDesktop::SetEnabled(WindowHandle hwnd, bool enabled) { Existing(hwnd).enabled = enabled; }
+
+void FakeDesktop::SetHung(WindowHandle hwnd, bool hung) {
+  FakeWindow& window = Existing(hwnd);
+  window.hung = hung;
+  if (hung) return;
+  for (const int command : std::exchange(window.waitingShowCommands, {})) {
+    windows_.Show(hwnd, command);
+  }
+}
+
+void FakeDesktop::LoseForeground() { windows_.Activate(0); }
+
+std::string FakeDesktop::Title(WindowHandle hwnd) const {
+  const FakeWindow* const window = windows_.Find(hwnd);
+  return window == nullptr ? "" : window->title;
+}
+
+std::vector<std::string> FakeDesktop::VisibleTitles() const {
+  std::vector<std::string> titles;
+  for (const WindowHandle hwnd : windows_.TopLevel()) {
+    if (windows_.IsVisible(hwnd)) titles.push_back(Title(hwnd));
+  }
+  return titles;
+}
+
+FakeWindow& FakeDesktop::Existing(WindowHandle hwnd) {
+  FakeWindow* const window = windows_.Find(hwnd);
+  if (window == nullptr) throw std::logic_error("the test acts on a window that is gone");
+  return *window;
+}
+
+}  // namespace korvale

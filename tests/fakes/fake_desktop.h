@@ -1,0 +1,98 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "platform/types.h"
+#include "platform/window_api.h"
+#include "tests/fakes/call_log.h"
+#include "tests/fakes/fake_window.h"
+#include "tests/fakes/fake_windows.h"
+
+namespace korvale {
+
+/// A Windows desktop in memory: answers the calls of a program, logs them, and lets a test act as
+/// the user and as the other programs. What the test does is not logged.
+class FakeDesktop : public WindowQueries, public WindowCommands {
+ public:
+  explicit FakeDesktop(CallLog& log) : log_(log) {}
+
+  // What the user and the programs do.
+  WindowHandle Open(const std::string& title, const NewWindow& options = {});
+  /// Opens an enabled dialog owned by `owner`, which becomes disabled.
+  WindowHandle OpenModalDialog(WindowHandle owner, const std::string& title);
+  /// Enables the owner again and closes the dialog.
+  void CloseModalDialog(WindowHandle dialog);
+  /// Opens the taskbar and the desktop's own window, as they stand on every desktop.
+  void OpenShell();
+  void Close(WindowHandle hwnd);
+  void Rename(WindowHandle hwnd, const std::string& title);
+  /// Clicks the window, or its taskbar button when it is minimized. A disabled window passes the
+  /// click on to the dialog that disables it.
+  void UserActivates(WindowHandle hwnd);
+  void UserMinimizes(WindowHandle hwnd);
+  void UserMaximizes(WindowHandle hwnd);
+  void UserRestores(WindowHandle hwnd);
+  void Hide(WindowHandle hwnd);
+  /// Shows a hidden window without activating it.
+  void Reveal(WindowHandle hwnd);
+  void SetEnabled(WindowHandle hwnd, bool enabled);
+  /// A hung window's thread takes no messages; what waited for it is done when it recovers.
+  void SetHung(WindowHandle hwnd, bool hung);
+  /// Nothing is in the foreground, as for a moment while Windows changes it.
+  void LoseForeground();
+  /// While locked SetForegroundWindow refuses, as Windows does to a program without the right.
+  void LockForeground(bool locked) { foreground_locked_ = locked; }
+
+  // What a test looks at.
+  std::string Title(WindowHandle hwnd) const;
+  /// "" when nothing is in the foreground.
+  std::string ForegroundTitle() const { return Title(windows_.Foreground()); }
+  /// Titles of the visible top-level windows, topmost first.
+  std::vector<std::string> VisibleTitles() const;
+  /// How many calls would have waited for a hung window.
+  int CallsThatWaited() const { return calls_that_waited_; }
+  FakeWindows& Windows() { return windows_; }
+  CallLog& Log() { return log_; }
+
+  // WindowQueries
+  void EnumWindows(const std::function<bool(WindowHandle)>& visit) override;
+  WindowHandle GetWindow(WindowHandle hwnd, std::uint32_t command) override;
+  WindowHandle GetParent(WindowHandle hwnd) override;
+  std::int32_t GetWindowLongA(WindowHandle hwnd, int index) override;
+  int GetWindowTextLengthA(WindowHandle hwnd) override;
+  int GetWindowTextA(WindowHandle hwnd, std::span<char> buffer) override;
+  int GetClassNameA(WindowHandle hwnd, std::span<char> buffer) override;
+  bool IsWindow(WindowHandle hwnd) override;
+  bool IsWindowVisible(WindowHandle hwnd) override;
+  bool IsWindowEnabled(WindowHandle hwnd) override;
+  bool IsIconic(WindowHandle hwnd) override;
+  bool IsZoomed(WindowHandle hwnd) override;
+  bool IsHungAppWindow(WindowHandle hwnd) override;
+  WindowHandle GetForegroundWindow() override;
+  WindowHandle FindWindowA(const std::string& title) override;
+
+  // WindowCommands
+  bool ShowWindow(WindowHandle hwnd, int command) override;
+  bool ShowWindowAsync(WindowHandle hwnd, int command) override;
+  bool SetWindowPos(WindowHandle hwnd, WindowHandle insertAfter, int x, int y, int width,
+                    int height, std::uint32_t flags) override;
+  bool SetForegroundWindow(WindowHandle hwnd) override;
+  bool PostMessageW(WindowHandle hwnd, std::uint32_t message) override;
+
+ private:
+  /// Logs a reading call on a window, then gives the window, null when it is gone.
+  const FakeWindow* Read(const char* call, WindowHandle hwnd, const std::string& argument = "");
+  FakeWindow& Existing(WindowHandle hwnd);
+  bool Waits(const FakeWindow& window);
+
+  CallLog& log_;
+  FakeWindows windows_;
+  bool foreground_locked_ = false;
+  int calls_that_waited_ = 0;
+};
+
+}  // namespace korvale

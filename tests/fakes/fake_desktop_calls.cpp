@@ -1,0 +1,191 @@
+#include <algorithm>
+#include <cstddef>
+
+#include "platform/win32_constants.h"
+#include "tests/fakes/fake_desktop.h"
+#include "util/text.h"
+
+namespace korvale {
+namespace {
+
+int CopyText(const std::string& text, std::span<char> buffer) {
+  if (buffer.empty()) return 0;
+  const std::size_t length = std::min(text.size(), buffer.size() - 1);
+  std::copy_n(text.begin(), length, buffer.begin());
+  buffer[length] = '\0';
+  return static_cast<int>(length);
+}
+
+std::int32_t LiveStyle(const FakeWindow& window) {
+  std::int32_t style = window.style;
+  if (window.visible && !window.hiddenByOwner) style |= fakes::kWsVisible;
+  if (!window.enabled) style |= fakes::kWsDisabled;
+  if (window.iconic) style |= fakes::kWsMinimize;
+  if (window.zoomed) style |= fakes::kWsMaximize;
+  return style;
+}
+
+}  // namespace
+
+const FakeWindow* FakeDesktop::Read(const char* call, WindowHandle hwnd,
+                                    const std::string& argument) {
+  const std::string rest = argument.empty() ? ")" : ", " + argument + ")";
+  log_.AddRead(std::string(call) + "(" + log_.Window(hwnd) + rest);
+  return windows_.Find(hwnd);
+}
+
+bool FakeDesktop::Waits(const FakeWindow& window) {
+  if (window.hung) ++calls_that_waited_;
+  return window.hung;
+}
+
+void FakeDesktop::EnumWindows(const std::function<bool(WindowHandle)>& visit) {
+  log_.AddRead("EnumWindows()");
+  const std::vector<WindowHandle> windows = windows_.TopLevel();
+  for (const WindowHandle hwnd : windows) {
+    if (!visit(hwnd)) return;
+  }
+}
+
+WindowHandle FakeDesktop::GetWindow(WindowHandle hwnd, std::uint32_t command) {
+  const FakeWindow* const window =
+      Read("GetWindow", hwnd, command == win32::kGwOwner ? "GW_OWNER" : "GW_CHILD");
+  if (window == nullptr) return 0;
+  if (command == win32::kGwOwner) return window->owner;
+  if (command != win32::kGwChild || window->children.empty()) return 0;
+  return window->children.front();
+}
+
+WindowHandle FakeDesktop::GetParent(WindowHandle hwnd) {
+  const FakeWindow* const window = Read("GetParent", hwnd);
+  if (window == nullptr) return 0;
+  if (window->parent != 0) return window->parent;
+  return (window->style & fakes::kWsPopup) != 0 ? window->owner : 0;
+}
+
+std::int32_t FakeDesktop::GetWindowLongA(WindowHandle hwnd, int index) {
+  const bool extended = index == win32::kGwlExStyle;
+  const FakeWindow* const window =
+      Read("GetWindowLongA", hwnd, extended ? "GWL_EXSTYLE" : "GWL_STYLE");
+  if (window == nullptr) return 0;
+  return extended ? window->exStyle : LiveStyle(*window);
+}
+
+int FakeDesktop::GetWindowTextLengthA(WindowHandle hwnd) {
+  const FakeWindow* const window = Read("GetWindowTextLengthA", hwnd);
+  if (window == nullptr) return 0;
+  return static_cast<int>(window->title.size()) + window->extraTextLength;
+}
+
+int FakeDesktop::GetWindowTextA(WindowHandle hwnd, std::span<char> buffer) {
+  const FakeWindow* const window = Read("GetWindowTextA", hwnd, std::to_string(buffer.size()));
+  return CopyText(window == nullptr ? "" : window->title, buffer);
+}
+
+int FakeDesktop::GetClassNameA(WindowHandle hwnd, std::span<char> buffer) {
+  const FakeWindow* const window = Read("GetClassNameA", hwnd, std::to_string(buffer.size()));
+  return CopyText(window == nullptr ? "" : window->className, buffer);
+}
+
+bool FakeDesktop::IsWindow(WindowHandle hwnd) { return Read("IsWindow", hwnd) != nullptr; }
+
+bool FakeDesktop::IsWindowVisible(WindowHandle hwnd) {
+  return Read("IsWindowVisible", hwnd) != nullptr && windows_.IsVisible(hwnd);
+}
+
+bool FakeDesktop::IsWindowEnabled(WindowHandle hwnd) {
+  const FakeWindow* const window = Read("IsWindowEnabled", hwnd);
+  return window != nullptr && window->enabled;
+}
+
+bool FakeDesktop::IsIconic(WindowHandle hwnd) {
+  const FakeWindow* const window = Read("IsIconic", hwnd);
+  return window != nullptr && window->iconic;
+}
+
+bool FakeDesktop::IsZoomed(WindowHandle hwnd) {
+  const FakeWindow* const window = Read("IsZoomed", hwnd);
+  return window != nullptr && window->zoomed;
+}
+
+bool FakeDesktop::IsHungAppWindow(WindowHandle hwnd) {
+  const FakeWindow* const window = Read("IsHungAppWindow", hwnd);
+  return window != nullptr && window->hung;
+}
+
+WindowHandle FakeDesktop::GetForegroundWindow() {
+  log_.AddRead("GetForegroundWindow()");
+  return windows_.Foreground();
+}
+
+WindowHandle FakeDesktop::FindWindowA(const std::string& title) {
+  log_.AddRead("FindWindowA(\"" + title + "\")");
+  for (const WindowHandle hwnd : windows_.TopLevel()) {
+    if (EqualsIgnoreCase(windows_.Find(hwnd)->title, title)) return hwnd;
+  }
+  return 0;
+}
+
+bool FakeDesktop::ShowWindow(WindowHandle hwnd, int command) {
+  log_.Add("ShowWindow(" + log_.Window(hwnd) + ", " + ShowCommandText(command) + ")");
+  const FakeWindow* const window = windows_.Find(hwnd);
+  if (window == nullptr) return false;
+  const bool was_visible = window->visible && !window->hiddenByOwner;
+  if (!Waits(*window)) windows_.Show(hwnd, command);
+  return was_visible;
+}
+
+bool FakeDesktop::ShowWindowAsync(WindowHandle hwnd, int command) {
+  log_.Add("ShowWindowAsync(" + log_.Window(hwnd) + ", " + ShowCommandText(command) + ")");
+  FakeWindow* const window = windows_.Find(hwnd);
+  if (window == nullptr) return false;
+  if (window->hung) {
+    window->waitingShowCommands.push_back(command);
+  } else {
+    windows_.Show(hwnd, command);
+  }
+  return true;
+}
+
+bool FakeDesktop::SetWindowPos(WindowHandle hwnd, WindowHandle insertAfter, int x, int y, int width,
+                               int height, std::uint32_t flags) {
+  log_.Add("SetWindowPos(" + log_.Window(hwnd) + ", " + InsertAfterText(log_, insertAfter) + ", " +
+           std::to_string(x) + ", " + std::to_string(y) + ", " + std::to_string(width) + ", " +
+           std::to_string(height) + ", " + std::to_string(flags) + ")");
+  FakeWindow* const window = windows_.Find(hwnd);
+  if (window == nullptr) return false;
+  if (Waits(*window)) return true;
+  if ((flags & win32::kSwpNoMove) == 0) {
+    window->place.x = x;
+    window->place.y = y;
+  }
+  if ((flags & win32::kSwpNoSize) == 0) {
+    window->place.width = width;
+    window->place.height = height;
+  }
+  if (window->parent != 0) return true;
+  if ((flags & fakes::kSwpNoZOrder) == 0) {
+    if (insertAfter == win32::kHwndTop) windows_.Raise(hwnd);
+    if (insertAfter == win32::kHwndTopmost) windows_.SetTopmost(hwnd, true);
+    if (insertAfter == win32::kHwndNoTopmost) windows_.SetTopmost(hwnd, false);
+  }
+  if ((flags & fakes::kSwpNoActivate) == 0 && windows_.IsVisible(hwnd)) windows_.Activate(hwnd);
+  return true;
+}
+
+bool FakeDesktop::SetForegroundWindow(WindowHandle hwnd) {
+  log_.Add("SetForegroundWindow(" + log_.Window(hwnd) + ")");
+  const FakeWindow* const window = windows_.Find(hwnd);
+  if (window == nullptr || window->parent != 0 || foreground_locked_) return false;
+  windows_.Activate(hwnd);
+  return true;
+}
+
+bool FakeDesktop::PostMessageW(WindowHandle hwnd, std::uint32_t message) {
+  log_.Add("PostMessageW(" + log_.Window(hwnd) + ", " + HexText(message) + ")");
+  if (windows_.Find(hwnd) == nullptr) return false;
+  windows_.NotifyPosted(hwnd, message);
+  return true;
+}
+
+}  // namespace korvale

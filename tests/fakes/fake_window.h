@@ -1,0 +1,66 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "platform/types.h"
+#include "tests/fakes/windows_numbers.h"
+
+namespace korvale {
+
+/// The process of windows that are none of ours.
+inline constexpr int kOtherProcess = 0;
+
+/// How a window comes into being.
+struct NewWindow {
+  std::string className = "Window";
+  WindowHandle owner = 0;
+  std::int32_t style = fakes::kWsOverlappedWindow;  ///< WS_VISIBLE and the like are added.
+  std::int32_t exStyle = 0;
+  bool visible = true;
+  bool enabled = true;
+  bool iconic = false;
+  bool zoomed = false;
+  bool activate = true;          ///< Comes to the foreground when it is visible and not iconic.
+  bool atBottom = false;         ///< Stays below all others, as the desktop's own window.
+  int children = 1;              ///< Child windows made along with it.
+  int process = kOtherProcess;   ///< kOtherProcess, or a number of one of our programs.
+  int extraTextLength = 0;       ///< Added by GetWindowTextLengthA.
+  WindowHandle reuseHandle = 0;  ///< Takes this handle of a window that is gone.
+};
+
+struct PixelRect {
+  int x = 0;
+  int y = 0;
+  int width = 200;
+  int height = 100;
+
+  friend bool operator==(const PixelRect&, const PixelRect&) = default;
+};
+
+/// A window as the fake desktop keeps it. `style` lacks the bits that stand for the flags below.
+struct FakeWindow {
+  WindowHandle handle = 0;
+  WindowHandle parent = 0;
+  WindowHandle owner = 0;
+  std::string title;
+  std::string className;
+  std::int32_t style = 0;
+  std::int32_t exStyle = 0;
+  bool visible = false;
+  bool enabled = true;
+  bool iconic = false;
+  bool zoomed = false;
+  bool restoresToZoomed = false;
+  bool hiddenByOwner = false;  ///< Out of sight while its owner is minimized.
+  bool hung = false;
+  bool atBottom = false;
+  int process = kOtherProcess;
+  int extraTextLength = 0;
+  PixelRect place;
+  std::vector<WindowHandle> children;      ///< Topmost first.
+  std::vector<int> waitingShowCommands{};  ///< Of ShowWindowAsync while it hangs.
+};
+
+}  // namespace korvale

@@ -1,0 +1,88 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "platform/types.h"
+#include "tests/fakes/fake_window.h"
+#include "tests/fakes/fake_z_order.h"
+
+namespace korvale {
+
+/// Told of what happens to the windows, after it has happened. It may change windows itself.
+class DesktopObserver {
+ public:
+  virtual ~DesktopObserver() = default;
+
+  virtual void OnForegroundChanged(WindowHandle /*foreground*/) {}
+  /// The window was shown, hidden, minimized, restored or maximized.
+  virtual void OnShown(WindowHandle /*hwnd*/) {}
+  virtual void OnDestroyed(WindowHandle /*hwnd*/) {}
+  virtual void OnMessagePosted(WindowHandle /*hwnd*/, std::uint32_t /*message*/) {}
+};
+
+/// The windows of a desktop and the rules of Windows about them: owners, visibility, minimizing,
+/// the foreground and the order. Nothing is logged here.
+class FakeWindows {
+ public:
+  FakeWindows();
+  FakeWindows(const FakeWindows&) = delete;
+  FakeWindows& operator=(const FakeWindows&) = delete;
+
+  WindowHandle Create(const std::string& title, const NewWindow& options);
+  WindowHandle CreateChild(WindowHandle parent, const std::string& className);
+  /// Destroys the window with its children and all that it owns; the foreground moves on.
+  void Destroy(WindowHandle hwnd);
+
+  /// Null when there is no such window.
+  FakeWindow* Find(WindowHandle hwnd);
+  const FakeWindow* Find(WindowHandle hwnd) const;
+  /// Top-level windows, topmost first.
+  const std::vector<WindowHandle>& TopLevel() const { return order_.Windows(); }
+  /// Visible with everything that holds it.
+  bool IsVisible(WindowHandle hwnd) const;
+  WindowHandle Foreground() const { return foreground_; }
+
+  /// Carries out one of the SW_ commands.
+  void Show(WindowHandle hwnd, int command);
+  /// Brings a top-level window to the foreground and to the top; 0 leaves nothing in the
+  /// foreground.
+  void Activate(WindowHandle hwnd);
+  /// Brings a top-level window to the top of its band.
+  void Raise(WindowHandle hwnd);
+  /// Moves a window with what it owns into or out of the topmost band; out of it also its owners.
+  void SetTopmost(WindowHandle hwnd, bool topmost);
+
+  /// The window of a disabled window's group that takes the user's click: the topmost visible and
+  /// enabled one that it owns; 0 when there is none.
+  WindowHandle EnabledPopupOf(WindowHandle hwnd) const;
+
+  void AddObserver(DesktopObserver& observer);
+  void RemoveObserver(DesktopObserver& observer);
+  void NotifyPosted(WindowHandle hwnd, std::uint32_t message);
+
+ private:
+  WindowHandle NextHandle(WindowHandle reused);
+  bool Apply(FakeWindow& window, int command);
+  void Unfold(FakeWindow& window, bool zoomed);
+  void Minimize(FakeWindow& window);
+  bool CanStayInFront(WindowHandle changed) const;
+  bool CanTakeOver(WindowHandle hwnd, bool acceptToolWindows) const;
+  /// The windows in the order in which they come next when this one goes.
+  std::vector<WindowHandle> Following(WindowHandle hwnd) const;
+  void ActivateNext(const std::vector<WindowHandle>& candidates);
+  void EraseWithChildren(WindowHandle hwnd);
+
+  void Notify(const std::function<void(DesktopObserver&)>& tell) const;
+
+  std::map<WindowHandle, FakeWindow> windows_;
+  FakeZOrder order_;
+  WindowHandle foreground_ = 0;
+  WindowHandle next_handle_;
+  std::vector<DesktopObserver*> observers_;
+};
+
+}  // namespace korvale

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "platform/types.h"
+
+namespace korvale {
+
+/// The order of top-level windows, topmost first. Keeps Windows' rules: topmost windows above all
+/// others, owned windows above their owner, the desktop's own window at the bottom.
+class FakeZOrder {
+ public:
+  struct Facts {
+    WindowHandle owner = 0;
+    bool topmost = false;
+    bool atBottom = false;
+  };
+  using FactsOf = std::function<Facts(WindowHandle)>;
+
+  /// `factsOf` answers for every window in the order.
+  explicit FakeZOrder(FactsOf factsOf);
+
+  const std::vector<WindowHandle>& Windows() const { return order_; }
+
+  /// Puts a new window at the top of its band.
+  void Add(WindowHandle hwnd);
+  void Remove(WindowHandle hwnd);
+  /// Brings a window with the windows that it owns to the top of their bands; its owners and what
+  /// else these own follow right below.
+  void Raise(WindowHandle hwnd);
+  /// Sends a window with the windows that it owns to the bottom of its band. An owned window stays.
+  void Lower(WindowHandle hwnd);
+  /// The window and all that it owns, directly or not, in their order.
+  std::vector<WindowHandle> WithOwned(WindowHandle hwnd) const;
+  /// The window, its owner, that one's owner and so on.
+  std::vector<WindowHandle> WithOwners(WindowHandle hwnd) const;
+
+ private:
+  bool IsOwnedBy(WindowHandle hwnd, WindowHandle owner) const;
+  void Take(const std::vector<WindowHandle>& windows);
+  void SortBands();
+
+  FactsOf facts_of_;
+  std::vector<WindowHandle> order_;
+};
+
+}  // namespace korvale
