@@ -1,0 +1,105 @@
+#include "forms/about_form.h"
+
+#include <utility>
+
+#include "platform/win32_constants.h"
+
+namespace korvale {
+namespace {
+
+using enum ControlKind;
+
+constexpr const char* kSplashMode = "S";
+constexpr const char* kDialogMode = "";
+
+constexpr std::uint32_t kSplashMilliseconds = 2000;
+constexpr std::uint32_t kDialogMilliseconds = 15000;
+
+constexpr Color kLinkColor = 0x00CC6600;
+
+constexpr ControlRow Label(const char* name, const char* toolTip, Twips top, unsigned flags) {
+  ControlRow row{kLabel, name, -1, "", toolTip, {1080, top, 4260, 255}};
+  row.flags = flags | kNoPrefix;
+  return row;
+}
+
+constexpr ControlRow LinkLabel() {
+  ControlRow row = Label("lblWebSite", " opens the web site in your browser  (Click) ", 1590,
+                         kClickable | kHidden);
+  row.foreColor = kLinkColor;
+  return row;
+}
+
+constexpr ControlRow kControls[] = {
+    {kImage, "imaProduct", -1, "", "", {240, 300, 600, 600}},
+    Label("lblProduct", "", 300, kNoFlags),
+    Label("lblFileDescription", "", 660, kNoFlags),
+    Label("lblCopyright", "", 1125, kNoFlags),
+    LinkLabel(),
+    {kButton,
+     "cmdOK",
+     -1,
+     "OK",
+     " Close  (Enter) ",
+     {2138, 2130, 1215, 345},
+     "",
+     -1,
+     kDefaultButton},
+    {kTimer, "tmrUnload", -1, "", "", {}, "", -1, kDisabled},
+};
+
+constexpr FormDesign kDesign = {
+    .name = "frmMsgBox2", .caption = "", .place = {0, 0, 5580, 3030}, .controls = kControls};
+
+}  // namespace
+
+frmMsgBox2::frmMsgBox2(FormCollection& forms, Clock& clock, const ProgramIdentity& identity)
+    : Form(kDesign, forms), clock_(&clock), identity_(&identity) {
+  WhenClicked("cmdOK", [this](int) { CloseAbout(); });
+  WhenClicked("tmrUnload", [this](int) { CloseAbout(); });
+  WhenClicked("lblWebSite", [this](int) {
+    if (openWebSite_) openWebSite_();
+  });
+}
+
+void frmMsgBox2::SetWebSite(std::string address, std::function<void()> open) {
+  webSite_ = std::move(address);
+  openWebSite_ = std::move(open);
+}
+
+void frmMsgBox2::ShowAbout(Form& owner, FormDisplay& display) {
+  Prepare(kDialogMode);
+  display.ShowFormNonModal(*this, {}, &owner);
+}
+
+void frmMsgBox2::ShowSplash(FormDisplay& display) {
+  Prepare(kSplashMode);
+  display.ShowFormNonModal(*this, {.takeForeground = 0}, nullptr);
+}
+
+void frmMsgBox2::Prepare(std::string_view mode) {
+  Load();
+  const bool splash = mode == kSplashMode;
+  SetTag(mode);
+  SetCaption(splash ? identity_->productName : "About " + identity_->productName);
+  Find("lblProduct").SetText(identity_->productName + " " + identity_->versionText);
+  Find("lblFileDescription").SetText(identity_->fileDescription);
+  Find("lblCopyright").SetText(identity_->legalNotice);
+  Find("lblWebSite").SetText(webSite_);
+  Find("lblWebSite").SetVisible(!webSite_.empty());
+  Find("cmdOK").SetVisible(!splash);
+  Control& tmrUnload = Find("tmrUnload");
+  tmrUnload.SetInterval(splash ? kSplashMilliseconds : kDialogMilliseconds);
+  tmrUnload.SetEnabled(true);
+}
+
+void frmMsgBox2::Form_KeyDown(int& key, unsigned shift) {
+  const bool escape = key == win32::kVkEscape && Find("tmrUnload").Enabled();
+  if (!escape && !(key == win32::kVkF4 && shift == kAlt)) return;
+  key = 0;
+  CloseAbout();
+}
+
+void frmMsgBox2::Form_Unload() { aboutClosed_ = clock_->GetTickCount64(); }
+
+}  // namespace korvale
