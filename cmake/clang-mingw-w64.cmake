@@ -1,3 +1,14 @@
 include(${CMAKE_CURRENT_LIST_DIR}/mingw-w64.cmake)
+# Clang does not find the folder that Debian gives MinGW's libraries; GCC tells where it is.
+execute_process(COMMAND x86_64-w64-mingw32-g++-posix -print-libgcc-file-name
+                OUTPUT_VARIABLE libgcc OUTPUT_STRIP_TRAILING_WHITESPACE)
+get_filename_component(gcc ${libgcc} DIRECTORY)
 set(CMAKE_CXX_COMPILER clang++)
 set(CMAKE_CXX_COMPILER_TARGET x86_64-w64-mingw32)
+set(headers -nostdlibinc)
+foreach(folder ${gcc}/include/c++ ${gcc}/include/c++/x86_64-w64-mingw32
+               ${gcc}/include/c++/backward /usr/x86_64-w64-mingw32/include)
+  string(APPEND headers " -isystem ${folder}")
+endforeach()
+set(CMAKE_CXX_FLAGS_INIT "${headers}")
+set(CMAKE_EXE_LINKER_FLAGS_INIT "-B${gcc} -L${gcc}")

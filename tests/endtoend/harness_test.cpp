@@ -2,6 +2,8 @@
 
 #include "tests/endtoend/harness/files.h"
 #include "tests/endtoend/harness/keyboard.h"
+#include "tests/endtoend/harness/real_program.h"
+#include "tests/endtoend/harness/running_korvale.h"
 #include "tests/endtoend/harness/settings.h"
 #include "tests/endtoend/harness/test_program.h"
 #include "tests/endtoend/harness/wait.h"
@@ -102,6 +104,35 @@ TEST(Harness, TypesIntoNotepadAndReadsItsText) {
     return !edits.empty() && edits.front().Text() == "Grüße 日本";
   };
   EXPECT_TRUE(WaitFor(typed));
+}
+
+TEST(Harness, OpensAMenuWithTheKeyboardAndClosesItAgain) {
+  RealProgram notepad = StartNotepad();
+  ASSERT_TRUE(BringToFront(notepad.window()));
+  const auto menu_is_open = [] {
+    return static_cast<bool>(FindTopLevel(
+        [](Window window) { return window.Visible() && window.ClassName() == "#32768"; }));
+  };
+  Press({MOD_ALT, 'F'});
+  EXPECT_TRUE(WaitFor(menu_is_open));
+  Press({0, VK_ESCAPE});
+  EXPECT_TRUE(WaitFor([&] { return !menu_is_open(); }));
+}
+
+TEST(Harness, ReadsAndAnswersAMessageBoxOfAnotherProgram) {
+  RealProgram notepad = StartNotepad();
+  ASSERT_TRUE(BringToFront(notepad.window()));
+  Type("unsaved");
+  const std::vector<Window> edits = notepad.window().Controls("Edit");
+  ASSERT_FALSE(edits.empty());
+  ASSERT_TRUE(WaitFor([&] { return edits.front().Text() == "unsaved"; }));
+  Press({MOD_ALT, VK_F4});
+  const Window box = WaitForTopLevel(
+      [](Window window) { return window.Visible() && window.ClassName() == "#32770"; });
+  ASSERT_TRUE(box);
+  EXPECT_NE(LabelText(box), "");
+  EXPECT_TRUE(AnswerBox(box, IDCANCEL));
+  EXPECT_TRUE(notepad.window().Exists());
 }
 
 TEST(Harness, ReadsBackStoredSettings) {

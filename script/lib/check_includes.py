@@ -1,0 +1,99 @@
+"""Checks the #include lines against the folders that each CMakeLists.txt declares.
+
+- Windows headers only where Windows adapters live.
+- A folder includes only itself and the folders of its korvale_folder(...) line.
+- The declarations have no cycle.
+"""
+
+import pathlib
+import re
+import subprocess
+import sys
+
+WINDOWS_HEADERS = re.compile(
+    r"<(windows|windowsx|winuser|commctrl|commdlg|shellapi|uxtheme|winreg|objbase)\.h>", re.I
+)
+WINDOWS_PLACES = ("platform/windows/", "forms/windows/", "tests/endtoend/")
+INCLUDE = re.compile(r'^\s*#\s*include\s+([<"][^>"]+[>"])', re.M)
+
+
+def tracked(*patterns):
+    out = subprocess.run(
+        ["git", "ls-files", "--cached", "--others", "--exclude-standard", *patterns],
+        capture_output=True, text=True, check=True,
+    ).stdout
+    return [line for line in out.splitlines() if pathlib.Path(line).exists()]
+
+
+def declarations():
+    """Folder -> the folders that it declares."""
+    folder_of, uses = {}, {}
+    for path in tracked("*CMakeLists.txt"):
+        text = re.sub(r"#.*", "", pathlib.Path(path).read_text())
+        call = re.search(r"korvale_folder\(\s*(\w+)([^)]*)\)", text)
+        if call:
+            folder = str(pathlib.Path(path).parent)
+            folder_of["korvale_" + call.group(1)] = folder
+            uses[folder] = call.group(2).split()
+    return {
+        folder: [folder_of[target] for target in targets if target in folder_of]
+        for folder, targets in uses.items()
+    }
+
+
+def cycles(uses):
+    problems, done = [], set()
+
+    def visit(folder, path):
+        if folder in path:
+            problems.append("cycle: " + " -> ".join(path[path.index(folder):] + [folder]))
+        elif folder not in done:
+            for used in uses.get(folder, []):
+                visit(used, path + [folder])
+            done.add(folder)
+
+    for folder in uses:
+        visit(folder, [])
+    return problems
+
+
+def reach(folder, uses):
+    """The folder, what it declares, and what those declare: all that CMake lets it include."""
+    seen, todo = set(), [folder]
+    while todo:
+        here = todo.pop()
+        if here not in seen:
+            seen.add(here)
+            todo += uses.get(here, [])
+    return seen
+
+
+def main():
+    uses = declarations()
+    problems = cycles(uses)
+    for path in tracked("*.cpp", "*.h"):
+        folder = str(pathlib.Path(path).parent)
+        text = pathlib.Path(path).read_text()
+        windows_place = path.startswith(WINDOWS_PLACES) or path == "app/main.cpp"
+        # The program entry wires everything together.
+        allowed = None if path == "app/main.cpp" else reach(folder, uses)
+        for include in INCLUDE.findall(text):
+            if WINDOWS_HEADERS.match(include) and not windows_place:
+                problems.append(f"{path}: {include} outside the Windows adapters")
+            if not include.startswith('"'):
+                continue
+            target = include.strip('"')
+            if not pathlib.Path(target).exists():
+                if folder != "app":  # resource.h comes with the program's resources
+                    problems.append(f"{path}: {include} is not a path from the root")
+                continue
+            used = str(pathlib.Path(target).parent)
+            if folder in uses and allowed is not None and used in uses and used not in allowed:
+                problems.append(f"{path}: {include}, but {folder} does not declare {used}")
+            if folder in uses and target.startswith("tests/"):
+                problems.append(f"{path}: {include} in the program")
+    print("\n".join(problems))
+    return 1 if problems else 0
+
+
+sys.exit(main())

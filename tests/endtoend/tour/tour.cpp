@@ -1,0 +1,184 @@
+#include "tests/endtoend/tour/tour.h"
+
+#include <algorithm>
+
+#include "tests/endtoend/harness/wait.h"
+
+namespace korvale::endtoend {
+namespace {
+
+constexpr size_t kOpenWindows = 20;
+
+size_t CountOpenWindows() {
+  const std::vector<Window> all = TopLevelWindows();
+  return static_cast<size_t>(std::count_if(all.begin(), all.end(), [](Window window) {
+    return window.Visible() && !window.Title().empty();
+  }));
+}
+
+}  // namespace
+
+void Tour::Run() {
+  OpenPrograms();
+  if (!StartKorvale()) return;
+  TagNotepad();
+  UseTheTag();
+  MinimizeAndMaximize();
+  UseThePopUp();
+  CloseAndReopen();
+  SwitchOffAndOn();
+  TagMineGame();
+  GoRound();
+}
+
+void Tour::OpenPrograms() {
+  report_.Headline("Programs");
+  wordpad_.emplace(StartWordPad());
+  report_.Step("WordPad", BringToFront(wordpad_->window()));
+  regedit_.emplace(StartRegistryEditor());
+  report_.Step("Registry Editor", BringToFront(regedit_->window()));
+  mines_.emplace(StartMineGame());
+  report_.Step("a program without child windows",
+               BringToFront(mines_->window()) && mines_->window().Children().empty());
+  notepad_.emplace(StartNotepad());
+  report_.Step("Notepad", BringToFront(notepad_->window()));
+  others_.emplace();
+  for (int number = 1; CountOpenWindows() + 1 < kOpenWindows; ++number) {
+    others_->Open({.title = "Window " + std::to_string(number)});
+  }
+}
+
+bool Tour::StartKorvale() {
+  report_.Headline("Korvale's first start");
+  korvale_.emplace(installation_);
+  const bool started = static_cast<bool>(korvale_->Main());
+  report_.Step("Korvale starts", started);
+  if (!started) return false;
+  const Window question = korvale_->MessageBox();
+  report_.Step("it offers to review the hot keys", question.Title() == "Korvale - CAUTION");
+  if (question) AnswerBox(question, IDNO);
+  report_.Step("with " + std::to_string(CountOpenWindows()) + " windows open",
+               CountOpenWindows() >= kOpenWindows);
+  return true;
+}
+
+bool Tour::Seen(Window window) const {
+  return WaitFor([&] { return korvale_->TargetTitle() == window.Title(); });
+}
+
+void Tour::WorkIn(const std::string& name, Window window) {
+  report_.Step("work in " + name, BringToFront(window) && Seen(window));
+}
+
+AddWindowDialog Tour::OpenAddWindow(const std::string& picture) {
+  BringToFront(korvale_->Main());
+  Press({MOD_ALT, 'W'});
+  report_.Step("Alt+W opens the Window menu", static_cast<bool>(korvale_->OpenMenu()));
+  report_.Picture(picture + "menu");
+  Press({0, 'W'});
+  const AddWindowDialog dialog(korvale_->Form("frmGetWindow"));
+  report_.Step("W opens the Add Window dialog",
+               static_cast<bool>(dialog.form()) && BringToFront(dialog.form()));
+  return dialog;
+}
+
+void Tour::TagNotepad() {
+  report_.Headline("Tag 3 for Notepad, by the right part of its title");
+  WorkIn("Notepad", notepad_->window());
+  BringToFront(korvale_->Main());
+  report_.Picture("main-window");
+  const AddWindowDialog dialog = OpenAddWindow("");
+  report_.Step("3 selects Tag 3", dialog.SelectTag(3));
+  report_.Step("the right part is chosen", dialog.Choose(2));
+  report_.Picture("dialog");
+  report_.Step("Enter adds it", dialog.Confirm());
+}
+
+void Tour::UseTheTag() {
+  report_.Headline("Work elsewhere, come back with a key");
+  WorkIn("WordPad", wordpad_->window());
+  report_.KeyToFront("Alt+3: Notepad", TagKey(3), notepad_->window());
+  Seen(notepad_->window());
+  report_.KeyToFront("Alt+0: back to WordPad", TagKey(0), wordpad_->window());
+  Seen(wordpad_->window());
+  report_.KeyToFront("Alt+0: and to Notepad again", TagKey(0), notepad_->window());
+  Seen(notepad_->window());
+}
+
+void Tour::MinimizeAndMaximize() {
+  report_.Headline("Minimize and maximize");
+  const Window wordpad = wordpad_->window();
+  report_.KeyToFront("Alt+Down: Notepad goes, WordPad comes", kMinimizeKey, wordpad);
+  report_.Step("Notepad is minimized", notepad_->window().Minimized());
+  Seen(wordpad);
+  report_.KeyUntil("Alt+Up: WordPad fills the screen", kMaximizeKey,
+                   [&] { return wordpad.Maximized(); });
+  report_.KeyUntil("Alt+Up: and is as before", kMaximizeKey, [&] { return !wordpad.Maximized(); });
+}
+
+void Tour::UseThePopUp() {
+  report_.Headline("The Window menu anywhere");
+  WorkIn("Registry Editor", regedit_->window());
+  SetCursorPos(400, 300);
+  report_.KeyUntil("Windows+W: the menu pops up", kMenuKey, [&] { return korvale_->HasMenu(); });
+  report_.Picture("pop-up");
+  report_.KeyToFront("3: Notepad", {0, '3'}, notepad_->window());
+  report_.Step("Notepad is no longer minimized",
+               WaitFor([&] { return !notepad_->window().Minimized(); }));
+  Seen(notepad_->window());
+}
+
+void Tour::CloseAndReopen() {
+  report_.Headline("Close Notepad, open it again");
+  const Window closed = notepad_->window();
+  Press({MOD_ALT, VK_F4});
+  report_.Step("Alt+F4 closes Notepad", WaitFor([&] { return !closed.Exists(); }));
+  report_.KeyUntil("Alt+3: it is not open", TagKey(3), [&] { return korvale_->HasMessageBox(); });
+  const Window message = korvale_->MessageBox();
+  report_.Picture("message");
+  report_.Step(LabelText(message), AnswerBox(message, IDOK) || AnswerBox(message, IDCANCEL));
+  notepad_.emplace(StartNotepad());
+  WorkIn("Registry Editor", regedit_->window());
+  report_.KeyToFront("Alt+3: the new Notepad", TagKey(3), notepad_->window());
+  Seen(notepad_->window());
+}
+
+void Tour::Toggle(const std::string& what) {
+  Press(kToggleKey);
+  const Window notice = korvale_->Form("frmWaitWindow");
+  report_.Step(what + ": " + LabelText(notice), static_cast<bool>(notice));
+  WaitFor([&] { return !korvale_->HasForm("frmWaitWindow"); });
+}
+
+void Tour::SwitchOffAndOn() {
+  report_.Headline("Hot keys off and on");
+  Toggle("Pause");
+  BringToFront(regedit_->window());
+  report_.KeyDoesNothing("Alt+3 does nothing", TagKey(3));
+  Toggle("Pause");
+  WorkIn("WordPad", wordpad_->window());
+  report_.KeyToFront("Alt+3: Notepad", TagKey(3), notepad_->window());
+  Seen(notepad_->window());
+}
+
+void Tour::TagMineGame() {
+  report_.Headline("Tag 4 for a window without child windows");
+  WorkIn("the game", mines_->window());
+  const AddWindowDialog dialog = OpenAddWindow("second-");
+  report_.Step("4 selects Tag 4", dialog.SelectTag(4));
+  report_.Step("Enter adds it", dialog.Confirm());
+}
+
+void Tour::GoRound() {
+  report_.Headline("Round and round");
+  for (int round = 0; round < 3; ++round) {
+    report_.KeyToFront("Alt+3: Notepad", TagKey(3), notepad_->window());
+    Seen(notepad_->window());
+    report_.KeyToFront("Alt+4: the game", TagKey(4), mines_->window());
+    Seen(mines_->window());
+    report_.KeyToFront("Alt+0: back", TagKey(0), notepad_->window());
+    Seen(notepad_->window());
+  }
+}
+
+}  // namespace korvale::endtoend

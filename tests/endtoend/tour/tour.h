@@ -1,0 +1,53 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "tests/endtoend/harness/add_window_dialog.h"
+#include "tests/endtoend/harness/installation.h"
+#include "tests/endtoend/harness/real_program.h"
+#include "tests/endtoend/harness/running_korvale.h"
+#include "tests/endtoend/harness/test_program.h"
+#include "tests/endtoend/tour/report.h"
+
+namespace korvale::endtoend {
+
+/// What a new user does with Korvale, on programs that others wrote.
+class Tour {
+ public:
+  explicit Tour(Report& report) : report_(report) {}
+
+  /// The whole tour; stops early when Korvale or a program does not start.
+  void Run();
+
+ private:
+  void OpenPrograms();
+  bool StartKorvale();
+  void TagNotepad();
+  void TagMineGame();
+  void UseTheTag();
+  void MinimizeAndMaximize();
+  void UseThePopUp();
+  void CloseAndReopen();
+  void SwitchOffAndOn();
+  void GoRound();
+
+  /// Brings the window forward and waits until Korvale has seen it.
+  void WorkIn(const std::string& name, Window window);
+  /// Waits until Korvale shows the window as the Target Window.
+  bool Seen(Window window) const;
+  AddWindowDialog OpenAddWindow(const std::string& picture);
+  void Toggle(const std::string& what);
+
+  Report& report_;
+  Installation installation_{"Tour"};
+  std::optional<TestProgram> others_;
+  std::optional<RealProgram> notepad_;
+  std::optional<RealProgram> wordpad_;
+  std::optional<RealProgram> regedit_;
+  std::optional<RealProgram> mines_;
+  std::optional<RunningKorvale> korvale_;
+};
+
+}  // namespace korvale::endtoend
