@@ -1,7 +1,6 @@
 #include "tests/fakes/call_log.h"
 
 #include <algorithm>
-#include <array>
 #include <iterator>
 #include <sstream>
 #include <utility>
@@ -92,20 +91,6 @@ std::string InsertAfterText(const CallLog& log, WindowHandle insertAfter) {
     default:
       return log.Window(insertAfter);
   }
-}
-
-std::string ModifiersText(std::uint32_t modifiers) {
-  static constexpr std::array<std::pair<std::uint32_t, const char*>, 4> kNames = {{
-      {win32::kModAlt, "MOD_ALT"},
-      {win32::kModControl, "MOD_CONTROL"},
-      {win32::kModShift, "MOD_SHIFT"},
-      {win32::kModWin, "MOD_WIN"},
-  }};
-  std::string text;
-  for (const auto& [bit, name] : kNames) {
-    if ((modifiers & bit) != 0) text += (text.empty() ? "" : "|") + std::string(name);
-  }
-  return text.empty() ? "0" : text;
 }
 
 }  // namespace korvale

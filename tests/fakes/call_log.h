@@ -58,7 +58,5 @@ std::string HexText(std::uint32_t value);
 std::string ShowCommandText(int command);
 /// "HWND_TOPMOST" and its like, else the window.
 std::string InsertAfterText(const CallLog& log, WindowHandle insertAfter);
-/// "MOD_ALT|MOD_SHIFT", "0" for none.
-std::string ModifiersText(std::uint32_t modifiers);
 
 }  // namespace korvale

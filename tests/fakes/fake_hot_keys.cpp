@@ -1,0 +1,120 @@
+#include "tests/fakes/fake_hot_keys.h"
+
+#include <algorithm>
+#include <string>
+
+#include "platform/win32_constants.h"
+
+namespace korvale {
+namespace {
+
+constexpr int kLastId = 0xBFFF;
+/// Only tells Windows not to repeat; no part of the combination.
+constexpr std::uint32_t kModNoRepeat = 0x4000;
+
+}  // namespace
+
+FakeHotKeys::FakeHotKeys(CallLog& log, IsWindow isWindow)
+    : log_(log), is_window_(std::move(isWindow)) {}
+
+bool FakeHotKeys::Press(std::uint32_t modifiers, std::uint32_t key) {
+  const auto pressed = std::ranges::find_if(registered_, [&](const Registration& registration) {
+    return (registration.modifiers & ~kModNoRepeat) == modifiers && registration.key == key;
+  });
+  if (pressed == registered_.end()) return false;
+  const auto id = static_cast<std::uintptr_t>(pressed->id);
+  Deliver(pressed->hwnd, win32::kWmHotKey, id, static_cast<std::intptr_t>(modifiers | key << 16U));
+  return true;
+}
+
+std::intptr_t FakeHotKeys::Deliver(WindowHandle hwnd, std::uint32_t message, std::uintptr_t wParam,
+                                   std::intptr_t lParam) {
+  return Run(Current(hwnd), hwnd, message, wParam, lParam);
+}
+
+bool FakeHotKeys::RegisterForeign(std::uint32_t modifiers, std::uint32_t key) {
+  if (IsTaken(modifiers, key)) return false;
+  foreign_.emplace_back(modifiers, key);
+  return true;
+}
+
+void FakeHotKeys::ReleaseForeign(std::uint32_t modifiers, std::uint32_t key) {
+  std::erase(foreign_, std::pair(modifiers, key));
+}
+
+void FakeHotKeys::ForgetWindow(WindowHandle hwnd) {
+  std::erase_if(registered_,
+                [&](const Registration& registration) { return registration.hwnd == hwnd; });
+  current_.erase(hwnd);
+}
+
+bool FakeHotKeys::RegisterHotKey(WindowHandle hwnd, int id, std::uint32_t modifiers,
+                                 std::uint32_t key) {
+  log_.Add("RegisterHotKey(" + log_.Window(hwnd) + ", " + std::to_string(id) + ", " +
+           std::to_string(modifiers) + ", " + std::to_string(key) + ")");
+  if (!Exists(hwnd) || id < 0 || id > kLastId || IsTaken(modifiers, key)) return false;
+  registered_.push_back({hwnd, id, modifiers, key});
+  return true;
+}
+
+bool FakeHotKeys::UnregisterHotKey(WindowHandle hwnd, int id) {
+  log_.Add("UnregisterHotKey(" + log_.Window(hwnd) + ", " + std::to_string(id) + ")");
+  const auto latest =
+      std::find_if(registered_.rbegin(), registered_.rend(), [&](const Registration& registration) {
+        return registration.hwnd == hwnd && registration.id == id;
+      });
+  if (latest == registered_.rend()) return false;
+  registered_.erase(std::next(latest).base());
+  return true;
+}
+
+PreviousProcedure FakeHotKeys::SetWindowLongPtrA(WindowHandle hwnd, WindowProcedure& procedure) {
+  log_.Add("SetWindowLongPtrA(" + log_.Window(hwnd) + ", procedure)");
+  if (!Exists(hwnd)) return 0;
+  const PreviousProcedure previous = Current(hwnd);
+  const auto token = kOwnProcedure + 1 + static_cast<PreviousProcedure>(procedures_.size());
+  procedures_[token] = &procedure;
+  current_[hwnd] = token;
+  return previous;
+}
+
+void FakeHotKeys::SetWindowLongPtrA(WindowHandle hwnd, PreviousProcedure previous) {
+  log_.Add("SetWindowLongPtrA(" + log_.Window(hwnd) + ", previous)");
+  if (Exists(hwnd)) current_[hwnd] = previous;
+}
+
+std::intptr_t FakeHotKeys::CallWindowProcA(PreviousProcedure previous, WindowHandle hwnd,
+                                           std::uint32_t message, std::uintptr_t wParam,
+                                           std::intptr_t lParam) {
+  log_.Add("CallWindowProcA(" + log_.Window(hwnd) + ", " + HexText(message) + ", " +
+           std::to_string(wParam) + ", " + std::to_string(lParam) + ")");
+  return Run(previous, hwnd, message, wParam, lParam);
+}
+
+bool FakeHotKeys::IsTaken(std::uint32_t modifiers, std::uint32_t key) const {
+  const std::uint32_t wanted = modifiers & ~kModNoRepeat;
+  if (std::ranges::find(foreign_, std::pair(wanted, key)) != foreign_.end()) return true;
+  return std::ranges::any_of(registered_, [&](const Registration& registration) {
+    return (registration.modifiers & ~kModNoRepeat) == wanted && registration.key == key;
+  });
+}
+
+PreviousProcedure FakeHotKeys::Current(WindowHandle hwnd) const {
+  const auto current = current_.find(hwnd);
+  return current == current_.end() ? kOwnProcedure : current->second;
+}
+
+std::intptr_t FakeHotKeys::Run(PreviousProcedure procedure, WindowHandle hwnd,
+                               std::uint32_t message, std::uintptr_t wParam, std::intptr_t lParam) {
+  const auto installed = procedures_.find(procedure);
+  if (installed == procedures_.end()) return answer;
+  WindowProcedure& called = *installed->second;
+  try {
+    return called.Call(hwnd, message, wParam, lParam);
+  } catch (...) {
+    called.OnUncaught();
+    return 0;
+  }
+}
+
+}  // namespace korvale

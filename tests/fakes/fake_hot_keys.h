@@ -1,0 +1,80 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <utility>
+#include <vector>
+
+#include "platform/hot_key_api.h"
+#include "platform/types.h"
+#include "tests/fakes/call_log.h"
+
+namespace korvale {
+
+/// Hot keys as Windows keeps them: a combination belongs to one registration at most, and an
+/// identifier that is registered again has two. Presses arrive at the window's procedure.
+class FakeHotKeys : public HotKeyApi {
+ public:
+  struct Registration {
+    WindowHandle hwnd = 0;
+    int id = 0;
+    std::uint32_t modifiers = 0;
+    std::uint32_t key = 0;
+
+    friend bool operator==(const Registration&, const Registration&) = default;
+  };
+  using IsWindow = std::function<bool(WindowHandle)>;
+
+  /// `isWindow` tells which windows exist; without it all do.
+  explicit FakeHotKeys(CallLog& log, IsWindow isWindow = {});
+
+  // What the user and the other programs do.
+  /// Presses a combination once. True when a window of the program got WM_HOTKEY for it.
+  bool Press(std::uint32_t modifiers, std::uint32_t key);
+  /// Calls the procedure of a window, as Windows does with each of its messages.
+  std::intptr_t Deliver(WindowHandle hwnd, std::uint32_t message, std::uintptr_t wParam = 0,
+                        std::intptr_t lParam = 0);
+  /// Another program takes a combination; false when it is taken already.
+  bool RegisterForeign(std::uint32_t modifiers, std::uint32_t key);
+  void ReleaseForeign(std::uint32_t modifiers, std::uint32_t key);
+  /// Drops all that belongs to a window, as its destruction does.
+  void ForgetWindow(WindowHandle hwnd);
+
+  // What a test looks at.
+  /// In the order of their registration.
+  const std::vector<Registration>& Registered() const { return registered_; }
+  bool IsHooked(WindowHandle hwnd) const { return Current(hwnd) != kOwnProcedure; }
+
+  /// What a window's own procedure returns.
+  std::intptr_t answer = 0;
+
+  // HotKeyApi
+  bool RegisterHotKey(WindowHandle hwnd, int id, std::uint32_t modifiers,
+                      std::uint32_t key) override;
+  /// Of several registrations of the identifier the latest one goes.
+  bool UnregisterHotKey(WindowHandle hwnd, int id) override;
+  PreviousProcedure SetWindowLongPtrA(WindowHandle hwnd, WindowProcedure& procedure) override;
+  void SetWindowLongPtrA(WindowHandle hwnd, PreviousProcedure previous) override;
+  std::intptr_t CallWindowProcA(PreviousProcedure previous, WindowHandle hwnd,
+                                std::uint32_t message, std::uintptr_t wParam,
+                                std::intptr_t lParam) override;
+
+ private:
+  static constexpr PreviousProcedure kOwnProcedure = 0x7000;
+
+  bool Exists(WindowHandle hwnd) const { return !is_window_ || is_window_(hwnd); }
+  bool IsTaken(std::uint32_t modifiers, std::uint32_t key) const;
+  PreviousProcedure Current(WindowHandle hwnd) const;
+  std::intptr_t Run(PreviousProcedure procedure, WindowHandle hwnd, std::uint32_t message,
+                    std::uintptr_t wParam, std::intptr_t lParam);
+
+  CallLog& log_;
+  IsWindow is_window_;
+  std::vector<Registration> registered_;
+  std::vector<std::pair<std::uint32_t, std::uint32_t>> foreign_;
+  std::map<PreviousProcedure, WindowProcedure*> procedures_;
+  std::map<WindowHandle, PreviousProcedure> current_;
+};
+
+}  // namespace korvale

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/settings_store.h"
+#include "tests/fakes/call_log.h"
+
+namespace korvale {
+
+/// Thrown where the program is killed; no error that anything could handle.
+struct KilledBetweenWrites {};
+
+/// The settings of a user in memory. Keeps the order of writing, ignores case in every name, and
+/// outlives the programs that use it.
+class FakeSettingsStore : public SettingsStore {
+ public:
+  FakeSettingsStore() = default;
+  /// Logs each change, reads only when the log includes them.
+  explicit FakeSettingsStore(CallLog& log) : log_(&log) {}
+
+  /// Puts a value there that is no text, as another program may.
+  void SetOtherType(const std::string& appName, const std::string& section, const std::string& key);
+  /// Refuses every change from now on.
+  void RefuseWrites(bool refuse) { refuse_writes_ = refuse; }
+  /// Lets this many changes through; the next one throws KilledBetweenWrites. -1 = all.
+  void KillAfterWrites(int writes) { writes_left_ = writes; }
+  /// Names of all sections of an application in the order of their making.
+  std::vector<std::string> Sections(const std::string& appName) const;
+  /// Names of all applications that have a section.
+  std::vector<std::string> Applications() const;
+
+  // SettingsStore
+  std::optional<std::string> GetSetting(const std::string& appName, const std::string& section,
+                                        const std::string& key) override;
+  Pairs GetAllSettings(const std::string& appName, const std::string& section) override;
+  bool SaveSetting(const std::string& appName, const std::string& section, const std::string& key,
+                   const std::string& value) override;
+  bool DeleteSetting(const std::string& appName, const std::string& section,
+                     const std::string& key) override;
+  bool DeleteSection(const std::string& appName, const std::string& section) override;
+
+ private:
+  struct Value {
+    std::string key;
+    std::optional<std::string> text;  ///< Nothing when it is of another type.
+  };
+  struct Section {
+    std::string appName;
+    std::string name;
+    std::vector<Value> values;
+  };
+
+  Section* Find(const std::string& appName, const std::string& section);
+  void Write(const std::string& appName, const std::string& section, const Value& value);
+  /// Logs a change; false when it is refused.
+  bool BeginWrite(const std::string& call);
+  void LogRead(const std::string& call);
+
+  CallLog* log_ = nullptr;
+  std::vector<Section> sections_;
+  bool refuse_writes_ = false;
+  int writes_left_ = -1;
+};
+
+}  // namespace korvale
