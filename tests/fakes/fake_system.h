@@ -1,0 +1,80 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <set>
+#include <string>
+
+#include "platform/system_api.h"
+#include "tests/fakes/call_log.h"
+
+namespace korvale {
+
+/// The named mutexes of a Windows session, shared by all programs in it.
+class FakeSession {
+ public:
+  /// Called while a program waits for a mutex that another one holds, so that the holder can act.
+  void WhenWaiting(std::function<void()> action) { when_waiting_ = std::move(action); }
+  /// The number of programs that hold the mutex: 0 or 1.
+  bool IsHeld(const std::string& name) const { return holders_.contains(name); }
+
+ private:
+  friend class FakeSystem;
+  friend class FakeMutex;
+
+  struct Holder {
+    int program = 0;
+    int times = 0;
+  };
+
+  bool Take(const std::string& name, int program);
+  bool Wait(const std::string& name, int program);
+  void LetGo(const std::string& name, int program);
+  void LetGoOfAll(int program);
+
+  std::map<std::string, Holder> holders_;
+  std::function<void()> when_waiting_;
+  int last_program_ = 0;
+};
+
+/// What one program finds around itself. The program's death lets go of its mutexes.
+class FakeSystem : public SystemApi {
+ public:
+  FakeSystem(CallLog& log, std::shared_ptr<FakeSession> session);
+  explicit FakeSystem(CallLog& log) : FakeSystem(log, std::make_shared<FakeSession>()) {}
+  ~FakeSystem() override;
+  FakeSystem(const FakeSystem&) = delete;
+  FakeSystem& operator=(const FakeSystem&) = delete;
+
+  FakeSession& Session() { return *session_; }
+  /// The program died without letting go of anything itself.
+  void Die() { session_->LetGoOfAll(program_); }
+
+  // SystemApi
+  std::string GetModuleFileNameA() override { return executablePath; }
+  std::string GetCommandLineA() override { return commandLine; }
+  VersionInfo GetFileVersionInfoA() override { return versionInfo; }
+  OsVersion GetVersionExA(std::uint32_t structureSize) override;
+  std::string GetWindowsDirectoryA(std::uint32_t bufferSize) override;
+  void ShellExecuteA(WindowHandle hwnd, const std::string& verb, const std::string& file,
+                     int showCommand) override;
+  bool FileExists(const std::string& path) override;
+  std::unique_ptr<SystemMutex> CreateMutexA(const std::string& name) override;
+
+  std::string executablePath = "C:\\Programs\\Work\\Korvale.exe";
+  std::string commandLine;
+  VersionInfo versionInfo{1, 2, 3, "Copyright", "Description"};
+  OsVersion osVersion{2, 10};
+  std::string windowsFolder = "C:\\Windows";
+  std::set<std::string> files;
+  bool refuseMutexes = false;
+
+ private:
+  CallLog& log_;
+  std::shared_ptr<FakeSession> session_;
+  int program_;
+};
+
+}  // namespace korvale
