@@ -1,0 +1,52 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <vector>
+
+#include "platform/clock.h"
+
+namespace korvale {
+
+/// Time that the test moves, and the timers that tick in it.
+class FakeClock : public Clock, public TimerApi {
+ public:
+  using Tick = std::function<void(WindowHandle hwnd, int id)>;
+
+  /// Who gets the ticks.
+  void SetTickHandler(Tick tick) { tick_ = std::move(tick); }
+
+  std::uint64_t GetTickCount64() override { return now_; }
+  LocalTime GetLocalTime() override { return local_; }
+  void SetLocalTime(const LocalTime& local) { local_ = local; }
+
+  void SetTimer(WindowHandle hwnd, int id, std::uint32_t milliseconds) override;
+  void KillTimer(WindowHandle hwnd, int id) override;
+
+  /// Lets this much time pass; each timer ticks when it is due, the earliest first.
+  void Advance(std::uint64_t milliseconds);
+  /// Lets time pass up to the next tick and delivers it; false when no timer runs.
+  bool AdvanceToNextTick();
+  /// The interval of a running timer.
+  std::optional<std::uint32_t> IntervalOf(WindowHandle hwnd, int id) const;
+  bool AnyTimerOf(WindowHandle hwnd) const;
+
+ private:
+  struct Timer {
+    WindowHandle hwnd;
+    int id;
+    std::uint32_t interval;
+    std::uint64_t due;
+  };
+
+  std::vector<Timer>::iterator Earliest();
+  void Deliver(std::vector<Timer>::iterator timer);
+
+  Tick tick_;
+  std::uint64_t now_ = 1'000'000;
+  LocalTime local_;
+  std::vector<Timer> timers_;
+};
+
+}  // namespace korvale

@@ -1,0 +1,119 @@
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/form_host.h"
+#include "tests/contract/user_hands.h"
+#include "tests/fakes/call_log.h"
+#include "tests/fakes/desktop_windows.h"
+#include "tests/fakes/headless_screen.h"
+
+namespace korvale {
+
+class Form;
+
+/// Shows forms on no screen. It keeps what it was told to show, so that a change that the program
+/// forgot to show is missing here as well. What waits for the user (a modal form, a message box, a
+/// pop-up menu) takes the next queued answer; without one the test fails instead of hanging.
+class HeadlessFormHost : public FormHost, private DesktopListener {
+ public:
+  using Answer = std::function<std::int16_t(const ShownMessage&)>;
+  using Choose = std::function<std::string(const std::vector<ShownMenuItem>&)>;
+
+  /// Both must outlive the host.
+  HeadlessFormHost(DesktopWindows& desktop, CallLog& log);
+  /// Fails the test when something queued was never asked for.
+  ~HeadlessFormHost() override;
+
+  /// Queues what the user does when this form is shown modally.
+  void WhenModal(std::string formName, std::function<void(Form&)> action);
+  /// Queues what the user does when a message loop waits for him.
+  void WhenWaiting(std::function<void()> action);
+  void WhenMessageBox(Answer answer);
+  /// Presses this button of the next message box.
+  void AnswerNext(std::int16_t button);
+  void WhenPopupMenu(Choose choose);
+  /// Called when a message loop waits and nothing is queued: lets something happen, such as time
+  /// pass, and returns true; false when there is nothing left, which fails the test.
+  void SetIdle(std::function<bool()> idle) { idle_ = std::move(idle); }
+  /// Puts a message of the program itself into the queue.
+  void Post(std::function<void()> message) { posted_.push_back(std::move(message)); }
+  /// The frame of a form with a border, as AdjustWindowRectEx tells it, and the height of a menu.
+  void SetFrame(const TwipsRect& frame, Twips menuHeight);
+  void SetWorkArea(const TwipsRect& workArea) { workArea_ = workArea; }
+
+  /// Every message box so far.
+  const std::vector<ShownMessage>& Messages() const { return messages_; }
+  bool MessageBoxUp() const { return !boxes_.empty(); }
+  /// A tick of a timer, as the clock gives it.
+  void DeliverTimer(WindowHandle hwnd, int id);
+
+  HeadlessWindow* FindWindow(WindowHandle hwnd);
+  /// The window of a form; null when the form is not loaded.
+  HeadlessWindow* FindForm(std::string_view name);
+  HeadlessWindow& Window(WindowHandle hwnd);
+  DesktopWindows& Desktop() { return *desktop_; }
+  /// Tells the form something; its errors go to OnUncaught.
+  void Tell(WindowHandle hwnd, const std::function<void(FormEvents&)>& event);
+  /// Gives the focus as the mouse does, the window being active.
+  void MoveFocus(HeadlessWindow& window, int control);
+
+  WindowHandle CreateWindowExW(const FormState& form, FormEvents& events) override;
+  void DestroyWindow(WindowHandle hwnd) override;
+  void UpdateControl(WindowHandle hwnd, int control, ControlProperty property) override;
+  void SetWindowTextW(WindowHandle hwnd) override;
+  void MoveWindow(WindowHandle hwnd) override;
+  void DrawMenuBar(WindowHandle hwnd) override;
+  void EnableWindow(WindowHandle hwnd, bool enable) override;
+  void ShowWindow(WindowHandle hwnd, int command) override;
+  void SetFocus(WindowHandle hwnd, int control) override;
+  int GetFocus(WindowHandle hwnd) override;
+  TextSelection GetSelection(WindowHandle hwnd, int control) override;
+  void SetSelection(WindowHandle hwnd, int control, TextSelection selection) override;
+  TwipsRect AdjustWindowRectEx(const FormState& form) override;
+  TwipsRect GetMonitorInfoW(WindowHandle hwnd) override;
+  std::int16_t MessageBoxW(WindowHandle owner, const std::string& text, const std::string& title,
+                           std::int32_t style) override;
+  void TrackPopupMenuEx(WindowHandle hwnd, MenuItem& menu) override;
+  void RunMessageLoop(const std::function<bool()>& done) override;
+  void DoEvents() override;
+  void PostQuitMessage() override;
+  bool QuitPosted() override { return quit_; }
+
+ private:
+  /// What the user does next, and the form that he expects to see then ("" = any).
+  struct Step {
+    std::string formName;
+    std::function<void()> action;
+  };
+
+  void WindowActivated(WindowHandle hwnd) override;
+  void WindowStateChanged(WindowHandle hwnd, ShowState state) override;
+  bool RunPosted();
+  bool RunStep();
+  std::string ActiveFormName();
+  Answer TakeAnswer(const ShownMessage& message);
+
+  DesktopWindows* desktop_;
+  CallLog* log_;
+  std::vector<std::unique_ptr<HeadlessWindow>> windows_;
+  std::deque<Step> steps_;
+  std::deque<Answer> answers_;
+  std::deque<Choose> choices_;
+  std::deque<std::function<void()>> posted_;
+  std::function<bool()> idle_;
+  std::vector<ShownMessage> messages_;
+  std::vector<ShownMessage> boxes_;
+  TwipsRect frame_ = {45, 355, 90, 400};
+  Twips menuHeight_ = 300;
+  TwipsRect workArea_ = {0, 0, 15360, 11100};
+  bool quit_ = false;
+};
+
+}  // namespace korvale

@@ -1,0 +1,204 @@
+#include <algorithm>
+#include <string>
+
+#include "platform/win32_constants.h"
+#include "tests/fakes/headless_user.h"
+#include "tests/fakes/keys.h"
+#include "util/characters.h"
+#include "util/text.h"
+
+namespace korvale {
+namespace {
+
+bool IsLetterKey(int virtualKey) { return virtualKey >= 'A' && virtualKey <= 'Z'; }
+bool IsDigitKey(int virtualKey) { return virtualKey >= '0' && virtualKey <= '9'; }
+
+bool OpensOrClosesList(int virtualKey, unsigned shift) {
+  const bool alt = (shift & kAlt) != 0;
+  return (virtualKey == win32::kVkF4 && !alt) ||
+         (alt && (virtualKey == win32::kVkDown || virtualKey == win32::kVkUp));
+}
+
+/// The entry that an arrow, Home or End key leads to; -1 = the key does not move.
+int MoveInList(int from, int count, int virtualKey) {
+  if (count == 0) return -1;
+  switch (virtualKey) {
+    case win32::kVkDown:
+    case win32::kVkRight:
+      return std::min(from + 1, count - 1);
+    case win32::kVkUp:
+    case win32::kVkLeft:
+      return std::max(from - 1, 0);
+    case win32::kVkHome:
+      return 0;
+    case win32::kVkEnd:
+      return count - 1;
+    default:
+      return -1;
+  }
+}
+
+}  // namespace
+
+HeadlessUser::Key HeadlessUser::KeyOf(int virtualKey, unsigned shift) {
+  Key key = {virtualKey, shift, ""};
+  if ((shift & kCtrl) != 0) return key;
+  if (IsDigitKey(virtualKey) || virtualKey == win32::kVkSpace) {
+    key.character = std::string(1, static_cast<char>(virtualKey));
+  } else if (IsLetterKey(virtualKey)) {
+    const int lowered = (shift & kShift) != 0 ? virtualKey : virtualKey - 'A' + 'a';
+    key.character = std::string(1, static_cast<char>(lowered));
+  }
+  return key;
+}
+
+HeadlessUser::Key HeadlessUser::KeyOfCharacter(std::string_view character, bool alt) {
+  const std::string upper = UpperCase(character);
+  Key key = {fakes::kVkPacket, alt ? kAlt : kNoShift, std::string(character)};
+  if (upper.size() == 1) {
+    const int virtualKey = static_cast<unsigned char>(upper.front());
+    const bool plainKey =
+        IsLetterKey(virtualKey) || IsDigitKey(virtualKey) || virtualKey == win32::kVkSpace;
+    if (plainKey) key.virtualKey = virtualKey;
+    if (IsLetterKey(virtualKey) && upper == character) key.shift |= kShift;
+  }
+  return key;
+}
+
+void HeadlessUser::PressKey(WindowHandle hwnd, int virtualKey, unsigned shift) {
+  Press(hwnd, KeyOf(virtualKey, shift));
+}
+
+void HeadlessUser::TypeText(WindowHandle hwnd, std::string_view text, bool alt) {
+  for (const std::string_view character : SplitCharacters(text)) {
+    Press(hwnd, KeyOfCharacter(character, alt));
+  }
+}
+
+void HeadlessUser::Press(WindowHandle hwnd, const Key& key) {
+  HeadlessWindow& window = Reach(hwnd, "press a key");
+  if (host_->Desktop().Active() != hwnd) {
+    FailTest("cannot press a key: form " + window.form->name + " is not in front");
+  }
+  if (!openMenus_.empty()) {
+    PressInMenu(hwnd, key);
+    return;
+  }
+  const int control = window.focus;
+  bool dealtWith = false;
+  host_->Tell(hwnd, [&](FormEvents& events) {
+    dealtWith = events.OnKeyDown(control, key.virtualKey, key.shift);
+  });
+  if (!dealtWith && !key.character.empty()) {
+    const char32_t character = FirstCharacter(key.character).codePoint;
+    host_->Tell(hwnd, [&](FormEvents& events) {
+      dealtWith = events.OnCharacter(control, character, key.shift);
+    });
+  }
+  if (host_->FindWindow(hwnd) == nullptr) return;
+  if (!dealtWith) PressInControl(hwnd, control, key);
+  if (host_->FindWindow(hwnd) == nullptr) return;
+  bool releaseDealtWith = false;
+  host_->Tell(hwnd, [&](FormEvents& events) {
+    releaseDealtWith = events.OnKeyUp(control, key.virtualKey, key.shift);
+  });
+  // Buttons act when the space bar is released.
+  const bool presses = !dealtWith && !releaseDealtWith && control != 0 &&
+                       key.virtualKey == win32::kVkSpace && key.shift == kNoShift &&
+                       host_->FindWindow(hwnd) != nullptr;
+  if (!presses) return;
+  const ControlKind kind = Look(hwnd, control).kind;
+  if (kind == ControlKind::kButton || kind == ControlKind::kCheckBox ||
+      kind == ControlKind::kOptionButton) {
+    host_->Tell(hwnd, [&](FormEvents& events) { events.OnClick(control); });
+  }
+}
+
+void HeadlessUser::PressInControl(WindowHandle hwnd, int control, const Key& key) {
+  const bool alt = (key.shift & kAlt) != 0;
+  if (alt && key.virtualKey == win32::kVkF4) {
+    host_->Tell(hwnd, [](FormEvents& events) { events.OnCloseRequested(CloseReason::kUser); });
+    return;
+  }
+  if (alt && OpenMenuByKey(hwnd, key.character)) return;
+  if (control == 0) return;
+  const ControlKind kind = Look(hwnd, control).kind;
+  const bool list = kind == ControlKind::kDropDownList || kind == ControlKind::kComboBox;
+  if (list && (host_->Window(hwnd).Control(control).dropped ||
+               OpensOrClosesList(key.virtualKey, key.shift))) {
+    PressInOpenList(hwnd, control, key);
+  } else if (kind == ControlKind::kTextBox && !alt) {
+    PressInText(hwnd, control, key);
+  } else if ((list || kind == ControlKind::kTabStrip) && !alt) {
+    PressInList(hwnd, control, key);
+  }
+}
+
+void HeadlessUser::TellTyped(WindowHandle hwnd, int control) {
+  const std::string text = Look(hwnd, control).text;
+  host_->Tell(hwnd, [&](FormEvents& events) { events.OnTextTyped(control, text); });
+}
+
+void HeadlessUser::PressInText(WindowHandle hwnd, int control, const Key& key) {
+  HeadlessControl& box = host_->Window(hwnd).Control(control);
+  const bool readOnly = (box.shown.flags & kReadOnly) != 0;
+  bool changed = false;
+  if (!key.character.empty()) {
+    if (!readOnly) TypeInto(box.shown.text, box.cursor, key.character);
+    changed = !readOnly;
+  } else {
+    changed = PressKeyIn(box.shown.text, box.cursor, key.virtualKey, key.shift, readOnly);
+  }
+  if (changed) TellTyped(hwnd, control);
+}
+
+void HeadlessUser::PressInList(WindowHandle hwnd, int control, const Key& key) {
+  const ControlState& shown = Look(hwnd, control);
+  const bool upOrDown = key.virtualKey == win32::kVkUp || key.virtualKey == win32::kVkDown;
+  if (shown.kind == ControlKind::kComboBox && !upOrDown) {
+    PressInText(hwnd, control, key);
+    return;
+  }
+  const int target =
+      MoveInList(shown.listIndex, static_cast<int>(shown.items.size()), key.virtualKey);
+  if (target < 0 && shown.kind == ControlKind::kDropDownList) {
+    SearchList(hwnd, control, key);
+  } else if (target >= 0 && target != shown.listIndex) {
+    PickEntry(hwnd, control, target);
+  }
+}
+
+void HeadlessUser::SearchList(WindowHandle hwnd, int control, const Key& key) {
+  if (key.character.empty()) return;
+  const ControlState& shown = Look(hwnd, control);
+  const int count = static_cast<int>(shown.items.size());
+  for (int step = 1; step <= count; ++step) {
+    const int index = (shown.listIndex + step) % count;
+    const std::string& text = shown.items[static_cast<std::size_t>(index)].text;
+    if (!EqualsIgnoreCase(LeftCharacters(text, 1), key.character)) continue;
+    if (index != shown.listIndex) PickEntry(hwnd, control, index);
+    return;
+  }
+}
+
+void HeadlessUser::PressInOpenList(WindowHandle hwnd, int control, const Key& key) {
+  HeadlessControl& list = host_->Window(hwnd).Control(control);
+  if (!list.dropped) {
+    OpenList(hwnd, control);
+    return;
+  }
+  const bool enter = key.virtualKey == win32::kVkReturn;
+  if (key.virtualKey == win32::kVkEscape) {
+    CloseList(hwnd, control);
+  } else if (enter || OpensOrClosesList(key.virtualKey, key.shift)) {
+    const int chosen = list.highlighted;
+    CloseList(hwnd, control);
+    if (chosen >= 0) PickEntry(hwnd, control, chosen);
+  } else {
+    const int count = static_cast<int>(list.shown.items.size());
+    const int target = MoveInList(list.highlighted, count, key.virtualKey);
+    if (target >= 0) list.highlighted = target;
+  }
+}
+
+}  // namespace korvale

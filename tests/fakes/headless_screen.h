@@ -1,0 +1,68 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "platform/form_host.h"
+#include "platform/form_model.h"
+#include "tests/contract/user_hands.h"
+#include "tests/fakes/headless_text_box.h"
+
+namespace korvale {
+
+/// The test asked for something that no user could do, or nobody answers the program.
+class HeadlessFailure : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// Fails the running test and leaves it with HeadlessFailure.
+[[noreturn]] void FailTest(const std::string& message);
+
+/// A control as the screen shows it: what the program has told the host, and no more.
+struct HeadlessControl {
+  ControlState shown;
+  TextCursor cursor;
+  bool dropped = false;
+  int highlighted = -1;  ///< In an open list.
+};
+
+/// A menu of the bar as last drawn.
+struct DrawnMenu {
+  MenuItem* menu = nullptr;
+  ShownMenuItem drawn;
+};
+
+/// A window of the headless host.
+struct HeadlessWindow {
+  WindowHandle handle = 0;
+  const FormState* form = nullptr;
+  FormEvents* events = nullptr;
+  TwipsRect place;
+  TwipsRect frame;  ///< What frame and menu bar add.
+  std::vector<HeadlessControl> controls;
+  std::vector<DrawnMenu> bar;
+  int focus = 0;
+
+  HeadlessControl& Control(int id);
+  const HeadlessControl& Control(int id) const;
+  /// "cmdOK" or "optWindow(2)".
+  std::string Describe(int id) const;
+  /// The control and all that holds it are visible.
+  bool IsShown(int id) const;
+  bool IsEnabled(int id) const;
+  /// Why the mouse cannot reach the middle of a control; "" when it can.
+  std::string WhyOutOfReach(int id) const;
+  void DrawMenuBar();
+
+ private:
+  bool IsCovered(int id, Twips x, Twips y) const;
+};
+
+/// The entry as it is drawn.
+ShownMenuItem DrawItem(const MenuItem& item);
+/// The visible entries of a menu as they are drawn.
+std::vector<ShownMenuItem> DrawItems(const MenuItem& menu);
+
+}  // namespace korvale

@@ -1,0 +1,105 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "tests/contract/user_hands.h"
+#include "tests/fakes/fake_clock.h"
+#include "tests/fakes/headless_form_host.h"
+
+namespace korvale {
+
+/// The user before the headless host: does what Windows' controls do by themselves, and fails the
+/// test when he is asked for something that he could not do.
+class HeadlessUser : public UserHands {
+ public:
+  /// Both must outlive the user. `clock` gives its ticks to the host from now on.
+  HeadlessUser(HeadlessFormHost& host, FakeClock& clock);
+
+  bool IsShown(WindowHandle hwnd) override;
+  bool IsEnabled(WindowHandle hwnd) override;
+  std::string Title(WindowHandle hwnd) override;
+  std::string ClassName(WindowHandle hwnd) override;
+  TwipsRect Place(WindowHandle hwnd) override;
+  void PressCloseBox(WindowHandle hwnd) override;
+  void Drag(WindowHandle hwnd, const TwipsRect& place) override;
+
+  std::string Text(WindowHandle hwnd, int control) override;
+  bool IsShown(WindowHandle hwnd, int control) override;
+  bool IsEnabled(WindowHandle hwnd, int control) override;
+  int Value(WindowHandle hwnd, int control) override;
+  std::vector<std::string> ListEntries(WindowHandle hwnd, int control) override;
+  int ListIndex(WindowHandle hwnd, int control) override;
+  int Focus(WindowHandle hwnd) override;
+  TwipsRect Place(WindowHandle hwnd, int control) override;
+  /// The control as shown: colours, border, tool tip, flags.
+  const ControlState& Look(WindowHandle hwnd, int control);
+
+  void Click(WindowHandle hwnd, int control) override;
+  /// Presses and releases a mouse button at a point of a control, or of the form's client area.
+  void ClickAt(WindowHandle hwnd, int control, Twips x, Twips y, unsigned shift = kNoShift,
+               MouseButton button = MouseButton::kLeft);
+  void MoveMouse(WindowHandle hwnd, int control, Twips x, Twips y) override;
+  void PressKey(WindowHandle hwnd, int virtualKey, unsigned shift = kNoShift) override;
+  void TypeText(WindowHandle hwnd, std::string_view text, bool alt = false) override;
+  void Pick(WindowHandle hwnd, int control, int listIndex) override;
+  void OpenList(WindowHandle hwnd, int control);
+  void OpenAndCloseList(WindowHandle hwnd, int control) override;
+
+  std::vector<ShownMenuItem> MenuBarItems(WindowHandle hwnd) override;
+  std::vector<ShownMenuItem> MenuItems(WindowHandle hwnd,
+                                       const std::vector<std::string>& path) override;
+  void ChooseMenu(WindowHandle hwnd, const std::vector<std::string>& path) override;
+  /// The entries of the menu that the keyboard has opened; empty when none is open.
+  std::vector<ShownMenuItem> OpenMenuItems() const;
+
+  void WhenWaiting(std::function<void()> action) override;
+  void WhenMessageBox(std::function<std::int16_t(const ShownMessage&)> answer) override;
+  void WhenPopupMenu(std::function<std::string(const std::vector<ShownMenuItem>&)> choose) override;
+  void LetPass(std::uint32_t milliseconds) override;
+
+ private:
+  struct Key {
+    int virtualKey = 0;
+    unsigned shift = kNoShift;
+    std::string character;  ///< What the key types, "" = nothing.
+  };
+
+  // headless_user.cpp
+  HeadlessWindow& Reach(WindowHandle hwnd, const std::string& doing);
+  HeadlessWindow& ReachControl(WindowHandle hwnd, int control, const std::string& doing);
+  void PressMouse(WindowHandle hwnd, int control, Twips x, Twips y, unsigned shift,
+                  MouseButton button);
+  void CloseOpenLists(WindowHandle hwnd);
+  void CloseList(WindowHandle hwnd, int control);
+  void PickEntry(WindowHandle hwnd, int control, int listIndex);
+
+  // headless_keyboard.cpp
+  static Key KeyOf(int virtualKey, unsigned shift);
+  static Key KeyOfCharacter(std::string_view character, bool alt);
+  void Press(WindowHandle hwnd, const Key& key);
+  void PressInControl(WindowHandle hwnd, int control, const Key& key);
+  void PressInText(WindowHandle hwnd, int control, const Key& key);
+  void PressInList(WindowHandle hwnd, int control, const Key& key);
+  void PressInOpenList(WindowHandle hwnd, int control, const Key& key);
+  void SearchList(WindowHandle hwnd, int control, const Key& key);
+  void TellTyped(WindowHandle hwnd, int control);
+
+  // headless_menus.cpp
+  DrawnMenu* FindInBar(HeadlessWindow& window, const std::string& caption);
+  MenuItem& WalkMenus(WindowHandle hwnd, const std::vector<std::string>& path);
+  bool OpenMenuByKey(WindowHandle hwnd, std::string_view character);
+  void PressInMenu(WindowHandle hwnd, const Key& key);
+  void OpenMenu(WindowHandle hwnd, MenuItem& menu);
+  void ChooseItem(WindowHandle hwnd, MenuItem& item);
+  void MoveInMenu(int step);
+
+  HeadlessFormHost* host_;
+  FakeClock* clock_;
+  std::vector<MenuItem*> openMenus_;  ///< By the keyboard: the menu of the bar, then its submenus.
+  MenuItem* highlighted_ = nullptr;
+};
+
+}  // namespace korvale
