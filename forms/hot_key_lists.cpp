@@ -1,0 +1,77 @@
+#include "forms/hot_key_lists.h"
+
+#include <algorithm>
+
+#include "platform/win32_constants.h"
+#include "util/lists.h"
+#include "util/text.h"
+
+namespace korvale {
+namespace {
+
+constexpr HotKeyChoice kModifiers[] = {
+    {" ", 0}, {"Alt", 1}, {"Ctrl", 2}, {"Shift", 4}, {"Windows®", 8},
+};
+
+// The keypad and the arrows stand in the order that users of the program know.
+constexpr HotKeyChoice kKeys[] = {
+    {" ", 0},           {"F1", 0x70},        {"F2", 0x71},        {"F3", 0x72},
+    {"F4", 0x73},       {"F5", 0x74},        {"F6", 0x75},        {"F7", 0x76},
+    {"F8", 0x77},       {"F9", 0x78},        {"F10", 0x79},       {"F11", 0x7A},
+    {"F12", 0x7B},      {"PrintScrn", 0x2C}, {"Pause", 0x13},     {"Numpad /", 0x6F},
+    {"Numpad *", 0x6A}, {"Numpad -", 0x6D},  {"Numpad +", 0x6B},  {"Numpad .", 0x6E},
+    {"Numpad 0", 0x60}, {"Numpad 1", 0x61},  {"Numpad 2", 0x62},  {"Numpad 3", 0x63},
+    {"Numpad 4", 0x64}, {"Numpad 5", 0x65},  {"Numpad 6", 0x66},  {"Numpad 7", 0x67},
+    {"Numpad 8", 0x68}, {"Numpad 9", 0x69},  {"A", 65},           {"B", 66},
+    {"C", 67},          {"D", 68},           {"E", 69},           {"F", 70},
+    {"G", 71},          {"H", 72},           {"I", 73},           {"J", 74},
+    {"K", 75},          {"L", 76},           {"M", 77},           {"N", 78},
+    {"O", 79},          {"P", 80},           {"Q", 81},           {"R", 82},
+    {"S", 83},          {"T", 84},           {"U", 85},           {"V", 86},
+    {"W", 87},          {"X", 88},           {"Y", 89},           {"Z", 90},
+    {"Insert", 0x2D},   {"Delete", 0x2E},    {"DownArrow", 0x28}, {"UpArrow", 0x26},
+};
+
+void Fill(Control& list, std::span<const HotKeyChoice> choices) {
+  for (const HotKeyChoice& choice : choices) list.AddItem(choice.text, choice.value);
+}
+
+std::string KeyText(std::int16_t key) {
+  // Digits belong to the Tags and are in no list.
+  if (key >= '0' && key <= '9') return std::string(1, static_cast<char>(key));
+  const auto choice = std::ranges::find(kKeys, key, &HotKeyChoice::value);
+  return choice == std::end(kKeys) ? "Key " + DecimalText(key) : choice->text;
+}
+
+}  // namespace
+
+std::span<const HotKeyChoice> ModifierChoices() { return kModifiers; }
+
+std::span<const HotKeyChoice> KeyChoices() { return kKeys; }
+
+void FillHotKeyLists(Form& form) {
+  for (Control& control : form.Controls()) {
+    if (!control.Name().starts_with("cboHotKey")) continue;
+    const bool modifiers = control.Name().starts_with("cboHotKeyMod");
+    Fill(control, modifiers ? ModifierChoices() : KeyChoices());
+  }
+}
+
+void SelectReleasedKey(Control& list, int& key, unsigned shift) {
+  if (shift != kNoShift) return;
+  const std::int32_t value = key == win32::kVkSpace ? 0 : key;
+  const std::int16_t index = FindListIndex(list.Items(), value, "ITEM_DATA");
+  if (index < 0) return;
+  list.SetListIndex(index);
+  key = 0;
+}
+
+std::string HotKeyText(std::int16_t modifiers, std::int16_t key) {
+  std::string text;
+  for (const HotKeyChoice& choice : kModifiers) {
+    if ((modifiers & choice.value) != 0) text.append(choice.text).append("+");
+  }
+  return text + KeyText(key);
+}
+
+}  // namespace korvale

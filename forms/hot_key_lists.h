@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+
+#include "forms/form.h"
+
+namespace korvale {
+
+/// One entry of a list in which a hot key is chosen: what the user reads, and the number that
+/// RegisterHotKey gets.
+struct HotKeyChoice {
+  const char* text;
+  std::int16_t value;
+};
+
+/// The modifiers offered, in the order of the list.
+std::span<const HotKeyChoice> ModifierChoices();
+/// The keys offered, in the order of the list.
+std::span<const HotKeyChoice> KeyChoices();
+
+/// Fills every list of the form whose name begins with "cboHotKeyMod" with the modifiers and every
+/// other one whose name begins with "cboHotKey" with the keys.
+void FillHotKeyLists(Form& form);
+
+/// A key was released in a key list: selects its entry, the space bar the blank one, and sets `key`
+/// to 0. Does nothing for a key that is not in the list or while Shift, Ctrl or Alt is held.
+void SelectReleasedKey(Control& list, int& key, unsigned shift);
+
+/// A combination as the user reads it: "Alt+3", "Windows®+W", "Pause". `modifiers` is a sum of MOD_
+/// values.
+std::string HotKeyText(std::int16_t modifiers, std::int16_t key);
+
+}  // namespace korvale

@@ -1,0 +1,206 @@
+#include "forms/options_design.h"
+
+#include <array>
+#include <span>
+#include <utility>
+#include <vector>
+
+namespace korvale {
+namespace {
+
+using enum ControlKind;
+
+constexpr Twips kRowHeight = 375;
+
+/// Collects the rows of the form; every row goes into the container that was opened last.
+class Rows {
+ public:
+  void Page(int index) {
+    rows_.push_back({kPage, "picOptions", index, "", "", {210, 495, 12750, 5775}});
+    container_ = "picOptions";
+    containerIndex_ = page_ = index;
+  }
+  void Frame(const char* name, const char* caption, Twips top, Twips height) {
+    container_ = "picOptions";
+    containerIndex_ = page_;
+    Add(kFrame, name, -1, caption, "", {105, top, 12540, height});
+    container_ = name;
+    containerIndex_ = -1;
+  }
+  void CloseFrame() {
+    container_ = "picOptions";
+    containerIndex_ = page_;
+  }
+  void ClosePages() {
+    container_ = "";
+    containerIndex_ = -1;
+  }
+  void Add(ControlKind kind, const char* name, int index, const char* caption, const char* toolTip,
+           TwipsRect place, unsigned flags = kNoFlags) {
+    ControlRow row{kind, name, index, caption, toolTip, place, container_, containerIndex_, flags};
+    if (kind == kDropDownList) {
+      row.backColor = kWindowColor;
+      row.foreColor = kWindowTextColor;
+    }
+    rows_.push_back(row);
+  }
+  void CheckBox(const char* name, const char* caption, const char* toolTip, Twips top) {
+    Add(kCheckBox, name, -1, caption, toolTip, {180, top, 7500, 285});
+  }
+  std::vector<ControlRow> Take() { return std::move(rows_); }
+
+ private:
+  std::vector<ControlRow> rows_;
+  const char* container_ = "";
+  int containerIndex_ = -1;
+  int page_ = 0;
+};
+
+struct TagText {
+  const char* caption;
+  const char* explanation;
+};
+
+constexpr std::array<TagText, 10> kTags = {{
+    {"0", " selects the Previous Window "},
+    {"1", " selects the window that has been assigned Tag number 1 "},
+    {"2", " selects the window that has been assigned Tag number 2 "},
+    {"3", " selects the window that has been assigned Tag number 3 "},
+    {"4", " selects the window that has been assigned Tag number 4 "},
+    {"5", " selects the window that has been assigned Tag number 5 "},
+    {"6", " selects the window that has been assigned Tag number 6 "},
+    {"7", " selects the window that has been assigned Tag number 7 "},
+    {"8", " selects the window that has been assigned Tag number 8 "},
+    {"9", " selects the window that has been assigned Tag number 9 "},
+}};
+
+constexpr const char* kActionNotes[] = {" minimizes individual desktop windows ",
+                                        " alternately maximizes/restores individual desktop "
+                                        "windows "};
+constexpr const char* kGeneralNotes[] = {
+    " displays the Options dialog box (this dialog box) ",
+    " displays the pop-up version of the Window menu anywhere on the desktop ",
+    " toggles all system-wide Hot Keys ON/OFF (except this one) "};
+
+constexpr const char* kModifierTip = " key to hold down ";
+constexpr const char* kKeyTip =
+    " key to press:  choose it from the list or press it here  (the Space bar clears it) ";
+
+void AddGeneralPage(Rows& rows) {
+  rows.Page(1);
+  rows.CheckBox("chkSplashScreen", "&Display splash screen on startup",
+                " shows the About box for a moment when the program starts  (Alt+D) ", 180);
+  rows.CheckBox("chkSelectPrevWinOnStart", "Select the Previous &Window on startup",
+                " goes back to the window in which you worked before the start  (Alt+W) ", 540);
+}
+
+void AddTag(Rows& rows, int tag) {
+  constexpr Twips kTagRowHeight = 315;
+  const Twips left = tag < 5 ? 1740 : 7200;
+  const Twips top = 285 + kTagRowHeight * (tag % 5);
+  const TagText& text = kTags.at(static_cast<std::size_t>(tag));
+  rows.Add(kLabel, "lblTagParent", tag, text.explanation, text.explanation,
+           {left + 555, top + 22, 4710, 240}, kNoPrefix);
+  rows.Add(kCheckBox, "chkHotKeyParent", tag, text.caption, text.explanation,
+           {left, top, 510, 285});
+}
+
+/// The names of the controls of one kind of hot key, and what is said of it.
+struct HotKeyGroup {
+  const char* label;
+  const char* modifier;
+  const char* plus;
+  const char* key;
+  const char* note;
+  std::span<const char* const> notes;
+  const char* firstModifierTip;
+};
+
+void AddHotKeys(Rows& rows, const HotKeyGroup& group) {
+  Twips top = 270;
+  for (int i = 0; i < static_cast<int>(group.notes.size()); ++i, top += kRowHeight) {
+    const char* const note = group.notes[static_cast<std::size_t>(i)];
+    rows.Add(kLabel, group.label, i, "", note, {180, top + 38, 2625, 240}, kNoPrefix);
+    rows.Add(kDropDownList, group.modifier, i, "", i == 0 ? group.firstModifierTip : kModifierTip,
+             {2880, top, 1245, 315});
+    rows.Add(kLabel, group.plus, i, "+", "", {4125, top + 38, 270, 240}, kCentered);
+    rows.Add(kDropDownList, group.key, i, "", kKeyTip, {4395, top, 1500, 315});
+    rows.Add(kLabel, group.note, i, note, note, {6060, top + 38, 6300, 240}, kNoPrefix);
+  }
+}
+
+void AddLegend(Rows& rows) {
+  rows.Add(kLabel, "lblLegendTitle", -1, "Legend:", "", {180, 4995, 750, 240});
+  constexpr const char* kEnabled =
+      " indicates Hot Key is Enabled -- Click to change this color -- use Shift+Click to reset to "
+      "default ";
+  constexpr const char* kDisabled = " indicates Hot Key is Disabled ";
+  rows.Add(kLabel, "lblLegend", 1, kEnabled, kEnabled, {990, 4980, 8400, 255},
+           kNoPrefix | kClickable | kSingleBorder);
+  rows.Add(kLabel, "lblLegend", 0, kDisabled, kDisabled, {9510, 4980, 3000, 255}, kNoPrefix);
+  rows.Add(kLabel, "lblConflicts", -1, "", "", {180, 5280, 12390, 480},
+           kNoPrefix | kWordWrap | kHidden);
+}
+
+void AddHotKeysPage(Rows& rows) {
+  rows.Page(2);
+  rows.Frame("fraWindowSelection", "&Window Selection", 60, 2250);
+  rows.Add(kDropDownList, "cboHotKeyModParent", -1, "",
+           " key to hold down while pressing the number of a Tag  (Alt+W) ", {180, 285, 1245, 315});
+  rows.Add(kLabel, "lblPlusParent", -1, "+", "", {1425, 323, 270, 240}, kCentered);
+  for (int tag = 0; tag < 10; ++tag) AddTag(rows, tag);
+  rows.Add(kLabel, "lblHotKeyTip", -1,
+           "Tip: Alt+Tab and Alt+F4 are provided by the Windows® operating system.", "",
+           {180, 1935, 12000, 240}, kNoPrefix);
+  rows.Frame("fraWindowActions", "Window Action&s", 2370, 1050);
+  AddHotKeys(rows, {"lblAction", "cboHotKeyModAction", "lblPlusAction", "cboHotKeyAction",
+                    "lblActionNote", kActionNotes, " key to hold down  (Alt+S) "});
+  rows.Frame("fraGeneral", "&General", 3480, 1425);
+  AddHotKeys(rows, {"lblGeneral", "cboHotKeyModGeneral", "lblPlusGeneral", "cboHotKeyGeneral",
+                    "lblGeneralNote", kGeneralNotes, " key to hold down  (Alt+G) "});
+  rows.CloseFrame();
+  AddLegend(rows);
+}
+
+void AddWindowIdentificationPage(Rows& rows) {
+  rows.Page(3);
+  rows.Frame("fraWindowIdentification", "Window Identification  (Parent)", 60, 1125);
+  rows.CheckBox("chkAllowToolbarWindow", "Recognize &Toolbar style windows",
+                " lets small tool windows be the Previous Window and be tagged  (Alt+T) ", 300);
+  rows.CheckBox("chkAllowNoTextWindow", "&Recognize windows that have no Title",
+                " lets untitled windows be the Previous Window and be tagged  (Alt+R) ", 660);
+}
+
+void AddButtons(Rows& rows) {
+  rows.ClosePages();
+  constexpr Twips kTop = 6465;
+  rows.Add(kButton, "cmdOK", -1, "OK", " Save and close  (Enter) ", {9285, kTop, 1215, 345},
+           kDefaultButton);
+  rows.Add(kButton, "cmdCancel", -1, "Cancel", " Close without saving  (Esc) ",
+           {10575, kTop, 1215, 345}, kCancelButton);
+  rows.Add(kButton, "cmdApply", -1, "&Apply", " Save  (Alt+A) ", {11865, kTop, 1215, 345});
+  rows.Add(kButton, "cmdReset", -1, "Reset All Options to Default",
+           " gives every option its default value and saves it ", {105, kTop, 3000, 345});
+  rows.Add(kTabStrip, "tabOptions", -1, "", " page of the options  (Ctrl+Tab) ",
+           {105, 105, 12975, 6255});
+}
+
+std::vector<ControlRow> MakeRows() {
+  Rows rows;
+  AddGeneralPage(rows);
+  AddHotKeysPage(rows);
+  AddWindowIdentificationPage(rows);
+  AddButtons(rows);
+  return rows.Take();
+}
+
+}  // namespace
+
+const FormDesign& OptionsDesign() {
+  static const std::vector<ControlRow> rows = MakeRows();
+  static const FormDesign design = {
+      .name = "frmOptions", .caption = "Options", .place = {0, 0, 13275, 7335}, .controls = rows};
+  return design;
+}
+
+}  // namespace korvale

@@ -1,0 +1,9 @@
+#pragma once
+
+#include "forms/form.h"
+
+namespace korvale {
+
+const FormDesign& OptionsDesign();
+
+}  // namespace korvale

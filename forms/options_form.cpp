@@ -1,0 +1,193 @@
+#include "forms/options_form.h"
+
+#include <utility>
+
+#include "forms/hot_key_lists.h"
+#include "forms/options_design.h"
+#include "platform/win32_constants.h"
+
+namespace korvale {
+namespace {
+
+constexpr int kPages = 3;
+constexpr const char* kPageTitles[kPages] = {"General", "Hot Keys", "Window Identification"};
+constexpr const char* kActionLabels[] = {" Minimize Window", " Maximize/Restore Window"};
+constexpr const char* kGeneralLabels[] = {" Display Options", " Display Window Menu",
+                                          " Activate/Deactivate Hot Keys"};
+constexpr int kEnabledLegend = 1;
+
+/// Shows the hourglass for a scope.
+class Hourglass {
+ public:
+  explicit Hourglass(OptionsDialogOwner& owner) : owner_(&owner) {
+    owner.SetMousePointer(MousePointer::kHourglass);
+  }
+  ~Hourglass() { owner_->SetMousePointer(MousePointer::kDefault); }
+  Hourglass(const Hourglass&) = delete;
+  Hourglass& operator=(const Hourglass&) = delete;
+
+ private:
+  OptionsDialogOwner* owner_;
+};
+
+}  // namespace
+
+frmOptions::frmOptions(FormCollection& forms, OptionsDialogOwner& owner)
+    : Form(OptionsDesign(), forms), owner_(&owner) {
+  WhenClicked("cmdOK", [this](int) { cmdOK_Click(); });
+  WhenClicked("cmdCancel", [this](int) { cmdCancel_Click(); });
+  WhenClicked("cmdApply", [this](int) { cmdApply_Click(); });
+  WhenClicked("cmdReset", [this](int) { cmdReset_Click(); });
+  WhenClicked("tabOptions", [this](int) { tabOptions_Click(); });
+  for (const char* const name : {"chkHotKeyParent", "cboHotKeyAction", "cboHotKeyGeneral"}) {
+    WhenClicked(name, [this](int) { HotKeyChanged(); });
+  }
+}
+
+void frmOptions::Form_Load() {
+  loading_ = true;
+  Control& tabs = Find("tabOptions");
+  tabs.Clear();
+  for (const char* const title : kPageTitles) tabs.AddItem(title);
+  FillHotKeyLists(*this);
+  int index = 0;
+  for (const char* const text : kActionLabels) Find("lblAction", index++).SetText(text);
+  index = 0;
+  for (const char* const text : kGeneralLabels) Find("lblGeneral", index++).SetText(text);
+  ShowPage(owner_->OptionsTab());
+  loading_ = false;
+}
+
+void frmOptions::Form_Unload() { owner_->OptionsDialogClosed(); }
+
+void frmOptions::tabOptions_Click() {
+  const auto tab = static_cast<std::int16_t>(Find("tabOptions").ListIndex() + 1);
+  ShowPage(tab);
+  if (!loading_) owner_->SetOptionsTab(tab);
+}
+
+void frmOptions::ShowPage(std::int16_t tab) {
+  const std::int16_t shown = tab >= 1 && tab <= kPages ? tab : std::int16_t{1};
+  // The new page comes first, so that the focus finds a place on it.
+  Find("picOptions", shown).SetVisible(true);
+  for (int page = 1; page <= kPages; ++page) Find("picOptions", page).SetVisible(page == shown);
+  Find("tabOptions").SetListIndex(shown - 1);
+}
+
+void frmOptions::cmdOK_Click() {
+  if (!Validate()) return;
+  Save();
+  Unload();
+}
+
+void frmOptions::cmdCancel_Click() { Unload(); }
+
+void frmOptions::cmdApply_Click() {
+  if (Validate()) Save();
+}
+
+void frmOptions::Save() {
+  const Hourglass hourglass(*owner_);
+  owner_->udmOptions("UPDATE_OPTIONS");
+  owner_->udmSaveOptions();
+  owner_->udmSaveINI();
+  if (!owner_->HotKeys().HotKeysActive()) {
+    owner_->HotKeys().SetHotKeysActive(true);
+    owner_->Messages().ShowMessageBox(
+        "The hot keys are currently deactivated.  They will now be re-activated, for any changes "
+        "(if any) made to the hot keys on the Hot Keys tab of the Options dialog box can take "
+        "effect.",
+        win32::kMbOk, owner_->ProgramTitle() + " - Options (Save)");
+  }
+  RegisterHotKeysAnew();
+}
+
+void frmOptions::cmdReset_Click() {
+  const std::int16_t answer = owner_->Messages().ShowMessageBox(
+      "Reset all Options to default ?\r\rThe default options will be Applied automatically.\r\r"
+      "Note:  This operation will not effect any of the Settings changed from the View menu.",
+      win32::kMbOkCancel, owner_->ProgramTitle() + " - Options");
+  if (answer != win32::kIdOk) return;
+  const Hourglass hourglass(*owner_);
+  owner_->udmDeleteOptions();
+  owner_->udmLoadOptions();
+  owner_->udmOptions("LOAD_AND_OR_REFRESH");
+  // All hot keys are registered below, which is what being active means.
+  owner_->HotKeys().SetHotKeysActive(true);
+  RegisterHotKeysAnew();
+}
+
+void frmOptions::RegisterHotKeysAnew() {
+  owner_->HotKeys().SetHotKeys("REMOVE");
+  owner_->HotKeys().SetHotKeys("SET");
+  RefreshConflictLine();
+}
+
+void frmOptions::HotKeyChanged() {
+  if (!loading_) udmRefreshHotKeyLabels();
+}
+
+void frmOptions::udmRefreshHotKeyLabels() {
+  Find("lblLegend", kEnabledLegend).SetBackColor(colHotKeyEnabled_);
+  Find("lblLegend", 0).SetBackColor(kButtonFaceColor);
+  for (int tag = 0; tag < 10; ++tag) {
+    PaintLabel("lblTagParent", tag, Find("chkHotKeyParent", tag).Value() == 1);
+  }
+  for (int i = 0; i < 2; ++i) {
+    PaintLabel("lblAction", i, Find("cboHotKeyAction", i).SelectedItemData() != 0);
+  }
+  for (int i = 0; i < 3; ++i) {
+    PaintLabel("lblGeneral", i, Find("cboHotKeyGeneral", i).SelectedItemData() != 0);
+  }
+}
+
+void frmOptions::PaintLabel(std::string_view label, int index, bool enabled) {
+  Control& control = Find(label, index);
+  control.SetBackColor(enabled ? colHotKeyEnabled_ : kButtonFaceColor);
+  control.SetBorder(enabled);
+}
+
+void frmOptions::RefreshConflictLine() {
+  std::string refused;
+  for (const RegisteredHotKey& hotKey : owner_->HotKeys().Registered()) {
+    if (hotKey.accepted) continue;
+    if (!refused.empty()) refused += ", ";
+    refused += HotKeyText(hotKey.modifiers, hotKey.key);
+  }
+  Control& line = Find("lblConflicts");
+  line.SetText(refused.empty() ? "" : "Not available, in use by another program:  " + refused);
+  line.SetVisible(!refused.empty());
+}
+
+void frmOptions::Form_KeyDown(int& key, unsigned shift) {
+  if (key != win32::kVkTab || (shift & ~kShift) != kCtrl) return;
+  key = 0;
+  const int step = (shift & kShift) != 0 ? kPages - 1 : 1;
+  Control& tabs = Find("tabOptions");
+  tabs.SetListIndex((tabs.ListIndex() + step) % kPages);
+}
+
+void frmOptions::Form_KeyUp(Control* focused, int& key, unsigned shift) {
+  if (focused == nullptr) return;
+  if (focused->Name() == "cboHotKeyAction" || focused->Name() == "cboHotKeyGeneral") {
+    SelectReleasedKey(*focused, key, shift);
+  }
+}
+
+void frmOptions::Control_Mouse(Control& control, const MouseInput& input) {
+  const bool legend = control.Name() == "lblLegend" && control.Index() == kEnabledLegend;
+  if (!legend || input.event != MouseEvent::kUp || input.button != MouseButton::kLeft) return;
+  if (input.shift == kShift) {
+    SetEnabledColor(kDefaultHotKeyEnabledColor);
+  } else if (input.shift == kNoShift) {
+    const std::optional<Color> chosen = owner_->udmShowColorPalette(control.BackColor());
+    if (chosen) SetEnabledColor(*chosen);
+  }
+}
+
+void frmOptions::SetEnabledColor(Color color) {
+  colHotKeyEnabled_ = color;
+  udmRefreshHotKeyLabels();
+}
+
+}  // namespace korvale

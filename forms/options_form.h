@@ -1,0 +1,60 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "app/core/options.h"
+#include "forms/form.h"
+#include "forms/options_owner.h"
+
+namespace korvale {
+
+/// The Options dialog. It edits a copy of the options record and is modeless.
+class frmOptions : public Form {
+ public:
+  frmOptions(FormCollection& forms, OptionsDialogOwner& owner);
+
+  /// Shows the record in the loaded dialog, on the remembered tab.
+  void LoadFrom(const clsOptions& options);
+  /// Takes the dialog's values into the record. A list without a choice, which means that the
+  /// stored value is none of its entries, leaves its field as it is.
+  void UpdateInto(clsOptions& options) const;
+
+  /// Paints the label of each hot key: enabled ones in the legend's colour with a border.
+  void udmRefreshHotKeyLabels();
+  /// Names the hot keys that the last registration was refused, or hides the line.
+  void RefreshConflictLine();
+
+ protected:
+  void Form_Load() override;
+  void Form_Unload() override;
+  void Form_KeyDown(int& key, unsigned shift) override;
+  void Form_KeyUp(Control* focused, int& key, unsigned shift) override;
+  void Control_Mouse(Control& control, const MouseInput& input) override;
+
+ private:
+  void cmdOK_Click();
+  void cmdCancel_Click();
+  void cmdApply_Click();
+  void cmdReset_Click();
+  void tabOptions_Click();
+
+  void Save();
+  /// A check that always passes: what does not go together is the user's business.
+  static bool Validate() { return true; }
+  void RegisterHotKeysAnew();
+  void Select(std::string_view list, int index, std::int32_t value);
+  std::int16_t Chosen(std::string_view list, int index, std::int16_t otherwise) const;
+  void PaintLabel(std::string_view label, int index, bool enabled);
+  void SetEnabledColor(Color color);
+  void ShowPage(std::int16_t tab);
+  void HotKeyChanged();
+
+  OptionsDialogOwner* owner_;
+  Color colHotKeyEnabled_ = kDefaultHotKeyEnabledColor;
+  /// The controls are being filled; what they tell meanwhile is no doing of the user's.
+  bool loading_ = false;
+};
+
+}  // namespace korvale

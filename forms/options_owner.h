@@ -1,0 +1,43 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "app/core/message_boxes.h"
+#include "hotkeys/hot_key_table.h"
+#include "platform/types.h"
+
+namespace korvale {
+
+/// The mouse pointers that the program asks for.
+enum class MousePointer : std::int16_t { kDefault = 0, kHourglass = 11, kCustom = 99 };
+
+/// What the Options dialog asks of the form that opened it.
+class OptionsDialogOwner {
+ public:
+  virtual ~OptionsDialogOwner() = default;
+
+  /// "LOAD_AND_OR_REFRESH" shows the options record in the dialog, "UPDATE_OPTIONS" takes the
+  /// dialog's values into the record.
+  virtual void udmOptions(const std::string& strMode) = 0;
+  virtual void udmLoadOptions() = 0;
+  virtual void udmSaveOptions() = 0;
+  virtual void udmDeleteOptions() = 0;
+  virtual void udmSaveINI() = 0;
+
+  virtual HotKeyTable& HotKeys() = 0;
+  virtual MessageBoxes& Messages() = 0;
+  /// Lets the user choose a colour, starting with `initial`; nothing when he cancels.
+  virtual std::optional<Color> udmShowColorPalette(Color initial) = 0;
+  virtual void SetMousePointer(MousePointer pointer) = 0;
+
+  /// The tab on which the dialog opens, counted from 1.
+  virtual std::int16_t OptionsTab() const = 0;
+  virtual void SetOptionsTab(std::int16_t tab) = 0;
+  virtual std::string ProgramTitle() const = 0;
+  /// The dialog is being unloaded, for whatever reason.
+  virtual void OptionsDialogClosed() = 0;
+};
+
+}  // namespace korvale
