@@ -1,0 +1,71 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "hotkeys/hot_key_actions.h"
+#include "util/text.h"
+
+namespace korvale {
+
+struct ShownTip {
+  std::int32_t number = 0;
+  std::string text;
+  std::string title;
+  std::int16_t height = 0;
+
+  friend bool operator==(const ShownTip&, const ShownTip&) = default;
+};
+
+struct ShownWaitWindow {
+  std::string caption;
+  std::string text;
+  std::uint32_t milliseconds = 0;
+
+  friend bool operator==(const ShownWaitWindow&, const ShownWaitWindow&) = default;
+};
+
+/// Forms that do nothing but log what the hot keys ask of them.
+class FakeHotKeyActions : public HotKeyActions {
+ public:
+  bool HasTagCaption(std::int16_t tag) override { return tagCaptions.contains(tag); }
+  void mnuWindowParentList_Click(std::int16_t Index) override {
+    Log("mnuWindowParentList_Click(" + DecimalText(Index) + ")");
+  }
+  void BringOptionsToFront() override { Log("BringOptionsToFront"); }
+  void udmOptions(const std::string& strMode) override { Log("udmOptions(\"" + strMode + "\")"); }
+  void PopUpWindowMenu() override { Log("PopUpWindowMenu"); }
+  void SetWindowMenuTag(const std::string& tag) override {
+    Log("SetWindowMenuTag(\"" + tag + "\")");
+  }
+  void ShowTip(std::int32_t number, const std::string& text, const std::string& title,
+               std::int16_t height) override {
+    tips.push_back({number, text, title, height});
+    Log("ShowTip(" + DecimalText(number) + ")");
+  }
+  void ShowWaitWindow(const std::string& caption, const std::string& text,
+                      std::uint32_t milliseconds) override {
+    waitWindows.push_back({caption, text, milliseconds});
+    Log("ShowWaitWindow(\"" + caption + "\")");
+  }
+
+  /// The entries of the Window menu's list whose caption begins with "&".
+  std::set<std::int16_t> tagCaptions;
+  std::vector<ShownTip> tips;
+  std::vector<ShownWaitWindow> waitWindows;
+
+  std::vector<std::string> log;
+  /// Gets every logged call too; may throw in the place of the real form.
+  std::function<void(const std::string&)> onCall;
+
+ private:
+  void Log(const std::string& call) {
+    log.push_back(call);
+    if (onCall) onCall(call);
+  }
+};
+
+}  // namespace korvale

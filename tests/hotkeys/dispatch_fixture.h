@@ -1,0 +1,118 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "hotkeys/hot_key_dispatch.h"
+#include "tests/fakes/call_log.h"
+#include "tests/fakes/fake_desktop.h"
+#include "tests/fakes/fake_hot_key_actions.h"
+#include "tests/fakes/fake_hot_keys.h"
+#include "tests/fakes/fake_loaded_forms.h"
+#include "tests/fakes/fake_main_window.h"
+#include "tests/fakes/fake_message_boxes.h"
+#include "tests/fakes/fake_settings_store.h"
+
+namespace korvale {
+
+struct ReportedError {
+  ErrorPlace place = ErrorPlace::kProgramEntry;
+  std::int16_t number = 0;
+
+  friend bool operator==(const ReportedError&, const ReportedError&) = default;
+};
+
+class FakeErrorReporters : public ErrorReporters {
+ public:
+  explicit FakeErrorReporters(CallLog& log) : log_(&log) {}
+
+  void udmNonFatalError(ErrorPlace intErrorNumber, std::int16_t intVB_ErrNumber) override {
+    reported.push_back({intErrorNumber, intVB_ErrNumber});
+    log_->Add("udmNonFatalError");
+  }
+
+  std::vector<ReportedError> reported;
+
+ private:
+  CallLog* log_;
+};
+
+/// The dispatcher over a fake desktop with the real routines of the desktop. The log holds what
+/// changes windows and what the main window, the menus and the message boxes are told.
+class HotKeyDispatchTest : public testing::Test {
+ protected:
+  using Calls = std::vector<std::string>;
+
+  HotKeyDispatchTest() {
+    options.Create();
+    other = Open("Other", "Other", "other");
+    target = Open("Target", "Editor", "target");
+    main = Open("Korvale - Work", "Korvale.frmMain", "main");
+    mainWindow.handle = main;
+    forms.Load("frmMain", main);
+    previous.current = {target, "Target", "Editor"};
+    desktop.UserActivates(target);
+    log.Clear();
+    const auto record = [this](const std::string& call) { log.Add(call); };
+    mainWindow.onCall = record;
+    actions.onCall = record;
+    messages.whileShown = [this](const ShownMessageBox&) { log.Add("ShowMessageBox"); };
+  }
+
+  WindowHandle Open(const std::string& title, const std::string& className, const std::string& name,
+                    std::int32_t exStyle = 0) {
+    const WindowHandle hwnd = desktop.Open(title, {.className = className, .exStyle = exStyle});
+    log.NameWindow(hwnd, name);
+    return hwnd;
+  }
+
+  void AddTag(int tag, const std::string& identification, const std::string& className = "") {
+    tags.mnuWindowParentList.Load(tag).caption = "&" + std::to_string(tag) + "  " + identification;
+    tags.ParentWindowClass.at(static_cast<std::size_t>(tag - 1)) = className;
+    actions.tagCaptions.insert(static_cast<std::int16_t>(tag));
+  }
+
+  std::string Press(const std::string& name) {
+    return dispatch.udmProcessHotKey(name, true, false, "");
+  }
+  std::string Describe(const std::string& name) {
+    return dispatch.udmProcessHotKey(name, false, false, "");
+  }
+
+  CallLog log;
+  FakeDesktop desktop{log};
+  FakeHotKeys hotKeys{log};
+  FakeSettingsStore store;
+  FakeMainWindow mainWindow;
+  FakeLoadedForms forms;
+  OptionsHolder options;
+  MenuItem windowMenu;
+  TagList tags{MenuItemArray(windowMenu, "mnuWindowParentList")};
+  TagListPasses tagPasses{tags, desktop, store};
+  PreviousWindow previous;
+  WindowFilter filter{desktop, options, forms, mainWindow};
+  WindowEnumeration enumeration{desktop, desktop, filter, mainWindow, tagPasses};
+  Suspension suspension;
+  FakeMessageBoxes messages;
+  WindowActions windowActions{desktop,    desktop,  filter,   enumeration,
+                              mainWindow, previous, messages, "Title"};
+  ForegroundTracker tracker{desktop, filter, windowActions, mainWindow, previous, tags};
+  FakeHotKeyActions actions;
+  HotKeyTable table{hotKeys, options, mainWindow};
+  HotKeyToggle toggle{table, options, actions, "Product", "Title"};
+  FakeErrorReporters errors{log};
+  HotKeyDispatch dispatch{{desktop, desktop, mainWindow, forms, tagPasses, filter, windowActions,
+                           tracker, previous, suspension, messages, actions, toggle, errors},
+                          "Product",
+                          "Title"};
+
+  WindowHandle other = 0;
+  WindowHandle target = 0;
+  WindowHandle main = 0;
+};
+
+}  // namespace korvale

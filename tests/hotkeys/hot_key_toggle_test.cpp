@@ -1,0 +1,139 @@
+#include "hotkeys/hot_key_toggle.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "tests/fakes/call_log.h"
+#include "tests/fakes/fake_hot_key_actions.h"
+#include "tests/fakes/fake_hot_keys.h"
+#include "tests/fakes/fake_main_window.h"
+
+namespace korvale {
+namespace {
+
+using Calls = std::vector<std::string>;
+
+class HotKeyToggleTest : public testing::Test {
+ protected:
+  HotKeyToggleTest() {
+    mainWindow.handle = 1000;
+    log.NameWindow(1000, "main");
+    options.Create();
+    options.Get().booHotKeyParent.fill(false);
+    options.Get().booHotKeyParent[3] = true;
+    options.Get().intHotKeyAction.fill(0);
+    options.Get().intHotKeyGeneral = {79, 0, 19};
+    table.SetHotKeys("SET");
+    log.Clear();
+    actions.onCall = [this](const std::string& call) { log.Add(call); };
+  }
+
+  CallLog log;
+  FakeHotKeys hotKeys{log};
+  FakeMainWindow mainWindow;
+  OptionsHolder options;
+  HotKeyTable table{hotKeys, options, mainWindow};
+  FakeHotKeyActions actions;
+  HotKeyToggle toggle{table, options, actions, "Product", "Title"};
+};
+
+TEST_F(HotKeyToggleTest, SwitchesOffEveryHotKeyButItsOwn) {
+  toggle.ToggleHotKeys(kToggleFromHotKey);
+
+  EXPECT_EQ(log.Calls(), (Calls{"UnregisterHotKey(main, 1)", "UnregisterHotKey(main, 2)",
+                                "UnregisterHotKey(main, 3)", "RegisterHotKey(main, 1, 0, 19)",
+                                "ShowWaitWindow(\"Title - Hot Keys (OFF)\")"}));
+  EXPECT_FALSE(table.HotKeysActive());
+  EXPECT_EQ(table.HotKeyCount(), 1);
+  EXPECT_EQ(table.NameOf(1), "HOTKEY_TOGGLE_HOTKEYS");
+  EXPECT_EQ(actions.waitWindows,
+            (std::vector<ShownWaitWindow>{
+                {"Title - Hot Keys (OFF)", "Hot Keys are now Deactivated", 800}}));
+}
+
+TEST_F(HotKeyToggleTest, SwitchesAllEnabledHotKeysOnAgain) {
+  toggle.ToggleHotKeys(kToggleFromHotKey);
+  log.Clear();
+  actions.waitWindows.clear();
+
+  toggle.ToggleHotKeys(kToggleFromHotKey);
+
+  EXPECT_EQ(log.Calls(), (Calls{"UnregisterHotKey(main, 1)", "RegisterHotKey(main, 1, 1, 51)",
+                                "RegisterHotKey(main, 2, 8, 79)", "RegisterHotKey(main, 3, 0, 19)",
+                                "ShowWaitWindow(\"Title - Hot Keys (ON)\")"}));
+  EXPECT_TRUE(table.HotKeysActive());
+  EXPECT_EQ(
+      actions.waitWindows,
+      (std::vector<ShownWaitWindow>{{"Title - Hot Keys (ON)", "Hot Keys are now Activated", 800}}));
+}
+
+TEST_F(HotKeyToggleTest, LeavesNoHotKeyWhenTheToggleHasNoKey) {
+  options.Get().intHotKeyGeneral[2] = 0;
+
+  toggle.ToggleHotKeys(kToggleFromMenu);
+
+  EXPECT_TRUE(hotKeys.Registered().empty());
+  EXPECT_EQ(table.HotKeyNames(), std::vector<std::string>{""});
+  EXPECT_EQ(table.HotKeyCount(), 0);
+  EXPECT_FALSE(table.HotKeysActive());
+}
+
+TEST_F(HotKeyToggleTest, ComesBackThroughTheMenuWhenTheToggleHasNoKey) {
+  options.Get().intHotKeyGeneral[2] = 0;
+  toggle.ToggleHotKeys(kToggleFromMenu);
+
+  toggle.ToggleHotKeys(kToggleFromMenu);
+
+  EXPECT_TRUE(table.HotKeysActive());
+  EXPECT_EQ(table.HotKeyNames(),
+            (std::vector<std::string>{"HOTKEY_PARENT3", "HOTKEY_DISPLAY_OPTIONS"}));
+}
+
+TEST_F(HotKeyToggleTest, ExplainsItselfBeforeTheMenuSwitchesOff) {
+  toggle.ToggleHotKeys(kToggleFromMenu);
+
+  EXPECT_EQ(log.Calls().front(), "ShowTip(14)");
+  EXPECT_EQ(actions.tips,
+            (std::vector<ShownTip>{
+                {14,
+                 "This deactivates all hot keys except the hot key assigned to Activate/Deactivate "
+                 "Hot Keys.  When Product is installed, the default hot key to "
+                 "Activate/Deactivate Hot Keys is the Pause key.  If you wish, this hot key can be "
+                 "changed on the Hot Keys tab of the Options dialog box.",
+                 "TIP", 3000}}));
+}
+
+TEST_F(HotKeyToggleTest, DoesNotExplainItselfToTheHotKeyNorWhenSwitchingOn) {
+  toggle.ToggleHotKeys(kToggleFromHotKey);
+  toggle.ToggleHotKeys(kToggleFromMenu);
+
+  EXPECT_TRUE(table.HotKeysActive());
+  EXPECT_TRUE(actions.tips.empty());
+}
+
+TEST_F(HotKeyToggleTest, RegistersWhatTheOptionsSayWhenSwitchedOn) {
+  toggle.ToggleHotKeys(kToggleFromHotKey);
+  options.Get().intHotKeyModParent = 2;
+
+  toggle.ToggleHotKeys(kToggleFromHotKey);
+
+  EXPECT_EQ(table.Registered().front().modifiers, 2);
+}
+
+TEST_F(HotKeyToggleTest, RetriesAHotKeyThatAnotherProgramHasGivenUp) {
+  table.SetHotKeys("REMOVE");
+  hotKeys.RegisterForeign(1, 0x33);
+  table.SetHotKeys("SET");
+  EXPECT_FALSE(table.Registered().front().accepted);
+  hotKeys.ReleaseForeign(1, 0x33);
+
+  toggle.ToggleHotKeys(kToggleFromHotKey);
+  toggle.ToggleHotKeys(kToggleFromHotKey);
+
+  EXPECT_TRUE(table.Registered().front().accepted);
+}
+
+}  // namespace
+}  // namespace korvale

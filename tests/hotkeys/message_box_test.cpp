@@ -1,0 +1,308 @@
+#include "hotkeys/message_box.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <limits>
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "app/core/error_reporting.h"
+#include "platform/run_time_error.h"
+#include "platform/win32_constants.h"
+#include "tests/fakes/call_log.h"
+#include "tests/fakes/fake_desktop.h"
+#include "tests/fakes/fake_loaded_forms.h"
+#include "tests/fakes/fake_main_window.h"
+#include "tests/hotkeys/message_box_host.h"
+
+namespace korvale {
+namespace {
+
+using Calls = std::vector<std::string>;
+
+class MessageBoxTest : public testing::Test {
+ protected:
+  MessageBoxTest() {
+    other = Open("Other", "main", kOtherProcess);
+    main = Open("Korvale - Work", "Korvale.frmMain", kOurProcess);
+    mainWindow.handle = main;
+    forms.Load("frmMain", main);
+    log.NameWindow(main, "main");
+    log.NameWindow(other, "other");
+    log.Clear();
+    mainWindow.onCall = [this](const std::string& call) { log.Add(call); };
+  }
+
+  static constexpr int kOurProcess = 1;
+
+  WindowHandle Open(const std::string& title, const std::string& className, int process) {
+    return desktop.Open(title, {.className = className, .process = process});
+  }
+
+  std::int16_t ShowBox(const std::string& prompt = "Prompt") {
+    return messages.ShowMessageBox(prompt, 0, "Title");
+  }
+
+  CallLog log;
+  FakeDesktop desktop{log};
+  FakeMainWindow mainWindow;
+  FakeLoadedForms forms;
+  Suspension suspension;
+  MessageBoxHost host{log};
+  WindowHandle modal = 0;
+  WindowHandle other = 0;
+  WindowHandle main = 0;
+  SuspendingMessageBoxes messages{
+      host, desktop, desktop, mainWindow, forms, suspension, [this] { return modal; }};
+};
+
+TEST_F(MessageBoxTest, ShowsTheBoxAndReturnsTheButton) {
+  host.answer = win32::kIdNo;
+
+  EXPECT_EQ(messages.ShowMessageBox("Really?", 0x10004, "Korvale - CAUTION"), win32::kIdNo);
+
+  EXPECT_EQ(log.Calls(), (Calls{"SetMainEnabled(false)",
+                                "MessageBoxW(main, \"Really?\", \"Korvale - CAUTION\", 65540)",
+                                "SetMainEnabled(true)"}));
+}
+
+TEST_F(MessageBoxTest, SuspendsHotKeysTrackingAndMainWindowWhileTheBoxIsShown) {
+  host.whileShown = [this](const std::string&) {
+    EXPECT_TRUE(suspension.MessageBoxShown);
+    EXPECT_TRUE(suspension.Active());
+    EXPECT_EQ(suspension.MessageBoxDepth, 1);
+    EXPECT_FALSE(mainWindow.timer.enabled);
+    EXPECT_EQ(mainWindow.timer.tag, "OFF");
+    EXPECT_FALSE(mainWindow.mainEnabled);
+  };
+
+  ShowBox();
+
+  EXPECT_FALSE(suspension.MessageBoxShown);
+  EXPECT_EQ(suspension.MessageBoxDepth, 0);
+  EXPECT_TRUE(mainWindow.timer.enabled);
+  EXPECT_EQ(mainWindow.timer.tag, "ON");
+  EXPECT_TRUE(mainWindow.mainEnabled);
+}
+
+TEST_F(MessageBoxTest, KeepsTheTrackingTimerStoppedWhenTheTimersAreStartedMeanwhile) {
+  host.whileShown = [this](const std::string&) {
+    mainWindow.udmTimersEnabled(true);
+    EXPECT_FALSE(mainWindow.timer.enabled);
+  };
+
+  ShowBox();
+
+  EXPECT_TRUE(mainWindow.timer.enabled);
+}
+
+TEST_F(MessageBoxTest, GivesAStoppedTimerBackStopped) {
+  mainWindow.timer.enabled = false;
+  mainWindow.timer.tag = "REST";
+
+  ShowBox();
+
+  EXPECT_FALSE(mainWindow.timer.enabled);
+  EXPECT_EQ(mainWindow.timer.tag, "REST");
+}
+
+TEST_F(MessageBoxTest, OnlyCountsAnInnerBox) {
+  host.whileShown = [this](const std::string& prompt) {
+    if (prompt == "inner") {
+      EXPECT_EQ(suspension.MessageBoxDepth, 2);
+      return;
+    }
+    ShowBox("inner");
+    EXPECT_EQ(suspension.MessageBoxDepth, 1);
+    EXPECT_TRUE(suspension.MessageBoxShown);
+    EXPECT_FALSE(mainWindow.timer.enabled);
+    EXPECT_EQ(mainWindow.timer.tag, "OFF");
+  };
+
+  ShowBox("outer");
+
+  EXPECT_EQ(log.Calls(),
+            (Calls{"SetMainEnabled(false)", "MessageBoxW(main, \"outer\", \"Title\", 0)",
+                   "MessageBoxW(main, \"inner\", \"Title\", 0)", "SetMainEnabled(true)"}));
+  EXPECT_TRUE(mainWindow.timer.enabled);
+  EXPECT_EQ(mainWindow.timer.tag, "ON");
+  EXPECT_FALSE(suspension.MessageBoxShown);
+  EXPECT_EQ(suspension.MessageBoxDepth, 0);
+}
+
+TEST_F(MessageBoxTest, GivesEverythingBackWhenTheBoxFails) {
+  host.whileShown = [](const std::string&) { throw std::runtime_error("no memory"); };
+
+  EXPECT_THROW(ShowBox(), std::runtime_error);
+
+  EXPECT_FALSE(suspension.MessageBoxShown);
+  EXPECT_EQ(suspension.MessageBoxDepth, 0);
+  EXPECT_TRUE(mainWindow.timer.enabled);
+  EXPECT_EQ(mainWindow.timer.tag, "ON");
+  EXPECT_TRUE(mainWindow.mainEnabled);
+}
+
+TEST_F(MessageBoxTest, GivesEverythingBackWhenTheMainWindowFails) {
+  bool failed = false;
+  mainWindow.onCall = [&](const std::string&) {
+    if (std::exchange(failed, true)) return;
+    throw std::runtime_error("window gone");
+  };
+
+  EXPECT_THROW(ShowBox(), std::runtime_error);
+
+  EXPECT_FALSE(suspension.MessageBoxShown);
+  EXPECT_EQ(suspension.MessageBoxDepth, 0);
+  EXPECT_TRUE(mainWindow.timer.enabled);
+}
+
+TEST_F(MessageBoxTest, KeepsTheOuterBoxSuspendedWhenAnInnerOneFails) {
+  host.whileShown = [this](const std::string& prompt) {
+    if (prompt == "inner") throw std::runtime_error("no memory");
+    EXPECT_THROW(ShowBox("inner"), std::runtime_error);
+    EXPECT_TRUE(suspension.MessageBoxShown);
+    EXPECT_EQ(suspension.MessageBoxDepth, 1);
+  };
+
+  ShowBox("outer");
+
+  EXPECT_EQ(suspension.MessageBoxDepth, 0);
+}
+
+TEST_F(MessageBoxTest, LetsTheEndOfTheProgramThrough) {
+  host.whileShown = [](const std::string&) { throw ProgramEnded{}; };
+
+  EXPECT_THROW(ShowBox(), ProgramEnded);
+
+  EXPECT_EQ(suspension.MessageBoxDepth, 0);
+}
+
+TEST_F(MessageBoxTest, OverflowsBehindTheDeepestNesting) {
+  suspension.MessageBoxDepth = std::numeric_limits<std::int16_t>::max();
+
+  try {
+    ShowBox();
+    ADD_FAILURE() << "No error";
+  } catch (const RunTimeError& error) {
+    EXPECT_EQ(error.Number(), RunTimeError::kOverflow);
+  }
+  EXPECT_EQ(suspension.MessageBoxDepth, std::numeric_limits<std::int16_t>::max());
+  EXPECT_TRUE(log.Calls().empty());
+}
+
+TEST_F(MessageBoxTest, HasNoOwnerBeforeTheMainWindowExists) {
+  mainWindow.handle = 0;
+  forms.forms.clear();
+
+  ShowBox();
+
+  EXPECT_EQ(log.CallsOf("MessageBoxW"), Calls{"MessageBoxW(0, \"Prompt\", \"Title\", 0)"});
+}
+
+TEST_F(MessageBoxTest, BelongsToTheModalDialogOnTop) {
+  modal = Open("Korvale - Add Window", "Korvale.frmAddWindow", kOurProcess);
+  log.NameWindow(modal, "dialog");
+  forms.Load("frmAddWindow", modal);
+  log.Clear();
+
+  ShowBox();
+
+  EXPECT_EQ(log.CallsOf("MessageBoxW"), Calls{"MessageBoxW(dialog, \"Prompt\", \"Title\", 0)"});
+}
+
+TEST_F(MessageBoxTest, GivesTheForegroundBackToTheMainWindow) {
+  desktop.UserActivates(main);
+  log.Clear();
+  host.whileShown = [this](const std::string&) { desktop.UserActivates(other); };
+
+  ShowBox();
+
+  EXPECT_EQ(log.Calls().back(), "SetForegroundWindow(main)");
+  EXPECT_EQ(desktop.GetForegroundWindow(), main);
+}
+
+TEST_F(MessageBoxTest, GivesTheForegroundBackToAnotherFormOfTheProgram) {
+  const WindowHandle options = Open("Korvale - Options", "Korvale.frmOptions", kOurProcess);
+  forms.Load("frmOptions", options);
+  desktop.UserActivates(options);
+  host.whileShown = [this](const std::string&) { desktop.UserActivates(other); };
+
+  ShowBox();
+
+  EXPECT_EQ(desktop.GetForegroundWindow(), options);
+}
+
+TEST_F(MessageBoxTest, LeavesTheForegroundToTheProgramThatHadIt) {
+  desktop.UserActivates(other);
+  const WindowHandle third = Open("Third", "Third", kOtherProcess);
+  log.Clear();
+  host.whileShown = [&](const std::string&) { desktop.UserActivates(third); };
+
+  ShowBox();
+
+  EXPECT_TRUE(log.CallsOf("SetForegroundWindow").empty());
+  EXPECT_EQ(desktop.GetForegroundWindow(), third);
+}
+
+TEST_F(MessageBoxTest, LeavesTheForegroundToAnotherFormOfTheProgram) {
+  desktop.UserActivates(main);
+  log.Clear();
+  host.whileShown = [this](const std::string&) {
+    const WindowHandle about = Open("About", "Korvale.frmMsgBox2", kOurProcess);
+    forms.Load("frmMsgBox2", about);
+  };
+
+  ShowBox();
+
+  EXPECT_TRUE(log.CallsOf("SetForegroundWindow").empty());
+}
+
+TEST_F(MessageBoxTest, GivesTheForegroundBackOnlyAfterTheOutermostBox) {
+  desktop.UserActivates(main);
+  log.Clear();
+  host.whileShown = [this](const std::string& prompt) {
+    if (prompt == "inner") return;
+    desktop.UserActivates(other);
+    ShowBox("inner");
+    EXPECT_EQ(desktop.GetForegroundWindow(), other);
+  };
+
+  ShowBox("outer");
+
+  EXPECT_EQ(log.CallsOf("SetForegroundWindow"), Calls{"SetForegroundWindow(main)"});
+}
+
+class LostWindowTest : public MessageBoxTest {
+ protected:
+  void ExpectTheForegroundStaysAfter(const std::function<void()>& happening) {
+    desktop.UserActivates(main);
+    log.Clear();
+    host.whileShown = [&](const std::string&) {
+      desktop.UserActivates(other);
+      happening();
+    };
+
+    ShowBox();
+
+    EXPECT_TRUE(log.CallsOf("SetForegroundWindow").empty());
+    EXPECT_EQ(desktop.GetForegroundWindow(), other);
+  }
+};
+
+TEST_F(LostWindowTest, GetsNoForegroundWhenItIsGone) {
+  ExpectTheForegroundStaysAfter([this] { desktop.Close(main); });
+}
+
+TEST_F(LostWindowTest, GetsNoForegroundWhenItIsHidden) {
+  ExpectTheForegroundStaysAfter([this] { desktop.Hide(main); });
+}
+
+TEST_F(LostWindowTest, GetsNoForegroundWhenItIsDisabled) {
+  ExpectTheForegroundStaysAfter([this] { desktop.SetEnabled(main, false); });
+}
+
+}  // namespace
+}  // namespace korvale
