@@ -14,6 +14,10 @@ if(MSVC)
 else()
   target_compile_options(
     korvale_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+    # GCC 12 takes an inlined std::string assignment for an overlapping copy (GCC bug 105651).
+    target_compile_options(korvale_flags INTERFACE -Wno-restrict)
+  endif()
 endif()
 if(WIN32)
   target_compile_definitions(korvale_flags INTERFACE NOMINMAX WIN32_LEAN_AND_MEAN
