@@ -27,14 +27,19 @@ void FailTest(const std::string& message) {
 }
 
 HeadlessControl& HeadlessWindow::Control(int id) {
-  if (id < 1 || static_cast<std::size_t>(id) > controls.size()) {
-    FailTest("form " + form->name + " has no control " + std::to_string(id));
-  }
+  CheckControl(id);
   return controls[static_cast<std::size_t>(id) - 1];
 }
 
 const HeadlessControl& HeadlessWindow::Control(int id) const {
-  return const_cast<HeadlessWindow*>(this)->Control(id);
+  CheckControl(id);
+  return controls[static_cast<std::size_t>(id) - 1];
+}
+
+void HeadlessWindow::CheckControl(int id) const {
+  if (id < 1 || static_cast<std::size_t>(id) > controls.size()) {
+    FailTest("form " + form->name + " has no control " + std::to_string(id));
+  }
 }
 
 std::string HeadlessWindow::Describe(int id) const {

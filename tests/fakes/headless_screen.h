@@ -57,6 +57,7 @@ struct HeadlessWindow {
   void DrawMenuBar();
 
  private:
+  void CheckControl(int id) const;
   bool IsCovered(int id, Twips x, Twips y) const;
 };
 
