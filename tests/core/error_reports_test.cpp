@@ -1,0 +1,105 @@
+#include "app/core/error_reports.h"
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "tests/fakes/fake_clock.h"
+#include "tests/fakes/fake_message_boxes.h"
+
+namespace korvale {
+namespace {
+
+namespace fs = std::filesystem;
+
+class ErrorReportsTest : public testing::Test {
+ protected:
+  ErrorReportsTest() : folder_(testing::TempDir() + "korvale-reports-" + std::to_string(getpid())) {
+    fs::create_directories(folder_);
+    identity_.programFolder = folder_ + "/";
+    messages_.whileShown = [this](const ShownMessageBox& /*box*/) {
+      EXPECT_EQ(Content(), "") << "logged before the user was told";
+      EXPECT_EQ(shutDowns_, 0) << "shut down before the user was told";
+    };
+  }
+  ~ErrorReportsTest() override { fs::remove_all(folder_); }
+
+  std::string Content() const {
+    std::ifstream file(identity_.programFolder + "Error.log", std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+  void Fatal(std::int16_t number) {
+    reports_.udmFatalError(ErrorPlace::kProgramEntry, number,
+                           {"description", "a = 1", "Please start Korvale again."});
+  }
+
+  std::string folder_;
+  ProgramIdentity identity_;
+  FakeMessageBoxes messages_;
+  FakeClock clock_;
+  int shutDowns_ = 0;
+  bool shutDownFails_ = false;
+  ErrorLog log_{identity_, clock_, [] { return ErrorLogState(); }};
+  ErrorReports reports_{identity_, messages_, log_, [this] {
+                          EXPECT_TRUE(Content().ends_with("\r\n")) << "shut down before logging";
+                          ++shutDowns_;
+                          if (shutDownFails_) throw std::runtime_error("broken");
+                        }};
+};
+
+TEST_F(ErrorReportsTest, NonFatalErrorIsShownAndTheProgramGoesOn) {
+  ErrorReporters& reporters = reports_;
+  reporters.udmNonFatalError(ErrorPlace::kEventHandler, 13);
+  EXPECT_EQ(messages_.shown,
+            (std::vector<ShownMessageBox>{
+                {"VB ERROR 13 - Type mismatch\r\rKorvale Error #2", 0x10000, "Korvale - ERROR"}}));
+  EXPECT_EQ(Content(), "");
+  EXPECT_EQ(shutDowns_, 0);
+}
+
+TEST_F(ErrorReportsTest, FatalErrorIsShownLoggedAndEndsTheProgram) {
+  EXPECT_THROW(Fatal(91), ProgramEnded);
+  EXPECT_EQ(messages_.shown,
+            (std::vector<ShownMessageBox>{
+                {"VB ERROR 91 - Object variable or With block variable not set\r\rKorvale Error "
+                 "#1\rPlease start Korvale again.",
+                 0x10000, "Korvale - ERROR"}}));
+  const std::string content = Content();
+  EXPECT_NE(content.find("\r\nError Code:  1\r\n"
+                         "Problem:  VB ERROR 91 - Object variable or With block variable not set "
+                         "-- description\r\n"
+                         "Locals:  a = 1\r\n"),
+            std::string::npos)
+      << content;
+  EXPECT_EQ(shutDowns_, 1);
+}
+
+TEST_F(ErrorReportsTest, FatalErrorOfTheProgramsOwnHasNoRunTimeErrorText) {
+  EXPECT_THROW(Fatal(0), ProgramEnded);
+  ASSERT_EQ(messages_.shown.size(), 1U);
+  EXPECT_EQ(messages_.shown[0].prompt, "\r\rKorvale Error #1\rPlease start Korvale again.");
+  EXPECT_NE(Content().find("\r\nProblem:   -- description\r\n"), std::string::npos) << Content();
+}
+
+TEST_F(ErrorReportsTest, ProgramEndsEvenWhenTheLogCannotBeWritten) {
+  identity_.programFolder = folder_ + "/none/";
+  ErrorReports reports(identity_, messages_, log_, [this] { ++shutDowns_; });
+  EXPECT_THROW(reports.udmFatalError(ErrorPlace::kWindowProcedure, 5, {}), ProgramEnded);
+  EXPECT_EQ(messages_.shown.size(), 1U);
+  EXPECT_EQ(shutDowns_, 1);
+}
+
+TEST_F(ErrorReportsTest, ProgramEndsEvenWhenTheShutdownFails) {
+  shutDownFails_ = true;
+  EXPECT_THROW(Fatal(5), ProgramEnded);
+  EXPECT_EQ(shutDowns_, 1);
+}
+
+}  // namespace
+}  // namespace korvale

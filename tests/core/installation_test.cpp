@@ -1,0 +1,309 @@
+#include "app/core/installation.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "tests/core/stored_values.h"
+#include "tests/fakes/call_log.h"
+#include "tests/fakes/fake_message_boxes.h"
+#include "tests/fakes/fake_settings_store.h"
+#include "tests/fakes/fake_system.h"
+
+namespace korvale {
+namespace {
+
+constexpr const char* kWork = "Korvale - Work";
+constexpr const char* kOld = "Korvale - Old";
+constexpr std::int16_t kYes = 6;
+constexpr std::int16_t kNo = 7;
+
+/// What the main form keeps and does during the rule.
+struct MainForm {
+  explicit MainForm(Settings& settingsToUse) : settings(settingsToUse) {}
+
+  InstallationImport Import() {
+    return {[this] { settings.LoadOptions(options); },
+            [this] {
+              startup = settings.LoadStartup();
+              tags = settings.LoadTagList();
+            },
+            [this] { settings.SaveOptions(options); },
+            [this] {
+              settings.SaveINI(startup, [this](SettingsStore& store) {
+                for (const auto& [tag, caption] : tags.captions) {
+                  store.SaveSetting(settings.AppName(), "ParentWindowList", tag, caption);
+                }
+                for (const auto& [tag, name] : tags.classes) {
+                  store.SaveSetting(settings.AppName(), "ParentWindowClass", tag, name);
+                }
+              });
+            }};
+  }
+
+  Settings& settings;
+  clsOptions options;
+  StartupSettings startup;
+  StoredTagList tags;
+};
+
+class InstallationTest : public testing::Test {
+ protected:
+  InstallationTest() { StartFrom("D:\\Tools\\Work\\"); }
+
+  void StartFrom(const std::string& folder) {
+    system_.executablePath = folder + "Korvale.exe";
+    system_.files.insert(folder + "Korvale.exe");
+    identity_ = ReadProgramIdentity(system_);
+  }
+  InstallationResult RunOn(SettingsStore& store) {
+    Settings settings(store, identity_.mainCaption);
+    MainForm form(settings);
+    const InstallationResult result =
+        RunInstallationRule(identity_, settings, system_, messages_, form.Import());
+    EXPECT_EQ(settings.AppName(), identity_.mainCaption);
+    return result;
+  }
+  InstallationResult Run() { return RunOn(store_); }
+
+  static void Register(SettingsStore& store, const std::string& appName,
+                       const std::string& folder) {
+    store.SaveSetting(kInstallationRegister, "0", appName, folder);
+  }
+  std::optional<std::string> Registered(const std::string& appName) {
+    return store_.GetSetting(kInstallationRegister, "0", appName);
+  }
+
+  /// A full set of settings, none of them the default.
+  static void StoreSettings(SettingsStore& store, const std::string& appName) {
+    Settings settings(store, appName);
+    MainForm form(settings);
+    form.options.intHotKeyModParent = 2;
+    form.startup.Left = 100;
+    form.startup.Width = 5000;
+    form.startup.DisplayTips = false;
+    form.startup.Tips = "11";
+    form.startup.Menu = false;
+    form.tags.captions = {{"1", "&1  Mail"}, {"4", "&4  *** - Notepad"}};
+    form.tags.classes = {{"4", "Notepad"}};
+    form.Import().udmSaveOptions();
+    form.Import().udmSaveINI();
+    store.SaveSetting(appName, "ButtonTags", "1", "old");
+  }
+
+  CallLog log_;
+  FakeSystem system_{log_};
+  FakeSettingsStore store_;
+  FakeMessageBoxes messages_;
+  ProgramIdentity identity_;
+};
+
+TEST_F(InstallationTest, FirstRunIsSeenAndRegistered) {
+  const InstallationResult result = Run();
+  EXPECT_TRUE(result.firstRun);
+  EXPECT_FALSE(result.mustEnd);
+  EXPECT_EQ(result.lastAnswer, 0);
+  EXPECT_EQ(Registered(kWork), "D:\\Tools\\Work");
+  EXPECT_TRUE(messages_.shown.empty());
+}
+
+TEST_F(InstallationTest, LaterRunIsNoFirstRun) {
+  StoreSettings(store_, kWork);
+  Register(store_, kWork, "D:\\Tools\\Work");
+  EXPECT_FALSE(Run().firstRun);
+  EXPECT_TRUE(messages_.shown.empty());
+}
+
+TEST_F(InstallationTest, FolderNameOfALivingInstallationIsTaken) {
+  system_.files.insert("C:\\Other\\WORK\\Korvale.exe");
+  Register(store_, "Korvale - WORK", "C:\\Other\\WORK");
+  const StoredValues before = AllValues(store_);
+  EXPECT_TRUE(Run().mustEnd);
+  EXPECT_EQ(messages_.shown,
+            (std::vector<ShownMessageBox>{
+                {"An installation in a folder named 'Work' already exists.  Korvale does not "
+                 "support two installations with the same folder name.  Please rename the folder "
+                 "then re-run Korvale.",
+                 0, "Korvale"}}));
+  EXPECT_EQ(AllValues(store_), before);
+}
+
+TEST_F(InstallationTest, FolderThatWasMovedKeepsItsSettings) {
+  StoreSettings(store_, kWork);
+  Register(store_, kWork, "C:\\Other\\Work");
+  const InstallationResult result = Run();
+  EXPECT_FALSE(result.mustEnd);
+  EXPECT_FALSE(result.firstRun);
+  EXPECT_EQ(Registered(kWork), "D:\\Tools\\Work");
+  EXPECT_TRUE(messages_.shown.empty());
+}
+
+TEST_F(InstallationTest, OwnFolderInAnotherSpellingIsNoOtherInstallation) {
+  Register(store_, kWork, "d:\\TOOLS\\work\\");
+  EXPECT_FALSE(Run().mustEnd);
+}
+
+TEST_F(InstallationTest, RootOfADriveIsAnInstallation) {
+  StartFrom("C:\\");
+  EXPECT_TRUE(Run().firstRun);
+  EXPECT_EQ(Registered("Korvale - C:"), "C:");
+  EXPECT_FALSE(Run().mustEnd);
+}
+
+TEST_F(InstallationTest, SettingsOfARenamedFolderAreOffered) {
+  StoreSettings(store_, kOld);
+  Register(store_, kOld, "D:\\Tools\\Old");
+  messages_.answers = {kNo};
+  const InstallationResult result = Run();
+  EXPECT_EQ(messages_.shown,
+            (std::vector<ShownMessageBox>{
+                {"Do you want to import common settings and options from Korvale - Old into this "
+                 "installation of Korvale ?",
+                 4, "Korvale"}}));
+  EXPECT_EQ(result.lastAnswer, kNo);
+  EXPECT_TRUE(result.firstRun);
+}
+
+TEST_F(InstallationTest, NoLeavesBothInstallationsAlone) {
+  StoreSettings(store_, kOld);
+  Register(store_, kOld, "D:\\Tools\\Old");
+  StoredValues expected = AllValues(store_);
+  expected["Korvale Installations/0/Korvale - Work"] = "D:\\Tools\\Work";
+  messages_.answers = {kNo};
+  Run();
+  EXPECT_EQ(AllValues(store_), expected);
+}
+
+TEST_F(InstallationTest, YesTakesTheSettingsOverAndRemovesTheOtherInstallation) {
+  StoreSettings(store_, kOld);
+  Register(store_, kOld, "D:\\Tools\\Old");
+  messages_.answers = {kYes};
+  const InstallationResult result = Run();
+  EXPECT_TRUE(result.firstRun);
+  EXPECT_EQ(result.lastAnswer, kYes);
+  EXPECT_EQ(Registered(kOld), std::nullopt);
+  EXPECT_EQ(Registered(kWork), "D:\\Tools\\Work");
+  EXPECT_EQ(ValuesOf(store_, kOld), StoredValues());
+  Settings settings(store_, kWork);
+  clsOptions options;
+  settings.LoadOptions(options);
+  EXPECT_EQ(options.intHotKeyModParent, 2);
+  EXPECT_EQ(settings.LoadTagList().captions,
+            (SettingsStore::Pairs{{"1", "&1  Mail"}, {"4", "&4  *** - Notepad"}}));
+  EXPECT_EQ(settings.LoadTagList().classes, (SettingsStore::Pairs{{"4", "Notepad"}}));
+  EXPECT_EQ(settings.LoadStartup().Tips, "11");
+  EXPECT_FALSE(settings.LoadStartup().Menu);
+}
+
+TEST_F(InstallationTest, PlacementIsNotTakenOver) {
+  StoreSettings(store_, kOld);
+  Register(store_, kOld, "D:\\Tools\\Old");
+  messages_.answers = {kYes};
+  Run();
+  for (const char* key : {"WindowState", "Left", "Top", "Width", "Height", "DisplayTips"}) {
+    EXPECT_EQ(store_.GetSetting(kWork, "Startup", key), std::nullopt) << key;
+  }
+  EXPECT_EQ(store_.GetAllSettings(kWork, "Startup").size(), 8U);
+}
+
+TEST_F(InstallationTest, LivingInstallationNeverLosesItsSettings) {
+  StoreSettings(store_, kOld);
+  Register(store_, kOld, "D:\\Tools\\Old");
+  system_.files.insert("D:\\Tools\\Old\\Korvale.exe");
+  messages_.answers = {kYes};
+  EXPECT_EQ(Run().lastAnswer, 0);
+  EXPECT_TRUE(messages_.shown.empty());
+}
+
+TEST_F(InstallationTest, InstallationWithoutSettingsIsNotOffered) {
+  Register(store_, kOld, "D:\\Tools\\Old");
+  Register(store_, "", "D:\\Tools\\Older");
+  Run();
+  EXPECT_TRUE(messages_.shown.empty());
+}
+
+TEST_F(InstallationTest, InstallationWithSettingsOfItsOwnIsOfferedNothing) {
+  StoreSettings(store_, kWork);
+  StoreSettings(store_, kOld);
+  Register(store_, kOld, "D:\\Tools\\Old");
+  Run();
+  EXPECT_TRUE(messages_.shown.empty());
+}
+
+TEST_F(InstallationTest, FirstOfSeveralInTheRegisterIsOffered) {
+  for (const char* name : {"Korvale - Empty", "Korvale - B", "Korvale - A"}) {
+    Register(store_, name, std::string("D:\\") + name);
+  }
+  StoreSettings(store_, "Korvale - A");
+  StoreSettings(store_, "Korvale - B");
+  const auto registered = store_.GetAllSettings(kInstallationRegister, "0");
+  std::string first;
+  for (const auto& [name, folder] : registered) {
+    if (first.empty() && name != "Korvale - Empty") first = name;
+  }
+  messages_.answers = {kNo};
+  Run();
+  ASSERT_EQ(messages_.shown.size(), 1U);
+  EXPECT_NE(messages_.shown[0].prompt.find("options from " + first + " into"), std::string::npos);
+}
+
+TEST_F(InstallationTest, GarbageInTheRegisterDoesNoHarm) {
+  Register(store_, "\xff\xfe", "");
+  Register(store_, "Korvale - Odd", "\\\\\\");
+  Register(store_, "x", "Work");
+  EXPECT_FALSE(Run().mustEnd);
+  EXPECT_TRUE(messages_.shown.empty());
+}
+
+TEST_F(InstallationTest, KilledImportLeavesTheSettingsWhollyUnderOneName) {
+  StoreSettings(store_, kOld);
+  Register(store_, kOld, "D:\\Tools\\Old");
+  FakeSettingsStore finished = store_;
+  const StoredValues initial = AllValues(finished);
+  Register(finished, kWork, "D:\\Tools\\Work");
+  const StoredValues registered = AllValues(finished);
+  messages_.answers = {kYes};
+  RunOn(finished);
+  const StoredValues after = AllValues(finished);
+
+  bool ended = false;
+  int befores = 0;
+  int afters = 0;
+  for (int writes = 0; !ended; ++writes) {
+    FakeSettingsStore store = store_;
+    messages_.answers = {kYes};
+    ended = RunsToItsEnd(store, writes, [this](SettingsStore& stopping) { RunOn(stopping); });
+    Settings(store, kWork).FinishInterruptedSave();
+    const StoredValues found = AllValues(store);
+    const bool isBefore = found == initial || found == registered;
+    ASSERT_TRUE(isBefore || found == after) << "killed after " << writes << " writes";
+    ASSERT_FALSE(isBefore && afters > 0) << "killed after " << writes << " writes";
+    ++(isBefore ? befores : afters);
+  }
+  EXPECT_GT(befores, 1);
+  EXPECT_GT(afters, 1);
+}
+
+TEST_F(InstallationTest, SaveOfTheOtherInstallationIsFinishedBeforeItIsTakenOver) {
+  StoreSettings(store_, kOld);
+  Register(store_, kOld, "D:\\Tools\\Old");
+  store_.SaveSetting(kOld, "Saving", "1\\S\\Korvale - Old\\ParentWindowList\\9", "&9  Late");
+  store_.SaveSetting(kOld, "Saving", "Complete", "1");
+  messages_.answers = {kYes};
+  Run();
+  EXPECT_EQ(store_.GetSetting(kWork, "ParentWindowList", "9"), "&9  Late");
+  EXPECT_EQ(ValuesOf(store_, kOld), StoredValues());
+}
+
+TEST_F(InstallationTest, OwnInterruptedSaveIsFinishedBeforeTheFirstRunIsDecided) {
+  store_.SaveSetting(kWork, "Saving", "1\\S\\Korvale - Work\\ParentWindowList\\1", "&1  Mail");
+  store_.SaveSetting(kWork, "Saving", "Complete", "1");
+  EXPECT_FALSE(Run().firstRun);
+  EXPECT_EQ(ValuesOf(store_, kWork),
+            (StoredValues{{"Korvale - Work/ParentWindowList/1", "&1  Mail"}}));
+}
+
+}  // namespace
+}  // namespace korvale

@@ -1,0 +1,398 @@
+#include "app/core/settings.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "app/core/setting_rows.h"
+#include "app/core/store_changes.h"
+#include "tests/fakes/call_log.h"
+#include "tests/fakes/fake_settings_store.h"
+
+namespace korvale {
+namespace {
+
+constexpr const char* kApp = "Korvale - Work";
+
+using Pairs = SettingsStore::Pairs;
+
+void NoTags(SettingsStore& /*store*/) {}
+
+Pairs Sorted(Pairs pairs) {
+  std::ranges::sort(pairs);
+  return pairs;
+}
+
+class SettingsTest : public testing::Test {
+ protected:
+  void StoreOption(const std::string& key, const std::string& value) {
+    store_.SaveSetting(kApp, "Options", key, value);
+  }
+  void StoreStartup(const std::string& key, const std::string& value) {
+    store_.SaveSetting(kApp, "Startup", key, value);
+  }
+  clsOptions LoadedOptions() const {
+    clsOptions options;
+    settings_.LoadOptions(options);
+    return options;
+  }
+
+  /// The changes so far without those of the journal.
+  std::vector<std::string> Changes() {
+    std::vector<std::string> calls = log_.Take();
+    std::erase_if(calls, [](const std::string& call) {
+      return call.find("Korvale - Work, Saving") != std::string::npos;
+    });
+    return calls;
+  }
+
+  CallLog log_;
+  FakeSettingsStore store_{log_};
+  Settings settings_{store_, kApp};
+};
+
+clsOptions UnusualOptions() {
+  clsOptions options;
+  options.booSplashScreen = false;
+  options.booSelectPrevWinOnStart = true;
+  options.booAllowNoTextWindow = true;
+  options.booAllowToolbarWindow = true;
+  options.colHotKeyEnabled = -2147483633;
+  options.intHotKeyModParent = 3;
+  options.booHotKeyParent = {false, true, false, true, false, true, false, true, false, true};
+  options.intHotKeyModAction = {4, 5};
+  options.intHotKeyAction = {0, 112};
+  options.intHotKeyModGeneral = {6, 7, 15};
+  options.intHotKeyGeneral = {65, 66, 67};
+  return options;
+}
+
+StartupSettings UnusualStartup() {
+  StartupSettings startup;
+  startup.WindowState = 2;
+  startup.Left = -32768;
+  startup.Top = 32767;
+  startup.Width = 6000;
+  startup.Height = 1500;
+  startup.AlwaysOnTop = true;
+  startup.WI1BackColor = 1;
+  startup.WI2BackColor = 2;
+  startup.Tips = "1101";
+  startup.DisplayTips = false;
+  startup.LastColorSelected = 3;
+  startup.Menu = false;
+  startup.OptionsTab = 3;
+  startup.WindowInfo = false;
+  return startup;
+}
+
+TEST_F(SettingsTest, EmptyStoreGivesTheDefaults) {
+  EXPECT_EQ(LoadedOptions(), clsOptions());
+  EXPECT_EQ(settings_.LoadStartup(), StartupSettings());
+  EXPECT_TRUE(settings_.LoadTagList().captions.empty());
+  EXPECT_TRUE(settings_.LoadTagList().classes.empty());
+}
+
+TEST_F(SettingsTest, LoadingPutsDefaultsInPlaceOfWhatTheRecordHeld) {
+  clsOptions options = UnusualOptions();
+  settings_.LoadOptions(options);
+  EXPECT_EQ(options, clsOptions());
+}
+
+TEST_F(SettingsTest, OptionsStandInTheStoreAsTexts) {
+  settings_.SaveOptions(clsOptions());
+  const Pairs expected = {{"SplashScreen", "True"},       {"SelectPrevWinOnStart", "False"},
+                          {"AllowNoTextWindow", "False"}, {"AllowToolbarWindow", "False"},
+                          {"HotKeyEnabled", "8454143"},   {"HotKeyModParent", "1"},
+                          {"HotKeyParent0", "True"},      {"HotKeyParent1", "True"},
+                          {"HotKeyParent2", "True"},      {"HotKeyParent3", "True"},
+                          {"HotKeyParent4", "True"},      {"HotKeyParent5", "True"},
+                          {"HotKeyParent6", "True"},      {"HotKeyParent7", "True"},
+                          {"HotKeyParent8", "True"},      {"HotKeyParent9", "True"},
+                          {"HotKeyModAction0", "1"},      {"HotKeyModAction1", "1"},
+                          {"HotKeyAction0", "40"},        {"HotKeyAction1", "38"},
+                          {"HotKeyModGeneral0", "8"},     {"HotKeyModGeneral1", "8"},
+                          {"HotKeyModGeneral2", "0"},     {"HotKeyGeneral0", "79"},
+                          {"HotKeyGeneral1", "87"},       {"HotKeyGeneral2", "19"}};
+  EXPECT_EQ(Sorted(store_.GetAllSettings(kApp, "Options")), Sorted(expected));
+}
+
+TEST_F(SettingsTest, StartupSettingsStandInTheStoreAsTexts) {
+  settings_.SaveINI(StartupSettings(), NoTags);
+  const Pairs expected = {{"WindowState", "0"},
+                          {"Left", "-1"},
+                          {"Top", "-1"},
+                          {"Width", "4500"},
+                          {"Height", "1100"},
+                          {"AlwaysOnTop", "False"},
+                          {"WI1BackColor", "10485759"},
+                          {"WI2BackColor", "11468718"},
+                          {"Tips", ""},
+                          {"DisplayTips", "True"},
+                          {"LastColorSelected", "16777215"},
+                          {"Menu", "True"},
+                          {"OptionsTab", "1"},
+                          {"WindowInfo", "True"}};
+  EXPECT_EQ(Sorted(store_.GetAllSettings(kApp, "Startup")), Sorted(expected));
+}
+
+TEST_F(SettingsTest, WhatWasSavedIsLoadedAgain) {
+  settings_.SaveOptions(UnusualOptions());
+  settings_.SaveINI(UnusualStartup(), NoTags);
+  EXPECT_EQ(LoadedOptions(), UnusualOptions());
+  EXPECT_EQ(settings_.LoadStartup(), UnusualStartup());
+}
+
+TEST_F(SettingsTest, AllowModalFrameWindowIsNeverStored) {
+  clsOptions options;
+  options.booAllowModalFrameWindow = true;
+  settings_.SaveOptions(options);
+  EXPECT_EQ(store_.GetAllSettings(kApp, "Options").size(), 26U);
+  EXPECT_FALSE(LoadedOptions().booAllowModalFrameWindow);
+  settings_.LoadOptions(options);
+  EXPECT_TRUE(options.booAllowModalFrameWindow);
+}
+
+TEST_F(SettingsTest, SettingsOfAnotherNameStayApart) {
+  settings_.SaveOptions(UnusualOptions());
+  settings_.SetAppName("Korvale - Home");
+  EXPECT_EQ(settings_.AppName(), "Korvale - Home");
+  EXPECT_EQ(LoadedOptions(), clsOptions());
+  EXPECT_TRUE(settings_.NothingStored());
+}
+
+TEST_F(SettingsTest, BooleanTextIsReadWithoutRegardToCase) {
+  for (const char* text : {"False", "false", "FALSE", "fAlSe"}) {
+    StoreOption("SplashScreen", text);
+    EXPECT_FALSE(LoadedOptions().booSplashScreen) << text;
+  }
+  StoreOption("AllowNoTextWindow", "tRUE");
+  EXPECT_TRUE(LoadedOptions().booAllowNoTextWindow);
+}
+
+TEST_F(SettingsTest, TextThatIsNoBooleanGivesTheDefault) {
+  for (const char* text : {"", "0", "-1", "no", "Falsch", "False!", "\xff\xfe"}) {
+    StoreOption("SplashScreen", text);
+    EXPECT_TRUE(LoadedOptions().booSplashScreen) << text;
+  }
+}
+
+TEST_F(SettingsTest, TextThatIsNoNumberGivesTheDefault) {
+  for (const char* text : {"", " ", "abc", "12abc", "1.5", "0x10", "&H10", "1 2", "--1", "\xf0"}) {
+    StoreOption("HotKeyAction0", text);
+    StoreOption("HotKeyEnabled", text);
+    StoreStartup("Width", text);
+    EXPECT_EQ(LoadedOptions(), clsOptions()) << text;
+    EXPECT_EQ(settings_.LoadStartup(), StartupSettings()) << text;
+  }
+}
+
+TEST_F(SettingsTest, NumberOutsideSixteenBitsGivesTheDefault) {
+  StoreStartup("Left", "32767");
+  StoreStartup("Top", "-32768");
+  EXPECT_EQ(settings_.LoadStartup().Left, 32767);
+  EXPECT_EQ(settings_.LoadStartup().Top, -32768);
+  StoreStartup("Left", "32768");
+  StoreStartup("Top", "-32769");
+  StoreStartup("Width", "99999999999999999999");
+  EXPECT_EQ(settings_.LoadStartup(), StartupSettings());
+}
+
+TEST_F(SettingsTest, NumberOutsideThirtyTwoBitsGivesTheDefault) {
+  StoreStartup("WI1BackColor", "2147483647");
+  StoreStartup("WI2BackColor", "-2147483648");
+  EXPECT_EQ(settings_.LoadStartup().WI1BackColor, 2147483647);
+  EXPECT_EQ(settings_.LoadStartup().WI2BackColor, -2147483647 - 1);
+  StoreStartup("WI1BackColor", "2147483648");
+  StoreStartup("WI2BackColor", "-2147483649");
+  EXPECT_EQ(settings_.LoadStartup(), StartupSettings());
+}
+
+TEST_F(SettingsTest, WindowStateOutsideItsRangeGivesTheDefault) {
+  for (const char* text : {"-1", "3", "2147483647"}) {
+    StoreStartup("WindowState", text);
+    EXPECT_EQ(settings_.LoadStartup().WindowState, 0) << text;
+  }
+  StoreStartup("WindowState", "1");
+  EXPECT_EQ(settings_.LoadStartup().WindowState, 1);
+}
+
+TEST_F(SettingsTest, OptionsTabOutsideItsRangeGivesTheDefault) {
+  for (const char* text : {"0", "4", "-1"}) {
+    StoreStartup("OptionsTab", text);
+    EXPECT_EQ(settings_.LoadStartup().OptionsTab, 1) << text;
+  }
+  StoreStartup("OptionsTab", "2");
+  EXPECT_EQ(settings_.LoadStartup().OptionsTab, 2);
+}
+
+TEST_F(SettingsTest, ValueOfAnotherRegistryTypeGivesTheDefault) {
+  store_.SetOtherType(kApp, "Options", "HotKeyAction0");
+  store_.SetOtherType(kApp, "Startup", "Tips");
+  EXPECT_EQ(LoadedOptions(), clsOptions());
+  EXPECT_EQ(settings_.LoadStartup(), StartupSettings());
+}
+
+TEST_F(SettingsTest, TagListIsLoadedInTheOrderOfTheTags) {
+  store_.SaveSetting(kApp, "ParentWindowList", "7", "&7  *** - Notepad");
+  store_.SaveSetting(kApp, "ParentWindowList", "2", "&2  Mail");
+  store_.SaveSetting(kApp, "ParentWindowClass", "7", "Notepad");
+  store_.SaveSetting(kApp, "ParentWindowClass", "2", "MailFrame");
+  const StoredTagList tags = settings_.LoadTagList();
+  EXPECT_EQ(tags.captions, (Pairs{{"2", "&2  Mail"}, {"7", "&7  *** - Notepad"}}));
+  EXPECT_EQ(tags.classes, (Pairs{{"2", "MailFrame"}, {"7", "Notepad"}}));
+}
+
+TEST_F(SettingsTest, KeysThatAreNoTagRestoreNothing) {
+  for (const char* key : {"0", "10", "", "a", "01", " 1", ":"}) {
+    store_.SaveSetting(kApp, "ParentWindowList", key, "&" + std::string(key) + "  Mail");
+    store_.SaveSetting(kApp, "ParentWindowClass", key, "MailFrame");
+  }
+  const StoredTagList tags = settings_.LoadTagList();
+  EXPECT_TRUE(tags.captions.empty());
+  EXPECT_TRUE(tags.classes.empty());
+}
+
+TEST_F(SettingsTest, CaptionsWithoutTheirOwnDigitRestoreNothing) {
+  const std::vector<std::string> captions = {"",        "Mail",     "&2  Mail", "&1 Mail",
+                                             "1  Mail", "& 1 Mail", "&1",       "&1 \xff"};
+  for (const std::string& caption : captions) {
+    store_.SaveSetting(kApp, "ParentWindowList", "1", caption);
+    EXPECT_TRUE(settings_.LoadTagList().captions.empty()) << caption;
+  }
+  store_.SaveSetting(kApp, "ParentWindowList", "1", "&1  ");
+  EXPECT_EQ(settings_.LoadTagList().captions.size(), 1U);
+}
+
+TEST_F(SettingsTest, SaveINIReplacesWhatStoodInItsSections) {
+  for (const char* section : {"Startup", "ButtonTags", "ButtonColors", "ParentWindowList",
+                              "ParentWindowClass", "ChildWindowList", "Options"}) {
+    store_.SaveSetting(kApp, section, "9", "old");
+  }
+  settings_.SaveINI(StartupSettings(), [](SettingsStore& store) {
+    store.SaveSetting(kApp, "ParentWindowList", "1", "&1  Mail");
+    store.SaveSetting(kApp, "ParentWindowClass", "1", "MailFrame");
+  });
+  EXPECT_EQ(store_.GetSetting(kApp, "Startup", "9"), std::nullopt);
+  EXPECT_TRUE(store_.GetAllSettings(kApp, "ButtonTags").empty());
+  EXPECT_TRUE(store_.GetAllSettings(kApp, "ButtonColors").empty());
+  EXPECT_TRUE(store_.GetAllSettings(kApp, "ChildWindowList").empty());
+  EXPECT_EQ(store_.GetAllSettings(kApp, "ParentWindowList"), (Pairs{{"1", "&1  Mail"}}));
+  EXPECT_EQ(store_.GetAllSettings(kApp, "ParentWindowClass"), (Pairs{{"1", "MailFrame"}}));
+  EXPECT_EQ(store_.GetSetting(kApp, "Options", "9"), "old");
+}
+
+TEST_F(SettingsTest, SaveINIDeletesOnlyFullSectionsThenWritesInTheOrderOfTheTable) {
+  store_.SaveSetting(kApp, "ParentWindowClass", "1", "old");
+  store_.SaveSetting(kApp, "Startup", "Gone", "old");
+  log_.Clear();
+  settings_.SaveINI(StartupSettings(), [](SettingsStore& store) {
+    store.SaveSetting(kApp, "ParentWindowList", "1", "&1  Mail");
+  });
+  const std::string save = "SaveSetting(Korvale - Work, ";
+  const std::vector<std::string> expected = {"DeleteSection(Korvale - Work, Startup)",
+                                             "DeleteSection(Korvale - Work, ParentWindowClass)",
+                                             save + "Startup, WindowState, \"0\")",
+                                             save + "Startup, Left, \"-1\")",
+                                             save + "Startup, Top, \"-1\")",
+                                             save + "Startup, Width, \"4500\")",
+                                             save + "Startup, Height, \"1100\")",
+                                             save + "Startup, AlwaysOnTop, \"False\")",
+                                             save + "Startup, WI1BackColor, \"10485759\")",
+                                             save + "Startup, WI2BackColor, \"11468718\")",
+                                             save + "Startup, Tips, \"\")",
+                                             save + "Startup, DisplayTips, \"True\")",
+                                             save + "Startup, LastColorSelected, \"16777215\")",
+                                             save + "Startup, Menu, \"True\")",
+                                             save + "Startup, OptionsTab, \"1\")",
+                                             save + "Startup, WindowInfo, \"True\")",
+                                             save + "ParentWindowList, 1, \"&1  Mail\")"};
+  EXPECT_EQ(Changes(), expected);
+}
+
+TEST_F(SettingsTest, SectionsAreDeletedInTheirOrder) {
+  for (const char* section : {"ChildWindowList", "ParentWindowClass", "ParentWindowList",
+                              "ButtonColors", "ButtonTags", "Startup"}) {
+    store_.SaveSetting(kApp, section, "9", "old");
+  }
+  log_.Clear();
+  settings_.DeleteINI();
+  EXPECT_EQ(Changes(), (std::vector<std::string>{
+                           "DeleteSection(Korvale - Work, Startup)",
+                           "DeleteSection(Korvale - Work, ButtonTags)",
+                           "DeleteSection(Korvale - Work, ButtonColors)",
+                           "DeleteSection(Korvale - Work, ParentWindowList)",
+                           "DeleteSection(Korvale - Work, ParentWindowClass)",
+                           "DeleteSection(Korvale - Work, ChildWindowList)",
+                       }));
+}
+
+TEST_F(SettingsTest, OptionsAreWrittenInTheOrderOfTheTable) {
+  settings_.SaveOptions(clsOptions());
+  const std::vector<std::string> changes = Changes();
+  ASSERT_EQ(changes.size(), OptionRows().size());
+  for (std::size_t i = 0; i < changes.size(); ++i) {
+    const std::string expected =
+        std::string("SaveSetting(Korvale - Work, Options, ") + OptionRows()[i].key + ", ";
+    EXPECT_TRUE(changes[i].starts_with(expected)) << changes[i];
+  }
+}
+
+TEST_F(SettingsTest, DeleteOptionsDoesNothingWhenNoneAreStored) {
+  settings_.DeleteOptions();
+  EXPECT_TRUE(Changes().empty());
+}
+
+TEST_F(SettingsTest, DeleteOptionsLeavesTheRest) {
+  settings_.SaveOptions(clsOptions());
+  settings_.SaveINI(StartupSettings(), NoTags);
+  settings_.DeleteOptions();
+  EXPECT_TRUE(store_.GetAllSettings(kApp, "Options").empty());
+  EXPECT_EQ(store_.GetAllSettings(kApp, "Startup").size(), 14U);
+}
+
+TEST_F(SettingsTest, DeleteINILeavesTheOptions) {
+  settings_.SaveOptions(clsOptions());
+  settings_.SaveINI(StartupSettings(), NoTags);
+  settings_.DeleteINI();
+  EXPECT_TRUE(store_.GetAllSettings(kApp, "Startup").empty());
+  EXPECT_EQ(store_.GetAllSettings(kApp, "Options").size(), 26U);
+}
+
+TEST_F(SettingsTest, DeletePlacementKeepsTheOtherStartupSettings) {
+  settings_.SaveINI(StartupSettings(), NoTags);
+  settings_.DeletePlacement();
+  const Pairs left = Sorted(store_.GetAllSettings(kApp, "Startup"));
+  std::vector<std::string> keys;
+  for (const auto& [key, value] : left) keys.push_back(key);
+  EXPECT_EQ(keys,
+            (std::vector<std::string>{"AlwaysOnTop", "LastColorSelected", "Menu", "OptionsTab",
+                                      "Tips", "WI1BackColor", "WI2BackColor", "WindowInfo"}));
+}
+
+TEST_F(SettingsTest, OneValueInAnySectionCountsAsStored) {
+  EXPECT_TRUE(settings_.NothingStored());
+  for (const char* section : {"Startup", "ParentWindowList", "ParentWindowClass", "Options"}) {
+    store_.SaveSetting(kApp, section, "x", "");
+    EXPECT_FALSE(settings_.NothingStored()) << section;
+    store_.DeleteSection(kApp, section);
+  }
+  store_.SaveSetting(kApp, "ButtonTags", "x", "");
+  EXPECT_TRUE(settings_.NothingStored());
+}
+
+TEST(SettingRowsTest, NoKeyStandsTwice) {
+  std::vector<std::string> keys;
+  for (const auto& row : OptionRows()) keys.emplace_back(row.key);
+  for (const auto& row : StartupRows()) keys.emplace_back(row.key);
+  std::ranges::sort(keys);
+  EXPECT_EQ(keys.size(), 40U);
+  EXPECT_EQ(std::ranges::adjacent_find(keys), keys.end());
+}
+
+}  // namespace
+}  // namespace korvale
