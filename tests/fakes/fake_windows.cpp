@@ -39,7 +39,7 @@ bool IsTopmost(const FakeWindow& window) { return (window.exStyle & win32::kWsEx
 FakeWindows::FakeWindows()
     : order_([this](WindowHandle hwnd) {
         const FakeWindow& window = windows_.at(hwnd);
-        return FakeZOrder::Facts{window.owner, IsTopmost(window), window.atBottom};
+        return FakeZOrder::Facts{window.owner, window.visible, IsTopmost(window), window.atBottom};
       }),
       next_handle_(kFirstHandle) {}
 

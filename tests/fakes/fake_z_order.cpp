@@ -34,8 +34,11 @@ void FakeZOrder::Raise(WindowHandle hwnd) {
 }
 
 void FakeZOrder::Lower(WindowHandle hwnd) {
-  if (facts_of_(hwnd).owner != 0) return;
-  const std::vector<WindowHandle> group = WithOwned(hwnd);
+  std::vector<WindowHandle> group = WithOwned(hwnd);
+  for (WindowHandle owner = facts_of_(hwnd).owner; owner != 0; owner = facts_of_(owner).owner) {
+    if (facts_of_(owner).visible) return;
+    group.push_back(owner);
+  }
   Take(group);
   order_.insert(order_.end(), group.begin(), group.end());
   SortBands();

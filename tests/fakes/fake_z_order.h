@@ -13,6 +13,7 @@ class FakeZOrder {
  public:
   struct Facts {
     WindowHandle owner = 0;
+    bool visible = false;
     bool topmost = false;
     bool atBottom = false;
   };
@@ -29,7 +30,8 @@ class FakeZOrder {
   /// Brings a window with the windows that it owns to the top of their bands; its owners and what
   /// else these own follow right below.
   void Raise(WindowHandle hwnd);
-  /// Sends a window with the windows that it owns to the bottom of its band. An owned window stays.
+  /// Sends a window with the windows that it owns to the bottom of its band. Hidden owners go down
+  /// with it; under a visible one it stays.
   void Lower(WindowHandle hwnd);
   /// The window and all that it owns, directly or not, in their order.
   std::vector<WindowHandle> WithOwned(WindowHandle hwnd) const;

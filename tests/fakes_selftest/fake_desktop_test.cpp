@@ -1,0 +1,283 @@
+#include "tests/fakes/fake_desktop.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "platform/win32_constants.h"
+#include "tests/fakes/call_log.h"
+
+namespace korvale {
+namespace {
+
+using Titles = std::vector<std::string>;
+
+class FakeDesktopTest : public testing::Test {
+ protected:
+  WindowHandle OpenOwned(const std::string& title, WindowHandle owner) {
+    NewWindow options;
+    options.owner = owner;
+    options.style = fakes::kWsPopup | fakes::kWsCaption;
+    return desktop_.Open(title, options);
+  }
+  WindowHandle OpenHidden(const std::string& title) {
+    NewWindow options;
+    options.visible = false;
+    return desktop_.Open(title, options);
+  }
+
+  CallLog log_;
+  FakeDesktop desktop_{log_};
+};
+
+TEST_F(FakeDesktopTest, TheWindowThatTheUserClicksComesToTheTop) {
+  const WindowHandle alpha = desktop_.Open("Alpha");
+  desktop_.Open("Beta");
+  desktop_.Open("Gamma");
+
+  desktop_.UserActivates(alpha);
+
+  EXPECT_EQ(desktop_.ForegroundTitle(), "Alpha");
+  EXPECT_EQ(desktop_.VisibleTitles(), (Titles{"Alpha", "Gamma", "Beta"}));
+}
+
+TEST_F(FakeDesktopTest, ClickingAMinimizedWindowRestoresIt) {
+  const WindowHandle alpha = desktop_.Open("Alpha");
+  desktop_.UserMinimizes(alpha);
+
+  desktop_.UserActivates(alpha);
+
+  EXPECT_FALSE(desktop_.IsIconic(alpha));
+  EXPECT_EQ(desktop_.ForegroundTitle(), "Alpha");
+}
+
+TEST_F(FakeDesktopTest, ClickingADisabledWindowActivatesItsDialog) {
+  const WindowHandle alpha = desktop_.Open("Alpha");
+  const WindowHandle dialog = desktop_.OpenModalDialog(alpha, "Save");
+  desktop_.Open("Beta");
+
+  desktop_.UserActivates(alpha);
+
+  EXPECT_EQ(desktop_.ForegroundTitle(), "Save");
+  EXPECT_FALSE(desktop_.IsWindowEnabled(alpha));
+  EXPECT_EQ(desktop_.VisibleTitles(), (Titles{"Save", "Alpha", "Beta"}));
+  EXPECT_EQ(desktop_.GetParent(dialog), alpha);
+}
+
+TEST_F(FakeDesktopTest, ClosingAModalDialogGivesTheForegroundBackToItsOwner) {
+  const WindowHandle alpha = desktop_.Open("Alpha");
+  const WindowHandle dialog = desktop_.OpenModalDialog(alpha, "Save");
+
+  desktop_.CloseModalDialog(dialog);
+
+  EXPECT_EQ(desktop_.ForegroundTitle(), "Alpha");
+  EXPECT_TRUE(desktop_.IsWindowEnabled(alpha));
+}
+
+TEST_F(FakeDesktopTest, MinimizingTheForegroundActivatesTheNextWindowAndGoesToTheBottom) {
+  desktop_.Open("Alpha");
+  desktop_.Open("Beta");
+  const WindowHandle gamma = desktop_.Open("Gamma");
+
+  desktop_.ShowWindow(gamma, win32::kSwMinimize);
+
+  EXPECT_EQ(desktop_.ForegroundTitle(), "Beta");
+  EXPECT_EQ(desktop_.VisibleTitles(), (Titles{"Beta", "Alpha", "Gamma"}));
+}
+
+TEST_F(FakeDesktopTest, MinimizingABackgroundWindowLeavesTheForegroundAlone) {
+  const WindowHandle alpha = desktop_.Open("Alpha");
+  desktop_.Open("Beta");
+
+  desktop_.ShowWindow(alpha, win32::kSwMinimize);
+
+  EXPECT_EQ(desktop_.ForegroundTitle(), "Beta");
+}
+
+TEST_F(FakeDesktopTest, MinimizingAWindowOfAHiddenOwnerSendsBothToTheBottom) {
+  const WindowHandle owner = OpenHidden("Hidden owner");
+  const WindowHandle main = OpenOwned("Main", owner);
+  desktop_.Open("Alpha");
+
+  desktop_.UserActivates(main);
+  desktop_.UserMinimizes(main);
+
+  EXPECT_EQ(desktop_.VisibleTitles(), (Titles{"Alpha", "Main"}));
+  EXPECT_EQ(desktop_.Windows().TopLevel().back(), owner);
+}
+
+TEST_F(FakeDesktopTest, MinimizingADialogLeavesItAboveItsVisibleOwner) {
+  const WindowHandle alpha = desktop_.Open("Alpha");
+  const WindowHandle find = OpenOwned("Find", alpha);
+  desktop_.Open("Beta");
+
+  desktop_.UserMinimizes(find);
+
+  EXPECT_EQ(desktop_.VisibleTitles(), (Titles{"Beta", "Find", "Alpha"}));
+}
+
+TEST_F(FakeDesktopTest, TheNextWindowIsVisibleEnabledNotMinimizedAndNoToolWindow) {
+  desktop_.OpenShell();
+  desktop_.Open("Alpha");
+  desktop_.SetEnabled(desktop_.Open("Disabled"), false);
+  desktop_.Hide(desktop_.Open("Hidden"));
+  NewWindow tool;
+  tool.exStyle = win32::kWsExToolWindow;
+  desktop_.Open("Tool", tool);
+  desktop_.UserMinimizes(desktop_.Open("Minimized"));
+  NewWindow passive;
+  passive.exStyle = fakes::kWsExNoActivate;
+  desktop_.Open("Passive", passive);
+
+  desktop_.UserMinimizes(desktop_.Open("Beta"));
+
+  EXPECT_EQ(desktop_.ForegroundTitle(), "Alpha");
+}
+
+TEST_F(FakeDesktopTest, ClosingAWindowPrefersThoseBelowItToTopmostOnes) {
+  desktop_.Open("Alpha");
+  NewWindow topmost;
+  topmost.exStyle = win32::kWsExTopmost;
+  desktop_.Open("Clock", topmost);
+  const WindowHandle beta = desktop_.Open("Beta");
+
+  desktop_.Close(beta);
+
+  EXPECT_EQ(desktop_.ForegroundTitle(), "Alpha");
+}
+
+TEST_F(FakeDesktopTest, TheDesktopsOwnWindowGetsTheForegroundWhenNoOtherIsLeft) {
+  desktop_.OpenShell();
+  const WindowHandle alpha = desktop_.Open("Alpha");
+
+  desktop_.UserMinimizes(alpha);
+
+  EXPECT_EQ(desktop_.ForegroundTitle(), "Program Manager");
+  EXPECT_EQ(desktop_.VisibleTitles(), (Titles{"", "Alpha", "Program Manager"}));
+}
+
+TEST_F(FakeDesktopTest, NothingIsInTheForegroundWhenNoWindowIsLeft) {
+  desktop_.Close(desktop_.Open("Alpha"));
+
+  EXPECT_EQ(desktop_.GetForegroundWindow(), 0);
+}
+
+TEST_F(FakeDesktopTest, MinimizingAnOwnerHidesWhatItOwns) {
+  const WindowHandle alpha = desktop_.Open("Alpha");
+  const WindowHandle find = OpenOwned("Find", alpha);
+  const WindowHandle options = OpenOwned("Options", find);
+  desktop_.Open("Beta");
+  desktop_.UserActivates(find);
+
+  desktop_.UserMinimizes(alpha);
+
+  EXPECT_FALSE(desktop_.IsWindowVisible(find));
+  EXPECT_FALSE(desktop_.IsWindowVisible(options));
+  EXPECT_FALSE(desktop_.ShowWindow(find, win32::kSwShowNormal));
+  EXPECT_TRUE(desktop_.IsWindowVisible(find));
+  EXPECT_EQ(desktop_.VisibleTitles(), (Titles{"Find", "Alpha", "Beta"}));
+}
+
+TEST_F(FakeDesktopTest, MinimizingAnOwnerTakesTheForegroundFromItsDialog) {
+  desktop_.Open("Beta");
+  const WindowHandle alpha = desktop_.Open("Alpha");
+  OpenOwned("Find", alpha);
+
+  desktop_.UserMinimizes(alpha);
+
+  EXPECT_EQ(desktop_.ForegroundTitle(), "Beta");
+}
+
+TEST_F(FakeDesktopTest, RestoringAnOwnerShowsWhatItHid) {
+  const WindowHandle alpha = desktop_.Open("Alpha");
+  const WindowHandle find = OpenOwned("Find", alpha);
+  const WindowHandle options = OpenOwned("Options", find);
+  desktop_.UserMinimizes(find);
+  desktop_.UserMinimizes(alpha);
+
+  desktop_.UserRestores(alpha);
+
+  EXPECT_TRUE(desktop_.IsWindowVisible(find));
+  EXPECT_TRUE(desktop_.IsIconic(find));
+  EXPECT_FALSE(desktop_.IsWindowVisible(options));
+}
+
+TEST_F(FakeDesktopTest, AWholeGroupComesForwardWithOneOfItsWindows) {
+  const WindowHandle alpha = desktop_.Open("Alpha");
+  const WindowHandle find = OpenOwned("Find", alpha);
+  OpenOwned("Replace", alpha);
+  desktop_.Open("Beta");
+
+  desktop_.UserActivates(find);
+
+  EXPECT_EQ(desktop_.VisibleTitles(), (Titles{"Find", "Replace", "Alpha", "Beta"}));
+}
+
+TEST_F(FakeDesktopTest, ATopmostOwnerMakesItsWindowsTopmost) {
+  const WindowHandle alpha = desktop_.Open("Alpha");
+  const WindowHandle find = OpenOwned("Find", alpha);
+  const auto is_topmost = [&](WindowHandle hwnd) {
+    return (desktop_.GetWindowLongA(hwnd, win32::kGwlExStyle) & win32::kWsExTopmost) != 0;
+  };
+
+  desktop_.SetWindowPos(alpha, win32::kHwndTopmost, 0, 0, 0, 0, 3);
+  EXPECT_TRUE(is_topmost(find));
+  EXPECT_TRUE(is_topmost(OpenOwned("Replace", alpha)));
+
+  desktop_.SetWindowPos(find, win32::kHwndNoTopmost, 0, 0, 0, 0, 3);
+  EXPECT_FALSE(is_topmost(find));
+  EXPECT_FALSE(is_topmost(alpha));
+}
+
+TEST_F(FakeDesktopTest, MovesAndSizesAWindowUnlessToldNotTo) {
+  const WindowHandle alpha = desktop_.Open("Alpha");
+
+  desktop_.SetWindowPos(alpha, win32::kHwndTop, 1, 2, 3, 4, win32::kSwpNoSize);
+  EXPECT_EQ(desktop_.Windows().Find(alpha)->place, (PixelRect{1, 2, 200, 100}));
+  desktop_.SetWindowPos(alpha, win32::kHwndTop, 5, 6, 7, 8, win32::kSwpNoMove);
+  EXPECT_EQ(desktop_.Windows().Find(alpha)->place, (PixelRect{1, 2, 7, 8}));
+}
+
+TEST_F(FakeDesktopTest, SetWindowPosActivatesUnlessToldNotTo) {
+  const WindowHandle alpha = desktop_.Open("Alpha");
+  desktop_.Open("Beta");
+
+  desktop_.SetWindowPos(alpha, win32::kHwndTop, 0, 0, 0, 0, 3 | fakes::kSwpNoActivate);
+  EXPECT_EQ(desktop_.ForegroundTitle(), "Beta");
+  EXPECT_EQ(desktop_.VisibleTitles(), (Titles{"Alpha", "Beta"}));
+  desktop_.SetWindowPos(alpha, win32::kHwndTop, 0, 0, 0, 0, 3);
+  EXPECT_EQ(desktop_.ForegroundTitle(), "Alpha");
+}
+
+TEST_F(FakeDesktopTest, TheLockedForegroundIsRefused) {
+  const WindowHandle alpha = desktop_.Open("Alpha");
+  desktop_.Open("Beta");
+  desktop_.LockForeground(true);
+
+  EXPECT_FALSE(desktop_.SetForegroundWindow(alpha));
+
+  EXPECT_EQ(desktop_.ForegroundTitle(), "Beta");
+}
+
+TEST_F(FakeDesktopTest, ANewWindowCanOpenInTheBackground) {
+  desktop_.Open("Alpha");
+  NewWindow options;
+  options.activate = false;
+
+  desktop_.Open("Beta", options);
+
+  EXPECT_EQ(desktop_.ForegroundTitle(), "Alpha");
+}
+
+TEST_F(FakeDesktopTest, NobodyHasTheForegroundForAMoment) {
+  desktop_.Open("Alpha");
+
+  desktop_.LoseForeground();
+
+  EXPECT_EQ(desktop_.GetForegroundWindow(), 0);
+  EXPECT_EQ(desktop_.ForegroundTitle(), "");
+}
+
+}  // namespace
+}  // namespace korvale

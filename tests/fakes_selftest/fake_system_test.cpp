@@ -1,0 +1,114 @@
+#include "tests/fakes/fake_system.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "tests/fakes/call_log.h"
+
+namespace korvale {
+namespace {
+
+class FakeSystemTest : public testing::Test {
+ protected:
+  CallLog log_;
+  std::shared_ptr<FakeSession> session_ = std::make_shared<FakeSession>();
+  FakeSystem system_{log_, session_};
+};
+
+TEST_F(FakeSystemTest, FillsVersionStructuresOfAKnownSizeOnly) {
+  EXPECT_EQ(system_.GetVersionExA(148).majorVersion, 10U);
+  EXPECT_EQ(system_.GetVersionExA(156).platformId, 2U);
+  EXPECT_EQ(system_.GetVersionExA(147).platformId, 0U);
+}
+
+TEST_F(FakeSystemTest, NeedsABufferForTheWindowsFolderAndItsEnd) {
+  EXPECT_EQ(system_.GetWindowsDirectoryA(11), "C:\\Windows");
+  EXPECT_EQ(system_.GetWindowsDirectoryA(10), "");
+}
+
+TEST_F(FakeSystemTest, FindsFilesIgnoringCase) {
+  system_.files = {"C:\\Programs\\Readme.htm"};
+
+  EXPECT_TRUE(system_.FileExists("c:\\programs\\README.HTM"));
+  EXPECT_FALSE(system_.FileExists("C:\\Programs"));
+}
+
+TEST_F(FakeSystemTest, LogsWhatItOpens) {
+  system_.ShellExecuteA(0x10, "Open", "readme.htm", 1);
+
+  EXPECT_EQ(log_.Calls(), std::vector<std::string>{
+                              "ShellExecuteA(0x10, \"Open\", \"readme.htm\", SW_SHOWNORMAL)"});
+}
+
+TEST_F(FakeSystemTest, OneProgramHoldsAMutexAtATime) {
+  FakeSystem other(log_, session_);
+  std::unique_ptr<SystemMutex> mine = system_.CreateMutexA("Korvale");
+  const std::unique_ptr<SystemMutex> theirs = other.CreateMutexA("Korvale");
+
+  EXPECT_TRUE(mine->WaitForSingleObject(0));
+  EXPECT_FALSE(theirs->WaitForSingleObject(0));
+  EXPECT_FALSE(theirs->WaitForSingleObject(1000));
+  EXPECT_TRUE(other.CreateMutexA("Another")->WaitForSingleObject(0));
+
+  mine.reset();
+  EXPECT_FALSE(session_->IsHeld("Korvale"));
+  EXPECT_TRUE(theirs->WaitForSingleObject(0));
+}
+
+TEST_F(FakeSystemTest, AProgramHoldsItsMutexUntilEachWaitIsUndone) {
+  FakeSystem other(log_, session_);
+  std::unique_ptr<SystemMutex> first = system_.CreateMutexA("Korvale");
+  const std::unique_ptr<SystemMutex> second = system_.CreateMutexA("Korvale");
+  EXPECT_TRUE(first->WaitForSingleObject(0));
+  EXPECT_TRUE(second->WaitForSingleObject(0));
+
+  first.reset();
+
+  EXPECT_FALSE(other.CreateMutexA("Korvale")->WaitForSingleObject(0));
+}
+
+TEST_F(FakeSystemTest, AMutexThatWasNotHeldLetsNothingGo) {
+  FakeSystem other(log_, session_);
+  const std::unique_ptr<SystemMutex> mine = system_.CreateMutexA("Korvale");
+  mine->WaitForSingleObject(0);
+
+  other.CreateMutexA("Korvale")->WaitForSingleObject(0);
+
+  EXPECT_TRUE(session_->IsHeld("Korvale"));
+}
+
+TEST_F(FakeSystemTest, TheHolderCanActWhileAnotherProgramWaits) {
+  FakeSystem other(log_, session_);
+  std::unique_ptr<SystemMutex> mine = system_.CreateMutexA("Korvale");
+  mine->WaitForSingleObject(0);
+  session_->WhenWaiting([&] { mine.reset(); });
+  const std::unique_ptr<SystemMutex> theirs = other.CreateMutexA("Korvale");
+
+  EXPECT_FALSE(theirs->WaitForSingleObject(0));
+  EXPECT_TRUE(theirs->WaitForSingleObject(1000));
+}
+
+TEST_F(FakeSystemTest, ADeadHolderHasLetGo) {
+  std::optional<FakeSystem> other(std::in_place, log_, session_);
+  const std::unique_ptr<SystemMutex> theirs = other->CreateMutexA("Korvale");
+  theirs->WaitForSingleObject(0);
+  const std::unique_ptr<SystemMutex> mine = system_.CreateMutexA("Korvale");
+  EXPECT_FALSE(mine->WaitForSingleObject(0));
+
+  other.reset();
+
+  EXPECT_TRUE(mine->WaitForSingleObject(0));
+}
+
+TEST_F(FakeSystemTest, MutexesCanBeRefused) {
+  system_.refuseMutexes = true;
+
+  EXPECT_EQ(system_.CreateMutexA("Korvale"), nullptr);
+}
+
+}  // namespace
+}  // namespace korvale
