@@ -1,11 +1,40 @@
 #pragma once
 
+#include <functional>
+
+#include "app/startup.h"
+#include "forms/form_collection.h"
+#include "forms/main_form.h"
 #include "platform/platform.h"
 
 namespace korvale {
 
-/// Runs the program from start-up to its end; returns the exit code of the process (0 = ended
-/// normally or refused to run beside its own copy).
+/// One run of the program.
+class Program {
+ public:
+  explicit Program(Platform& platform);
+
+  /// Loads and shows the main form; false when start-up refused to run or failed, in which case
+  /// everything has been taken down again.
+  bool Start();
+  /// Dispatches messages until the main form is gone.
+  void Run();
+
+  frmMain& MainForm() { return form_; }
+  FormCollection& Forms() { return forms_; }
+
+ private:
+  bool Guarded(const std::function<void()>& step);
+  void ReportUncaught();
+
+  Platform* platform_;
+  FormCollection forms_;
+  StartUp startUp_;
+  frmMain form_;
+};
+
+/// Runs the program from start-up to its end and returns the exit code of the process: 0 whether it
+/// ran or refused to.
 int RunProgram(Platform& platform);
 
 }  // namespace korvale

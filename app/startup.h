@@ -34,6 +34,8 @@ class StartUp : public ProgramLifetime {
 
   Platform* platform_;
   std::unique_ptr<InstanceLock> instanceLock_;
+  /// The first activation shows a question, during which the form is activated again.
+  bool firstActivationRuns_ = false;
 };
 
 }  // namespace korvale

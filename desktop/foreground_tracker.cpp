@@ -49,6 +49,11 @@ void ForegroundTracker::tmrWindow_Timer() {
   ValidatePreviousWindow();
 }
 
+void ForegroundTracker::LookAnew() {
+  firstTick_ = false;
+  lastSeen_ = 0;
+}
+
 /// A window that the options exclude is accepted all the same when the user has tagged it.
 bool ForegroundTracker::AcceptForeground(WindowHandle hwnd, const std::string& title) {
   if (filter_->IsSelectableWindow(hwnd, true, true)) return true;

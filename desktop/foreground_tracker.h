@@ -22,6 +22,10 @@ class ForegroundTracker {
   /// The tick of tmrWindow; also called when the Window menu opens.
   void tmrWindow_Timer();
 
+  /// Makes the next tick look at the foreground window as if it had just come to the front; called
+  /// once the main window has come up in front of the window that the user worked in.
+  void LookAnew();
+
   /// Falls back to the alternate window when the Previous Window cannot be activated any more, then
   /// shows the record in the main window.
   void ValidatePreviousWindow();

@@ -1,5 +1,7 @@
 #include "desktop/window_enumeration.h"
 
+#include <utility>
+
 #include "desktop/show_window.h"
 #include "desktop/title_match.h"
 #include "desktop/window_readers.h"
@@ -125,7 +127,8 @@ WindowHandle WindowEnumeration::FindInstance(const std::string& className,
   return fields_.instanceResult;
 }
 
-WindowHandle WindowEnumeration::FindTopWindow() {
+WindowHandle WindowEnumeration::FindTopWindow(std::function<bool(WindowHandle)> qualifies) {
+  fields_.topWindowQualifies = std::move(qualifies);
   fields_.topWindowCount = 0;
   fields_.topWindowResult = 0;
   EnumWindows(kTopWindow);
@@ -151,6 +154,7 @@ void WindowEnumeration::CountTopWindow(WindowHandle hwnd) {
   }
   const std::int32_t exStyle = windows_->GetWindowLongA(hwnd, win32::kGwlExStyle);
   if ((exStyle & win32::kWsExTopmost) != 0) return;
+  if (fields_.topWindowQualifies && !fields_.topWindowQualifies(hwnd)) return;
   fields_.topWindowCount = AddInt16(fields_.topWindowCount, 1);
   if (fields_.topWindowCount == 1) fields_.topWindowResult = hwnd;
 }

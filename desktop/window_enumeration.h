@@ -29,6 +29,8 @@ struct SearchFields {
   WindowHandle searchResult = 0;
   std::int16_t topWindowCount = 0;  ///< Mode 6.
   WindowHandle topWindowResult = 0;
+  /// A further condition of mode 6; empty = none.
+  std::function<bool(WindowHandle)> topWindowQualifies;
   std::string titleSearchText;  ///< Mode 7.
   WindowHandle titleSearchResult = 0;
   std::string instanceClass;  ///< Instance search.
@@ -65,8 +67,8 @@ class WindowEnumeration {
   WindowHandle FindByTitleAndClass(const std::string& title, const std::string& className);
   /// The instance search; 0 = no other copy.
   WindowHandle FindInstance(const std::string& className, const std::string& title);
-  /// Mode 6: the topmost window below the program's own, 0 = none.
-  WindowHandle FindTopWindow();
+  /// Mode 6: the topmost window below the program's own that `qualifies`, 0 = none.
+  WindowHandle FindTopWindow(std::function<bool(WindowHandle)> qualifies = {});
 
  private:
   void Enumerate(const std::function<bool(WindowHandle)>& visit);

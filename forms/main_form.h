@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -47,10 +48,10 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   frmMsgBox2& About() { return about_; }
 
   void udmUnload(bool booNormalShutDown);
-  void udmLoadOptions();
+  void udmLoadOptions() override;
   void udmSaveOptions() override;
-  void udmDeleteOptions();
-  void udmSaveINI();
+  void udmDeleteOptions() override;
+  void udmSaveINI() override;
   /// Reads the main window's state and the Tag list from the store.
   void LoadStartupSettings();
   std::string udmProcessHotKey(const std::string& name, bool booDoAction, bool booReturnWindow,
@@ -70,6 +71,7 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   void mnuToolsOptions_Click();
   void mnuToolsToggleHotKeys_Click();
   void mnuFileExit_Click();
+  void mnuHelpHomePage_Click();
   void mnuHelpAbout_Click();
   void mnuHelpDisplayTips_Click();
   void mnuViewMenu_Click();
@@ -93,6 +95,8 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   bool HasTagCaption(std::int16_t tag) override;
   void mnuWindowParentList_Click(std::int16_t Index) override;
   void BringOptionsToFront() override;
+  /// "LOAD_AND_OR_REFRESH" opens the Options dialog, or fills the open one anew, from the options
+  /// record; "UPDATE_OPTIONS" takes its values into the record; other modes do nothing.
   void udmOptions(const std::string& strMode) override;
   void PopUpWindowMenu() override;
   void SetWindowMenuTag(const std::string& tag) override;
@@ -100,6 +104,17 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
                std::int16_t height) override;
   void ShowWaitWindow(const std::string& caption, const std::string& text,
                       std::uint32_t milliseconds) override;
+
+  // OptionsDialogOwner
+  HotKeyTable& HotKeys() override { return parts_.hotKeys; }
+  MessageBoxes& Messages() override { return parts_.messages; }
+  /// Shows the colour dialog; the chosen colour also becomes LastColorSelected.
+  std::optional<Color> udmShowColorPalette(Color initial) override;
+  void SetMousePointer(MousePointer pointer) override { platform_->host.SetCursor(pointer); }
+  std::int16_t OptionsTab() const override { return parts_.startup.OptionsTab; }
+  void SetOptionsTab(std::int16_t tab) override { parts_.startup.OptionsTab = tab; }
+  std::string ProgramTitle() const override { return parts_.identity.messageTitle; }
+  void OptionsDialogClosed() override { openOptions_ = nullptr; }
 
  protected:
   void Form_Load() override;
@@ -131,8 +146,9 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   void BindMenus();
   void BindWindowMenu();
   void ShowAddWindow(AddWindowMode mode);
+  void OpenHomePage();
+  void RefreshToggleCaption();
   void CloseAbout();
-  void RestoreTagList();
   Twips HeightForContent() const;
   void LayOutFields();
   void RememberPlace();
@@ -146,7 +162,9 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   frmMsgBox2 about_;
   AddWindowMode addWindowMode_ = AddWindowMode::kNone;
   frmGetWindow addWindow_;
-  frmOptions options_;
+  frmOptions optionsForm_;
+  /// The open Options dialog, null while there is none.
+  frmOptions* openOptions_ = nullptr;
   Tips tips_;
   WindowMenu windowMenu_;
   bool unloaded_ = false;

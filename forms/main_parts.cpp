@@ -21,7 +21,11 @@ MainParts::MainParts(Platform& platform, FormCollection& forms, MainWindow& main
       enumeration(platform.windows, platform.commands, filter, mainWindow, tagPasses),
       messages(platform.host, platform.windows, platform.commands, mainWindow, forms, suspension,
                [&forms] { return forms.TopModal() != nullptr ? forms.TopModal()->Handle() : 0; }),
-      errors(messages, platform.clock, identity, state, std::move(shutDown)),
+      errorLog(identity, platform.clock,
+               [this] {
+                 return ErrorLogState{state.firstActivation, startup.Menu, state.lastAnswer};
+               }),
+      errors(identity, messages, errorLog, std::move(shutDown)),
       actions(platform.windows, platform.commands, filter, enumeration, mainWindow, previous,
               messages, identity.messageTitle),
       tracker(platform.windows, filter, actions, mainWindow, previous, tags),

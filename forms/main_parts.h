@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 
+#include "app/core/error_log.h"
 #include "app/core/error_reports.h"
 #include "app/core/identity.h"
 #include "app/core/options.h"
@@ -61,6 +62,7 @@ struct MainParts {
 
   Suspension suspension;
   SuspendingMessageBoxes messages;
+  ErrorLog errorLog;
   ErrorReports errors;
 
   WindowActions actions;

@@ -6,12 +6,10 @@
 
 #include "app/core/message_boxes.h"
 #include "hotkeys/hot_key_table.h"
+#include "platform/form_host.h"
 #include "platform/types.h"
 
 namespace korvale {
-
-/// The mouse pointers that the program asks for.
-enum class MousePointer : std::int16_t { kDefault = 0, kHourglass = 11, kCustom = 99 };
 
 /// What the Options dialog asks of the form that opened it.
 class OptionsDialogOwner {

@@ -40,7 +40,7 @@ WindowMenu::WindowMenu(WindowMenuParts parts, std::string applicationTitle)
 MenuItem& WindowMenu::Item(const char* name, int index) {
   MenuItem* item = parts_.menus.Find(name, index);
   if (item == nullptr) {
-    throw RunTimeError(340);
+    throw RunTimeError(RunTimeError::kNoSuchControlArrayElement);
   }
   return *item;
 }
@@ -58,8 +58,7 @@ void WindowMenu::mnuWindow_Click() {
 
   const std::string title = DoubleAmpersands(ShortTitle(parts_.previous.current.text));
   Item("mnuWindowPreviousWindowAlwaysOnTop").caption = "[" + title + "]  Always On &Top";
-  Item("mnuWindowAddToList", kPreviousWindow).caption =
-      "Add  [" + title + "]  to &Window menu...";
+  Item("mnuWindowAddToList", kPreviousWindow).caption = "Add  [" + title + "]  to &Window menu...";
 }
 
 void WindowMenu::mnuWindowParentList_Click(std::int16_t Index) {
@@ -77,8 +76,8 @@ void WindowMenu::mnuWindowParentList_Click(std::int16_t Index) {
 
 void WindowMenu::SelectPrevious() {
   const bool inMainWindow = parts_.mainWindow.FocusTag() == kGotFocus;
-  parts_.actions.ActivateWindow(
-      inMainWindow ? parts_.previous.current : parts_.previous.alternate, false, true);
+  parts_.actions.ActivateWindow(inMainWindow ? parts_.previous.current : parts_.previous.alternate,
+                                false, true);
 }
 
 void WindowMenu::SelectTag(MenuItem& entry, std::size_t slot) {

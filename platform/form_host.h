@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "platform/form_model.h"
@@ -14,6 +15,9 @@ enum ShiftState : unsigned { kNoShift = 0, kShift = 1, kCtrl = 2, kAlt = 4 };
 
 enum class MouseEvent { kDown, kUp, kMove };
 enum class MouseButton { kNone = 0, kLeft = 1, kRight = 2, kMiddle = 4 };
+
+/// Mouse pointers over the program's windows.
+enum class MousePointer : std::int16_t { kDefault = 0, kHourglass = 11, kCustom = 99 };
 
 struct MouseInput {
   MouseEvent event = MouseEvent::kMove;
@@ -113,6 +117,11 @@ class FormHost {
   /// Pops a menu of the form up at the mouse position and returns when it has closed; the choice
   /// has then been told through OnMenuClicked (TrackPopupMenuEx).
   virtual void TrackPopupMenuEx(WindowHandle hwnd, MenuItem& menu) = 0;
+
+  /// The colour dialog; nothing when the user cancels it. Colours are 0x00BBGGRR.
+  virtual std::optional<Color> ChooseColorW(WindowHandle owner, Color initial) = 0;
+  /// The pointer over all windows of the program; kDefault leaves it to each window.
+  virtual void SetCursor(MousePointer pointer) = 0;
 
   /// Dispatches messages until `done` is true or the program shall end (GetMessageW).
   virtual void RunMessageLoop(const std::function<bool()>& done) = 0;

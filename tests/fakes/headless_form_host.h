@@ -4,6 +4,7 @@
 #include <deque>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -39,6 +40,9 @@ class HeadlessFormHost : public FormHost, private DesktopListener {
   /// Presses this button of the next message box.
   void AnswerNext(std::int16_t button);
   void WhenPopupMenu(Choose choose);
+  /// What the user does with the next colour dialog; nothing = cancels it.
+  void WhenColorDialog(std::function<std::optional<Color>(Color initial)> choose);
+  MousePointer Pointer() const { return pointer_; }
   /// Called when a message loop waits and nothing is queued: lets something happen, such as time
   /// pass, and returns true; false when there is nothing left, which fails the test.
   void SetIdle(std::function<bool()> idle) { idle_ = std::move(idle); }
@@ -81,6 +85,8 @@ class HeadlessFormHost : public FormHost, private DesktopListener {
   std::int16_t MessageBoxW(WindowHandle owner, const std::string& text, const std::string& title,
                            std::int32_t style) override;
   void TrackPopupMenuEx(WindowHandle hwnd, MenuItem& menu) override;
+  std::optional<Color> ChooseColorW(WindowHandle owner, Color initial) override;
+  void SetCursor(MousePointer pointer) override { pointer_ = pointer; }
   void RunMessageLoop(const std::function<bool()>& done) override;
   void DoEvents() override;
   void PostQuitMessage() override;
@@ -106,6 +112,8 @@ class HeadlessFormHost : public FormHost, private DesktopListener {
   std::deque<Step> steps_;
   std::deque<Answer> answers_;
   std::deque<Choose> choices_;
+  std::deque<std::function<std::optional<Color>(Color)>> colors_;
+  MousePointer pointer_ = MousePointer::kDefault;
   std::deque<std::function<void()>> posted_;
   std::function<bool()> idle_;
   std::vector<ShownMessage> messages_;

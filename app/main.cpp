@@ -1,0 +1,47 @@
+#include <windows.h>
+// After windows.h, which they need.
+#include <commctrl.h>
+#include <objbase.h>
+
+#include "app/program.h"
+#include "forms/windows/windows_form_host.h"
+#include "platform/windows/windows_clock.h"
+#include "platform/windows/windows_hot_key_api.h"
+#include "platform/windows/windows_settings_store.h"
+#include "platform/windows/windows_system_api.h"
+#include "platform/windows/windows_window_api.h"
+
+namespace {
+
+/// The common controls, and COM as the shell wants it for opening documents.
+class SystemLibraries {
+ public:
+  SystemLibraries() : com_(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)) {
+    const INITCOMMONCONTROLSEX controls{sizeof(controls), ICC_STANDARD_CLASSES | ICC_TAB_CLASSES};
+    InitCommonControlsEx(&controls);
+  }
+  ~SystemLibraries() {
+    if (SUCCEEDED(com_)) CoUninitialize();
+  }
+  SystemLibraries(const SystemLibraries&) = delete;
+  SystemLibraries& operator=(const SystemLibraries&) = delete;
+
+ private:
+  HRESULT com_;
+};
+
+}  // namespace
+
+int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, PWSTR /*commandLine*/,
+                    int /*show*/) {
+  const SystemLibraries libraries;
+  korvale::WindowsWindowApi windows;
+  korvale::WindowsHotKeyApi hotKeys;
+  korvale::WindowsSettingsStore store;
+  korvale::WindowsSystemApi system;
+  korvale::WindowsClock clock;
+  korvale::WindowsTimers timers;
+  korvale::WindowsFormHost host(instance);
+  korvale::Platform platform{windows, windows, hotKeys, store, system, clock, timers, host};
+  return korvale::RunProgram(platform);
+}

@@ -1,0 +1,85 @@
+#include "app/program.h"
+
+#include <exception>
+#include <string>
+
+#include "app/core/error_reporting.h"
+#include "platform/run_time_error.h"
+
+namespace korvale {
+
+namespace {
+
+struct CaughtError {
+  std::int16_t number = RunTimeError::kInternalError;
+  std::string text;
+};
+
+/// Describes the error in whose catch block it is called; lets ProgramEnded pass.
+CaughtError DescribeCaught() {
+  try {
+    throw;
+  } catch (const ProgramEnded&) {
+    throw;
+  } catch (const RunTimeError& error) {
+    return {error.Number(), error.what()};
+  } catch (const std::exception& error) {
+    return {RunTimeError::kInternalError, error.what()};
+  } catch (...) {
+    return {};
+  }
+}
+
+}  // namespace
+
+Program::Program(Platform& platform)
+    : platform_(&platform),
+      forms_(platform.host, platform.timers),
+      startUp_(platform),
+      form_(platform, forms_, startUp_) {
+  forms_.SetUncaughtHandler([this] { ReportUncaught(); });
+}
+
+bool Program::Start() {
+  return Guarded([this] { form_.Show(); });
+}
+
+void Program::Run() {
+  Guarded([this] { platform_->host.RunMessageLoop([this] { return !form_.IsLoaded(); }); });
+}
+
+bool Program::Guarded(const std::function<void()>& step) {
+  try {
+    try {
+      step();
+      return true;
+    } catch (...) {
+      const CaughtError error = DescribeCaught();
+      form_.Parts().errors.udmFatalError(ErrorPlace::kProgramEntry, error.number,
+                                         {error.text, "", ""});
+    }
+  } catch (const ProgramEnded&) {
+    // Start-up refused to run, or a fatal error: everything has been taken down already.
+    return false;
+  }
+}
+
+/// An error that left an event handler, a timer or the window procedure: the user is told and the
+/// program goes on, unless it has just been taken down.
+void Program::ReportUncaught() {
+  try {
+    form_.udmNonFatalError(ErrorPlace::kEventHandler, DescribeCaught().number);
+  } catch (const ProgramEnded&) {
+    platform_->host.PostQuitMessage();
+  }
+}
+
+int RunProgram(Platform& platform) {
+  Program program(platform);
+  if (program.Start()) {
+    program.Run();
+  }
+  return 0;
+}
+
+}  // namespace korvale

@@ -1,0 +1,214 @@
+#include "app/startup.h"
+
+#include "app/core/error_reporting.h"
+#include "app/core/installation.h"
+#include "desktop/window_readers.h"
+#include "forms/main_form_design.h"
+#include "platform/win32_constants.h"
+#include "util/text.h"
+
+namespace korvale {
+
+namespace {
+
+/// How long a copy that is just starting may take to show its main window, in ms.
+constexpr std::uint32_t kCopyPatience = 5000;
+constexpr std::uint32_t kCopyPoll = 50;
+
+constexpr std::int16_t kOtherInstanceTipHeight = 5400;
+constexpr std::int16_t kCommandLineTipHeight = 2700;
+constexpr std::int16_t kHotKeysTab = 2;
+
+}  // namespace
+
+void StartUp::Initialise(frmMain& form) {
+  FixIdentity(form);
+  RunInstallation(form);
+  form.LoadStartupSettings();
+  form.udmLoadOptions();
+  RefuseSecondCopy(form);
+  MentionOtherInstallation(form);
+  MentionCommandLine(form);
+  ShowSplash(form);
+  LayOut(form);
+  PrepareMenusAndTimers(form);
+  InstallHotKeys(form);
+  form.RefreshMenus("Form_Load");
+  form.Parts().state.startUpFinished = true;
+  form.Form_Resize();
+  if (form.Parts().state.firstRun) {
+    form.udmSaveINI();
+    form.udmSaveOptions();
+  }
+}
+
+void StartUp::FixIdentity(frmMain& form) {
+  MainParts& parts = form.Parts();
+  parts.identity = ReadProgramIdentity(platform_->system);
+  form.SetCaption(parts.identity.mainCaption);
+}
+
+void StartUp::RunInstallation(frmMain& form) {
+  MainParts& parts = form.Parts();
+  parts.options.Create();
+  parts.settings.SetAppName(parts.identity.mainCaption);
+  const InstallationResult result = RunInstallationRule(
+      parts.identity, parts.settings, platform_->system, parts.messages,
+      {[&form] { form.udmLoadOptions(); }, [&form] { form.LoadStartupSettings(); },
+       [&form] { form.udmSaveOptions(); }, [&form] { form.udmSaveINI(); }});
+  parts.state.firstRun = result.firstRun;
+  parts.state.lastAnswer = result.lastAnswer;
+  if (result.mustEnd) {
+    form.udmUnload(false);
+    throw ProgramEnded{};
+  }
+}
+
+WindowHandle StartUp::FindOtherCopy(frmMain& form) {
+  return form.Parts().enumeration.FindInstance(GetWindowClass(platform_->windows, form.Handle()),
+                                               form.Caption());
+}
+
+void StartUp::RefuseSecondCopy(frmMain& form) {
+  MainParts& parts = form.Parts();
+  instanceLock_ = std::make_unique<InstanceLock>(platform_->system, parts.identity.programFolder);
+  bool alone = instanceLock_->TryHold(0);
+  WindowHandle other = FindOtherCopy(form);
+  // A copy that was started in the same instant holds the lock but has no visible window yet.
+  for (std::uint32_t waited = 0; !alone && other == 0 && waited < kCopyPatience;
+       waited += kCopyPoll) {
+    alone = instanceLock_->TryHold(kCopyPoll);
+    other = FindOtherCopy(form);
+  }
+  if (alone && other == 0) {
+    return;
+  }
+  platform_->host.DoEvents();
+  parts.messages.ShowMessageBox("'" + form.Caption() + "' is already open.", win32::kMbOk,
+                                parts.identity.messageTitle);
+  WindowTriple copy{other, form.Caption(), GetWindowClass(platform_->windows, other)};
+  parts.actions.ActivateWindow(copy, false, true);
+  form.udmUnload(false);
+  throw ProgramEnded{};
+}
+
+void StartUp::MentionOtherInstallation(frmMain& form) {
+  MainParts& parts = form.Parts();
+  const std::string className = GetWindowClass(platform_->windows, form.Handle());
+  if (parts.enumeration.FindByTitleAndClass(parts.identity.productName, className) == 0) {
+    return;
+  }
+  form.ShowTip(static_cast<std::int32_t>(TipNumber::kOtherInstance),
+               "Another instance of Korvale is currently running.  More than one instance of "
+               "Korvale can be run to select different sets of windows.  For example, you can use "
+               "Alt+0-9 to select one set of windows, and Ctrl+0-9 for another.\r\rWhen assigning "
+               "hot keys to the various operations listed on the Hot Keys tab of the Options "
+               "dialog box, be careful to avoid/fix any conflicts with hot keys from another "
+               "instance of Korvale (or other programs).  After changing hot keys, they have to "
+               "be registered properly with the operating system.  This is done automatically "
+               "when you save changes from the Options dialog box (by pressing OK or Apply).  If "
+               "you fix hot key conflicts by making changes in another instance of Korvale (or "
+               "another program) you may have to deactivate, then re-activate the hot keys in "
+               "this instance of Korvale to get the once conflicting hot keys registered properly "
+               "with the operating system.  This can be done by using Korvale' "
+               "Activate/Deactivate Hot Keys feature, or simply by restarting Korvale.",
+               "TIP", kOtherInstanceTipHeight);
+}
+
+void StartUp::MentionCommandLine(frmMain& form) {
+  if (Trim(platform_->system.GetCommandLineA()).empty()) {
+    return;
+  }
+  form.ShowTip(static_cast<std::int32_t>(TipNumber::kCommandLine),
+               "Korvale does not accept command line arguments.", "TIP", kCommandLineTipHeight);
+}
+
+void StartUp::ShowSplash(frmMain& form) {
+  MainParts& parts = form.Parts();
+  if (!parts.state.firstRun && parts.options.Get().booSplashScreen) {
+    form.About().ShowSplash(parts.display);
+  }
+}
+
+void StartUp::LayOut(frmMain& form) {
+  form.ApplyPlacement();
+  form.ApplyColors();
+}
+
+void StartUp::PrepareMenusAndTimers(frmMain& form) {
+  const std::string& product = form.Parts().identity.productName;
+  form.Menu("mnuHelpAbout").caption = AboutCaption(product);
+  form.Menu("mnuWindowAlwaysOnTop").caption = AlwaysOnTopCaption(product);
+  form.Menu("mnuWindowAddToList", 1).caption = AddThisWindowCaption(product);
+  form.Menu("mnuHelpHomePage").caption = HomePageCaption(product);
+  form.CheckAlwaysOnTop(form.Parts().startup.AlwaysOnTop);
+  form.EnablePreviousWindowItems(false);
+  form.tmrWindow().SetEnabled(true);
+  form.tmrWindow().SetTag("ON");
+}
+
+void StartUp::InstallHotKeys(frmMain& form) {
+  form.Parts().hook.HookWindowProc("SET", form.Handle());
+  form.Parts().hotKeys.SetHotKeys("SET");
+}
+
+void StartUp::FirstActivation(frmMain& form) {
+  MainParts& parts = form.Parts();
+  if (parts.state.firstActivation || firstActivationRuns_ || !form.Visible()) {
+    return;
+  }
+  firstActivationRuns_ = true;
+  if (parts.startup.AlwaysOnTop) {
+    parts.actions.SetTopmost(form.Handle(), true);
+  }
+  RecordPreviousWindow(form);
+  if (parts.state.firstRun) {
+    AskToReviewHotKeys(form);
+  }
+  // The user has come to the main window from another one, as he does by a click on it.
+  parts.tracker.LookAnew();
+  parts.state.firstActivation = true;
+}
+
+void StartUp::RecordPreviousWindow(frmMain& form) {
+  MainParts& parts = form.Parts();
+  const WindowHandle before = parts.enumeration.FindTopWindow([&](WindowHandle hwnd) {
+    return parts.tracker.AcceptForeground(hwnd, GetWindowTitle(platform_->windows, hwnd));
+  });
+  if (before == 0) {
+    return;
+  }
+  parts.previous.current = {before, GetWindowTitle(platform_->windows, before),
+                            GetWindowClass(platform_->windows, before)};
+  parts.tracker.ValidatePreviousWindow();
+  if (parts.options.Get().booSelectPrevWinOnStart) {
+    parts.actions.ActivateWindow(parts.previous.current, false, true);
+  }
+}
+
+void StartUp::AskToReviewHotKeys(frmMain& form) {
+  MainParts& parts = form.Parts();
+  parts.state.lastAnswer = parts.messages.ShowMessageBox(
+      "Korvale is installed with Hot Keys active.  It is recommended that you review the Hot Keys "
+      "before getting started.\r\rDo you want to review the Hot Keys now ?",
+      win32::kMbYesNo, parts.identity.messageTitle + " - CAUTION");
+  if (parts.state.lastAnswer == win32::kIdYes) {
+    parts.startup.OptionsTab = kHotKeysTab;
+    form.udmOptions("LOAD_AND_OR_REFRESH");
+  }
+}
+
+void StartUp::Unload(frmMain& form, bool booNormalShutDown) {
+  MainParts& parts = form.Parts();
+  if (booNormalShutDown) {
+    form.udmTimersEnabled(false);
+    form.udmSaveINI();
+  }
+  parts.tagPasses.RemoveClosed();
+  parts.hotKeys.SetHotKeys("REMOVE");
+  parts.hook.HookWindowProc("REMOVE", form.Handle());
+  form.Collection().UnloadAllExcept("frmMain");
+  parts.options.Release();
+}
+
+}  // namespace korvale

@@ -1,0 +1,161 @@
+#include "forms/main_form.h"
+
+#include <utility>
+
+#include "desktop/tag_list_restore.h"
+#include "forms/main_form_design.h"
+#include "hotkeys/hot_key_names.h"
+#include "platform/run_time_error.h"
+#include "util/forms.h"
+#include "util/text.h"
+
+namespace korvale {
+
+namespace {
+
+/// How long a dialog may take to become the foreground window, in ms.
+constexpr std::int32_t kForegroundPatience = 1000;
+
+}  // namespace
+
+frmMain::frmMain(Platform& platform, FormCollection& forms, ProgramLifetime& lifetime)
+    : Form(MainFormDesign(), forms),
+      platform_(&platform),
+      lifetime_(&lifetime),
+      tmrWindow_(*this, "tmrWindow"),
+      parts_(platform, forms, *this, Menus(), *this, [this] { udmUnload(false); }),
+      tipForm_(forms),
+      waitForm_(forms, parts_.display),
+      about_(forms, platform.clock, parts_.identity),
+      addWindow_(forms, AddWindowContext{platform.windows, *this, parts_.previous, parts_.tags,
+                                         addWindowMode_}),
+      optionsForm_(forms, *this),
+      tips_(tipForm_, parts_.display, parts_.startup.DisplayTips, parts_.startup.Tips,
+            parts_.identity.messageTitle),
+      windowMenu_({platform.windows, platform.commands, *this, parts_.enumeration, parts_.actions,
+                   parts_.tracker, parts_.tags, parts_.previous, parts_.messages, Menus(),
+                   parts_.startup.AlwaysOnTop, [this] { RefreshMenus("mnu"); },
+                   [this](AddWindowMode mode) { ShowAddWindow(mode); }},
+                  parts_.identity.productName) {
+  BindMenus();
+  BindWindowMenu();
+  WhenClicked("tmrWindow", [this](int) { parts_.tracker.tmrWindow_Timer(); });
+}
+
+void frmMain::Form_Load() {
+  // Present in the menu, but nothing fills it.
+  Menu("mnuWindowChildList").visible = false;
+  lifetime_->Initialise(*this);
+}
+
+void frmMain::Form_Activate() { lifetime_->FirstActivation(*this); }
+
+void frmMain::Form_QueryUnload(bool& cancel, CloseReason reason) {
+  // A modal dialog must be answered first; only the end of the session overrides it.
+  cancel = reason == CloseReason::kUser && Collection().TopModal() != nullptr;
+}
+
+void frmMain::Form_Unload() {
+  if (!unloaded_) {
+    udmUnload(true);
+  }
+  platform_->host.PostQuitMessage();
+}
+
+void frmMain::udmUnload(bool booNormalShutDown) {
+  if (std::exchange(unloaded_, true)) {
+    return;
+  }
+  lifetime_->Unload(*this, booNormalShutDown);
+}
+
+void frmMain::udmLoadOptions() { parts_.settings.LoadOptions(parts_.options.Get()); }
+
+void frmMain::udmSaveOptions() { parts_.settings.SaveOptions(parts_.options.Get()); }
+
+void frmMain::udmDeleteOptions() { parts_.settings.DeleteOptions(); }
+
+void frmMain::udmSaveINI() {
+  parts_.settings.SaveINI(parts_.startup, [this](SettingsStore& store) {
+    TagListPasses(parts_.tags, platform_->windows, store)
+        .TagListPass(TagListMode::kSave, 0, parts_.settings.AppName());
+  });
+}
+
+void frmMain::LoadStartupSettings() {
+  parts_.startup = parts_.settings.LoadStartup();
+  const StoredTagList stored = parts_.settings.LoadTagList();
+  RestoreTagList(parts_.tags, stored.captions, stored.classes);
+}
+
+std::string frmMain::udmProcessHotKey(const std::string& name, bool booDoAction,
+                                      bool booReturnWindow,
+                                      const std::string& strSupplyWindowText) {
+  return parts_.dispatch.udmProcessHotKey(name, booDoAction, booReturnWindow, strSupplyWindowText);
+}
+
+void frmMain::udmRefreshAlwaysOnTopMenuChecked() {
+  parts_.tracker.udmRefreshAlwaysOnTopMenuChecked();
+}
+
+void frmMain::udmNonFatalError(ErrorPlace intErrorNumber, std::int16_t intVB_ErrNumber) {
+  parts_.errors.udmNonFatalError(intErrorNumber, intVB_ErrNumber);
+}
+
+void frmMain::udmTimersEnabled(bool booTrueFalse) {
+  for (Control& control : Controls()) {
+    if (control.State().kind == ControlKind::kTimer) {
+      control.SetEnabled(booTrueFalse && control.Tag() == "ON");
+    }
+  }
+}
+
+void frmMain::ShowTargetWindow(const std::string& title, const std::string& className) {
+  Find("txtWindow").SetText(title);
+  Find("txtWindowClass").SetText(className);
+}
+
+void frmMain::EnablePreviousWindowItems(bool enabled) {
+  Menu("mnuWindowPreviousWindowAlwaysOnTop").enabled = enabled;
+  Menu("mnuWindowParentList", 0).enabled = enabled;
+  Menu("mnuWindowAddToList", 2).enabled = enabled;
+}
+
+void frmMain::CheckAlwaysOnTop(bool checked) { Menu("mnuWindowAlwaysOnTop").checked = checked; }
+
+void frmMain::CheckPreviousWindowAlwaysOnTop(bool checked) {
+  Menu("mnuWindowPreviousWindowAlwaysOnTop").checked = checked;
+}
+
+bool frmMain::HasTagCaption(std::int16_t tag) {
+  const MenuItem* item = Menus().Find("mnuWindowParentList", tag);
+  return item != nullptr && item->caption.starts_with('&');
+}
+
+void frmMain::mnuWindowParentList_Click(std::int16_t Index) {
+  windowMenu_.mnuWindowParentList_Click(Index);
+}
+
+void frmMain::PopUpWindowMenu() { platform_->host.TrackPopupMenuEx(Handle(), Menu("mnuWindow")); }
+
+void frmMain::SetWindowMenuTag(const std::string& tag) { Menu("mnuWindow").tag = tag; }
+
+void frmMain::ShowTip(std::int32_t number, const std::string& text, const std::string& title,
+                      std::int16_t height) {
+  tips_.ShowTip(static_cast<TipNumber>(number), text, title, height, {},
+                IsLoaded() ? this : nullptr);
+}
+
+void frmMain::ShowWaitWindow(const std::string& caption, const std::string& text,
+                             std::uint32_t milliseconds) {
+  waitForm_.ShowWaitWindow(caption, text, milliseconds);
+}
+
+void frmMain::ShowAddWindow(AddWindowMode mode) {
+  addWindowMode_ = mode;
+  addWindow_.Load();
+  addWindow_.PrepareForWindowMenu(parts_.identity.productName);
+  parts_.display.ShowFormModal(addWindow_, {}, kForegroundPatience, {}, this);
+}
+
+}  // namespace korvale

@@ -1,0 +1,103 @@
+#include "forms/main_form_design.h"
+
+#include <array>
+
+#include "app/core/startup_settings.h"
+
+namespace korvale {
+
+namespace {
+
+constexpr std::uint32_t kTrackingInterval = 100;
+static_assert(kTrackingInterval >= 10);
+
+constexpr auto kControls = std::to_array<ControlRow>({
+    {ControlKind::kTextBox,
+     "txtWindow",
+     -1,
+     "",
+     " Target Window ",
+     {45, 45, 2600, kFieldHeight},
+     "",
+     -1,
+     kReadOnly,
+     kDefaultTargetColor,
+     kWindowTextColor},
+    {ControlKind::kTextBox,
+     "txtWindowClass",
+     -1,
+     "",
+     " Class of Target Window ",
+     {2690, 45, 1600, kFieldHeight},
+     "",
+     -1,
+     kReadOnly,
+     kDefaultClassColor,
+     kWindowTextColor},
+    {ControlKind::kTimer, "tmrWindow", -1, "", "", {}, "", -1, kDisabled},
+});
+
+constexpr auto kMenus = std::to_array<MenuRow>({
+    {0, "mnuFile", -1, "&File"},
+    {1, "mnuFileExit", -1, "E&xit"},
+    {0, "mnuView", -1, "&View"},
+    {1, "mnuViewMenu", -1, "&Menu"},
+    {1, "mnuViewWindowInfo", -1, "&Target Window"},
+    {1, "mnuViewSpace10", -1, "-"},
+    {1, "mnuViewDefaultSettings", -1, "&Default Settings"},
+    {2, "mnuViewDefaultSettingsWindowInfoColor", -1, "&Target Window/Class Colors"},
+    {1, "mnuViewSpace20", -1, "-"},
+    {1, "mnuViewOptions", -1, "O&ptions..."},
+    {0, "mnuTools", -1, "&Tools"},
+    {1, "mnuToolsToggleHotKeys", -1, "Deactivate &Hot Keys"},
+    {1, "mnuToolsOptions", -1, "&Options..."},
+    {0, "mnuWindow", -1, "&Window"},
+    {1, "mnuWindowAlwaysOnTop", -1, ""},
+    {1, "mnuWindowPreviousWindowAlwaysOnTop", -1, ""},
+    {1, "mnuWindowSpace20", -1, "-"},
+    {1, "mnuWindowMinimizeAll", -1, "&Minimize All"},
+    {1, "mnuWindowRestoreAll", -1, "&Restore All"},
+    {1, "mnuWindowSpace30", -1, "-"},
+    {1, "mnuWindowParentList", 0, "&0  Previous Window"},
+    {1, "mnuWindowChildList", -1, ""},
+    {1, "mnuWindowSpace40", -1, "-"},
+    {1, "mnuWindowAddToList", 1, ""},
+    {1, "mnuWindowAddToList", 2, ""},
+    {0, "mnuHelp", -1, "&Help"},
+    {1, "mnuHelpDisplayTips", -1, "&Display Tip Messages"},
+    {1, "mnuHelpSpace10", -1, "-"},
+    {1, "mnuHelpHomePage", -1, ""},
+    {1, "mnuHelpSpace20", -1, "-"},
+    {1, "mnuHelpAbout", -1, ""},
+});
+
+}  // namespace
+
+FormDesign MainFormDesign() {
+  FormDesign design{"frmMain", "", {3000, 1500, 4500, 1100}};
+  design.border = BorderStyle::kSizable;
+  design.minimizeBox = true;
+  design.maximizeBox = true;
+  design.modalFrame = false;
+  design.inTaskbar = true;
+  design.exactHeight = true;
+  design.controls = kControls;
+  design.menu = kMenus;
+  return design;
+}
+
+std::string AlwaysOnTopCaption(const std::string& applicationName) {
+  return applicationName + "  Always &On Top";
+}
+
+std::string AddThisWindowCaption(const std::string& applicationName) {
+  return "Add  " + applicationName + "  to Window men&u...";
+}
+
+std::string AboutCaption(const std::string& applicationName) { return "&About " + applicationName; }
+
+std::string HomePageCaption(const std::string& applicationName) {
+  return "web:  " + applicationName + " Home &Page";
+}
+
+}  // namespace korvale

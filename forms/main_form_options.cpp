@@ -1,0 +1,37 @@
+#include "forms/main_form.h"
+
+namespace korvale {
+
+void frmMain::udmOptions(const std::string& strMode) {
+  clsOptions& record = parts_.options.Get();
+  if (strMode == "UPDATE_OPTIONS") {
+    optionsForm_.UpdateInto(record);
+    return;
+  }
+  if (strMode != "LOAD_AND_OR_REFRESH") {
+    return;
+  }
+  if (!optionsForm_.IsLoaded()) {
+    optionsForm_.Load();
+    optionsForm_.SetCaption(parts_.identity.productName + " - Options");
+    openOptions_ = &optionsForm_;
+  }
+  optionsForm_.LoadFrom(record);
+  parts_.display.ShowFormNonModal(optionsForm_, {}, this);
+}
+
+void frmMain::BringOptionsToFront() { parts_.display.ShowFormNonModal(*openOptions_, {}, this); }
+
+std::optional<Color> frmMain::udmShowColorPalette(Color initial) {
+  Form* owner = Collection().TopModal();
+  if (owner == nullptr) {
+    owner = openOptions_ != nullptr ? static_cast<Form*>(openOptions_) : this;
+  }
+  const std::optional<Color> chosen = platform_->host.ChooseColorW(owner->Handle(), initial);
+  if (chosen) {
+    parts_.startup.LastColorSelected = *chosen;
+  }
+  return chosen;
+}
+
+}  // namespace korvale

@@ -1,0 +1,155 @@
+#include <algorithm>
+
+#include "forms/main_form.h"
+#include "forms/main_form_design.h"
+#include "platform/win32_constants.h"
+#include "util/forms.h"
+
+namespace korvale {
+
+namespace {
+
+constexpr Twips kMargin = 45;
+/// The title needs more room than the class: three fifths of the width.
+constexpr int kTitleShare = 3;
+constexpr int kShares = 5;
+
+std::int16_t AsStored(Twips length) {
+  return static_cast<std::int16_t>(std::clamp<Twips>(length, INT16_MIN, INT16_MAX));
+}
+
+}  // namespace
+
+Twips frmMain::HeightForContent() const {
+  Twips height = kClassicFrameHeight;
+  if (parts_.startup.Menu) {
+    height += kClassicMenuHeight;
+  }
+  if (parts_.startup.WindowInfo) {
+    height += Find("txtWindow").Place().height + kRoomAroundFields;
+  }
+  return height;
+}
+
+void frmMain::Form_Resize() {
+  if (!parts_.state.startUpFinished || WindowState() == ShowState::kMinimized) {
+    return;
+  }
+  if (parts_.startup.AlwaysOnTop) {
+    parts_.actions.SetTopmost(Handle(), true);
+  }
+  LayOutFields();
+  TwipsRect place = Place();
+  place.height = HeightForContent();
+  place.width = std::max(place.width, kMinimumWidth);
+  if (place != Place()) {
+    SetPlace(place);
+  }
+  RememberPlace();
+}
+
+void frmMain::LayOutFields() {
+  const TwipsRect frame = Collection().Host().AdjustWindowRectEx(State());
+  Control& title = Find("txtWindow");
+  Control& className = Find("txtWindowClass");
+  const Twips classic = kClassicFrameHeight + (parts_.startup.Menu ? kClassicMenuHeight : 0);
+  // The window's height is fixed; where frame and menu are higher than the classic ones, higher
+  // fields make the window higher too, so that their text stays whole.
+  const Twips height = kFieldHeight + std::max<Twips>(0, frame.height - classic);
+  const Twips width = std::max(Place().width, kMinimumWidth) - frame.width - 3 * kMargin;
+  const Twips titleWidth = width * kTitleShare / kShares;
+  title.SetVisible(parts_.startup.WindowInfo);
+  className.SetVisible(parts_.startup.WindowInfo);
+  title.SetPlace({kMargin, kMargin, titleWidth, height});
+  className.SetPlace({2 * kMargin + titleWidth, kMargin, width - titleWidth, height});
+}
+
+void frmMain::RememberPlace() {
+  StartupSettings& startup = parts_.startup;
+  startup.WindowState = static_cast<std::int32_t>(WindowState());
+  if (WindowState() == ShowState::kNormal) {
+    startup.Left = AsStored(Place().left);
+    startup.Top = AsStored(Place().top);
+    startup.Width = AsStored(Place().width);
+    startup.Height = AsStored(Place().height);
+  }
+}
+
+void frmMain::ApplyPlacement() {
+  const StartupSettings& startup = parts_.startup;
+  TwipsRect place = Place();
+  if (startup.Left != -1) {
+    place.left = startup.Left;
+  }
+  if (startup.Top != -1) {
+    place.top = startup.Top;
+  }
+  place.width = std::max<Twips>(startup.Width, kMinimumWidth);
+  place.height = startup.Height;
+  SetPlace(place);
+  SetWindowState(static_cast<ShowState>(startup.WindowState));
+}
+
+void frmMain::ApplyColors() {
+  Find("txtWindow").SetBackColor(parts_.startup.WI1BackColor);
+  Find("txtWindowClass").SetBackColor(parts_.startup.WI2BackColor);
+}
+
+void frmMain::mnuViewMenu_Click() {
+  StartupSettings& startup = parts_.startup;
+  if (startup.Menu) {
+    const std::int16_t answer = parts_.messages.ShowMessageBox(
+        "CAUTION:  This will hide the menu.  The only way of accessing the hidden menu is by "
+        "(Alt+V), (Alt+T), (Alt+W) or (Alt+H).",
+        win32::kMbOkCancel | win32::kMbDefButton2, parts_.identity.messageTitle);
+    if (answer != win32::kIdOk) {
+      RefreshMenus("mnu");
+      return;
+    }
+  }
+  startup.Menu = !startup.Menu;
+  RefreshMenus("mnu");
+  Form_Resize();
+}
+
+void frmMain::mnuViewWindowInfo_Click() {
+  parts_.startup.WindowInfo = !parts_.startup.WindowInfo;
+  RefreshMenus("mnu");
+  Form_Resize();
+}
+
+void frmMain::mnuViewDefaultSettingsWindowInfoColor_Click() {
+  parts_.startup.WI1BackColor = kDefaultTargetColor;
+  parts_.startup.WI2BackColor = kDefaultClassColor;
+  ApplyColors();
+  RefreshMenus("mnu");
+}
+
+void frmMain::CloseAbout() {
+  if (about_.IsLoaded()) {
+    about_.CloseAbout();
+  }
+}
+
+void frmMain::Form_KeyDown(int& key, unsigned shift) {
+  CloseAbout();
+  const bool alt = shift == kAlt;
+  if (alt && key == win32::kVkF4) {
+    key = 0;
+    mnuFileExit_Click();
+    return;
+  }
+  if (alt && !parts_.startup.Menu && (key == 'H' || key == 'W' || key == 'T' || key == 'V')) {
+    RefreshMenus("Form_KeyDown");
+  }
+}
+
+void frmMain::Form_MouseMove(const MouseInput&) { CloseAbout(); }
+
+void frmMain::Control_Mouse(Control&, const MouseInput& input) {
+  if (input.event == MouseEvent::kMove) {
+    CloseAbout();
+  }
+}
+
+}  // namespace korvale
