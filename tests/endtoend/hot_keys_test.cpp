@@ -74,5 +74,18 @@ TEST_F(HotKeys, OpenTheOptionsDialog) {
   EXPECT_EQ(options.Title(), "Korvale - Options");
 }
 
+TEST_F(HotKeys, BringTheOpenOptionsDialogForward) {
+  Start();
+  Press(kOptionsKey);
+  const Window options = korvale_->Form("frmOptions");
+  ASSERT_TRUE(options);
+  ASSERT_TRUE(InFront(options));
+  const Window alpha = Open("Alpha");
+  ASSERT_TRUE(WorkIn(alpha));
+  Press(kOptionsKey);
+  EXPECT_TRUE(InFront(options));
+  EXPECT_FALSE(korvale_->HasMessageBox());
+}
+
 }  // namespace
 }  // namespace korvale::endtoend

@@ -109,6 +109,32 @@ TEST_F(PreviousWindow, IsNeverAWindowWithAModalFrame) {
   EXPECT_TRUE(InFront(alpha_));
 }
 
+TEST_F(PreviousWindow, IsNeverASystemModalWindow) {
+  Start();
+  OpenAlphaAndBeta();
+  VisitAndReturnToBeta(Open({.title = "Urgent", .style = WS_OVERLAPPEDWINDOW | DS_SYSMODAL}));
+  Press(TagKey(0));
+  EXPECT_TRUE(InFront(alpha_));
+}
+
+TEST_F(PreviousWindow, IsNeverAnUntitledStaticWindowWhateverTheOptions) {
+  installation_.SetOption("AllowNoTextWindow", "True");
+  Start();
+  OpenAlphaAndBeta();
+  VisitAndReturnToBeta(Open({.title = "", .class_name = "Static"}));
+  Press(TagKey(0));
+  EXPECT_TRUE(InFront(alpha_));
+}
+
+TEST_F(PreviousWindow, IsAnyWindowThatIsOnlyTitledLikeTheDesktop) {
+  Start();
+  const Window titled = Open("Program Manager");
+  ASSERT_TRUE(WorkIn(titled));
+  ASSERT_TRUE(WorkIn(Open("Beta")));
+  Press(TagKey(0));
+  EXPECT_TRUE(InFront(titled));
+}
+
 TEST_F(PreviousWindow, IsAToolWindowThatTheUserTagged) {
   installation_.StoreTag(1, "Tool", "Test.Window");
   Start();
