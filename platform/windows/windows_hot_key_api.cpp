@@ -1,0 +1,93 @@
+#include "platform/windows/windows_hot_key_api.h"
+
+#include <windows.h>
+
+#include "platform/windows/handles.h"
+
+namespace korvale {
+
+struct WindowsHotKeyApi::Hook : std::enable_shared_from_this<Hook> {
+  WindowProcedure* procedure = nullptr;
+  WNDPROC previous = nullptr;
+  bool passedOn = false;  // The message being handled has reached `previous`.
+};
+
+namespace {
+
+constexpr const wchar_t* kHookProperty = L"Korvale.WindowProcedure";
+
+LRESULT PassOn(WNDPROC previous, HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (previous == nullptr) return DefWindowProcA(hwnd, message, wParam, lParam);
+  return CallWindowProcA(previous, hwnd, message, wParam, lParam);
+}
+
+LRESULT CALLBACK CallHook(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+  auto* found = static_cast<WindowsHotKeyApi::Hook*>(GetPropW(hwnd, kHookProperty));
+  if (found == nullptr) return DefWindowProcA(hwnd, message, wParam, lParam);
+  const std::shared_ptr<WindowsHotKeyApi::Hook> hook = found->shared_from_this();
+  if (message == WM_NCDESTROY) RemovePropW(hwnd, kHookProperty);
+  const bool outer = std::exchange(hook->passedOn, false);
+  LRESULT result = 0;
+  try {
+    result = hook->procedure->Call(ToWindowHandle(hwnd), message, wParam, lParam);
+  } catch (...) {
+    hook->procedure->OnUncaught();
+    if (!hook->passedOn) result = PassOn(hook->previous, hwnd, message, wParam, lParam);
+  }
+  hook->passedOn = outer;
+  return result;
+}
+
+}  // namespace
+
+WindowsHotKeyApi::WindowsHotKeyApi() = default;
+
+WindowsHotKeyApi::~WindowsHotKeyApi() {
+  while (!hooks_.empty()) {
+    const auto [hwnd, hook] = *hooks_.begin();
+    SetWindowLongPtrA(hwnd, reinterpret_cast<PreviousProcedure>(hook->previous));
+  }
+}
+
+bool WindowsHotKeyApi::RegisterHotKey(WindowHandle hwnd, int id, std::uint32_t modifiers,
+                                      std::uint32_t key) {
+  return ::RegisterHotKey(ToHwnd(hwnd), id, modifiers, key) != FALSE;
+}
+
+bool WindowsHotKeyApi::UnregisterHotKey(WindowHandle hwnd, int id) {
+  return ::UnregisterHotKey(ToHwnd(hwnd), id) != FALSE;
+}
+
+PreviousProcedure WindowsHotKeyApi::SetWindowLongPtrA(WindowHandle hwnd,
+                                                      WindowProcedure& procedure) {
+  std::shared_ptr<Hook>& hook = hooks_[hwnd];
+  if (!hook || GetPropW(ToHwnd(hwnd), kHookProperty) != hook.get()) {
+    hook = std::make_shared<Hook>();
+    SetPropW(ToHwnd(hwnd), kHookProperty, hook.get());
+    hook->procedure = &procedure;
+    hook->previous = reinterpret_cast<WNDPROC>(
+        ::SetWindowLongPtrA(ToHwnd(hwnd), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(CallHook)));
+  }
+  hook->procedure = &procedure;
+  return reinterpret_cast<PreviousProcedure>(hook->previous);
+}
+
+void WindowsHotKeyApi::SetWindowLongPtrA(WindowHandle hwnd, PreviousProcedure previous) {
+  const auto found = hooks_.find(hwnd);
+  if (found == hooks_.end()) return;
+  if (GetPropW(ToHwnd(hwnd), kHookProperty) == found->second.get()) {
+    ::SetWindowLongPtrA(ToHwnd(hwnd), GWLP_WNDPROC, previous);
+    RemovePropW(ToHwnd(hwnd), kHookProperty);
+  }
+  hooks_.erase(found);
+}
+
+std::intptr_t WindowsHotKeyApi::CallWindowProcA(PreviousProcedure previous, WindowHandle hwnd,
+                                                std::uint32_t message, std::uintptr_t wParam,
+                                                std::intptr_t lParam) {
+  const auto found = hooks_.find(hwnd);
+  if (found != hooks_.end()) found->second->passedOn = true;
+  return PassOn(reinterpret_cast<WNDPROC>(previous), ToHwnd(hwnd), message, wParam, lParam);
+}
+
+}  // namespace korvale

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <map>
+#include <memory>
+
+#include "platform/hot_key_api.h"
+
+namespace korvale {
+
+/// Hot keys and the window procedure in front of a window through user32. One procedure at a time
+/// stands in front of a window; a second one takes the place of the first.
+class WindowsHotKeyApi final : public HotKeyApi {
+ public:
+  WindowsHotKeyApi();
+  ~WindowsHotKeyApi() override;
+
+  bool RegisterHotKey(WindowHandle hwnd, int id, std::uint32_t modifiers,
+                      std::uint32_t key) override;
+  bool UnregisterHotKey(WindowHandle hwnd, int id) override;
+  PreviousProcedure SetWindowLongPtrA(WindowHandle hwnd, WindowProcedure& procedure) override;
+  void SetWindowLongPtrA(WindowHandle hwnd, PreviousProcedure previous) override;
+  std::intptr_t CallWindowProcA(PreviousProcedure previous, WindowHandle hwnd,
+                                std::uint32_t message, std::uintptr_t wParam,
+                                std::intptr_t lParam) override;
+
+  struct Hook;
+
+ private:
+  std::map<WindowHandle, std::shared_ptr<Hook>> hooks_;
+};
+
+}  // namespace korvale

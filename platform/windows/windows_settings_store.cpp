@@ -1,0 +1,96 @@
+#include "platform/windows/windows_settings_store.h"
+
+#include <windows.h>
+
+#include "platform/windows/handles.h"
+#include "platform/windows/text.h"
+
+namespace korvale {
+namespace {
+
+constexpr const wchar_t* kBranch = L"Software\\VB and VBA Program Settings\\";
+constexpr std::size_t kLongestValueName = 16384;
+
+std::wstring SectionPath(const std::string& appName, const std::string& section) {
+  return kBranch + ToUtf16(appName) + L'\\' + ToUtf16(section);
+}
+
+UniqueKey OpenSection(const std::string& appName, const std::string& section, REGSAM access) {
+  UniqueKey key;
+  const std::wstring path = SectionPath(appName, section);
+  if (RegOpenKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, access, key.Receive()) != ERROR_SUCCESS) {
+    key.Release();
+  }
+  return key;
+}
+
+/// The text of a value; a value may be stored with or without its closing NUL.
+std::optional<std::string> ReadText(HKEY key, const wchar_t* name) {
+  for (std::size_t units = 256;; units *= 2) {
+    std::wstring text(units, L'\0');
+    DWORD type = 0;
+    auto size = static_cast<DWORD>(units * sizeof(wchar_t));
+    const LSTATUS status =
+        RegQueryValueExW(key, name, nullptr, &type, reinterpret_cast<BYTE*>(text.data()), &size);
+    if (status == ERROR_MORE_DATA) continue;
+    if (status != ERROR_SUCCESS || type != REG_SZ) return std::nullopt;
+    text.resize(size / sizeof(wchar_t));
+    while (!text.empty() && text.back() == L'\0') text.pop_back();
+    return ToUtf8(text);
+  }
+}
+
+}  // namespace
+
+std::optional<std::string> WindowsSettingsStore::GetSetting(const std::string& appName,
+                                                            const std::string& section,
+                                                            const std::string& key) {
+  const UniqueKey branch = OpenSection(appName, section, KEY_QUERY_VALUE);
+  if (!branch) return std::nullopt;
+  return ReadText(branch.Get(), ToUtf16(key).c_str());
+}
+
+SettingsStore::Pairs WindowsSettingsStore::GetAllSettings(const std::string& appName,
+                                                          const std::string& section) {
+  Pairs pairs;
+  const UniqueKey branch = OpenSection(appName, section, KEY_QUERY_VALUE);
+  if (!branch) return pairs;
+  std::wstring name(kLongestValueName, L'\0');
+  for (DWORD index = 0;; ++index) {
+    auto length = static_cast<DWORD>(name.size());
+    if (RegEnumValueW(branch.Get(), index, name.data(), &length, nullptr, nullptr, nullptr,
+                      nullptr) != ERROR_SUCCESS) {
+      return pairs;
+    }
+    if (auto text = ReadText(branch.Get(), name.c_str())) {
+      pairs.emplace_back(ToUtf8({name.data(), length}), *std::move(text));
+    }
+  }
+}
+
+bool WindowsSettingsStore::SaveSetting(const std::string& appName, const std::string& section,
+                                       const std::string& key, const std::string& value) {
+  UniqueKey branch;
+  const std::wstring path = SectionPath(appName, section);
+  if (RegCreateKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, nullptr, 0, KEY_SET_VALUE, nullptr,
+                      branch.Receive(), nullptr) != ERROR_SUCCESS) {
+    branch.Release();
+    return false;
+  }
+  const std::wstring text = ToUtf16(value);
+  const auto size = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
+  return RegSetValueExW(branch.Get(), ToUtf16(key).c_str(), 0, REG_SZ,
+                        reinterpret_cast<const BYTE*>(text.c_str()), size) == ERROR_SUCCESS;
+}
+
+bool WindowsSettingsStore::DeleteSetting(const std::string& appName, const std::string& section,
+                                         const std::string& key) {
+  const UniqueKey branch = OpenSection(appName, section, KEY_SET_VALUE);
+  return branch && RegDeleteValueW(branch.Get(), ToUtf16(key).c_str()) == ERROR_SUCCESS;
+}
+
+bool WindowsSettingsStore::DeleteSection(const std::string& appName, const std::string& section) {
+  return RegDeleteTreeW(HKEY_CURRENT_USER, SectionPath(appName, section).c_str()) == ERROR_SUCCESS;
+}
+
+}  // namespace korvale

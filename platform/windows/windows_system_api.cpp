@@ -1,0 +1,135 @@
+#include "platform/windows/windows_system_api.h"
+
+#include <windows.h>
+// After windows.h, which it needs.
+#include <shellapi.h>
+
+#include <vector>
+
+#include "platform/windows/command_line.h"
+#include "platform/windows/handles.h"
+#include "platform/windows/text.h"
+
+namespace korvale {
+namespace {
+
+class WindowsMutex final : public SystemMutex {
+ public:
+  explicit WindowsMutex(UniqueKernelHandle handle) : handle_(std::move(handle)) {}
+  ~WindowsMutex() override {
+    if (held_) ReleaseMutex(handle_.Get());
+  }
+  WindowsMutex(const WindowsMutex&) = delete;
+  WindowsMutex& operator=(const WindowsMutex&) = delete;
+
+  bool WaitForSingleObject(std::uint32_t milliseconds) override {
+    if (held_) return true;
+    const DWORD result = ::WaitForSingleObject(handle_.Get(), milliseconds);
+    held_ = result == WAIT_OBJECT_0 || result == WAIT_ABANDONED;
+    return held_;
+  }
+
+ private:
+  UniqueKernelHandle handle_;
+  bool held_ = false;
+};
+
+std::wstring ModuleFileName() {
+  for (DWORD units = MAX_PATH;; units *= 2) {
+    std::wstring path(units, L'\0');
+    const DWORD length = GetModuleFileNameW(nullptr, path.data(), units);
+    if (length < units) {
+      path.resize(length);
+      return path;
+    }
+  }
+}
+
+/// One string of the version resource, in the first language that it has.
+std::string VersionString(const std::vector<std::byte>& resource, const wchar_t* name) {
+  struct Translation {
+    WORD language;
+    WORD codePage;
+  };
+  void* value = nullptr;
+  UINT size = 0;
+  if (VerQueryValueW(resource.data(), L"\\VarFileInfo\\Translation", &value, &size) == FALSE ||
+      size < sizeof(Translation)) {
+    return "";
+  }
+  const auto* first = static_cast<const Translation*>(value);
+  wchar_t block[64];
+  wsprintfW(block, L"\\StringFileInfo\\%04x%04x\\%s", first->language, first->codePage, name);
+  if (VerQueryValueW(resource.data(), block, &value, &size) == FALSE) return "";
+  return ToUtf8(static_cast<const wchar_t*>(value));
+}
+
+}  // namespace
+
+std::string WindowsSystemApi::GetModuleFileNameA() { return ToUtf8(ModuleFileName()); }
+
+std::string WindowsSystemApi::GetCommandLineA() {
+  return ToUtf8(BehindProgramName(::GetCommandLineW()));
+}
+
+VersionInfo WindowsSystemApi::GetFileVersionInfoA() {
+  VersionInfo info;
+  const std::wstring path = ModuleFileName();
+  DWORD unused = 0;
+  std::vector<std::byte> resource(GetFileVersionInfoSizeW(path.c_str(), &unused));
+  if (resource.empty() || GetFileVersionInfoW(path.c_str(), 0, static_cast<DWORD>(resource.size()),
+                                              resource.data()) == FALSE) {
+    return info;
+  }
+  void* value = nullptr;
+  UINT size = 0;
+  if (VerQueryValueW(resource.data(), L"\\", &value, &size) != FALSE &&
+      size >= sizeof(VS_FIXEDFILEINFO)) {
+    const auto* fixed = static_cast<const VS_FIXEDFILEINFO*>(value);
+    info.major = HIWORD(fixed->dwFileVersionMS);
+    info.minor = LOWORD(fixed->dwFileVersionMS);
+    info.revision = HIWORD(fixed->dwFileVersionLS);
+  }
+  info.legalCopyright = VersionString(resource, L"LegalCopyright");
+  info.fileDescription = VersionString(resource, L"FileDescription");
+  return info;
+}
+
+OsVersion WindowsSystemApi::GetVersionExA(std::uint32_t structureSize) {
+  OSVERSIONINFOEXA version{};
+  if (structureSize > sizeof(version)) return {};
+  version.dwOSVersionInfoSize = structureSize;
+#if defined(_MSC_VER)
+#pragma warning(suppress : 4996)  // The platform family is all that is asked for.
+#endif
+  if (::GetVersionExA(reinterpret_cast<OSVERSIONINFOA*>(&version)) == FALSE) return {};
+  return {version.dwPlatformId, version.dwMajorVersion};
+}
+
+std::string WindowsSystemApi::GetWindowsDirectoryA(std::uint32_t bufferSize) {
+  std::wstring path(MAX_PATH, L'\0');
+  const UINT length = GetWindowsDirectoryW(path.data(), static_cast<UINT>(path.size()));
+  if (length == 0 || length >= path.size()) return "";
+  path.resize(length);
+  const std::string text = ToUtf8(path);
+  return text.size() < bufferSize ? text : "";
+}
+
+void WindowsSystemApi::ShellExecuteA(WindowHandle hwnd, const std::string& verb,
+                                     const std::string& file, int showCommand) {
+  ::ShellExecuteW(ToHwnd(hwnd), ToUtf16(verb).c_str(), ToUtf16(file).c_str(), nullptr, nullptr,
+                  showCommand);
+}
+
+bool WindowsSystemApi::FileExists(const std::string& path) {
+  const DWORD attributes = GetFileAttributesW(ToUtf16(path).c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+}
+
+std::unique_ptr<SystemMutex> WindowsSystemApi::CreateMutexA(const std::string& name) {
+  UniqueKernelHandle handle(::CreateMutexW(nullptr, FALSE, ToUtf16(name).c_str()));
+  if (!handle) return nullptr;
+  return std::make_unique<WindowsMutex>(std::move(handle));
+}
+
+}  // namespace korvale

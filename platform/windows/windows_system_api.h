@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/system_api.h"
+
+namespace korvale {
+
+/// The shell and the operating system through kernel32, shell32 and version. Texts are read with
+/// the Unicode calls and handed on as UTF-8.
+class WindowsSystemApi final : public SystemApi {
+ public:
+  std::string GetModuleFileNameA() override;
+  std::string GetCommandLineA() override;
+  VersionInfo GetFileVersionInfoA() override;
+  OsVersion GetVersionExA(std::uint32_t structureSize) override;
+  std::string GetWindowsDirectoryA(std::uint32_t bufferSize) override;
+  void ShellExecuteA(WindowHandle hwnd, const std::string& verb, const std::string& file,
+                     int showCommand) override;
+  bool FileExists(const std::string& path) override;
+  std::unique_ptr<SystemMutex> CreateMutexA(const std::string& name) override;
+};
+
+}  // namespace korvale
