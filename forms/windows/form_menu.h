@@ -1,0 +1,45 @@
+#pragma once
+
+#include <windows.h>
+
+#include <map>
+
+#include "platform/form_model.h"
+#include "platform/windows/handles.h"
+
+namespace korvale {
+
+/// The Windows menus of a form's menu model. A menu is filled from the model each time that it
+/// opens, so that it is shown as the model then stands.
+class FormMenu {
+ public:
+  explicit FormMenu(const FormState& form) : form_(&form) {}
+
+  /// True when the model has a menu bar to show.
+  bool BarWanted() const;
+  /// Makes the menu bar from the model and gives it to the window; null when none is wanted.
+  void ShowBar(HWND window);
+  /// Takes the menu bar from a window that goes.
+  void DropBar(HWND window);
+
+  /// A new pop-up menu, filled from the model.
+  UniqueMenu MakePopup(MenuItem& menu);
+  /// The model's entry of an opening menu; null when it is none of ours or has been removed.
+  MenuItem* Opening(HMENU menu) const;
+  /// Fills an opening menu again.
+  void Refill(HMENU menu, MenuItem& model);
+  /// The entry that was chosen; null when it has been removed.
+  MenuItem* Chosen(UINT command) const;
+
+ private:
+  UINT CommandOf(const MenuItem& item);
+  void Fill(HMENU menu, const MenuItem& model);
+  void Append(HMENU menu, MenuItem& item);
+
+  const FormState* form_;
+  UniqueMenu bar_;
+  std::map<const MenuItem*, UINT> commands_;
+  UINT nextCommand_ = 0;
+};
+
+}  // namespace korvale

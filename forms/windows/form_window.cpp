@@ -1,0 +1,252 @@
+#include "forms/windows/form_window.h"
+
+// After windows.h, which it needs.
+#include <commctrl.h>
+
+#include "forms/windows/control_window.h"
+#include "platform/windows/text.h"
+
+namespace korvale {
+
+DWORD FormStyle(const FormState& form) {
+  if (form.border == BorderStyle::kNone) return WS_POPUP;
+  DWORD style = WS_CAPTION | WS_SYSMENU;
+  if (form.border == BorderStyle::kSizable) style |= WS_THICKFRAME;
+  if (form.minimizeBox) style |= WS_MINIMIZEBOX;
+  if (form.maximizeBox) style |= WS_MAXIMIZEBOX;
+  if (form.modalFrame) style |= DS_MODALFRAME;
+  return style;
+}
+
+DWORD FormExStyle(const FormState& form) {
+  DWORD style = WS_EX_CONTROLPARENT;
+  if (form.modalFrame) style |= WS_EX_DLGMODALFRAME;
+  // An owned window has a place in the taskbar only when it asks for one.
+  if (form.inTaskbar) style |= WS_EX_APPWINDOW;
+  return style;
+}
+
+FormWindow::FormWindow(const FormState& form, WindowClasses& classes, BrushCache& brushes,
+                       const MousePointer& pointer)
+    : form_(&form),
+      classes_(&classes),
+      brushes_(&brushes),
+      pointer_(&pointer),
+      controls_(form, classes.Instance()),
+      menu_(form) {}
+
+FormWindow::~FormWindow() { Destroy(); }
+
+HWND FormWindow::Create(HWND owner, FormEvents& events) {
+  const std::wstring className = classes_->Register(form_->name, FormProcedure);
+  const std::wstring pageClass = classes_->Register("Page", PageProcedure);
+  const PixelPlace place = ToScreenPixels(form_->place, GetDpiForSystem());
+  hwnd_ = ::CreateWindowExW(FormExStyle(*form_), className.c_str(), ToUtf16(form_->caption).c_str(),
+                            FormStyle(*form_), place.left, place.top, place.width, place.height,
+                            owner, nullptr, classes_->Instance(), this);
+  if (hwnd_ == nullptr) return nullptr;
+  // Underlines of access keys and focus frames appear once the keyboard is used.
+  SendMessageW(hwnd_, WM_CHANGEUISTATE, MAKEWPARAM(UIS_INITIALIZE, 0), 0);
+  controls_.Create(hwnd_, pageClass);
+  for (const ControlState& control : form_->controls) {
+    Watch(controls_.Window(control.id), control.id);
+  }
+  keys_.emplace(hwnd_, events_, controls_);
+  ShowMenuBar();
+  ShowPlace();
+  events_.Connect(events);
+  return hwnd_;
+}
+
+void FormWindow::Destroy() {
+  events_.Disconnect();
+  controls_.Drop();
+  if (hwnd_ != nullptr) ::DestroyWindow(hwnd_);
+}
+
+void FormWindow::Watch(HWND control, int id) {
+  if (control == nullptr) return;
+  const auto form = reinterpret_cast<DWORD_PTR>(this);
+  SetWindowSubclass(control, ControlProcedure, static_cast<UINT_PTR>(id), form);
+  Watch(FindWindowExW(control, nullptr, WC_EDITW, nullptr), id);
+}
+
+void FormWindow::ShowCaption() { ::SetWindowTextW(hwnd_, ToUtf16(form_->caption).c_str()); }
+
+void FormWindow::ShowPlace() {
+  const PixelPlace place = ToScreenPixels(form_->place, GetDpiForWindow(hwnd_));
+  placing_ = true;
+  ::MoveWindow(hwnd_, place.left, place.top, place.width, place.height, TRUE);
+  placing_ = false;
+  TellPlaced();
+}
+
+void FormWindow::ShowMenuBar() {
+  barOutdated_ = menuOpen_;  // A menu must not change under the user.
+  if (!menuOpen_) menu_.ShowBar(hwnd_);
+}
+
+void FormWindow::Show(int command) {
+  // A window that comes up under the mouse is no movement of the mouse.
+  GetCursorPos(&lastMouse_);
+  ::ShowWindow(hwnd_, command);
+}
+
+void FormWindow::SetFocus(int control) {
+  if (GetActiveWindow() != hwnd_ || IsIconic(hwnd_) != FALSE) return;
+  ::SetFocus(control == 0 ? hwnd_ : controls_.Window(control));
+}
+
+void FormWindow::TrackPopup(MenuItem& menu) {
+  const UniqueMenu popup = menu_.MakePopup(menu);
+  POINT at{};
+  GetCursorPos(&at);
+  const BOOL command = ::TrackPopupMenuEx(popup.Get(), TPM_RETURNCMD, at.x, at.y, hwnd_, nullptr);
+  MenuItem* const chosen = menu_.Chosen(static_cast<UINT>(command));
+  if (chosen != nullptr) events_.Tell([&](FormEvents& events) { events.OnMenuClicked(*chosen); });
+}
+
+bool FormWindow::Filter(const MSG& message) {
+  controls_.Tips().Relay(message);
+  return keys_->Filter(message);
+}
+
+LRESULT CALLBACK FormWindow::FormProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_NCCREATE) {
+    const auto* creation = reinterpret_cast<const CREATESTRUCTW*>(lParam);
+    auto* const created = static_cast<FormWindow*>(creation->lpCreateParams);
+    created->hwnd_ = hwnd;
+    SetWindowLongPtrW(hwnd, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(created));
+  }
+  auto* const form = reinterpret_cast<FormWindow*>(GetWindowLongPtrW(hwnd, GWLP_USERDATA));
+  if (form == nullptr) return DefWindowProcW(hwnd, message, wParam, lParam);
+  // A handler may destroy the form.
+  const std::shared_ptr<FormWindow> alive = form->shared_from_this();
+  const LRESULT result = form->Process(message, wParam, lParam);
+  if (message == WM_NCDESTROY) {
+    SetWindowLongPtrW(hwnd, GWLP_USERDATA, 0);
+    form->hwnd_ = nullptr;
+  }
+  return result;
+}
+
+LRESULT FormWindow::Process(UINT message, WPARAM wParam, LPARAM lParam) {
+  const HWND hwnd = hwnd_;
+  if (const auto result = HandleFromControls(message, wParam, lParam)) return *result;
+  if (const auto result = HandleMenu(message, wParam, lParam)) return *result;
+  if (const auto result = HandleEnd(message, wParam)) return *result;
+  if (const auto result = HandleMouse(message, wParam, lParam)) return *result;
+  const LRESULT result = DefWindowProcW(hwnd, message, wParam, lParam);
+  switch (message) {
+    case WM_ACTIVATE:
+      if (LOWORD(wParam) != WA_INACTIVE) {
+        events_.Tell([](FormEvents& events) { events.OnActivated(); });
+      }
+      break;
+    case WM_WINDOWPOSCHANGED:
+      TellPlaced();
+      break;
+    case WM_GETMINMAXINFO:
+      // The form itself decides how small it may be.
+      reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {};
+      break;
+    case WM_TIMER:
+      events_.Tell([&](FormEvents& events) { events.OnTimer(static_cast<int>(wParam)); });
+      break;
+    case WM_DPICHANGED:
+      OnDpiChanged(*reinterpret_cast<const RECT*>(lParam));
+      break;
+    case WM_SYSCOLORCHANGE:
+      brushes_->Clear();
+      break;
+    default:
+      break;
+  }
+  return result;
+}
+
+std::optional<LRESULT> FormWindow::HandleEnd(UINT message, WPARAM wParam) {
+  switch (message) {
+    case WM_CLOSE:
+      events_.Tell([](FormEvents& events) { events.OnCloseRequested(CloseReason::kUser); });
+      return 0;
+    case WM_QUERYENDSESSION:
+      return TRUE;
+    case WM_ENDSESSION:
+      if (wParam != FALSE && form_->inTaskbar) {
+        events_.Tell([](FormEvents& events) { events.OnCloseRequested(CloseReason::kSession); });
+      }
+      return 0;
+    case WM_DESTROY:
+      events_.Disconnect();
+      menu_.DropBar(hwnd_);
+      controls_.Drop();
+      return 0;
+    default:
+      return std::nullopt;
+  }
+}
+
+std::optional<LRESULT> FormWindow::HandleMenu(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_INITMENUPOPUP: {
+      const auto opening = reinterpret_cast<HMENU>(wParam);
+      MenuItem* const menu = HIWORD(lParam) == FALSE ? menu_.Opening(opening) : nullptr;
+      if (menu == nullptr) return std::nullopt;
+      events_.Tell([&](FormEvents& events) { events.OnMenuOpened(*menu); });
+      if (events_.Connected() && menu_.Opening(opening) == menu) menu_.Refill(opening, *menu);
+      return 0;
+    }
+    case WM_ENTERMENULOOP:
+      menuOpen_ = true;
+      return std::nullopt;
+    case WM_EXITMENULOOP:
+      menuOpen_ = false;
+      if (barOutdated_) ShowMenuBar();
+      return std::nullopt;
+    default:
+      return std::nullopt;
+  }
+}
+
+std::optional<LRESULT> FormWindow::HandleMouse(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_SETCURSOR && LOWORD(lParam) == HTCLIENT &&
+      *pointer_ != MousePointer::kDefault) {
+    ::SetCursor(LoadPointer(classes_->Instance(), *pointer_));
+    return TRUE;
+  }
+  if (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) {
+    TellMouse(0, hwnd_, message, wParam, lParam);
+  }
+  return std::nullopt;
+}
+
+void FormWindow::TellPlaced() {
+  if (placing_ || !events_.Connected()) return;
+  ShowState state = ShowState::kNormal;
+  if (IsIconic(hwnd_) != FALSE) state = ShowState::kMinimized;
+  if (IsZoomed(hwnd_) != FALSE) state = ShowState::kMaximized;
+  const UINT dpi = GetDpiForWindow(hwnd_);
+  TwipsRect place = form_->place;
+  const PixelPlace wanted = ToScreenPixels(place, dpi);
+  PixelPlace actual = wanted;
+  if (state != ShowState::kMinimized) {
+    RECT rect{};
+    GetWindowRect(hwnd_, &rect);
+    actual = {rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top};
+    if (actual != wanted) place = ToScreenTwips(rect, dpi);
+  }
+  if (actual == wanted) refused_.reset();
+  const bool known = actual == wanted || refused_ == actual;
+  if (known && state == form_->windowState) return;
+  if (actual != wanted) refused_ = actual;
+  events_.Tell([&](FormEvents& events) { events.OnPlaced(state, place); });
+}
+
+void FormWindow::OnDpiChanged(const RECT& place) {
+  controls_.ChangeDpi();
+  SetWindowPos(hwnd_, nullptr, place.left, place.top, place.right - place.left,
+               place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+}  // namespace korvale

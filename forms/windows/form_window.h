@@ -1,0 +1,92 @@
+#pragma once
+
+#include <windows.h>
+
+#include <memory>
+#include <optional>
+
+#include "forms/windows/brush_cache.h"
+#include "forms/windows/event_sink.h"
+#include "forms/windows/form_controls.h"
+#include "forms/windows/form_menu.h"
+#include "forms/windows/key_filter.h"
+#include "forms/windows/window_classes.h"
+#include "platform/form_host.h"
+
+namespace korvale {
+
+/// The window of one form, with its controls and menus. Lives on while its window procedure runs.
+class FormWindow : public std::enable_shared_from_this<FormWindow> {
+ public:
+  /// `pointer` is the live mouse pointer over all forms.
+  FormWindow(const FormState& form, WindowClasses& classes, BrushCache& brushes,
+             const MousePointer& pointer);
+  ~FormWindow();
+  FormWindow(const FormWindow&) = delete;
+  FormWindow& operator=(const FormWindow&) = delete;
+
+  /// Makes the hidden window; 0 when Windows refused. Events are told from the return on.
+  HWND Create(HWND owner, FormEvents& events);
+  /// Destroys the window; no event is told any more.
+  void Destroy();
+
+  HWND Handle() const { return hwnd_; }
+  const FormState& Model() const { return *form_; }
+  FormControls& Controls() { return controls_; }
+
+  void ShowCaption();
+  void ShowPlace();
+  void ShowMenuBar();
+  void Show(int command);
+  void SetFocus(int control);
+  void TrackPopup(MenuItem& menu);
+  /// Sees each message of the form's windows first; true when it shall not be dispatched.
+  bool Filter(const MSG& message);
+
+ private:
+  static LRESULT CALLBACK FormProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+  static LRESULT CALLBACK PageProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+  static LRESULT CALLBACK ControlProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam,
+                                           UINT_PTR id, DWORD_PTR form);
+
+  LRESULT Process(UINT message, WPARAM wParam, LPARAM lParam);
+  /// Messages that controls and pages send; nothing for others.
+  std::optional<LRESULT> HandleFromControls(UINT message, WPARAM wParam, LPARAM lParam);
+  std::optional<LRESULT> HandleMenu(UINT message, WPARAM wParam, LPARAM lParam);
+  std::optional<LRESULT> HandleEnd(UINT message, WPARAM wParam);
+  std::optional<LRESULT> HandleMouse(UINT message, WPARAM wParam, LPARAM lParam);
+  void OnCommand(WPARAM wParam, LPARAM lParam);
+  void OnNotify(const NMHDR& notification);
+  void OnControl(int control, UINT notification);
+  void OnCombo(int control, UINT notification);
+  std::optional<LRESULT> ControlColors(HDC dc, HWND window);
+  void TellMouse(int control, HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  void ClickPicture(int control);
+  void TellTyped(int control);
+  void TellListPicked(int control);
+  void TellPlaced();
+  void OnDpiChanged(const RECT& place);
+  void Watch(HWND control, int id);
+
+  const FormState* form_;
+  WindowClasses* classes_;
+  BrushCache* brushes_;
+  const MousePointer* pointer_;
+  EventSink events_;
+  FormControls controls_;
+  FormMenu menu_;
+  std::optional<KeyFilter> keys_;
+  HWND hwnd_ = nullptr;
+  int pressed_ = 0;                    // The label or image that the mouse button went down on.
+  POINT lastMouse_{};                  // Where the mouse was last told to be, on the screen.
+  bool placing_ = false;               // The window is being placed by the model.
+  std::optional<PixelPlace> refused_;  // Where Windows put it instead of where the model wanted.
+  bool menuOpen_ = false;              // The user is in the menus.
+  bool barOutdated_ = false;           // The menu bar changed meanwhile.
+};
+
+/// The style bits and extended style bits of the form's window.
+DWORD FormStyle(const FormState& form);
+DWORD FormExStyle(const FormState& form);
+
+}  // namespace korvale

@@ -1,0 +1,219 @@
+#include <windows.h>
+// After windows.h, which they need.
+#include <commctrl.h>
+#include <windowsx.h>
+
+#include "forms/windows/control_content.h"
+#include "forms/windows/control_window.h"
+#include "forms/windows/form_window.h"
+
+namespace korvale {
+namespace {
+
+/// Posted when a list has closed: Esc may have brought the former choice back without a word.
+constexpr UINT kListClosed = WM_APP;
+
+MouseButton HeldButton(WPARAM keys) {
+  if ((keys & MK_LBUTTON) != 0) return MouseButton::kLeft;
+  if ((keys & MK_RBUTTON) != 0) return MouseButton::kRight;
+  return (keys & MK_MBUTTON) != 0 ? MouseButton::kMiddle : MouseButton::kNone;
+}
+
+/// What a mouse message means; false for messages that are not told.
+bool ReadMouseMessage(UINT message, WPARAM keys, MouseInput& input) {
+  switch (message) {
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+      input = {MouseEvent::kDown, MouseButton::kLeft};
+      return true;
+    case WM_RBUTTONDOWN:
+    case WM_RBUTTONDBLCLK:
+      input = {MouseEvent::kDown, MouseButton::kRight};
+      return true;
+    case WM_MBUTTONDOWN:
+    case WM_MBUTTONDBLCLK:
+      input = {MouseEvent::kDown, MouseButton::kMiddle};
+      return true;
+    case WM_LBUTTONUP:
+      input = {MouseEvent::kUp, MouseButton::kLeft};
+      return true;
+    case WM_RBUTTONUP:
+      input = {MouseEvent::kUp, MouseButton::kRight};
+      return true;
+    case WM_MBUTTONUP:
+      input = {MouseEvent::kUp, MouseButton::kMiddle};
+      return true;
+    case WM_MOUSEMOVE:
+      input = {MouseEvent::kMove, HeldButton(keys)};
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool IsDefaultColored(const ControlState& control) {
+  return control.backColor == kButtonFaceColor && control.foreColor == kButtonTextColor;
+}
+
+}  // namespace
+
+LRESULT CALLBACK FormWindow::PageProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_COMMAND:
+    case WM_NOTIFY:
+    case WM_CTLCOLORSTATIC:
+    case WM_CTLCOLOREDIT:
+    case WM_CTLCOLORBTN:
+      return SendMessageW(GetParent(hwnd), message, wParam, lParam);
+    case WM_ERASEBKGND: {
+      RECT area;
+      GetClientRect(hwnd, &area);
+      const LRESULT brush =
+          SendMessageW(GetParent(hwnd), WM_CTLCOLORSTATIC, wParam, reinterpret_cast<LPARAM>(hwnd));
+      FillRect(reinterpret_cast<HDC>(wParam), &area, reinterpret_cast<HBRUSH>(brush));
+      return TRUE;
+    }
+    default:
+      return DefWindowProcW(hwnd, message, wParam, lParam);
+  }
+}
+
+LRESULT CALLBACK FormWindow::ControlProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam,
+                                              UINT_PTR id, DWORD_PTR form) {
+  const auto alive = reinterpret_cast<FormWindow*>(form)->shared_from_this();
+  const int control = static_cast<int>(id);
+  if (message == WM_NCDESTROY) {
+    RemoveWindowSubclass(hwnd, ControlProcedure, id);
+  } else if (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) {
+    alive->TellMouse(control, hwnd, message, wParam, lParam);
+    if (IsWindow(hwnd) == FALSE) return 0;
+  }
+  const LRESULT result = DefSubclassProc(hwnd, message, wParam, lParam);
+  if (message == WM_SETFOCUS) {
+    alive->events_.Tell([&](FormEvents& events) { events.OnFocusMoved(control); });
+  }
+  return result;
+}
+
+std::optional<LRESULT> FormWindow::HandleFromControls(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_COMMAND:
+      OnCommand(wParam, lParam);
+      return 0;
+    case WM_NOTIFY:
+      OnNotify(*reinterpret_cast<const NMHDR*>(lParam));
+      return 0;
+    case WM_CTLCOLORSTATIC:
+    case WM_CTLCOLOREDIT:
+    case WM_CTLCOLORBTN:
+      return ControlColors(reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam));
+    case kListClosed: {
+      const auto control = static_cast<int>(wParam);
+      const HWND window = controls_.Window(control);
+      const int index = ReadListIndex(window, controls_.State(control).kind);
+      if (index >= 0 && index != controls_.State(control).listIndex) TellListPicked(control);
+      return 0;
+    }
+    default:
+      return std::nullopt;
+  }
+}
+
+void FormWindow::OnCommand(WPARAM wParam, LPARAM lParam) {
+  if (lParam != 0) {
+    const int control = controls_.IdOf(reinterpret_cast<HWND>(lParam));
+    if (control != 0 && !controls_.Updating()) OnControl(control, HIWORD(wParam));
+  } else if (MenuItem* const chosen = menu_.Chosen(LOWORD(wParam))) {
+    events_.Tell([&](FormEvents& events) { events.OnMenuClicked(*chosen); });
+  }
+}
+
+void FormWindow::OnNotify(const NMHDR& notification) {
+  const int control = controls_.IdOf(notification.hwndFrom);
+  if (control != 0 && notification.code == TCN_SELCHANGE) TellListPicked(control);
+}
+
+void FormWindow::OnControl(int control, UINT notification) {
+  const ControlKind kind = controls_.State(control).kind;
+  if (IsButtonKind(kind)) {
+    if (notification == BN_CLICKED) {
+      events_.Tell([&](FormEvents& events) { events.OnClick(control); });
+    }
+  } else if (kind == ControlKind::kTextBox) {
+    if (notification == EN_CHANGE) TellTyped(control);
+  } else if (IsComboKind(kind)) {
+    OnCombo(control, notification);
+  }
+}
+
+void FormWindow::OnCombo(int control, UINT notification) {
+  switch (notification) {
+    case CBN_EDITCHANGE:
+      TellTyped(control);
+      break;
+    case CBN_SELCHANGE:
+      TellListPicked(control);
+      break;
+    case CBN_DROPDOWN:
+      events_.Tell([&](FormEvents& events) { events.OnListDropDown(control); });
+      break;
+    case CBN_CLOSEUP:
+      PostMessageW(hwnd_, kListClosed, static_cast<WPARAM>(control), 0);
+      events_.Tell([&](FormEvents& events) { events.OnListClosedUp(control); });
+      break;
+    default:
+      break;
+  }
+}
+
+void FormWindow::TellTyped(int control) {
+  const std::string text = ReadText(controls_.Window(control));
+  events_.Tell([&](FormEvents& events) { events.OnTextTyped(control, text); });
+}
+
+void FormWindow::TellListPicked(int control) {
+  const int index = ReadListIndex(controls_.Window(control), controls_.State(control).kind);
+  events_.Tell([&](FormEvents& events) { events.OnListPicked(control, index); });
+}
+
+void FormWindow::TellMouse(int control, HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  MouseInput input;
+  if (!ReadMouseMessage(message, wParam, input)) return;
+  POINT at{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+  POINT onScreen = at;
+  ClientToScreen(window, &onScreen);
+  // Windows also sends moves when a window comes to lie under a mouse that stands still.
+  const bool still = onScreen.x == lastMouse_.x && onScreen.y == lastMouse_.y;
+  if (input.event == MouseEvent::kMove && still) return;
+  lastMouse_ = onScreen;
+  const HWND target = control == 0 ? hwnd_ : controls_.Window(control);
+  MapWindowPoints(window, target, &at, 1);
+  const UINT dpi = GetDpiForWindow(hwnd_);
+  input.x = ToTwips(at.x, dpi);
+  input.y = ToTwips(at.y, dpi);
+  input.shift = HeldShiftState();
+  events_.Tell([&](FormEvents& events) { events.OnMouse(control, input); });
+  if (input.button != MouseButton::kLeft || input.event == MouseEvent::kMove) return;
+  const int pressed = std::exchange(pressed_, input.event == MouseEvent::kDown ? control : 0);
+  if (input.event == MouseEvent::kUp && pressed == control) ClickPicture(control);
+}
+
+void FormWindow::ClickPicture(int control) {
+  if (control == 0) return;
+  const ControlKind kind = controls_.State(control).kind;
+  if (kind == ControlKind::kLabel || kind == ControlKind::kImage) {
+    events_.Tell([&](FormEvents& events) { events.OnClick(control); });
+  }
+}
+
+std::optional<LRESULT> FormWindow::ControlColors(HDC dc, HWND window) {
+  const int id = controls_.IdOf(window);
+  if (id == 0) return std::nullopt;
+  const ControlState& control = controls_.State(id);
+  if (IsComboKind(control.kind) && IsDefaultColored(control)) return std::nullopt;
+  SetTextColor(dc, ToColorRef(control.foreColor));
+  SetBkColor(dc, ToColorRef(control.backColor));
+  return reinterpret_cast<LRESULT>(brushes_->Get(control.backColor));
+}
+
+}  // namespace korvale

@@ -1,0 +1,83 @@
+#include "forms/windows/key_filter.h"
+
+namespace korvale {
+namespace {
+
+bool IsSurrogate(WPARAM unit) { return unit >= 0xD800 && unit <= 0xDFFF; }
+
+/// Characters that a one-line text box has no use for and would beep at.
+bool MakesTextBoxBeep(WPARAM character) {
+  return character == VK_RETURN || character == VK_ESCAPE || character == VK_TAB ||
+         character == L'\n';
+}
+
+}  // namespace
+
+unsigned HeldShiftState() {
+  unsigned shift = kNoShift;
+  if (GetKeyState(VK_SHIFT) < 0) shift |= kShift;
+  if (GetKeyState(VK_CONTROL) < 0) shift |= kCtrl;
+  if (GetKeyState(VK_MENU) < 0) shift |= kAlt;
+  return shift;
+}
+
+bool KeyFilter::Filter(const MSG& message) {
+  const int control = controls_->IdOf(message.hwnd);
+  switch (message.message) {
+    case WM_KEYDOWN:
+    case WM_SYSKEYDOWN:
+      return FilterDown(control, message);
+    case WM_KEYUP:
+    case WM_SYSKEYUP:
+      return FilterUp(control, message);
+    case WM_CHAR:
+    case WM_SYSCHAR:
+      return FilterCharacter(control, message);
+    default:
+      return false;
+  }
+}
+
+bool KeyFilter::FilterDown(int control, const MSG& message) {
+  const auto key = static_cast<int>(message.wParam);
+  if (key == VK_MENU) altUsed_ = false;
+  ShowCues(key);
+  // An open list takes these keys itself: they close it.
+  if ((key == VK_RETURN || key == VK_ESCAPE) && controls_->IsListDropped(control)) return false;
+  const bool taken = events_->Ask(
+      [&](FormEvents& events) { return events.OnKeyDown(control, key, HeldShiftState()); });
+  if (taken && message.message == WM_SYSKEYDOWN) altUsed_ = true;
+  return taken;
+}
+
+bool KeyFilter::FilterUp(int control, const MSG& message) {
+  const auto key = static_cast<int>(message.wParam);
+  const bool taken = events_->Ask(
+      [&](FormEvents& events) { return events.OnKeyUp(control, key, HeldShiftState()); });
+  // Windows has not seen the key pressed with Alt and would take Alt alone for the way to the menu.
+  if (key == VK_MENU && std::exchange(altUsed_, false)) return true;
+  return taken;
+}
+
+bool KeyFilter::FilterCharacter(int control, const MSG& message) {
+  if (!IsSurrogate(message.wParam)) {
+    const bool taken = events_->Ask([&](FormEvents& events) {
+      return events.OnCharacter(control, static_cast<char32_t>(message.wParam), HeldShiftState());
+    });
+    if (taken) return true;
+  }
+  return control != 0 && MakesTextBoxBeep(message.wParam) &&
+         (SendMessageW(message.hwnd, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) != 0 &&
+         (GetWindowLongPtrW(message.hwnd, GWL_STYLE) & ES_MULTILINE) == 0;
+}
+
+void KeyFilter::ShowCues(int virtualKey) const {
+  const bool keyboardWay = virtualKey == VK_MENU || virtualKey == VK_F10 || virtualKey == VK_TAB ||
+                           (virtualKey >= VK_LEFT && virtualKey <= VK_DOWN);
+  if (keyboardWay) {
+    SendMessageW(form_, WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEACCEL | UISF_HIDEFOCUS),
+                 0);
+  }
+}
+
+}  // namespace korvale

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+#include "platform/windows/handles.h"
+
+namespace korvale {
+
+/// The tool tips of a form.
+class ToolTips {
+ public:
+  void Create(HWND form, HINSTANCE instance);
+  /// The form's window goes.
+  void Drop();
+
+  /// Sets the tip of a control, "" = none. `shown` tells whether the control is visible.
+  void Show(HWND control, const std::wstring& text, bool shown);
+  /// Lets the tips follow the mouse; called with each message of the form before it is dispatched.
+  void Relay(const MSG& message);
+
+ private:
+  void Add(HWND window, UINT_PTR id, UINT flags, const RECT& area, const std::wstring& text);
+  void Remove(HWND window, UINT_PTR id);
+
+  HWND form_ = nullptr;
+  UniqueWindow window_;
+};
+
+}  // namespace korvale

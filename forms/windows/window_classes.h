@@ -1,0 +1,45 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/form_host.h"
+#include "platform/windows/handles.h"
+
+namespace korvale {
+
+/// Number of the program's icon among its resources.
+inline constexpr WORD kIconResource = 1;
+
+/// Loads the program's icon at a size in pixels; empty when the executable has none.
+UniqueIcon LoadProgramIcon(HINSTANCE instance, int size);
+
+/// Number of the program's own mouse pointer among its resources.
+inline constexpr WORD kPointerResource = 2;
+
+/// The pointer that stands for this one, shared by all; null when the executable has no own one.
+HCURSOR LoadPointer(HINSTANCE instance, MousePointer pointer);
+
+/// The window classes that the forms use; each is registered when it is first needed.
+class WindowClasses {
+ public:
+  explicit WindowClasses(HINSTANCE instance);
+  ~WindowClasses();
+  WindowClasses(const WindowClasses&) = delete;
+  WindowClasses& operator=(const WindowClasses&) = delete;
+
+  HINSTANCE Instance() const { return instance_; }
+  /// Class "Korvale." + `name`, with this procedure.
+  std::wstring Register(std::string_view name, WNDPROC procedure);
+
+ private:
+  HINSTANCE instance_;
+  UniqueIcon large_;
+  UniqueIcon small_;
+  std::vector<std::wstring> registered_;
+};
+
+}  // namespace korvale

@@ -1,0 +1,134 @@
+#include "forms/windows/windows_form_host.h"
+
+#include "forms/windows/control_content.h"
+#include "platform/windows/text.h"
+
+namespace korvale {
+
+WindowsFormHost::WindowsFormHost(HINSTANCE instance)
+    : classes_(instance),
+      owner_(::CreateWindowExW(0, classes_.Register("Owner", DefWindowProcW).c_str(), L"Korvale",
+                               WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, instance, nullptr)),
+      loop_([this](HWND window) { return Find(ToWindowHandle(GetAncestor(window, GA_ROOT))); }) {}
+
+WindowsFormHost::~WindowsFormHost() {
+  for (const auto& [hwnd, form] : forms_) form->Destroy();
+}
+
+std::shared_ptr<FormWindow> WindowsFormHost::Find(WindowHandle hwnd) const {
+  const auto found = forms_.find(hwnd);
+  return found == forms_.end() ? nullptr : found->second;
+}
+
+HWND WindowsFormHost::OwnerOf(const FormState& form) const {
+  if (!form.inTaskbar) {
+    for (const auto& [hwnd, other] : forms_) {
+      if (other->Model().inTaskbar) return other->Handle();
+    }
+  }
+  return owner_.Get();
+}
+
+WindowHandle WindowsFormHost::CreateWindowExW(const FormState& form, FormEvents& events) {
+  auto window = std::make_shared<FormWindow>(form, classes_, brushes_, pointer_);
+  const WindowHandle hwnd = ToWindowHandle(window->Create(OwnerOf(form), events));
+  if (hwnd != 0) forms_[hwnd] = std::move(window);
+  return hwnd;
+}
+
+void WindowsFormHost::DestroyWindow(WindowHandle hwnd) {
+  const auto found = forms_.find(hwnd);
+  if (found == forms_.end()) return;
+  // Out of the list first: what runs while the window goes shall not find it.
+  const std::shared_ptr<FormWindow> form = std::move(found->second);
+  forms_.erase(found);
+  form->Destroy();
+  loop_.Wake();
+}
+
+void WindowsFormHost::UpdateControl(WindowHandle hwnd, int control, ControlProperty property) {
+  if (const auto form = Find(hwnd)) form->Controls().Update(control, property);
+}
+
+void WindowsFormHost::SetWindowTextW(WindowHandle hwnd) {
+  if (const auto form = Find(hwnd)) form->ShowCaption();
+}
+
+void WindowsFormHost::MoveWindow(WindowHandle hwnd) {
+  if (const auto form = Find(hwnd)) form->ShowPlace();
+}
+
+void WindowsFormHost::DrawMenuBar(WindowHandle hwnd) {
+  if (const auto form = Find(hwnd)) form->ShowMenuBar();
+}
+
+void WindowsFormHost::EnableWindow(WindowHandle hwnd, bool enable) {
+  ::EnableWindow(ToHwnd(hwnd), enable ? TRUE : FALSE);
+}
+
+void WindowsFormHost::ShowWindow(WindowHandle hwnd, int command) {
+  if (const auto form = Find(hwnd)) form->Show(command);
+  loop_.Wake();
+}
+
+void WindowsFormHost::SetFocus(WindowHandle hwnd, int control) {
+  if (const auto form = Find(hwnd)) form->SetFocus(control);
+}
+
+int WindowsFormHost::GetFocus(WindowHandle hwnd) {
+  const HWND focus = ::GetFocus();
+  const auto form = Find(hwnd);
+  const bool ours = form != nullptr && IsChild(form->Handle(), focus) != FALSE;
+  return ours ? form->Controls().IdOf(focus) : 0;
+}
+
+TextSelection WindowsFormHost::GetSelection(WindowHandle hwnd, int control) {
+  const auto form = Find(hwnd);
+  if (form == nullptr) return {};
+  return ReadSelection(form->Controls().Window(control), form->Controls().State(control).kind);
+}
+
+void WindowsFormHost::SetSelection(WindowHandle hwnd, int control, TextSelection selection) {
+  const auto form = Find(hwnd);
+  if (form == nullptr) return;
+  ShowSelection(form->Controls().Window(control), form->Controls().State(control).kind, selection);
+}
+
+TwipsRect WindowsFormHost::AdjustWindowRectEx(const FormState& form) {
+  UINT dpi = GetDpiForSystem();
+  for (const auto& [hwnd, other] : forms_) {
+    if (&other->Model() == &form) dpi = GetDpiForWindow(other->Handle());
+  }
+  RECT frame{};
+  const BOOL menu = FormMenu(form).BarWanted() ? TRUE : FALSE;
+  AdjustWindowRectExForDpi(&frame, FormStyle(form), menu, FormExStyle(form), dpi);
+  return {ToTwips(-frame.left, dpi), ToTwips(-frame.top, dpi),
+          ToTwips(frame.right - frame.left, dpi), ToTwips(frame.bottom - frame.top, dpi)};
+}
+
+TwipsRect WindowsFormHost::GetMonitorInfoW(WindowHandle hwnd) {
+  MONITORINFO info{};
+  info.cbSize = sizeof(info);
+  ::GetMonitorInfoW(MonitorFromWindow(ToHwnd(hwnd), MONITOR_DEFAULTTOPRIMARY), &info);
+  return ToScreenTwips(info.rcWork, GetDpiForSystem());
+}
+
+std::int16_t WindowsFormHost::MessageBoxW(WindowHandle owner, const std::string& text,
+                                          const std::string& title, std::int32_t style) {
+  return static_cast<std::int16_t>(::MessageBoxW(ToHwnd(owner), ToUtf16(text).c_str(),
+                                                 ToUtf16(title).c_str(), static_cast<UINT>(style)));
+}
+
+void WindowsFormHost::TrackPopupMenuEx(WindowHandle hwnd, MenuItem& menu) {
+  if (const auto form = Find(hwnd)) form->TrackPopup(menu);
+}
+
+void WindowsFormHost::RunMessageLoop(const std::function<bool()>& done) { loop_.Run(done); }
+
+void WindowsFormHost::DoEvents() { loop_.DoEvents(); }
+
+void WindowsFormHost::PostQuitMessage() { loop_.PostQuit(); }
+
+bool WindowsFormHost::QuitPosted() { return loop_.QuitPosted(); }
+
+}  // namespace korvale
