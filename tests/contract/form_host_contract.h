@@ -1,0 +1,8 @@
+#pragma once
+
+// What every host of forms does. A test program includes this in one file and defines
+// MakeHostUnderTest there.
+#include "tests/contract/control_contract.h"   // IWYU pragma: export
+#include "tests/contract/keyboard_contract.h"  // IWYU pragma: export
+#include "tests/contract/menu_contract.h"      // IWYU pragma: export
+#include "tests/contract/window_contract.h"    // IWYU pragma: export

@@ -1,0 +1,254 @@
+#pragma once
+
+#include "tests/contract/contract_fixture.h"
+
+namespace korvale {
+
+TEST_F(FormHostContract, TheFirstTabStopHasTheFocusAtFirst) {
+  ShowForm();
+  EXPECT_EQ(Focus(), "txtName");
+}
+
+TEST_F(FormHostContract, AFocusChosenWhileLoadingHolds) {
+  form_.onLoad = [&] { FocusOn("cmdStay"); };
+  form_.Show();
+  EXPECT_EQ(Focus(), "cmdStay");
+}
+
+TEST_F(FormHostContract, TabGoesThroughTheStopsAndRoundAgain) {
+  ShowForm();
+  Lines stops;
+  for (int i = 0; i < 11; ++i) {
+    Press(win32::kVkTab);
+    stops.push_back(Focus());
+  }
+  EXPECT_EQ(stops, (Lines{"txtFixed", "chkDaily", "optColor", "cboSize", "cboPlace", "cmdGo",
+                          "cmdStay", "cmdClose", "cmdInside", "tabPages", "txtName"}));
+  Press(win32::kVkTab, kShift);
+  EXPECT_EQ(Focus(), "tabPages");
+}
+
+TEST_F(FormHostContract, TabStopsAtTheChosenOptionAndSkipsAHiddenPage) {
+  ShowForm();
+  form_.Find("optColor", 1).SetValue(1);
+  form_.Find("picPage", 0).SetVisible(false);
+  FocusOn("chkDaily");
+  Press(win32::kVkTab);
+  EXPECT_EQ(User().Focus(Window()), Id("optColor", 1));
+  FocusOn("cmdClose");
+  Press(win32::kVkTab);
+  EXPECT_EQ(Focus(), "tabPages");
+}
+
+TEST_F(FormHostContract, EnterPressesTheDefaultButtonAndEscTheCancelButton) {
+  ShowForm();
+  Press(win32::kVkReturn);
+  Press(win32::kVkEscape);
+  EXPECT_EQ(form_.Take(), (Lines{"click cmdGo", "click cmdClose"}));
+  EXPECT_EQ(Focus(), "txtName");
+}
+
+TEST_F(FormHostContract, EnterPressesTheButtonThatHasTheFocus) {
+  ShowForm();
+  FocusOn("cmdStay");
+  Press(win32::kVkReturn);
+  EXPECT_EQ(form_.Take(), Lines{"click cmdStay"});
+}
+
+TEST_F(FormHostContract, ADisabledDefaultButtonIsNotPressed) {
+  ShowForm();
+  form_.Find("cmdGo").SetEnabled(false);
+  Press(win32::kVkReturn);
+  EXPECT_EQ(form_.Take(), Lines{});
+}
+
+TEST_F(FormHostContract, TheSpaceBarPressesWhatHasTheFocus) {
+  ShowForm();
+  FocusOn("cmdStay");
+  Press(win32::kVkSpace);
+  FocusOn("chkDaily");
+  Press(win32::kVkSpace);
+  EXPECT_EQ(Value("chkDaily"), 1);
+  EXPECT_EQ(form_.Take(), (Lines{"click cmdStay", "click chkDaily"}));
+}
+
+TEST_F(FormHostContract, AltAndTheAccessKeyReachesControlsOfEachKind) {
+  ShowForm();
+  FocusOn("cmdClose");
+  Press('N', kAlt);
+  EXPECT_EQ(Focus(), "txtName");
+  Press('Y', kAlt);
+  EXPECT_EQ(Focus(), "chkDaily");
+  EXPECT_EQ(Value("chkDaily"), 1);
+  Press('B', kAlt);
+  EXPECT_EQ(Value("optColor", 1), 1);
+  Press('S', kAlt);
+  EXPECT_EQ(Focus(), "cmdStay");
+  Press('I', kAlt);
+  EXPECT_EQ(form_.Take(),
+            (Lines{"click chkDaily", "click optColor(1)", "click cmdStay", "click cmdInside"}));
+}
+
+TEST_F(FormHostContract, TheAccessKeyOfAFrameLeadsIntoIt) {
+  ShowForm();
+  form_.Find("optColor", 2).SetValue(1);
+  Press('C', kAlt);
+  EXPECT_EQ(User().Focus(Window()), Id("optColor", 2));
+}
+
+TEST_F(FormHostContract, HiddenAndDisabledControlsHaveNoAccessKey) {
+  ShowForm();
+  form_.Find("cmdStay").SetEnabled(false);
+  form_.Find("picPage", 0).SetVisible(false);
+  Press('S', kAlt);
+  Press('I', kAlt);
+  EXPECT_EQ(form_.Take(), Lines{});
+  EXPECT_EQ(Focus(), "txtName");
+}
+
+TEST_F(FormHostContract, APlainLetterIsAnAccessKeyWhereNoTextIsTyped) {
+  ShowForm();
+  Type("s");
+  EXPECT_EQ(Text("txtName"), "s");
+  FocusOn("cmdGo");
+  form_.Take();
+  Type("s");
+  EXPECT_EQ(form_.Take(), Lines{"click cmdStay"});
+  EXPECT_EQ(Text("txtName"), "s");
+}
+
+TEST_F(FormHostContract, AccessKeysWorkInAnyScript) {
+  ShowForm();
+  form_.Find("cmdStay").SetText("(&Ж) stay");
+  TypeWithAlt("ж");
+  EXPECT_EQ(form_.Take(), Lines{"click cmdStay"});
+}
+
+TEST_F(FormHostContract, ArrowsMoveTheChoiceAmongOptions) {
+  ShowForm();
+  FocusOn("optColor", 0);
+  Press(win32::kVkDown);
+  EXPECT_EQ(Value("optColor", 1), 1);
+  Press(win32::kVkUp);
+  Press(win32::kVkLeft);
+  EXPECT_EQ(Value("optColor", 2), 1);
+  EXPECT_EQ(User().Focus(Window()), Id("optColor", 2));
+  EXPECT_EQ(form_.Take(), (Lines{"click optColor(1)", "click optColor(0)", "click optColor(2)"}));
+}
+
+TEST_F(FormHostContract, TheFormSeesEachKeyFirstAndMaySwallowIt) {
+  ShowForm();
+  std::vector<int> keys;
+  form_.onKeyDown = [&](int& key, unsigned) {
+    keys.push_back(key);
+    if (key == 'Q' || key == win32::kVkReturn) key = 0;
+  };
+  Type("aqb");
+  Press(win32::kVkReturn);
+  EXPECT_EQ(Text("txtName"), "ab");
+  EXPECT_EQ(keys, (std::vector<int>{'A', 'Q', 'B', win32::kVkReturn}));
+  EXPECT_EQ(form_.Take(), (Lines{"click txtName", "click txtName"}));
+}
+
+TEST_F(FormHostContract, TheShiftStateComesWithTheKey) {
+  ShowForm();
+  std::vector<unsigned> shifts;
+  form_.onKeyDown = [&](int& key, unsigned shift) {
+    if (key == win32::kVkHome) shifts.push_back(shift);
+  };
+  Press(win32::kVkHome);
+  Press(win32::kVkHome, kShift);
+  Press(win32::kVkHome, kCtrl);
+  Press(win32::kVkHome, kShift | kCtrl);
+  EXPECT_EQ(shifts, (std::vector<unsigned>{kNoShift, kShift, kCtrl, kShift | kCtrl}));
+}
+
+TEST_F(FormHostContract, ReleasedKeysAreSeenToo) {
+  ShowForm();
+  std::vector<int> keys;
+  form_.onKeyUp = [&](int& key, unsigned) { keys.push_back(key); };
+  Press(win32::kVkHome);
+  EXPECT_EQ(keys, std::vector<int>{win32::kVkHome});
+}
+
+TEST_F(FormHostContract, AltF4AsksTheFormToCloseUnlessItDealsWithTheKey) {
+  ShowForm();
+  form_.onKeyDown = [](int& key, unsigned shift) {
+    if (key == win32::kVkF4 && shift == kAlt) key = 0;
+  };
+  Press(win32::kVkF4, kAlt);
+  EXPECT_TRUE(form_.IsLoaded());
+  form_.onKeyDown = nullptr;
+  Press(win32::kVkF4, kAlt);
+  EXPECT_FALSE(form_.IsLoaded());
+  EXPECT_EQ(form_.closeReasons, std::vector<CloseReason>{CloseReason::kUser});
+}
+
+TEST_F(FormHostContract, AKeyMayUnloadTheForm) {
+  ShowForm();
+  form_.onKeyDown = [&](int&, unsigned) { form_.Unload(); };
+  Press(win32::kVkEscape);
+  EXPECT_FALSE(form_.IsLoaded());
+}
+
+TEST_F(FormHostContract, ArrowsAndLettersChooseInADropDownList) {
+  ShowForm();
+  FocusOn("cboSize");
+  Press(win32::kVkDown);
+  Press(win32::kVkDown);
+  EXPECT_EQ(Text("cboSize"), "Medium");
+  Type("l");
+  EXPECT_EQ(Text("cboSize"), "Large");
+  EXPECT_EQ(form_.Find("cboSize").ListIndex(), 2);
+}
+
+TEST_F(FormHostContract, EscClosesAnOpenListAndNotTheForm) {
+  ShowForm();
+  int opened = 0;
+  form_.WhenDroppedDown("cboSize", [&](int) { ++opened; });
+  FocusOn("cboSize");
+  Press(win32::kVkF4);
+  EXPECT_EQ(opened, 1);
+  Press(win32::kVkEscape);
+  EXPECT_EQ(form_.Take(), Lines{});
+  Press(win32::kVkEscape);
+  EXPECT_EQ(form_.Take(), Lines{"click cmdClose"});
+}
+
+TEST_F(FormHostContract, EnterTakesTheEntryOfAnOpenListAndPressesNoButton) {
+  ShowForm();
+  FocusOn("cboSize");
+  form_.Find("cboSize").SetListIndex(0);
+  form_.Take();
+  Press(win32::kVkF4);
+  Press(win32::kVkDown);
+  Press(win32::kVkReturn);
+  EXPECT_EQ(Text("cboSize"), "Medium");
+  EXPECT_EQ(form_.Find("cboSize").ListIndex(), 1);
+  const Lines told = form_.Take();
+  EXPECT_EQ(std::ranges::count(told, "click cmdGo"), 0);
+  EXPECT_GE(std::ranges::count(told, "click cboSize"), 1);
+}
+
+TEST_F(FormHostContract, HomeEndAndShiftMoveTheSelection) {
+  ShowForm();
+  form_.Find("txtName").SetText("Жabc");
+  Press(win32::kVkEnd);
+  EXPECT_EQ(form_.Find("txtName").Selection().start, 4);
+  Press(win32::kVkHome, kShift);
+  EXPECT_EQ(form_.Find("txtName").Selection().start, 0);
+  EXPECT_EQ(form_.Find("txtName").Selection().length, 4);
+  Type("z");
+  EXPECT_EQ(Text("txtName"), "z");
+}
+
+TEST_F(FormHostContract, TheFocusMovesInAnInactiveFormWithoutActivatingIt) {
+  ShowForm();
+  dialog_.Show();
+  FocusOn("cmdStay");
+  EXPECT_EQ(User().Focus(Window()), 0);
+  dialog_.Unload();
+  EXPECT_EQ(Focus(), "cmdStay");
+}
+
+}  // namespace korvale

@@ -1,0 +1,120 @@
+#pragma once
+
+#include "tests/contract/contract_fixture.h"
+
+namespace korvale {
+
+TEST_F(FormHostContract, TheMenuBarShowsTheMenusOfTheDesign) {
+  ShowForm();
+  EXPECT_EQ(User().MenuBarItems(Window()),
+            (std::vector<ShownMenuItem>{{"File", "F"}, {"Window", "W"}}));
+  EXPECT_EQ(User().MenuItems(Window(), {"File"}),
+            (std::vector<ShownMenuItem>{{"Open", "O"}, {"-", ""}, {"More", "M"}, {"Exit", "x"}}));
+}
+
+TEST_F(FormHostContract, ChoosingFromAMenuIsTold) {
+  ShowForm();
+  User().ChooseMenu(Window(), {"File", "Open"});
+  User().ChooseMenu(Window(), {"File", "More", "Deep"});
+  EXPECT_EQ(form_.Take(), (Lines{"menu mnuFileOpen", "menu mnuFileMoreDeep"}));
+}
+
+TEST_F(FormHostContract, MarksAndDisabledAndHiddenEntriesAreShown) {
+  ShowForm();
+  form_.Menu("mnuFileOpen").checked = true;
+  form_.Menu("mnuFileMore").visible = false;
+  form_.Menu("mnuFileExit").enabled = false;
+  EXPECT_EQ(User().MenuItems(Window(), {"File"}),
+            (std::vector<ShownMenuItem>{
+                {"Open", "O", true, true}, {"-", ""}, {"Exit", "x", false, false}}));
+}
+
+TEST_F(FormHostContract, AMenuIsShownAsItStandsWhenItOpens) {
+  ShowForm();
+  form_.WhenMenuOpens("mnuWindow", [&](int) {
+    MenuItem& window = form_.Menu("mnuWindow");
+    const MenuItemArray list(window, "mnuList");
+    if (list.Find(2) != nullptr) return;
+    for (const int index : {2, 1}) {
+      MenuItem& item = list.Load(index);
+      item.caption = "&" + std::to_string(index) + "  Ж && 日本 - \U0001F600";
+      item.visible = true;
+    }
+  });
+  EXPECT_EQ(User().MenuItems(Window(), {"Window"}),
+            (std::vector<ShownMenuItem>{{"0  First", "0"},
+                                        {"1  Ж & 日本 - \U0001F600", "1"},
+                                        {"2  Ж & 日本 - \U0001F600", "2"}}));
+  User().ChooseMenu(Window(), {"Window", "2  Ж & 日本 - \U0001F600"});
+  EXPECT_EQ(form_.Take(), Lines{"menu mnuList(2)"});
+}
+
+TEST_F(FormHostContract, LiteralAmpersandsOfACaptionAreShown) {
+  ShowForm();
+  MenuItem& item = form_.Menu("mnuList", 0);
+  item.caption = "&0  R&D && more";
+  item.literalFrom = 2;
+  EXPECT_EQ(User().MenuItems(Window(), {"Window"}),
+            (std::vector<ShownMenuItem>{{"0  R&D && more", "0"}}));
+}
+
+TEST_F(FormHostContract, AnEntryMayRemoveItself) {
+  ShowForm();
+  MenuItem& item = MenuItemArray(form_.Menu("mnuWindow"), "mnuList").Load(1);
+  item.caption = "gone";
+  item.visible = true;
+  form_.onMenuClick = [&](const std::string&) {
+    MenuItemArray(form_.Menu("mnuWindow"), "mnuList").Unload(1);
+  };
+  User().ChooseMenu(Window(), {"Window", "gone"});
+  EXPECT_EQ(form_.Take(), Lines{"menu mnuList(1)"});
+  EXPECT_EQ(User().MenuItems(Window(), {"Window"}),
+            (std::vector<ShownMenuItem>{{"0  First", "0"}}));
+}
+
+TEST_F(FormHostContract, TheMenuBarCanBeHiddenAndItsCaptionsChanged) {
+  ShowForm();
+  form_.SetMenuShown(false);
+  EXPECT_TRUE(User().MenuBarItems(Window()).empty());
+  form_.Menu("mnuFile").visible = false;
+  form_.Menu("mnuWindow").caption = "&Ж";
+  form_.SetMenuShown(true);
+  EXPECT_EQ(User().MenuBarItems(Window()), (std::vector<ShownMenuItem>{{"Ж", "Ж"}}));
+  form_.Menu("mnuFile").visible = true;
+  form_.RefreshMenuBar();
+  EXPECT_EQ(User().MenuBarItems(Window()).size(), 2U);
+}
+
+TEST_F(FormHostContract, APopUpMenuShowsItsEntriesAndTellsTheChoice) {
+  ShowForm();
+  std::vector<ShownMenuItem> shown;
+  User().WhenPopupMenu([&](const std::vector<ShownMenuItem>& items) {
+    shown = items;
+    return "Open";
+  });
+  Host().TrackPopupMenuEx(Window(), form_.Menu("mnuFile"));
+  EXPECT_EQ(shown,
+            (std::vector<ShownMenuItem>{{"Open", "O"}, {"-", ""}, {"More", "M"}, {"Exit", "x"}}));
+  EXPECT_EQ(form_.Take(), Lines{"menu mnuFileOpen"});
+}
+
+TEST_F(FormHostContract, AClosedPopUpMenuTellsNothing) {
+  ShowForm();
+  int opened = 0;
+  form_.WhenMenuOpens("mnuFile", [&](int) { ++opened; });
+  User().WhenPopupMenu([](const std::vector<ShownMenuItem>&) { return ""; });
+  Host().TrackPopupMenuEx(Window(), form_.Menu("mnuFile"));
+  EXPECT_EQ(opened, 1);
+  EXPECT_EQ(form_.Take(), Lines{});
+}
+
+TEST_F(FormHostContract, AnErrorInAMenuReachesTheReporter) {
+  ShowForm();
+  int reported = 0;
+  forms_.SetUncaughtHandler([&] { ++reported; });
+  form_.onMenuClick = [](const std::string&) { throw std::runtime_error("menu"); };
+  User().ChooseMenu(Window(), {"File", "Open"});
+  EXPECT_EQ(reported, 1);
+}
+
+}  // namespace korvale

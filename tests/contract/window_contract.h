@@ -1,0 +1,232 @@
+#pragma once
+
+#include "tests/contract/contract_fixture.h"
+
+namespace korvale {
+
+TEST_F(FormHostContract, AFormIsHiddenUntilItIsShownAndAfterItWasHidden) {
+  form_.Load();
+  EXPECT_FALSE(User().IsShown(Window()));
+  form_.Show();
+  EXPECT_TRUE(User().IsShown(Window()));
+  form_.Hide();
+  EXPECT_FALSE(User().IsShown(Window()));
+  form_.Show();
+  EXPECT_TRUE(User().IsShown(Window()));
+}
+
+TEST_F(FormHostContract, AnUnloadedFormHasNoWindowAndCanBeLoadedAgain) {
+  form_.Show();
+  const WindowHandle first = Window();
+  EXPECT_TRUE(form_.Unload());
+  EXPECT_FALSE(User().IsShown(first));
+  form_.Show();
+  EXPECT_TRUE(User().IsShown(Window()));
+}
+
+TEST_F(FormHostContract, AWindowIsKnownByItsClassAndItsCaptionInAnyScript) {
+  form_.Load();
+  EXPECT_EQ(User().ClassName(Window()), "Korvale.frmContract");
+  EXPECT_EQ(User().Title(Window()), "Contract");
+  form_.SetCaption("Ж - 日本語 - \U0001F600 & more");
+  EXPECT_EQ(User().Title(Window()), "Ж - 日本語 - \U0001F600 & more");
+}
+
+TEST_F(FormHostContract, AFormThatCountsTheClassicFrameGrowsWithTheRealOne) {
+  form_.Show();
+  const TwipsRect frame = Host().AdjustWindowRectEx(form_.State());
+  const TwipsRect expected = {1500, 1500, 6000 + frame.width, 5100 + frame.height};
+  EXPECT_EQ(User().Place(Window()), expected);
+  EXPECT_EQ(form_.Place(), kContractDesign.place);
+}
+
+TEST_F(FormHostContract, AFormWithAnExactHeightIsAsLargeAsItSays) {
+  strip_.Show();
+  EXPECT_EQ(User().Place(strip_.Handle()), kStripDesign.place);
+  const TwipsRect place = {900, 600, 4500, 1200};
+  strip_.SetPlace(place);
+  EXPECT_EQ(User().Place(strip_.Handle()), place);
+}
+
+TEST_F(FormHostContract, AFormIsToldWhereTheUserHasDraggedIt) {
+  strip_.Show();
+  const int before = strip_.resizes;
+  const TwipsRect place = {1200, 1200, 7500, 1800};
+  User().Drag(strip_.Handle(), place);
+  EXPECT_EQ(strip_.Place(), place);
+  EXPECT_EQ(User().Place(strip_.Handle()), place);
+  EXPECT_GT(strip_.resizes, before);
+}
+
+TEST_F(FormHostContract, MinimizingAndRestoringIsTold) {
+  strip_.Show();
+  strip_.SetWindowState(ShowState::kMinimized);
+  EXPECT_EQ(strip_.WindowState(), ShowState::kMinimized);
+  EXPECT_EQ(strip_.Place(), kStripDesign.place);
+  strip_.SetWindowState(ShowState::kNormal);
+  EXPECT_EQ(strip_.WindowState(), ShowState::kNormal);
+}
+
+TEST_F(FormHostContract, TheCloseBoxUnloadsAFormThatAgrees) {
+  form_.Show();
+  const WindowHandle window = Window();
+  User().PressCloseBox(window);
+  EXPECT_FALSE(form_.IsLoaded());
+  EXPECT_FALSE(User().IsShown(window));
+  EXPECT_EQ(form_.closeReasons, std::vector<CloseReason>{CloseReason::kUser});
+}
+
+TEST_F(FormHostContract, AFormThatRefusesToCloseStays) {
+  form_.refusesToClose = true;
+  form_.Show();
+  User().PressCloseBox(Window());
+  EXPECT_TRUE(form_.IsLoaded());
+  EXPECT_TRUE(User().IsShown(Window()));
+}
+
+TEST_F(FormHostContract, ShowingAFormActivatesIt) {
+  form_.Show();
+  EXPECT_EQ(form_.activations, 1);
+  dialog_.Show();
+  EXPECT_EQ(dialog_.activations, 1);
+}
+
+TEST_F(FormHostContract, ADisabledFormIsDisabledOnTheScreen) {
+  form_.Show();
+  form_.SetEnabled(false);
+  EXPECT_FALSE(User().IsEnabled(Window()));
+  form_.SetEnabled(true);
+  EXPECT_TRUE(User().IsEnabled(Window()));
+}
+
+TEST_F(FormHostContract, AModalFormKeepsTheOthersFromTakingInput) {
+  form_.Show();
+  dialog_.onClick = [&](const std::string&) { dialog_.Unload(); };
+  bool blocked = false;
+  User().WhenWaiting([&] {
+    blocked = !User().IsEnabled(Window()) && User().IsEnabled(dialog_.Handle());
+    User().Click(dialog_.Handle(), dialog_.Find("cmdOK").Id());
+  });
+  dialog_.ShowModal();
+  EXPECT_TRUE(blocked);
+  EXPECT_FALSE(dialog_.IsLoaded());
+  EXPECT_TRUE(User().IsEnabled(Window()));
+}
+
+TEST_F(FormHostContract, TheFormBelowIsActiveAgainAfterAModalOne) {
+  ShowForm();
+  const int before = form_.activations;
+  User().WhenWaiting([&] { User().PressCloseBox(dialog_.Handle()); });
+  dialog_.ShowModal();
+  EXPECT_GT(form_.activations, before);
+  EXPECT_EQ(Focus(), "txtName");
+}
+
+TEST_F(FormHostContract, HidingAModalFormEndsItToo) {
+  form_.Show();
+  User().WhenWaiting([&] { dialog_.Hide(); });
+  dialog_.ShowModal();
+  EXPECT_TRUE(dialog_.IsLoaded());
+  EXPECT_FALSE(User().IsShown(dialog_.Handle()));
+  EXPECT_TRUE(User().IsEnabled(Window()));
+}
+
+TEST_F(FormHostContract, ModalFormsNest) {
+  form_.Show();
+  Lines order;
+  dialog_.onClick = [&](const std::string&) {
+    inner_.ShowModal();
+    order.emplace_back("inner closed");
+  };
+  User().WhenWaiting([&] {
+    User().WhenWaiting([&] {
+      EXPECT_FALSE(User().IsEnabled(Window()));
+      EXPECT_FALSE(User().IsEnabled(dialog_.Handle()));
+      User().PressCloseBox(inner_.Handle());
+    });
+    User().Click(dialog_.Handle(), dialog_.Find("cmdOK").Id());
+    EXPECT_FALSE(User().IsEnabled(Window()));
+    EXPECT_TRUE(User().IsEnabled(dialog_.Handle()));
+    User().PressCloseBox(dialog_.Handle());
+  });
+  dialog_.ShowModal();
+  order.emplace_back("dialog closed");
+  EXPECT_EQ(order, (Lines{"inner closed", "dialog closed"}));
+  EXPECT_TRUE(User().IsEnabled(Window()));
+}
+
+TEST_F(FormHostContract, AMessageBoxShowsWhatItWasToldAndGivesTheButton) {
+  form_.Show();
+  ShownMessage shown;
+  bool ownerEnabled = true;
+  User().WhenMessageBox([&](const ShownMessage& message) {
+    shown = message;
+    ownerEnabled = User().IsEnabled(Window());
+    return win32::kIdNo;
+  });
+  const std::int32_t style = win32::kMbYesNo + win32::kMbDefButton2;
+  const std::string text = "Ж?\r\rWindow:  [日本 & \U0001F600]";
+  const std::int16_t button = Host().MessageBoxW(Window(), text, "Korvale - CAUTION", style);
+  EXPECT_EQ(button, win32::kIdNo);
+  EXPECT_EQ(shown.text, text);
+  EXPECT_EQ(shown.title, "Korvale - CAUTION");
+  EXPECT_EQ(shown.owner, Window());
+  EXPECT_FALSE(ownerEnabled);
+  EXPECT_TRUE(User().IsEnabled(Window()));
+}
+
+TEST_F(FormHostContract, ATimerTicksWhileItIsEnabledAndItsFormIsLoaded) {
+  form_.Show();
+  form_.Take();
+  Control& timer = form_.Find("tmrTick");
+  timer.SetInterval(50);
+  User().LetPass(120);
+  EXPECT_EQ(form_.Take(), Lines{});
+  timer.SetEnabled(true);
+  User().LetPass(120);
+  EXPECT_GE(form_.Take().size(), 1U);
+  timer.SetEnabled(false);
+  User().LetPass(120);
+  EXPECT_EQ(form_.Take(), Lines{});
+  timer.SetEnabled(true);
+  form_.Unload();
+  form_.Take();
+  User().LetPass(120);
+  EXPECT_EQ(form_.Take(), Lines{});
+}
+
+TEST_F(FormHostContract, AnErrorInATimerReachesTheReporterAndTheLoopGoesOn) {
+  int reported = 0;
+  forms_.SetUncaughtHandler([&] { ++reported; });
+  form_.Show();
+  form_.onClick = [&](const std::string&) {
+    form_.Find("tmrTick").SetEnabled(false);
+    throw std::runtime_error("tick");
+  };
+  form_.Find("tmrTick").SetInterval(20);
+  form_.Find("tmrTick").SetEnabled(true);
+  User().LetPass(100);
+  EXPECT_EQ(reported, 1);
+  form_.onClick = nullptr;
+  Click("cmdGo");
+  EXPECT_EQ(form_.Take(), (Lines{"click tmrTick", "click cmdGo"}));
+}
+
+TEST_F(FormHostContract, TheWorkAreaHoldsTheForm) {
+  form_.Show();
+  const TwipsRect area = Host().GetMonitorInfoW(Window());
+  EXPECT_GE(area.width, 6000);
+  EXPECT_GE(area.height, 5000);
+  EXPECT_EQ(Host().GetMonitorInfoW(0), area);
+}
+
+TEST_F(FormHostContract, QuittingEndsEveryMessageLoop) {
+  form_.Show();
+  EXPECT_FALSE(Host().QuitPosted());
+  User().WhenWaiting([&] { Host().PostQuitMessage(); });
+  dialog_.ShowModal();
+  EXPECT_TRUE(Host().QuitPosted());
+  EXPECT_TRUE(User().IsEnabled(Window()));
+}
+
+}  // namespace korvale
