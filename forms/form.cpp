@@ -107,7 +107,8 @@ int Form::ContainerId(const ControlRow& row) const {
 
 void Form::Load() {
   if (IsLoaded()) return;
-  BuildFromDesign();
+  // What holds on to a menu or control from before the first loading keeps it.
+  if (std::exchange(used_, true)) BuildFromDesign();
   state_.place = RealPlace();
   handle_ = forms_->Host().CreateWindowExW(state_, *this);
   forms_->Add(*this);

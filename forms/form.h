@@ -190,6 +190,8 @@ class Form : public FormEvents {
   int droppedList_ = 0;  ///< The list that is open, 0 = none.
   bool shownBefore_ = false;
   bool unloading_ = false;
+  /// The model has been loaded once, so the next loading starts from the design.
+  bool used_ = false;
   std::string tag_;
   Handlers clicked_;
   Handlers droppedDown_;
