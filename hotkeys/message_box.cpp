@@ -96,8 +96,8 @@ void SuspendingMessageBoxes::BringBack(WindowHandle ownForeground) {
 }
 
 bool SuspendingMessageBoxes::IsOurs(WindowHandle hwnd) const {
+  // A form without a window has the handle 0 as well.
   if (hwnd == 0) return false;
-  if (hwnd == mainWindow_->MainHandle()) return true;
   for (const LoadedForm& form : forms_->List()) {
     if (form.handle == hwnd) return true;
   }

@@ -1,63 +1,20 @@
 #include "hotkeys/message_box.h"
 
-#include <gtest/gtest.h>
-
 #include <cstdint>
 #include <limits>
 #include <stdexcept>
 #include <string>
 #include <utility>
-#include <vector>
 
 #include "app/core/error_reporting.h"
 #include "platform/run_time_error.h"
 #include "platform/win32_constants.h"
-#include "tests/fakes/call_log.h"
-#include "tests/fakes/fake_desktop.h"
-#include "tests/fakes/fake_loaded_forms.h"
-#include "tests/fakes/fake_main_window.h"
-#include "tests/hotkeys/message_box_host.h"
+#include "tests/hotkeys/message_box_fixture.h"
 
 namespace korvale {
 namespace {
 
-using Calls = std::vector<std::string>;
-
-class MessageBoxTest : public testing::Test {
- protected:
-  MessageBoxTest() {
-    other = Open("Other", "main", kOtherProcess);
-    main = Open("Korvale - Work", "Korvale.frmMain", kOurProcess);
-    mainWindow.handle = main;
-    forms.Load("frmMain", main);
-    log.NameWindow(main, "main");
-    log.NameWindow(other, "other");
-    log.Clear();
-    mainWindow.onCall = [this](const std::string& call) { log.Add(call); };
-  }
-
-  static constexpr int kOurProcess = 1;
-
-  WindowHandle Open(const std::string& title, const std::string& className, int process) {
-    return desktop.Open(title, {.className = className, .process = process});
-  }
-
-  std::int16_t ShowBox(const std::string& prompt = "Prompt") {
-    return messages.ShowMessageBox(prompt, 0, "Title");
-  }
-
-  CallLog log;
-  FakeDesktop desktop{log};
-  FakeMainWindow mainWindow;
-  FakeLoadedForms forms;
-  Suspension suspension;
-  MessageBoxHost host{log};
-  WindowHandle modal = 0;
-  WindowHandle other = 0;
-  WindowHandle main = 0;
-  SuspendingMessageBoxes messages{
-      host, desktop, desktop, mainWindow, forms, suspension, [this] { return modal; }};
-};
+;
 
 TEST_F(MessageBoxTest, ShowsTheBoxAndReturnsTheButton) {
   host.answer = win32::kIdNo;
@@ -211,97 +168,6 @@ TEST_F(MessageBoxTest, BelongsToTheModalDialogOnTop) {
   ShowBox();
 
   EXPECT_EQ(log.CallsOf("MessageBoxW"), Calls{"MessageBoxW(dialog, \"Prompt\", \"Title\", 0)"});
-}
-
-TEST_F(MessageBoxTest, GivesTheForegroundBackToTheMainWindow) {
-  desktop.UserActivates(main);
-  log.Clear();
-  host.whileShown = [this](const std::string&) { desktop.UserActivates(other); };
-
-  ShowBox();
-
-  EXPECT_EQ(log.Calls().back(), "SetForegroundWindow(main)");
-  EXPECT_EQ(desktop.GetForegroundWindow(), main);
-}
-
-TEST_F(MessageBoxTest, GivesTheForegroundBackToAnotherFormOfTheProgram) {
-  const WindowHandle options = Open("Korvale - Options", "Korvale.frmOptions", kOurProcess);
-  forms.Load("frmOptions", options);
-  desktop.UserActivates(options);
-  host.whileShown = [this](const std::string&) { desktop.UserActivates(other); };
-
-  ShowBox();
-
-  EXPECT_EQ(desktop.GetForegroundWindow(), options);
-}
-
-TEST_F(MessageBoxTest, LeavesTheForegroundToTheProgramThatHadIt) {
-  desktop.UserActivates(other);
-  const WindowHandle third = Open("Third", "Third", kOtherProcess);
-  log.Clear();
-  host.whileShown = [&](const std::string&) { desktop.UserActivates(third); };
-
-  ShowBox();
-
-  EXPECT_TRUE(log.CallsOf("SetForegroundWindow").empty());
-  EXPECT_EQ(desktop.GetForegroundWindow(), third);
-}
-
-TEST_F(MessageBoxTest, LeavesTheForegroundToAnotherFormOfTheProgram) {
-  desktop.UserActivates(main);
-  log.Clear();
-  host.whileShown = [this](const std::string&) {
-    const WindowHandle about = Open("About", "Korvale.frmMsgBox2", kOurProcess);
-    forms.Load("frmMsgBox2", about);
-  };
-
-  ShowBox();
-
-  EXPECT_TRUE(log.CallsOf("SetForegroundWindow").empty());
-}
-
-TEST_F(MessageBoxTest, GivesTheForegroundBackOnlyAfterTheOutermostBox) {
-  desktop.UserActivates(main);
-  log.Clear();
-  host.whileShown = [this](const std::string& prompt) {
-    if (prompt == "inner") return;
-    desktop.UserActivates(other);
-    ShowBox("inner");
-    EXPECT_EQ(desktop.GetForegroundWindow(), other);
-  };
-
-  ShowBox("outer");
-
-  EXPECT_EQ(log.CallsOf("SetForegroundWindow"), Calls{"SetForegroundWindow(main)"});
-}
-
-class LostWindowTest : public MessageBoxTest {
- protected:
-  void ExpectTheForegroundStaysAfter(const std::function<void()>& happening) {
-    desktop.UserActivates(main);
-    log.Clear();
-    host.whileShown = [&](const std::string&) {
-      desktop.UserActivates(other);
-      happening();
-    };
-
-    ShowBox();
-
-    EXPECT_TRUE(log.CallsOf("SetForegroundWindow").empty());
-    EXPECT_EQ(desktop.GetForegroundWindow(), other);
-  }
-};
-
-TEST_F(LostWindowTest, GetsNoForegroundWhenItIsGone) {
-  ExpectTheForegroundStaysAfter([this] { desktop.Close(main); });
-}
-
-TEST_F(LostWindowTest, GetsNoForegroundWhenItIsHidden) {
-  ExpectTheForegroundStaysAfter([this] { desktop.Hide(main); });
-}
-
-TEST_F(LostWindowTest, GetsNoForegroundWhenItIsDisabled) {
-  ExpectTheForegroundStaysAfter([this] { desktop.SetEnabled(main, false); });
 }
 
 }  // namespace

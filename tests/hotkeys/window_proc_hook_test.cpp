@@ -110,14 +110,26 @@ TEST_F(WindowProcHookTest, ReportsTheEndOfTheProgramAndPassesTheMessageOn) {
                                 "CallWindowProcA(main, 0x312, 1, 5)"}));
 }
 
+class FormerProcedure : public WindowProcedure {
+ public:
+  std::intptr_t Call(WindowHandle, std::uint32_t, std::uintptr_t, std::intptr_t) override {
+    return 88;
+  }
+  void OnUncaught() noexcept override {}
+};
+
 TEST_F(WindowProcHookTest, PassesTheHotKeyThatRemovedTheHookToTheFormerProcedure) {
+  FormerProcedure former;
+  hook.HookWindowProc("REMOVE", kMain);
+  hotKeys.SetWindowLongPtrA(kMain, former);
+  hook.HookWindowProc("SET", kMain);
   inDispatch = [this](const std::string&) {
     table.SetHotKeys("REMOVE");
     hook.HookWindowProc("REMOVE", kMain);
     log.Clear();
   };
 
-  EXPECT_EQ(PressHotKey(1), 77);
+  EXPECT_EQ(PressHotKey(1), 88);
 
   EXPECT_EQ(log.Calls(), Calls{"CallWindowProcA(main, 0x312, 1, 5)"});
 }
