@@ -181,6 +181,7 @@ TEST_F(FakeDesktopLogTest, ObserversHearWhatHappens) {
   desktop_.Windows().AddObserver(observer);
 
   desktop_.UserMinimizes(beta);
+  desktop_.UserActivates(alpha);
   desktop_.PostMessageW(alpha, 7);
   desktop_.Close(alpha);
   desktop_.Windows().RemoveObserver(observer);

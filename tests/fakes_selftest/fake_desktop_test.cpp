@@ -15,18 +15,6 @@ using Titles = std::vector<std::string>;
 
 class FakeDesktopTest : public testing::Test {
  protected:
-  WindowHandle OpenOwned(const std::string& title, WindowHandle owner) {
-    NewWindow options;
-    options.owner = owner;
-    options.style = fakes::kWsPopup | fakes::kWsCaption;
-    return desktop_.Open(title, options);
-  }
-  WindowHandle OpenHidden(const std::string& title) {
-    NewWindow options;
-    options.visible = false;
-    return desktop_.Open(title, options);
-  }
-
   CallLog log_;
   FakeDesktop desktop_{log_};
 };
@@ -95,28 +83,6 @@ TEST_F(FakeDesktopTest, MinimizingABackgroundWindowLeavesTheForegroundAlone) {
   EXPECT_EQ(desktop_.ForegroundTitle(), "Beta");
 }
 
-TEST_F(FakeDesktopTest, MinimizingAWindowOfAHiddenOwnerSendsBothToTheBottom) {
-  const WindowHandle owner = OpenHidden("Hidden owner");
-  const WindowHandle main = OpenOwned("Main", owner);
-  desktop_.Open("Alpha");
-
-  desktop_.UserActivates(main);
-  desktop_.UserMinimizes(main);
-
-  EXPECT_EQ(desktop_.VisibleTitles(), (Titles{"Alpha", "Main"}));
-  EXPECT_EQ(desktop_.Windows().TopLevel().back(), owner);
-}
-
-TEST_F(FakeDesktopTest, MinimizingADialogLeavesItAboveItsVisibleOwner) {
-  const WindowHandle alpha = desktop_.Open("Alpha");
-  const WindowHandle find = OpenOwned("Find", alpha);
-  desktop_.Open("Beta");
-
-  desktop_.UserMinimizes(find);
-
-  EXPECT_EQ(desktop_.VisibleTitles(), (Titles{"Beta", "Find", "Alpha"}));
-}
-
 TEST_F(FakeDesktopTest, TheNextWindowIsVisibleEnabledNotMinimizedAndNoToolWindow) {
   desktop_.OpenShell();
   desktop_.Open("Alpha");
@@ -161,73 +127,6 @@ TEST_F(FakeDesktopTest, NothingIsInTheForegroundWhenNoWindowIsLeft) {
   desktop_.Close(desktop_.Open("Alpha"));
 
   EXPECT_EQ(desktop_.GetForegroundWindow(), 0);
-}
-
-TEST_F(FakeDesktopTest, MinimizingAnOwnerHidesWhatItOwns) {
-  const WindowHandle alpha = desktop_.Open("Alpha");
-  const WindowHandle find = OpenOwned("Find", alpha);
-  const WindowHandle options = OpenOwned("Options", find);
-  desktop_.Open("Beta");
-  desktop_.UserActivates(find);
-
-  desktop_.UserMinimizes(alpha);
-
-  EXPECT_FALSE(desktop_.IsWindowVisible(find));
-  EXPECT_FALSE(desktop_.IsWindowVisible(options));
-  EXPECT_FALSE(desktop_.ShowWindow(find, win32::kSwShowNormal));
-  EXPECT_TRUE(desktop_.IsWindowVisible(find));
-  EXPECT_EQ(desktop_.VisibleTitles(), (Titles{"Find", "Alpha", "Beta"}));
-}
-
-TEST_F(FakeDesktopTest, MinimizingAnOwnerTakesTheForegroundFromItsDialog) {
-  desktop_.Open("Beta");
-  const WindowHandle alpha = desktop_.Open("Alpha");
-  OpenOwned("Find", alpha);
-
-  desktop_.UserMinimizes(alpha);
-
-  EXPECT_EQ(desktop_.ForegroundTitle(), "Beta");
-}
-
-TEST_F(FakeDesktopTest, RestoringAnOwnerShowsWhatItHid) {
-  const WindowHandle alpha = desktop_.Open("Alpha");
-  const WindowHandle find = OpenOwned("Find", alpha);
-  const WindowHandle options = OpenOwned("Options", find);
-  desktop_.UserMinimizes(find);
-  desktop_.UserMinimizes(alpha);
-
-  desktop_.UserRestores(alpha);
-
-  EXPECT_TRUE(desktop_.IsWindowVisible(find));
-  EXPECT_TRUE(desktop_.IsIconic(find));
-  EXPECT_FALSE(desktop_.IsWindowVisible(options));
-}
-
-TEST_F(FakeDesktopTest, AWholeGroupComesForwardWithOneOfItsWindows) {
-  const WindowHandle alpha = desktop_.Open("Alpha");
-  const WindowHandle find = OpenOwned("Find", alpha);
-  OpenOwned("Replace", alpha);
-  desktop_.Open("Beta");
-
-  desktop_.UserActivates(find);
-
-  EXPECT_EQ(desktop_.VisibleTitles(), (Titles{"Find", "Replace", "Alpha", "Beta"}));
-}
-
-TEST_F(FakeDesktopTest, ATopmostOwnerMakesItsWindowsTopmost) {
-  const WindowHandle alpha = desktop_.Open("Alpha");
-  const WindowHandle find = OpenOwned("Find", alpha);
-  const auto is_topmost = [&](WindowHandle hwnd) {
-    return (desktop_.GetWindowLongA(hwnd, win32::kGwlExStyle) & win32::kWsExTopmost) != 0;
-  };
-
-  desktop_.SetWindowPos(alpha, win32::kHwndTopmost, 0, 0, 0, 0, 3);
-  EXPECT_TRUE(is_topmost(find));
-  EXPECT_TRUE(is_topmost(OpenOwned("Replace", alpha)));
-
-  desktop_.SetWindowPos(find, win32::kHwndNoTopmost, 0, 0, 0, 0, 3);
-  EXPECT_FALSE(is_topmost(find));
-  EXPECT_FALSE(is_topmost(alpha));
 }
 
 TEST_F(FakeDesktopTest, MovesAndSizesAWindowUnlessToldNotTo) {
