@@ -41,7 +41,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Case{"EmptyMatchesEmpty", "", "", true},
                     Case{"TextAgainstEmptyTitle", "Note", "", false},
                     Case{"MarkInTheMiddleIsPlain", "a - *** b", "x a - *** b y", true},
-                    Case{"FiveStarMarkIsPlain", "a -***", "a - b", false},
+                    Case{"MarkWithoutABlankIsPlain", "a -***", "a - b", false},
                     Case{"Cyrillic", "Блокнот", "Безымянный — Блокнот", true},
                     Case{"CyrillicOtherCase", "блокнот", "Безымянный — Блокнот", false},
                     Case{"Japanese", "メモ帳", "無題 - メモ帳", true},

@@ -1,0 +1,115 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "desktop/window_actions.h"
+#include "platform/win32_constants.h"
+#include "tests/desktop/activation_case.h"
+
+namespace korvale {
+namespace {
+
+class ActivationOfOwned : public Activation {
+ protected:
+  void SetUp() override {
+    Activation::SetUp();
+    owned = desktop.Open("Owned", {.owner = alpha});
+    desktop.UserMinimizes(alpha);
+    desktop.Windows().Find(owned)->hiddenByOwner = true;
+    desktop.UserActivates(beta);
+    log.Clear();
+  }
+
+  WindowHandle owned = 0;
+};
+
+TEST_F(ActivationOfOwned, MinimizedOwnerIsRestoredFirst) {
+  WindowTriple window = Triple(owned, "Owned");
+  EXPECT_EQ(Activate(window), 1);
+  EXPECT_FALSE(desktop.IsIconic(alpha));
+  EXPECT_EQ(desktop.ForegroundTitle(), "Owned");
+  EXPECT_EQ(log.Take(), (Calls{"ShowWindow(Alpha, SW_RESTORE)", "SetForegroundWindow(Owned)"}));
+}
+
+TEST_F(ActivationOfOwned, MinimizedOwnerStaysWhenNotToAct) {
+  WindowTriple window = Triple(owned, "Owned");
+  EXPECT_EQ(Validate(window), 2);
+  EXPECT_EQ(log.Take(), Calls{});
+}
+
+TEST_F(ActivationOfOwned, OwnerThatIsNotMinimizedStays) {
+  desktop.UserRestores(alpha);
+  desktop.UserActivates(beta);
+  WindowTriple window = Triple(owned, "Owned");
+  EXPECT_EQ(Activate(window), 1);
+  EXPECT_EQ(log.Take(), Calls{"SetForegroundWindow(Owned)"});
+}
+
+TEST_F(ActivationOfOwned, OwnerWithoutAMinimizeBoxStays) {
+  desktop.Windows().Find(alpha)->style &= ~win32::kWsMinimizeBox;
+  WindowTriple window = Triple(owned, "Owned");
+  EXPECT_EQ(Activate(window), 2);
+  EXPECT_EQ(log.Take(), Calls{});
+}
+
+TEST_F(ActivationOfOwned, RefusedRestoreOfTheOwnerFails) {
+  desktop.Windows().Find(alpha)->visible = false;
+  WindowTriple window = Triple(owned, "Owned");
+  EXPECT_EQ(Activate(window), 0);
+  EXPECT_EQ(log.Take(), Calls{"ShowWindow(Alpha, SW_RESTORE)"});
+}
+
+TEST_F(ActivationOfOwned, HungOwnerIsNotWaitedFor) {
+  desktop.SetHung(alpha, true);
+  WindowTriple window = Triple(owned, "Owned");
+  Activate(window);
+  EXPECT_EQ(log.Take(), Calls{"ShowWindowAsync(Alpha, SW_RESTORE)"});
+  EXPECT_EQ(desktop.CallsThatWaited(), 0);
+}
+
+TEST_F(Activation, PreviousWindowSurvivesANewTitle) {
+  previous.current = Triple(alpha);
+  desktop.Rename(alpha, "Новое");
+  EXPECT_EQ(Activate(previous.current), 1);
+  EXPECT_EQ(previous.current, Triple(alpha, "Новое"));
+}
+
+TEST_F(Activation, AlternateSurvivesANewTitle) {
+  previous.alternate = Triple(alpha);
+  desktop.Rename(alpha, "New");
+  EXPECT_EQ(Activate(previous.alternate), 1);
+  EXPECT_EQ(previous.alternate, Triple(alpha, "New"));
+}
+
+TEST_F(Activation, TitleOfTheRecordGoesIntoTheCallersText) {
+  previous.current = Triple(alpha, "Old");
+  previous.alternate = Triple(alpha, "Older");
+  WindowTriple window = Triple(alpha, "Gamma");
+  EXPECT_EQ(Validate(window), 1);
+  EXPECT_EQ(window.text, "Alpha");
+  EXPECT_EQ(previous.current.text, "Alpha");
+  EXPECT_EQ(previous.alternate.text, "Alpha");
+}
+
+TEST_F(Activation, RecordOfOtherWindowsStays) {
+  previous.current = Triple(beta, "Old");
+  WindowTriple window = Triple(alpha);
+  EXPECT_EQ(Validate(window), 1);
+  EXPECT_EQ(previous.current.text, "Old");
+}
+
+TEST_F(Activation, RecordedTitleThatChangesBetweenItsReadsClearsTheHandle) {
+  previous.current = Triple(alpha);
+  log.WhenCalled("IsWindowVisible(Alpha)", [&] {
+    log.WhenCalled("GetWindowTextLengthA(Alpha)", [&] {
+      log.WhenCalled("GetWindowTextA(Alpha, 64)", [&] {
+        log.WhenCalled("GetWindowTextLengthA(Alpha)", [&] { desktop.Rename(alpha, "Gamma"); });
+      });
+    });
+  });
+  EXPECT_EQ(Validate(previous.current), 0);
+  EXPECT_EQ(previous.current.handle, 0);
+}
+
+}  // namespace
+}  // namespace korvale

@@ -1,0 +1,128 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "app/core/options.h"
+#include "desktop/foreground_tracker.h"
+#include "desktop/previous_window.h"
+#include "desktop/tag_list.h"
+#include "desktop/window_actions.h"
+#include "desktop/window_enumeration.h"
+#include "desktop/window_filter.h"
+#include "platform/settings_store.h"
+#include "tests/fakes/call_log.h"
+#include "tests/fakes/fake_desktop.h"
+#include "tests/fakes/fake_loaded_forms.h"
+#include "tests/fakes/fake_main_window.h"
+#include "tests/fakes/fake_message_boxes.h"
+
+namespace korvale {
+
+inline constexpr int kOurProcess = 1;
+
+/// Takes what is saved, one line a value, and holds nothing.
+class SavedLines : public SettingsStore {
+ public:
+  std::optional<std::string> GetSetting(const std::string& /*appName*/,
+                                        const std::string& /*section*/,
+                                        const std::string& /*key*/) override {
+    return std::nullopt;
+  }
+  Pairs GetAllSettings(const std::string& /*appName*/, const std::string& /*section*/) override {
+    return {};
+  }
+  bool SaveSetting(const std::string& appName, const std::string& section, const std::string& key,
+                   const std::string& value) override {
+    lines.push_back(appName + "|" + section + "|" + key + "|" + value);
+    return true;
+  }
+  bool DeleteSetting(const std::string& /*appName*/, const std::string& /*section*/,
+                     const std::string& /*key*/) override {
+    return false;
+  }
+  bool DeleteSection(const std::string& /*appName*/, const std::string& /*section*/) override {
+    return false;
+  }
+
+  std::vector<std::string> lines;
+};
+
+/// The routines of desktop/ put together on a fake desktop that holds the main window, called
+/// "Main" in the log, and the hidden window that owns it, called "Owner".
+class DesktopCase : public testing::Test {
+ protected:
+  DesktopCase()
+      : tags{MenuItemArray(menu, "mnuWindowParentList"), {}},
+        passes(tags, desktop, store),
+        filter(desktop, options, forms, mainWindow),
+        enumeration(desktop, desktop, filter, mainWindow, passes),
+        actions(desktop, desktop, filter, enumeration, mainWindow, previous, messages, "Korvale"),
+        tracker(desktop, filter, actions, mainWindow, previous, tags) {
+    options.Create();
+    NewWindow hidden;
+    hidden.className = "Korvale.Owner";
+    hidden.visible = false;
+    hidden.process = kOurProcess;
+    owner = desktop.Open("Owner", hidden);
+    NewWindow shown;
+    shown.className = "Korvale.frmMain";
+    shown.owner = owner;
+    shown.process = kOurProcess;
+    mainWindow.handle = desktop.Open("Main", shown);
+    mainWindow.caption = "Main";
+    mainWindow.onCall = [this](const std::string& call) { log.Add(call); };
+    MenuItem& first = tags.mnuWindowParentList.Load(0);
+    first.caption = "&0  Previous Window";
+    first.tag = "7";
+  }
+
+  MenuItem& AddTag(int tag, const std::string& text, const std::string& className = "") {
+    MenuItem& entry = tags.mnuWindowParentList.Load(tag);
+    entry.caption = "&" + std::to_string(tag) + "  " + text;
+    entry.tag = "0";
+    entry.visible = true;
+    tags.ParentWindowClass.at(static_cast<std::size_t>(tag - 1)) = className;
+    return entry;
+  }
+
+  std::string ClassOfTag(int tag) const {
+    return tags.ParentWindowClass.at(static_cast<std::size_t>(tag - 1));
+  }
+
+  WindowHandle HandleOfTag(int tag) const { return TagHandle(*tags.mnuWindowParentList.Find(tag)); }
+
+  /// The calls of `action`, reads included.
+  template <typename Action>
+  std::vector<std::string> CallsOf(Action action) {
+    log.Clear();
+    log.IncludeReads(true);
+    action();
+    log.IncludeReads(false);
+    return log.Take();
+  }
+
+  CallLog log;
+  FakeDesktop desktop{log};
+  FakeMainWindow mainWindow;
+  FakeLoadedForms forms;
+  FakeMessageBoxes messages;
+  OptionsHolder options;
+  SavedLines store;
+  PreviousWindow previous;
+  MenuItem menu;
+  TagList tags;
+  TagListPasses passes;
+  WindowFilter filter;
+  WindowEnumeration enumeration;
+  WindowActions actions;
+  ForegroundTracker tracker;
+  WindowHandle owner = 0;
+};
+
+using Calls = std::vector<std::string>;
+
+}  // namespace korvale

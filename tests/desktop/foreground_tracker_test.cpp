@@ -1,0 +1,246 @@
+#include "desktop/foreground_tracker.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "platform/win32_constants.h"
+#include "tests/desktop/tracking_case.h"
+
+namespace korvale {
+namespace {
+
+TEST_F(ForegroundTracking, FirstTickOnlyRemembersTheForeground) {
+  EXPECT_EQ(previous.current, WindowTriple{});
+  EXPECT_EQ(mainWindow.focusTag, "");
+  EXPECT_TRUE(mainWindow.timer.intervals.empty());
+}
+
+TEST_F(ForegroundTracking, NewForegroundBecomesThePreviousWindow) {
+  WorkIn(alpha);
+  EXPECT_EQ(previous.current, Triple(alpha));
+  EXPECT_EQ(previous.alternate, WindowTriple{});
+  EXPECT_EQ(mainWindow.txtWindow, "Alpha");
+  EXPECT_EQ(mainWindow.txtWindowClass, "Notepad");
+  EXPECT_TRUE(mainWindow.previousWindowItems);
+}
+
+TEST_F(ForegroundTracking, WindowBeforeBecomesTheAlternate) {
+  WorkIn(alpha);
+  WorkIn(beta);
+  EXPECT_EQ(previous.current, Triple(beta));
+  EXPECT_EQ(previous.alternate, Triple(alpha));
+  WorkIn(gamma);
+  EXPECT_EQ(previous.current, Triple(gamma));
+  EXPECT_EQ(previous.alternate, Triple(beta));
+}
+
+TEST_F(ForegroundTracking, EachChangeSetsTheIntervalTo100) {
+  WorkIn(alpha);
+  tracker.tmrWindow_Timer();
+  WorkIn(beta);
+  EXPECT_EQ(mainWindow.timer.intervals, (std::vector<std::uint32_t>{100, 100}));
+}
+
+TEST_F(ForegroundTracking, MainWindowDoesNotMoveTheRecord) {
+  WorkIn(alpha);
+  WorkIn(beta);
+  WorkIn(mainWindow.handle);
+  EXPECT_EQ(mainWindow.focusTag, kGotFocus);
+  EXPECT_EQ(previous.current, Triple(beta));
+  EXPECT_EQ(previous.alternate, Triple(alpha));
+  EXPECT_EQ(mainWindow.txtWindow, "Beta");
+}
+
+TEST_F(ForegroundTracking, MainWindowBecomesTheAlternateWhenTheUserLeavesIt) {
+  WorkIn(alpha);
+  WorkIn(mainWindow.handle);
+  WorkIn(beta);
+  EXPECT_EQ(mainWindow.focusTag, "");
+  EXPECT_EQ(previous.current, Triple(beta));
+  EXPECT_EQ(previous.alternate, Triple(mainWindow.handle));
+}
+
+TEST_F(ForegroundTracking, MainWindowGoesIntoTheRecordUnderItsCaption) {
+  WorkIn(alpha);
+  WorkIn(mainWindow.handle);
+  mainWindow.caption = "Korvale - Work";
+  WorkIn(beta);
+  EXPECT_EQ(previous.alternate.text, "Korvale - Work");
+}
+
+TEST_F(ForegroundTracking, BackAndForthLeavesTheWindowThePreviousOne) {
+  WorkIn(alpha);
+  WorkIn(mainWindow.handle);
+  WorkIn(alpha);
+  EXPECT_EQ(previous.current, Triple(alpha));
+  EXPECT_EQ(previous.alternate, Triple(mainWindow.handle));
+  WorkIn(mainWindow.handle);
+  EXPECT_EQ(mainWindow.focusTag, kGotFocus);
+  EXPECT_EQ(previous.current, Triple(alpha));
+}
+
+TEST_F(ForegroundTracking, AlternateKeepsItsTitleAndTakesTheClassOfNow) {
+  WorkIn(alpha);
+  desktop.Rename(alpha, "Alpha 2");
+  desktop.Windows().Find(alpha)->className = "Notepad 2";
+  WorkIn(beta);
+  EXPECT_EQ(previous.alternate, (WindowTriple{alpha, "Alpha", "Notepad 2"}));
+}
+
+TEST_F(ForegroundTracking, LastOtherForegroundIsNeverTheMainWindow) {
+  WorkIn(alpha);
+  EXPECT_EQ(previous.lastOtherForeground, alpha);
+  WorkIn(mainWindow.handle);
+  EXPECT_EQ(previous.lastOtherForeground, alpha);
+  desktop.LoseForeground();
+  tracker.tmrWindow_Timer();
+  EXPECT_EQ(previous.lastOtherForeground, 0);
+}
+
+TEST_F(ForegroundTracking, LastOtherForegroundIsKeptForUnselectableWindowsToo) {
+  WorkIn(desktop.FindWindowA("Program Manager"));
+  EXPECT_EQ(previous.lastOtherForeground, desktop.FindWindowA("Program Manager"));
+  EXPECT_EQ(previous.current, WindowTriple{});
+}
+
+TEST_F(ForegroundTracking, TaskbarDesktopAndHiddenOwnerNeverBecomeThePreviousWindow) {
+  WorkIn(alpha);
+  WorkIn(desktop.FindWindowA("Program Manager"));
+  WorkIn(desktop.FindWindowA(""));
+  desktop.Reveal(owner);
+  WorkIn(owner);
+  EXPECT_EQ(previous.current, Triple(alpha));
+  EXPECT_EQ(previous.alternate, WindowTriple{});
+}
+
+TEST_F(ForegroundTracking, NoForegroundChangesNothing) {
+  WorkIn(alpha);
+  log.Clear();
+  desktop.LoseForeground();
+  tracker.tmrWindow_Timer();
+  EXPECT_EQ(previous.current, Triple(alpha));
+  EXPECT_EQ(log.Take(), Calls{});
+}
+
+TEST_F(ForegroundTracking, HiddenForegroundChangesNothing) {
+  desktop.UserActivates(alpha);
+  desktop.Windows().Find(alpha)->visible = false;
+  tracker.tmrWindow_Timer();
+  EXPECT_EQ(previous.current, WindowTriple{});
+}
+
+TEST_F(ForegroundTracking, SameForegroundChangesNothing) {
+  WorkIn(alpha);
+  previous.current.text = "untouched";
+  tracker.tmrWindow_Timer();
+  EXPECT_EQ(previous.current.text, "untouched");
+}
+
+TEST_F(ForegroundTracking, UntitledWindowIsPassedOverWithoutTheOption) {
+  const WindowHandle untitled = desktop.Open("");
+  WorkIn(alpha);
+  WorkIn(untitled);
+  EXPECT_EQ(previous.current, Triple(alpha));
+}
+
+TEST_F(ForegroundTracking, UntitledWindowIsShownAsSuch) {
+  options.Get().booAllowNoTextWindow = true;
+  WorkIn(desktop.Open("", {.className = "Bare"}));
+  EXPECT_EQ(mainWindow.txtWindow, "(window without a title)");
+  EXPECT_EQ(mainWindow.txtWindowClass, "Bare");
+  EXPECT_EQ(previous.current.text, "");
+}
+
+TEST_F(ForegroundTracking, UnacceptedWindowIsLookedAtAgainOnTheNextTick) {
+  const WindowHandle untitled = desktop.Open("");
+  WorkIn(untitled);
+  WorkIn(untitled);
+  EXPECT_EQ(mainWindow.timer.intervals.size(), 2U);
+  options.Get().booAllowNoTextWindow = true;
+  tracker.tmrWindow_Timer();
+  EXPECT_EQ(previous.current.handle, untitled);
+}
+
+TEST_F(ForegroundTracking, TaggedWindowBecomesThePreviousWindowDespiteTheOptions) {
+  AddTag(3, "", "Bare");
+  const WindowHandle untitled = desktop.Open("", {.className = "Bare"});
+  WorkIn(untitled);
+  EXPECT_EQ(previous.current, Triple(untitled));
+  EXPECT_EQ(HandleOfTag(3), untitled);
+}
+
+TEST_F(ForegroundTracking, TaggedToolAndModalWindowsAreAcceptedToo) {
+  AddTag(1, "Tool", "Window");
+  AddTag(2, "Frame", "Window");
+  const WindowHandle tool = desktop.Open("Tool", {.exStyle = win32::kWsExToolWindow});
+  const WindowHandle frame = desktop.Open("Frame", {.style = win32::kDsModalFrame});
+  WorkIn(tool);
+  EXPECT_EQ(previous.current, Triple(tool));
+  WorkIn(frame);
+  EXPECT_EQ(previous.current, Triple(frame));
+}
+
+TEST_F(ForegroundTracking, OnlyTheFirstFittingTagTakesTheWindow) {
+  AddTag(2, "Tool", "Other");
+  AddTag(3, "Other", "Window");
+  AddTag(5, "Tool", "Window");
+  AddTag(7, "Tool", "Window");
+  const WindowHandle tool = desktop.Open("Tool", {.exStyle = win32::kWsExToolWindow});
+  WorkIn(tool);
+  EXPECT_EQ(HandleOfTag(2), 0);
+  EXPECT_EQ(HandleOfTag(3), 0);
+  EXPECT_EQ(HandleOfTag(5), tool);
+  EXPECT_EQ(HandleOfTag(7), 0);
+}
+
+TEST_F(ForegroundTracking, TagWithoutAClassAcceptsNoWindow) {
+  AddTag(3, "Tool");
+  WorkIn(desktop.Open("Tool", {.exStyle = win32::kWsExToolWindow}));
+  EXPECT_EQ(previous.current, WindowTriple{});
+  EXPECT_EQ(HandleOfTag(3), 0);
+}
+
+TEST_F(ForegroundTracking, AcceptedWindowLeavesTheTagsAlone) {
+  AddTag(3, "Alpha", "Notepad");
+  WorkIn(alpha);
+  EXPECT_EQ(HandleOfTag(3), 0);
+}
+
+TEST_F(ForegroundTracking, LookingAnewTakesTheSameForegroundOnceMore) {
+  tracker.LookAnew();
+  tracker.tmrWindow_Timer();
+  EXPECT_EQ(mainWindow.focusTag, kGotFocus);
+}
+
+TEST_F(ForegroundTracking, StepsComeInTheirOrder) {
+  desktop.UserActivates(gamma);
+  desktop.Windows().Find(gamma)->extraTextLength = 9;
+  Calls calls = CallsOf([&] { tracker.tmrWindow_Timer(); });
+  const Calls expected = {"GetForegroundWindow()",
+                          "GetWindowTextLengthA(Gamma)",
+                          "GetWindowTextA(Gamma, 15)",
+                          "GetWindowTextLengthA(Gamma)",
+                          "GetWindowTextA(Gamma, 15)",
+                          "GetClassNameA(Gamma, 255)",
+                          "IsWindow(Gamma)",
+                          "GetWindow(Main, GW_OWNER)",
+                          "IsWindowVisible(Gamma)",
+                          "GetWindowTextLengthA(Gamma)",
+                          "GetWindowTextA(Gamma, 15)",
+                          "GetWindowLongA(Gamma, GWL_EXSTYLE)",
+                          "GetWindowLongA(Gamma, GWL_STYLE)",
+                          "GetClassNameA(Gamma, 255)",
+                          "GetClassNameA(0, 255)",
+                          "GetWindowLongA(Main, GWL_EXSTYLE)",
+                          "GetWindowLongA(Gamma, GWL_EXSTYLE)",
+                          "IsWindow(Gamma)"};
+  ASSERT_GT(calls.size(), expected.size());
+  EXPECT_EQ(calls[calls.size() - 2], "EnablePreviousWindowItems(true)");
+  EXPECT_EQ(calls.back(), "ShowTargetWindow(\"Gamma\", \"Window\")");
+  calls.resize(expected.size());
+  EXPECT_EQ(calls, expected);
+}
+
+}  // namespace
+}  // namespace korvale

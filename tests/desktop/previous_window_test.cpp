@@ -1,0 +1,166 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "desktop/foreground_tracker.h"
+#include "platform/win32_constants.h"
+#include "tests/desktop/tracking_case.h"
+
+namespace korvale {
+namespace {
+
+class PreviousWindowValidation : public ForegroundTracking {
+ protected:
+  void ExpectNothing() {
+    EXPECT_EQ(previous.current, WindowTriple{});
+    EXPECT_EQ(previous.alternate, WindowTriple{});
+    EXPECT_FALSE(mainWindow.previousWindowItems);
+    EXPECT_EQ(mainWindow.txtWindow, "");
+    EXPECT_EQ(mainWindow.txtWindowClass, "");
+  }
+};
+
+TEST_F(PreviousWindowValidation, RefreshesTheTitle) {
+  WorkIn(alpha);
+  desktop.Rename(alpha, "無題");
+  tracker.ValidatePreviousWindow();
+  EXPECT_EQ(previous.current.text, "無題");
+  EXPECT_EQ(mainWindow.txtWindow, "無題");
+}
+
+TEST_F(PreviousWindowValidation, FallsBackToTheAlternateWhenTheWindowCloses) {
+  WorkIn(alpha);
+  WorkIn(beta);
+  desktop.Close(beta);
+  tracker.ValidatePreviousWindow();
+  EXPECT_EQ(previous.current, Triple(alpha));
+  EXPECT_EQ(previous.alternate, WindowTriple{});
+  EXPECT_TRUE(mainWindow.previousWindowItems);
+  EXPECT_EQ(mainWindow.txtWindow, "Alpha");
+}
+
+TEST_F(PreviousWindowValidation, FallsBackWhenTheWindowIsDisabledOrHidden) {
+  WorkIn(alpha);
+  WorkIn(beta);
+  WorkIn(gamma);
+  desktop.SetEnabled(gamma, false);
+  tracker.ValidatePreviousWindow();
+  EXPECT_EQ(previous.current, Triple(beta));
+  previous.alternate = Triple(alpha);
+  desktop.Hide(beta);
+  tracker.ValidatePreviousWindow();
+  EXPECT_EQ(previous.current, Triple(alpha));
+}
+
+TEST_F(PreviousWindowValidation, EndsInNothingWhenTheAlternateIsTheMainWindow) {
+  WorkIn(alpha);
+  WorkIn(mainWindow.handle);
+  WorkIn(beta);
+  desktop.Close(beta);
+  tracker.ValidatePreviousWindow();
+  ExpectNothing();
+}
+
+TEST_F(PreviousWindowValidation, EndsInNothingWhenTheAlternateIsGoneToo) {
+  WorkIn(alpha);
+  WorkIn(beta);
+  desktop.Close(alpha);
+  desktop.Close(beta);
+  tracker.ValidatePreviousWindow();
+  ExpectNothing();
+}
+
+TEST_F(PreviousWindowValidation, EndsInNothingWithoutARecord) {
+  tracker.ValidatePreviousWindow();
+  ExpectNothing();
+}
+
+TEST_F(PreviousWindowValidation, NeverChangesAWindowOrShowsAMessage) {
+  WorkIn(alpha);
+  WorkIn(beta);
+  desktop.UserMinimizes(beta);
+  log.Clear();
+  tracker.ValidatePreviousWindow();
+  EXPECT_EQ(log.Take(),
+            (Calls{"EnablePreviousWindowItems(true)", "ShowTargetWindow(\"Beta\", \"WordPad\")"}));
+  desktop.Close(beta);
+  tracker.ValidatePreviousWindow();
+  EXPECT_TRUE(messages.shown.empty());
+}
+
+class RecordMoves : public ForegroundTracking {};
+
+TEST_F(RecordMoves, WindowBeforeBecomesTheAlternate) {
+  WorkIn(alpha);
+  tracker.MoveRecordTo(Triple(beta));
+  EXPECT_EQ(previous.current, Triple(beta));
+  EXPECT_EQ(previous.alternate, Triple(alpha));
+}
+
+TEST_F(RecordMoves, MainWindowBecomesTheAlternateWhileItIsInFront) {
+  WorkIn(alpha);
+  WorkIn(mainWindow.handle);
+  tracker.MoveRecordTo(Triple(beta));
+  EXPECT_EQ(previous.current, Triple(beta));
+  EXPECT_EQ(previous.alternate, Triple(mainWindow.handle));
+  EXPECT_EQ(mainWindow.focusTag, "");
+}
+
+TEST_F(RecordMoves, AlternateItselfMayBecomeTheCurrentOne) {
+  WorkIn(alpha);
+  WorkIn(beta);
+  tracker.MoveRecordTo(previous.alternate);
+  EXPECT_EQ(previous.current, Triple(alpha));
+  EXPECT_EQ(previous.alternate, Triple(beta));
+}
+
+class AlwaysOnTopMarks : public ForegroundTracking {
+ protected:
+  void SetExStyle(WindowHandle hwnd, std::int32_t exStyle) {
+    desktop.Windows().Find(hwnd)->exStyle = exStyle;
+  }
+};
+
+TEST_F(AlwaysOnTopMarks, FollowTheWindows) {
+  WorkIn(alpha);
+  SetExStyle(mainWindow.handle, win32::kWsExTopmost);
+  SetExStyle(alpha, win32::kWsExTopmost);
+  tracker.udmRefreshAlwaysOnTopMenuChecked();
+  EXPECT_TRUE(mainWindow.alwaysOnTop);
+  EXPECT_TRUE(mainWindow.previousAlwaysOnTop);
+  SetExStyle(mainWindow.handle, win32::kWsExToolWindow);
+  SetExStyle(alpha, win32::kWsExToolWindow);
+  tracker.udmRefreshAlwaysOnTopMenuChecked();
+  EXPECT_FALSE(mainWindow.alwaysOnTop);
+  EXPECT_FALSE(mainWindow.previousAlwaysOnTop);
+}
+
+TEST_F(AlwaysOnTopMarks, WithoutExtendedStyleTheMainWindowKeepsItsMark) {
+  WorkIn(alpha);
+  SetExStyle(mainWindow.handle, 0);
+  SetExStyle(alpha, 0);
+  for (const bool mark : {true, false}) {
+    mainWindow.alwaysOnTop = mark;
+    mainWindow.previousAlwaysOnTop = true;
+    tracker.udmRefreshAlwaysOnTopMenuChecked();
+    EXPECT_EQ(mainWindow.alwaysOnTop, mark);
+    EXPECT_FALSE(mainWindow.previousAlwaysOnTop);
+  }
+}
+
+TEST_F(AlwaysOnTopMarks, WithoutAPreviousWindowItsMarkIsTaken) {
+  mainWindow.previousAlwaysOnTop = true;
+  tracker.udmRefreshAlwaysOnTopMenuChecked();
+  EXPECT_FALSE(mainWindow.previousAlwaysOnTop);
+}
+
+TEST_F(AlwaysOnTopMarks, AreRefreshedWhenThePreviousWindowChanges) {
+  SetExStyle(alpha, win32::kWsExTopmost);
+  WorkIn(alpha);
+  EXPECT_TRUE(mainWindow.previousAlwaysOnTop);
+  WorkIn(beta);
+  EXPECT_FALSE(mainWindow.previousAlwaysOnTop);
+}
+
+}  // namespace
+}  // namespace korvale

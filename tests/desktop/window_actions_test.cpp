@@ -1,0 +1,261 @@
+#include "desktop/window_actions.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "desktop/timer_pause.h"
+#include "platform/run_time_error.h"
+#include "platform/win32_constants.h"
+#include "tests/desktop/desktop_case.h"
+
+namespace korvale {
+namespace {
+
+constexpr const char* kMinimize = "HOTKEY_MINIMIZE_PARENT";
+constexpr const char* kMaximize = "HOTKEY_RESTORE/MAXIMIZE_PARENT";
+
+class ForegroundKeys : public DesktopCase {
+ protected:
+  void SetUp() override {
+    beta = desktop.Open("Beta");
+    alpha = desktop.Open("Alpha");
+    previous.current = {alpha, "Alpha", "Window"};
+    previous.alternate = {beta, "Beta", "Window"};
+    log.Clear();
+  }
+
+  /// The calls of a hot key between the stop and the start of the timers.
+  Calls Press(const char* name) {
+    actions.MinimizeOrMaximizeForeground(name);
+    Calls calls = log.Take();
+    EXPECT_GE(calls.size(), 2U);
+    EXPECT_EQ(calls.front(), "udmTimersEnabled(false)");
+    EXPECT_EQ(calls.back(), "udmTimersEnabled(true)");
+    return {calls.begin() + 1, calls.end() - 1};
+  }
+
+  void WithoutStyle(std::int32_t bit) { desktop.Windows().Find(alpha)->style &= ~bit; }
+
+  WindowHandle alpha = 0;
+  WindowHandle beta = 0;
+};
+
+TEST_F(ForegroundKeys, MinimizeKeyBringsTheAlternateForward) {
+  desktop.Open("Gamma");
+  desktop.UserActivates(alpha);
+  EXPECT_EQ(Press(kMinimize),
+            (Calls{"ShowWindow(Alpha, SW_MINIMIZE)", "SetForegroundWindow(Beta)"}));
+  EXPECT_TRUE(desktop.IsIconic(alpha));
+  EXPECT_EQ(desktop.ForegroundTitle(), "Beta");
+}
+
+TEST_F(ForegroundKeys, MinimizeKeyInTheMainWindowBringsTheCurrentForward) {
+  desktop.Windows().Find(mainWindow.handle)->owner = 0;
+  desktop.UserActivates(beta);
+  desktop.UserActivates(mainWindow.handle);
+  mainWindow.focusTag = kGotFocus;
+  EXPECT_EQ(Press(kMinimize),
+            (Calls{"ShowWindow(Main, SW_MINIMIZE)", "SetForegroundWindow(Alpha)"}));
+  EXPECT_EQ(desktop.ForegroundTitle(), "Alpha");
+}
+
+TEST_F(ForegroundKeys, MinimizeKeyTakesTheMinimizableOwner) {
+  const WindowHandle owned = desktop.Open("Owned", {.owner = alpha});
+  EXPECT_EQ(Press(kMinimize).front(), "ShowWindow(Alpha, SW_MINIMIZE)");
+  EXPECT_FALSE(desktop.IsIconic(owned));
+}
+
+TEST_F(ForegroundKeys, MinimizeKeyTakesTheWindowWhenItsOwnerHasNoMinimizeBox) {
+  WithoutStyle(win32::kWsMinimizeBox);
+  desktop.Open("Owned", {.owner = alpha});
+  EXPECT_EQ(Press(kMinimize).front(), "ShowWindow(Owned, SW_MINIMIZE)");
+}
+
+TEST_F(ForegroundKeys, MinimizeKeyLeavesAWindowWithoutMinimizeBoxAndAllOthersAlone) {
+  WithoutStyle(win32::kWsMinimizeBox);
+  EXPECT_EQ(Press(kMinimize), Calls{});
+  EXPECT_EQ(desktop.ForegroundTitle(), "Alpha");
+}
+
+TEST_F(ForegroundKeys, MinimizeKeyLeavesADisabledWindowAlone) {
+  desktop.SetEnabled(alpha, false);
+  EXPECT_EQ(Press(kMinimize), Calls{});
+  EXPECT_EQ(desktop.ForegroundTitle(), "Alpha");
+}
+
+TEST_F(ForegroundKeys, MinimizeKeyLeavesAMinimizedWindowAlone) {
+  desktop.Windows().Find(alpha)->iconic = true;
+  EXPECT_EQ(Press(kMinimize), Calls{});
+}
+
+TEST_F(ForegroundKeys, MinimizeKeyBringsNothingForwardThatIsHidden) {
+  desktop.Hide(beta);
+  EXPECT_EQ(Press(kMinimize), Calls{"ShowWindow(Alpha, SW_MINIMIZE)"});
+}
+
+TEST_F(ForegroundKeys, MinimizeKeyBringsNothingForwardThatIsMinimized) {
+  desktop.UserMinimizes(beta);
+  EXPECT_EQ(Press(kMinimize), Calls{"ShowWindow(Alpha, SW_MINIMIZE)"});
+  EXPECT_TRUE(desktop.IsIconic(beta));
+}
+
+TEST_F(ForegroundKeys, MinimizeKeyWithoutAnAlternateOnlyMinimizes) {
+  previous.alternate = {};
+  EXPECT_EQ(Press(kMinimize), Calls{"ShowWindow(Alpha, SW_MINIMIZE)"});
+}
+
+TEST_F(ForegroundKeys, MinimizeKeyShowsNoMessageWhenTheAlternateCannotCome) {
+  desktop.Open("Front");
+  desktop.SetEnabled(beta, false);
+  EXPECT_EQ(Press(kMinimize), Calls{"ShowWindow(Front, SW_MINIMIZE)"});
+  EXPECT_TRUE(messages.shown.empty());
+}
+
+TEST_F(ForegroundKeys, MinimizeKeyDoesNotWaitForAHungWindow) {
+  desktop.SetHung(alpha, true);
+  EXPECT_EQ(Press(kMinimize).front(), "ShowWindowAsync(Alpha, SW_MINIMIZE)");
+  EXPECT_EQ(desktop.CallsThatWaited(), 0);
+}
+
+TEST_F(ForegroundKeys, MaximizeKeyTogglesBetweenMaximizedAndRestored) {
+  EXPECT_EQ(Press(kMaximize), Calls{"ShowWindow(Alpha, SW_MAXIMIZE)"});
+  EXPECT_TRUE(desktop.IsZoomed(alpha));
+  EXPECT_EQ(Press(kMaximize), Calls{"ShowWindow(Alpha, SW_RESTORE)"});
+  EXPECT_FALSE(desktop.IsZoomed(alpha));
+  EXPECT_EQ(Press(kMaximize), Calls{"ShowWindow(Alpha, SW_MAXIMIZE)"});
+}
+
+TEST_F(ForegroundKeys, MaximizeKeyLeavesAWindowWithoutMaximizeBoxAlone) {
+  WithoutStyle(win32::kWsMaximizeBox);
+  EXPECT_EQ(Press(kMaximize), Calls{});
+}
+
+TEST_F(ForegroundKeys, MaximizeKeyNeedsNoMinimizeBox) {
+  WithoutStyle(win32::kWsMinimizeBox);
+  EXPECT_EQ(Press(kMaximize), Calls{"ShowWindow(Alpha, SW_MAXIMIZE)"});
+}
+
+TEST_F(ForegroundKeys, MaximizeKeyLeavesAMinimizedWindowAlone) {
+  desktop.Windows().Find(alpha)->iconic = true;
+  EXPECT_EQ(Press(kMaximize), Calls{});
+}
+
+TEST_F(ForegroundKeys, MaximizeKeyLeavesADisabledWindowAlone) {
+  desktop.SetEnabled(alpha, false);
+  EXPECT_EQ(Press(kMaximize), Calls{});
+}
+
+TEST_F(ForegroundKeys, MaximizeKeyDoesNotWaitForAHungWindow) {
+  desktop.SetHung(alpha, true);
+  EXPECT_EQ(Press(kMaximize), Calls{"ShowWindowAsync(Alpha, SW_MAXIMIZE)"});
+  EXPECT_EQ(desktop.CallsThatWaited(), 0);
+}
+
+TEST_F(ForegroundKeys, NothingHappensWithoutAForegroundWindow) {
+  desktop.LoseForeground();
+  EXPECT_EQ(Press(kMinimize), Calls{});
+  EXPECT_EQ(Press(kMaximize), Calls{});
+}
+
+TEST_F(ForegroundKeys, OtherNamesDoNothing) {
+  for (const char* const name : {"", "HOTKEY_PARENT1", "hotkey_minimize_parent"}) {
+    EXPECT_EQ(CallsOf([&] { actions.MinimizeOrMaximizeForeground(name); }), Calls{});
+  }
+}
+
+TEST_F(ForegroundKeys, TimersRunAgainAfterAnError) {
+  log.WhenCalled("IsWindowEnabled", [] { throw RunTimeError(RunTimeError::kOutOfMemory); });
+  EXPECT_THROW(actions.MinimizeOrMaximizeForeground(kMinimize), RunTimeError);
+  EXPECT_EQ(log.Take(), (Calls{"udmTimersEnabled(false)", "udmTimersEnabled(true)"}));
+}
+
+TEST_F(ForegroundKeys, MinimizeKeyReadsInItsOrder) {
+  Calls calls = CallsOf([&] { actions.MinimizeOrMaximizeForeground(kMinimize); });
+  calls.resize(10);
+  EXPECT_EQ(calls,
+            (Calls{"udmTimersEnabled(false)", "GetForegroundWindow()", "IsWindowEnabled(Alpha)",
+                   "IsIconic(Alpha)", "GetWindowLongA(Alpha, GWL_STYLE)",
+                   "GetWindow(Alpha, GW_OWNER)", "IsHungAppWindow(Alpha)",
+                   "ShowWindow(Alpha, SW_MINIMIZE)", "IsWindowVisible(Beta)", "IsIconic(Beta)"}));
+}
+
+TEST_F(ForegroundKeys, MaximizeKeyReadsInItsOrder) {
+  EXPECT_EQ(CallsOf([&] { actions.MinimizeOrMaximizeForeground(kMaximize); }),
+            (Calls{"udmTimersEnabled(false)", "GetForegroundWindow()", "IsWindowEnabled(Alpha)",
+                   "IsIconic(Alpha)", "GetWindowLongA(Alpha, GWL_STYLE)", "IsZoomed(Alpha)",
+                   "IsHungAppWindow(Alpha)", "ShowWindow(Alpha, SW_MAXIMIZE)",
+                   "udmTimersEnabled(true)"}));
+}
+
+class AllWindows : public ForegroundKeys {};
+
+TEST_F(AllWindows, MinimizeAllMinimizesFromTheTopWithTheTimersStopped) {
+  actions.MinimizeAll();
+  EXPECT_EQ(log.Take(), (Calls{"udmTimersEnabled(false)", "ShowWindow(Alpha, SW_MINIMIZE)",
+                               "ShowWindow(Beta, SW_MINIMIZE)", "udmTimersEnabled(true)"}));
+}
+
+TEST_F(AllWindows, RestoreAllEndsInTheMainWindow) {
+  desktop.UserMinimizes(alpha);
+  desktop.UserMinimizes(beta);
+  actions.RestoreAll();
+  const Calls calls = log.Take();
+  EXPECT_EQ(calls.size(), 5U);
+  EXPECT_EQ(calls.front(), "udmTimersEnabled(false)");
+  EXPECT_EQ(calls[3], "SetForegroundWindow(Main)");
+  EXPECT_EQ(calls.back(), "udmTimersEnabled(true)");
+  EXPECT_FALSE(desktop.IsIconic(alpha));
+  EXPECT_FALSE(desktop.IsIconic(beta));
+  EXPECT_EQ(desktop.ForegroundTitle(), "Main");
+}
+
+TEST_F(AllWindows, TimersRunAgainAfterAnErrorInMinimizeAll) {
+  log.WhenCalled("EnumWindows", [] { throw RunTimeError(RunTimeError::kOutOfMemory); });
+  EXPECT_THROW(actions.MinimizeAll(), RunTimeError);
+  EXPECT_EQ(log.Take().back(), "udmTimersEnabled(true)");
+}
+
+TEST_F(AllWindows, TimersThatAreSwitchedOffStayOff) {
+  mainWindow.timer.tag = "OFF";
+  { const TimerPause pause(mainWindow); }
+  EXPECT_FALSE(mainWindow.timer.enabled);
+  mainWindow.timer.tag = "ON";
+  {
+    const TimerPause pause(mainWindow);
+    EXPECT_FALSE(mainWindow.timer.enabled);
+  }
+  EXPECT_TRUE(mainWindow.timer.enabled);
+}
+
+class Topmost : public ForegroundKeys {};
+
+TEST_F(Topmost, IsSetAndTakenBackWithoutMovingTheWindow) {
+  actions.SetTopmost(beta, true);
+  EXPECT_EQ(log.Take(), Calls{"SetWindowPos(Beta, HWND_TOPMOST, 0, 0, 0, 0, 3)"});
+  EXPECT_EQ(desktop.GetWindowLongA(beta, win32::kGwlExStyle), win32::kWsExTopmost);
+  actions.SetTopmost(beta, false);
+  EXPECT_EQ(log.Take(), Calls{"SetWindowPos(Beta, HWND_NOTOPMOST, 0, 0, 0, 0, 3)"});
+  EXPECT_EQ(desktop.GetWindowLongA(beta, win32::kGwlExStyle), 0);
+}
+
+TEST_F(Topmost, DoesNotWaitForAHungWindow) {
+  desktop.SetHung(beta, true);
+  actions.SetTopmost(beta, true);
+  EXPECT_EQ(log.Take(), Calls{"SetWindowPos(Beta, HWND_TOPMOST, 0, 0, 0, 0, 16387)"});
+}
+
+class ShowDesktopWindowTest : public ForegroundKeys {};
+
+TEST_F(ShowDesktopWindowTest, GivesTheAnswerOfTheCallMade) {
+  EXPECT_TRUE(actions.ShowDesktopWindow(beta, win32::kSwRestore));
+  desktop.Hide(beta);
+  EXPECT_FALSE(actions.ShowDesktopWindow(beta, win32::kSwRestore));
+  desktop.Hide(beta);
+  desktop.SetHung(beta, true);
+  EXPECT_TRUE(actions.ShowDesktopWindow(beta, win32::kSwRestore));
+  EXPECT_FALSE(actions.ShowDesktopWindow(0x7777, win32::kSwRestore));
+}
+
+}  // namespace
+}  // namespace korvale

@@ -1,0 +1,283 @@
+#include "desktop/window_enumeration.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <string>
+#include <vector>
+
+#include "platform/run_time_error.h"
+#include "platform/win32_constants.h"
+#include "tests/desktop/desktop_case.h"
+
+namespace korvale {
+namespace {
+
+class WindowEnumerationTest : public DesktopCase {};
+
+TEST_F(WindowEnumerationTest, CallbackAlwaysAsksForMore) {
+  const WindowHandle hwnd = desktop.Open("Alpha");
+  for (std::int32_t mode = -1; mode <= 9; ++mode) {
+    EXPECT_TRUE(enumeration.EnumWindowsProc(hwnd, mode));
+    EXPECT_TRUE(enumeration.EnumWindowsProc(0, mode));
+    EXPECT_TRUE(enumeration.EnumInstanceProc(hwnd, mode));
+  }
+}
+
+TEST_F(WindowEnumerationTest, FilterRunsFirstInEveryMode) {
+  const WindowHandle hwnd = desktop.Open("Alpha", {.extraTextLength = 9});
+  for (const std::int32_t mode : {0, 1, 2, 3, 4, 5, 6, 7, 8}) {
+    const Calls calls = CallsOf([&] { enumeration.EnumWindowsProc(hwnd, mode); });
+    ASSERT_GE(calls.size(), 5U) << mode;
+    EXPECT_EQ(calls[0], "GetWindowTextLengthA(Alpha)") << mode;
+    EXPECT_EQ(calls[4], "GetWindow(Main, GW_OWNER)") << mode;
+  }
+}
+
+TEST_F(WindowEnumerationTest, UnknownModesOnlyRunTheFilter) {
+  const WindowHandle hwnd = desktop.Open("Alpha", {.extraTextLength = 9});
+  for (const std::int32_t mode : {-1, 0, 5, 8, 1000}) {
+    EXPECT_EQ(CallsOf([&] { enumeration.EnumWindowsProc(hwnd, mode); }).size(), 5U) << mode;
+  }
+}
+
+TEST_F(WindowEnumerationTest, VisitsTheWindowsFromTheTop) {
+  desktop.Open("Beta");
+  desktop.Open("Alpha");
+  const Calls calls = CallsOf([&] { enumeration.EnumWindows(0); });
+  Calls order;
+  for (const std::string& call : calls) {
+    if (call.starts_with("GetWindowTextLengthA")) order.push_back(call);
+  }
+  EXPECT_EQ(calls.front(), "EnumWindows()");
+  EXPECT_EQ(order, (Calls{"GetWindowTextLengthA(Alpha)", "GetWindowTextLengthA(Beta)",
+                          "GetWindowTextLengthA(Main)", "GetWindowTextLengthA(Owner)"}));
+}
+
+TEST_F(WindowEnumerationTest, NestedEnumerationsAreAnError) {
+  desktop.Open("Alpha");
+  std::int16_t number = 0;
+  log.WhenCalled("GetClassNameA", [&] {
+    try {
+      enumeration.FindByTitle("Alpha");
+    } catch (const RunTimeError& error) {
+      number = error.Number();
+    }
+  });
+  enumeration.EnumWindows(0);
+  EXPECT_EQ(number, RunTimeError::kInvalidCall);
+}
+
+TEST_F(WindowEnumerationTest, InstanceSearchInsideAnotherOneIsAnErrorToo) {
+  desktop.Open("Alpha");
+  log.WhenCalled("GetClassNameA", [&] { enumeration.FindInstance("c", "t"); });
+  EXPECT_THROW(enumeration.EnumWindows(0), RunTimeError);
+}
+
+TEST_F(WindowEnumerationTest, EnumeratesAgainAfterAnError) {
+  const WindowHandle hwnd = desktop.Open("Alpha");
+  log.WhenCalled("GetClassNameA", [&] { throw RunTimeError(RunTimeError::kOutOfMemory); });
+  EXPECT_THROW(enumeration.EnumWindows(0), RunTimeError);
+  EXPECT_EQ(enumeration.FindByTitle("Alpha"), hwnd);
+}
+
+TEST_F(WindowEnumerationTest, RefreshResolvesEachTagToItsTopmostWindow) {
+  AddTag(1, "Alpha").tag = "17";
+  AddTag(2, "Beta");
+  desktop.Open("Alpha below");
+  const WindowHandle above = desktop.Open("Alpha above");
+  enumeration.RefreshTags();
+  EXPECT_EQ(HandleOfTag(1), above);
+  EXPECT_EQ(HandleOfTag(2), 0);
+}
+
+TEST_F(WindowEnumerationTest, RefreshPassesOverWindowsWithoutChildren) {
+  AddTag(1, "Alpha");
+  const WindowHandle below = desktop.Open("Alpha below");
+  desktop.Open("Alpha above", {.children = 0});
+  enumeration.RefreshTags();
+  EXPECT_EQ(HandleOfTag(1), below);
+}
+
+TEST_F(WindowEnumerationTest, RefreshFindsHiddenWindowsToo) {
+  AddTag(1, "Alpha");
+  const WindowHandle hidden = desktop.Open("Alpha", {.visible = false});
+  enumeration.RefreshTags();
+  EXPECT_EQ(HandleOfTag(1), hidden);
+}
+
+TEST_F(WindowEnumerationTest, RefreshResolvesNineTagsAtOnce) {
+  std::vector<WindowHandle> handles;
+  for (int tag = 1; tag <= kTagCount; ++tag) {
+    AddTag(tag, "Window " + std::to_string(tag));
+    handles.push_back(desktop.Open("Window " + std::to_string(tag)));
+  }
+  enumeration.RefreshTags();
+  for (int tag = 1; tag <= kTagCount; ++tag) {
+    EXPECT_EQ(HandleOfTag(tag), handles.at(static_cast<std::size_t>(tag - 1)));
+  }
+}
+
+TEST_F(WindowEnumerationTest, RefreshLearnsTheClassOfTheTopmostWindow) {
+  AddTag(1, "Alpha");
+  desktop.Open("Alpha", {.className = "Lower"});
+  desktop.Open("Alpha", {.className = "Upper"});
+  enumeration.RefreshTags();
+  EXPECT_EQ(ClassOfTag(1), "Upper");
+}
+
+TEST_F(WindowEnumerationTest, SearchByTitleFindsTheLowestMatch) {
+  const WindowHandle lower = desktop.Open("Alpha 1", {.className = "One"});
+  desktop.Open("Alpha 2", {.className = "Two"});
+  desktop.Open("Beta");
+  EXPECT_EQ(enumeration.FindByTitle("Alpha"), lower);
+}
+
+TEST_F(WindowEnumerationTest, SearchByTitleFindsWindowsWithoutChildren) {
+  const WindowHandle alpha = desktop.Open("Alpha", {.children = 0});
+  EXPECT_EQ(enumeration.FindByTitle("Alpha"), alpha);
+}
+
+TEST_F(WindowEnumerationTest, SearchByTitlePassesOverHiddenAndUnselectableWindows) {
+  desktop.Open("Program Manager", {.className = "Progman"});
+  desktop.Open("Alpha", {.visible = false});
+  EXPECT_EQ(enumeration.FindByTitle("Program Manager"), 0);
+  EXPECT_EQ(enumeration.FindByTitle("Alpha"), 0);
+}
+
+TEST_F(WindowEnumerationTest, SearchByTitleFindsDisabledAndIconicWindows) {
+  const WindowHandle disabled = desktop.Open("Disabled", {.enabled = false});
+  const WindowHandle iconic = desktop.Open("Iconic", {.iconic = true});
+  EXPECT_EQ(enumeration.FindByTitle("Disabled"), disabled);
+  EXPECT_EQ(enumeration.FindByTitle("Iconic"), iconic);
+}
+
+TEST_F(WindowEnumerationTest, SearchByTitleUsesTheTextAsItIs) {
+  const WindowHandle alpha = desktop.Open("x - Alpha");
+  EXPECT_EQ(enumeration.FindByTitle("*** - Alpha"), alpha);
+  EXPECT_EQ(enumeration.FindByTitle("&3  Alpha"), 0);
+}
+
+TEST_F(WindowEnumerationTest, SearchByTitleForgetsTheLastSearch) {
+  enumeration.Fields().titleSearchResult = 77;
+  EXPECT_EQ(enumeration.FindByTitle("Alpha"), 0);
+  EXPECT_EQ(enumeration.Fields().titleSearchText, "Alpha");
+}
+
+TEST_F(WindowEnumerationTest, SearchByTitleAndClassFindsTheLowestMatchOfBoth) {
+  const WindowHandle lower = desktop.Open("Alpha 1", {.className = "Notepad"});
+  desktop.Open("Alpha 2", {.className = "Notepad"});
+  desktop.Open("Alpha 3", {.className = "WordPad"});
+  EXPECT_EQ(enumeration.FindByTitleAndClass("Alpha", "Notepad"), lower);
+  EXPECT_EQ(enumeration.FindByTitleAndClass("Alpha", "notepad"), 0);
+  EXPECT_EQ(enumeration.FindByTitleAndClass("Beta", "Notepad"), 0);
+}
+
+TEST_F(WindowEnumerationTest, SearchByTitleAndClassPassesOverHiddenWindows) {
+  desktop.Open("Alpha", {.className = "Notepad", .visible = false});
+  EXPECT_EQ(enumeration.FindByTitleAndClass("Alpha", "Notepad"), 0);
+}
+
+TEST_F(WindowEnumerationTest, SearchByTitleAndClassReadsInItsOrder) {
+  const WindowHandle alpha = desktop.Open("Alpha", {.extraTextLength = 9});
+  enumeration.Fields().searchClass = "Window";
+  Calls calls = CallsOf([&] { enumeration.EnumWindowsProc(alpha, kSearchTitleAndClass); });
+  calls.erase(calls.begin(), calls.begin() + 5);
+  EXPECT_EQ(calls, (Calls{"IsWindowVisible(Alpha)", "GetClassNameA(Alpha, 255)",
+                          "GetWindowTextLengthA(Alpha)", "GetWindowTextA(Alpha, 15)"}));
+}
+
+TEST_F(WindowEnumerationTest, TopWindowIsTheFirstBelowTheProgram) {
+  desktop.OpenShell();
+  desktop.Open("Lower");
+  const WindowHandle upper = desktop.Open("Upper");
+  desktop.UserActivates(mainWindow.handle);
+  EXPECT_EQ(enumeration.FindTopWindow(), upper);
+  EXPECT_EQ(enumeration.Fields().topWindowCount, 2);
+}
+
+TEST_F(WindowEnumerationTest, TopWindowPassesOverWhatCannotBeInFront) {
+  const WindowHandle plain = desktop.Open("Plain");
+  desktop.Open("Hidden", {.visible = false});
+  desktop.Open("Disabled", {.enabled = false});
+  desktop.Open("Iconic", {.iconic = true});
+  desktop.Open("Topmost", {.exStyle = win32::kWsExTopmost});
+  desktop.Open("Taskbar", {.className = "Shell_TrayWnd"});
+  EXPECT_EQ(enumeration.FindTopWindow(), plain);
+  EXPECT_EQ(enumeration.Fields().topWindowCount, 1);
+}
+
+TEST_F(WindowEnumerationTest, TopWindowTakesAWindowWithOtherExtendedStyles) {
+  const WindowHandle tool = desktop.Open("Tool", {.exStyle = win32::kWsExToolWindow});
+  EXPECT_EQ(enumeration.FindTopWindow(), tool);
+}
+
+TEST_F(WindowEnumerationTest, TopWindowIsNoneOnAnEmptyDesktop) {
+  enumeration.Fields().topWindowResult = 77;
+  enumeration.Fields().topWindowCount = 5;
+  EXPECT_EQ(enumeration.FindTopWindow(), 0);
+  EXPECT_EQ(enumeration.Fields().topWindowCount, 0);
+}
+
+TEST_F(WindowEnumerationTest, TopWindowCounterOverflowsInsteadOfWidening) {
+  desktop.Open("Alpha");
+  enumeration.Fields().topWindowCount = std::numeric_limits<std::int16_t>::max();
+  try {
+    enumeration.EnumWindows(kTopWindow);
+    ADD_FAILURE() << "no overflow";
+  } catch (const RunTimeError& error) {
+    EXPECT_EQ(error.Number(), RunTimeError::kOverflow);
+  }
+}
+
+TEST_F(WindowEnumerationTest, TopWindowReadsInItsOrder) {
+  const WindowHandle alpha = desktop.Open("Alpha", {.extraTextLength = 9});
+  Calls calls = CallsOf([&] { enumeration.EnumWindowsProc(alpha, kTopWindow); });
+  calls.erase(calls.begin(), calls.begin() + 5);
+  EXPECT_EQ(calls, (Calls{"IsWindowVisible(Alpha)", "IsWindowEnabled(Alpha)", "IsIconic(Alpha)",
+                          "GetClassNameA(Alpha, 255)", "GetWindowLongA(Alpha, GWL_EXSTYLE)"}));
+}
+
+TEST_F(WindowEnumerationTest, InstanceSearchFindsTheLowestOtherCopy) {
+  const NewWindow copy{.className = "Korvale.frmMain", .process = 2};
+  const WindowHandle lower = desktop.Open("Main", copy);
+  desktop.Open("Main", copy);
+  desktop.UserActivates(mainWindow.handle);
+  EXPECT_EQ(enumeration.FindInstance("Korvale.frmMain", "Main"), lower);
+}
+
+TEST_F(WindowEnumerationTest, InstanceSearchPassesOverTheProgramItself) {
+  EXPECT_EQ(enumeration.FindInstance("Korvale.frmMain", "Main"), 0);
+}
+
+TEST_F(WindowEnumerationTest, InstanceSearchNeedsTheExactTitleAndClassOfAVisibleWindow) {
+  desktop.Open("Main 2", {.className = "Korvale.frmMain"});
+  desktop.Open("Main", {.className = "korvale.frmmain"});
+  desktop.Open("Main", {.className = "Korvale.frmMain", .visible = false});
+  EXPECT_EQ(enumeration.FindInstance("Korvale.frmMain", "Main"), 0);
+}
+
+TEST_F(WindowEnumerationTest, InstanceSearchDoesNotApplyTheFilter) {
+  const WindowHandle hwnd = desktop.Open("Program Manager", {.className = "Progman"});
+  EXPECT_EQ(enumeration.FindInstance("Progman", "Program Manager"), hwnd);
+}
+
+TEST_F(WindowEnumerationTest, InstanceSearchActsInMode4Only) {
+  const WindowHandle hwnd = desktop.Open("Other", {.className = "c"});
+  enumeration.Fields().instanceClass = "c";
+  enumeration.Fields().instanceTitle = "Other";
+  for (const std::int32_t mode : {0, 1, 2, 3, 5, 6, 7}) {
+    EXPECT_EQ(CallsOf([&] { enumeration.EnumInstanceProc(hwnd, mode); }), Calls{}) << mode;
+  }
+  EXPECT_EQ(enumeration.Fields().instanceResult, 0);
+  enumeration.EnumInstanceProc(hwnd, 4);
+  EXPECT_EQ(enumeration.Fields().instanceResult, hwnd);
+}
+
+TEST_F(WindowEnumerationTest, InstanceSearchForgetsTheLastSearch) {
+  enumeration.Fields().instanceResult = 77;
+  EXPECT_EQ(enumeration.FindInstance("c", "t"), 0);
+}
+
+}  // namespace
+}  // namespace korvale

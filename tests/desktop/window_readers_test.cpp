@@ -1,0 +1,153 @@
+#include "desktop/window_readers.h"
+
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+#include <string>
+
+#include "platform/win32_constants.h"
+#include "tests/desktop/desktop_case.h"
+#include "util/text.h"
+
+namespace korvale {
+namespace {
+
+class WindowReaders : public DesktopCase {};
+
+std::string Repeated(const std::string& text, int times) {
+  std::string result;
+  for (int i = 0; i < times; ++i) result += text;
+  return result;
+}
+
+TEST_F(WindowReaders, TitleIsRead) {
+  EXPECT_EQ(GetWindowTitle(desktop, desktop.Open("Untitled - Notepad")), "Untitled - Notepad");
+}
+
+TEST_F(WindowReaders, TitleInAnyWritingIsRead) {
+  for (const char* const title :
+       {"Безымянный — Блокнот", "無題 - メモ帳", "🦊 - 👩‍💻", "é"}) {
+    EXPECT_EQ(GetWindowTitle(desktop, desktop.Open(title)), title);
+  }
+}
+
+TEST_F(WindowReaders, TitleOfUntitledWindowIsEmpty) {
+  EXPECT_EQ(GetWindowTitle(desktop, desktop.Open("")), "");
+}
+
+TEST_F(WindowReaders, TitleOfNoWindowIsEmpty) {
+  EXPECT_EQ(GetWindowTitle(desktop, 0), "");
+  EXPECT_EQ(GetWindowTitle(desktop, 0x7777), "");
+}
+
+TEST_F(WindowReaders, TitleThatIsShorterThanItsReportedLengthIsReadOnce) {
+  NewWindow window;
+  window.extraTextLength = 10;
+  const WindowHandle hwnd = desktop.Open("Alpha", window);
+  std::string title;
+  const Calls calls = CallsOf([&] { title = GetWindowTitle(desktop, hwnd); });
+  EXPECT_EQ(title, "Alpha");
+  EXPECT_EQ(calls, (Calls{"GetWindowTextLengthA(Alpha)", "GetWindowTextA(Alpha, 16)"}));
+}
+
+TEST_F(WindowReaders, TitleThatFillsItsBufferIsReadAgainWithALargerOne) {
+  const WindowHandle hwnd = desktop.Open("Alpha");
+  const Calls calls = CallsOf([&] { GetWindowTitle(desktop, hwnd); });
+  EXPECT_EQ(calls, (Calls{"GetWindowTextLengthA(Alpha)", "GetWindowTextA(Alpha, 6)",
+                          "GetWindowTextA(Alpha, 64)"}));
+}
+
+TEST_F(WindowReaders, TitleThatGrowsWhileItIsReadIsNotCut) {
+  const WindowHandle hwnd = desktop.Open("Alpha");
+  const std::string grown = Repeated("Жук ", 300);
+  log.WhenCalled("GetWindowTextA(Alpha", [&] { desktop.Rename(hwnd, grown); });
+  EXPECT_EQ(GetWindowTitle(desktop, hwnd), grown);
+}
+
+TEST_F(WindowReaders, TitleThatShrinksWhileItIsReadIsTheShortOne) {
+  const WindowHandle hwnd = desktop.Open("Alpha and more");
+  log.WhenCalled("GetWindowTextA(Alpha", [&] { desktop.Rename(hwnd, "A"); });
+  EXPECT_EQ(GetWindowTitle(desktop, hwnd), "A");
+}
+
+TEST_F(WindowReaders, TitleOfAWindowThatGoesWhileItIsReadIsEmpty) {
+  const WindowHandle hwnd = desktop.Open("Alpha");
+  log.WhenCalled("GetWindowTextA(Alpha", [&] { desktop.Close(hwnd); });
+  EXPECT_EQ(GetWindowTitle(desktop, hwnd), "");
+}
+
+TEST_F(WindowReaders, TitleThatKeepsGrowingEndsAtTheLargestBufferWithAWholeCharacter) {
+  for (const char* const character : {"x", "é", "メ", "🦊"}) {
+    const std::string all = Repeated(character, 70000);
+    const WindowHandle hwnd = desktop.Open("Alpha");
+    log.WhenCalled("GetWindowTextA(Alpha", [&] { desktop.Rename(hwnd, all); });
+    const std::string title = GetWindowTitle(desktop, hwnd);
+    EXPECT_EQ(title.size() % std::string(character).size(), 0U);
+    EXPECT_GT(title.size(), 65530U);
+    EXPECT_LT(title.size(), 65536U);
+    EXPECT_EQ(title, LeftCharacters(all, CharacterCount(title)));
+  }
+}
+
+TEST_F(WindowReaders, LongTitleIsReadWhole) {
+  const std::string all = Repeated("🦊", 50000);
+  EXPECT_EQ(GetWindowTitle(desktop, desktop.Open(all)), all);
+}
+
+TEST_F(WindowReaders, ClassIsReadIntoABufferOf255) {
+  const WindowHandle hwnd = desktop.Open("Alpha", {.className = "Notepad"});
+  std::string className;
+  const Calls calls = CallsOf([&] { className = GetWindowClass(desktop, hwnd); });
+  EXPECT_EQ(className, "Notepad");
+  EXPECT_EQ(calls, Calls{"GetClassNameA(Alpha, 255)"});
+}
+
+TEST_F(WindowReaders, ClassOfNoWindowIsEmpty) {
+  EXPECT_EQ(GetWindowClass(desktop, 0), "");
+  EXPECT_EQ(GetWindowClass(desktop, 0x7777), "");
+}
+
+TEST_F(WindowReaders, ClassLongerThanTheBufferIsCutAtIt) {
+  const WindowHandle hwnd = desktop.Open("Alpha", {.className = std::string(256, 'c')});
+  EXPECT_EQ(GetWindowClass(desktop, hwnd), std::string(254, 'c'));
+}
+
+TEST_F(WindowReaders, Related1IsTheFirstChild) {
+  const WindowHandle hwnd = desktop.Open("Alpha", {.children = 2});
+  EXPECT_EQ(GetRelatedWindow(desktop, hwnd, 1), desktop.GetWindow(hwnd, win32::kGwChild));
+  EXPECT_NE(GetRelatedWindow(desktop, hwnd, 1), 0);
+}
+
+TEST_F(WindowReaders, Related1IsNoneWithoutChildren) {
+  EXPECT_EQ(GetRelatedWindow(desktop, desktop.Open("Alpha", {.children = 0}), 1), 0);
+}
+
+TEST_F(WindowReaders, Related2IsTheOwnerWithAMinimizeBox) {
+  const WindowHandle holder = desktop.Open("Holder");
+  const WindowHandle owned = desktop.Open("Owned", {.owner = holder});
+  EXPECT_EQ(GetRelatedWindow(desktop, owned, 2), holder);
+}
+
+TEST_F(WindowReaders, Related2IsNoneWhenTheOwnerHasNoMinimizeBox) {
+  const WindowHandle holder = desktop.Open("Holder", {.style = win32::kWsMaximizeBox});
+  const WindowHandle owned = desktop.Open("Owned", {.owner = holder});
+  EXPECT_EQ(GetRelatedWindow(desktop, owned, 2), 0);
+}
+
+TEST_F(WindowReaders, Related2IsNoneWithoutAnOwner) {
+  const WindowHandle hwnd = desktop.Open("Alpha");
+  const Calls calls = CallsOf([&] { EXPECT_EQ(GetRelatedWindow(desktop, hwnd, 2), 0); });
+  EXPECT_EQ(calls, Calls{"GetWindow(Alpha, GW_OWNER)"});
+}
+
+TEST_F(WindowReaders, OtherRelationsAreNoneAndReadNothing) {
+  const WindowHandle holder = desktop.Open("Holder");
+  const WindowHandle owned = desktop.Open("Owned", {.owner = holder});
+  for (const auto which : std::initializer_list<std::int16_t>{-1, 0, 3, 32767}) {
+    const Calls calls = CallsOf([&] { EXPECT_EQ(GetRelatedWindow(desktop, owned, which), 0); });
+    EXPECT_EQ(calls, Calls{});
+  }
+}
+
+}  // namespace
+}  // namespace korvale
