@@ -15,6 +15,9 @@ namespace {
 constexpr std::uint32_t kCopyPatience = 5000;
 constexpr std::uint32_t kCopyPoll = 50;
 
+/// How often the foreground window is looked at, in ms.
+constexpr std::uint32_t kTrackingInterval = 100;
+
 constexpr std::int16_t kOtherInstanceTipHeight = 5400;
 constexpr std::int16_t kCommandLineTipHeight = 2700;
 constexpr std::int16_t kHotKeysTab = 2;
@@ -143,6 +146,7 @@ void StartUp::PrepareMenusAndTimers(frmMain& form) {
   form.Menu("mnuHelpHomePage").caption = HomePageCaption(product);
   form.CheckAlwaysOnTop(form.Parts().startup.AlwaysOnTop);
   form.EnablePreviousWindowItems(false);
+  form.tmrWindow().SetInterval(kTrackingInterval);
   form.tmrWindow().SetEnabled(true);
   form.tmrWindow().SetTag("ON");
 }

@@ -8,9 +8,6 @@ namespace korvale {
 
 namespace {
 
-constexpr std::uint32_t kTrackingInterval = 100;
-static_assert(kTrackingInterval >= 10);
-
 constexpr auto kControls = std::to_array<ControlRow>({
     {ControlKind::kTextBox,
      "txtWindow",

@@ -1,0 +1,87 @@
+#include "tests/program/korvale_world.h"
+
+#include <algorithm>
+
+namespace korvale {
+
+KorvaleCopy::KorvaleCopy(KorvaleWorld& world, const std::string& folder, int process)
+    : system(world.log, world.session),
+      bridge(world.desktop.Windows(), process),
+      host(bridge, world.log),
+      user(host, world.clock),
+      platform{world.desktop, world.desktop, world.hotKeys, world.store,
+               system,        world.clock,   world.clock,   host},
+      program(platform) {
+  system.executablePath = "C:\\Programs\\" + folder + "\\Korvale.exe";
+  system.files.insert(system.executablePath);
+}
+
+KorvaleCopy::~KorvaleCopy() = default;
+
+class Form& KorvaleCopy::Loaded(const std::string& name) {
+  class Form* form = program.Forms().Find(name);
+  if (form == nullptr) {
+    FailTest(name + " is not open");
+  }
+  return *form;
+}
+
+int KorvaleCopy::Id(class Form& form, const std::string& control, int index) {
+  return form.Find(control, index).Id();
+}
+
+void KorvaleCopy::TagPrevious(const std::function<void(class Form&)>& prepare) {
+  host.WhenModal("frmGetWindow", [this, prepare](class Form& dialog) {
+    if (prepare) {
+      prepare(dialog);
+    }
+    user.Click(dialog.Handle(), dialog.Find("cmdOK").Id());
+  });
+  const std::vector<ShownMenuItem> items = WindowMenuItems();
+  user.ChooseMenu(Handle(), {"Window", items.back().caption});
+}
+
+KorvaleWorld::KorvaleWorld()
+    : desktop(log),
+      hotKeys(log, [this](WindowHandle hwnd) { return desktop.Windows().Find(hwnd) != nullptr; }),
+      session(std::make_shared<FakeSession>()) {
+  desktop.OpenShell();
+}
+
+KorvaleWorld::~KorvaleWorld() = default;
+
+KorvaleCopy& KorvaleWorld::NewCopy(const std::string& folder) {
+  copies_.push_back(std::make_unique<KorvaleCopy>(*this, folder, ++lastProcess_));
+  return *copies_.back();
+}
+
+KorvaleCopy& KorvaleWorld::StartedCopy(const std::string& folder) {
+  KorvaleCopy& copy = NewCopy(folder);
+  store.SaveSetting("Korvale - " + folder, "Options", "SplashScreen", "False");
+  EXPECT_TRUE(copy.Start());
+  LetTick();
+  log.Clear();
+  return copy;
+}
+
+void KorvaleWorld::EndCopy(KorvaleCopy& copy) {
+  std::erase_if(copies_, [&](const auto& owned) { return owned.get() == &copy; });
+}
+
+WindowHandle KorvaleWorld::Open(const std::string& title, const NewWindow& options) {
+  const WindowHandle hwnd = desktop.Open(title, options);
+  LetTick();
+  return hwnd;
+}
+
+void KorvaleWorld::WorkIn(WindowHandle hwnd) {
+  desktop.UserActivates(hwnd);
+  LetTick();
+}
+
+void KorvaleWorld::PressHotKey(std::uint32_t modifiers, std::uint32_t key) {
+  hotKeys.Press(modifiers, key);
+  LetTick();
+}
+
+}  // namespace korvale

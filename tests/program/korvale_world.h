@@ -1,0 +1,96 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "app/program.h"
+#include "platform/platform.h"
+#include "platform/win32_constants.h"
+#include "tests/fakes/call_log.h"
+#include "tests/fakes/desktop_bridge.h"
+#include "tests/fakes/fake_clock.h"
+#include "tests/fakes/fake_desktop.h"
+#include "tests/fakes/fake_hot_keys.h"
+#include "tests/fakes/fake_settings_store.h"
+#include "tests/fakes/fake_system.h"
+#include "tests/fakes/headless_form_host.h"
+#include "tests/fakes/headless_user.h"
+
+namespace korvale {
+
+class KorvaleWorld;
+
+/// One copy of Korvale, running in its own folder, and the user in front of it.
+class KorvaleCopy {
+ public:
+  KorvaleCopy(KorvaleWorld& world, const std::string& folder, int process);
+  ~KorvaleCopy();
+
+  /// False when it refused to run.
+  bool Start() { return program.Start(); }
+  /// File, Exit.
+  void Exit() { user.ChooseMenu(Handle(), {"File", "Exit"}); }
+
+  frmMain& Form() { return program.MainForm(); }
+  MainParts& Parts() { return Form().Parts(); }
+  WindowHandle Handle() { return Form().Handle(); }
+  /// The loaded form of this name; fails the test when it is not loaded.
+  class Form& Loaded(const std::string& name);
+  int Id(class Form& form, const std::string& control, int index = -1);
+  /// Captions of the Window menu as the user sees them when he opens it.
+  std::vector<ShownMenuItem> WindowMenuItems() { return user.MenuItems(Handle(), {"Window"}); }
+  /// Texts in the two fields of the strip.
+  std::string TargetWindow() { return Form().Find("txtWindow").Text(); }
+  std::string TargetClass() { return Form().Find("txtWindowClass").Text(); }
+  /// Tags a window through the Add Window dialog: works in it, chooses the menu entry, and presses
+  /// OK with what `prepare` did in the dialog.
+  void TagPrevious(const std::function<void(class Form&)>& prepare = {});
+
+  FakeSystem system;
+  DesktopBridge bridge;
+  HeadlessFormHost host;
+  HeadlessUser user;
+  Platform platform;
+  Program program;
+};
+
+/// The desktop of a user: his windows, his settings, his keyboard, and the copies of Korvale.
+class KorvaleWorld : public testing::Test {
+ protected:
+  KorvaleWorld();
+  ~KorvaleWorld() override;
+
+  /// A copy in C:\Programs\<folder>, not started yet.
+  KorvaleCopy& NewCopy(const std::string& folder = "Work");
+  /// A started copy that has been run before, so that no question is asked.
+  KorvaleCopy& StartedCopy(const std::string& folder = "Work");
+  /// Ends a copy for good, as its process does.
+  void EndCopy(KorvaleCopy& copy);
+
+  /// Opens a window of another program and lets the user work in it.
+  WindowHandle Open(const std::string& title, const NewWindow& options = {});
+  /// The user goes to a window and works there long enough to be noticed.
+  void WorkIn(WindowHandle hwnd);
+  void PressHotKey(std::uint32_t modifiers, std::uint32_t key);
+  void PressTag(int tag) { PressHotKey(win32::kModAlt, static_cast<std::uint32_t>('0' + tag)); }
+  /// Lets the foreground tracking notice what has happened.
+  void LetTick() { clock.Advance(200); }
+  std::string Front() { return desktop.ForegroundTitle(); }
+
+ public:
+  CallLog log;
+  FakeDesktop desktop;
+  FakeHotKeys hotKeys;
+  FakeSettingsStore store;
+  FakeClock clock;
+  std::shared_ptr<FakeSession> session;
+
+ private:
+  std::vector<std::unique_ptr<KorvaleCopy>> copies_;
+  int lastProcess_ = 0;
+};
+
+}  // namespace korvale

@@ -1,0 +1,45 @@
+#include "tests/program/korvale_world.h"
+
+namespace korvale {
+namespace {
+
+using SwitchingTest = KorvaleWorld;
+
+TEST_F(SwitchingTest, Alt0GoesBackToTheWindowBeforeAndThereAgain) {
+  const WindowHandle alpha = Open("Alpha");
+  const WindowHandle beta = Open("Beta");
+  StartedCopy();
+  WorkIn(alpha);
+  WorkIn(beta);
+
+  PressTag(0);
+  EXPECT_EQ(Front(), "Alpha");
+  PressTag(0);
+  EXPECT_EQ(Front(), "Beta");
+}
+
+TEST_F(SwitchingTest, Alt0RightAfterTheStartGoesBackToWhereTheUserWorked) {
+  Open("Alpha");
+  StartedCopy();
+
+  PressTag(0);
+
+  EXPECT_EQ(Front(), "Alpha");
+}
+
+TEST_F(SwitchingTest, ATagBringsItsWindowToTheFront) {
+  const WindowHandle editor = Open("notes - Editor");
+  const WindowHandle beta = Open("Beta");
+  KorvaleCopy& korvale = StartedCopy();
+  WorkIn(editor);
+  WorkIn(korvale.Handle());
+  korvale.TagPrevious();
+  WorkIn(beta);
+
+  PressTag(1);
+
+  EXPECT_EQ(Front(), "notes - Editor");
+}
+
+}  // namespace
+}  // namespace korvale
