@@ -44,6 +44,7 @@ void KorvaleCopy::TagPrevious(const std::function<void(class Form&)>& prepare) {
 KorvaleWorld::KorvaleWorld()
     : desktop(log),
       hotKeys(log, [this](WindowHandle hwnd) { return desktop.Windows().Find(hwnd) != nullptr; }),
+      store(log),
       session(std::make_shared<FakeSession>()) {
   desktop.OpenShell();
 }
