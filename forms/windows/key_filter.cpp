@@ -64,6 +64,7 @@ bool KeyFilter::FilterCharacter(int control, const MSG& message) {
     const bool taken = events_->Ask([&](FormEvents& events) {
       return events.OnCharacter(control, static_cast<char32_t>(message.wParam), HeldShiftState());
     });
+    if (taken && message.message == WM_SYSCHAR) altUsed_ = true;
     if (taken) return true;
   }
   return control != 0 && MakesTextBoxBeep(message.wParam) &&

@@ -17,7 +17,7 @@
 namespace korvale {
 
 /// Shows forms as real windows. Used from one thread.
-class WindowsFormHost final : public FormHost {
+class WindowsFormHost : public FormHost {
  public:
   /// Makes the hidden window that owns the main window; it is never shown.
   explicit WindowsFormHost(HINSTANCE instance);

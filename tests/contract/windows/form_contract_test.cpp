@@ -1,0 +1,1 @@
+#include "tests/contract/form_host_contract.h"

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <windows.h>
+
+#include "platform/form_host.h"
+
+namespace korvale {
+
+/// Puts keys and mouse movements into the system's input, as the devices do.
+void PressAndRelease(int virtualKey, unsigned shift);
+void HoldAlt(bool down);
+/// True for a character that has a key of its own.
+bool HasKey(wchar_t character);
+void PressKeyOf(wchar_t character, unsigned shift);
+/// Puts in a character that has no key.
+void PutCharacter(wchar_t character);
+/// Moves the mouse; true when it is there, false when it is still on its way.
+bool MovePointer(POINT to);
+/// Presses and releases the left button where the mouse is.
+void ClickLeft();
+
+}  // namespace korvale

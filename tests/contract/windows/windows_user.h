@@ -1,0 +1,98 @@
+#pragma once
+
+#include <deque>
+
+#include "forms/windows/windows_form_host.h"
+#include "tests/contract/user_hands.h"
+#include "tests/contract/windows/idle_watch.h"
+
+namespace korvale {
+
+/// The host under test; counts its message loops.
+class WatchedFormHost : public WindowsFormHost {
+ public:
+  using WindowsFormHost::WindowsFormHost;
+  void RunMessageLoop(const std::function<bool()>& done) override {
+    ++loops;
+    WindowsFormHost::RunMessageLoop(done);
+    --loops;
+  }
+
+  int loops = 0;
+};
+
+/// A user with a real keyboard and mouse.
+class WindowsUser final : public UserHands {
+ public:
+  explicit WindowsUser(WatchedFormHost& host) : host_(&host) {}
+
+  bool IsShown(WindowHandle hwnd) override;
+  bool IsEnabled(WindowHandle hwnd) override;
+  std::string Title(WindowHandle hwnd) override;
+  std::string ClassName(WindowHandle hwnd) override;
+  TwipsRect Place(WindowHandle hwnd) override;
+  void PressCloseBox(WindowHandle hwnd) override;
+  void Drag(WindowHandle hwnd, const TwipsRect& place) override;
+
+  std::string Text(WindowHandle hwnd, int control) override;
+  bool IsShown(WindowHandle hwnd, int control) override;
+  bool IsEnabled(WindowHandle hwnd, int control) override;
+  int Value(WindowHandle hwnd, int control) override;
+  std::vector<std::string> ListEntries(WindowHandle hwnd, int control) override;
+  int ListIndex(WindowHandle hwnd, int control) override;
+  int Focus(WindowHandle hwnd) override;
+  TwipsRect Place(WindowHandle hwnd, int control) override;
+
+  void Click(WindowHandle hwnd, int control) override;
+  void MoveMouse(WindowHandle hwnd, int control, Twips x, Twips y) override;
+  void PressKey(WindowHandle hwnd, int virtualKey, unsigned shift) override;
+  void TypeText(WindowHandle hwnd, std::string_view text, bool alt) override;
+  void Pick(WindowHandle hwnd, int control, int listIndex) override;
+  void OpenAndCloseList(WindowHandle hwnd, int control) override;
+
+  std::vector<ShownMenuItem> MenuBarItems(WindowHandle hwnd) override;
+  std::vector<ShownMenuItem> MenuItems(WindowHandle hwnd,
+                                       const std::vector<std::string>& path) override;
+  void ChooseMenu(WindowHandle hwnd, const std::vector<std::string>& path) override;
+
+  void WhenWaiting(std::function<void()> action) override;
+  void WhenMessageBox(std::function<std::int16_t(const ShownMessage&)> answer) override;
+  void WhenPopupMenu(std::function<std::string(const std::vector<ShownMenuItem>&)> choose) override;
+  void LetPass(std::uint32_t milliseconds) override;
+
+ private:
+  /// Does one thing in an open menu; false while it cannot be done yet.
+  using MenuStep = std::function<bool()>;
+
+  void OnIdle();
+  void AnswerMessageBox(HWND box);
+  void ContinueInMenu();
+  void AnswerPopupMenu();
+  /// Clicks an entry of an open menu; false while the mouse is on its way to it.
+  bool ClickEntry(HWND window, const std::string& caption);
+  /// Runs messages until all is quiet.
+  void Settle();
+  bool IsActive(WindowHandle hwnd);
+  void MoveTo(POINT at);
+  void ClickHere();
+  void TypeWithAlt(wchar_t character);
+  void ClickReachable(HWND window, POINT at);
+  void OpenList(HWND combo);
+  /// Opens the menu at `path` with the mouse, then takes `last`, then runs until it has closed.
+  void WalkMenu(WindowHandle hwnd, const std::vector<std::string>& path, const MenuStep& last);
+
+  WatchedFormHost* host_;
+  std::deque<std::function<void()>> actions_;
+  std::deque<std::function<std::int16_t(const ShownMessage&)>> answers_;
+  std::deque<std::function<std::string(const std::vector<ShownMenuItem>&)>> choices_;
+  std::deque<MenuStep> menuSteps_;
+  int settlingIn_ = -1;  // The host's loop that runs around Settle; no action waits for that one.
+  HWND answered_ = nullptr;
+  ULONGLONG lastClick_ = 0;
+  IdleWatch watch_{[this] { OnIdle(); }};
+};
+
+/// The window of a control, wherever in the form it is.
+HWND FindControl(WindowHandle hwnd, int control);
+
+}  // namespace korvale

@@ -1,0 +1,173 @@
+#include <gtest/gtest.h>
+
+#include <utility>
+
+#include "platform/windows/text.h"
+#include "tests/contract/windows/input.h"
+#include "tests/contract/windows/menu_reader.h"
+#include "tests/contract/windows/windows_user.h"
+
+namespace korvale {
+namespace {
+
+constexpr DWORD kQuietMilliseconds = 20;
+constexpr int kMessageText = 0xFFFF;
+
+template <typename Queue>
+auto TakeFirst(Queue& queue) {
+  auto first = std::move(queue.front());
+  queue.pop_front();
+  return first;
+}
+
+std::string ReadText(HWND window) {
+  std::wstring text(1024, L'\0');
+  text.resize(static_cast<std::size_t>(GetWindowTextW(window, text.data(), 1024)));
+  return ToUtf8(text);
+}
+
+bool IsMessageBox(HWND window) {
+  wchar_t name[16] = L"";
+  GetClassNameW(window, name, 16);
+  return std::wstring_view(name) == L"#32770";
+}
+
+POINT MiddleOfEntry(HMENU menu, HWND window, int position) {
+  RECT rect{};
+  GetMenuItemRect(window, menu, static_cast<UINT>(position), &rect);
+  return {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
+}
+
+}  // namespace
+
+void WindowsUser::WhenWaiting(std::function<void()> action) {
+  actions_.push_back(std::move(action));
+}
+
+void WindowsUser::WhenMessageBox(std::function<std::int16_t(const ShownMessage&)> answer) {
+  answers_.push_back(std::move(answer));
+}
+
+void WindowsUser::WhenPopupMenu(
+    std::function<std::string(const std::vector<ShownMenuItem>&)> choose) {
+  choices_.push_back(std::move(choose));
+}
+
+void WindowsUser::OnIdle() {
+  const HWND active = GetActiveWindow();
+  if (InMenu()) {
+    ContinueInMenu();
+  } else if (IsMessageBox(active) && active != answered_) {
+    AnswerMessageBox(active);
+  } else if (!actions_.empty() && host_->loops > 0 && host_->loops != settlingIn_) {
+    const int outer = std::exchange(settlingIn_, -1);
+    TakeFirst(actions_)();
+    settlingIn_ = outer;
+  }
+}
+
+void WindowsUser::AnswerMessageBox(HWND box) {
+  answered_ = box;
+  std::int16_t button = IDCANCEL;
+  if (answers_.empty()) {
+    ADD_FAILURE() << "Unexpected message: " << ReadText(GetDlgItem(box, kMessageText));
+  } else {
+    const ShownMessage shown{ToWindowHandle(GetWindow(box, GW_OWNER)),
+                             ReadText(GetDlgItem(box, kMessageText)), ReadText(box), 0};
+    button = TakeFirst(answers_)(shown);
+  }
+  PostMessageW(box, WM_COMMAND, static_cast<WPARAM>(button),
+               reinterpret_cast<LPARAM>(GetDlgItem(box, button)));
+}
+
+void WindowsUser::ContinueInMenu() {
+  if (!menuSteps_.empty()) {
+    if (menuSteps_.front()()) menuSteps_.pop_front();
+  } else if (!choices_.empty() && !OpenMenus().empty()) {
+    AnswerPopupMenu();
+  }
+}
+
+void WindowsUser::AnswerPopupMenu() {
+  const HWND window = OpenMenus().front();
+  const std::string choice = TakeFirst(choices_)(ReadMenu(MenuOf(window)));
+  if (choice.empty()) {
+    PressAndRelease(VK_ESCAPE, kNoShift);
+  } else {
+    menuSteps_.emplace_back([=, this] { return ClickEntry(window, choice); });
+  }
+}
+
+bool WindowsUser::ClickEntry(HWND window, const std::string& caption) {
+  const int position = FindEntry(MenuOf(window), caption);
+  EXPECT_GE(position, 0) << caption;
+  if (!MovePointer(MiddleOfEntry(MenuOf(window), window, position))) return false;
+  ClickLeft();
+  return true;
+}
+
+void WindowsUser::Settle() {
+  const int outer = std::exchange(settlingIn_, host_->loops);
+  do {
+    host_->DoEvents();
+  } while (!host_->QuitPosted() &&
+           MsgWaitForMultipleObjects(0, nullptr, FALSE, kQuietMilliseconds,
+                                     QS_ALLINPUT & ~QS_TIMER) == WAIT_OBJECT_0);
+  settlingIn_ = outer;
+}
+
+void WindowsUser::LetPass(std::uint32_t milliseconds) {
+  const int outer = std::exchange(settlingIn_, host_->loops);
+  const ULONGLONG end = GetTickCount64() + milliseconds;
+  for (ULONGLONG now = GetTickCount64(); now < end; now = GetTickCount64()) {
+    MsgWaitForMultipleObjects(0, nullptr, FALSE, static_cast<DWORD>(end - now), QS_ALLINPUT);
+    host_->DoEvents();
+  }
+  settlingIn_ = outer;
+}
+
+std::vector<ShownMenuItem> WindowsUser::MenuBarItems(WindowHandle hwnd) {
+  const HMENU bar = GetMenu(ToHwnd(hwnd));
+  return bar == nullptr ? std::vector<ShownMenuItem>{} : ReadMenu(bar);
+}
+
+void WindowsUser::WalkMenu(WindowHandle hwnd, const std::vector<std::string>& path,
+                           const MenuStep& last) {
+  if (!IsActive(hwnd)) return;
+  for (std::size_t depth = 1; depth < path.size(); ++depth) {
+    menuSteps_.emplace_back([=, this, caption = path[depth]] {
+      const std::vector<HWND> open = OpenMenus();
+      return open.size() >= depth && ClickEntry(open[depth - 1], caption);
+    });
+  }
+  if (last) menuSteps_.push_back(last);
+  const HMENU bar = GetMenu(ToHwnd(hwnd));
+  const int position = FindEntry(bar, path.front());
+  ASSERT_GE(position, 0) << path.front();
+  MoveTo(MiddleOfEntry(bar, ToHwnd(hwnd), position));
+  ClickHere();
+  Settle();
+  EXPECT_TRUE(menuSteps_.empty());
+}
+
+std::vector<ShownMenuItem> WindowsUser::MenuItems(WindowHandle hwnd,
+                                                  const std::vector<std::string>& path) {
+  std::vector<ShownMenuItem> items;
+  bool read = false;
+  WalkMenu(hwnd, path, [&] {
+    const std::vector<HWND> open = OpenMenus();
+    if (!read && open.size() < path.size()) return false;
+    if (!read) items = ReadMenu(MenuOf(open[path.size() - 1]));
+    read = true;
+    // Each Esc closes one menu, the last one leaves the bar.
+    PressAndRelease(VK_ESCAPE, kNoShift);
+    return open.empty();
+  });
+  return items;
+}
+
+void WindowsUser::ChooseMenu(WindowHandle hwnd, const std::vector<std::string>& path) {
+  WalkMenu(hwnd, path, nullptr);
+}
+
+}  // namespace korvale
