@@ -96,7 +96,7 @@ bool FakeWindows::CanStayInFront(WindowHandle changed) const {
 std::vector<WindowHandle> FakeWindows::Following(WindowHandle hwnd) const {
   std::vector<WindowHandle> windows = order_.Windows();
   const auto place = std::ranges::find(windows, hwnd);
-  std::ranges::rotate(windows, place);
+  std::rotate(windows.begin(), place, windows.end());
   std::erase(windows, hwnd);
   return windows;
 }
