@@ -195,6 +195,14 @@ TEST_F(SaveJournalTest, GarbageInTheJournalIsDropped) {
   }
 }
 
+TEST_F(SaveJournalTest, LeftoverNeverUndoesALaterSave) {
+  Entry("1\\S\\Korvale - Work\\Options\\A", "old");
+  Entry("Complete", "1");
+  store_.SaveSetting(kApp, "Options", "A", "");
+  DeleteTheOptions(store_);
+  EXPECT_EQ(AfterRestart(), StoredValues());
+}
+
 TEST_F(SaveJournalTest, NothingOfItIsLeftAfterASave) {
   SaveOld(store_);
   SaveNewINI(store_);

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -63,6 +64,30 @@ TEST_F(InstanceLockTest, OtherInstallationsDoNotMatter) {
   InstanceLock home(secondSystem_, "D:\\Home\\");
   EXPECT_TRUE(work.TryHold(0));
   EXPECT_TRUE(home.TryHold(0));
+}
+
+/// Counts how often its mutexes are waited for, always with success.
+class CountingSystem : public FakeSystem {
+ public:
+  using FakeSystem::FakeSystem;
+  std::unique_ptr<SystemMutex> CreateMutexA(const std::string& /*name*/) override {
+    struct CountingMutex : SystemMutex {
+      explicit CountingMutex(int& counter) : waits(counter) {}
+      bool WaitForSingleObject(std::uint32_t /*milliseconds*/) override { return ++waits > 0; }
+      int& waits;
+    };
+    return std::make_unique<CountingMutex>(waits);
+  }
+
+  int waits = 0;
+};
+
+TEST_F(InstanceLockTest, IsNotTakenTwice) {
+  CountingSystem system(log_);
+  InstanceLock lock(system, "D:\\Work\\");
+  EXPECT_TRUE(lock.TryHold(0));
+  EXPECT_TRUE(lock.TryHold(0));
+  EXPECT_EQ(system.waits, 1);
 }
 
 TEST_F(InstanceLockTest, CountsAsHeldWhenTheSystemGivesNoObject) {
