@@ -1,0 +1,160 @@
+#include <string>
+#include <vector>
+
+#include "platform/win32_constants.h"
+#include "tests/forms/add_window_test.h"
+
+namespace korvale {
+namespace {
+
+TEST_F(AddWindowTest, AltPTogglesTheSelectionOfTheTitle) {
+  OpenDialogFor("Счёт 🧮");
+  Press(dialog_, 'P', kAlt);
+  EXPECT_EQ(Focus(dialog_), "txtWindow");
+  EXPECT_EQ(TitleSelection().length, 6);
+  Press(dialog_, 'P', kAlt);
+  EXPECT_EQ(TitleSelection().start, 0);
+  EXPECT_EQ(TitleSelection().length, 0);
+  Press(dialog_, 'P', kAlt);
+  EXPECT_EQ(TitleSelection().length, 6);
+}
+
+TEST_F(AddWindowTest, AltPSelectsTheWholeTitleWhenAPartIsSelected) {
+  OpenDialogFor("Notes");
+  dialog_.Find("txtWindow").SetFocus();
+  dialog_.Find("txtWindow").SetSelection({1, 2});
+  Press(dialog_, 'P', kAlt);
+  EXPECT_EQ(TitleSelection().start, 0);
+  EXPECT_EQ(TitleSelection().length, 5);
+}
+
+TEST_F(AddWindowTest, TypesAPlainPIntoTheTitle) {
+  OpenDialogFor("");
+  dialog_.Find("txtWindow").SetFocus();
+  user_.TypeText(dialog_.Handle(), "p");
+  EXPECT_EQ(Text(dialog_, "txtWindow"), "p");
+}
+
+TEST_F(AddWindowTest, WidensTheListOfTagsWhileItIsOpen) {
+  Assign(1, "Mail");
+  OpenDialogFor("Notes");
+  PickTag(1);
+  const Twips width = TagWidth();
+  user_.OpenList(dialog_.Handle(), Id(dialog_, "cboWindow"));
+  EXPECT_EQ(TagWidth(), 4785);
+  EXPECT_FALSE(RemoveEnabled());
+  PickTag(1);
+  EXPECT_EQ(TagWidth(), width);
+  EXPECT_TRUE(RemoveEnabled());
+}
+
+TEST_F(AddWindowTest, NarrowsTheListOfTagsThatIsClosedWithoutAChoice) {
+  Assign(1, "Mail");
+  OpenDialogFor("Notes");
+  PickTag(1);
+  const Twips width = TagWidth();
+  user_.OpenAndCloseList(dialog_.Handle(), Id(dialog_, "cboWindow"));
+  EXPECT_EQ(TagWidth(), width);
+  EXPECT_TRUE(RemoveEnabled());
+}
+
+TEST_F(AddWindowTest, FindsRoomForTheWidenedList) {
+  OpenDialogFor("Notes");
+  const TwipsRect list = user_.Place(dialog_.Handle(), Id(dialog_, "cboWindow"));
+  EXPECT_LT(list.left + 4785, user_.Place(dialog_.Handle(), Id(dialog_, "cmdRemove")).left);
+}
+
+TEST_F(AddWindowTest, LooksAsTheWindowMenuOpensIt) {
+  OpenDialogFor("Notes");
+  EXPECT_EQ(user_.Title(dialog_.Handle()), "Korvale - Add Window");
+  EXPECT_EQ(dialog_.Place().height, 3465);
+  EXPECT_EQ(user_.Place(dialog_.Handle(), Id(dialog_, "cmdOK")).top, 2700);
+  EXPECT_EQ(user_.Place(dialog_.Handle(), Id(dialog_, "cmdClose")).top, 2700);
+  EXPECT_EQ(Text(dialog_, "lblIdentifyWindow"), "Identify &Window");
+  for (const char* const name : {"lblChildWindow", "Line3", "chkChildWindow", "cboChildWindow"}) {
+    EXPECT_FALSE(Shown(dialog_, name)) << name;
+  }
+}
+
+TEST_F(AddWindowTest, StartsInTheListOfTagsAndKeepsTheUsersPlaceLater) {
+  OpenDialogFor("Notes");
+  EXPECT_EQ(Focus(dialog_), "cboWindow");
+  dialog_.Find("txtWindow").SetFocus();
+  desktop_.UserActivates(main_.handle);
+  desktop_.UserActivates(dialog_.Handle());
+  EXPECT_EQ(Focus(dialog_), "txtWindow");
+}
+
+TEST_F(AddWindowTest, TheTabKeyGoesFromTopToBottom) {
+  Assign(1, "Mail");
+  OpenDialogFor("Notes");
+  PickTag(1);
+  std::vector<std::string> visited;
+  for (int i = 0; i < 7; ++i) {
+    visited.push_back(Focus(dialog_));
+    Press(dialog_, win32::kVkTab);
+  }
+  EXPECT_EQ(visited,
+            (std::vector<std::string>{"cboWindow", "cmdRemove", "txtWindow", "txtWindowClass",
+                                      "optWindow", "cmdOK", "cmdClose"}));
+  EXPECT_EQ(Focus(dialog_), "cboWindow");
+}
+
+TEST_F(AddWindowTest, EachLabelStandsBeforeItsControl) {
+  OpenDialogFor("Notes");
+  EXPECT_EQ(Id(dialog_, "lblAssignHotKey") + 1, Id(dialog_, "cboWindow"));
+  EXPECT_EQ(Id(dialog_, "lblIdentifyWindow") + 1, Id(dialog_, "txtWindow"));
+  EXPECT_EQ(Id(dialog_, "lblChildWindow") + 1, Id(dialog_, "cboChildWindow"));
+}
+
+TEST_F(AddWindowTest, TheAccessKeysOfTheLabelsLeadToTheirControls) {
+  OpenDialogFor("Notes");
+  user_.TypeText(dialog_.Handle(), "w", true);
+  EXPECT_EQ(Focus(dialog_), "txtWindow");
+  user_.TypeText(dialog_.Handle(), "t", true);
+  EXPECT_EQ(Focus(dialog_), "cboWindow");
+}
+
+TEST_F(AddWindowTest, TakesNoAmpersandOfATitleForAnAccessKey) {
+  Assign(1, "Q&A");
+  OpenDialogFor("R&D - Q&A");
+  for (int i = 0; i < 3; ++i) {
+    EXPECT_NE(Look(dialog_, "optWindow", i).flags & kNoPrefix, 0U);
+  }
+  EXPECT_NE(Look(dialog_, "lblWindow").flags & kNoPrefix, 0U);
+  Click(dialog_, "optWindow", 1);
+  Click(dialog_, "cmdOK");
+  EXPECT_EQ(Entry(2).caption, "&2  R&D - ***");
+}
+
+TEST_F(AddWindowTest, ShortensALongTitleOnlyOnTheScreen) {
+  const std::string left(100, 'l');
+  const std::string right(100, 'r');
+  OpenDialogFor(left + " - " + right);
+  EXPECT_EQ(Choice(1), std::string(63, 'l') + "... - ***");
+  EXPECT_EQ(Choice(2), "*** - " + std::string(63, 'r') + "...");
+  EXPECT_EQ(Choice(0), std::string(69, 'l') + "...");
+  Click(dialog_, "optWindow", 1);
+  Click(dialog_, "cmdOK");
+  EXPECT_EQ(Entry(1).caption, "&1  " + left + " - ***");
+  OpenDialog();
+  PickTag(1);
+  ExpectState(std::string(47, 'l') + "...", kRed);
+}
+
+TEST_F(AddWindowTest, EveryChoiceSaysInItsToolTipWhatItDoes) {
+  OpenDialogFor("Notes");
+  EXPECT_EQ(Look(dialog_, "txtWindow").toolTip,
+            " edit to Identify Window by partial Title  (Alt+P/Alt+P) ");
+  EXPECT_EQ(Look(dialog_, "cboWindow").toolTip, " Tag number ");
+  EXPECT_EQ(Look(dialog_, "cmdOK").toolTip, " Add window to the Window menu  (Enter) ");
+  EXPECT_EQ(Look(dialog_, "cmdClose").toolTip, " Close  (Esc) ");
+  EXPECT_EQ(Look(dialog_, "cmdRemove").toolTip,
+            " clears the specified Tag/window from the Window menu ");
+  EXPECT_EQ(Look(dialog_, "lblWindow").toolTip,
+            " Red text: means a window is already associated with this Tag     Blue text: means "
+            "this Tag is available ");
+}
+
+}  // namespace
+}  // namespace korvale
