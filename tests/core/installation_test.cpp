@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "tests/core/form_of_settings.h"
 #include "tests/core/stored_values.h"
 #include "tests/fakes/call_log.h"
 #include "tests/fakes/fake_message_boxes.h"
@@ -20,35 +21,6 @@ constexpr const char* kOld = "Korvale - Old";
 constexpr std::int16_t kYes = 6;
 constexpr std::int16_t kNo = 7;
 
-/// What the main form keeps and does during the rule.
-struct MainForm {
-  explicit MainForm(Settings& settingsToUse) : settings(settingsToUse) {}
-
-  InstallationImport Import() {
-    return {[this] { settings.LoadOptions(options); },
-            [this] {
-              startup = settings.LoadStartup();
-              tags = settings.LoadTagList();
-            },
-            [this] { settings.SaveOptions(options); },
-            [this] {
-              settings.SaveINI(startup, [this](SettingsStore& store) {
-                for (const auto& [tag, caption] : tags.captions) {
-                  store.SaveSetting(settings.AppName(), "ParentWindowList", tag, caption);
-                }
-                for (const auto& [tag, name] : tags.classes) {
-                  store.SaveSetting(settings.AppName(), "ParentWindowClass", tag, name);
-                }
-              });
-            }};
-  }
-
-  Settings& settings;
-  clsOptions options;
-  StartupSettings startup;
-  StoredTagList tags;
-};
-
 class InstallationTest : public testing::Test {
  protected:
   InstallationTest() { StartFrom("D:\\Tools\\Work\\"); }
@@ -60,7 +32,7 @@ class InstallationTest : public testing::Test {
   }
   InstallationResult RunOn(SettingsStore& store) {
     Settings settings(store, identity_.mainCaption);
-    MainForm form(settings);
+    FormOfSettings form(settings);
     const InstallationResult result =
         RunInstallationRule(identity_, settings, system_, messages_, form.Import());
     EXPECT_EQ(settings.AppName(), identity_.mainCaption);
@@ -79,7 +51,7 @@ class InstallationTest : public testing::Test {
   /// A full set of settings, none of them the default.
   static void StoreSettings(SettingsStore& store, const std::string& appName) {
     Settings settings(store, appName);
-    MainForm form(settings);
+    FormOfSettings form(settings);
     form.options.intHotKeyModParent = 2;
     form.startup.Left = 100;
     form.startup.Width = 5000;

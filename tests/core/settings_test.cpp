@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "app/core/setting_rows.h"
-#include "app/core/store_changes.h"
 #include "tests/fakes/call_log.h"
 #include "tests/fakes/fake_settings_store.h"
 
@@ -29,12 +28,6 @@ Pairs Sorted(Pairs pairs) {
 
 class SettingsTest : public testing::Test {
  protected:
-  void StoreOption(const std::string& key, const std::string& value) {
-    store_.SaveSetting(kApp, "Options", key, value);
-  }
-  void StoreStartup(const std::string& key, const std::string& value) {
-    store_.SaveSetting(kApp, "Startup", key, value);
-  }
   clsOptions LoadedOptions() const {
     clsOptions options;
     settings_.LoadOptions(options);
@@ -163,109 +156,6 @@ TEST_F(SettingsTest, SettingsOfAnotherNameStayApart) {
   EXPECT_EQ(settings_.AppName(), "Korvale - Home");
   EXPECT_EQ(LoadedOptions(), clsOptions());
   EXPECT_TRUE(settings_.NothingStored());
-}
-
-TEST_F(SettingsTest, BooleanTextIsReadWithoutRegardToCase) {
-  for (const char* text : {"False", "false", "FALSE", "fAlSe"}) {
-    StoreOption("SplashScreen", text);
-    EXPECT_FALSE(LoadedOptions().booSplashScreen) << text;
-  }
-  StoreOption("AllowNoTextWindow", "tRUE");
-  EXPECT_TRUE(LoadedOptions().booAllowNoTextWindow);
-}
-
-TEST_F(SettingsTest, TextThatIsNoBooleanGivesTheDefault) {
-  for (const char* text : {"", "0", "-1", "no", "Falsch", "False!", "\xff\xfe"}) {
-    StoreOption("SplashScreen", text);
-    EXPECT_TRUE(LoadedOptions().booSplashScreen) << text;
-  }
-}
-
-TEST_F(SettingsTest, TextThatIsNoNumberGivesTheDefault) {
-  for (const char* text : {"", " ", "abc", "12abc", "1.5", "0x10", "&H10", "1 2", "--1", "\xf0"}) {
-    StoreOption("HotKeyAction0", text);
-    StoreOption("HotKeyEnabled", text);
-    StoreStartup("Width", text);
-    EXPECT_EQ(LoadedOptions(), clsOptions()) << text;
-    EXPECT_EQ(settings_.LoadStartup(), StartupSettings()) << text;
-  }
-}
-
-TEST_F(SettingsTest, NumberOutsideSixteenBitsGivesTheDefault) {
-  StoreStartup("Left", "32767");
-  StoreStartup("Top", "-32768");
-  EXPECT_EQ(settings_.LoadStartup().Left, 32767);
-  EXPECT_EQ(settings_.LoadStartup().Top, -32768);
-  StoreStartup("Left", "32768");
-  StoreStartup("Top", "-32769");
-  StoreStartup("Width", "99999999999999999999");
-  EXPECT_EQ(settings_.LoadStartup(), StartupSettings());
-}
-
-TEST_F(SettingsTest, NumberOutsideThirtyTwoBitsGivesTheDefault) {
-  StoreStartup("WI1BackColor", "2147483647");
-  StoreStartup("WI2BackColor", "-2147483648");
-  EXPECT_EQ(settings_.LoadStartup().WI1BackColor, 2147483647);
-  EXPECT_EQ(settings_.LoadStartup().WI2BackColor, -2147483647 - 1);
-  StoreStartup("WI1BackColor", "2147483648");
-  StoreStartup("WI2BackColor", "-2147483649");
-  EXPECT_EQ(settings_.LoadStartup(), StartupSettings());
-}
-
-TEST_F(SettingsTest, WindowStateOutsideItsRangeGivesTheDefault) {
-  for (const char* text : {"-1", "3", "2147483647"}) {
-    StoreStartup("WindowState", text);
-    EXPECT_EQ(settings_.LoadStartup().WindowState, 0) << text;
-  }
-  StoreStartup("WindowState", "1");
-  EXPECT_EQ(settings_.LoadStartup().WindowState, 1);
-}
-
-TEST_F(SettingsTest, OptionsTabOutsideItsRangeGivesTheDefault) {
-  for (const char* text : {"0", "4", "-1"}) {
-    StoreStartup("OptionsTab", text);
-    EXPECT_EQ(settings_.LoadStartup().OptionsTab, 1) << text;
-  }
-  StoreStartup("OptionsTab", "2");
-  EXPECT_EQ(settings_.LoadStartup().OptionsTab, 2);
-}
-
-TEST_F(SettingsTest, ValueOfAnotherRegistryTypeGivesTheDefault) {
-  store_.SetOtherType(kApp, "Options", "HotKeyAction0");
-  store_.SetOtherType(kApp, "Startup", "Tips");
-  EXPECT_EQ(LoadedOptions(), clsOptions());
-  EXPECT_EQ(settings_.LoadStartup(), StartupSettings());
-}
-
-TEST_F(SettingsTest, TagListIsLoadedInTheOrderOfTheTags) {
-  store_.SaveSetting(kApp, "ParentWindowList", "7", "&7  *** - Notepad");
-  store_.SaveSetting(kApp, "ParentWindowList", "2", "&2  Mail");
-  store_.SaveSetting(kApp, "ParentWindowClass", "7", "Notepad");
-  store_.SaveSetting(kApp, "ParentWindowClass", "2", "MailFrame");
-  const StoredTagList tags = settings_.LoadTagList();
-  EXPECT_EQ(tags.captions, (Pairs{{"2", "&2  Mail"}, {"7", "&7  *** - Notepad"}}));
-  EXPECT_EQ(tags.classes, (Pairs{{"2", "MailFrame"}, {"7", "Notepad"}}));
-}
-
-TEST_F(SettingsTest, KeysThatAreNoTagRestoreNothing) {
-  for (const char* key : {"0", "10", "", "a", "01", " 1", ":"}) {
-    store_.SaveSetting(kApp, "ParentWindowList", key, "&" + std::string(key) + "  Mail");
-    store_.SaveSetting(kApp, "ParentWindowClass", key, "MailFrame");
-  }
-  const StoredTagList tags = settings_.LoadTagList();
-  EXPECT_TRUE(tags.captions.empty());
-  EXPECT_TRUE(tags.classes.empty());
-}
-
-TEST_F(SettingsTest, CaptionsWithoutTheirOwnDigitRestoreNothing) {
-  const std::vector<std::string> captions = {"",        "Mail",     "&2  Mail", "&1 Mail",
-                                             "1  Mail", "& 1 Mail", "&1",       "&1 \xff"};
-  for (const std::string& caption : captions) {
-    store_.SaveSetting(kApp, "ParentWindowList", "1", caption);
-    EXPECT_TRUE(settings_.LoadTagList().captions.empty()) << caption;
-  }
-  store_.SaveSetting(kApp, "ParentWindowList", "1", "&1  ");
-  EXPECT_EQ(settings_.LoadTagList().captions.size(), 1U);
 }
 
 TEST_F(SettingsTest, SaveINIReplacesWhatStoodInItsSections) {

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "app/core/installation.h"
+#include "app/core/settings.h"
+
+namespace korvale {
+
+/// What the main form keeps and does during the rule.
+struct FormOfSettings {
+  explicit FormOfSettings(Settings& settingsToUse) : settings(settingsToUse) {}
+
+  InstallationImport Import() {
+    return {[this] { settings.LoadOptions(options); },
+            [this] {
+              startup = settings.LoadStartup();
+              tags = settings.LoadTagList();
+            },
+            [this] { settings.SaveOptions(options); },
+            [this] {
+              settings.SaveINI(startup, [this](SettingsStore& store) {
+                for (const auto& [tag, caption] : tags.captions) {
+                  store.SaveSetting(settings.AppName(), "ParentWindowList", tag, caption);
+                }
+                for (const auto& [tag, name] : tags.classes) {
+                  store.SaveSetting(settings.AppName(), "ParentWindowClass", tag, name);
+                }
+              });
+            }};
+  }
+
+  Settings& settings;
+  clsOptions options;
+  StartupSettings startup;
+  StoredTagList tags;
+};
+
+}  // namespace korvale

@@ -1,0 +1,180 @@
+#include "app/core/save_journal.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "app/core/settings.h"
+#include "platform/run_time_error.h"
+#include "tests/core/saves.h"
+#include "tests/core/stored_values.h"
+#include "tests/fakes/fake_settings_store.h"
+
+namespace korvale {
+namespace {
+
+class SaveJournalTest : public testing::Test {
+ protected:
+  void Entry(const std::string& name, const std::string& value) {
+    store_.SaveSetting(kApp, kJournalSection, name, value);
+  }
+  StoredValues AfterRestart() {
+    Restart(store_);
+    return AllValues(store_);
+  }
+
+  FakeSettingsStore store_;
+};
+
+TEST_F(SaveJournalTest, CompleteJournalIsMadeInItsOrderAndGone) {
+  Entry("2\\S\\Korvale - Work\\Options\\A", "new");
+  Entry("10\\K\\Korvale - Work\\Options\\B", "");
+  for (const char* number : {"4", "5", "6", "7", "8", "9"}) {
+    Entry(std::string(number) + "\\S\\Korvale - Work\\Options\\B", number);
+  }
+  Entry("3\\S\\Korvale - Work\\Startup\\C\\D", "");
+  Entry("1\\D\\Korvale - Work\\Options\\", "");
+  Entry("Complete", "10");
+  store_.SaveSetting(kApp, "Options", "Old", "1");
+  EXPECT_EQ(AfterRestart(), (StoredValues{{"Korvale - Work/Options/A", "new"},
+                                          {"Korvale - Work/Startup/C\\D", ""}}));
+}
+
+TEST_F(SaveJournalTest, JournalThatIsNotCompleteIsDropped) {
+  const std::string good = "1\\S\\Korvale - Work\\Options\\A";
+  const std::vector<SettingsStore::Pairs> journals = {
+      {{good, "x"}},
+      {{good, "x"}, {"Complete", "2"}},
+      {{good, "x"}, {"Complete", ""}},
+      {{good, "x"}, {"Complete", "one"}},
+      {{good, "x"}, {"3\\S\\Korvale - Work\\Options\\B", "x"}, {"Complete", "2"}},
+      {{"2\\S\\Korvale - Work\\Options\\B", "x"}, {"Complete", "1"}},
+      {{"Complete", "1"}},
+  };
+  for (const auto& journal : journals) {
+    for (const auto& [name, value] : journal) Entry(name, value);
+    EXPECT_EQ(AfterRestart(), StoredValues());
+  }
+}
+
+TEST_F(SaveJournalTest, GarbageInTheJournalIsDropped) {
+  for (const char* name : {"", "1", "1\\", "1\\X\\a\\b\\c", "1\\SS\\a\\b\\c", "x\\S\\a\\b\\c",
+                           "\\\\\\\\", "99999999999\\S\\a\\b\\c", "\xff\xfe"}) {
+    Entry(name, "x");
+    Entry("Complete", "1");
+    EXPECT_EQ(AfterRestart(), StoredValues()) << name;
+  }
+}
+
+TEST_F(SaveJournalTest, LeftoverNeverUndoesALaterSave) {
+  Entry("1\\S\\Korvale - Work\\Options\\A", "old");
+  Entry("Complete", "1");
+  store_.SaveSetting(kApp, "Options", "A", "");
+  DeleteTheOptions(store_);
+  EXPECT_EQ(AfterRestart(), StoredValues());
+}
+
+TEST_F(SaveJournalTest, NothingOfItIsLeftAfterASave) {
+  SaveOld(store_);
+  SaveNewINI(store_);
+  EXPECT_TRUE(store_.GetAllSettings(kApp, kJournalSection).empty());
+}
+
+TEST_F(SaveJournalTest, NothingIsWrittenWhenThereIsNothingToChange) {
+  EXPECT_TRUE(RunsToItsEnd(store_, 0, DeleteTheOptions));
+  EXPECT_TRUE(RunsToItsEnd(store_, 0, Restart));
+}
+
+/// Refuses to save the keys of one section that end with `key`, and cannot delete that section.
+class RefusingStore : public FakeSettingsStore {
+ public:
+  RefusingStore(std::string section, std::string key)
+      : section_(std::move(section)), key_(std::move(key)) {}
+
+  bool SaveSetting(const std::string& appName, const std::string& section, const std::string& key,
+                   const std::string& value) override {
+    if (refusing && section == section_ && key.ends_with(key_)) return false;
+    return FakeSettingsStore::SaveSetting(appName, section, key, value);
+  }
+  bool DeleteSection(const std::string& appName, const std::string& section) override {
+    if (refusing && section == section_ && section != kJournalSection) {
+      throw RunTimeError(RunTimeError::kInvalidCall);
+    }
+    return FakeSettingsStore::DeleteSection(appName, section);
+  }
+
+  bool refusing = false;
+
+ private:
+  std::string section_;
+  std::string key_;
+};
+
+std::int16_t ErrorOf(const std::function<void()>& call) {
+  try {
+    call();
+  } catch (const RunTimeError& error) {
+    return error.Number();
+  }
+  return 0;
+}
+
+TEST(RefusedSaveTest, ChangesNothingWhenItCannotBePrepared) {
+  for (const char* key : {"Tips", "Complete"}) {
+    RefusingStore store(kJournalSection, key);
+    SaveOld(store);
+    const StoredValues before = AllValues(store);
+    store.refusing = true;
+    EXPECT_EQ(ErrorOf([&] { SaveNewINI(store); }), 70);
+    EXPECT_EQ(AllValues(store), before);
+  }
+}
+
+TEST(RefusedSaveTest, IsReportedAfterTheOtherValuesAreSaved) {
+  RefusingStore store("Startup", "Tips");
+  store.refusing = true;
+  EXPECT_EQ(ErrorOf([&] { SaveNewINI(store); }), 70);
+  EXPECT_EQ(store.GetSetting(kApp, "Startup", "WindowInfo"), "True");
+  EXPECT_EQ(store.GetSetting(kApp, "ParentWindowList", "3"), "&3  New\\Tag");
+  EXPECT_TRUE(store.GetAllSettings(kApp, kJournalSection).empty());
+}
+
+TEST(RefusedSaveTest, FailingDeletionDoesNotStopTheOthers) {
+  RefusingStore store("ButtonTags", "");
+  SaveOld(store);
+  store.refusing = true;
+  SaveNewINI(store);
+  EXPECT_EQ(store.GetSetting(kApp, "ButtonTags", "1"), "old");
+  EXPECT_EQ(store.GetSetting(kApp, "ParentWindowList", "1"), std::nullopt);
+  EXPECT_EQ(store.GetSetting(kApp, "ParentWindowList", "3"), "&3  New\\Tag");
+}
+
+TEST(SaveTogetherTest, MakesNothingWhenTheWorkThrows) {
+  FakeSettingsStore store;
+  Settings settings(store, kApp);
+  const auto failing = [&](SettingsStore& /*recorder*/) {
+    settings.SaveOptions(clsOptions());
+    throw RunTimeError(RunTimeError::kOverflow);
+  };
+  EXPECT_EQ(ErrorOf([&] { settings.SaveTogether(failing); }), 6);
+  EXPECT_TRUE(settings.NothingStored());
+  settings.SaveOptions(clsOptions());
+  EXPECT_FALSE(settings.NothingStored());
+}
+
+TEST(SaveTogetherTest, ReadsSeeTheStoreAsItWasUntilTheEnd) {
+  FakeSettingsStore store;
+  Settings settings(store, kApp);
+  settings.SaveTogether([&](SettingsStore& together) {
+    EXPECT_TRUE(together.SaveSetting(kApp, "Options", "HotKeyAction0", "13"));
+    EXPECT_EQ(together.GetSetting(kApp, "Options", "HotKeyAction0"), std::nullopt);
+    EXPECT_TRUE(together.GetAllSettings(kApp, "Options").empty());
+  });
+  EXPECT_EQ(store.GetSetting(kApp, "Options", "HotKeyAction0"), "13");
+}
+
+}  // namespace
+}  // namespace korvale
