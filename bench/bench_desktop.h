@@ -1,0 +1,128 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
+#include "app/core/error_reporting.h"
+#include "hotkeys/hot_key_dispatch.h"
+#include "platform/win32_constants.h"
+#include "tests/fakes/call_log.h"
+#include "tests/fakes/fake_desktop.h"
+#include "tests/fakes/fake_hot_key_actions.h"
+#include "tests/fakes/fake_hot_keys.h"
+#include "tests/fakes/fake_loaded_forms.h"
+#include "tests/fakes/fake_main_window.h"
+#include "tests/fakes/fake_message_boxes.h"
+#include "tests/fakes/fake_settings_store.h"
+#include "util/text.h"
+
+namespace korvale {
+
+/// What the dispatcher works with, on a desktop full of windows.
+struct BenchParts {
+  BenchParts() { options.Create(); }
+
+  CallLog log;
+  FakeDesktop desktop{log};
+  FakeHotKeys hotKeys{log};
+  FakeSettingsStore store;
+  FakeMainWindow mainWindow;
+  FakeLoadedForms forms;
+  OptionsHolder options;
+  MenuItem windowMenu;
+  TagList tags{MenuItemArray(windowMenu, "mnuWindowParentList")};
+  TagListPasses tagPasses{tags, desktop, store};
+  PreviousWindow previous;
+  WindowFilter filter{desktop, options, forms, mainWindow};
+  WindowEnumeration enumeration{desktop, desktop, filter, mainWindow, tagPasses};
+  Suspension suspension;
+  FakeMessageBoxes messages;
+  WindowActions windowActions{desktop,    desktop,  filter,   enumeration,
+                              mainWindow, previous, messages, "Title"};
+  ForegroundTracker tracker{desktop, filter, windowActions, mainWindow, previous, tags};
+};
+
+/// Selects Tags as the Window menu does: by the stored handle, else by matching all windows anew.
+class BenchActions : public FakeHotKeyActions {
+ public:
+  explicit BenchActions(BenchParts& parts) : parts_(&parts) {}
+
+  bool HasTagCaption(std::int16_t) override { return true; }
+  void mnuWindowParentList_Click(std::int16_t Index) override {
+    MenuItem& entry = *parts_->tags.mnuWindowParentList.Find(Index);
+    if (Activate(entry) != kActivationDone) {
+      parts_->enumeration.RefreshTags();
+      Activate(entry);
+    }
+    parts_->tracker.ValidatePreviousWindow();
+  }
+
+ private:
+  ActivationResult Activate(const MenuItem& entry) {
+    WindowTriple window{TagHandle(entry), IdentificationText(entry), TagClass(parts_->tags, entry)};
+    return parts_->windowActions.ActivateWindow(window, false, true);
+  }
+
+  BenchParts* parts_;
+};
+
+struct BenchErrors : ErrorReporters {
+  void udmNonFatalError(ErrorPlace, std::int16_t) override {}
+};
+
+/// A desktop of so many windows; Tags 1 and 2 stand for the topmost and the lowest of them.
+class BenchDesktop {
+ public:
+  explicit BenchDesktop(int windowCount) {
+    parts_.mainWindow.handle = parts_.desktop.Open("Korvale - Work");
+    for (int number = 1; number <= windowCount; ++number) {
+      parts_.desktop.Open("Document " + DecimalText(number) + " - Editor " + DecimalText(number),
+                          {.className = "Editor"});
+    }
+    AddTag(1, "*** - Editor 1");
+    AddTag(2, "*** - Editor " + DecimalText(windowCount));
+    parts_.enumeration.RefreshTags();
+  }
+
+  /// Presses the two hot keys in turn, so that each of them changes the foreground.
+  void PressTagKey() {
+    dispatch_.udmProcessHotKey(odd_ ? "HOTKEY_PARENT1" : "HOTKEY_PARENT2", true, false, "");
+    odd_ = !odd_;
+    parts_.log.Clear();
+  }
+
+  /// Makes the next press look for its window among all of them.
+  void ForgetHandles() { parts_.tagPasses.TagListPass(TagListMode::kUnresolve); }
+
+  /// How many calls to Windows the next press makes.
+  std::size_t CallsOfPress() {
+    parts_.log.IncludeReads(true);
+    dispatch_.udmProcessHotKey("HOTKEY_PARENT1", true, false, "");
+    parts_.log.IncludeReads(false);
+    return parts_.log.Take().size();
+  }
+
+  std::string ForegroundTitle() const { return parts_.desktop.ForegroundTitle(); }
+
+ private:
+  void AddTag(int tag, const std::string& identification) {
+    std::string& caption = parts_.tags.mnuWindowParentList.Load(tag).caption;
+    caption.append("&").append(DecimalText(tag)).append("  ").append(identification);
+  }
+
+  BenchParts parts_;
+  BenchActions actions_{parts_};
+  BenchErrors errors_;
+  HotKeyTable table_{parts_.hotKeys, parts_.options, parts_.mainWindow};
+  HotKeyToggle toggle_{table_, parts_.options, actions_, "Product", "Title"};
+  HotKeyDispatch dispatch_{
+      {parts_.desktop, parts_.desktop, parts_.mainWindow, parts_.forms, parts_.tagPasses,
+       parts_.filter, parts_.windowActions, parts_.tracker, parts_.previous, parts_.suspension,
+       parts_.messages, actions_, toggle_, errors_},
+      "Product",
+      "Title"};
+  bool odd_ = true;
+};
+
+}  // namespace korvale

@@ -1,0 +1,53 @@
+#include <benchmark/benchmark.h>
+
+#include <chrono>
+
+#include "bench/bench_desktop.h"
+
+namespace korvale {
+namespace {
+
+constexpr int kFewWindows = 20;
+constexpr int kManyWindows = 200;
+
+template <typename Work>
+double Nanoseconds(Work work) {
+  const auto start = std::chrono::steady_clock::now();
+  work();
+  return std::chrono::duration<double, std::nano>(std::chrono::steady_clock::now() - start).count();
+}
+
+double Calls(BenchDesktop& desktop, bool forgetful) {
+  if (forgetful) desktop.ForgetHandles();
+  return static_cast<double>(desktop.CallsOfPress());
+}
+
+/// A Tag key on a desktop of few and on one of many windows, measured in turn: `ratio` is how many
+/// times longer it takes on the full one. The fake desktop's own work is part of the times (it
+/// sorts its windows at each change of the foreground), not of the counted calls.
+void CompareDesktops(benchmark::State& state, bool forgetful) {
+  BenchDesktop few(kFewWindows);
+  BenchDesktop many(kManyWindows);
+  const auto press = [forgetful](BenchDesktop& desktop) {
+    if (forgetful) desktop.ForgetHandles();
+    return Nanoseconds([&] { desktop.PressTagKey(); });
+  };
+  double fewTime = 0;
+  double manyTime = 0;
+  for ([[maybe_unused]] auto _ : state) {
+    fewTime += press(few);
+    manyTime += press(many);
+  }
+  if (many.ForegroundTitle().find("Editor") == std::string::npos) state.SkipWithError("no window");
+  const auto runs = static_cast<double>(state.iterations());
+  state.counters["ns_20"] = fewTime / runs;
+  state.counters["ns_200"] = manyTime / runs;
+  state.counters["ratio"] = manyTime / fewTime;
+  state.counters["calls_20"] = Calls(few, forgetful);
+  state.counters["calls_200"] = Calls(many, forgetful);
+}
+BENCHMARK_CAPTURE(CompareDesktops, tag_key_with_known_handle, false);
+BENCHMARK_CAPTURE(CompareDesktops, tag_key_with_lost_handle, true);
+
+}  // namespace
+}  // namespace korvale
