@@ -43,7 +43,9 @@ void ForegroundTracker::tmrWindow_Timer() {
   if (isMain) {
     mainWindow_->SetFocusTag(kGotFocus);
   } else {
-    MoveRecordTo({foreground, title, GetWindowClass(*windows_, foreground)});
+    const bool moved = std::exchange(previous_->menuSelection, false) &&
+                       foreground == previous_->current.handle;
+    if (!moved) MoveRecordTo({foreground, title, GetWindowClass(*windows_, foreground)});
     udmRefreshAlwaysOnTopMenuChecked();
   }
   ValidatePreviousWindow();

@@ -24,6 +24,9 @@ struct PreviousWindow {
   WindowTriple alternate;
   /// The last foreground window that was not the main window.
   WindowHandle lastOtherForeground = 0;
+  /// A selection has moved the record already; the tick that sees the selected window come to the
+  /// front does not move it once more.
+  bool menuSelection = false;
 };
 
 }  // namespace korvale

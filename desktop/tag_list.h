@@ -12,6 +12,8 @@
 namespace korvale {
 
 inline constexpr int kTagCount = 9;
+/// Characters of a Tag entry's caption before its identification text: "&" and the digit.
+inline constexpr int kTagPrefixLength = 2;
 
 /// The tag list: the Window menu's own entries 1-9 and the window class of each Tag.
 struct TagList {

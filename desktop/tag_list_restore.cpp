@@ -6,9 +6,6 @@ namespace korvale {
 
 namespace {
 
-/// Characters of a Tag entry's caption before its identification text: "&" and the digit.
-constexpr int kPrefixLength = 2;
-
 /// 1-9, or 0 for a text that is no Tag number.
 int TagNumberOf(const std::string& key) {
   const bool isTag = key.size() == 1 && key[0] >= '1' && key[0] <= '9';
@@ -33,7 +30,7 @@ void RestoreTagList(TagList& tags, const SettingsStore::Pairs& captions,
     }
     MenuItem& entry = list.Load(tag);
     entry.caption = caption;
-    entry.literalFrom = kPrefixLength;
+    entry.literalFrom = kTagPrefixLength;
     entry.tag = "0";
     entry.visible = true;
   }

@@ -176,6 +176,7 @@ void frmGetWindow::cmdOK_Click() {
 void frmGetWindow::AddEntry(int tag, const std::string& caption) {
   MenuItem& entry = context_.tags.mnuWindowParentList.Load(tag);
   entry.caption = caption;
+  entry.literalFrom = kTagPrefixLength;
   // Only a window with a child window is stored with its handle and class; kept so on purpose.
   const bool hasChild = GetRelatedWindow(context_.windows, window_, 1) != 0;
   entry.tag = hasChild ? DecimalText(window_) : "0";

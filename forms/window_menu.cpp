@@ -144,7 +144,7 @@ void WindowMenu::MoveRecordToSelected(const MenuItem& entry) {
   }
   parts_.tracker.MoveRecordTo({selected, GetWindowTitle(parts_.windows, selected),
                                GetWindowClass(parts_.windows, selected)});
-  menuSelection = true;
+  parts_.previous.menuSelection = true;
 }
 
 void WindowMenu::mnuWindowAddToList_Click(std::int16_t Index) {

@@ -56,8 +56,6 @@ class WindowMenu {
 
   /// True while a search over the windows must not be started.
   bool windowSearch = false;
-  /// Set when a window was selected through the menu.
-  bool menuSelection = false;
 
  private:
   void SelectPrevious();
