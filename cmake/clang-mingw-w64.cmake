@@ -11,4 +11,5 @@ foreach(folder ${gcc}/include/c++ ${gcc}/include/c++/x86_64-w64-mingw32
   string(APPEND headers " -isystem ${folder}")
 endforeach()
 set(CMAKE_CXX_FLAGS_INIT "${headers}")
-set(CMAKE_EXE_LINKER_FLAGS_INIT "-B${gcc} -L${gcc}")
+# GCC's libraries want its threads; the compiler's own flags mean nothing to the linker.
+set(CMAKE_EXE_LINKER_FLAGS_INIT "-B${gcc} -L${gcc} -pthread -Wno-unused-command-line-argument")
