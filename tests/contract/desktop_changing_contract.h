@@ -19,16 +19,6 @@ TEST_F(DesktopContract, RefusesToChangeAWindowThatIsGone) {
   EXPECT_FALSE(commands_.PostMessageW(gone, win32::kWmNull));
 }
 
-TEST_F(DesktopContract, KeepsOwnedWindowsAboveTheirOwner) {
-  const WindowHandle owner = OpenPlain("Contract Alpha");
-  const WindowHandle owned = Open({.title = "Contract Popup", .owner = owner, .popup = true});
-
-  SetForeground(owner);
-
-  EXPECT_EQ(queries_.GetForegroundWindow(), owner);
-  EXPECT_EQ(Enumerated(), (Handles{owned, owner}));
-}
-
 TEST_F(DesktopContract, ReturnsFromShowingWhetherTheWindowWasVisible) {
   const WindowHandle hwnd = OpenPlain("Contract Alpha");
 

@@ -114,6 +114,17 @@ TEST_F(FakeDesktopOwnerTest, HidingAnOwnedWindowPrefersItsOwnerToItsSiblings) {
   EXPECT_EQ(desktop_.ForegroundTitle(), "Alpha");
 }
 
+TEST_F(FakeDesktopOwnerTest, AnOwnedWindowStaysAboveItsOwner) {
+  const WindowHandle alpha = desktop_.Open("Alpha");
+  OpenOwned("Find", alpha);
+  desktop_.Open("Beta");
+
+  desktop_.UserActivates(alpha);
+
+  EXPECT_EQ(desktop_.ForegroundTitle(), "Alpha");
+  EXPECT_EQ(desktop_.VisibleTitles(), (Titles{"Find", "Alpha", "Beta"}));
+}
+
 TEST_F(FakeDesktopOwnerTest, AWholeGroupComesForwardWithOneOfItsWindows) {
   const WindowHandle alpha = desktop_.Open("Alpha");
   const WindowHandle find = OpenOwned("Find", alpha);
