@@ -102,6 +102,7 @@ void HotKeyDispatch::MakeTarget(const WindowTriple& window) {
     parts_.mainWindow.SetFocusTag(kGotFocus);
   } else {
     parts_.tracker.MoveRecordTo(window);
+    parts_.previous.menuSelection = true;
     parts_.tracker.udmRefreshAlwaysOnTopMenuChecked();
   }
   parts_.tracker.ValidatePreviousWindow();

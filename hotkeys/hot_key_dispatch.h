@@ -29,7 +29,7 @@ struct HotKeyDispatchParts {
   const WindowFilter& filter;
   WindowActions& windowActions;
   ForegroundTracker& tracker;
-  const PreviousWindow& previous;
+  PreviousWindow& previous;
   Suspension& suspension;
   MessageBoxes& messages;
   HotKeyActions& actions;

@@ -37,6 +37,17 @@ TEST_F(UnknownHotKeyTest, MakesTheForegroundWindowTheTarget) {
                    "ShowTargetWindow(\"Other\", \"Other\")", "udmTimersEnabled(true)"}));
 }
 
+TEST_F(UnknownHotKeyTest, KeepsTheWindowBeforeTheNewTargetWhenTheTrackingComesToSeeIt) {
+  tracker.tmrWindow_Timer();
+  desktop.UserActivates(other);
+
+  Press("NO_HOT_KEY");
+  tracker.tmrWindow_Timer();
+
+  EXPECT_EQ(previous.current.handle, other);
+  EXPECT_EQ(previous.alternate.handle, target);
+}
+
 TEST_F(UnknownHotKeyTest, ReturnsTheTitleOfTheNewTarget) {
   desktop.UserActivates(other);
 
