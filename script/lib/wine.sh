@@ -32,7 +32,7 @@ wine_display() {
 wine_template() {
   local wine_version
   wine_version=$("$WINE_LOADER" --version | tr -c 'A-Za-z0-9.\n' '_')
-  WINE_TEMPLATE=${KORVALE_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/korvale}/prefix-2-$wine_version
+  WINE_TEMPLATE=${KORVALE_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/korvale}/prefix-3-$wine_version
   if [ -f "$WINE_TEMPLATE.done" ]; then return; fi
   rm -rf "$WINE_TEMPLATE"
   mkdir -p "$(dirname "$WINE_TEMPLATE")"
@@ -41,6 +41,9 @@ wine_template() {
   # Without a window manager only Wine's own desktop window knows who is in front.
   "$WINE_LOADER" reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d Default /f >/dev/null
   "$WINE_LOADER" reg add 'HKCU\Software\Wine\Explorer\Desktops' /v Default /d "$WINE_SCREEN" /f \
+    >/dev/null
+  # A program that crashes shall end at once, not wait in a debugger.
+  "$WINE_LOADER" reg delete 'HKLM\Software\Microsoft\Windows NT\CurrentVersion\AeDebug' /f \
     >/dev/null
   "$WINE_SERVER" -w
   touch "$WINE_TEMPLATE.done"

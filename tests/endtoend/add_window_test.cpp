@@ -22,6 +22,7 @@ class AddWindow : public KorvaleTest {
 
   /// Works in another window, presses the Tag's key, and expects the tagged window.
   void ExpectTagSelects(int tag, Window window) {
+    ASSERT_TRUE(InFront(main()));
     ASSERT_TRUE(WorkIn(Open("Elsewhere")));
     Press(TagKey(tag));
     EXPECT_TRUE(InFront(window));
@@ -133,16 +134,45 @@ TEST_F(AddWindow, RemovesATagAndStaysOpen) {
   EXPECT_EQ(dialog.SelectedTag(), "2");
   EXPECT_FALSE(dialog.RemoveButton().Enabled());
   ASSERT_TRUE(dialog.Cancel());
+  ASSERT_TRUE(InFront(main()));
   const Window elsewhere = Open("Elsewhere");
   ASSERT_TRUE(WorkIn(elsewhere));
   Press(TagKey(2));
   EXPECT_TRUE(StaysInFront(elsewhere));
 }
 
+TEST_F(AddWindow, GivesTheFocusBackToTheMainWindow) {
+  Start();
+  const AddWindowDialog first = OpenFor("Alpha");
+  ASSERT_TRUE(first.Confirm());
+  EXPECT_TRUE(InFront(main()));
+  EXPECT_TRUE(StaysInFront(main()));
+  const AddWindowDialog second = OpenAddWindow();
+  ASSERT_TRUE(second.Cancel());
+  EXPECT_TRUE(InFront(main()));
+  EXPECT_TRUE(StaysInFront(main()));
+}
+
+TEST_F(AddWindow, ShowsItsButtons) {
+  Start();
+  const AddWindowDialog dialog = OpenFor("Alpha");
+  for (const Window button : {dialog.OkButton(), dialog.CloseButton(), dialog.RemoveButton()}) {
+    RECT shown{};
+    RECT client{};
+    GetWindowRect(button.handle(), &shown);
+    GetClientRect(dialog.form().handle(), &client);
+    MapWindowPoints(HWND_DESKTOP, dialog.form().handle(), reinterpret_cast<POINT*>(&shown), 2);
+    EXPECT_TRUE(button.Visible()) << button.Text();
+    EXPECT_LE(shown.bottom, client.bottom) << button.Text();
+    EXPECT_LE(shown.right, client.right) << button.Text();
+  }
+}
+
 TEST_F(AddWindow, ChangesNothingOnEscape) {
   Start();
   const AddWindowDialog dialog = OpenFor("Alpha");
   ASSERT_TRUE(dialog.Cancel());
+  ASSERT_TRUE(InFront(main()));
   const Window elsewhere = Open("Elsewhere");
   ASSERT_TRUE(WorkIn(elsewhere));
   Press(TagKey(1));

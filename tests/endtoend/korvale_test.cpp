@@ -1,5 +1,7 @@
 #include "tests/endtoend/korvale_test.h"
 
+#include <stdexcept>
+
 #include "tests/endtoend/harness/files.h"
 
 namespace korvale::endtoend {
@@ -25,8 +27,8 @@ void KorvaleTest::Start() {
   installation_.MarkAsUsed();
   korvale_.emplace(installation_);
   const Window window = main();
-  ASSERT_TRUE(window) << "the main window did not come";
-  ASSERT_TRUE(InFront(window));
+  if (!window) throw std::runtime_error("the main window did not come");
+  if (!InFront(window)) throw std::runtime_error("the main window is not in front");
 }
 
 void KorvaleTest::TearDown() {

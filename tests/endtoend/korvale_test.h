@@ -19,6 +19,7 @@ namespace korvale::endtoend {
 class KorvaleTest : public ::testing::Test {
  protected:
   /// Starts the installation as one that was used before, and waits until it is in front.
+  /// Throws, and so ends the test, when that does not happen.
   void Start();
   void TearDown() override;
 

@@ -28,6 +28,23 @@ TEST_F(TagKeys, RestoreAMinimizedWindow) {
   EXPECT_TRUE(WaitFor([&] { return !alpha.Minimized(); }));
 }
 
+TEST_F(TagKeys, MakeTheWindowThatTheUserLeftThePreviousWindow) {
+  installation_.StoreTag(3, "Alpha", kClass);
+  Start();
+  const Window alpha = Open("Alpha");
+  ASSERT_TRUE(WorkIn(alpha));
+  const Window beta = Open("Beta");
+  ASSERT_TRUE(WorkIn(beta));
+  Press(TagKey(3));
+  ASSERT_TRUE(InFront(alpha));
+  ASSERT_TRUE(StaysInFront(alpha));
+  Press(TagKey(0));
+  EXPECT_TRUE(InFront(beta));
+  ASSERT_TRUE(StaysInFront(beta));
+  Press(TagKey(0));
+  EXPECT_TRUE(InFront(alpha));
+}
+
 TEST_F(TagKeys, LeaveThePreviousWindowAloneWhenTheirWindowIsAlreadyInFront) {
   installation_.StoreTag(2, "Beta", kClass);
   Start();
@@ -35,6 +52,10 @@ TEST_F(TagKeys, LeaveThePreviousWindowAloneWhenTheirWindowIsAlreadyInFront) {
   ASSERT_TRUE(WorkIn(alpha));
   const Window beta = Open("Beta");
   ASSERT_TRUE(WorkIn(beta));
+  ASSERT_TRUE(WorkIn(alpha));
+  Press(TagKey(2));
+  ASSERT_TRUE(InFront(beta));
+  ASSERT_TRUE(StaysInFront(beta));
   Press(TagKey(2));
   EXPECT_TRUE(StaysInFront(beta));
   Press(TagKey(0));

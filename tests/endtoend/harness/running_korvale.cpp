@@ -23,7 +23,7 @@ Window RunningKorvale::Find(const std::string& class_name) const {
 
 Window RunningKorvale::Wait(const std::string& class_name) const {
   Window found;
-  WaitFor([&] { return static_cast<bool>(found = Find(class_name)); });
+  WaitFor([&] { return (found = Find(class_name)) || !process_.Running(); });
   return found;
 }
 

@@ -6,7 +6,7 @@
 namespace korvale::endtoend {
 
 /// How long a condition may take before it counts as failed.
-inline constexpr std::chrono::milliseconds kPatience{5000};
+inline constexpr std::chrono::milliseconds kPatience{10000};
 
 /// How long a condition must hold before it counts as lasting: three ticks of a 100 ms timer.
 inline constexpr std::chrono::milliseconds kWhile{350};
