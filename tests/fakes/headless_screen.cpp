@@ -9,6 +9,8 @@
 namespace korvale {
 namespace {
 
+constexpr Twips kMiddleOfTab = 150;
+
 bool HidesWhatIsBelow(ControlKind kind) {
   return kind != ControlKind::kLabel && kind != ControlKind::kLine && kind != ControlKind::kFrame &&
          kind != ControlKind::kTabStrip && kind != ControlKind::kTimer;
@@ -76,7 +78,9 @@ std::string HeadlessWindow::WhyOutOfReach(int id) const {
   if (!IsEnabled(id)) return name + " is disabled";
   const ControlState& shown = Control(id).shown;
   Twips x = shown.place.left + shown.place.width / 2;
-  Twips y = shown.place.top + shown.place.height / 2;
+  // The tabs of a strip stand along its upper edge; the rest of it lies below its pages.
+  const Twips hit = shown.kind == ControlKind::kTabStrip ? kMiddleOfTab : shown.place.height / 2;
+  Twips y = shown.place.top + hit;
   for (int at = id;;) {
     if (IsCovered(at, x, y)) return name + " is covered by another control";
     const int holder = Control(at).shown.container;

@@ -1,67 +1,11 @@
-#include "forms/form_display.h"
+#include "tests/forms/form_display_test.h"
 
-#include <functional>
 #include <stdexcept>
-
-#include "tests/forms/dialog_test.h"
+#include <string>
+#include <vector>
 
 namespace korvale {
 namespace {
-
-constexpr ControlRow kControls[] = {
-    {ControlKind::kButton, "cmdOK", -1, "OK", "", {60, 60, 1000, 300}},
-};
-
-constexpr FormDesign kDialog = {
-    .name = "frmDialog", .caption = "Dialog", .place = {0, 0, 3000, 2000}, .controls = kControls};
-constexpr FormDesign kSecond = {
-    .name = "frmSecond", .caption = "Second", .place = {0, 0, 1000, 1000}, .controls = kControls};
-constexpr FormDesign kOwner = {.name = "frmOwner",
-                               .caption = "Owner",
-                               .place = {6000, 4000, 4000, 3000},
-                               .border = BorderStyle::kSizable,
-                               .minimizeBox = true,
-                               .controls = kControls};
-
-class Dialog : public Form {
- public:
-  Dialog(const FormDesign& design, FormCollection& forms) : Form(design, forms) {
-    WhenClicked("cmdOK", [this](int) {
-      SetTag("OK");
-      Unload();
-    });
-  }
-
-  std::function<void()> whenActivated;
-
- protected:
-  void Form_Activate() override {
-    if (whenActivated) whenActivated();
-  }
-};
-
-class FormDisplayTest : public DialogTest {
- protected:
-  std::string ShowDialogModal(const PlaceHints& hints = {}, Form* owner = nullptr,
-                              const DisplaySwitches& switches = {}) {
-    return display_.ShowFormModal(dialog_, switches, 1000, hints, owner);
-  }
-  /// Shows the dialog modally and tells where it stood.
-  TwipsRect PlaceWhenShown(const PlaceHints& hints = {}, Form* owner = nullptr,
-                           const DisplaySwitches& switches = {}) {
-    TwipsRect place;
-    host_.WhenModal("frmDialog", [&](Form& form) {
-      place = user_.Place(form.Handle());
-      form.Unload();
-    });
-    ShowDialogModal(hints, owner, switches);
-    return place;
-  }
-
-  Dialog dialog_{kDialog, forms_};
-  Dialog second_{kSecond, forms_};
-  Dialog owner_{kOwner, forms_};
-};
 
 TEST_F(FormDisplayTest, ReturnsTheTagThatTheFormHasWhenItCloses) {
   host_.WhenModal("frmDialog", [&](Form& form) { Click(form, "cmdOK"); });
@@ -124,98 +68,6 @@ TEST_F(FormDisplayTest, ShowsAFormModallyOnlyOnceAtATime) {
   });
   ShowDialogModal();
   EXPECT_FALSE(dialog_.IsLoaded());
-}
-
-TEST_F(FormDisplayTest, CentresTheFormOnItsOwner) {
-  owner_.Show();
-  EXPECT_EQ(PlaceWhenShown({}, &owner_), (TwipsRect{6500, 4500, 3000, 2000}));
-}
-
-TEST_F(FormDisplayTest, CentresTheFormOnTheWorkAreaWithoutAnOwner) {
-  host_.SetWorkArea({-2000, 100, 10000, 8000});
-  EXPECT_EQ(PlaceWhenShown(), (TwipsRect{1500, 3100, 3000, 2000}));
-}
-
-TEST_F(FormDisplayTest, CentresTheFormOnTheWorkAreaWhenTheOwnerCannotBeSeen) {
-  host_.SetWorkArea({0, 0, 10000, 8000});
-  const TwipsRect centred = {3500, 3000, 3000, 2000};
-  EXPECT_EQ(PlaceWhenShown({}, &owner_), centred);
-  owner_.Load();
-  EXPECT_EQ(PlaceWhenShown({}, &owner_), centred);
-  owner_.Show();
-  owner_.SetWindowState(ShowState::kMinimized);
-  EXPECT_EQ(PlaceWhenShown({}, &owner_), centred);
-}
-
-TEST_F(FormDisplayTest, CentresTheFormOnTheWorkAreaWhenToldSo) {
-  host_.SetWorkArea({0, 0, 10000, 8000});
-  owner_.Show();
-  EXPECT_EQ(PlaceWhenShown({}, &owner_, {.centerOnOwner = 0}), (TwipsRect{3500, 3000, 3000, 2000}));
-}
-
-TEST_F(FormDisplayTest, FollowsEachPositionHint) {
-  owner_.Show();
-  EXPECT_EQ(PlaceWhenShown({.left = 120, .top = 240}), (TwipsRect{120, 240, 3000, 2000}));
-  EXPECT_EQ(PlaceWhenShown({.left = 120}, &owner_), (TwipsRect{120, 4500, 3000, 2000}));
-  EXPECT_EQ(PlaceWhenShown({.top = 240}, &owner_), (TwipsRect{6500, 240, 3000, 2000}));
-}
-
-TEST_F(FormDisplayTest, KeepsTheFormInsideTheWorkArea) {
-  host_.SetWorkArea({100, 200, 10000, 8000});
-  EXPECT_EQ(PlaceWhenShown({.left = 9000, .top = 7000}), (TwipsRect{7100, 6200, 3000, 2000}));
-  EXPECT_EQ(PlaceWhenShown({.left = -500, .top = -500}), (TwipsRect{100, 200, 3000, 2000}));
-}
-
-TEST_F(FormDisplayTest, BeginsWithTheWorkAreaWhenTheFormIsLarger) {
-  host_.SetWorkArea({100, 200, 2000, 1000});
-  EXPECT_EQ(PlaceWhenShown(), (TwipsRect{100, 200, 3000, 2000}));
-}
-
-TEST_F(FormDisplayTest, LeavesTheFormOutsideWhenToldSo) {
-  EXPECT_EQ(PlaceWhenShown({.left = 90000, .top = 0}, nullptr, {.keepInWorkArea = 0}),
-            (TwipsRect{90000, 0, 3000, 2000}));
-}
-
-/// A screen of two monitors side by side.
-class TwoMonitors : public HeadlessFormHost {
- public:
-  using HeadlessFormHost::HeadlessFormHost;
-
-  TwipsRect GetMonitorInfoW(WindowHandle hwnd) override {
-    const HeadlessWindow* const window = FindWindow(hwnd);
-    const bool right = hwnd == onTheRight || (window != nullptr && window->place.left >= 10000);
-    return right ? TwipsRect{10000, 0, 8000, 6000} : TwipsRect{0, 0, 10000, 8000};
-  }
-
-  WindowHandle onTheRight = 0;
-};
-
-TEST_F(FormDisplayTest, ComesUpOnTheMonitorWhereTheUserWorks) {
-  CallLog log;
-  FakeDesktop desktop(log);
-  DesktopBridge windows(desktop.Windows(), 1);
-  TwoMonitors host(windows, log);
-  FormCollection forms(host, clock_);
-  Dialog dialog(kDialog, forms);
-  FormDisplay display(forms, desktop, desktop, suspension_, alwaysOnTop_);
-  TwipsRect place;
-  const auto look = [&](Form& form) {
-    place = host.Window(form.Handle()).place;
-    form.Unload();
-  };
-  host.onTheRight = desktop.Open("Editor");
-  host.WhenModal("frmDialog", look);
-  display.ShowFormModal(dialog, {}, 1000, {}, nullptr);
-  EXPECT_EQ(place, (TwipsRect{12500, 2000, 3000, 2000}));
-  host.WhenModal("frmDialog", look);
-  display.ShowFormModal(dialog, {}, 1000, {.left = 17000, .top = 0}, nullptr);
-  EXPECT_EQ(place, (TwipsRect{15000, 0, 3000, 2000}));
-}
-
-TEST_F(FormDisplayTest, CountsTheFrameThatTheWindowReallyHas) {
-  host_.SetFrame({100, 600, 290, 800}, 300);
-  host_.SetWorkArea({0, 0, 10000, 8000});
-  EXPECT_EQ(PlaceWhenShown({.left = 9000, .top = 7000}), (TwipsRect{6800, 5600, 3200, 2400}));
 }
 
 TEST_F(FormDisplayTest, MakesTheFormTopmostWhileTheMainWindowIs) {

@@ -1,0 +1,176 @@
+#include <set>
+#include <string>
+#include <vector>
+
+#include "tests/forms/options_test.h"
+
+namespace korvale {
+namespace {
+
+using OptionsLookTest = OptionsTest;
+
+constexpr Color kDefault = 0x0080FFFF;
+
+TEST_F(OptionsLookTest, PaintsEachTagByItsCheckBoxWhateverTheModifier) {
+  Record().intHotKeyModParent = 0;
+  OpenDialog();
+  EXPECT_EQ(Back("lblTagParent", 4), kDefault);
+  EXPECT_TRUE(Border("lblTagParent", 4));
+  Click(dialog_, "chkHotKeyParent", 4);
+  EXPECT_EQ(Back("lblTagParent", 4), kButtonFaceColor);
+  EXPECT_FALSE(Border("lblTagParent", 4));
+  EXPECT_EQ(Back("lblTagParent", 5), kDefault);
+}
+
+TEST_F(OptionsLookTest, PaintsEachOperationByItsKey) {
+  OpenDialog();
+  EXPECT_EQ(Back("lblAction", 1), kDefault);
+  EXPECT_EQ(Back("lblGeneral", 2), kDefault);
+  PickEntry("cboHotKeyAction", 1, 0);
+  PickEntry("cboHotKeyGeneral", 2, 0);
+  EXPECT_EQ(Back("lblAction", 1), kButtonFaceColor);
+  EXPECT_FALSE(Border("lblAction", 1));
+  EXPECT_EQ(Back("lblGeneral", 2), kButtonFaceColor);
+  PickEntry("cboHotKeyModGeneral", 1, 0);
+  EXPECT_EQ(Back("lblGeneral", 1), kDefault);
+  EXPECT_TRUE(Border("lblGeneral", 1));
+}
+
+TEST_F(OptionsLookTest, PaintsTheLegend) {
+  OpenDialog();
+  EXPECT_EQ(Back("lblLegend", 1), kDefault);
+  EXPECT_EQ(Back("lblLegend", 0), kButtonFaceColor);
+}
+
+TEST_F(OptionsLookTest, AClickOnTheLegendChoosesTheColour) {
+  OpenDialog();
+  owner_.chosenColor = 0x112233;
+  ClickLegend();
+  EXPECT_EQ(owner_.palettes, std::vector<Color>{kDefault});
+  EXPECT_EQ(Back("lblLegend", 1), 0x112233);
+  EXPECT_EQ(Back("lblTagParent", 0), 0x112233);
+  Click(dialog_, "cmdApply");
+  EXPECT_EQ(Record().colHotKeyEnabled, 0x112233);
+}
+
+TEST_F(OptionsLookTest, KeepsTheColourWhenThePaletteIsCancelled) {
+  OpenDialog();
+  ClickLegend();
+  EXPECT_EQ(owner_.palettes.size(), 1U);
+  EXPECT_EQ(Back("lblLegend", 1), kDefault);
+}
+
+TEST_F(OptionsLookTest, ShiftClickOnTheLegendRestoresTheDefaultColour) {
+  Record().colHotKeyEnabled = 0x112233;
+  OpenDialog();
+  ClickLegend(kShift);
+  EXPECT_TRUE(owner_.palettes.empty());
+  EXPECT_EQ(Back("lblLegend", 1), kDefault);
+  EXPECT_EQ(Back("lblGeneral", 0), kDefault);
+}
+
+TEST_F(OptionsLookTest, OtherClicksOnTheLegendDoNothing) {
+  Record().colHotKeyEnabled = 0x112233;
+  OpenDialog();
+  ClickLegend(kCtrl);
+  ClickLegend(kShift | kAlt);
+  ClickLegend(kNoShift, MouseButton::kRight);
+  ClickLegend(kShift, MouseButton::kRight);
+  EXPECT_TRUE(owner_.palettes.empty());
+  EXPECT_EQ(Back("lblLegend", 1), 0x112233);
+}
+
+TEST_F(OptionsLookTest, ForgetsTheColourOnCancel) {
+  OpenDialog();
+  owner_.chosenColor = 0x112233;
+  ClickLegend();
+  Click(dialog_, "cmdCancel");
+  EXPECT_EQ(Record().colHotKeyEnabled, kDefault);
+}
+
+TEST_F(OptionsLookTest, SaysWhatEachHotKeyDoes) {
+  OpenDialog();
+  EXPECT_EQ(Text(dialog_, "lblTagParent", 0), " selects the Previous Window ");
+  for (int tag = 1; tag < 10; ++tag) {
+    EXPECT_EQ(Text(dialog_, "lblTagParent", tag),
+              " selects the window that has been assigned Tag number " + std::to_string(tag) + " ");
+    EXPECT_EQ(Text(dialog_, "chkHotKeyParent", tag), std::to_string(tag));
+  }
+  EXPECT_EQ(Text(dialog_, "lblAction", 0), " Minimize Window");
+  EXPECT_EQ(Text(dialog_, "lblAction", 1), " Maximize/Restore Window");
+  EXPECT_EQ(Text(dialog_, "lblGeneral", 0), " Display Options");
+  EXPECT_EQ(Text(dialog_, "lblGeneral", 1), " Display Window Menu");
+  EXPECT_EQ(Text(dialog_, "lblGeneral", 2), " Activate/Deactivate Hot Keys");
+  EXPECT_EQ(Text(dialog_, "lblGeneralNote", 2),
+            " toggles all system-wide Hot Keys ON/OFF (except this one) ");
+  EXPECT_EQ(Look(dialog_, "lblAction", 0).toolTip, " minimizes individual desktop windows ");
+  EXPECT_EQ(Text(dialog_, "lblActionNote", 1),
+            " alternately maximizes/restores individual desktop windows ");
+  EXPECT_EQ(Text(dialog_, "lblLegend", 1),
+            " indicates Hot Key is Enabled -- Click to change this color -- use Shift+Click to "
+            "reset to default ");
+  EXPECT_EQ(Text(dialog_, "lblLegend", 0), " indicates Hot Key is Disabled ");
+  EXPECT_EQ(Text(dialog_, "lblHotKeyTip"),
+            "Tip: Alt+Tab and Alt+F4 are provided by the Windows® operating system.");
+}
+
+bool TakesInput(ControlKind kind) {
+  return kind == ControlKind::kButton || kind == ControlKind::kCheckBox ||
+         kind == ControlKind::kDropDownList || kind == ControlKind::kTabStrip;
+}
+
+TEST_F(OptionsLookTest, EveryControlHasAToolTipBetweenBlanks) {
+  OpenDialog();
+  for (const Control& control : dialog_.Controls()) {
+    if (!TakesInput(control.State().kind)) continue;
+    const std::string& tip = control.State().toolTip;
+    EXPECT_TRUE(tip.starts_with(' ') && tip.ends_with(' ')) << control.Name();
+  }
+}
+
+TEST_F(OptionsLookTest, EachHotKeyIsNamedRightBeforeItsLists) {
+  OpenDialog();
+  EXPECT_EQ(Id(dialog_, "lblAction", 1) + 1, Id(dialog_, "cboHotKeyModAction", 1));
+  EXPECT_EQ(Id(dialog_, "lblGeneral", 0) + 1, Id(dialog_, "cboHotKeyModGeneral", 0));
+  EXPECT_EQ(Id(dialog_, "lblTagParent", 8) + 1, Id(dialog_, "chkHotKeyParent", 8));
+  EXPECT_EQ(Id(dialog_, "fraWindowSelection") + 1, Id(dialog_, "cboHotKeyModParent"));
+}
+
+TEST_F(OptionsLookTest, TheAccessKeysOfTheFramesLeadToTheirFirstLists) {
+  OpenDialog();
+  user_.TypeText(dialog_.Handle(), "g", true);
+  EXPECT_EQ(user_.Focus(dialog_.Handle()), Id(dialog_, "cboHotKeyModGeneral", 0));
+  user_.TypeText(dialog_.Handle(), "s", true);
+  EXPECT_EQ(user_.Focus(dialog_.Handle()), Id(dialog_, "cboHotKeyModAction", 0));
+  user_.TypeText(dialog_.Handle(), "w", true);
+  EXPECT_EQ(user_.Focus(dialog_.Handle()), Id(dialog_, "cboHotKeyModParent"));
+}
+
+TEST_F(OptionsLookTest, TheAccessKeysOfTheCheckBoxesSetThem) {
+  OpenDialog(1);
+  user_.TypeText(dialog_.Handle(), "d", true);
+  EXPECT_EQ(Look(dialog_, "chkSplashScreen").value, 0);
+  user_.TypeText(dialog_.Handle(), "w", true);
+  EXPECT_EQ(Look(dialog_, "chkSelectPrevWinOnStart").value, 1);
+  PickTab(3);
+  user_.TypeText(dialog_.Handle(), "t", true);
+  user_.TypeText(dialog_.Handle(), "r", true);
+  EXPECT_EQ(Look(dialog_, "chkAllowToolbarWindow").value, 1);
+  EXPECT_EQ(Look(dialog_, "chkAllowNoTextWindow").value, 1);
+  user_.TypeText(dialog_.Handle(), "a", true);
+  EXPECT_TRUE(Record().booAllowToolbarWindow);
+}
+
+TEST_F(OptionsLookTest, EveryControlStandsInsideWhatHoldsIt) {
+  OpenDialog();
+  for (const Control& control : dialog_.Controls()) {
+    const ControlState& state = control.State();
+    const TwipsRect room = state.container == 0 ? TwipsRect{0, 0, 13275 - 90, 7335 - 400}
+                                                : dialog_.ById(state.container).Place();
+    EXPECT_LE(state.place.left + state.place.width, room.width) << state.name << state.index;
+    EXPECT_LE(state.place.top + state.place.height, room.height) << state.name << state.index;
+  }
+}
+
+}  // namespace
+}  // namespace korvale
