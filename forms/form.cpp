@@ -112,6 +112,10 @@ void Form::Load() {
   state_.place = RealPlace();
   handle_ = forms_->Host().CreateWindowExW(state_, *this);
   forms_->Add(*this);
+  if (!state_.enabled) forms_->Host().EnableWindow(handle_, false);
+  for (const Control& control : controls_) {
+    if (control.State().kind == ControlKind::kTimer) StartOrStopTimer(control);
+  }
   try {
     Form_Load();
   } catch (...) {

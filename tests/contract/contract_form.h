@@ -121,6 +121,7 @@ class RecordingForm : public Form {
   }
 
   using Form::WhenClicked;
+  using Form::WhenClosedUp;
   using Form::WhenDroppedDown;
   using Form::WhenMenuOpens;
 

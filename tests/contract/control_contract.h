@@ -127,8 +127,11 @@ TEST_F(FormHostContract, OpeningAListIsToldAndClosingItChoosesNothing) {
   });
   form_.Find("cboSize").SetListIndex(0);
   form_.Take();
+  int closed = 0;
+  form_.WhenClosedUp("cboSize", [&](int) { ++closed; });
   User().OpenAndCloseList(Window(), Id("cboSize"));
   EXPECT_EQ(opened, 1);
+  EXPECT_EQ(closed, 1);
   EXPECT_EQ(User().Place(Window(), Id("cboSize")).width, 3000);
   EXPECT_EQ(User().ListIndex(Window(), Id("cboSize")), 0);
   EXPECT_EQ(form_.Take(), Lines{});

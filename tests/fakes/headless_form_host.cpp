@@ -86,6 +86,7 @@ HeadlessFormHost::~HeadlessFormHost() {
                   << (step.formName.empty() ? "" : " with form " + step.formName);
   }
   if (!answers_.empty()) ADD_FAILURE() << answers_.size() << " expected message boxes did not come";
+  if (!colors_.empty()) ADD_FAILURE() << colors_.size() << " expected colour dialogs did not come";
   if (!choices_.empty()) ADD_FAILURE() << choices_.size() << " expected pop-up menus did not come";
 }
 

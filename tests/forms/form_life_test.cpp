@@ -1,3 +1,5 @@
+#include <array>
+
 #include "platform/run_time_error.h"
 #include "tests/forms/form_test.h"
 
@@ -159,85 +161,6 @@ TEST_F(FormLifeTest, WhatTheDesignDoesNotHaveCannotBeFound) {
   EXPECT_FALSE(form.Has("optColor"));
 }
 
-TEST_F(FormLifeTest, TheWindowGrowsWithAFrameHigherAndWiderThanTheClassicOne) {
-  host_.SetFrame({60, 500, 120, 560}, 285);
-  RecordingForm dialog(DialogDesign("frmDialog"), forms_);
-  dialog.Load();
-  EXPECT_EQ(user_.Place(dialog.Handle()), (TwipsRect{2100, 2100, 3030, 1660}));
-  EXPECT_EQ(dialog.Place(), (TwipsRect{2100, 2100, 3000, 1500}));
-  dialog.SetPlace({0, 0, 4000, 2000});
-  EXPECT_EQ(user_.Place(dialog.Handle()), (TwipsRect{0, 0, 4030, 2160}));
-}
-
-TEST_F(FormLifeTest, AFormWithoutFrameOrWithAnExactHeightDoesNotGrow) {
-  host_.SetFrame({60, 500, 120, 560}, 285);
-  FormDesign bare = Bare("frmBare");
-  bare.border = BorderStyle::kNone;
-  RecordingForm frameless(bare, forms_);
-  frameless.Load();
-  EXPECT_EQ(user_.Place(frameless.Handle()), bare.place);
-  RecordingForm strip(kStripDesign, forms_);
-  strip.Load();
-  EXPECT_EQ(user_.Place(strip.Handle()), kStripDesign.place);
-}
-
-TEST_F(FormLifeTest, HidingTheMenuTakesItsHeightFromAFormThatGrewWithIt) {
-  form_.Show();
-  const Twips height = user_.Place(form_.Handle()).height;
-  form_.SetMenuShown(false);
-  EXPECT_EQ(user_.Place(form_.Handle()).height, height - 300);
-  form_.SetMenuShown(true);
-  EXPECT_EQ(user_.Place(form_.Handle()).height, height);
-  log_.Clear();
-  form_.SetMenuShown(true);
-  EXPECT_EQ(log_.Calls(), Lines{});
-}
-
-TEST_F(FormLifeTest, AResizeIsRaisedWhenFirstShownAndWhenTheSizeChanges) {
-  form_.Load();
-  EXPECT_EQ(form_.resizes, 0);
-  form_.Show();
-  EXPECT_EQ(form_.resizes, 1);
-  form_.Hide();
-  form_.Show();
-  EXPECT_EQ(form_.resizes, 1);
-  TwipsRect place = form_.Place();
-  place.left += 150;
-  form_.SetPlace(place);
-  EXPECT_EQ(form_.resizes, 1);
-  place.width += 150;
-  form_.SetPlace(place);
-  EXPECT_EQ(form_.resizes, 2);
-  form_.SetPlace(place);
-  EXPECT_EQ(form_.resizes, 2);
-}
-
-TEST_F(FormLifeTest, AMinimizedFormKeepsItsPlaceAndCannotBeMoved) {
-  form_.Show();
-  form_.SetWindowState(ShowState::kMinimized);
-  EXPECT_EQ(form_.WindowState(), ShowState::kMinimized);
-  form_.SetPlace({0, 0, 300, 300});
-  EXPECT_EQ(form_.Place(), kContractDesign.place);
-  form_.SetMenuShown(false);
-  EXPECT_EQ(form_.Place(), kContractDesign.place);
-  form_.SetWindowState(ShowState::kMaximized);
-  EXPECT_EQ(form_.WindowState(), ShowState::kMaximized);
-  EXPECT_EQ(form_.State().place, (TwipsRect{0, 0, 15360, 11100}));
-}
-
-TEST_F(FormLifeTest, AStateSetBeforeShowingHoldsWhenShown) {
-  form_.Load();
-  form_.SetWindowState(ShowState::kMinimized);
-  form_.Show();
-  EXPECT_EQ(log_.Calls().back(), "ShowWindow(frmContract, SW_SHOWMINNOACTIVE)");
-  EXPECT_EQ(form_.activations, 0);
-  RecordingForm other(DialogDesign("frmOther"), forms_);
-  other.Load();
-  other.SetWindowState(ShowState::kMaximized);
-  other.Show();
-  EXPECT_EQ(log_.Calls().back(), "ShowWindow(frmOther, SW_MAXIMIZE)");
-}
-
 TEST_F(FormLifeTest, WhatIsSetBeforeLoadingDoesNotReachTheHost) {
   form_.SetCaption("early");
   form_.SetEnabled(false);
@@ -248,6 +171,32 @@ TEST_F(FormLifeTest, WhatIsSetBeforeLoadingDoesNotReachTheHost) {
   form_.Find("tmrTick").SetInterval(100);
   form_.Hide();
   EXPECT_EQ(log_.Calls(), Lines{});
+}
+
+TEST_F(FormLifeTest, WhatIsSetBeforeTheFirstLoadingHolds) {
+  form_.SetCaption("early");
+  form_.SetEnabled(false);
+  form_.Find("tmrTick").SetInterval(100);
+  form_.Find("tmrTick").SetEnabled(true);
+  form_.Load();
+  EXPECT_EQ(user_.Title(form_.Handle()), "early");
+  EXPECT_FALSE(user_.IsEnabled(form_.Handle()));
+  EXPECT_TRUE(clock_.AnyTimerOf(form_.Handle()));
+}
+
+TEST_F(FormLifeTest, WindowsStandInTheOrderThatTheDesignTells) {
+  static constexpr std::array kControls = {
+      ControlRow{ControlKind::kTextBox, "txtLast", -1, "", "", {}, "", -1, kNoFlags, 0, 0, 2},
+      ControlRow{ControlKind::kTextBox, "txtInside", -1, "", "", {}, "fra", -1, kNoFlags, 0, 0, 1},
+      ControlRow{ControlKind::kFrame, "fra", -1, "", "", {}, "", -1, kNoFlags, 0, 0, 0},
+  };
+  FormDesign design = Bare("frmSorted");
+  design.controls = kControls;
+  RecordingForm sorted(design, forms_);
+  EXPECT_EQ(Id(sorted, "fra"), 1);
+  EXPECT_EQ(Id(sorted, "txtInside"), 2);
+  EXPECT_EQ(Id(sorted, "txtLast"), 3);
+  EXPECT_EQ(sorted.Find("txtInside").State().container, 1);
 }
 
 TEST_F(FormLifeTest, EventsThatArriveAfterTheEndAreDropped) {
