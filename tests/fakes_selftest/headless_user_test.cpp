@@ -78,6 +78,16 @@ TEST_F(HeadlessUserTest, WhatIsCutOffCannotBeClicked) {
   EXPECT_TEST_FAILURE(pages.Click("cmdOutside"), "cmdOutside lies outside of its form");
 }
 
+TEST_F(HeadlessUserTest, APageOverATabStripLeavesItsTabsInReach) {
+  form_.Find("tabPages").AddItem("One");
+  form_.Find("tabPages").AddItem("Two");
+  form_.Find("picPage", 0).SetPlace({105, 3500, 5400, 1150});
+  user_.Pick("tabPages", 1);
+  EXPECT_EQ(user_.ListIndex("tabPages"), 1);
+  form_.Find("picPage", 0).SetPlace({105, 3100, 5400, 1150});
+  EXPECT_TEST_FAILURE(user_.Pick("tabPages", 0), "tabPages is covered");
+}
+
 TEST_F(HeadlessUserTest, AFormThatIsHiddenMinimizedOrDisabledCannotBeUsed) {
   form_.SetEnabled(false);
   EXPECT_TEST_FAILURE(user_.Click("cmdGo"), "form frmContract is disabled");
