@@ -163,23 +163,25 @@ void WindowsUser::ClickReachable(HWND window, POINT at) {
   const bool reachable = there == window || IsChild(window, there) != FALSE;
   ASSERT_TRUE(reachable) << "\"" << ToUtf8(ReadClassName(there)) << "\" is in the way";
   ASSERT_NE(IsWindowEnabled(window), FALSE);
-  MoveTo(at);
-  ClickHere();
+  ClickAt(at);
   Settle();
 }
 
-void WindowsUser::ClickHere() {
+void WindowsUser::ClickAt(POINT at) {
   // Two clicks are no double click.
   const ULONGLONG again = lastClick_ + GetDoubleClickTime() + 1;
   if (const ULONGLONG now = GetTickCount64(); now < again) {
     LetPass(static_cast<std::uint32_t>(again - now));
   }
+  MoveTo(at);
   ClickLeft();
   lastClick_ = GetTickCount64();
 }
 
 void WindowsUser::MoveTo(POINT at) {
-  while (!MovePointer(at)) Settle();
+  // An earlier movement may still be on its way and take the mouse back.
+  constexpr int kQuietTimes = 3;
+  for (int there = 0; there < kQuietTimes; Settle()) there = MovePointer(at) ? there + 1 : 0;
 }
 
 void WindowsUser::Click(WindowHandle hwnd, int control) {

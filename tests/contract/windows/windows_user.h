@@ -74,7 +74,7 @@ class WindowsUser final : public UserHands {
   void Settle();
   bool IsActive(WindowHandle hwnd);
   void MoveTo(POINT at);
-  void ClickHere();
+  void ClickAt(POINT at);
   void TypeWithAlt(wchar_t character);
   void ClickReachable(HWND window, POINT at);
   void OpenList(HWND combo);

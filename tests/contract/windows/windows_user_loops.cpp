@@ -144,8 +144,7 @@ void WindowsUser::WalkMenu(WindowHandle hwnd, const std::vector<std::string>& pa
   const HMENU bar = GetMenu(ToHwnd(hwnd));
   const int position = FindEntry(bar, path.front());
   ASSERT_GE(position, 0) << path.front();
-  MoveTo(MiddleOfEntry(bar, ToHwnd(hwnd), position));
-  ClickHere();
+  ClickAt(MiddleOfEntry(bar, ToHwnd(hwnd), position));
   Settle();
   EXPECT_TRUE(menuSteps_.empty());
 }
