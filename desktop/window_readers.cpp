@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::size_t kClassNameBuffer = 255;
 constexpr std::size_t kSmallestRereadBuffer = 64;
-constexpr std::size_t kLargestTitleBuffer = 64 * 1024;
+constexpr std::size_t kLargestTitleBuffer = 65536;
 constexpr std::size_t kLongestSequence = 4;
 
 /// A longer title may leave the buffer's last bytes unused, too few for its next character.

@@ -213,6 +213,13 @@ TEST_F(ForegroundTracking, LookingAnewTakesTheSameForegroundOnceMore) {
   EXPECT_EQ(mainWindow.focusTag, kGotFocus);
 }
 
+TEST_F(ForegroundTracking, LookingAnewBeforeTheFirstTickTakesTheForegroundAtOnce) {
+  ForegroundTracker fresh(desktop, filter, actions, mainWindow, previous, tags);
+  fresh.LookAnew();
+  fresh.tmrWindow_Timer();
+  EXPECT_EQ(mainWindow.focusTag, kGotFocus);
+}
+
 TEST_F(ForegroundTracking, StepsComeInTheirOrder) {
   desktop.UserActivates(gamma);
   desktop.Windows().Find(gamma)->extraTextLength = 9;

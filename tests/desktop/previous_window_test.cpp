@@ -75,9 +75,10 @@ TEST_F(PreviousWindowValidation, EndsInNothingWithoutARecord) {
   ExpectNothing();
 }
 
-TEST_F(PreviousWindowValidation, NeverChangesAWindowOrShowsAMessage) {
+TEST_F(PreviousWindowValidation, NeverChangesAWindow) {
   WorkIn(alpha);
   WorkIn(beta);
+  desktop.UserMinimizes(alpha);
   desktop.UserMinimizes(beta);
   log.Clear();
   tracker.ValidatePreviousWindow();
@@ -85,6 +86,17 @@ TEST_F(PreviousWindowValidation, NeverChangesAWindowOrShowsAMessage) {
             (Calls{"EnablePreviousWindowItems(true)", "ShowTargetWindow(\"Beta\", \"WordPad\")"}));
   desktop.Close(beta);
   tracker.ValidatePreviousWindow();
+  EXPECT_EQ(log.Take(),
+            (Calls{"EnablePreviousWindowItems(true)", "ShowTargetWindow(\"Alpha\", \"Notepad\")"}));
+}
+
+TEST_F(PreviousWindowValidation, NeverShowsAMessage) {
+  WorkIn(alpha);
+  WorkIn(beta);
+  desktop.SetEnabled(alpha, false);
+  desktop.SetEnabled(beta, false);
+  tracker.ValidatePreviousWindow();
+  ExpectNothing();
   EXPECT_TRUE(messages.shown.empty());
 }
 

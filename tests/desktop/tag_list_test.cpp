@@ -59,7 +59,7 @@ TEST_F(TagListTest, TagsExistWithTheirEntries) {
 TEST_F(TagListTest, UnresolvingClearsEveryTagButTheFirstEntry) {
   AddTag(1, "Alpha").tag = "11";
   AddTag(9, "Beta").tag = "99";
-  EXPECT_EQ(passes.TagListPass(TagListMode::kUnresolve), -1);
+  EXPECT_EQ(CallsOf([&] { EXPECT_EQ(passes.TagListPass(TagListMode::kUnresolve), -1); }), Calls{});
   EXPECT_EQ(tags.mnuWindowParentList.Find(1)->tag, "0");
   EXPECT_EQ(tags.mnuWindowParentList.Find(9)->tag, "0");
   EXPECT_EQ(tags.mnuWindowParentList.Find(0)->tag, "7");
@@ -70,6 +70,7 @@ TEST_F(TagListTest, MatchingStoresTheHandleAsDecimalText) {
   const WindowHandle hwnd = desktop.Open("Untitled - Notepad", {.className = "Notepad"});
   EXPECT_EQ(passes.TagListPass(TagListMode::kMatch, 0, "", hwnd), -1);
   EXPECT_EQ(tags.mnuWindowParentList.Find(3)->tag, std::to_string(hwnd));
+  EXPECT_TRUE(store.lines.empty());
 }
 
 TEST_F(TagListTest, MatchingKeepsAResolvedEntry) {
@@ -175,6 +176,7 @@ TEST_F(TagListTest, SavingWritesCaptionAndClassOfEachEntry) {
                                       "Korvale - Work|ParentWindowClass|2|Notepad",
                                       "Korvale - Work|ParentWindowList|9|&9  無題 - ***",
                                       "Korvale - Work|ParentWindowClass|9|"}));
+  EXPECT_EQ(Entries(), (std::vector<int>{0, 2, 9}));
 }
 
 TEST_F(TagListTest, SavingAnEmptyListWritesNothing) {

@@ -243,6 +243,7 @@ TEST_F(Topmost, DoesNotWaitForAHungWindow) {
   desktop.SetHung(beta, true);
   actions.SetTopmost(beta, true);
   EXPECT_EQ(log.Take(), Calls{"SetWindowPos(Beta, HWND_TOPMOST, 0, 0, 0, 0, 16387)"});
+  EXPECT_EQ(desktop.CallsThatWaited(), 0);
 }
 
 class ShowDesktopWindowTest : public ForegroundKeys {};

@@ -154,7 +154,8 @@ bool FakeDesktop::SetWindowPos(WindowHandle hwnd, WindowHandle insertAfter, int 
            std::to_string(height) + ", " + std::to_string(flags) + ")");
   FakeWindow* const window = windows_.Find(hwnd);
   if (window == nullptr) return false;
-  if (Waits(*window)) return true;
+  const bool async = (flags & win32::kSwpAsyncWindowPos) != 0;
+  if (async ? window->hung : Waits(*window)) return true;
   if ((flags & win32::kSwpNoMove) == 0) {
     window->place.x = x;
     window->place.y = y;
