@@ -4,6 +4,7 @@
 #include "app/core/installation.h"
 #include "desktop/window_readers.h"
 #include "forms/main_form_design.h"
+#include "platform/run_time_error.h"
 #include "platform/win32_constants.h"
 #include "util/text.h"
 
@@ -26,6 +27,7 @@ constexpr std::int16_t kHotKeysTab = 2;
 
 void StartUp::Initialise(frmMain& form) {
   FixIdentity(form);
+  WaitForOtherCopy(form);
   RunInstallation(form);
   form.LoadStartupSettings();
   form.udmLoadOptions();
@@ -40,8 +42,17 @@ void StartUp::Initialise(frmMain& form) {
   form.Parts().state.startUpFinished = true;
   form.Form_Resize();
   if (form.Parts().state.firstRun) {
+    SaveFirstDefaults(form);
+  }
+}
+
+/// A store that refuses is told to the user and no reason not to run.
+void StartUp::SaveFirstDefaults(frmMain& form) {
+  try {
     form.udmSaveINI();
     form.udmSaveOptions();
+  } catch (const RunTimeError& error) {
+    form.udmNonFatalError(ErrorPlace::kSaving, error.Number());
   }
 }
 
@@ -55,6 +66,9 @@ void StartUp::RunInstallation(frmMain& form) {
   MainParts& parts = form.Parts();
   parts.options.Create();
   parts.settings.SetAppName(parts.identity.mainCaption);
+  if (alone_) {
+    parts.settings.FinishInterruptedSave();
+  }
   const InstallationResult result = RunInstallationRule(
       parts.identity, parts.settings, platform_->system, parts.messages,
       {[&form] { form.udmLoadOptions(); }, [&form] { form.LoadStartupSettings(); },
@@ -72,18 +86,22 @@ WindowHandle StartUp::FindOtherCopy(frmMain& form) {
                                                form.Caption());
 }
 
+/// A copy that was started in the same instant holds the lock but shows no window yet, one that is
+/// just ending shows none any more: wait until it is seen or gone.
+void StartUp::WaitForOtherCopy(frmMain& form) {
+  instanceLock_ =
+      std::make_unique<InstanceLock>(platform_->system, form.Parts().identity.programFolder);
+  alone_ = instanceLock_->TryHold(0);
+  for (std::uint32_t waited = 0; !alone_ && FindOtherCopy(form) == 0 && waited < kCopyPatience;
+       waited += kCopyPoll) {
+    alone_ = instanceLock_->TryHold(kCopyPoll);
+  }
+}
+
 void StartUp::RefuseSecondCopy(frmMain& form) {
   MainParts& parts = form.Parts();
-  instanceLock_ = std::make_unique<InstanceLock>(platform_->system, parts.identity.programFolder);
-  bool alone = instanceLock_->TryHold(0);
-  WindowHandle other = FindOtherCopy(form);
-  // A copy that was started in the same instant holds the lock but has no visible window yet.
-  for (std::uint32_t waited = 0; !alone && other == 0 && waited < kCopyPatience;
-       waited += kCopyPoll) {
-    alone = instanceLock_->TryHold(kCopyPoll);
-    other = FindOtherCopy(form);
-  }
-  if (alone && other == 0) {
+  const WindowHandle other = FindOtherCopy(form);
+  if (alone_ && other == 0) {
     return;
   }
   platform_->host.DoEvents();
@@ -202,11 +220,20 @@ void StartUp::AskToReviewHotKeys(frmMain& form) {
   }
 }
 
+/// A refused save must not keep the hot keys from being given back.
+void StartUp::SaveState(frmMain& form) {
+  try {
+    form.udmSaveINI();
+  } catch (const RunTimeError& error) {
+    form.udmNonFatalError(ErrorPlace::kSaving, error.Number());
+  }
+}
+
 void StartUp::Unload(frmMain& form, bool booNormalShutDown) {
   MainParts& parts = form.Parts();
   if (booNormalShutDown) {
     form.udmTimersEnabled(false);
-    form.udmSaveINI();
+    SaveState(form);
   }
   parts.tagPasses.RemoveClosed();
   parts.hotKeys.SetHotKeys("REMOVE");

@@ -23,6 +23,9 @@ class StartUp : public ProgramLifetime {
   void RunInstallation(frmMain& form);
   void RefuseSecondCopy(frmMain& form);
   WindowHandle FindOtherCopy(frmMain& form);
+  void WaitForOtherCopy(frmMain& form);
+  void SaveFirstDefaults(frmMain& form);
+  void SaveState(frmMain& form);
   void MentionOtherInstallation(frmMain& form);
   void MentionCommandLine(frmMain& form);
   void ShowSplash(frmMain& form);
@@ -34,6 +37,8 @@ class StartUp : public ProgramLifetime {
 
   Platform* platform_;
   std::unique_ptr<InstanceLock> instanceLock_;
+  /// No other copy of this installation runs or is about to.
+  bool alone_ = false;
   /// The first activation shows a question, during which the form is activated again.
   bool firstActivationRuns_ = false;
 };

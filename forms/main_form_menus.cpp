@@ -62,7 +62,8 @@ void frmMain::RefreshMenus(std::string_view source) {
     Menu(name).visible = shown;
   }
   SetMenuShown(shown);
-  if (fromMenu) {
+  // A command can end while the program has already been taken down, with everything saved.
+  if (fromMenu && !unloaded_) {
     udmSaveINI();
   }
 }

@@ -11,6 +11,7 @@ enum class ErrorPlace : std::int16_t {
   kEventHandler = 2,
   kWindowProcedure = 3,
   kProcessHotKey = 4,
+  kSaving = 5,
 };
 
 /// The reporters of unexpected run-time errors.

@@ -43,7 +43,6 @@ class InstallationRule {
 
   InstallationResult Run(const InstallationImport& import) {
     InstallationResult result;
-    settings_.FinishInterruptedSave();
     result.firstRun = settings_.NothingStored();
     const auto installations =
         settings_.Store().GetAllSettings(kInstallationRegister, kRegisterSection);

@@ -37,6 +37,7 @@ struct InstallationResult {
 /// Settings are taken over as one save: at any moment they stand under one of the two names. They
 /// are the ones of the first registered installation that has settings and whose folder no longer
 /// holds the executable.
+/// An interrupted save must have been finished before.
 InstallationResult RunInstallationRule(const ProgramIdentity& identity, Settings& settings,
                                        SystemApi& system, MessageBoxes& messages,
                                        const InstallationImport& import);

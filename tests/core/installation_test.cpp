@@ -269,13 +269,5 @@ TEST_F(InstallationTest, SaveOfTheOtherInstallationIsFinishedBeforeItIsTakenOver
   EXPECT_EQ(ValuesOf(store_, kOld), StoredValues());
 }
 
-TEST_F(InstallationTest, OwnInterruptedSaveIsFinishedBeforeTheFirstRunIsDecided) {
-  store_.SaveSetting(kWork, "Saving", "1\\S\\Korvale - Work\\ParentWindowList\\1", "&1  Mail");
-  store_.SaveSetting(kWork, "Saving", "Complete", "1");
-  EXPECT_FALSE(Run().firstRun);
-  EXPECT_EQ(ValuesOf(store_, kWork),
-            (StoredValues{{"Korvale - Work/ParentWindowList/1", "&1  Mail"}}));
-}
-
 }  // namespace
 }  // namespace korvale

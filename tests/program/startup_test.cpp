@@ -273,6 +273,47 @@ TEST_F(StartUpTest, ShutdownKeepsItsOrder) {
   EXPECT_TRUE(korvale.host.QuitPosted());
 }
 
+TEST_F(StartUpTest, ARefusedSaveIsToldAndTheHotKeysAreGivenBackAllTheSame) {
+  KorvaleCopy& korvale = StartedCopy();
+  store.RefuseWrites(true);
+  korvale.host.WhenMessageBox([](const ShownMessage& box) {
+    EXPECT_EQ(box.text, "VB ERROR 70 - Permission denied\r\rKorvale Error #5");
+    return win32::kIdOk;
+  });
+  korvale.Exit();
+  EXPECT_TRUE(hotKeys.Registered().empty());
+  EXPECT_FALSE(korvale.Form().IsLoaded());
+}
+
+TEST_F(StartUpTest, AFirstRunWithoutAWritableStoreRunsAllTheSame) {
+  KorvaleCopy& korvale = NewCopy();
+  store.RefuseWrites(true);
+  korvale.host.AnswerNext(win32::kIdOk);
+  korvale.host.AnswerNext(win32::kIdNo);
+  EXPECT_TRUE(korvale.Start());
+  EXPECT_EQ(hotKeys.Registered().size(), 15U);
+}
+
+TEST_F(StartUpTest, ASaveThatWasInterruptedIsFinishedByTheNextStart) {
+  store.SaveSetting("Korvale - Work", "Saving", "1\\S\\Korvale - Work\\ParentWindowList\\1",
+                    "&1  Mail");
+  store.SaveSetting("Korvale - Work", "Saving", "Complete", "1");
+  KorvaleCopy& korvale = StartedCopy();
+  EXPECT_EQ(korvale.WindowMenuItems()[7].caption, "1  Mail");
+}
+
+TEST_F(StartUpTest, TheSessionCanEndWhileAMessageBoxIsShown) {
+  KorvaleCopy& korvale = StartedCopy();
+  korvale.host.WhenMessageBox([&](const ShownMessage&) {
+    korvale.Form().OnCloseRequested(CloseReason::kSession);
+    return win32::kIdOk;
+  });
+  korvale.Form().TheWindowMenu().mnuWindowAddToList_Click(2);
+  EXPECT_FALSE(korvale.Form().IsLoaded());
+  EXPECT_TRUE(hotKeys.Registered().empty());
+  EXPECT_FALSE(clock.AdvanceToNextTick());
+}
+
 TEST_F(StartUpTest, TagsOfClosedWindowsStayStoredButLeaveTheMenuAtShutdown) {
   const WindowHandle alpha = Open("Alpha");
   KorvaleCopy& korvale = StartedCopy();
