@@ -11,6 +11,8 @@ namespace korvale {
 DWORD FormStyle(const FormState& form) {
   if (form.border == BorderStyle::kNone) return WS_POPUP;
   DWORD style = WS_CAPTION | WS_SYSMENU;
+  // When a pop-up that was in front goes, Windows brings its owner forward.
+  if (!form.inTaskbar) style |= WS_POPUP;
   if (form.border == BorderStyle::kSizable) style |= WS_THICKFRAME;
   if (form.minimizeBox) style |= WS_MINIMIZEBOX;
   if (form.maximizeBox) style |= WS_MAXIMIZEBOX;
