@@ -16,6 +16,10 @@ AssertionResult Check(bool holds, const std::string& otherwise) {
   return holds ? AssertionSuccess() : AssertionFailure() << otherwise;
 }
 
+std::string InsteadOf(Window window) {
+  return Describe(Foreground()) + " is in front, not " + Describe(window);
+}
+
 }  // namespace
 
 std::string Describe(Window window) {
@@ -46,19 +50,20 @@ AssertionResult KorvaleTest::WorkIn(Window window) {
 }
 
 AssertionResult KorvaleTest::InFront(Window window) {
-  return Check(WaitFor([&] { return Foreground() == window; }),
-               Describe(Foreground()) + " is in front, not " + Describe(window));
+  const bool came = WaitFor([&] { return Foreground() == window; });
+  return Check(came, InsteadOf(window));
 }
 
 AssertionResult KorvaleTest::StaysInFront(Window window) {
-  return Check(HoldsFor([&] { return Foreground() == window && !korvale_->HasMessageBox(); }),
-               Describe(Foreground()) + " came instead of " + Describe(window));
+  const bool stayed =
+      HoldsFor([&] { return Foreground() == window && !korvale_->HasMessageBox(); });
+  return Check(stayed, InsteadOf(window));
 }
 
 AssertionResult KorvaleTest::Target(const std::string& title) {
-  return Check(WaitFor([&] { return korvale_->TargetTitle() == title; }),
-               std::string("the Target Window is '").append(korvale_->TargetTitle()) + "', not '" +
-                   title + "'");
+  const bool shown = WaitFor([&] { return korvale_->TargetTitle() == title; });
+  return Check(shown, std::string("the Target Window is '").append(korvale_->TargetTitle()) +
+                          "', not '" + title + "'");
 }
 
 AssertionResult KorvaleTest::Says(const std::string& text) {

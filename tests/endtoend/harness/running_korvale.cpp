@@ -63,11 +63,14 @@ Window RunningKorvale::OpenMenu() const { return Wait(kMenuClass); }
 bool RunningKorvale::HasMenu() const { return static_cast<bool>(Find(kMenuClass)); }
 
 std::string LabelText(Window dialog) {
-  for (const Window label : dialog.Controls("Static")) {
-    const std::string text = label.Text();
-    if (!text.empty()) return text;
-  }
-  return "";
+  std::string text;
+  WaitFor([&] {
+    for (const Window label : dialog.Controls("Static")) {
+      if (text.empty()) text = label.Text();
+    }
+    return !text.empty();
+  });
+  return text;
 }
 
 bool AnswerBox(Window box, int button) {

@@ -63,7 +63,8 @@ bool Tour::StartKorvale() {
 }
 
 bool Tour::Seen(Window window) const {
-  return WaitFor([&] { return korvale_->TargetTitle() == window.Title(); });
+  return WaitFor([&] { return korvale_->TargetTitle() == window.Title(); }) &&
+         HoldsFor([&] { return Foreground() == window; });
 }
 
 void Tour::WorkIn(const std::string& name, Window window) {
@@ -92,6 +93,8 @@ void Tour::TagNotepad() {
   report_.Step("the right part is chosen", dialog.Choose(2));
   report_.Picture("dialog");
   report_.Step("Enter adds it", dialog.Confirm());
+  report_.Step("the main window is in front again",
+               WaitFor([&] { return Foreground() == korvale_->Main(); }));
 }
 
 void Tour::UseTheTag() {
@@ -111,9 +114,12 @@ void Tour::MinimizeAndMaximize() {
   report_.KeyToFront("Alt+Down: Notepad goes, WordPad comes", kMinimizeKey, wordpad);
   report_.Step("Notepad is minimized", notepad_->window().Minimized());
   Seen(wordpad);
-  report_.KeyUntil("Alt+Up: WordPad fills the screen", kMaximizeKey,
-                   [&] { return wordpad.Maximized(); });
-  report_.KeyUntil("Alt+Up: and is as before", kMaximizeKey, [&] { return !wordpad.Maximized(); });
+  Press(kMaximizeKey);
+  report_.Step("Alt+Up: WordPad fills the screen", WaitFor([&] { return wordpad.Maximized(); }));
+  Seen(wordpad);
+  Press(kMaximizeKey);
+  report_.Step("Alt+Up: and is as before", WaitFor([&] { return !wordpad.Maximized(); }));
+  Seen(wordpad);
 }
 
 void Tour::UseThePopUp() {
@@ -136,7 +142,8 @@ void Tour::CloseAndReopen() {
   report_.KeyUntil("Alt+3: it is not open", TagKey(3), [&] { return korvale_->HasMessageBox(); });
   const Window message = korvale_->MessageBox();
   report_.Picture("message");
-  report_.Step(LabelText(message), AnswerBox(message, IDOK) || AnswerBox(message, IDCANCEL));
+  const std::string said = LabelText(message);
+  report_.Step(said, AnswerBox(message, IDOK) || AnswerBox(message, IDCANCEL));
   notepad_.emplace(StartNotepad());
   WorkIn("Registry Editor", regedit_->window());
   report_.KeyToFront("Alt+3: the new Notepad", TagKey(3), notepad_->window());
@@ -167,6 +174,8 @@ void Tour::TagMineGame() {
   const AddWindowDialog dialog = OpenAddWindow("second-");
   report_.Step("4 selects Tag 4", dialog.SelectTag(4));
   report_.Step("Enter adds it", dialog.Confirm());
+  report_.Step("the main window is in front again",
+               WaitFor([&] { return Foreground() == korvale_->Main(); }));
 }
 
 void Tour::GoRound() {

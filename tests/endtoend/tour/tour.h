@@ -35,7 +35,7 @@ class Tour {
 
   /// Brings the window forward and waits until Korvale has seen it.
   void WorkIn(const std::string& name, Window window);
-  /// Waits until Korvale shows the window as the Target Window.
+  /// Waits until Korvale shows the window as the Target Window, and as long as its timer needs.
   bool Seen(Window window) const;
   AddWindowDialog OpenAddWindow(const std::string& picture);
   void Toggle(const std::string& what);
