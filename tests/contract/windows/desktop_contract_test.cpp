@@ -1,0 +1,96 @@
+#include <windows.h>
+
+#include <set>
+
+#include "platform/windows/handles.h"
+#include "platform/windows/text.h"
+#include "platform/windows/windows_window_api.h"
+#include "tests/contract/desktop_changing_contract.h"
+#include "tests/contract/desktop_reading_contract.h"
+#include "tests/contract/windows/window_thread.h"
+
+namespace korvale {
+namespace {
+
+DWORD StyleOf(const ContractWindow& window) {
+  if (window.popup) return WS_POPUP | WS_CAPTION;
+  const DWORD boxes = window.boxes ? WS_MINIMIZEBOX | WS_MAXIMIZEBOX : 0U;
+  return WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | boxes;
+}
+
+void Register(const std::wstring& className) {
+  WNDCLASSW description{};
+  description.lpfnWndProc = DefWindowProcW;
+  description.hInstance = GetModuleHandleW(nullptr);
+  description.lpszClassName = className.c_str();
+  RegisterClassW(&description);  // Fails for a class that an earlier test has registered.
+}
+
+HWND Make(const ContractWindow& window) {
+  const std::wstring className = ToUtf16(window.className);
+  Register(className);
+  const HINSTANCE instance = GetModuleHandleW(nullptr);
+  const HWND hwnd = CreateWindowExW(window.toolWindow ? WS_EX_TOOLWINDOW : 0U, className.c_str(),
+                                    ToUtf16(window.title).c_str(), StyleOf(window), 100, 100, 400,
+                                    300, ToHwnd(window.owner), nullptr, instance, nullptr);
+  for (int child = 0; child < window.children; ++child) {
+    CreateWindowExW(0, L"STATIC", L"", WS_CHILD | WS_VISIBLE, 0, 0, 10, 10, hwnd, nullptr, instance,
+                    nullptr);
+  }
+  if (!window.enabled) EnableWindow(hwnd, FALSE);
+  if (window.visible) {
+    ShowWindow(hwnd, SW_SHOW);
+    SetForegroundWindow(hwnd);
+  }
+  return hwnd;
+}
+
+class WindowsDesktopUnderTest final : public DesktopUnderTest {
+ public:
+  ~WindowsDesktopUnderTest() override {
+    thread_.Run([this] {
+      for (const HWND hwnd : opened_) DestroyWindow(hwnd);
+    });
+  }
+
+  WindowQueries& Queries() override { return api_; }
+  WindowCommands& Commands() override { return api_; }
+
+  WindowHandle Open(const ContractWindow& window) override {
+    HWND hwnd = nullptr;
+    thread_.Run([&] { hwnd = Make(window); });
+    opened_.insert(hwnd);
+    return ToWindowHandle(hwnd);
+  }
+  void Close(WindowHandle hwnd) override {
+    thread_.Run([&] { DestroyWindow(ToHwnd(hwnd)); });
+    opened_.erase(ToHwnd(hwnd));
+  }
+  void Rename(WindowHandle hwnd, const std::string& title) override {
+    thread_.Run([&] { SetWindowTextW(ToHwnd(hwnd), ToUtf16(title).c_str()); });
+  }
+  void Settle() override {
+    // What an order sets off may post the next one.
+    constexpr int kRounds = 3;
+    for (int round = 0; round < kRounds; ++round) thread_.Run([] {});
+  }
+
+ private:
+  WindowsWindowApi api_;
+  WindowThread thread_;
+  std::set<HWND> opened_;
+};
+
+}  // namespace
+
+std::unique_ptr<DesktopUnderTest> MakeDesktopUnderTest() {
+  return std::make_unique<WindowsDesktopUnderTest>();
+}
+
+TEST_F(DesktopContract, AnErrorOfTheVisitorComesOutOfTheEnumeration) {
+  EXPECT_THROW(
+      queries_.EnumWindows([](WindowHandle) -> bool { throw std::runtime_error("visit"); }),
+      std::runtime_error);
+}
+
+}  // namespace korvale

@@ -1,0 +1,91 @@
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <algorithm>
+
+#include "platform/windows/handles.h"
+#include "platform/windows/windows_settings_store.h"
+
+namespace korvale {
+namespace {
+
+const std::string kApp = "Korvale contract tests";
+const std::string kSection = "Ж 日本 Section";
+constexpr const wchar_t* kKey =
+    L"Software\\VB and VBA Program Settings\\Korvale contract tests\\Raw";
+
+class WindowsSettingsStoreTest : public testing::Test {
+ protected:
+  ~WindowsSettingsStoreTest() override {
+    RegDeleteTreeW(HKEY_CURRENT_USER,
+                   L"Software\\VB and VBA Program Settings\\Korvale contract tests");
+  }
+
+  /// Writes a value as another program might.
+  static void WriteRaw(const wchar_t* name, DWORD type, const void* data, DWORD size) {
+    UniqueKey key;
+    RegCreateKeyExW(HKEY_CURRENT_USER, kKey, 0, nullptr, 0, KEY_SET_VALUE, nullptr, key.Receive(),
+                    nullptr);
+    RegSetValueExW(key.Get(), name, 0, type, static_cast<const BYTE*>(data), size);
+  }
+
+  WindowsSettingsStore store_;
+};
+
+TEST_F(WindowsSettingsStoreTest, KeepsTextsOfAnyScript) {
+  EXPECT_TRUE(store_.SaveSetting(kApp, kSection, "Tag 3", "Блокнот - 日本 \U0001F600 & co"));
+  EXPECT_EQ(store_.GetSetting(kApp, kSection, "Tag 3"), "Блокнот - 日本 \U0001F600 & co");
+  EXPECT_TRUE(store_.SaveSetting(kApp, kSection, "Tag 3", ""));
+  EXPECT_EQ(store_.GetSetting(kApp, kSection, "tag 3"), "");
+}
+
+TEST_F(WindowsSettingsStoreTest, KeepsLongTexts) {
+  const std::string text(5000, 'x');
+  EXPECT_TRUE(store_.SaveSetting(kApp, kSection, "Long", text));
+  EXPECT_EQ(store_.GetSetting(kApp, kSection, "Long"), text);
+}
+
+TEST_F(WindowsSettingsStoreTest, KnowsNothingThatWasNotSaved) {
+  EXPECT_EQ(store_.GetSetting(kApp, kSection, "Tag 3"), std::nullopt);
+  EXPECT_TRUE(store_.GetAllSettings(kApp, kSection).empty());
+  EXPECT_FALSE(store_.DeleteSetting(kApp, kSection, "Tag 3"));
+  EXPECT_FALSE(store_.DeleteSection(kApp, kSection));
+  store_.SaveSetting(kApp, kSection, "Tag 3", "text");
+  EXPECT_EQ(store_.GetSetting(kApp, kSection, "Tag 4"), std::nullopt);
+  EXPECT_FALSE(store_.DeleteSetting(kApp, kSection, "Tag 4"));
+}
+
+TEST_F(WindowsSettingsStoreTest, ListsASectionInItsOrder) {
+  store_.SaveSetting(kApp, kSection, "2", "two");
+  store_.SaveSetting(kApp, kSection, "1", "Ж");
+  SettingsStore::Pairs pairs = store_.GetAllSettings(kApp, kSection);
+  std::ranges::sort(pairs);
+  EXPECT_EQ(pairs, (SettingsStore::Pairs{{"1", "Ж"}, {"2", "two"}}));
+}
+
+TEST_F(WindowsSettingsStoreTest, DeletesOneValueOrTheSection) {
+  store_.SaveSetting(kApp, kSection, "1", "one");
+  store_.SaveSetting(kApp, kSection, "2", "two");
+  store_.SaveSetting(kApp, "Other", "3", "three");
+  EXPECT_TRUE(store_.DeleteSetting(kApp, kSection, "1"));
+  EXPECT_EQ(store_.GetAllSettings(kApp, kSection), (SettingsStore::Pairs{{"2", "two"}}));
+  EXPECT_TRUE(store_.DeleteSection(kApp, kSection));
+  EXPECT_TRUE(store_.GetAllSettings(kApp, kSection).empty());
+  EXPECT_EQ(store_.GetSetting(kApp, "Other", "3"), "three");
+}
+
+TEST_F(WindowsSettingsStoreTest, TakesAValueThatIsNoTextForMissing) {
+  const DWORD number = 7;
+  WriteRaw(L"Number", REG_DWORD, &number, sizeof(number));
+  WriteRaw(L"Text", REG_SZ, L"text", sizeof(L"text"));
+  EXPECT_EQ(store_.GetSetting(kApp, "Raw", "Number"), std::nullopt);
+  EXPECT_EQ(store_.GetAllSettings(kApp, "Raw"), (SettingsStore::Pairs{{"Text", "text"}}));
+}
+
+TEST_F(WindowsSettingsStoreTest, ReadsATextThatWasStoredWithoutItsEnd) {
+  WriteRaw(L"Text", REG_SZ, L"open", 4 * sizeof(wchar_t));
+  EXPECT_EQ(store_.GetSetting(kApp, "Raw", "Text"), "open");
+}
+
+}  // namespace
+}  // namespace korvale

@@ -1,0 +1,126 @@
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <thread>
+
+#include "platform/windows/windows_clock.h"
+#include "platform/windows/windows_system_api.h"
+
+namespace korvale {
+namespace {
+
+TEST(WindowsSystemApi, ReadsTheVersionResourceOfTheRunningProgram) {
+  const VersionInfo info = WindowsSystemApi().GetFileVersionInfoA();
+  EXPECT_EQ(info.major, 2);
+  EXPECT_EQ(info.minor, 3);
+  EXPECT_EQ(info.revision, 4);
+  EXPECT_EQ(info.legalCopyright, "A notice");
+  EXPECT_EQ(info.fileDescription, "Contract tests");
+}
+
+TEST(WindowsSystemApi, KnowsTheRunningProgram) {
+  const std::string path = WindowsSystemApi().GetModuleFileNameA();
+  EXPECT_TRUE(path.ends_with("\\contract_tests.exe")) << path;
+  EXPECT_TRUE(WindowsSystemApi().FileExists(path));
+}
+
+TEST(WindowsSystemApi, TakesNoFolderForAFile) {
+  WindowsSystemApi system;
+  const std::string path = system.GetModuleFileNameA();
+  EXPECT_FALSE(system.FileExists(path.substr(0, path.rfind('\\'))));
+  EXPECT_FALSE(system.FileExists(path + ".none"));
+  EXPECT_FALSE(system.FileExists(""));
+}
+
+TEST(WindowsSystemApi, TellsTheFamilyOfTheSystem) {
+  constexpr std::uint32_t kStructureSize = 148;
+  EXPECT_EQ(WindowsSystemApi().GetVersionExA(kStructureSize).platformId, 2U);
+  EXPECT_GE(WindowsSystemApi().GetVersionExA(kStructureSize).majorVersion, 6U);
+  EXPECT_EQ(WindowsSystemApi().GetVersionExA(7).platformId, 0U);
+  EXPECT_EQ(WindowsSystemApi().GetVersionExA(100000).platformId, 0U);
+}
+
+TEST(WindowsSystemApi, GivesTheWindowsFolderWhenItFits) {
+  WindowsSystemApi system;
+  const std::string folder = system.GetWindowsDirectoryA(260);
+  EXPECT_FALSE(folder.empty());
+  EXPECT_NE(folder.back(), '\\');
+  EXPECT_EQ(system.GetWindowsDirectoryA(static_cast<std::uint32_t>(folder.size()) + 1), folder);
+  EXPECT_EQ(system.GetWindowsDirectoryA(static_cast<std::uint32_t>(folder.size())), "");
+}
+
+TEST(WindowsSystemApi, LetsOneHolderHaveAMutex) {
+  WindowsSystemApi system;
+  auto first = system.CreateMutexA("Korvale contract Ж");
+  ASSERT_TRUE(first->WaitForSingleObject(0));
+  EXPECT_TRUE(first->WaitForSingleObject(0));
+  bool taken = true;
+  const auto try_other = [&] {
+    taken = system.CreateMutexA("Korvale contract Ж")->WaitForSingleObject(0);
+  };
+  std::thread(try_other).join();
+  EXPECT_FALSE(taken);
+  first.reset();
+  std::thread(try_other).join();
+  EXPECT_TRUE(taken);
+}
+
+TEST(WindowsSystemApi, TakesAMutexWhoseHolderDied) {
+  const HANDLE left = CreateMutexW(nullptr, FALSE, L"Korvale contract dead");
+  std::thread([left] { WaitForSingleObject(left, 0); }).join();
+  EXPECT_TRUE(WindowsSystemApi().CreateMutexA("Korvale contract dead")->WaitForSingleObject(0));
+  CloseHandle(left);
+}
+
+TEST(WindowsClock, TellsTheTimeOfTheSystem) {
+  SYSTEMTIME now{};
+  GetLocalTime(&now);
+  const LocalTime time = WindowsClock().GetLocalTime();
+  EXPECT_EQ(time.year, now.wYear);
+  EXPECT_EQ(time.month, now.wMonth);
+  EXPECT_LT(time.dayOfWeek, 7);
+  EXPECT_GE(WindowsClock().GetTickCount64() + 1000, GetTickCount64());
+}
+
+class WindowsTimersTest : public testing::Test {
+ protected:
+  ~WindowsTimersTest() override { DestroyWindow(hwnd_); }
+  WindowHandle Window() const { return HandleToLong(hwnd_); }
+  /// The ids of the ticks that are waiting.
+  std::vector<WPARAM> Ticks() const {
+    std::vector<WPARAM> ids;
+    MSG message;
+    while (PeekMessageW(&message, hwnd_, WM_TIMER, WM_TIMER, PM_REMOVE) != FALSE) {
+      ids.push_back(message.wParam);
+    }
+    return ids;
+  }
+
+  HWND hwnd_ =
+      CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
+  WindowsTimers timers_;
+};
+
+TEST_F(WindowsTimersTest, AStoppedTimerTakesItsWaitingTicksWithIt) {
+  constexpr std::uint32_t kNever = 1000000;
+  timers_.SetTimer(Window(), 1, kNever);
+  timers_.SetTimer(Window(), 2, kNever);
+  PostMessageW(hwnd_, WM_TIMER, 1, 0);
+  PostMessageW(hwnd_, WM_TIMER, 2, 0);
+  timers_.KillTimer(Window(), 1);
+  EXPECT_EQ(Ticks(), std::vector<WPARAM>{2});
+}
+
+TEST_F(WindowsTimersTest, StoppingATimerLosesNoOrderToQuit) {
+  timers_.SetTimer(Window(), 1, 1000000);
+  PostQuitMessage(5);
+  timers_.KillTimer(Window(), 1);
+  MSG message{};
+  while (message.message != WM_QUIT && PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {
+  }
+  EXPECT_EQ(message.message, static_cast<UINT>(WM_QUIT));
+  EXPECT_EQ(message.wParam, 5U);
+}
+
+}  // namespace
+}  // namespace korvale

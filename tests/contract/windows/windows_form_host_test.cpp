@@ -1,0 +1,190 @@
+#include <gtest/gtest.h>
+#include <windows.h>
+// After windows.h, which it needs.
+#include <commctrl.h>
+
+#include "platform/windows/handles.h"
+#include "platform/windows/text.h"
+#include "platform/windows/windows_hot_key_api.h"
+#include "tests/contract/contract_fixture.h"
+#include "tests/contract/windows/windows_user.h"
+
+namespace korvale {
+namespace {
+
+/// What only real windows have.
+class WindowsFormHostTest : public FormHostContract {
+ protected:
+  HWND Hwnd() const { return ToHwnd(Window()); }
+  HWND Control(std::string_view name, int index = -1) {
+    return FindControl(Window(), Id(name, index));
+  }
+  static bool HasStyle(HWND window, int index, LONG_PTR bits) {
+    return (GetWindowLongPtrW(window, index) & bits) == bits;
+  }
+  static std::string ClassName(HWND window) {
+    wchar_t name[64];
+    return ToUtf8({name, static_cast<std::size_t>(GetClassNameW(window, name, 64))});
+  }
+  /// The colour of a control's first pixel.
+  COLORREF ColorOf(HWND window) {
+    User().LetPass(50);
+    const HDC dc = GetDC(window);
+    const COLORREF color = GetPixel(dc, 1, 1);
+    ReleaseDC(window, dc);
+    return color;
+  }
+};
+
+TEST_F(WindowsFormHostTest, AHiddenTopLevelWindowOwnsTheMainWindow) {
+  form_.Load();
+  const HWND owner = GetWindow(Hwnd(), GW_OWNER);
+  EXPECT_EQ(ClassName(owner), "Korvale.Owner");
+  EXPECT_EQ(User().Title(ToWindowHandle(owner)), "Korvale");
+  EXPECT_EQ(GetAncestor(owner, GA_PARENT), GetDesktopWindow());
+  EXPECT_FALSE(IsWindowVisible(owner));
+  EXPECT_TRUE(HasStyle(Hwnd(), GWL_EXSTYLE, WS_EX_APPWINDOW));
+}
+
+TEST_F(WindowsFormHostTest, TheMainWindowOwnsTheOtherForms) {
+  form_.Load();
+  dialog_.Load();
+  EXPECT_EQ(GetWindow(ToHwnd(dialog_.Handle()), GW_OWNER), Hwnd());
+  EXPECT_FALSE(HasStyle(ToHwnd(dialog_.Handle()), GWL_EXSTYLE, WS_EX_APPWINDOW));
+}
+
+TEST_F(WindowsFormHostTest, StylesFollowTheDesign) {
+  form_.Load();
+  strip_.Load();
+  const HWND strip = ToHwnd(strip_.Handle());
+  EXPECT_TRUE(HasStyle(Hwnd(), GWL_STYLE, WS_CAPTION | WS_SYSMENU | DS_MODALFRAME));
+  EXPECT_FALSE(HasStyle(Hwnd(), GWL_STYLE, WS_THICKFRAME));
+  EXPECT_FALSE(HasStyle(Hwnd(), GWL_STYLE, WS_MINIMIZEBOX));
+  EXPECT_TRUE(HasStyle(strip, GWL_STYLE, WS_THICKFRAME | WS_MINIMIZEBOX));
+  EXPECT_FALSE(HasStyle(strip, GWL_STYLE, WS_MAXIMIZEBOX));
+  EXPECT_FALSE(HasStyle(strip, GWL_STYLE, DS_MODALFRAME));
+}
+
+TEST_F(WindowsFormHostTest, TheEndOfTheSessionClosesTheMainWindow) {
+  form_.Load();
+  EXPECT_EQ(SendMessageW(Hwnd(), WM_QUERYENDSESSION, 0, 0), TRUE);
+  SendMessageW(Hwnd(), WM_ENDSESSION, FALSE, 0);
+  EXPECT_TRUE(form_.IsLoaded());
+  SendMessageW(Hwnd(), WM_ENDSESSION, TRUE, 0);
+  EXPECT_EQ(form_.closeReasons, std::vector<CloseReason>{CloseReason::kSession});
+  EXPECT_FALSE(form_.IsLoaded());
+}
+
+TEST_F(WindowsFormHostTest, TextBoxesAndLabelsShowTheirColors) {
+  ShowForm();
+  for (const char* const name : {"txtName", "txtFixed", "lblClick"}) {
+    form_.Find(name).SetBackColor(0x9FFFFF);
+    EXPECT_EQ(ColorOf(Control(name)), 0x9FFFFFU) << name;
+    form_.Find(name).SetBackColor(kButtonFaceColor);
+    EXPECT_EQ(ColorOf(Control(name)), GetSysColor(COLOR_BTNFACE)) << name;
+  }
+}
+
+TEST_F(WindowsFormHostTest, AMenuBarUnderACaptionHookStaysUnicode) {
+  struct PassingOn : WindowProcedure {
+    std::intptr_t Call(WindowHandle hwnd, std::uint32_t message, std::uintptr_t wParam,
+                       std::intptr_t lParam) override {
+      return api.CallWindowProcA(previous, hwnd, message, wParam, lParam);
+    }
+    void OnUncaught() noexcept override {}
+    WindowsHotKeyApi api;
+    PreviousProcedure previous = 0;
+  } hook;
+  ShowForm();
+  hook.previous = hook.api.SetWindowLongPtrA(Window(), hook);
+  form_.SetCaption("Ж 日本 \U0001F600");
+  form_.Menu("mnuFileOpen").caption = "&Ж 日本";
+  EXPECT_EQ(User().Title(Window()), "Ж 日本 \U0001F600");
+  User().ChooseMenu(Window(), {"File", "Ж 日本"});
+  EXPECT_EQ(form_.Take(), Lines{"menu mnuFileOpen"});
+  hook.api.SetWindowLongPtrA(Window(), hook.previous);
+}
+
+TEST_F(WindowsFormHostTest, TheDefaultButtonIsDrawnAsSuchWhereTheFocusIs) {
+  ShowForm();
+  EXPECT_TRUE(HasStyle(Control("cmdGo"), GWL_STYLE, BS_DEFPUSHBUTTON));
+  FocusOn("cmdStay");
+  EXPECT_TRUE(HasStyle(Control("cmdStay"), GWL_STYLE, BS_DEFPUSHBUTTON));
+  EXPECT_FALSE(HasStyle(Control("cmdGo"), GWL_STYLE, BS_DEFPUSHBUTTON));
+}
+
+TEST_F(WindowsFormHostTest, AnOpenListShowsNineEntries) {
+  ShowForm();
+  for (int entry = 4; entry <= 9; ++entry) form_.Find("cboSize").AddItem(std::to_string(entry));
+  const HWND combo = Control("cboSize");
+  SendMessageW(combo, CB_SHOWDROPDOWN, TRUE, 0);
+  COMBOBOXINFO info{};
+  info.cbSize = sizeof(info);
+  GetComboBoxInfo(combo, &info);
+  RECT last{};
+  RECT list{};
+  SendMessageW(info.hwndList, LB_GETITEMRECT, 8, reinterpret_cast<LPARAM>(&last));
+  GetClientRect(info.hwndList, &list);
+  EXPECT_LE(last.bottom, list.bottom);
+  EXPECT_EQ(SendMessageW(info.hwndList, LB_GETTOPINDEX, 0, 0), 0);
+  SendMessageW(combo, CB_SHOWDROPDOWN, FALSE, 0);
+}
+
+TEST_F(WindowsFormHostTest, AKeyTakenWithAltDoesNotOpenTheMenu) {
+  ShowForm();
+  Press('S', kAlt);
+  EXPECT_EQ(form_.Take(), Lines{"click cmdStay"});
+  Press(VK_SPACE);
+  EXPECT_EQ(form_.Take(), Lines{"click cmdStay"});
+}
+
+TEST_F(WindowsFormHostTest, AltAndALetterOfTheBarOpensItsMenu) {
+  ShowForm();
+  int opened = 0;
+  form_.WhenMenuOpens("mnuFile", [&](int) { ++opened; });
+  User().WhenPopupMenu([](const std::vector<ShownMenuItem>&) { return "Open"; });
+  Press('F', kAlt);
+  EXPECT_EQ(opened, 1);
+  EXPECT_EQ(form_.Take(), Lines{"menu mnuFileOpen"});
+}
+
+TEST_F(WindowsFormHostTest, AHiddenMenuBarOpensWhenItIsShownByItsKey) {
+  ShowForm();
+  form_.SetMenuShown(false);
+  form_.onKeyDown = [&](int& key, unsigned shift) {
+    if (key == 'F' && shift == kAlt) form_.SetMenuShown(true);
+  };
+  User().WhenPopupMenu([](const std::vector<ShownMenuItem>&) { return "Open"; });
+  Press('F', kAlt);
+  EXPECT_EQ(form_.Take(), Lines{"menu mnuFileOpen"});
+}
+
+TEST_F(WindowsFormHostTest, AMenuBarChangedWhileAMenuIsOpenChangesAfterwards) {
+  ShowForm();
+  form_.WhenMenuOpens("mnuFile", [&](int) {
+    form_.Menu("mnuWindow").visible = false;
+    form_.RefreshMenuBar();
+  });
+  User().ChooseMenu(Window(), {"File", "Open"});
+  EXPECT_EQ(form_.Take(), Lines{"menu mnuFileOpen"});
+  EXPECT_EQ(User().MenuBarItems(Window()), (std::vector<ShownMenuItem>{{"File", "F"}}));
+}
+
+TEST_F(WindowsFormHostTest, AFormMayUnloadItselfFromItsMenuAndWhileAMenuOpens) {
+  ShowForm();
+  form_.onMenuClick = [&](const std::string&) { form_.Unload(); };
+  User().ChooseMenu(Window(), {"File", "Exit"});
+  EXPECT_FALSE(form_.IsLoaded());
+}
+
+TEST_F(WindowsFormHostTest, AWindowThatComesUpUnderTheMouseIsNoMovement) {
+  form_.Load();
+  User().MoveMouse(Window(), 0, 3000, 2100);
+  form_.logsMouse = true;
+  form_.Show();
+  User().LetPass(100);
+  EXPECT_EQ(form_.Take(), Lines{});
+}
+
+}  // namespace
+}  // namespace korvale
