@@ -16,14 +16,14 @@ constexpr Twips kRowHeight = 375;
 class Rows {
  public:
   void Page(int index) {
-    rows_.push_back({kPage, "picOptions", index, "", "", {210, 495, 12750, 5775}});
+    rows_.push_back({kPage, "picOptions", index, "", "", {210, 495, 13575, 5775}});
     container_ = "picOptions";
     containerIndex_ = page_ = index;
   }
   void Frame(const char* name, const char* caption, Twips top, Twips height) {
     container_ = "picOptions";
     containerIndex_ = page_;
-    Add(kFrame, name, -1, caption, "", {105, top, 12540, height});
+    Add(kFrame, name, -1, caption, "", {105, top, 13365, height});
     container_ = name;
     containerIndex_ = -1;
   }
@@ -96,13 +96,13 @@ void AddGeneralPage(Rows& rows) {
 
 void AddTag(Rows& rows, int tag) {
   constexpr Twips kTagRowHeight = 315;
-  const Twips left = tag < 5 ? 1740 : 7200;
+  const Twips left = tag < 5 ? 1800 : 7560;
   const Twips top = 285 + kTagRowHeight * (tag % 5);
   const TagText& text = kTags.at(static_cast<std::size_t>(tag));
   rows.Add(kLabel, "lblTagParent", tag, text.explanation, text.explanation,
-           {left + 555, top + 22, 4710, 240}, kNoPrefix);
+           {left + 480, top + 22, 5190, 240}, kNoPrefix);
   rows.Add(kCheckBox, "chkHotKeyParent", tag, text.caption, text.explanation,
-           {left, top, 510, 285});
+           {left, top, 450, 285});
 }
 
 /// The names of the controls of one kind of hot key, and what is said of it.
@@ -122,10 +122,10 @@ void AddHotKeys(Rows& rows, const HotKeyGroup& group) {
     const char* const note = group.notes[static_cast<std::size_t>(i)];
     rows.Add(kLabel, group.label, i, "", note, {180, top + 38, 2625, 240}, kNoPrefix);
     rows.Add(kDropDownList, group.modifier, i, "", i == 0 ? group.firstModifierTip : kModifierTip,
-             {2880, top, 1245, 315});
-    rows.Add(kLabel, group.plus, i, "+", "", {4125, top + 38, 270, 240}, kCentered);
-    rows.Add(kDropDownList, group.key, i, "", kKeyTip, {4395, top, 1500, 315});
-    rows.Add(kLabel, group.note, i, note, note, {6060, top + 38, 6300, 240}, kNoPrefix);
+             {2880, top, 1380, 315});
+    rows.Add(kLabel, group.plus, i, "+", "", {4260, top + 38, 270, 240}, kCentered);
+    rows.Add(kDropDownList, group.key, i, "", kKeyTip, {4530, top, 1500, 315});
+    rows.Add(kLabel, group.note, i, note, note, {6195, top + 38, 7080, 240}, kNoPrefix);
   }
 }
 
@@ -135,10 +135,10 @@ void AddLegend(Rows& rows) {
       " indicates Hot Key is Enabled -- Click to change this color -- use Shift+Click to reset to "
       "default ";
   constexpr const char* kDisabled = " indicates Hot Key is Disabled ";
-  rows.Add(kLabel, "lblLegend", 1, kEnabled, kEnabled, {990, 4980, 8400, 255},
+  rows.Add(kLabel, "lblLegend", 1, kEnabled, kEnabled, {990, 4980, 8700, 255},
            kNoPrefix | kClickable | kSingleBorder);
-  rows.Add(kLabel, "lblLegend", 0, kDisabled, kDisabled, {9510, 4980, 3000, 255}, kNoPrefix);
-  rows.Add(kLabel, "lblConflicts", -1, "", "", {180, 5280, 12390, 480},
+  rows.Add(kLabel, "lblLegend", 0, kDisabled, kDisabled, {9810, 4980, 3660, 255}, kNoPrefix);
+  rows.Add(kLabel, "lblConflicts", -1, "", "", {180, 5280, 13200, 480},
            kNoPrefix | kWordWrap | kHidden);
 }
 
@@ -146,8 +146,8 @@ void AddHotKeysPage(Rows& rows) {
   rows.Page(2);
   rows.Frame("fraWindowSelection", "&Window Selection", 60, 2250);
   rows.Add(kDropDownList, "cboHotKeyModParent", -1, "",
-           " key to hold down while pressing the number of a Tag  (Alt+W) ", {180, 285, 1245, 315});
-  rows.Add(kLabel, "lblPlusParent", -1, "+", "", {1425, 323, 270, 240}, kCentered);
+           " key to hold down while pressing the number of a Tag  (Alt+W) ", {180, 285, 1380, 315});
+  rows.Add(kLabel, "lblPlusParent", -1, "+", "", {1560, 323, 240, 240}, kCentered);
   for (int tag = 0; tag < 10; ++tag) AddTag(rows, tag);
   rows.Add(kLabel, "lblHotKeyTip", -1,
            "Tip: Alt+Tab and Alt+F4 are provided by the Windows® operating system.", "",
@@ -174,15 +174,15 @@ void AddWindowIdentificationPage(Rows& rows) {
 void AddButtons(Rows& rows) {
   rows.ClosePages();
   constexpr Twips kTop = 6465;
-  rows.Add(kButton, "cmdOK", -1, "OK", " Save and close  (Enter) ", {9285, kTop, 1215, 345},
+  rows.Add(kButton, "cmdOK", -1, "OK", " Save and close  (Enter) ", {10110, kTop, 1215, 345},
            kDefaultButton);
   rows.Add(kButton, "cmdCancel", -1, "Cancel", " Close without saving  (Esc) ",
-           {10575, kTop, 1215, 345}, kCancelButton);
-  rows.Add(kButton, "cmdApply", -1, "&Apply", " Save  (Alt+A) ", {11865, kTop, 1215, 345});
+           {11400, kTop, 1215, 345}, kCancelButton);
+  rows.Add(kButton, "cmdApply", -1, "&Apply", " Save  (Alt+A) ", {12690, kTop, 1215, 345});
   rows.Add(kButton, "cmdReset", -1, "Reset All Options to Default",
            " gives every option its default value and saves it ", {105, kTop, 3000, 345});
   rows.Add(kTabStrip, "tabOptions", -1, "", " page of the options  (Ctrl+Tab) ",
-           {105, 105, 12975, 6255});
+           {105, 105, 13800, 6255});
 }
 
 std::vector<ControlRow> MakeRows() {
@@ -199,7 +199,7 @@ std::vector<ControlRow> MakeRows() {
 const FormDesign& OptionsDesign() {
   static const std::vector<ControlRow> rows = MakeRows();
   static const FormDesign design = {
-      .name = "frmOptions", .caption = "Options", .place = {0, 0, 13275, 7335}, .controls = rows};
+      .name = "frmOptions", .caption = "Options", .place = {0, 0, 14100, 7335}, .controls = rows};
   return design;
 }
 

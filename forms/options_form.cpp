@@ -15,6 +15,9 @@ constexpr const char* kActionLabels[] = {" Minimize Window", " Maximize/Restore 
 constexpr const char* kGeneralLabels[] = {" Display Options", " Display Window Menu",
                                           " Activate/Deactivate Hot Keys"};
 constexpr int kEnabledLegend = 1;
+/// Where the focus goes on each page.
+constexpr const char* kFirstControls[kPages] = {"chkSplashScreen", "cboHotKeyModParent",
+                                                "chkAllowToolbarWindow"};
 
 /// Shows the hourglass for a scope.
 class Hourglass {
@@ -164,7 +167,9 @@ void frmOptions::Form_KeyDown(int& key, unsigned shift) {
   key = 0;
   const int step = (shift & kShift) != 0 ? kPages - 1 : 1;
   Control& tabs = Find("tabOptions");
-  tabs.SetListIndex((tabs.ListIndex() + step) % kPages);
+  const int tab = (tabs.ListIndex() + step) % kPages;
+  tabs.SetListIndex(tab);
+  Find(kFirstControls[tab]).SetFocus();
 }
 
 void frmOptions::Form_KeyUp(Control* focused, int& key, unsigned shift) {

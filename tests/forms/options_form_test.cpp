@@ -43,8 +43,10 @@ TEST_F(OptionsTest, CtrlTabGoesThroughTheTabs) {
   EXPECT_EQ(PagesShown(), std::vector<int>{3});
   Press(dialog_, win32::kVkTab, kCtrl);
   EXPECT_EQ(PagesShown(), std::vector<int>{1});
+  EXPECT_EQ(Focus(dialog_), "chkSplashScreen");
   Press(dialog_, win32::kVkTab, kCtrl | kShift);
   EXPECT_EQ(PagesShown(), std::vector<int>{3});
+  EXPECT_EQ(Focus(dialog_), "chkAllowToolbarWindow");
 }
 
 TEST_F(OptionsTest, ApplySavesRegistersAnewAndStaysOpen) {

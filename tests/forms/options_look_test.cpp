@@ -165,7 +165,7 @@ TEST_F(OptionsLookTest, EveryControlStandsInsideWhatHoldsIt) {
   OpenDialog();
   for (const Control& control : dialog_.Controls()) {
     const ControlState& state = control.State();
-    const TwipsRect room = state.container == 0 ? TwipsRect{0, 0, 13275 - 90, 7335 - 400}
+    const TwipsRect room = state.container == 0 ? TwipsRect{0, 0, 14100 - 90, 7335 - 400}
                                                 : dialog_.ById(state.container).Place();
     EXPECT_LE(state.place.left + state.place.width, room.width) << state.name << state.index;
     EXPECT_LE(state.place.top + state.place.height, room.height) << state.name << state.index;
