@@ -23,6 +23,7 @@ class AddWindow : public KorvaleTest {
   /// Works in another window, presses the Tag's key, and expects the tagged window.
   void ExpectTagSelects(int tag, Window window) {
     ASSERT_TRUE(InFront(main()));
+    ASSERT_TRUE(StaysInFront(main()));
     ASSERT_TRUE(WorkIn(Open("Elsewhere")));
     Press(TagKey(tag));
     EXPECT_TRUE(InFront(window));
@@ -135,6 +136,7 @@ TEST_F(AddWindow, RemovesATagAndStaysOpen) {
   EXPECT_FALSE(dialog.RemoveButton().Enabled());
   ASSERT_TRUE(dialog.Cancel());
   ASSERT_TRUE(InFront(main()));
+  ASSERT_TRUE(StaysInFront(main()));
   const Window elsewhere = Open("Elsewhere");
   ASSERT_TRUE(WorkIn(elsewhere));
   Press(TagKey(2));
@@ -173,6 +175,7 @@ TEST_F(AddWindow, ChangesNothingOnEscape) {
   const AddWindowDialog dialog = OpenFor("Alpha");
   ASSERT_TRUE(dialog.Cancel());
   ASSERT_TRUE(InFront(main()));
+  ASSERT_TRUE(StaysInFront(main()));
   const Window elsewhere = Open("Elsewhere");
   ASSERT_TRUE(WorkIn(elsewhere));
   Press(TagKey(1));

@@ -76,6 +76,8 @@ std::string LabelText(Window dialog) {
 bool AnswerBox(Window box, int button) {
   const Window control(GetDlgItem(box.handle(), button));
   if (!WaitFor([&] { return control.Visible() && control.Enabled(); })) return false;
+  // Another window that comes forward late could lie over the button.
+  if (!BringToFront(box)) return false;
   Click(control);
   return WaitFor([&] { return !box.Exists() || !box.Visible(); });
 }

@@ -93,8 +93,9 @@ void Tour::TagNotepad() {
   report_.Step("the right part is chosen", dialog.Choose(2));
   report_.Picture("dialog");
   report_.Step("Enter adds it", dialog.Confirm());
+  const auto main_is_back = [&] { return Foreground() == korvale_->Main(); };
   report_.Step("the main window is in front again",
-               WaitFor([&] { return Foreground() == korvale_->Main(); }));
+               WaitFor(main_is_back) && HoldsFor(main_is_back));
 }
 
 void Tour::UseTheTag() {
@@ -139,6 +140,8 @@ void Tour::CloseAndReopen() {
   const Window closed = notepad_->window();
   Press({MOD_ALT, VK_F4});
   report_.Step("Alt+F4 closes Notepad", WaitFor([&] { return !closed.Exists(); }));
+  const Window next = Foreground();
+  HoldsFor([&] { return Foreground() == next; });
   report_.KeyUntil("Alt+3: it is not open", TagKey(3), [&] { return korvale_->HasMessageBox(); });
   const Window message = korvale_->MessageBox();
   report_.Picture("message");
@@ -174,8 +177,9 @@ void Tour::TagMineGame() {
   const AddWindowDialog dialog = OpenAddWindow("second-");
   report_.Step("4 selects Tag 4", dialog.SelectTag(4));
   report_.Step("Enter adds it", dialog.Confirm());
+  const auto main_is_back = [&] { return Foreground() == korvale_->Main(); };
   report_.Step("the main window is in front again",
-               WaitFor([&] { return Foreground() == korvale_->Main(); }));
+               WaitFor(main_is_back) && HoldsFor(main_is_back));
 }
 
 void Tour::GoRound() {
