@@ -134,9 +134,7 @@ void Form::OnMenuOpened(MenuItem& menu) {
 
 void Form::OnMenuClicked(MenuItem& item) {
   if (!IsLoaded() || !item.enabled || !item.visible) return;
-  // The handler may remove the entry, so it gets a name of its own.
-  const std::string name = item.name;
-  RaiseFor(menuClicked_, name, item.index);
+  RaiseFor(menuClicked_, item.name, item.index);
 }
 
 void Form::OnActivated() {

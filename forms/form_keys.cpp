@@ -212,8 +212,7 @@ bool Form::UseAccessKey(Control& control, char32_t character) {
   }
   FocusOn(state.id);
   if (state.kind == ControlKind::kTabStrip) {
-    const int tab = CaptionWithKey(state, character);
-    if (tab != state.listIndex) control.SetListIndex(tab);
+    control.SetListIndex(CaptionWithKey(state, character));
   } else {
     OnClick(state.id);
   }

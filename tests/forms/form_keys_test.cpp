@@ -189,6 +189,11 @@ TEST_F(FormKeysTest, AKeyHandlerMayHandOnAnotherKey) {
   EXPECT_EQ(form_.Take(), Lines{"click cmdClose"});
 }
 
+TEST_F(FormKeysTest, AKeyThatUnloadedTheFormHasBeenDealtWith) {
+  form_.onKeyDown = [&](int&, unsigned) { form_.Unload(); };
+  EXPECT_TRUE(form_.OnKeyDown(Id(form_, "txtName"), 'Z', kNoShift));
+}
+
 TEST_F(FormKeysTest, AReleasedKeyMayBeSwallowed) {
   form_.onKeyUp = [](int& key, unsigned) { key = 0; };
   EXPECT_TRUE(form_.OnKeyUp(Id(form_, "cmdStay"), win32::kVkSpace, kNoShift));

@@ -75,6 +75,27 @@ TEST_F(FormPlaceTest, AMinimizedFormKeepsItsPlaceAndCannotBeMoved) {
   EXPECT_EQ(form_.State().place, (TwipsRect{0, 0, 15360, 11100}));
 }
 
+TEST_F(FormPlaceTest, TheIconOfAMinimizedFormIsNotItsPlace) {
+  form_.Show();
+  form_.OnPlaced(ShowState::kMinimized, {-480000, -480000, 2400, 420});
+  EXPECT_EQ(form_.Place(), kContractDesign.place);
+  EXPECT_EQ(form_.WindowState(), ShowState::kMinimized);
+}
+
+TEST_F(FormPlaceTest, WhatTheUserDragsCountsTheClassicFrameToo) {
+  host_.SetFrame({60, 500, 120, 560}, 285);
+  FormDesign sizable = Bare("frmSizable");
+  sizable.border = BorderStyle::kSizable;
+  RecordingForm form(sizable, forms_);
+  form.Show();
+  user_.Drag(form.Handle(), {300, 300, 4530, 2160});
+  EXPECT_EQ(form.Place(), (TwipsRect{300, 300, 4500, 2000}));
+  EXPECT_EQ(form.resizes, 2);
+  user_.Drag(form.Handle(), {600, 600, 4530, 2160});
+  EXPECT_EQ(form.Place(), (TwipsRect{600, 600, 4500, 2000}));
+  EXPECT_EQ(form.resizes, 2);
+}
+
 TEST_F(FormPlaceTest, AStateSetBeforeShowingHoldsWhenShown) {
   form_.Load();
   form_.SetWindowState(ShowState::kMinimized);
