@@ -89,6 +89,7 @@ class WindowsUser final : public UserHands {
   int settlingIn_ = -1;  // The host's loop that runs around Settle; no action waits for that one.
   HWND answered_ = nullptr;
   ULONGLONG lastClick_ = 0;
+  int lostInMenu_ = 0;  // How often there was nothing to do in an open menu.
   IdleWatch watch_{[this] { OnIdle(); }};
 };
 

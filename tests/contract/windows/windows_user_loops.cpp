@@ -11,6 +11,7 @@ namespace korvale {
 namespace {
 
 constexpr DWORD kQuietMilliseconds = 20;
+constexpr int kPatience = 200;
 constexpr int kMessageText = 0xFFFF;
 
 template <typename Queue>
@@ -57,7 +58,10 @@ void WindowsUser::OnIdle() {
   const HWND active = GetActiveWindow();
   if (InMenu()) {
     ContinueInMenu();
-  } else if (IsMessageBox(active) && active != answered_) {
+    return;
+  }
+  lostInMenu_ = 0;
+  if (IsMessageBox(active) && active != answered_) {
     AnswerMessageBox(active);
   } else if (!actions_.empty() && host_->loops > 0 && host_->loops != settlingIn_) {
     const int outer = std::exchange(settlingIn_, -1);
@@ -81,10 +85,16 @@ void WindowsUser::AnswerMessageBox(HWND box) {
 }
 
 void WindowsUser::ContinueInMenu() {
-  if (!menuSteps_.empty()) {
-    if (menuSteps_.front()()) menuSteps_.pop_front();
-  } else if (!choices_.empty() && !OpenMenus().empty()) {
+  const bool hasStep = !menuSteps_.empty();
+  if (hasStep && menuSteps_.front()()) {
+    menuSteps_.pop_front();
+    lostInMenu_ = 0;
+  } else if (!hasStep && !choices_.empty() && !OpenMenus().empty()) {
     AnswerPopupMenu();
+  } else if (++lostInMenu_ > kPatience) {
+    ADD_FAILURE() << "A menu is open that nobody asked for, or stays open";
+    lostInMenu_ = 0;
+    PressAndRelease(VK_ESCAPE, kNoShift);
   }
 }
 
