@@ -154,8 +154,11 @@ TEST_F(ForegroundKeys, MaximizeKeyDoesNotWaitForAHungWindow) {
 
 TEST_F(ForegroundKeys, NothingHappensWithoutAForegroundWindow) {
   desktop.LoseForeground();
-  EXPECT_EQ(Press(kMinimize), Calls{});
-  EXPECT_EQ(Press(kMaximize), Calls{});
+  for (const char* const name : {kMinimize, kMaximize}) {
+    EXPECT_EQ(
+        CallsOf([&] { actions.MinimizeOrMaximizeForeground(name); }),
+        (Calls{"udmTimersEnabled(false)", "GetForegroundWindow()", "udmTimersEnabled(true)"}));
+  }
 }
 
 TEST_F(ForegroundKeys, OtherNamesDoNothing) {
