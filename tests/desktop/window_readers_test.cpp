@@ -42,12 +42,12 @@ TEST_F(WindowReaders, TitleOfNoWindowIsEmpty) {
 
 TEST_F(WindowReaders, TitleThatIsShorterThanItsReportedLengthIsReadOnce) {
   NewWindow window;
-  window.extraTextLength = 10;
+  window.extraTextLength = 4;
   const WindowHandle hwnd = desktop.Open("Alpha", window);
   std::string title;
   const Calls calls = CallsOf([&] { title = GetWindowTitle(desktop, hwnd); });
   EXPECT_EQ(title, "Alpha");
-  EXPECT_EQ(calls, (Calls{"GetWindowTextLengthA(Alpha)", "GetWindowTextA(Alpha, 16)"}));
+  EXPECT_EQ(calls, (Calls{"GetWindowTextLengthA(Alpha)", "GetWindowTextA(Alpha, 10)"}));
 }
 
 TEST_F(WindowReaders, TitleThatFillsItsBufferIsReadAgainWithALargerOne) {
@@ -78,11 +78,10 @@ TEST_F(WindowReaders, TitleOfAWindowThatGoesWhileItIsReadIsEmpty) {
 
 TEST_F(WindowReaders, TitleThatKeepsGrowingEndsAtTheLargestBufferWithAWholeCharacter) {
   for (const char* const character : {"x", "é", "メ", "🦊"}) {
-    const std::string all = Repeated(character, 70000);
+    const std::string all = "xy" + Repeated(character, 70000);
     const WindowHandle hwnd = desktop.Open("Alpha");
     log.WhenCalled("GetWindowTextA(Alpha", [&] { desktop.Rename(hwnd, all); });
     const std::string title = GetWindowTitle(desktop, hwnd);
-    EXPECT_EQ(title.size() % std::string(character).size(), 0U);
     EXPECT_GT(title.size(), 65530U);
     EXPECT_LT(title.size(), 65536U);
     EXPECT_EQ(title, LeftCharacters(all, CharacterCount(title)));
