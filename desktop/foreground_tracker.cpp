@@ -40,11 +40,11 @@ void ForegroundTracker::tmrWindow_Timer() {
   mainWindow_->tmrWindow().SetInterval(kTickMilliseconds);
   if (!AcceptForeground(foreground, title)) return;
   lastSeen_ = foreground;
+  const bool moved =
+      std::exchange(previous_->menuSelection, false) && foreground == previous_->current.handle;
   if (isMain) {
     mainWindow_->SetFocusTag(kGotFocus);
   } else {
-    const bool moved = std::exchange(previous_->menuSelection, false) &&
-                       foreground == previous_->current.handle;
     if (!moved) MoveRecordTo({foreground, title, GetWindowClass(*windows_, foreground)});
     udmRefreshAlwaysOnTopMenuChecked();
   }

@@ -126,6 +126,68 @@ TEST_F(RecordMoves, AlternateItselfMayBecomeTheCurrentOne) {
   EXPECT_EQ(previous.alternate, Triple(beta));
 }
 
+class RecordMovedBySelection : public ForegroundTracking {
+ protected:
+  /// What a selection does: the record moves, then the window comes to the front.
+  void Select(WindowHandle hwnd) {
+    tracker.MoveRecordTo(Triple(hwnd));
+    previous.menuSelection = true;
+    desktop.UserActivates(hwnd);
+  }
+};
+
+TEST_F(RecordMovedBySelection, IsNotMovedOnceMoreByTheTick) {
+  WorkIn(alpha);
+  Select(beta);
+  tracker.tmrWindow_Timer();
+  EXPECT_EQ(previous.current, Triple(beta));
+  EXPECT_EQ(previous.alternate, Triple(alpha));
+}
+
+TEST_F(RecordMovedBySelection, FromTheMainWindowKeepsItAsTheAlternate) {
+  WorkIn(alpha);
+  WorkIn(mainWindow.handle);
+  Select(beta);
+  tracker.tmrWindow_Timer();
+  EXPECT_EQ(previous.alternate, Triple(mainWindow.handle));
+}
+
+TEST_F(RecordMovedBySelection, StillHasItsMarkRefreshedByTheTick) {
+  desktop.Windows().Find(beta)->exStyle = win32::kWsExTopmost;
+  Select(beta);
+  tracker.tmrWindow_Timer();
+  EXPECT_TRUE(mainWindow.previousAlwaysOnTop);
+}
+
+TEST_F(RecordMovedBySelection, IsMovedByTheTickWhenAnotherWindowCameToTheFront) {
+  WorkIn(alpha);
+  Select(beta);
+  WorkIn(gamma);
+  EXPECT_EQ(previous.current, Triple(gamma));
+  EXPECT_EQ(previous.alternate, Triple(beta));
+  EXPECT_FALSE(previous.menuSelection);
+}
+
+TEST_F(RecordMovedBySelection, IsMovedByTheNextChangeAfterIt) {
+  Select(alpha);
+  tracker.tmrWindow_Timer();
+  WorkIn(beta);
+  WorkIn(alpha);
+  EXPECT_EQ(previous.current, Triple(alpha));
+  EXPECT_EQ(previous.alternate, Triple(beta));
+}
+
+TEST_F(RecordMovedBySelection, LetsTheUserLeaveTheMainWindowForTheSelectedOne) {
+  WorkIn(alpha);
+  desktop.UserActivates(beta);
+  Select(alpha);
+  tracker.tmrWindow_Timer();
+  WorkIn(mainWindow.handle);
+  WorkIn(alpha);
+  EXPECT_EQ(mainWindow.focusTag, "");
+  EXPECT_EQ(previous.alternate, Triple(mainWindow.handle));
+}
+
 class AlwaysOnTopMarks : public ForegroundTracking {
  protected:
   void SetExStyle(WindowHandle hwnd, std::int32_t exStyle) {
