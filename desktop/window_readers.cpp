@@ -63,6 +63,7 @@ std::string GetWindowClass(WindowQueries& windows, WindowHandle hwnd) {
   std::string buffer(kClassNameBuffer, '\0');
   const auto copied = static_cast<std::size_t>(std::max(windows.GetClassNameA(hwnd, buffer), 0));
   buffer.resize(std::min(copied, kClassNameBuffer));
+  DropCutSequence(buffer);
   return buffer;
 }
 

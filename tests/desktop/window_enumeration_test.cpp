@@ -2,12 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <limits>
 #include <string>
 #include <vector>
 
 #include "platform/run_time_error.h"
-#include "platform/win32_constants.h"
 #include "tests/desktop/desktop_case.h"
 
 namespace korvale {
@@ -185,57 +183,6 @@ TEST_F(WindowEnumerationTest, SearchByTitleAndClassReadsInItsOrder) {
   calls.erase(calls.begin(), calls.begin() + 5);
   EXPECT_EQ(calls, (Calls{"IsWindowVisible(Alpha)", "GetClassNameA(Alpha, 255)",
                           "GetWindowTextLengthA(Alpha)", "GetWindowTextA(Alpha, 15)"}));
-}
-
-TEST_F(WindowEnumerationTest, TopWindowIsTheFirstBelowTheProgram) {
-  desktop.OpenShell();
-  desktop.Open("Lower");
-  const WindowHandle upper = desktop.Open("Upper");
-  desktop.UserActivates(mainWindow.handle);
-  EXPECT_EQ(enumeration.FindTopWindow(), upper);
-  EXPECT_EQ(enumeration.Fields().topWindowCount, 2);
-}
-
-TEST_F(WindowEnumerationTest, TopWindowPassesOverWhatCannotBeInFront) {
-  const WindowHandle plain = desktop.Open("Plain");
-  desktop.Open("Hidden", {.visible = false});
-  desktop.Open("Disabled", {.enabled = false});
-  desktop.Open("Iconic", {.iconic = true});
-  desktop.Open("Topmost", {.exStyle = win32::kWsExTopmost});
-  desktop.Open("Taskbar", {.className = "Shell_TrayWnd"});
-  EXPECT_EQ(enumeration.FindTopWindow(), plain);
-  EXPECT_EQ(enumeration.Fields().topWindowCount, 1);
-}
-
-TEST_F(WindowEnumerationTest, TopWindowTakesAWindowWithOtherExtendedStyles) {
-  const WindowHandle tool = desktop.Open("Tool", {.exStyle = win32::kWsExToolWindow});
-  EXPECT_EQ(enumeration.FindTopWindow(), tool);
-}
-
-TEST_F(WindowEnumerationTest, TopWindowIsNoneOnAnEmptyDesktop) {
-  enumeration.Fields().topWindowResult = 77;
-  enumeration.Fields().topWindowCount = 5;
-  EXPECT_EQ(enumeration.FindTopWindow(), 0);
-  EXPECT_EQ(enumeration.Fields().topWindowCount, 0);
-}
-
-TEST_F(WindowEnumerationTest, TopWindowCounterOverflowsInsteadOfWidening) {
-  desktop.Open("Alpha");
-  enumeration.Fields().topWindowCount = std::numeric_limits<std::int16_t>::max();
-  try {
-    enumeration.EnumWindows(kTopWindow);
-    ADD_FAILURE() << "no overflow";
-  } catch (const RunTimeError& error) {
-    EXPECT_EQ(error.Number(), RunTimeError::kOverflow);
-  }
-}
-
-TEST_F(WindowEnumerationTest, TopWindowReadsInItsOrder) {
-  const WindowHandle alpha = desktop.Open("Alpha", {.extraTextLength = 9});
-  Calls calls = CallsOf([&] { enumeration.EnumWindowsProc(alpha, kTopWindow); });
-  calls.erase(calls.begin(), calls.begin() + 5);
-  EXPECT_EQ(calls, (Calls{"IsWindowVisible(Alpha)", "IsWindowEnabled(Alpha)", "IsIconic(Alpha)",
-                          "GetClassNameA(Alpha, 255)", "GetWindowLongA(Alpha, GWL_EXSTYLE)"}));
 }
 
 TEST_F(WindowEnumerationTest, InstanceSearchFindsTheLowestOtherCopy) {

@@ -111,6 +111,16 @@ TEST_F(WindowReaders, ClassLongerThanTheBufferIsCutAtIt) {
   EXPECT_EQ(GetWindowClass(desktop, hwnd), std::string(254, 'c'));
 }
 
+TEST_F(WindowReaders, LongClassIsNeverCutThroughACharacter) {
+  for (const char* const character : {"é", "メ", "🦊"}) {
+    const std::string all = Repeated(character, 200);
+    const WindowHandle hwnd = desktop.Open("Alpha", {.className = all});
+    const std::string className = GetWindowClass(desktop, hwnd);
+    EXPECT_GT(className.size(), 250U);
+    EXPECT_EQ(className, LeftCharacters(all, CharacterCount(className)));
+  }
+}
+
 TEST_F(WindowReaders, Related1IsTheFirstChild) {
   const WindowHandle hwnd = desktop.Open("Alpha", {.children = 2});
   EXPECT_EQ(GetRelatedWindow(desktop, hwnd, 1), desktop.GetWindow(hwnd, win32::kGwChild));
