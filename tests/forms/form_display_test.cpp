@@ -106,8 +106,8 @@ TEST_F(FormDisplayTest, GivesTheForegroundBackToTheProgramThatHadIt) {
   owner_.Show();
   const WindowHandle editor = desktop_.Open("Editor");
   host_.WhenModal("frmDialog", [&](Form& form) {
-    desktop_.Windows().Raise(owner_.Handle());
     form.Unload();
+    desktop_.Windows().Activate(owner_.Handle());
   });
   ShowDialogModal();
   EXPECT_EQ(desktop_.Windows().Foreground(), editor);
