@@ -33,6 +33,7 @@ void ForegroundTracker::tmrWindow_Timer() {
     lastSeen_ = foreground;
     firstTick_ = false;
   }
+  if (HasLeftSelectionUnseen(foreground)) lastSeen_ = 0;
   if (!filter_->IsSelectableWindow(foreground, false, false) ||
       !windows_->IsWindowVisible(foreground) || foreground == lastSeen_) {
     return;
@@ -49,6 +50,14 @@ void ForegroundTracker::tmrWindow_Timer() {
     udmRefreshAlwaysOnTopMenuChecked();
   }
   ValidatePreviousWindow();
+}
+
+/// True when a selection moved the record but the window last seen is in front again, by two quick
+/// hot keys say. One tick is passed over, since Windows may bring the selected window late.
+bool ForegroundTracker::HasLeftSelectionUnseen(WindowHandle foreground) {
+  const bool unseen = previous_->menuSelection && foreground == lastSeen_ &&
+                      foreground != previous_->current.handle;
+  return std::exchange(selectionUnseen_, unseen) && unseen;
 }
 
 void ForegroundTracker::LookAnew() {

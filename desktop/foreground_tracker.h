@@ -43,6 +43,7 @@ class ForegroundTracker {
 
  private:
   void ShowRecord(bool valid);
+  bool HasLeftSelectionUnseen(WindowHandle foreground);
 
   WindowQueries* windows_;
   const WindowFilter* filter_;
@@ -52,6 +53,8 @@ class ForegroundTracker {
   TagList* tags_;
   WindowHandle lastSeen_ = 0;
   bool firstTick_ = true;
+  /// The last tick has not seen the selected window yet.
+  bool selectionUnseen_ = false;
 };
 
 }  // namespace korvale

@@ -188,6 +188,17 @@ TEST_F(RecordMovedBySelection, LetsTheUserLeaveTheMainWindowForTheSelectedOne) {
   EXPECT_EQ(previous.alternate, Triple(mainWindow.handle));
 }
 
+TEST_F(RecordMovedBySelection, IsMovedBackWhenTheUserReturnedBeforeTheTick) {
+  WorkIn(alpha);
+  Select(beta);
+  desktop.UserActivates(alpha);
+  tracker.tmrWindow_Timer();
+  EXPECT_EQ(previous.current, Triple(beta));
+  tracker.tmrWindow_Timer();
+  EXPECT_EQ(previous.current, Triple(alpha));
+  EXPECT_EQ(previous.alternate, Triple(beta));
+}
+
 class AlwaysOnTopMarks : public ForegroundTracking {
  protected:
   void SetExStyle(WindowHandle hwnd, std::int32_t exStyle) {
