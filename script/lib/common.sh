@@ -2,6 +2,9 @@
 
 say() { printf '\n== %s\n' "$*"; }
 
+# Lets ccache keep what was compiled with precompiled headers.
+export CCACHE_SLOPPINESS=pch_defines,time_macros
+
 # configure PRESET [options...]: with ccache in front of the compiler when it is installed.
 configure() {
   local preset=$1
