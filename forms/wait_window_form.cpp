@@ -27,9 +27,10 @@ constexpr FormDesign kDesign = {
 
 }  // namespace
 
-frmWaitWindow::frmWaitWindow(FormCollection& forms, FormDisplay& display)
-    : Form(kDesign, forms), display_(&display) {
-  WhenClicked("tmrWait", [this](int) { Unload(); });
+frmWaitWindow::frmWaitWindow(FormCollection& forms, FormDisplay& display,
+                             const Suspension& suspension)
+    : Form(kDesign, forms), display_(&display), suspension_(&suspension) {
+  WhenClicked("tmrWait", [this](int) { tmrWait_Timer(); });
 }
 
 void frmWaitWindow::ShowWaitWindow(const std::string& caption, const std::string& text,
@@ -49,6 +50,11 @@ void frmWaitWindow::Form_KeyDown(int& key, unsigned shift) {
   if (!closes) return;
   key = 0;
   Unload();
+}
+
+void frmWaitWindow::tmrWait_Timer() {
+  // Windows would take the message box away together with its owner, unread.
+  if (!suspension_->MessageBoxShown) Unload();
 }
 
 }  // namespace korvale

@@ -12,7 +12,7 @@ class WaitWindowTest : public DialogTest {
     form_.ShowWaitWindow("Korvale - Hot Keys (OFF)", "Hot Keys are now Deactivated", 800);
   }
 
-  frmWaitWindow form_{forms_, display_};
+  frmWaitWindow form_{forms_, display_, suspension_};
 };
 
 TEST_F(WaitWindowTest, ShowsItsTextForAsLongAsItIsTold) {
@@ -62,6 +62,18 @@ TEST_F(WaitWindowTest, StaysForOtherKeys) {
   });
   ShowWaitWindow();
   EXPECT_EQ(clock_.GetTickCount64() - start, 800U);
+}
+
+TEST_F(WaitWindowTest, StaysUnderAMessageBoxUntilThatIsAnswered) {
+  const std::uint64_t start = clock_.GetTickCount64();
+  host_.WhenModal("frmWaitWindow", [&](Form& form) {
+    suspension_.MessageBoxShown = true;
+    clock_.Advance(2000);
+    EXPECT_TRUE(form.IsLoaded());
+    suspension_.MessageBoxShown = false;
+  });
+  ShowWaitWindow();
+  EXPECT_EQ(clock_.GetTickCount64() - start, 2400U);
 }
 
 TEST_F(WaitWindowTest, LeavesNoTimerBehind) {
