@@ -28,6 +28,12 @@ TEST_F(AddWindowTest, AltPSelectsTheWholeTitleWhenAPartIsSelected) {
   EXPECT_EQ(TitleSelection().length, 5);
 }
 
+TEST_F(AddWindowTest, LeavesOtherModifiersThanAltAlone) {
+  OpenDialogFor("Notes");
+  Press(dialog_, 'P', kAlt | kCtrl);
+  EXPECT_EQ(Focus(dialog_), "cboWindow");
+}
+
 TEST_F(AddWindowTest, TypesAPlainPIntoTheTitle) {
   OpenDialogFor("");
   dialog_.Find("txtWindow").SetFocus();
@@ -74,6 +80,15 @@ TEST_F(AddWindowTest, LooksAsTheWindowMenuOpensIt) {
   for (const char* const name : {"lblChildWindow", "Line3", "chkChildWindow", "cboChildWindow"}) {
     EXPECT_FALSE(Shown(dialog_, name)) << name;
   }
+}
+
+TEST_F(AddWindowTest, HasTheCaptionsOfItsButtonsAndLabels) {
+  OpenDialogFor("Notes");
+  EXPECT_EQ(Text(dialog_, "cmdClose"), "Close");
+  EXPECT_EQ(Text(dialog_, "cmdRemove"), "&Remove");
+  EXPECT_EQ(Text(dialog_, "lblAssignHotKey"), "Assign a &Tag");
+  EXPECT_EQ(Text(dialog_, "lblChildWindow"), "&Child Window");
+  EXPECT_EQ(Text(dialog_, "chkChildWindow"), "assign this Hot Key to a Child window of the Parent");
 }
 
 TEST_F(AddWindowTest, StartsInTheListOfTagsAndKeepsTheUsersPlaceLater) {
@@ -151,6 +166,18 @@ TEST_F(AddWindowTest, EveryChoiceSaysInItsToolTipWhatItDoes) {
   EXPECT_EQ(Look(dialog_, "cmdClose").toolTip, " Close  (Esc) ");
   EXPECT_EQ(Look(dialog_, "cmdRemove").toolTip,
             " clears the specified Tag/window from the Window menu ");
+  EXPECT_EQ(Look(dialog_, "optWindow", 0).toolTip, " Identify Window by full or partial Title ");
+  EXPECT_EQ(Look(dialog_, "optWindow", 1).toolTip,
+            " Identify Window by the left portion of the Title ");
+  EXPECT_EQ(Look(dialog_, "optWindow", 2).toolTip,
+            " Identify Window by the right portion of the Title ");
+  EXPECT_EQ(Look(dialog_, "txtWindowClass").toolTip,
+            " Class of window:  the window will be matched based on Title and Class - if a "
+            "Title/Class match is not found, then the match is made by Title alone ");
+  EXPECT_EQ(Look(dialog_, "cboChildWindow").toolTip,
+            " edit to identify Child Window by partial title ");
+  EXPECT_EQ(Look(dialog_, "chkChildWindow").toolTip,
+            " TIP:  first identify the Parent Window by application name ");
   EXPECT_EQ(Look(dialog_, "lblWindow").toolTip,
             " Red text: means a window is already associated with this Tag     Blue text: means "
             "this Tag is available ");
