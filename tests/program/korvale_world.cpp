@@ -14,6 +14,10 @@ KorvaleCopy::KorvaleCopy(KorvaleWorld& world, const std::string& folder, int pro
       program(platform) {
   system.executablePath = "C:\\Programs\\" + folder + "\\Korvale.exe";
   system.files.insert(system.executablePath);
+  // Time passes by itself only while the program waits for it and not for the user.
+  host.SetIdle([this, &world] {
+    return program.Forms().Find("frmWaitWindow") != nullptr && world.clock.AdvanceToNextTick();
+  });
 }
 
 KorvaleCopy::~KorvaleCopy() = default;

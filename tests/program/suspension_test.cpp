@@ -1,0 +1,164 @@
+#include <string>
+#include <vector>
+
+#include "platform/win32_constants.h"
+#include "tests/program/korvale_world.h"
+
+namespace korvale {
+namespace {
+
+constexpr const char* kNotice =
+    "Hot Keys are temporarily suspended when Korvale has a message box or a dialog box displayed.";
+constexpr const char* kNoticeTitle = "Korvale     ";
+
+class SuspensionTest : public KorvaleWorld {
+ protected:
+  /// A started copy with Alpha as Tag 1; the user works in Beta.
+  KorvaleCopy& Started() {
+    alpha_ = Open("Alpha");
+    KorvaleCopy& korvale = StartedCopy();
+    WorkIn(alpha_);
+    WorkIn(korvale.Handle());
+    korvale.TagPrevious();
+    WorkIn(Open("Beta"));
+    return korvale;
+  }
+
+  /// The user sees the notice, does something, and presses its button.
+  void ExpectNotice(
+      KorvaleCopy& korvale,
+      const std::function<void(const ShownMessage&)>& meanwhile = [](const ShownMessage&) {}) {
+    korvale.host.WhenMessageBox([meanwhile](const ShownMessage& box) {
+      EXPECT_EQ(box.text, kNotice);
+      EXPECT_EQ(box.title, kNoticeTitle);
+      EXPECT_EQ(box.style, win32::kMbOk);
+      meanwhile(box);
+      return win32::kIdOk;
+    });
+  }
+
+  WindowHandle alpha_ = 0;
+};
+
+TEST_F(SuspensionTest, AMessageBoxHoldsTheHotKeysWithASingleNotice) {
+  KorvaleCopy& korvale = Started();
+  WorkIn(alpha_);
+  const WindowHandle beta = desktop.FindWindowA("Beta");
+  WorkIn(beta);
+  desktop.SetEnabled(alpha_, false);
+  korvale.host.WhenMessageBox([&](const ShownMessage& box) {
+    EXPECT_EQ(box.text, "Window:  [Alpha]  is not enabled, and currently cannot be selected.");
+    ExpectNotice(korvale, [&](const ShownMessage&) {
+      PressTag(1);
+      PressHotKey(win32::kModAlt, win32::kVkDown);
+      PressHotKey(0, win32::kVkPause);
+    });
+    PressTag(0);
+    EXPECT_FALSE(korvale.user.IsEnabled(korvale.Handle()));
+    korvale.Form().udmTimersEnabled(true);
+    EXPECT_FALSE(korvale.Form().tmrWindow().Enabled());
+    ExpectNotice(korvale);
+    PressTag(0);
+    return win32::kIdOk;
+  });
+
+  PressTag(1);
+
+  EXPECT_EQ(korvale.host.Messages().size(), 3U);
+  EXPECT_FALSE(desktop.IsIconic(beta));
+  EXPECT_TRUE(korvale.Parts().hotKeys.HotKeysActive());
+  EXPECT_TRUE(korvale.user.IsEnabled(korvale.Handle()));
+  EXPECT_TRUE(korvale.Form().tmrWindow().Enabled());
+  desktop.SetEnabled(alpha_, true);
+  PressTag(1);
+  EXPECT_EQ(Front(), "Alpha");
+}
+
+TEST_F(SuspensionTest, TheAddWindowDialogHoldsThemAndStaysModalBehindTheNotice) {
+  KorvaleCopy& korvale = Started();
+  WorkIn(korvale.Handle());
+  korvale.TagPrevious([&](class Form& dialog) {
+    ExpectNotice(korvale, [&](const ShownMessage& box) {
+      EXPECT_EQ(box.owner, dialog.Handle());
+      EXPECT_FALSE(korvale.user.IsEnabled(dialog.Handle()));
+    });
+    PressTag(1);
+    EXPECT_EQ(desktop.GetForegroundWindow(), dialog.Handle());
+    EXPECT_TRUE(korvale.user.IsEnabled(dialog.Handle()));
+    EXPECT_FALSE(korvale.user.IsEnabled(korvale.Handle()));
+  });
+  EXPECT_TRUE(korvale.user.IsEnabled(korvale.Handle()));
+  PressTag(1);
+  EXPECT_EQ(Front(), "Alpha");
+}
+
+TEST_F(SuspensionTest, AQuestionOfTheOptionsHoldsThem) {
+  KorvaleCopy& korvale = Started();
+  PressHotKey(win32::kModWin, 'O');
+  class Form& options = korvale.Loaded("frmOptions");
+  korvale.host.WhenMessageBox([&](const ShownMessage&) {
+    ExpectNotice(korvale);
+    PressTag(1);
+    return win32::kIdCancel;
+  });
+  korvale.user.Click(options.Handle(), options.Find("cmdReset").Id());
+  EXPECT_EQ(Front(), "Korvale - Options");
+  PressTag(1);
+  EXPECT_EQ(Front(), "Alpha");
+}
+
+TEST_F(SuspensionTest, ATipHoldsThem) {
+  KorvaleCopy& korvale = Started();
+  korvale.host.WhenModal("frmMsgTip", [&](class Form& tip) {
+    ExpectNotice(korvale);
+    PressTag(1);
+    korvale.user.PressKey(tip.Handle(), win32::kVkEscape);
+  });
+  korvale.user.ChooseMenu(korvale.Handle(), {"Tools", "Deactivate Hot Keys"});
+  EXPECT_EQ(Front(), "Korvale - Work");
+}
+
+TEST_F(SuspensionTest, TheNoticeOutlastsTheWaitWindowThatCausedIt) {
+  KorvaleCopy& korvale = Started();
+  korvale.host.WhenModal("frmWaitWindow", [&](class Form& form) {
+    ExpectNotice(korvale, [&](const ShownMessage& box) {
+      EXPECT_EQ(box.owner, form.Handle());
+      clock.Advance(5000);
+      EXPECT_NE(desktop.FindWindowA(kNoticeTitle), 0);
+    });
+    PressHotKey(0, win32::kVkPause);
+  });
+  PressHotKey(0, win32::kVkPause);
+  EXPECT_EQ(korvale.program.Forms().Find("frmWaitWindow"), nullptr);
+  EXPECT_FALSE(korvale.Parts().hotKeys.HotKeysActive());
+  EXPECT_EQ(Front(), "Beta");
+}
+
+TEST_F(SuspensionTest, TheSessionCanEndWhileATagTellsItsFailure) {
+  KorvaleCopy& korvale = Started();
+  desktop.Close(alpha_);
+  korvale.host.WhenMessageBox([&](const ShownMessage&) {
+    korvale.Form().OnCloseRequested(CloseReason::kSession);
+    return win32::kIdOk;
+  });
+  PressTag(1);
+  EXPECT_FALSE(korvale.Form().IsLoaded());
+  EXPECT_TRUE(hotKeys.Registered().empty());
+  EXPECT_FALSE(clock.AdvanceToNextTick());
+  EXPECT_EQ(store.GetSetting("Korvale - Work", "ParentWindowList", "1"), "&1  Alpha");
+}
+
+TEST_F(SuspensionTest, TheSessionCanEndWhileTheAddWindowDialogIsOpen) {
+  KorvaleCopy& korvale = Started();
+  WorkIn(korvale.Handle());
+  korvale.host.WhenModal(
+      "frmGetWindow", [&](class Form&) { korvale.Form().OnCloseRequested(CloseReason::kSession); });
+  korvale.user.ChooseMenu(korvale.Handle(), {"Window", "Add  [Beta]  to Window menu..."});
+  EXPECT_FALSE(korvale.Form().IsLoaded());
+  EXPECT_EQ(korvale.program.Forms().Find("frmGetWindow"), nullptr);
+  EXPECT_EQ(store.GetSetting("Korvale - Work", "ParentWindowList", "1"), "&1  Alpha");
+  EXPECT_EQ(store.GetSetting("Korvale - Work", "ParentWindowList", "2"), std::nullopt);
+}
+
+}  // namespace
+}  // namespace korvale

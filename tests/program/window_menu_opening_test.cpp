@@ -1,0 +1,139 @@
+#include <string>
+#include <vector>
+
+#include "platform/win32_constants.h"
+#include "tests/program/korvale_world.h"
+
+namespace korvale {
+namespace {
+
+class WindowMenuOpeningTest : public KorvaleWorld {
+ protected:
+  KorvaleCopy& StartedAfter(WindowHandle window) {
+    KorvaleCopy& korvale = StartedCopy();
+    WorkIn(window);
+    WorkIn(korvale.Handle());
+    return korvale;
+  }
+};
+
+TEST_F(WindowMenuOpeningTest, ATitleIsShortenedBeforeItsAmpersandsAreDoubled) {
+  const std::string thirty = "&&&&&&&&&&&&&&& 78901234567890";
+  const WindowHandle alpha = Open(thirty);
+  KorvaleCopy& korvale = StartedAfter(alpha);
+  std::vector<ShownMenuItem> items = korvale.WindowMenuItems();
+  EXPECT_EQ(items[1].caption, "[" + thirty + "]  Always On Top");
+  EXPECT_EQ(items.back().caption, "Add  [" + thirty + "]  to Window menu...");
+
+  desktop.Rename(alpha, thirty + "1");
+  items = korvale.WindowMenuItems();
+  EXPECT_EQ(items[1].caption, "[&&&&&&&&&&&&&&& 78901234567...]  Always On Top");
+  EXPECT_EQ(items.back().caption, "Add  [&&&&&&&&&&&&&&& 78901234567...]  to Window menu...");
+}
+
+TEST_F(WindowMenuOpeningTest, FollowsTheTitleOfThePreviousWindow) {
+  const WindowHandle alpha = Open("Счёт");
+  KorvaleCopy& korvale = StartedAfter(alpha);
+  EXPECT_EQ(korvale.WindowMenuItems()[1].caption, "[Счёт]  Always On Top");
+  desktop.Rename(alpha, "会計 🧮");
+  EXPECT_EQ(korvale.WindowMenuItems()[1].caption, "[会計 🧮]  Always On Top");
+  EXPECT_EQ(korvale.TargetWindow(), "会計 🧮");
+}
+
+TEST_F(WindowMenuOpeningTest, KnowsTheWindowInFrontBeforeTheNextTick) {
+  const WindowHandle alpha = Open("Alpha");
+  WorkIn(Open("Beta"));
+  KorvaleCopy& korvale = StartedCopy();
+  WorkIn(alpha);
+  desktop.UserActivates(korvale.Handle());
+  korvale.user.ChooseMenu(korvale.Handle(), {"Window", "0  Previous Window"});
+  EXPECT_EQ(Front(), "Alpha");
+}
+
+TEST_F(WindowMenuOpeningTest, TheMinimizedWindowInFrontIsRestoredAndNothingElse) {
+  const WindowHandle alpha = Open("Alpha");
+  KorvaleCopy& korvale = StartedAfter(alpha);
+  korvale.TagPrevious();
+  WorkIn(Open("Beta"));
+  WorkIn(alpha);
+  const PreviousWindow before = korvale.Parts().previous;
+  desktop.UserMinimizes(alpha);
+  desktop.SetForegroundWindow(alpha);
+  log.Clear();
+
+  PressTag(1);
+
+  EXPECT_FALSE(desktop.IsIconic(alpha));
+  EXPECT_EQ(log.CallsOf("ShowWindow"), std::vector<std::string>{"ShowWindow(Alpha, SW_RESTORE)"});
+  EXPECT_TRUE(log.CallsOf("SetForegroundWindow").empty());
+  EXPECT_EQ(korvale.Parts().previous.current, before.current);
+  EXPECT_EQ(korvale.Parts().previous.alternate, before.alternate);
+}
+
+TEST_F(WindowMenuOpeningTest, AnUnresolvedTagIsSearchedForEvenWhenNothingIsInFront) {
+  KorvaleCopy& korvale = StartedAfter(Open("Clock", {.children = 0}));
+  korvale.TagPrevious();
+  desktop.LoseForeground();
+  PressTag(1);
+  EXPECT_EQ(Front(), "Clock");
+}
+
+TEST_F(WindowMenuOpeningTest, EverySelectionIsStoredAlsoAFailedOne) {
+  const WindowHandle alpha = Open("Alpha");
+  KorvaleCopy& korvale = StartedAfter(alpha);
+  korvale.TagPrevious();
+  WorkIn(Open("Beta"));
+  for (const bool enabled : {true, false}) {
+    desktop.SetEnabled(alpha, enabled);
+    WorkIn(Open("Beta"));
+    if (!enabled) korvale.host.AnswerNext(win32::kIdOk);
+    log.Clear();
+    PressTag(1);
+    EXPECT_FALSE(log.CallsOf("SaveSetting(Korvale - Work, ParentWindowList").empty()) << enabled;
+  }
+}
+
+TEST_F(WindowMenuOpeningTest, TimersRestWhileAnEntrySelectsItsWindow) {
+  KorvaleCopy& korvale = StartedAfter(Open("Alpha"));
+  korvale.TagPrevious();
+  bool running = true;
+  log.WhenCalled("SetForegroundWindow(Alpha",
+                 [&] { running = korvale.Form().tmrWindow().Enabled(); });
+  korvale.user.ChooseMenu(korvale.Handle(), {"Window", "1  Alpha"});
+  EXPECT_FALSE(running);
+  EXPECT_TRUE(korvale.Form().tmrWindow().Enabled());
+}
+
+TEST_F(WindowMenuOpeningTest, ASelectionShowsTheNewTargetAtOnce) {
+  KorvaleCopy& korvale = StartedAfter(Open("Alpha", {.className = "A"}));
+  korvale.TagPrevious();
+  WorkIn(Open("Beta"));
+  hotKeys.Press(win32::kModAlt, '1');
+  EXPECT_EQ(korvale.TargetWindow(), "Alpha");
+  EXPECT_EQ(korvale.TargetClass(), "A");
+}
+
+TEST_F(WindowMenuOpeningTest, AHotKeyLeavesAnEntryWithoutTheMarkOfAnAccessKeyAlone) {
+  KorvaleCopy& korvale = StartedAfter(Open("Alpha"));
+  korvale.TagPrevious();
+  korvale.Parts().tags.mnuWindowParentList.Find(1)->caption = "1  Alpha";
+  WorkIn(Open("Beta"));
+  PressTag(1);
+  EXPECT_EQ(Front(), "Beta");
+}
+
+TEST_F(WindowMenuOpeningTest, ATitleOfAmpersandsIsShownAsItIsInTheMessages) {
+  const WindowHandle alpha = Open("Q&A");
+  KorvaleCopy& korvale = StartedAfter(alpha);
+  korvale.TagPrevious();
+  WorkIn(Open("Beta"));
+  desktop.Close(alpha);
+  korvale.host.WhenMessageBox([](const ShownMessage& box) {
+    EXPECT_EQ(box.text, "Window:  [Q&A]  is not open.");
+    return win32::kIdOk;
+  });
+  PressTag(1);
+}
+
+}  // namespace
+}  // namespace korvale
