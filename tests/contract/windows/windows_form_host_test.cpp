@@ -65,6 +65,13 @@ TEST_F(WindowsFormHostTest, StylesFollowTheDesign) {
   EXPECT_FALSE(HasStyle(strip, GWL_STYLE, DS_MODALFRAME));
 }
 
+TEST_F(WindowsFormHostTest, TheFormItselfDecidesHowSmallItIs) {
+  strip_.Show();
+  const TwipsRect place = {900, 600, 750, 300};
+  strip_.SetPlace(place);
+  EXPECT_EQ(User().Place(strip_.Handle()), place);
+}
+
 TEST_F(WindowsFormHostTest, TheEndOfTheSessionClosesTheMainWindow) {
   form_.Load();
   EXPECT_EQ(SendMessageW(Hwnd(), WM_QUERYENDSESSION, 0, 0), TRUE);
@@ -128,6 +135,57 @@ TEST_F(WindowsFormHostTest, AnOpenListShowsNineEntries) {
   EXPECT_LE(last.bottom, list.bottom);
   EXPECT_EQ(SendMessageW(info.hwndList, LB_GETTOPINDEX, 0, 0), 0);
   SendMessageW(combo, CB_SHOWDROPDOWN, FALSE, 0);
+}
+
+TEST_F(WindowsFormHostTest, AnOpenListKeepsEnterAndEscToItself) {
+  ShowForm();
+  std::vector<int> keys;
+  form_.onKeyDown = [&](int& key, unsigned) { keys.push_back(key); };
+  FocusOn("cboSize");
+  Press(VK_F4);
+  Press(VK_ESCAPE);
+  Press(VK_F4);
+  Press(VK_RETURN);
+  EXPECT_EQ(keys, (std::vector<int>{VK_F4, VK_F4}));
+}
+
+TEST_F(WindowsFormHostTest, AChoiceThatChangesAsAListClosesIsTold) {
+  ShowForm();
+  const HWND combo = Control("cboSize");
+  SendMessageW(combo, CB_SETCURSEL, 2, 0);
+  SendMessageW(Hwnd(), WM_COMMAND, MAKEWPARAM(Id("cboSize"), CBN_CLOSEUP),
+               reinterpret_cast<LPARAM>(combo));
+  User().LetPass(20);
+  EXPECT_EQ(form_.Find("cboSize").ListIndex(), 2);
+  EXPECT_EQ(form_.Take(), Lines{"click cboSize"});
+}
+
+TEST_F(WindowsFormHostTest, TextOfTheModelIsNotToldAsTyped) {
+  ShowForm();
+  const HWND box = Control("txtName");
+  SendMessageW(box, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"typed"));
+  EXPECT_EQ(form_.Find("txtName").Text(), "typed");
+  form_.onClick = [&](const std::string&) { form_.Find("txtName").SetText("by code"); };
+  SendMessageW(box, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"typed again"));
+  EXPECT_EQ(form_.Take(), (Lines{"click txtName", "click txtName"}));
+}
+
+TEST_F(WindowsFormHostTest, ATextBoxGetsNoCharacterThatItWouldBeepAt) {
+  ShowForm();
+  form_.Find("cmdGo").SetEnabled(false);
+  form_.Find("cmdClose").SetEnabled(false);
+  std::vector<WPARAM> characters;
+  const auto watch = [](HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                        DWORD_PTR data) -> LRESULT {
+    if (message == WM_CHAR) reinterpret_cast<std::vector<WPARAM>*>(data)->push_back(wParam);
+    return DefSubclassProc(window, message, wParam, lParam);
+  };
+  SetWindowSubclass(Control("txtName"), watch, 0, reinterpret_cast<DWORD_PTR>(&characters));
+  Press(VK_RETURN);
+  Press(VK_ESCAPE);
+  Type("a");
+  EXPECT_EQ(characters, std::vector<WPARAM>{'a'});
+  RemoveWindowSubclass(Control("txtName"), watch, 0);
 }
 
 TEST_F(WindowsFormHostTest, AKeyTakenWithAltDoesNotOpenTheMenu) {

@@ -181,7 +181,13 @@ void WindowsUser::ClickAt(POINT at) {
 void WindowsUser::MoveTo(POINT at) {
   // An earlier movement may still be on its way and take the mouse back.
   constexpr int kQuietTimes = 3;
-  for (int there = 0; there < kQuietTimes; Settle()) there = MovePointer(at) ? there + 1 : 0;
+  constexpr int kTries = 100;
+  int there = 0;
+  for (int tries = 0; there < kQuietTimes && tries < kTries; ++tries) {
+    there = MovePointer(at) ? there + 1 : 0;
+    Settle();
+  }
+  EXPECT_EQ(there, kQuietTimes) << "The mouse does not get to " << at.x << ", " << at.y;
 }
 
 void WindowsUser::Click(WindowHandle hwnd, int control) {

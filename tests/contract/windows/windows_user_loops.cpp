@@ -11,6 +11,7 @@ namespace korvale {
 namespace {
 
 constexpr DWORD kQuietMilliseconds = 20;
+constexpr ULONGLONG kLongestMilliseconds = 5000;
 constexpr int kPatience = 200;
 constexpr int kMessageText = 0xFFFF;
 
@@ -118,9 +119,10 @@ bool WindowsUser::ClickEntry(HWND window, const std::string& caption) {
 
 void WindowsUser::Settle() {
   const int outer = std::exchange(settlingIn_, host_->loops);
+  const ULONGLONG end = GetTickCount64() + kLongestMilliseconds;
   do {
     host_->DoEvents();
-  } while (!host_->QuitPosted() &&
+  } while (!host_->QuitPosted() && GetTickCount64() < end &&
            MsgWaitForMultipleObjects(0, nullptr, FALSE, kQuietMilliseconds,
                                      QS_ALLINPUT & ~QS_TIMER) == WAIT_OBJECT_0);
   settlingIn_ = outer;
