@@ -46,6 +46,7 @@ TEST_F(AddWindowTest, WidensTheListOfTagsWhileItIsOpen) {
   OpenDialogFor("Notes");
   PickTag(1);
   const Twips width = TagWidth();
+  EXPECT_EQ(width, 900);
   user_.OpenList(dialog_.Handle(), Id(dialog_, "cboWindow"));
   EXPECT_EQ(TagWidth(), 4785);
   EXPECT_FALSE(RemoveEnabled());
