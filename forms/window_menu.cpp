@@ -203,17 +203,14 @@ void WindowMenu::mnuWindowPreviousWindowAlwaysOnTop_Click() {
 
 void WindowMenu::mnuWindowMinimizeAll_Click() {
   if (!windowSearch) {
-    const TimerPause pause(parts_.mainWindow);
-    parts_.enumeration.EnumWindows(kMinimizeAll);
+    parts_.actions.MinimizeAll();
   }
   parts_.refreshMenus();
 }
 
 void WindowMenu::mnuWindowRestoreAll_Click() {
   if (!windowSearch) {
-    const TimerPause pause(parts_.mainWindow);
-    parts_.enumeration.EnumWindows(kRestoreAll);
-    parts_.commands.SetForegroundWindow(parts_.mainWindow.MainHandle());
+    parts_.actions.RestoreAll();
   }
   parts_.refreshMenus();
 }

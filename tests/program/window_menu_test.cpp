@@ -369,55 +369,6 @@ TEST_F(WindowMenuTest, TheMainWindowItselfCanBeTagged) {
   EXPECT_EQ(korvale.Parts().previous.current, before.current);
 }
 
-TEST_F(WindowMenuTest, MinimizeAllAndRestoreAllWorkOnTheWholeDesktop) {
-  const WindowHandle alpha = Open("Alpha");
-  const WindowHandle beta = Open("Beta");
-  KorvaleCopy& korvale = StartedAfter(beta);
-  korvale.user.ChooseMenu(korvale.Handle(), {"Window", "Minimize All"});
-  EXPECT_TRUE(desktop.IsIconic(alpha));
-  EXPECT_TRUE(desktop.IsIconic(beta));
-  desktop.UserRestores(korvale.Handle());
-  LetTick();
-  korvale.user.ChooseMenu(korvale.Handle(), {"Window", "Restore All"});
-  EXPECT_FALSE(desktop.IsIconic(alpha));
-  EXPECT_FALSE(desktop.IsIconic(beta));
-  EXPECT_EQ(Front(), "Korvale - Work");
-}
-
-TEST_F(WindowMenuTest, AlwaysOnTopOfTheMainWindowTogglesAndIsStored) {
-  KorvaleCopy& korvale = StartedAfter(Open("Alpha"));
-  korvale.user.ChooseMenu(korvale.Handle(), {"Window", "Korvale  Always On Top"});
-  EXPECT_TRUE(korvale.WindowMenuItems().front().checked);
-  EXPECT_EQ(store.GetSetting("Korvale - Work", "Startup", "AlwaysOnTop"), "True");
-  korvale.user.ChooseMenu(korvale.Handle(), {"Window", "Korvale  Always On Top"});
-  EXPECT_FALSE(korvale.WindowMenuItems().front().checked);
-  EXPECT_EQ(store.GetSetting("Korvale - Work", "Startup", "AlwaysOnTop"), "False");
-}
-
-TEST_F(WindowMenuTest, AlwaysOnTopOfThePreviousWindowComesBackToTheMainWindow) {
-  const WindowHandle alpha = Open("Alpha");
-  KorvaleCopy& korvale = StartedAfter(alpha);
-  log.Clear();
-  korvale.user.ChooseMenu(korvale.Handle(), {"Window", "[Alpha]  Always On Top"});
-  EXPECT_EQ(log.CallsOf("SetWindowPos"),
-            std::vector<std::string>{"SetWindowPos(Alpha, HWND_TOPMOST, 0, 0, 0, 0, 3)"});
-  EXPECT_EQ(Front(), "Korvale - Work");
-  EXPECT_TRUE(korvale.WindowMenuItems()[1].checked);
-  korvale.user.ChooseMenu(korvale.Handle(), {"Window", "[Alpha]  Always On Top"});
-  EXPECT_FALSE(korvale.WindowMenuItems()[1].checked);
-}
-
-TEST_F(WindowMenuTest, AlwaysOnTopOfAPreviousWindowThatCannotBeActivatedOnlySaysSo) {
-  const WindowHandle alpha = Open("Alpha");
-  KorvaleCopy& korvale = StartedAfter(alpha);
-  desktop.SetEnabled(alpha, false);
-  ExpectMessage(korvale, "The window operation was not successful.  Please try again.",
-                win32::kMbSetForeground);
-  korvale.Form().TheWindowMenu().mnuWindowPreviousWindowAlwaysOnTop_Click();
-  EXPECT_FALSE(korvale.Form().Menu("mnuWindowPreviousWindowAlwaysOnTop").checked);
-  EXPECT_TRUE(log.CallsOf("SetWindowPos(Alpha").empty());
-}
-
 TEST_F(WindowMenuTest, EveryCommandIsStoredAtOnce) {
   const WindowHandle alpha = Open("Alpha");
   KorvaleCopy& korvale = StartedAfter(alpha);

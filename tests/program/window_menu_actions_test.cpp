@@ -1,0 +1,161 @@
+#include "platform/win32_constants.h"
+#include "tests/program/korvale_world.h"
+
+namespace korvale {
+namespace {
+
+using Calls = std::vector<std::string>;
+
+class WindowMenuActionsTest : public KorvaleWorld {
+ protected:
+  /// A started copy; the user has come from `window` to its main window.
+  KorvaleCopy& StartedAfter(WindowHandle window) {
+    KorvaleCopy& korvale = StartedCopy();
+    log.NameWindow(korvale.Handle(), "Korvale");
+    WorkIn(window);
+    WorkIn(korvale.Handle());
+    log.Clear();
+    return korvale;
+  }
+
+  /// The calls that changed the desktop, without those on the settings and the forms.
+  Calls DesktopCalls() {
+    Calls calls;
+    for (const std::string& call : log.Calls()) {
+      if (call.starts_with("ShowWindow") || call.starts_with("SetForegroundWindow") ||
+          call.starts_with("SetWindowPos")) {
+        calls.push_back(call);
+      }
+    }
+    return calls;
+  }
+
+  bool Saved() { return !log.CallsOf("SaveSetting").empty(); }
+};
+
+TEST_F(WindowMenuActionsTest, MinimizeAllAndRestoreAllWorkOnTheWholeDesktop) {
+  const WindowHandle alpha = Open("Alpha");
+  const WindowHandle beta = Open("Beta");
+  KorvaleCopy& korvale = StartedAfter(beta);
+  korvale.user.ChooseMenu(korvale.Handle(), {"Window", "Minimize All"});
+  EXPECT_TRUE(desktop.IsIconic(alpha));
+  EXPECT_TRUE(desktop.IsIconic(beta));
+  desktop.UserRestores(korvale.Handle());
+  LetTick();
+  korvale.user.ChooseMenu(korvale.Handle(), {"Window", "Restore All"});
+  EXPECT_FALSE(desktop.IsIconic(alpha));
+  EXPECT_FALSE(desktop.IsIconic(beta));
+  EXPECT_EQ(Front(), "Korvale - Work");
+}
+
+TEST_F(WindowMenuActionsTest, AlwaysOnTopOfTheMainWindowTogglesAndIsStored) {
+  KorvaleCopy& korvale = StartedAfter(Open("Alpha"));
+  korvale.user.ChooseMenu(korvale.Handle(), {"Window", "Korvale  Always On Top"});
+  EXPECT_TRUE(korvale.WindowMenuItems().front().checked);
+  EXPECT_EQ(log.CallsOf("SetWindowPos").front(),
+            "SetWindowPos(Korvale, HWND_TOPMOST, 0, 0, 0, 0, 3)");
+  EXPECT_EQ(store.GetSetting("Korvale - Work", "Startup", "AlwaysOnTop"), "True");
+  log.Clear();
+  korvale.user.ChooseMenu(korvale.Handle(), {"Window", "Korvale  Always On Top"});
+  EXPECT_FALSE(korvale.WindowMenuItems().front().checked);
+  EXPECT_EQ(log.CallsOf("SetWindowPos").front(),
+            "SetWindowPos(Korvale, HWND_NOTOPMOST, 0, 0, 0, 0, 3)");
+  EXPECT_EQ(store.GetSetting("Korvale - Work", "Startup", "AlwaysOnTop"), "False");
+}
+
+TEST_F(WindowMenuActionsTest, AlwaysOnTopOfThePreviousWindowComesBackToTheMainWindow) {
+  const WindowHandle alpha = Open("Alpha");
+  KorvaleCopy& korvale = StartedAfter(alpha);
+  log.Clear();
+  korvale.user.ChooseMenu(korvale.Handle(), {"Window", "[Alpha]  Always On Top"});
+  EXPECT_EQ(log.CallsOf("SetWindowPos"),
+            std::vector<std::string>{"SetWindowPos(Alpha, HWND_TOPMOST, 0, 0, 0, 0, 3)"});
+  EXPECT_EQ(Front(), "Korvale - Work");
+  EXPECT_TRUE(korvale.WindowMenuItems()[1].checked);
+  log.Clear();
+  korvale.user.ChooseMenu(korvale.Handle(), {"Window", "[Alpha]  Always On Top"});
+  EXPECT_EQ(DesktopCalls(), (Calls{"SetForegroundWindow(Alpha)",
+                                   "SetWindowPos(Alpha, HWND_NOTOPMOST, 0, 0, 0, 0, 3)",
+                                   "SetForegroundWindow(Korvale)"}));
+  EXPECT_FALSE(korvale.WindowMenuItems()[1].checked);
+}
+
+TEST_F(WindowMenuActionsTest, AlwaysOnTopOfAPreviousWindowThatCannotBeActivatedOnlySaysSo) {
+  const WindowHandle alpha = Open("Alpha");
+  KorvaleCopy& korvale = StartedAfter(alpha);
+  desktop.SetEnabled(alpha, false);
+  korvale.host.WhenMessageBox([](const ShownMessage& box) {
+    EXPECT_EQ(box.text, "The window operation was not successful.  Please try again.");
+    EXPECT_EQ(box.title, "Korvale");
+    EXPECT_EQ(box.style, win32::kMbSetForeground);
+    return win32::kIdOk;
+  });
+  log.Clear();
+  korvale.Form().TheWindowMenu().mnuWindowPreviousWindowAlwaysOnTop_Click();
+  EXPECT_FALSE(korvale.Form().Menu("mnuWindowPreviousWindowAlwaysOnTop").checked);
+  EXPECT_TRUE(log.CallsOf("SetWindowPos").empty());
+  EXPECT_EQ(korvale.host.Messages().size(), 1U);
+  EXPECT_TRUE(Saved());
+}
+
+TEST_F(WindowMenuActionsTest, AlwaysOnTopOfThePreviousWindowStaysThereWithoutTheFocusTag) {
+  const WindowHandle alpha = Open("Alpha");
+  KorvaleCopy& korvale = StartedAfter(alpha);
+  WorkIn(alpha);
+  WorkIn(Open("Beta"));
+  log.Clear();
+  korvale.Form().TheWindowMenu().mnuWindowPreviousWindowAlwaysOnTop_Click();
+  EXPECT_EQ(DesktopCalls(), Calls{"SetWindowPos(Beta, HWND_TOPMOST, 0, 0, 0, 0, 3)"});
+  EXPECT_EQ(Front(), "Beta");
+  EXPECT_TRUE(Saved());
+}
+
+TEST_F(WindowMenuActionsTest, MinimizeAllMinimizesFromTheTopWithTheTimersStopped) {
+  Open("Lower");
+  KorvaleCopy& korvale = StartedAfter(Open("Upper"));
+  bool running = true;
+  log.WhenCalled("ShowWindow(Upper", [&] { running = korvale.Form().tmrWindow().Enabled(); });
+  korvale.Form().TheWindowMenu().mnuWindowMinimizeAll_Click();
+  EXPECT_EQ(DesktopCalls(),
+            (Calls{"ShowWindow(Korvale, SW_MINIMIZE)", "ShowWindow(Upper, SW_MINIMIZE)",
+                   "ShowWindow(Lower, SW_MINIMIZE)"}));
+  EXPECT_FALSE(running);
+  EXPECT_TRUE(korvale.Form().tmrWindow().Enabled());
+  EXPECT_TRUE(Saved());
+}
+
+TEST_F(WindowMenuActionsTest, RestoreAllEndsInKorvaleBeforeTheTimersRunAgain) {
+  const WindowHandle alpha = Open("Alpha");
+  KorvaleCopy& korvale = StartedAfter(alpha);
+  desktop.UserMinimizes(alpha);
+  log.Clear();
+  bool running = true;
+  log.WhenCalled("SetForegroundWindow", [&] { running = korvale.Form().tmrWindow().Enabled(); });
+  korvale.Form().TheWindowMenu().mnuWindowRestoreAll_Click();
+  EXPECT_EQ(DesktopCalls(),
+            (Calls{"ShowWindow(Alpha, SW_RESTORE)", "SetForegroundWindow(Korvale)"}));
+  EXPECT_FALSE(running);
+  EXPECT_TRUE(korvale.Form().tmrWindow().Enabled());
+  EXPECT_TRUE(Saved());
+}
+
+TEST_F(WindowMenuActionsTest, WhileASearchIsForbiddenNothingIsMinimizedOrRestored) {
+  const WindowHandle alpha = Open("Alpha");
+  const WindowHandle beta = Open("Beta");
+  KorvaleCopy& korvale = StartedAfter(beta);
+  desktop.UserMinimizes(alpha);
+  WindowMenu& menu = korvale.Form().TheWindowMenu();
+  menu.windowSearch = true;
+  log.Clear();
+  menu.mnuWindowMinimizeAll_Click();
+  EXPECT_TRUE(Saved());
+  log.Clear();
+  menu.mnuWindowRestoreAll_Click();
+  EXPECT_TRUE(Saved());
+  EXPECT_EQ(DesktopCalls(), Calls{});
+  EXPECT_TRUE(desktop.IsIconic(alpha));
+  EXPECT_FALSE(desktop.IsIconic(beta));
+}
+
+}  // namespace
+}  // namespace korvale
