@@ -38,14 +38,15 @@ WindowHandle DesktopBridge::Create(const FormState& form, int children) {
   if (owner_ == 0) {
     NewWindow owner;
     owner.className = kOwnerClass;
+    owner.style = fakes::kWsPopup;
     owner.visible = false;
     owner.children = 0;
     owner.process = process_;
-    owner_ = windows_->Create("", owner);
+    owner_ = windows_->Create("Korvale", owner);
   }
   NewWindow window;
   window.className = "Korvale." + form.name;
-  window.owner = owner_;
+  window.owner = OwnerOf(form);
   window.style = StyleOf(form);
   window.exStyle = form.inTaskbar ? kWsExAppWindow : 0;
   window.visible = false;
@@ -54,6 +55,14 @@ WindowHandle DesktopBridge::Create(const FormState& form, int children) {
   const WindowHandle hwnd = windows_->Create(form.caption, window);
   states_[hwnd] = ShowState::kNormal;
   return hwnd;
+}
+
+WindowHandle DesktopBridge::OwnerOf(const FormState& form) const {
+  if (form.inTaskbar) return owner_;
+  for (const auto& [hwnd, state] : states_) {
+    if ((windows_->Find(hwnd)->exStyle & kWsExAppWindow) != 0) return hwnd;
+  }
+  return owner_;
 }
 
 WindowHandle DesktopBridge::OpenBox(WindowHandle owner, const std::string& title) {

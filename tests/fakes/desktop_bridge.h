@@ -9,7 +9,7 @@
 namespace korvale {
 
 /// Puts the headless host's windows on a fake desktop, among those of other programs. As on
-/// Windows, a hidden window of the program owns its forms.
+/// Windows, a hidden window of the program owns its form in the taskbar, which owns the others.
 class DesktopBridge : public DesktopWindows, private DesktopObserver {
  public:
   static constexpr const char* kOwnerClass = "Korvale.Owner";
@@ -20,7 +20,7 @@ class DesktopBridge : public DesktopWindows, private DesktopObserver {
   DesktopBridge(const DesktopBridge&) = delete;
   DesktopBridge& operator=(const DesktopBridge&) = delete;
 
-  /// The hidden owner of the forms; made with the first form.
+  /// The hidden owner; made with the first form.
   WindowHandle Owner() const { return owner_; }
 
   void SetListener(DesktopListener* listener) override { listener_ = listener; }
@@ -41,6 +41,7 @@ class DesktopBridge : public DesktopWindows, private DesktopObserver {
   WindowHandle Active() const override;
 
  private:
+  WindowHandle OwnerOf(const FormState& form) const;
   void OnForegroundChanged(WindowHandle foreground) override;
   void OnShown(WindowHandle hwnd) override;
 
