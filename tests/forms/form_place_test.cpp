@@ -99,6 +99,7 @@ TEST_F(FormPlaceTest, WhatTheUserDragsCountsTheClassicFrameToo) {
 TEST_F(FormPlaceTest, AStateSetBeforeShowingHoldsWhenShown) {
   form_.Load();
   form_.SetWindowState(ShowState::kMinimized);
+  EXPECT_FALSE(user_.IsShown(form_.Handle()));
   form_.Show();
   EXPECT_EQ(log_.Calls().back(), "ShowWindow(frmContract, SW_SHOWMINNOACTIVE)");
   EXPECT_EQ(form_.activations, 0);

@@ -122,6 +122,16 @@ TEST_F(MenuItemArrayTest, ElementsAreVisitedInTheOrderOfTheirIndexes) {
   EXPECT_EQ(visited, (std::vector<int>{0, 1, 3}));
 }
 
+TEST(MenuItemArrayOrderTest, IndexesAscendWhateverTheDesign) {
+  static constexpr std::array kUnsorted = {
+      MenuRow{0, "mnuMenu", -1, "Menu"},
+      MenuRow{1, "mnuList", 3, "3"},
+      MenuRow{1, "mnuList", 0, "0"},
+  };
+  MenuBar bar(kUnsorted);
+  EXPECT_EQ(MenuItemArray(*bar.Find("mnuMenu"), "mnuList").Indexes(), (std::vector<int>{0, 3}));
+}
+
 TEST_F(MenuItemArrayTest, AnArrayWithoutElementsGrowsAtTheEndOfItsMenu) {
   const MenuItemArray other(window_, "mnuOther");
   EXPECT_TRUE(other.Indexes().empty());
