@@ -70,12 +70,36 @@ class WindowsDesktopUnderTest final : public DesktopUnderTest {
     thread_.Run([&] { SetWindowTextW(ToHwnd(hwnd), ToUtf16(title).c_str()); });
   }
   void Settle() override {
-    // What an order sets off may post the next one.
+    // What an order sets off may post the next one, and the order of the windows comes last.
     constexpr int kRounds = 3;
-    for (int round = 0; round < kRounds; ++round) thread_.Run([] {});
+    constexpr ULONGLONG kLongestMilliseconds = 1000;
+    const ULONGLONG end = GetTickCount64() + kLongestMilliseconds;
+    do {
+      for (int round = 0; round < kRounds; ++round) thread_.Run([] {});
+    } while (!ForegroundIsOnTop() && GetTickCount64() < end);
   }
 
  private:
+  static bool IsTopmost(HWND hwnd) {
+    return (GetWindowLongW(hwnd, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
+  }
+
+  /// No visible window of the tests lies above the one in the foreground that belongs below it.
+  bool ForegroundIsOnTop() {
+    const HWND front = GetForegroundWindow();
+    if (!opened_.contains(front) || IsWindowVisible(front) == FALSE) return true;
+    HWND top = nullptr;
+    api_.EnumWindows([&](WindowHandle each) {
+      const HWND hwnd = ToHwnd(each);
+      const bool comparable = opened_.contains(hwnd) && IsWindowVisible(hwnd) != FALSE &&
+                              IsTopmost(hwnd) == IsTopmost(front) &&
+                              GetWindow(hwnd, GW_OWNER) != front;
+      if (comparable) top = hwnd;
+      return top == nullptr;
+    });
+    return top == front;
+  }
+
   WindowsWindowApi api_;
   WindowThread thread_;
   std::set<HWND> opened_;
