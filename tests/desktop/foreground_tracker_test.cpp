@@ -124,10 +124,13 @@ TEST_F(ForegroundTracking, NoForegroundChangesNothing) {
 }
 
 TEST_F(ForegroundTracking, HiddenForegroundChangesNothing) {
-  desktop.UserActivates(alpha);
-  desktop.Windows().Find(alpha)->visible = false;
+  WorkIn(alpha);
+  WorkIn(beta);
+  desktop.UserActivates(gamma);
+  desktop.Windows().Find(gamma)->visible = false;
   tracker.tmrWindow_Timer();
-  EXPECT_EQ(previous.current, WindowTriple{});
+  EXPECT_EQ(previous.current, Triple(beta));
+  EXPECT_EQ(previous.alternate, Triple(alpha));
 }
 
 TEST_F(ForegroundTracking, SameForegroundChangesNothing) {

@@ -204,7 +204,7 @@ TEST_F(AllWindows, RestoreAllEndsInTheMainWindow) {
   desktop.UserMinimizes(beta);
   actions.RestoreAll();
   const Calls calls = log.Take();
-  EXPECT_EQ(calls.size(), 5U);
+  ASSERT_EQ(calls.size(), 5U);
   EXPECT_EQ(calls.front(), "udmTimersEnabled(false)");
   EXPECT_EQ(calls[3], "SetForegroundWindow(Main)");
   EXPECT_EQ(calls.back(), "udmTimersEnabled(true)");
