@@ -1,5 +1,6 @@
-# Sets KORVALE_ICON to the program's icon: drawn from resources/korvale.svg where the tools for it
-# are installed, otherwise the drawing that is kept beside it. The target korvale_icon draws it.
+# Sets KORVALE_ICON to the program's icon and KORVALE_POINTER to its mouse pointer for customizing
+# colours: drawn from resources/korvale.svg and resources/colors.svg where the tools for it are
+# installed, otherwise the drawings that are kept beside them. The target korvale_icon draws both.
 
 find_program(KORVALE_RSVG rsvg-convert)
 find_program(KORVALE_ICOTOOL icotool)
@@ -24,8 +25,19 @@ if(KORVALE_RSVG AND KORVALE_ICOTOOL)
     OUTPUT ${KORVALE_ICON}
     COMMAND ${KORVALE_ICOTOOL} -c -o ${KORVALE_ICON} ${small} --raw=${large} --raw=${huge}
     DEPENDS ${pictures})
-  add_custom_target(korvale_icon DEPENDS ${KORVALE_ICON})
+
+  # The hot spot is the middle of the circle.
+  set(pointer_drawing ${PROJECT_SOURCE_DIR}/resources/colors.svg)
+  set(pointer_picture ${PROJECT_BINARY_DIR}/colors.png)
+  set(KORVALE_POINTER ${PROJECT_BINARY_DIR}/colors.cur)
+  add_custom_command(
+    OUTPUT ${KORVALE_POINTER}
+    COMMAND ${KORVALE_RSVG} -w 32 -h 32 -o ${pointer_picture} ${pointer_drawing}
+    COMMAND ${KORVALE_ICOTOOL} -c --cursor -X 16 -Y 16 -o ${KORVALE_POINTER} ${pointer_picture}
+    DEPENDS ${pointer_drawing})
+  add_custom_target(korvale_icon DEPENDS ${KORVALE_ICON} ${KORVALE_POINTER})
 else()
   set(KORVALE_ICON ${PROJECT_SOURCE_DIR}/resources/korvale.ico)
+  set(KORVALE_POINTER ${PROJECT_SOURCE_DIR}/resources/colors.cur)
   add_custom_target(korvale_icon)
 endif()
