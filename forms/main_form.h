@@ -8,6 +8,7 @@
 #include "app/core/identity.h"
 #include "desktop/main_window.h"
 #include "forms/about_form.h"
+#include "forms/color_customizing.h"
 #include "forms/form.h"
 #include "forms/get_window_form.h"
 #include "forms/main_parts.h"
@@ -16,6 +17,7 @@
 #include "forms/options_owner.h"
 #include "forms/tips.h"
 #include "forms/wait_window_form.h"
+#include "forms/web_pages.h"
 #include "forms/window_menu.h"
 #include "hotkeys/hot_key_actions.h"
 #include "platform/platform.h"
@@ -71,11 +73,13 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   void mnuToolsOptions_Click();
   void mnuToolsToggleHotKeys_Click();
   void mnuFileExit_Click();
-  void mnuHelpHomePage_Click();
+  /// Opens a page of the web site.
+  void mnuHelpWeb_Click(WebPage page);
   void mnuHelpAbout_Click();
   void mnuHelpDisplayTips_Click();
   void mnuViewMenu_Click();
   void mnuViewWindowInfo_Click();
+  void mnuViewCustomizeColors_Click();
   void mnuViewDefaultSettingsWindowInfoColor_Click();
 
   // MainWindow
@@ -110,7 +114,7 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   MessageBoxes& Messages() override { return parts_.messages; }
   /// Shows the colour dialog; the chosen colour also becomes LastColorSelected.
   std::optional<Color> udmShowColorPalette(Color initial) override;
-  void SetMousePointer(MousePointer pointer) override { platform_->host.SetCursor(pointer); }
+  void SetMousePointer(MousePointer pointer) override;
   std::int16_t OptionsTab() const override { return parts_.startup.OptionsTab; }
   void SetOptionsTab(std::int16_t tab) override { parts_.startup.OptionsTab = tab; }
   std::string ProgramTitle() const override { return parts_.identity.messageTitle; }
@@ -146,8 +150,10 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   void BindMenus();
   void BindWindowMenu();
   void ShowAddWindow(AddWindowMode mode);
-  void OpenHomePage();
+  void OpenWebPage(WebPage page);
   void RefreshToggleCaption();
+  ColorCustomizing::Parts CustomizingParts();
+  void ShowTopLevelMenus(bool shown);
   void CloseAbout();
   Twips HeightForContent() const;
   void LayOutFields();
@@ -167,6 +173,8 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   frmOptions* openOptions_ = nullptr;
   Tips tips_;
   WindowMenu windowMenu_;
+  MousePointer pointer_ = MousePointer::kDefault;
+  ColorCustomizing customizing_{CustomizingParts()};
   bool unloaded_ = false;
 };
 

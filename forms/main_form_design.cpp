@@ -8,7 +8,13 @@ namespace korvale {
 
 namespace {
 
+/// What a screen reader calls the text box that follows; nobody sees it.
+constexpr ControlRow NameOfNext(const char* name, const char* text) {
+  return {ControlKind::kLabel, name, -1, text, "", {}, "", -1, kHidden | kNoPrefix};
+}
+
 constexpr auto kControls = std::to_array<ControlRow>({
+    NameOfNext("lblWindow", "Target Window"),
     {ControlKind::kTextBox,
      "txtWindow",
      -1,
@@ -20,6 +26,7 @@ constexpr auto kControls = std::to_array<ControlRow>({
      kReadOnly,
      kDefaultTargetColor,
      kWindowTextColor},
+    NameOfNext("lblWindowClass", "Class of Target Window"),
     {ControlKind::kTextBox,
      "txtWindowClass",
      -1,
@@ -41,6 +48,7 @@ constexpr auto kMenus = std::to_array<MenuRow>({
     {1, "mnuViewMenu", -1, "&Menu"},
     {1, "mnuViewWindowInfo", -1, "&Target Window"},
     {1, "mnuViewSpace10", -1, "-"},
+    {1, "mnuViewCustomizeColors", -1, "&Customize Colors - C"},
     {1, "mnuViewDefaultSettings", -1, "&Default Settings"},
     {2, "mnuViewDefaultSettingsWindowInfoColor", -1, "&Target Window/Class Colors"},
     {1, "mnuViewSpace20", -1, "-"},
@@ -63,7 +71,9 @@ constexpr auto kMenus = std::to_array<MenuRow>({
     {0, "mnuHelp", -1, "&Help"},
     {1, "mnuHelpDisplayTips", -1, "&Display Tip Messages"},
     {1, "mnuHelpSpace10", -1, "-"},
+    {1, "mnuHelpHelp", -1, "web:  &Help"},
     {1, "mnuHelpHomePage", -1, ""},
+    {1, "mnuHelpReadme", -1, "web:  &Readme"},
     {1, "mnuHelpSpace20", -1, "-"},
     {1, "mnuHelpAbout", -1, ""},
 });

@@ -1,20 +1,24 @@
+#include <algorithm>
+
 #include "forms/main_form.h"
 #include "forms/main_form_design.h"
 #include "platform/win32_constants.h"
 #include "util/forms.h"
 #include "util/system.h"
+#include "util/text.h"
 
 namespace korvale {
 
 namespace {
 
-/// The home page that ships beside the executable.
-constexpr const char* kHomePage = "web\\index.html";
-
 constexpr const char* kOptionsForm = "frmOptions";
 
 /// Menu bar entries; the hidden menu takes them away and Alt+letter brings them back.
 constexpr const char* kTopLevelMenus[] = {"mnuFile", "mnuView", "mnuTools", "mnuWindow", "mnuHelp"};
+
+/// Menu commands during which Customize Colors stays on.
+constexpr std::string_view kCustomizingGoesOn[] = {
+    "mnuViewRemoveIndividualButtons", "mnuViewCustomizeColors", "mnuViewColorCodedButtons_SPECIAL"};
 
 }  // namespace
 
@@ -22,6 +26,7 @@ void frmMain::BindMenus() {
   WhenMenuClicked("mnuFileExit", [this](int) { mnuFileExit_Click(); });
   WhenMenuClicked("mnuViewMenu", [this](int) { mnuViewMenu_Click(); });
   WhenMenuClicked("mnuViewWindowInfo", [this](int) { mnuViewWindowInfo_Click(); });
+  WhenMenuClicked("mnuViewCustomizeColors", [this](int) { mnuViewCustomizeColors_Click(); });
   WhenMenuClicked("mnuViewDefaultSettingsWindowInfoColor",
                   [this](int) { mnuViewDefaultSettingsWindowInfoColor_Click(); });
   WhenMenuClicked("mnuViewOptions", [this](int) { mnuToolsOptions_Click(); });
@@ -29,8 +34,12 @@ void frmMain::BindMenus() {
   WhenMenuClicked("mnuToolsToggleHotKeys", [this](int) { mnuToolsToggleHotKeys_Click(); });
   WhenMenuClicked("mnuToolsOptions", [this](int) { mnuToolsOptions_Click(); });
   WhenMenuClicked("mnuHelpDisplayTips", [this](int) { mnuHelpDisplayTips_Click(); });
-  WhenMenuClicked("mnuHelpHomePage", [this](int) { mnuHelpHomePage_Click(); });
+  WhenMenuClicked("mnuHelpHelp", [this](int) { mnuHelpWeb_Click(WebPage::kHelp); });
+  WhenMenuClicked("mnuHelpHomePage", [this](int) { mnuHelpWeb_Click(WebPage::kHome); });
+  WhenMenuClicked("mnuHelpReadme", [this](int) { mnuHelpWeb_Click(WebPage::kReadme); });
   WhenMenuClicked("mnuHelpAbout", [this](int) { mnuHelpAbout_Click(); });
+  about_.SetWebSite(WebPageAddress(kWebBase, WebPage::kHome, ""),
+                    [this] { OpenWebPage(WebPage::kHome); });
 }
 
 void frmMain::BindWindowMenu() {
@@ -52,20 +61,32 @@ void frmMain::BindWindowMenu() {
 
 void frmMain::RefreshMenus(std::string_view source) {
   const bool fromMenu = source.starts_with("mnu");
-  const bool shown = source == "Form_KeyDown" || parts_.startup.Menu;
-  if (source != "Form_KeyDown") {
+  if (fromMenu && std::ranges::find(kCustomizingGoesOn, source) == std::end(kCustomizingGoesOn)) {
+    customizing_.End();
+  }
+  const bool fromKeyboard = Trim(source) == "Form_KeyDown";
+  if (!fromKeyboard) {
     Menu("mnuViewMenu").checked = parts_.startup.Menu;
   }
   Menu("mnuViewWindowInfo").checked = parts_.startup.WindowInfo;
   Menu("mnuHelpDisplayTips").checked = parts_.startup.DisplayTips;
-  for (const char* name : kTopLevelMenus) {
-    Menu(name).visible = shown;
-  }
-  SetMenuShown(shown);
+  ShowTopLevelMenus(fromKeyboard || parts_.startup.Menu);
   // A command can end while the program has already been taken down, with everything saved.
   if (fromMenu && !unloaded_) {
     udmSaveINI();
   }
+}
+
+void frmMain::ShowTopLevelMenus(bool shown) {
+  for (const char* name : kTopLevelMenus) {
+    Menu(name).visible = shown;
+  }
+  if (State().menuShown == shown) {
+    return;
+  }
+  SetMenuShown(shown);
+  // The bar takes its room from the fields or gives it back.
+  Form_Resize();
 }
 
 void frmMain::mnuFileExit_Click() { Unload(); }
@@ -94,12 +115,13 @@ void frmMain::mnuHelpAbout_Click() {
   about_.ShowAbout(*this, parts_.display);
 }
 
-void frmMain::OpenHomePage() {
-  OpenDocument(platform_->system, Handle(), parts_.identity.programFolder + kHomePage);
+void frmMain::OpenWebPage(WebPage page) {
+  OpenDocument(platform_->system, Handle(),
+               WebPageAddress(kWebBase, page, parts_.identity.programFolder));
 }
 
-void frmMain::mnuHelpHomePage_Click() {
-  OpenHomePage();
+void frmMain::mnuHelpWeb_Click(WebPage page) {
+  OpenWebPage(page);
   RefreshMenus("mnu");
 }
 

@@ -32,7 +32,8 @@ Twips frmMain::HeightForContent() const {
 }
 
 void frmMain::Form_Resize() {
-  if (!parts_.state.startUpFinished || WindowState() == ShowState::kMinimized) {
+  const bool ready = IsLoaded() && parts_.state.startUpFinished;
+  if (!ready || WindowState() == ShowState::kMinimized) {
     return;
   }
   if (parts_.startup.AlwaysOnTop) {
@@ -134,6 +135,11 @@ void frmMain::CloseAbout() {
 void frmMain::Form_KeyDown(int& key, unsigned shift) {
   CloseAbout();
   const bool alt = shift == kAlt;
+  if (key == win32::kVkF1 && shift == kNoShift) {
+    key = 0;
+    Collection().Host().SendInput(Handle(), 'H', kAlt);
+    return;
+  }
   if (alt && key == win32::kVkF4) {
     key = 0;
     mnuFileExit_Click();
@@ -146,10 +152,13 @@ void frmMain::Form_KeyDown(int& key, unsigned shift) {
 
 void frmMain::Form_MouseMove(const MouseInput&) { CloseAbout(); }
 
-void frmMain::Control_Mouse(Control&, const MouseInput& input) {
+void frmMain::Control_Mouse(Control& control, const MouseInput& input) {
   if (input.event == MouseEvent::kMove) {
     CloseAbout();
   }
+  StartupSettings& startup = parts_.startup;
+  const bool title = control.Name() == "txtWindow";
+  customizing_.Mouse(control, title ? startup.WI1BackColor : startup.WI2BackColor, input);
 }
 
 }  // namespace korvale

@@ -123,6 +123,10 @@ class FormHost {
   /// The pointer over all windows of the program; kDefault leaves it to each window.
   virtual void SetCursor(MousePointer pointer) = 0;
 
+  /// Presses and releases a key with the `shift` keys held, as the user does in this window; does
+  /// nothing while it is not in front (SendInput).
+  virtual void SendInput(WindowHandle hwnd, int virtualKey, unsigned shift) = 0;
+
   /// Dispatches messages until `done` is true or the program shall end (GetMessageW).
   virtual void RunMessageLoop(const std::function<bool()>& done) = 0;
   /// Dispatches the messages that are waiting (PeekMessageW).

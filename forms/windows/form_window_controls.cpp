@@ -84,11 +84,18 @@ LRESULT CALLBACK FormWindow::ControlProcedure(HWND hwnd, UINT message, WPARAM wP
   const int control = static_cast<int>(id);
   if (message == WM_NCDESTROY) {
     RemoveWindowSubclass(hwnd, ControlProcedure, id);
-  } else if (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) {
+  }
+  const bool mouse = message >= WM_MOUSEFIRST && message <= WM_MOUSELAST;
+  // A text box holds the mouse until it has seen the button come up; what is told may open a
+  // dialog, which needs it.
+  const bool released =
+      message == WM_LBUTTONUP || message == WM_RBUTTONUP || message == WM_MBUTTONUP;
+  if (mouse && !released) {
     alive->TellMouse(control, hwnd, message, wParam, lParam);
     if (IsWindow(hwnd) == FALSE) return 0;
   }
   const LRESULT result = DefSubclassProc(hwnd, message, wParam, lParam);
+  if (released) alive->TellMouse(control, hwnd, message, wParam, lParam);
   if (message == WM_SETFOCUS) {
     alive->events_.Tell([&](FormEvents& events) { events.OnFocusMoved(control); });
   }

@@ -42,6 +42,7 @@ class WindowsFormHost : public FormHost {
   void TrackPopupMenuEx(WindowHandle hwnd, MenuItem& menu) override;
   std::optional<Color> ChooseColorW(WindowHandle owner, Color initial) override;
   void SetCursor(MousePointer pointer) override;
+  void SendInput(WindowHandle hwnd, int virtualKey, unsigned shift) override;
   void RunMessageLoop(const std::function<bool()>& done) override;
   void DoEvents() override;
   void PostQuitMessage() override;

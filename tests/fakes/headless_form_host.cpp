@@ -237,6 +237,14 @@ TwipsRect HeadlessFormHost::AdjustWindowRectEx(const FormState& form) {
   return frame;
 }
 
+void HeadlessFormHost::SendInput(WindowHandle hwnd, int virtualKey, unsigned shift) {
+  log_->Add("SendInput(" + log_->Window(hwnd) + ", " + std::to_string(virtualKey) + ", " +
+            std::to_string(shift) + ")");
+  if (desktop_->Active() != hwnd) return;
+  if (!keyboard_) FailTest("there is no keyboard to send keys with");
+  keyboard_(hwnd, virtualKey, shift);
+}
+
 TwipsRect HeadlessFormHost::GetMonitorInfoW(WindowHandle /*hwnd*/) { return workArea_; }
 
 }  // namespace korvale

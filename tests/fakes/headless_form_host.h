@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/form_host.h"
@@ -26,6 +27,7 @@ class HeadlessFormHost : public FormHost, private DesktopListener {
  public:
   using Answer = std::function<std::int16_t(const ShownMessage&)>;
   using Choose = std::function<std::string(const std::vector<ShownMenuItem>&)>;
+  using Keyboard = std::function<void(WindowHandle hwnd, int virtualKey, unsigned shift)>;
 
   /// Both must outlive the host.
   HeadlessFormHost(DesktopWindows& desktop, CallLog& log);
@@ -43,6 +45,8 @@ class HeadlessFormHost : public FormHost, private DesktopListener {
   /// What the user does with the next colour dialog; nothing = cancels it.
   void WhenColorDialog(std::function<std::optional<Color>(Color initial)> choose);
   MousePointer Pointer() const { return pointer_; }
+  /// Gets the keys that the program sends by itself.
+  void SetKeyboard(Keyboard keyboard) { keyboard_ = std::move(keyboard); }
   /// Called when a message loop waits and nothing is queued: lets something happen, such as time
   /// pass, and returns true; false when there is nothing left, which fails the test.
   void SetIdle(std::function<bool()> idle) { idle_ = std::move(idle); }
@@ -87,6 +91,7 @@ class HeadlessFormHost : public FormHost, private DesktopListener {
   void TrackPopupMenuEx(WindowHandle hwnd, MenuItem& menu) override;
   std::optional<Color> ChooseColorW(WindowHandle owner, Color initial) override;
   void SetCursor(MousePointer pointer) override { pointer_ = pointer; }
+  void SendInput(WindowHandle hwnd, int virtualKey, unsigned shift) override;
   void RunMessageLoop(const std::function<bool()>& done) override;
   void DoEvents() override;
   void PostQuitMessage() override;
@@ -116,6 +121,7 @@ class HeadlessFormHost : public FormHost, private DesktopListener {
   MousePointer pointer_ = MousePointer::kDefault;
   std::deque<std::function<void()>> posted_;
   std::function<bool()> idle_;
+  Keyboard keyboard_;
   std::vector<ShownMessage> messages_;
   std::vector<ShownMessage> boxes_;
   TwipsRect frame_ = {45, 355, 90, 400};

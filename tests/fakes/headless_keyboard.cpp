@@ -67,11 +67,21 @@ HeadlessUser::Key HeadlessUser::KeyOfCharacter(std::string_view character, bool 
 
 void HeadlessUser::PressKey(WindowHandle hwnd, int virtualKey, unsigned shift) {
   Press(hwnd, KeyOf(virtualKey, shift));
+  PressSentKeys(hwnd);
+}
+
+void HeadlessUser::PressSentKeys(WindowHandle hwnd) {
+  while (!sentKeys_.empty()) {
+    const Key key = sentKeys_.front();
+    sentKeys_.pop_front();
+    Press(hwnd, key);
+  }
 }
 
 void HeadlessUser::TypeText(WindowHandle hwnd, std::string_view text, bool alt) {
   for (const std::string_view character : SplitCharacters(text)) {
     Press(hwnd, KeyOfCharacter(character, alt));
+    PressSentKeys(hwnd);
   }
 }
 

@@ -31,6 +31,9 @@ bool ReportsClick(const ControlState& control) {
 HeadlessUser::HeadlessUser(HeadlessFormHost& host, FakeClock& clock)
     : host_(&host), clock_(&clock) {
   clock.SetTickHandler([&host](WindowHandle hwnd, int id) { host.DeliverTimer(hwnd, id); });
+  host.SetKeyboard([this](WindowHandle, int virtualKey, unsigned shift) {
+    sentKeys_.push_back(KeyOf(virtualKey, shift));
+  });
 }
 
 bool HeadlessUser::IsShown(WindowHandle hwnd) { return host_->Desktop().IsShown(hwnd); }

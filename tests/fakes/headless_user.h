@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <deque>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -80,6 +81,7 @@ class HeadlessUser : public UserHands {
   static Key KeyOf(int virtualKey, unsigned shift);
   static Key KeyOfCharacter(std::string_view character, bool alt);
   void Press(WindowHandle hwnd, const Key& key);
+  void PressSentKeys(WindowHandle hwnd);
   void PressInControl(WindowHandle hwnd, int control, const Key& key);
   void PressInText(WindowHandle hwnd, int control, const Key& key);
   void PressInList(WindowHandle hwnd, int control, const Key& key);
@@ -98,6 +100,7 @@ class HeadlessUser : public UserHands {
 
   HeadlessFormHost* host_;
   FakeClock* clock_;
+  std::deque<Key> sentKeys_;          ///< By the program itself; pressed after the user's own.
   std::vector<MenuItem*> openMenus_;  ///< By the keyboard: the menu of the bar, then its submenus.
   MenuItem* highlighted_ = nullptr;
 };

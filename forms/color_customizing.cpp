@@ -1,0 +1,85 @@
+#include "forms/color_customizing.h"
+
+#include <utility>
+
+#include "platform/win32_constants.h"
+#include "util/system.h"
+
+namespace korvale {
+
+namespace {
+
+/// The pointer is the mode's own up to here: so far from the right edge, so far from the top.
+constexpr Twips kOffRightEdge = 115;
+constexpr Twips kBelowTop = 155;
+
+bool IsInside(const Control& field, const MouseInput& input) {
+  return input.x >= 0 && input.x < field.Place().width && input.y >= 0 &&
+         input.y < field.Place().height;
+}
+
+}  // namespace
+
+void ColorCustomizing::Toggle() {
+  if (On()) {
+    parts_.item.checked = false;
+    parts_.setPointer(MousePointer::kDefault);
+    return;
+  }
+  parts_.item.checked = true;
+  parts_.setPointer(MousePointer::kCustom);
+  parts_.showTip();
+}
+
+void ColorCustomizing::End() {
+  parts_.item.checked = false;
+  if (GetOSInfo(parts_.system, "PLATFORM_ID") != "9x") {
+    parts_.item.caption = "&Customize Colors - C";
+  }
+  parts_.setPointer(MousePointer::kDefault);
+}
+
+void ColorCustomizing::Mouse(Control& field, Color& color, const MouseInput& input) {
+  const bool left = input.button == MouseButton::kLeft;
+  switch (input.event) {
+    case MouseEvent::kMove:
+      Move(field, input);
+      break;
+    case MouseEvent::kDown:
+      if (On() && parts_.pointer() == MousePointer::kCustom) shift_ = input.shift;
+      if (left) pressed_ = field.Id();
+      break;
+    case MouseEvent::kUp:
+      if (left && std::exchange(pressed_, 0) == field.Id() && IsInside(field, input)) {
+        Click(field, color);
+      }
+      break;
+  }
+}
+
+void ColorCustomizing::Move(const Control& field, const MouseInput& input) {
+  const bool own = On() && input.x < field.Place().width - kOffRightEdge && input.y < kBelowTop;
+  const MousePointer wanted = own ? MousePointer::kCustom : MousePointer::kDefault;
+  if (parts_.pointer() != wanted) parts_.setPointer(wanted);
+}
+
+void ColorCustomizing::Click(Control& field, Color& color) {
+  if (!On()) return;
+  if (parts_.pointer() == MousePointer::kCustom) {
+    ChangeColor(field, color);
+  } else {
+    parts_.messages.ShowMessageBox("position the mouse until the cursor has changed to a 'C'",
+                                   win32::kMbOk, parts_.title + " - Customize Colors");
+  }
+  shift_ = kNoShift;
+}
+
+void ColorCustomizing::ChangeColor(Control& field, Color& color) {
+  const std::optional<Color> chosen =
+      shift_ == kAlt ? parts_.lastColor : parts_.showColorPalette(color);
+  if (!chosen) return;
+  color = *chosen;
+  field.SetBackColor(color);
+}
+
+}  // namespace korvale

@@ -1,0 +1,42 @@
+#include "forms/main_form.h"
+
+namespace korvale {
+
+namespace {
+
+constexpr std::int16_t kCustomizeColorsTipHeight = 3400;
+
+}  // namespace
+
+ColorCustomizing::Parts frmMain::CustomizingParts() {
+  return {Menu("mnuViewCustomizeColors"),
+          platform_->system,
+          parts_.messages,
+          parts_.identity.messageTitle,
+          parts_.startup.LastColorSelected,
+          [this] { return pointer_; },
+          [this](MousePointer pointer) { SetMousePointer(pointer); },
+          [this](Color initial) { return udmShowColorPalette(initial); },
+          [this] {
+            ShowTip(static_cast<std::int32_t>(TipNumber::kCustomizeColors),
+                    "To change the color of a Target Window/Class Label;  position the mouse over "
+                    "the Label, when the cursor has changed to a 'C' (the letter C within a black "
+                    "circle), click on the Label to change it's color.  To change the second Label "
+                    "to the same color, simply hold down the Alt key while clicking on the Label "
+                    "(Alt+Click).  When finished customizing colors, reselect this menu option to "
+                    "return the mouse cursor to normal.",
+                    "TIP", kCustomizeColorsTipHeight);
+          }};
+}
+
+void frmMain::SetMousePointer(MousePointer pointer) {
+  pointer_ = pointer;
+  platform_->host.SetCursor(pointer);
+}
+
+void frmMain::mnuViewCustomizeColors_Click() {
+  customizing_.Toggle();
+  RefreshMenus("mnuViewCustomizeColors");
+}
+
+}  // namespace korvale

@@ -1,0 +1,273 @@
+#include <optional>
+
+#include "tests/program/main_window_test.h"
+
+namespace korvale {
+namespace {
+
+constexpr Color kRed = 0x0000FF;
+
+class CustomizeColorsTest : public MainWindowTest {
+ protected:
+  /// A started copy whose user has silenced the tip.
+  KorvaleCopy& Started() {
+    Store("Tips", "0");
+    return StartedCopy();
+  }
+  /// The mode is on.
+  KorvaleCopy& Customizing() {
+    KorvaleCopy& copy = Started();
+    Toggle(copy);
+    return copy;
+  }
+  static void Toggle(KorvaleCopy& copy) { Choose(copy, {"View", "Customize Colors - C"}); }
+  static bool IsOn(KorvaleCopy& copy) { return IsChecked(copy, "View", "Customize Colors - C"); }
+  static void ClickAt(KorvaleCopy& copy, const char* field, Twips x, Twips y,
+                      unsigned shift = kNoShift, MouseButton button = MouseButton::kLeft) {
+    copy.user.ClickAt(copy.Handle(), Field(copy, field), x, y, shift, button);
+  }
+  static void Tell(KorvaleCopy& copy, const MouseInput& input, const char* field = "txtWindow") {
+    copy.host.Tell(copy.Handle(),
+                   [&](FormEvents& events) { events.OnMouse(Field(copy, field), input); });
+  }
+  static void ChooseNext(KorvaleCopy& copy, std::optional<Color> color) {
+    copy.host.WhenColorDialog([color](Color) { return color; });
+  }
+};
+
+TEST_F(CustomizeColorsTest, IsOffAtEveryStart) {
+  KorvaleCopy& first = Customizing();
+  first.Exit();
+  EndCopy(first);
+  KorvaleCopy& second = StartedCopy();
+  EXPECT_FALSE(IsOn(second));
+  EXPECT_EQ(second.host.Pointer(), MousePointer::kDefault);
+}
+
+TEST_F(CustomizeColorsTest, TurnedOnItShowsCheckPointerAndTip) {
+  KorvaleCopy& korvale = StartedCopy();
+  korvale.host.WhenModal("frmMsgTip", [&](class Form& tip) {
+    EXPECT_EQ(tip.Caption(), "TIP - Korvale");
+    EXPECT_EQ(tip.Place().height, 3400);
+    EXPECT_EQ(tip.Find("lblTip").Text(),
+              "To change the color of a Target Window/Class Label;  position the mouse over the "
+              "Label, when the cursor has changed to a 'C' (the letter C within a black circle), "
+              "click on the Label to change it's color.  To change the second Label to the same "
+              "color, simply hold down the Alt key while clicking on the Label (Alt+Click).  When "
+              "finished customizing colors, reselect this menu option to return the mouse cursor "
+              "to normal.");
+    EXPECT_EQ(korvale.host.Pointer(), MousePointer::kCustom);
+    korvale.user.Click(tip.Handle(), tip.Find("chkStopMsg").Id());
+    korvale.user.Click(tip.Handle(), tip.Find("cmdOK").Id());
+  });
+  Toggle(korvale);
+  EXPECT_TRUE(IsOn(korvale));
+  EXPECT_EQ(korvale.host.Pointer(), MousePointer::kCustom);
+  EXPECT_EQ(Stored("Tips"), "0");
+}
+
+TEST_F(CustomizeColorsTest, ChosenAgainItIsTurnedOff) {
+  KorvaleCopy& korvale = Customizing();
+  Toggle(korvale);
+  EXPECT_FALSE(IsOn(korvale));
+  EXPECT_EQ(korvale.host.Pointer(), MousePointer::kDefault);
+}
+
+TEST_F(CustomizeColorsTest, ThePointerIsItsOwnOnlyInTheUpperLeftOfAField) {
+  KorvaleCopy& korvale = Customizing();
+  for (const char* field : {"txtWindow", "txtWindowClass"}) {
+    const int id = Field(korvale, field);
+    const Twips right = korvale.user.Place(korvale.Handle(), id).width - 115;
+    const auto pointerAt = [&](Twips x, Twips y) {
+      korvale.user.MoveMouse(korvale.Handle(), id, x, y);
+      return korvale.host.Pointer();
+    };
+    EXPECT_EQ(pointerAt(right - 1, 154), MousePointer::kCustom);
+    EXPECT_EQ(pointerAt(right, 154), MousePointer::kDefault);
+    EXPECT_EQ(pointerAt(0, 154), MousePointer::kCustom);
+    EXPECT_EQ(pointerAt(0, 155), MousePointer::kDefault);
+    EXPECT_EQ(pointerAt(0, 0), MousePointer::kCustom);
+  }
+}
+
+TEST_F(CustomizeColorsTest, WhileItIsOffAFieldRestoresTheDefaultPointer) {
+  KorvaleCopy& korvale = Started();
+  korvale.Form().SetMousePointer(MousePointer::kHourglass);
+  korvale.user.MoveMouse(korvale.Handle(), Field(korvale), 10, 10);
+  EXPECT_EQ(korvale.host.Pointer(), MousePointer::kDefault);
+}
+
+TEST_F(CustomizeColorsTest, AClickChoosesAColorForItsField) {
+  KorvaleCopy& korvale = Customizing();
+  korvale.host.WhenColorDialog([](Color initial) {
+    EXPECT_EQ(initial, 0xAEFFAE);
+    return std::optional<Color>(kRed);
+  });
+  ClickAt(korvale, "txtWindowClass", 10, 10);
+  EXPECT_EQ(ColorOf(korvale, "txtWindowClass"), kRed);
+  EXPECT_EQ(ColorOf(korvale, "txtWindow"), 0x9FFFFF);
+  EXPECT_TRUE(IsOn(korvale));
+}
+
+TEST_F(CustomizeColorsTest, CancelInTheDialogKeepsTheColor) {
+  KorvaleCopy& korvale = Customizing();
+  ChooseNext(korvale, std::nullopt);
+  ClickAt(korvale, "txtWindow", 10, 10);
+  EXPECT_EQ(ColorOf(korvale, "txtWindow"), 0x9FFFFF);
+  EXPECT_EQ(korvale.Parts().startup.LastColorSelected, 0xFFFFFF);
+}
+
+TEST_F(CustomizeColorsTest, AltClickGivesTheSecondFieldTheSameColor) {
+  for (const auto& [first, second] :
+       {std::pair("txtWindow", "txtWindowClass"), std::pair("txtWindowClass", "txtWindow")}) {
+    KorvaleCopy& korvale = Customizing();
+    ChooseNext(korvale, kRed);
+    ClickAt(korvale, first, 10, 10);
+    ClickAt(korvale, second, 10, 10, kAlt);
+    EXPECT_EQ(ColorOf(korvale, first), kRed);
+    EXPECT_EQ(ColorOf(korvale, second), kRed);
+    korvale.Exit();
+    EndCopy(korvale);
+  }
+}
+
+TEST_F(CustomizeColorsTest, AltCountsForItsOwnClickOnly) {
+  KorvaleCopy& korvale = Customizing();
+  ClickAt(korvale, "txtWindow", 10, 10, kAlt);
+  EXPECT_EQ(ColorOf(korvale, "txtWindow"), 0xFFFFFF);
+  ChooseNext(korvale, kRed);
+  ClickAt(korvale, "txtWindow", 10, 10);
+  EXPECT_EQ(ColorOf(korvale, "txtWindow"), kRed);
+}
+
+TEST_F(CustomizeColorsTest, ColorsAreStoredByTheNextMenuCommand) {
+  KorvaleCopy& korvale = Customizing();
+  ChooseNext(korvale, kRed);
+  ClickAt(korvale, "txtWindow", 10, 10);
+  EXPECT_EQ(Stored("WI1BackColor"), "10485759");
+  ClickAt(korvale, "txtWindowClass", 10, 10, kAlt);
+  Toggle(korvale);
+  EXPECT_EQ(Stored("WI1BackColor"), "255");
+  EXPECT_EQ(Stored("WI2BackColor"), "255");
+  EXPECT_EQ(Stored("LastColorSelected"), "255");
+}
+
+TEST_F(CustomizeColorsTest, AClickWithoutThePointerSaysWhatToDo) {
+  KorvaleCopy& korvale = Customizing();
+  for (const char* field : {"txtWindow", "txtWindowClass"}) {
+    korvale.host.WhenMessageBox([](const ShownMessage& box) {
+      EXPECT_EQ(box.text, "position the mouse until the cursor has changed to a 'C'");
+      EXPECT_EQ(box.title, "Korvale - Customize Colors");
+      return win32::kIdOk;
+    });
+    const Twips width = korvale.user.Place(korvale.Handle(), Field(korvale, field)).width;
+    ClickAt(korvale, field, width - 100, 10);
+  }
+  EXPECT_EQ(korvale.host.Messages().size(), 2U);
+  EXPECT_EQ(ColorOf(korvale, "txtWindow"), 0x9FFFFF);
+}
+
+TEST_F(CustomizeColorsTest, AltOutsideThePointersPlaceIsNotRemembered) {
+  KorvaleCopy& korvale = Customizing();
+  korvale.host.AnswerNext(win32::kIdOk);
+  ClickAt(korvale, "txtWindow", 10, 200, kAlt);
+  ChooseNext(korvale, kRed);
+  ClickAt(korvale, "txtWindow", 10, 10);
+  EXPECT_EQ(ColorOf(korvale, "txtWindow"), kRed);
+}
+
+TEST_F(CustomizeColorsTest, ClicksMeanNothingWhileItIsOff) {
+  KorvaleCopy& korvale = Started();
+  ClickAt(korvale, "txtWindow", 10, 10);
+  ClickAt(korvale, "txtWindow", 10, 10, kAlt);
+  EXPECT_EQ(ColorOf(korvale, "txtWindow"), 0x9FFFFF);
+  EXPECT_TRUE(korvale.host.Messages().empty());
+}
+
+TEST_F(CustomizeColorsTest, OnlyAWholeClickOfTheLeftButtonCounts) {
+  KorvaleCopy& korvale = Customizing();
+  ClickAt(korvale, "txtWindow", 10, 10, kAlt, MouseButton::kRight);
+  const MouseInput down = {MouseEvent::kDown, MouseButton::kLeft, kAlt, 10, 10};
+  const MouseInput up = {MouseEvent::kUp, MouseButton::kLeft, kAlt, 10, 10};
+  MouseInput outside = up;
+  Tell(korvale, up);
+  for (const auto& [x, y] :
+       {std::pair(-1, 10), std::pair(10, -1), std::pair(20000, 10), std::pair(10, 20000)}) {
+    outside.x = x;
+    outside.y = y;
+    Tell(korvale, down);
+    Tell(korvale, outside);
+    Tell(korvale, up);
+  }
+  Tell(korvale, down, "txtWindowClass");
+  Tell(korvale, up, "txtWindow");
+  EXPECT_EQ(ColorOf(korvale, "txtWindow"), 0x9FFFFF);
+  Tell(korvale, down);
+  Tell(korvale, up);
+  EXPECT_EQ(ColorOf(korvale, "txtWindow"), 0xFFFFFF);
+}
+
+TEST_F(CustomizeColorsTest, AnyOtherMenuCommandTurnsItOff) {
+  KorvaleCopy& korvale = Started();
+  for (const auto& path : std::vector<std::vector<std::string>>{
+           {"View", "Target Window"},
+           {"View", "Default Settings", "Target Window/Class Colors"},
+           {"Window", "Korvale  Always On Top"},
+           {"Tools", "Options..."},
+           {"Help", "web:  Readme"},
+           {"Help", "Display Tip Messages"},
+           {"Help", "About Korvale"}}) {
+    Toggle(korvale);
+    EXPECT_TRUE(IsOn(korvale));
+    Choose(korvale, path);
+    EXPECT_FALSE(IsOn(korvale)) << path.back();
+    EXPECT_EQ(korvale.host.Pointer(), MousePointer::kDefault) << path.back();
+  }
+}
+
+TEST_F(CustomizeColorsTest, GoesOnOverRefreshesThatAreNoOtherMenuCommand) {
+  KorvaleCopy& korvale = Customizing();
+  for (const char* source :
+       {"mnuViewRemoveIndividualButtons", "mnuViewCustomizeColors",
+        "mnuViewColorCodedButtons_SPECIAL", "Form_KeyDown", " Form_KeyDown ", "Form_Load"}) {
+    korvale.Form().RefreshMenus(source);
+    EXPECT_TRUE(IsOn(korvale)) << source;
+    EXPECT_EQ(korvale.host.Pointer(), MousePointer::kCustom) << source;
+  }
+  korvale.Form().RefreshMenus("mnuViewColorCodedButtons");
+  EXPECT_FALSE(IsOn(korvale));
+}
+
+TEST_F(CustomizeColorsTest, OnlyMenuCommandsSave) {
+  KorvaleCopy& korvale = Started();
+  korvale.Parts().startup.Width = 5000;
+  korvale.Form().RefreshMenus("Form_KeyDown");
+  korvale.Form().RefreshMenus("Form_Load");
+  EXPECT_NE(Stored("Width"), "5000");
+  korvale.Form().RefreshMenus("mnuViewCustomizeColors");
+  EXPECT_EQ(Stored("Width"), "5000");
+}
+
+TEST_F(CustomizeColorsTest, ItsCaptionIsAssignedAgainExceptOnThe9xFamily) {
+  KorvaleCopy& korvale = Started();
+  MenuItem& item = korvale.Form().Menu("mnuViewCustomizeColors");
+  item.caption = "lost";
+  korvale.system.osVersion.platformId = win32::kVerPlatformWin32Windows;
+  korvale.Form().RefreshMenus("mnu");
+  EXPECT_EQ(item.caption, "lost");
+  korvale.system.osVersion.platformId = win32::kVerPlatformWin32Nt;
+  korvale.Form().RefreshMenus("mnu");
+  EXPECT_EQ(item.caption, "&Customize Colors - C");
+}
+
+TEST_F(CustomizeColorsTest, SpacesAroundFormKeyDownDoNotMatter) {
+  Store("Menu", "False");
+  KorvaleCopy& korvale = StartedCopy();
+  korvale.Form().RefreshMenus(" Form_KeyDown ");
+  EXPECT_TRUE(MenuIsShown(korvale));
+  korvale.Form().RefreshMenus("Form_Load");
+  EXPECT_FALSE(MenuIsShown(korvale));
+}
+
+}  // namespace
+}  // namespace korvale

@@ -1,0 +1,223 @@
+#include "tests/program/main_window_test.h"
+
+namespace korvale {
+namespace {
+
+TEST_F(MainWindowTest, WithMenuAndFieldsItIsAsHighAsTheyAre) {
+  KorvaleCopy& korvale = StartedCopy();
+  EXPECT_EQ(Height(korvale), 700 + korvale.Form().Find("txtWindow").Place().height + 115);
+  EXPECT_EQ(Height(korvale), 1100);
+}
+
+TEST_F(MainWindowTest, WithTheMenuAloneItIs700TwipsHigh) {
+  KorvaleCopy& korvale = StartedCopy();
+  Choose(korvale, {"View", "Target Window"});
+  EXPECT_EQ(Height(korvale), 700);
+  EXPECT_FALSE(IsShown(korvale, "txtWindow"));
+  EXPECT_FALSE(IsShown(korvale, "txtWindowClass"));
+}
+
+TEST_F(MainWindowTest, WithTheFieldsAloneItIs300TwipsLower) {
+  KorvaleCopy& korvale = StartedCopy();
+  HideMenu(korvale);
+  EXPECT_EQ(Height(korvale), 400 + kFieldHeight + 115);
+  EXPECT_TRUE(IsShown(korvale, "txtWindow"));
+}
+
+TEST_F(MainWindowTest, WithoutMenuAndFieldsItIs400TwipsHigh) {
+  KorvaleCopy& korvale = StartedCopy();
+  Choose(korvale, {"View", "Target Window"});
+  HideMenu(korvale);
+  EXPECT_EQ(Height(korvale), 400);
+}
+
+TEST_F(MainWindowTest, WithoutMenuAndFieldsItComesUpSoAgain) {
+  Store("Menu", "False");
+  Store("WindowInfo", "False");
+  KorvaleCopy& korvale = StartedCopy();
+  EXPECT_EQ(Height(korvale), 400);
+  EXPECT_FALSE(MenuIsShown(korvale));
+  EXPECT_FALSE(IsShown(korvale, "txtWindow"));
+}
+
+TEST_F(MainWindowTest, UnderAHigherFrameTheFieldsGrowAndStayWhole) {
+  KorvaleCopy& korvale = NewCopy();
+  store.SaveSetting("Korvale - Work", "Options", "SplashScreen", "False");
+  korvale.host.SetFrame({120, 480, 240, 600}, 390);
+  EXPECT_TRUE(korvale.Start());
+
+  const Twips field = korvale.user.Place(korvale.Handle(), Field(korvale)).height;
+  EXPECT_EQ(field, kFieldHeight + (600 + 390) - (400 + 300));
+  EXPECT_EQ(Height(korvale), 700 + field + 115);
+  EXPECT_GE(Height(korvale) - (600 + 390), kFieldHeight + 115);
+  Choose(korvale, {"View", "Target Window"});
+  EXPECT_EQ(Height(korvale), 700);
+}
+
+TEST_F(MainWindowTest, UnderALowerFrameTheFieldsKeepTheirHeight) {
+  KorvaleCopy& korvale = NewCopy();
+  store.SaveSetting("Korvale - Work", "Options", "SplashScreen", "False");
+  korvale.host.SetFrame({45, 300, 90, 345}, 285);
+  EXPECT_TRUE(korvale.Start());
+  EXPECT_EQ(Height(korvale), 700 + kFieldHeight + 115);
+}
+
+TEST_F(MainWindowTest, OnlyItsWidthCanBeChanged) {
+  KorvaleCopy& korvale = StartedCopy();
+  Resize(korvale, 6000, 3000);
+  EXPECT_EQ(Place(korvale).width, 6000);
+  EXPECT_EQ(Height(korvale), 1100);
+}
+
+TEST_F(MainWindowTest, AWidthOf2000TwipsIsRaisedTo2640) {
+  KorvaleCopy& korvale = StartedCopy();
+  Resize(korvale, 2000, 1100);
+  EXPECT_EQ(Place(korvale).width, 2640);
+  Resize(korvale, 2640, 1100);
+  EXPECT_EQ(Place(korvale).width, 2640);
+}
+
+TEST_F(MainWindowTest, TheFieldsShareTheWidthSideBySide) {
+  KorvaleCopy& korvale = StartedCopy();
+  Resize(korvale, 2640, 1100);
+  const TwipsRect title = korvale.user.Place(korvale.Handle(), Field(korvale));
+  const TwipsRect name = korvale.user.Place(korvale.Handle(), Field(korvale, "txtWindowClass"));
+  EXPECT_GT(title.width, name.width);
+  EXPECT_GT(name.width, 600);
+  EXPECT_LT(title.left + title.width, name.left);
+  EXPECT_LE(name.left + name.width, 2640 - 90);
+}
+
+TEST_F(MainWindowTest, TheNewWidthIsStoredByTheNextMenuCommand) {
+  KorvaleCopy& korvale = StartedCopy();
+  Resize(korvale, 6000, 1100);
+  Choose(korvale, {"View", "Target Window"});
+  Choose(korvale, {"View", "Target Window"});
+  EXPECT_EQ(Stored("Width"), "6000");
+  EXPECT_EQ(Stored("Height"), "700");
+  Choose(korvale, {"Help", "web:  Help"});
+  EXPECT_EQ(Stored("Height"), "1100");
+}
+
+TEST_F(MainWindowTest, MaximizedItRemembersTheSizeThatItHadBefore) {
+  KorvaleCopy& korvale = StartedCopy();
+  Resize(korvale, 6000, 1100);
+  desktop.ShowWindow(korvale.Handle(), win32::kSwMaximize);
+  EXPECT_EQ(korvale.Parts().startup.WindowState, 2);
+  EXPECT_EQ(korvale.Parts().startup.Width, 6000);
+  EXPECT_EQ(korvale.Parts().startup.Height, 1100);
+}
+
+TEST_F(MainWindowTest, AnyResizePutsItOnTopAnew) {
+  Store("AlwaysOnTop", "True");
+  KorvaleCopy& korvale = StartedCopy();
+  Resize(korvale, 6000, 1100);
+  EXPECT_FALSE(log.CallsOf("SetWindowPos(frmMain, HWND_TOPMOST, 0, 0, 0, 0, ").empty());
+}
+
+TEST_F(MainWindowTest, AResizeLeavesItsRankAloneWhenItIsNotAlwaysOnTop) {
+  KorvaleCopy& korvale = StartedCopy();
+  Resize(korvale, 6000, 1100);
+  EXPECT_TRUE(log.CallsOf("SetWindowPos").empty());
+}
+
+TEST_F(MainWindowTest, MinimizingIsNoResize) {
+  Store("AlwaysOnTop", "True");
+  KorvaleCopy& korvale = StartedCopy();
+  desktop.ShowWindow(korvale.Handle(), win32::kSwMinimize);
+  EXPECT_TRUE(log.CallsOf("SetWindowPos").empty());
+  EXPECT_EQ(korvale.Parts().startup.Height, 1100);
+}
+
+TEST_F(MainWindowTest, HidingTheMenuAsksFirst) {
+  KorvaleCopy& korvale = StartedCopy();
+  korvale.host.WhenMessageBox([](const ShownMessage& box) {
+    EXPECT_EQ(box.text,
+              "CAUTION:  This will hide the menu.  The only way of accessing the hidden menu is by "
+              "(Alt+V), (Alt+T), (Alt+W) or (Alt+H).");
+    EXPECT_EQ(box.title, "Korvale");
+    EXPECT_EQ(box.style, 257);
+    return win32::kIdOk;
+  });
+  Choose(korvale, {"View", "Menu"});
+  EXPECT_FALSE(MenuIsShown(korvale));
+  EXPECT_EQ(Stored("Menu"), "False");
+}
+
+TEST_F(MainWindowTest, CancelKeepsTheMenuAndTheHeight) {
+  KorvaleCopy& korvale = StartedCopy();
+  korvale.host.AnswerNext(win32::kIdCancel);
+  Choose(korvale, {"View", "Menu"});
+  EXPECT_TRUE(MenuIsShown(korvale));
+  EXPECT_TRUE(IsChecked(korvale, "View", "Menu"));
+  EXPECT_EQ(Height(korvale), 1100);
+  EXPECT_EQ(Stored("Menu"), "True");
+}
+
+TEST_F(MainWindowTest, ShowingTheMenuAsksNothing) {
+  Store("Menu", "False");
+  KorvaleCopy& korvale = StartedCopy();
+  korvale.user.PressKey(korvale.Handle(), 'V', kAlt);
+  korvale.user.PressKey(korvale.Handle(), 'M');
+  EXPECT_TRUE(MenuIsShown(korvale));
+  EXPECT_TRUE(korvale.host.Messages().empty());
+  EXPECT_TRUE(IsChecked(korvale, "View", "Menu"));
+  EXPECT_EQ(Height(korvale), 1100);
+  EXPECT_EQ(Stored("Menu"), "True");
+}
+
+TEST_F(MainWindowTest, TheTargetWindowCommandTogglesCheckFieldsAndSetting) {
+  KorvaleCopy& korvale = StartedCopy();
+  EXPECT_TRUE(IsChecked(korvale, "View", "Target Window"));
+  Choose(korvale, {"View", "Target Window"});
+  EXPECT_FALSE(IsChecked(korvale, "View", "Target Window"));
+  EXPECT_EQ(Stored("WindowInfo"), "False");
+  Choose(korvale, {"View", "Target Window"});
+  EXPECT_TRUE(IsShown(korvale, "txtWindow"));
+  EXPECT_EQ(Height(korvale), 1100);
+  EXPECT_EQ(Stored("WindowInfo"), "True");
+}
+
+TEST_F(MainWindowTest, DefaultColorsGoToTheFieldsAndTheStore) {
+  Store("WI1BackColor", "255");
+  Store("WI2BackColor", "65280");
+  KorvaleCopy& korvale = StartedCopy();
+  Choose(korvale, {"View", "Default Settings", "Target Window/Class Colors"});
+  EXPECT_EQ(ColorOf(korvale, "txtWindow"), 0x9FFFFF);
+  EXPECT_EQ(ColorOf(korvale, "txtWindowClass"), 0xAEFFAE);
+  EXPECT_EQ(Stored("WI1BackColor"), "10485759");
+  EXPECT_EQ(Stored("WI2BackColor"), "11468718");
+}
+
+TEST_F(MainWindowTest, TheViewMenuStandsInItsOrder) {
+  KorvaleCopy& korvale = StartedCopy();
+  std::vector<std::string> captions;
+  std::string keys;
+  for (const ShownMenuItem& item : korvale.user.MenuItems(korvale.Handle(), {"View"})) {
+    if (item.caption == "-") continue;
+    captions.push_back(item.caption);
+    keys += item.accessKey;
+  }
+  EXPECT_EQ(captions, (std::vector<std::string>{"Menu", "Target Window", "Customize Colors - C",
+                                                "Default Settings", "Options..."}));
+  EXPECT_EQ(keys, "MTCDp");
+}
+
+TEST_F(MainWindowTest, TheFieldsAreNamedForScreenReadersAndReadOnly) {
+  KorvaleCopy& korvale = StartedCopy();
+  const auto before = [&](const char* field) {
+    return korvale.user.Look(korvale.Handle(), Field(korvale, field) - 1);
+  };
+  EXPECT_EQ(before("txtWindow").text, "Target Window");
+  EXPECT_EQ(before("txtWindowClass").text, "Class of Target Window");
+  EXPECT_FALSE(before("txtWindow").visible);
+  EXPECT_FALSE(before("txtWindowClass").visible);
+  const ControlState& title = korvale.user.Look(korvale.Handle(), Field(korvale));
+  EXPECT_EQ(title.toolTip, " Target Window ");
+  EXPECT_NE(title.flags & kReadOnly, 0U);
+  EXPECT_EQ(korvale.user.Look(korvale.Handle(), Field(korvale, "txtWindowClass")).toolTip,
+            " Class of Target Window ");
+}
+
+}  // namespace
+}  // namespace korvale
