@@ -6,7 +6,6 @@
 #include "forms/main_form_design.h"
 #include "platform/run_time_error.h"
 #include "platform/win32_constants.h"
-#include "util/text.h"
 
 namespace korvale {
 
@@ -18,6 +17,8 @@ constexpr std::uint32_t kCopyPoll = 50;
 
 /// How often the foreground window is looked at, in ms.
 constexpr std::uint32_t kTrackingInterval = 100;
+
+constexpr const char* kWhitespace = " \t\r\n\v\f";
 
 constexpr std::int16_t kOtherInstanceTipHeight = 5400;
 constexpr std::int16_t kCommandLineTipHeight = 2700;
@@ -33,7 +34,9 @@ void StartUp::Initialise(frmMain& form) {
   form.udmLoadOptions();
   RefuseSecondCopy(form);
   MentionOtherInstallation(form);
+  EndIfUnloaded(form);
   MentionCommandLine(form);
+  EndIfUnloaded(form);
   ShowSplash(form);
   LayOut(form);
   PrepareMenusAndTimers(form);
@@ -43,6 +46,13 @@ void StartUp::Initialise(frmMain& form) {
   form.Form_Resize();
   if (form.Parts().state.firstRun) {
     SaveFirstDefaults(form);
+  }
+}
+
+/// The session may end while a message is shown.
+void StartUp::EndIfUnloaded(const frmMain& form) {
+  if (!form.IsLoaded()) {
+    throw ProgramEnded{};
   }
 }
 
@@ -66,13 +76,16 @@ void StartUp::RunInstallation(frmMain& form) {
   MainParts& parts = form.Parts();
   parts.options.Create();
   parts.settings.SetAppName(parts.identity.mainCaption);
-  if (alone_) {
-    parts.settings.FinishInterruptedSave();
+  if (!alone_) {
+    // The rule is for the copy that runs; this one is about to be refused.
+    return;
   }
+  parts.settings.FinishInterruptedSave();
   const InstallationResult result = RunInstallationRule(
       parts.identity, parts.settings, platform_->system, parts.messages,
       {[&form] { form.udmLoadOptions(); }, [&form] { form.LoadStartupSettings(); },
        [&form] { form.udmSaveOptions(); }, [&form] { form.udmSaveINI(); }});
+  EndIfUnloaded(form);
   parts.state.firstRun = result.firstRun;
   parts.state.lastAnswer = result.lastAnswer;
   if (result.mustEnd) {
@@ -137,7 +150,8 @@ void StartUp::MentionOtherInstallation(frmMain& form) {
 }
 
 void StartUp::MentionCommandLine(frmMain& form) {
-  if (Trim(platform_->system.GetCommandLineA()).empty()) {
+  const std::string arguments = platform_->system.GetCommandLineA();
+  if (arguments.find_first_not_of(kWhitespace) == std::string::npos) {
     return;
   }
   form.ShowTip(static_cast<std::int32_t>(TipNumber::kCommandLine),
@@ -153,6 +167,11 @@ void StartUp::ShowSplash(frmMain& form) {
 
 void StartUp::LayOut(frmMain& form) {
   form.ApplyPlacement();
+  const bool onTop = form.Parts().startup.AlwaysOnTop;
+  form.CheckAlwaysOnTop(onTop);
+  if (onTop) {
+    form.Parts().actions.SetTopmost(form.Handle(), true);
+  }
   form.ApplyColors();
 }
 
@@ -162,7 +181,6 @@ void StartUp::PrepareMenusAndTimers(frmMain& form) {
   form.Menu("mnuWindowAlwaysOnTop").caption = AlwaysOnTopCaption(product);
   form.Menu("mnuWindowAddToList", 1).caption = AddThisWindowCaption(product);
   form.Menu("mnuHelpHomePage").caption = HomePageCaption(product);
-  form.CheckAlwaysOnTop(form.Parts().startup.AlwaysOnTop);
   form.EnablePreviousWindowItems(false);
   form.tmrWindow().SetInterval(kTrackingInterval);
   form.tmrWindow().SetEnabled(true);

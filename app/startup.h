@@ -19,6 +19,7 @@ class StartUp : public ProgramLifetime {
   void Unload(frmMain& form, bool booNormalShutDown) override;
 
  private:
+  static void EndIfUnloaded(const frmMain& form);
   void FixIdentity(frmMain& form);
   void RunInstallation(frmMain& form);
   void RefuseSecondCopy(frmMain& form);

@@ -56,9 +56,8 @@ void frmMain::Form_QueryUnload(bool& cancel, CloseReason reason) {
 }
 
 void frmMain::Form_Unload() {
-  if (!unloaded_) {
-    udmUnload(true);
-  }
+  // A start-up that the end of the session cuts short has nothing to save yet.
+  udmUnload(parts_.state.startUpFinished);
   platform_->host.PostQuitMessage();
 }
 

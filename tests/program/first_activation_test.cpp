@@ -1,0 +1,157 @@
+#include <algorithm>
+#include <iterator>
+#include <ranges>
+
+#include "platform/win32_constants.h"
+#include "tests/program/start_test.h"
+
+namespace korvale {
+namespace {
+
+constexpr const char* kReviewQuestion =
+    "Korvale is installed with Hot Keys active.  It is recommended that you review the Hot Keys "
+    "before getting started.\r\rDo you want to review the Hot Keys now ?";
+
+using FirstActivationTest = StartTest;
+
+TEST_F(FirstActivationTest, TheFirstRunStoresAllDefaultsBeforeItAsks) {
+  KorvaleCopy& korvale = NewCopy();
+  std::string splashAtQuestion;
+  korvale.host.WhenMessageBox([&](const ShownMessage& box) {
+    EXPECT_EQ(box.text, kReviewQuestion);
+    EXPECT_EQ(box.title, "Korvale - CAUTION");
+    EXPECT_EQ(box.style, win32::kMbYesNo);
+    splashAtQuestion = Stored("Options", "SplashScreen") + Stored("Startup", "Width");
+    return win32::kIdNo;
+  });
+
+  EXPECT_TRUE(korvale.Start());
+
+  EXPECT_EQ(splashAtQuestion, "True4500");
+  EXPECT_EQ(Stored("Options", "HotKeyGeneral2"), "19");
+  EXPECT_EQ(korvale.program.Forms().Find("frmOptions"), nullptr);
+  EXPECT_EQ(korvale.Parts().state.lastAnswer, win32::kIdNo);
+}
+
+TEST_F(FirstActivationTest, YesToTheFirstQuestionOpensTheOptionsOnTheHotKeysTab) {
+  KorvaleCopy& korvale = NewCopy();
+  korvale.host.AnswerNext(win32::kIdYes);
+
+  EXPECT_TRUE(korvale.Start());
+
+  class Form& options = korvale.Loaded("frmOptions");
+  EXPECT_EQ(options.Caption(), "Korvale - Options");
+  EXPECT_EQ(korvale.user.ListIndex(options.Handle(), korvale.Id(options, "tabOptions")), 1);
+  EXPECT_EQ(korvale.Parts().startup.OptionsTab, 2);
+}
+
+TEST_F(FirstActivationTest, TheFirstRunShowsNoSplash) {
+  KorvaleCopy& korvale = NewCopy();
+  korvale.host.AnswerNext(win32::kIdNo);
+  EXPECT_TRUE(korvale.Start());
+  EXPECT_TRUE(log.CallsOf("CreateWindowExW(frmMsgBox2)").empty());
+}
+
+TEST_F(FirstActivationTest, TheFirstRunKeepsItsOrder) {
+  Open("Alpha");
+  KorvaleCopy& korvale = NewCopy();
+  bool finishedAtQuestion = true;
+  std::string targetAtQuestion;
+  korvale.host.WhenMessageBox([&](const ShownMessage&) {
+    finishedAtQuestion = korvale.Parts().state.firstActivation;
+    targetAtQuestion = korvale.TargetWindow();
+    return win32::kIdYes;
+  });
+  log.IncludeReads(true);
+
+  EXPECT_TRUE(korvale.Start());
+
+  const std::vector<std::string> order = {
+      "RegisterHotKey",
+      "SaveSetting(Korvale - Work, Startup",
+      "SaveSetting(Korvale - Work, Options",
+      "ShowWindow(frmMain",
+      "EnumWindows",
+      "MessageBoxW(frmMain",
+      "CreateWindowExW(frmOptions)",
+  };
+  std::vector<std::string> seen = Order(order);
+  EXPECT_TRUE(
+      std::ranges::equal(std::views::drop(seen, std::ssize(seen) - std::ssize(order)), order))
+      << testing::PrintToString(seen);
+  EXPECT_FALSE(finishedAtQuestion);
+  EXPECT_EQ(targetAtQuestion, "Alpha");
+  EXPECT_TRUE(korvale.Parts().state.firstActivation);
+}
+
+TEST_F(FirstActivationTest, LaterActivationsDoNothingOfIt) {
+  store.SaveSetting("Korvale - Work", "Startup", "AlwaysOnTop", "True");
+  store.SaveSetting("Korvale - Work", "Options", "SelectPrevWinOnStart", "True");
+  Open("Alpha");
+  KorvaleCopy& korvale = StartedCopy();
+  WorkIn(Open("Beta"));
+  log.Clear();
+
+  WorkIn(korvale.Handle());
+
+  EXPECT_EQ(Front(), "Korvale - Work");
+  EXPECT_TRUE(log.CallsOf("SetWindowPos").empty());
+}
+
+TEST_F(FirstActivationTest, WithoutAnotherWindowThereIsNothingToSelect) {
+  store.SaveSetting("Korvale - Work", "Options", "SelectPrevWinOnStart", "True");
+  KorvaleCopy& korvale = StartedCopy();
+  EXPECT_EQ(korvale.TargetWindow(), "");
+  EXPECT_EQ(Front(), "Korvale - Work");
+}
+
+TEST_F(FirstActivationTest, AFirstRunWithoutAWritableStoreRunsAllTheSame) {
+  KorvaleCopy& korvale = NewCopy();
+  store.RefuseWrites(true);
+  korvale.host.AnswerNext(win32::kIdOk);
+  korvale.host.AnswerNext(win32::kIdNo);
+  EXPECT_TRUE(korvale.Start());
+  EXPECT_EQ(hotKeys.Registered().size(), 15U);
+}
+
+TEST_F(FirstActivationTest, TheMainWindowIsNotTopmostUnlessTheSettingSaysSo) {
+  KorvaleCopy& korvale = NewCopy();
+  korvale.host.AnswerNext(win32::kIdNo);
+  EXPECT_TRUE(korvale.Start());
+  EXPECT_TRUE(log.CallsOf("SetWindowPos(frmMain").empty());
+  EXPECT_FALSE(korvale.WindowMenuItems().front().checked);
+}
+
+TEST_F(FirstActivationTest, AlwaysOnTopIsAppliedAtTheFirstActivation) {
+  store.SaveSetting("Korvale - Work", "Startup", "AlwaysOnTop", "True");
+  KorvaleCopy& korvale = StartedCopy();
+  const std::int32_t style = desktop.GetWindowLongA(korvale.Handle(), win32::kGwlExStyle);
+  EXPECT_NE(style & win32::kWsExTopmost, 0);
+  EXPECT_TRUE(korvale.WindowMenuItems().front().checked);
+}
+
+TEST_F(FirstActivationTest, TheWindowInFrontBeforeTheStartIsThePreviousWindow) {
+  Open("Below");
+  Open("Alpha", {.className = "AlphaClass"});
+  KorvaleCopy& korvale = StartedCopy();
+  EXPECT_EQ(korvale.TargetWindow(), "Alpha");
+  EXPECT_EQ(korvale.TargetClass(), "AlphaClass");
+  EXPECT_EQ(Front(), "Korvale - Work");
+}
+
+TEST_F(FirstActivationTest, AnUntitledWindowInFrontIsPassedOverAtTheStart) {
+  Open("Below");
+  Open("");
+  KorvaleCopy& korvale = StartedCopy();
+  EXPECT_EQ(korvale.TargetWindow(), "Below");
+}
+
+TEST_F(FirstActivationTest, ThePreviousWindowIsSelectedWhenTheOptionSaysSo) {
+  Open("Alpha");
+  store.SaveSetting("Korvale - Work", "Options", "SelectPrevWinOnStart", "True");
+  StartedCopy();
+  EXPECT_EQ(Front(), "Alpha");
+}
+
+}  // namespace
+}  // namespace korvale

@@ -1,0 +1,90 @@
+#include "tests/program/start_test.h"
+
+namespace korvale {
+namespace {
+
+/// Every option that the dialog shows, none with its default.
+clsOptions EverythingChanged() {
+  clsOptions options;
+  options.booSplashScreen = false;
+  options.booSelectPrevWinOnStart = true;
+  options.booAllowNoTextWindow = true;
+  options.booAllowToolbarWindow = true;
+  options.colHotKeyEnabled = 0x123456;
+  options.intHotKeyModParent = 2;
+  options.booHotKeyParent.fill(false);
+  options.intHotKeyModAction = {4, 8};
+  options.intHotKeyAction = {0x70, 0x2E};
+  options.intHotKeyModGeneral = {0, 1, 2};
+  options.intHotKeyGeneral = {65, 90, 0x6E};
+  return options;
+}
+
+using OptionsExchangeInProgram = StartTest;
+
+TEST_F(OptionsExchangeInProgram, TheDialogShowsTheRecordOnTheRememberedTab) {
+  KorvaleCopy& korvale = StartedCopy();
+  korvale.Parts().options.Get() = EverythingChanged();
+  korvale.Parts().startup.OptionsTab = 3;
+
+  korvale.Form().udmOptions("LOAD_AND_OR_REFRESH");
+
+  class Form& dialog = korvale.Loaded("frmOptions");
+  EXPECT_EQ(dialog.Caption(), "Korvale - Options");
+  EXPECT_TRUE(korvale.user.IsShown(dialog.Handle()));
+  EXPECT_EQ(korvale.user.ListIndex(dialog.Handle(), korvale.Id(dialog, "tabOptions")), 2);
+  EXPECT_EQ(korvale.user.Value(dialog.Handle(), korvale.Id(dialog, "chkHotKeyParent", 0)), 0);
+}
+
+TEST_F(OptionsExchangeInProgram, TheRecordTakesEveryFieldOfTheDialog) {
+  KorvaleCopy& korvale = StartedCopy();
+  clsOptions& record = korvale.Parts().options.Get();
+  record = EverythingChanged();
+  korvale.Form().udmOptions("LOAD_AND_OR_REFRESH");
+  record = clsOptions();
+
+  korvale.Form().udmOptions("UPDATE_OPTIONS");
+
+  EXPECT_EQ(record, EverythingChanged());
+}
+
+TEST_F(OptionsExchangeInProgram, AnOpenDialogIsFilledAnew) {
+  KorvaleCopy& korvale = StartedCopy();
+  korvale.Form().udmOptions("LOAD_AND_OR_REFRESH");
+  const WindowHandle before = korvale.Loaded("frmOptions").Handle();
+  korvale.Parts().options.Get() = EverythingChanged();
+
+  korvale.Form().udmOptions("LOAD_AND_OR_REFRESH");
+  korvale.Parts().options.Get() = clsOptions();
+  korvale.Form().udmOptions("UPDATE_OPTIONS");
+
+  EXPECT_EQ(korvale.Loaded("frmOptions").Handle(), before);
+  EXPECT_EQ(korvale.Parts().options.Get(), EverythingChanged());
+}
+
+TEST_F(OptionsExchangeInProgram, AnyOtherModeDoesNothing) {
+  KorvaleCopy& korvale = StartedCopy();
+  korvale.Form().udmOptions("load_and_or_refresh");
+  EXPECT_EQ(korvale.program.Forms().Find("frmOptions"), nullptr);
+}
+
+TEST_F(OptionsExchangeInProgram, AKeyOfZeroLeavesEachOperationWithoutAHotKey) {
+  KorvaleCopy& korvale = UsedCopy();
+  for (const char* const key :
+       {"HotKeyAction0", "HotKeyAction1", "HotKeyGeneral0", "HotKeyGeneral1", "HotKeyGeneral2"}) {
+    store.SaveSetting("Korvale - Work", "Options", key, "0");
+  }
+  EXPECT_TRUE(korvale.Start());
+  EXPECT_EQ(hotKeys.Registered().size(), 10U);
+}
+
+TEST_F(OptionsExchangeInProgram, PauseTogglesWithoutAModifier) {
+  StartedCopy();
+  PressHotKey(0, 19);
+  EXPECT_EQ(hotKeys.Registered().size(), 1U);
+  PressHotKey(0, 19);
+  EXPECT_EQ(hotKeys.Registered().size(), 15U);
+}
+
+}  // namespace
+}  // namespace korvale

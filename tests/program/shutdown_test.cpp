@@ -1,0 +1,180 @@
+#include "platform/win32_constants.h"
+#include "tests/program/start_test.h"
+
+namespace korvale {
+namespace {
+
+using ShutdownTest = StartTest;
+
+TEST_F(ShutdownTest, ShutdownKeepsItsOrder) {
+  const WindowHandle alpha = Open("Alpha");
+  KorvaleCopy& korvale = StartedCopy();
+  WorkIn(alpha);
+  WorkIn(korvale.Handle());
+  korvale.TagPrevious();
+  desktop.Close(alpha);
+  korvale.Form().udmOptions("LOAD_AND_OR_REFRESH");
+  log.IncludeReads(true);
+  log.Clear();
+  bool timerAtSave = true;
+  log.WhenCalled("SaveSetting", [&] { timerAtSave = clock.AnyTimerOf(korvale.Handle()); });
+  bool tagAtUnregister = true;
+  log.WhenCalled("UnregisterHotKey", [&] {
+    tagAtUnregister = korvale.Parts().tags.mnuWindowParentList.Find(1) != nullptr;
+  });
+  bool optionsAtDestroy = false;
+  log.WhenCalled("DestroyWindow(frmOptions)",
+                 [&] { optionsAtDestroy = korvale.Parts().options.Exists(); });
+
+  korvale.Form().mnuFileExit_Click();
+
+  const std::vector<std::string> order = {
+      "SaveSetting(Korvale - Work, Startup",
+      "SaveSetting(Korvale - Work, ParentWindowList",
+      "IsWindow(Alpha)",
+      "UnregisterHotKey(frmMain",
+      "SetWindowLongPtrA(frmMain",
+      "DestroyWindow(frmOptions)",
+      "PostQuitMessage()",
+      "DestroyWindow(frmMain)",
+  };
+  EXPECT_EQ(Order(order), order);
+  EXPECT_FALSE(timerAtSave);
+  EXPECT_FALSE(tagAtUnregister);
+  EXPECT_TRUE(optionsAtDestroy);
+  EXPECT_FALSE(korvale.Parts().options.Exists());
+}
+
+TEST_F(ShutdownTest, EveryHotKeyIsGivenBackAndNoOptionStored) {
+  KorvaleCopy& korvale = StartedCopy();
+
+  korvale.Exit();
+
+  EXPECT_TRUE(hotKeys.Registered().empty());
+  EXPECT_EQ(log.CallsOf("UnregisterHotKey").size(), 15U);
+  EXPECT_TRUE(log.CallsOf("SaveSetting(Korvale - Work, Options").empty());
+  EXPECT_TRUE(korvale.host.QuitPosted());
+}
+
+TEST_F(ShutdownTest, AShutdownThatIsNotNormalSavesNothing) {
+  const WindowHandle alpha = Open("Alpha");
+  KorvaleCopy& korvale = StartedCopy();
+  WorkIn(alpha);
+  WorkIn(korvale.Handle());
+  korvale.TagPrevious();
+  desktop.Close(alpha);
+  log.Clear();
+
+  korvale.Form().udmUnload(false);
+
+  EXPECT_TRUE(log.CallsOf("SaveSetting").empty());
+  EXPECT_TRUE(log.CallsOf("DeleteSection").empty());
+  EXPECT_EQ(korvale.Parts().tags.mnuWindowParentList.Find(1), nullptr);
+  EXPECT_TRUE(hotKeys.Registered().empty());
+  EXPECT_FALSE(korvale.Parts().options.Exists());
+}
+
+TEST_F(ShutdownTest, ItHappensOnce) {
+  KorvaleCopy& korvale = StartedCopy();
+  korvale.Form().udmUnload(true);
+  log.Clear();
+
+  korvale.Exit();
+
+  EXPECT_EQ(log.Calls(), (std::vector<std::string>{"PostQuitMessage()", "DestroyWindow(frmMain)"}));
+}
+
+TEST_F(ShutdownTest, TheCloseBoxAndAltF4AreExits) {
+  for (const bool byKey : {false, true}) {
+    KorvaleCopy& korvale = StartedCopy();
+    if (byKey) {
+      korvale.user.PressKey(korvale.Handle(), win32::kVkF4, kAlt);
+    } else {
+      korvale.user.PressCloseBox(korvale.Handle());
+    }
+    EXPECT_FALSE(log.CallsOf("SaveSetting(Korvale - Work, Startup").empty());
+    EXPECT_TRUE(hotKeys.Registered().empty());
+    EXPECT_TRUE(korvale.host.QuitPosted());
+    EndCopy(korvale);
+  }
+}
+
+TEST_F(ShutdownTest, ARefusedSaveIsToldAndTheHotKeysAreGivenBackAllTheSame) {
+  KorvaleCopy& korvale = StartedCopy();
+  store.RefuseWrites(true);
+  korvale.host.WhenMessageBox([](const ShownMessage& box) {
+    EXPECT_EQ(box.text, "VB ERROR 70 - Permission denied\r\rKorvale Error #5");
+    return win32::kIdOk;
+  });
+  korvale.Exit();
+  EXPECT_TRUE(hotKeys.Registered().empty());
+  EXPECT_FALSE(korvale.Form().IsLoaded());
+}
+
+TEST_F(ShutdownTest, TheSessionCanEndWhileAMessageBoxIsShown) {
+  KorvaleCopy& korvale = StartedCopy();
+  korvale.host.WhenMessageBox([&](const ShownMessage&) {
+    korvale.Form().OnCloseRequested(CloseReason::kSession);
+    return win32::kIdOk;
+  });
+  korvale.Form().TheWindowMenu().mnuWindowAddToList_Click(2);
+  EXPECT_FALSE(korvale.Form().IsLoaded());
+  EXPECT_TRUE(hotKeys.Registered().empty());
+  EXPECT_FALSE(clock.AdvanceToNextTick());
+}
+
+TEST_F(ShutdownTest, TagsOfClosedWindowsStayStoredButLeaveTheMenuAtShutdown) {
+  const WindowHandle alpha = Open("Alpha");
+  KorvaleCopy& korvale = StartedCopy();
+  WorkIn(alpha);
+  WorkIn(korvale.Handle());
+  korvale.TagPrevious();
+  desktop.Close(alpha);
+  LetTick();
+
+  korvale.Form().udmUnload(true);
+
+  EXPECT_EQ(Stored("ParentWindowList", "1"), "&1  Alpha");
+  EXPECT_EQ(korvale.Parts().tags.mnuWindowParentList.Find(1), nullptr);
+}
+
+TEST_F(ShutdownTest, TheEndOfTheSessionUnloadsNormally) {
+  KorvaleCopy& korvale = StartedCopy();
+  korvale.Form().OnCloseRequested(CloseReason::kSession);
+  EXPECT_FALSE(log.CallsOf("SaveSetting(Korvale - Work, Startup").empty());
+  EXPECT_TRUE(hotKeys.Registered().empty());
+}
+
+TEST_F(ShutdownTest, ASessionThatEndsDuringATipOfTheStartSavesNothing) {
+  KorvaleCopy& korvale = UsedCopy();
+  korvale.system.commandLine = "/x";
+  korvale.host.WhenModal("frmMsgTip", [&](class Form&) {
+    log.Clear();
+    korvale.Form().OnCloseRequested(CloseReason::kSession);
+  });
+
+  EXPECT_FALSE(korvale.Start());
+
+  EXPECT_TRUE(log.CallsOf("SaveSetting").empty());
+  EXPECT_TRUE(log.CallsOf("RegisterHotKey").empty());
+  EXPECT_TRUE(korvale.host.Messages().empty());
+  EXPECT_FALSE(korvale.Form().IsLoaded());
+}
+
+TEST_F(ShutdownTest, ASessionThatEndsDuringTheImportQuestionLeavesTheSettingsAlone) {
+  store.SaveSetting("Korvale Installations", "0", "Korvale - Old", "C:\\Gone\\Old");
+  store.SaveSetting("Korvale - Old", "Options", "SplashScreen", "False");
+  KorvaleCopy& korvale = NewCopy();
+  korvale.host.WhenMessageBox([&](const ShownMessage&) {
+    korvale.Form().OnCloseRequested(CloseReason::kSession);
+    return win32::kIdNo;
+  });
+
+  EXPECT_FALSE(korvale.Start());
+
+  EXPECT_TRUE(store.Sections("Korvale - Work").empty());
+  EXPECT_EQ(korvale.host.Messages().size(), 1U);
+}
+
+}  // namespace
+}  // namespace korvale
