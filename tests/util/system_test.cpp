@@ -20,7 +20,8 @@ class SystemOfTest : public SystemApi {
     return version_;
   }
   std::string GetWindowsDirectoryA(std::uint32_t bufferSize) override {
-    return folder_.substr(0, bufferSize - 1);
+    buffer_size_ = bufferSize;
+    return folder_.size() < bufferSize ? folder_ : "";
   }
   void ShellExecuteA(WindowHandle hwnd, const std::string& verb, const std::string& file,
                      int showCommand) override {
@@ -32,6 +33,7 @@ class SystemOfTest : public SystemApi {
 
   OsVersion version_;
   std::uint32_t structure_size_ = 0;
+  std::uint32_t buffer_size_ = 0;
   std::string folder_ = "C:\\Windows";
   std::vector<std::string> opened_;
 };
@@ -74,8 +76,14 @@ TEST(GetWindowsFolderTest, EndsInABackslash) {
 
 TEST(GetWindowsFolderTest, ReadsIntoABufferOf255Characters) {
   SystemOfTest system;
-  system.folder_ = std::string(300, 'w');
-  EXPECT_EQ(GetWindowsFolder(system), std::string(254, 'w') + "\\");
+  GetWindowsFolder(system);
+  EXPECT_EQ(system.buffer_size_, 255U);
+}
+
+TEST(GetWindowsFolderTest, IsABackslashWhenNothingWasRead) {
+  SystemOfTest system;
+  system.folder_ = std::string(255, 'w');
+  EXPECT_EQ(GetWindowsFolder(system), "\\");
 }
 
 TEST(OpenDocumentTest, OpensWithTheMainWindowAsItsParent) {
