@@ -12,6 +12,29 @@
 namespace korvale {
 namespace {
 
+/// Events of which only the typed texts count.
+struct TypedTexts final : FormEvents {
+  void OnTextTyped(int, const std::string& text) override { texts.push_back(text); }
+  void OnClick(int) override {}
+  void OnListPicked(int, int) override {}
+  void OnListDropDown(int) override {}
+  void OnListClosedUp(int) override {}
+  bool OnKeyDown(int, int, unsigned) override { return false; }
+  bool OnKeyUp(int, int, unsigned) override { return false; }
+  bool OnCharacter(int, char32_t, unsigned) override { return false; }
+  void OnMouse(int, const MouseInput&) override {}
+  void OnFocusMoved(int) override {}
+  void OnMenuOpened(MenuItem&) override {}
+  void OnMenuClicked(MenuItem&) override {}
+  void OnActivated() override {}
+  void OnPlaced(ShowState, const TwipsRect&) override {}
+  void OnCloseRequested(CloseReason) override {}
+  void OnTimer(int) override {}
+  void OnUncaught() noexcept override {}
+
+  std::vector<std::string> texts;
+};
+
 /// What only real windows have.
 class WindowsFormHostTest : public FormHostContract {
  protected:
@@ -160,14 +183,19 @@ TEST_F(WindowsFormHostTest, AChoiceThatChangesAsAListClosesIsTold) {
   EXPECT_EQ(form_.Take(), Lines{"click cboSize"});
 }
 
-TEST_F(WindowsFormHostTest, TextOfTheModelIsNotToldAsTyped) {
-  ShowForm();
-  const HWND box = Control("txtName");
-  SendMessageW(box, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"typed"));
-  EXPECT_EQ(form_.Find("txtName").Text(), "typed");
-  form_.onClick = [&](const std::string&) { form_.Find("txtName").SetText("by code"); };
-  SendMessageW(box, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"typed again"));
-  EXPECT_EQ(form_.Take(), (Lines{"click txtName", "click txtName"}));
+TEST_F(WindowsFormHostTest, OnlyTypedTextIsTold) {
+  FormState state;
+  state.controls.emplace_back();
+  state.controls[0].id = 1;
+  state.controls[0].kind = ControlKind::kTextBox;
+  TypedTexts events;
+  const WindowHandle window = Host().CreateWindowExW(state, events);
+  SendMessageW(FindControl(window, 1), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"typed"));
+  state.controls[0].text = "by code";
+  Host().UpdateControl(window, 1, ControlProperty::kText);
+  EXPECT_EQ(User().Text(window, 1), "by code");
+  EXPECT_EQ(events.texts, Lines{"typed"});
+  Host().DestroyWindow(window);
 }
 
 TEST_F(WindowsFormHostTest, ATextBoxGetsNoCharacterThatItWouldBeepAt) {
