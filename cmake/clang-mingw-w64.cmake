@@ -10,6 +10,7 @@ foreach(folder ${gcc}/include/c++ ${gcc}/include/c++/x86_64-w64-mingw32
                ${gcc}/include/c++/backward /usr/x86_64-w64-mingw32/include)
   string(APPEND headers " -isystem ${folder}")
 endforeach()
-set(CMAKE_CXX_FLAGS_INIT "${headers}")
+# GCC's libraries keep their thread-local variables this way.
+set(CMAKE_CXX_FLAGS_INIT "${headers} -femulated-tls")
 # GCC's libraries want its threads; the compiler's own flags mean nothing to the linker.
 set(CMAKE_EXE_LINKER_FLAGS_INIT "-B${gcc} -L${gcc} -pthread -Wno-unused-command-line-argument")
