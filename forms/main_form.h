@@ -156,6 +156,7 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   void ShowTopLevelMenus(bool shown);
   void CloseAbout();
   Twips HeightForContent() const;
+  bool IsTopmostBehindAnother() const;
   void LayOutFields();
   void RememberPlace();
 

@@ -31,12 +31,20 @@ Twips frmMain::HeightForContent() const {
   return height;
 }
 
+/// Making a window topmost once more only activates it, which takes the foreground from the window
+/// that the user has just selected.
+bool frmMain::IsTopmostBehindAnother() const {
+  WindowQueries& windows = platform_->windows;
+  return Visible() && windows.GetForegroundWindow() != Handle() &&
+         (windows.GetWindowLongA(Handle(), win32::kGwlExStyle) & win32::kWsExTopmost) != 0;
+}
+
 void frmMain::Form_Resize() {
   const bool ready = IsLoaded() && parts_.state.startUpFinished;
   if (!ready || WindowState() == ShowState::kMinimized) {
     return;
   }
-  if (parts_.startup.AlwaysOnTop) {
+  if (parts_.startup.AlwaysOnTop && !IsTopmostBehindAnother()) {
     parts_.actions.SetTopmost(Handle(), true);
   }
   LayOutFields();

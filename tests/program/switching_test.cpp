@@ -41,5 +41,16 @@ TEST_F(SwitchingTest, ATagBringsItsWindowToTheFront) {
   EXPECT_EQ(Front(), "notes - Editor");
 }
 
+TEST_F(SwitchingTest, AResizeOfTheTopmostMainWindowTakesTheForegroundFromNobody) {
+  store.SaveSetting("Korvale - Work", "Startup", "AlwaysOnTop", "True");
+  const WindowHandle alpha = Open("Alpha");
+  KorvaleCopy& korvale = StartedCopy();
+  WorkIn(alpha);
+
+  korvale.Form().Form_Resize();
+
+  EXPECT_EQ(Front(), "Alpha");
+}
+
 }  // namespace
 }  // namespace korvale
