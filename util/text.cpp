@@ -98,7 +98,23 @@ std::string UpperCase(std::string_view text) {
 }
 
 bool EqualsIgnoreCase(std::string_view left, std::string_view right) {
-  return UpperCase(left) == UpperCase(right);
+  if (left == right) return true;
+  while (!left.empty() && !right.empty()) {
+    if (left.front() == right.front() && static_cast<unsigned char>(left.front()) < 0x80) {
+      left.remove_prefix(1);
+      right.remove_prefix(1);
+      continue;
+    }
+    const Character one = FirstCharacter(left);
+    const Character other = FirstCharacter(right);
+    const bool same = one.valid && other.valid
+                          ? UpperCase(one.codePoint) == UpperCase(other.codePoint)
+                          : one.bytes == other.bytes;
+    if (!same) return false;
+    left.remove_prefix(one.bytes.size());
+    right.remove_prefix(other.bytes.size());
+  }
+  return left.empty() && right.empty();
 }
 
 std::string PadText(std::string_view text, std::int16_t width, std::string_view mode) {

@@ -93,6 +93,9 @@ TEST(EqualsIgnoreCaseTest, TellsDifferentTextsApart) {
   EXPECT_TRUE(EqualsIgnoreCase("frmMsgBox2", "FRMMSGBOX2"));
   EXPECT_FALSE(EqualsIgnoreCase("frmMsgBox2", "frmMsgBox"));
   EXPECT_FALSE(EqualsIgnoreCase("a", "b"));
+  EXPECT_FALSE(EqualsIgnoreCase("\xC3\xA4", "\xC3\xB6"));
+  EXPECT_FALSE(EqualsIgnoreCase("\xC3", "\xC3\xA4"));
+  EXPECT_TRUE(EqualsIgnoreCase("a\xFF", "A\xFF"));
 }
 
 TEST(PadTextTest, FillsUpToTheWidthOnTheSideOfTheMode) {
