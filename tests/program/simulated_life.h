@@ -1,0 +1,115 @@
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "desktop/previous_window.h"
+#include "tests/program/dice.h"
+#include "tests/program/korvale_world.h"
+#include "tests/program/simulated_programs.h"
+
+namespace korvale {
+
+/// A user who does anything at any time, with Korvale and with the programs around it. After each
+/// of his steps everything is checked that must always hold.
+class SimulatedLife : public KorvaleWorld {
+ protected:
+  /// Lives through `steps` steps, until the first check fails; then tells the last of them.
+  void Live(std::uint32_t seed, int steps);
+
+ private:
+  struct Step {
+    int weight;
+    void (SimulatedLife::*act)();
+  };
+  /// All that is kept between runs.
+  struct Kept {
+    clsOptions options;
+    StartupSettings startup;
+    SettingsStore::Pairs captions;
+    SettingsStore::Pairs classes;
+
+    friend bool operator==(const Kept&, const Kept&) = default;
+  };
+  /// What a selection may depend on, right before it.
+  struct Before {
+    int tag = 0;
+    PreviousWindow record;
+    bool mainInFront = false;
+    WindowHandle foreground = 0;
+    WindowHandle tagHandle = 0;
+    std::size_t boxes = 0;
+    /// Windows that are out of sight, minimized or hung.
+    std::set<WindowHandle> folded = {};
+  };
+
+  // simulated_life.cpp
+  void TakeStep();
+  void Note(std::string what);
+  void StartKorvale();
+  void ForgetKorvale();
+  void WaitForBoxes();
+  std::int16_t AnswerBox(const ShownMessage& box);
+  bool LiveInDialog();
+  void UseAddWindow(Form& dialog);
+  void CloseTip(Form& tip);
+  void Meanwhile();
+
+  // simulated_life_steps.cpp
+  static const std::vector<Step>& Steps();
+  void OtherPrograms();
+  void PassTime();
+  void TakeCombination();
+  const RegisteredHotKey* Registered(const std::string& name);
+  void Press(const RegisteredHotKey& hotKey);
+  void PressTagKey();
+  void PressActionKey();
+  void PressToggleKey();
+  void PopUpWindowMenu();
+  void GoToKorvale();
+  void UseMenu(const std::vector<std::string>& path);
+  std::string SomeEntry(const std::vector<ShownMenuItem>& items);
+  void UseWindowMenu();
+  void UseOtherMenu();
+  void MoveKorvale();
+  void Restart();
+  void Kill();
+  void ExpectKept(const Kept& before);
+
+  // simulated_life_options.cpp
+  void UseOptions();
+  void OpenOptions();
+  void UseOptionsDialog(Form& dialog);
+  void UseHotKeysPage(Form& dialog);
+  void EndOptions(Form& dialog);
+
+  // simulated_life_checks.cpp
+  Before LookBefore(int tag);
+  void CheckSelection(const Before& before);
+  void CheckSelectedTag(const Before& before, const MenuItem& entry);
+  void CheckPreviousSelected(const Before& before);
+  void ExpectRecordKept(const Before& before);
+  bool IsValid(const WindowTriple& window);
+  bool IsExcused(const Before& before, WindowHandle hwnd);
+  void CheckAlways();
+  void CheckHotKeys();
+  std::vector<RegisteredHotKey> WantedHotKeys();
+  Kept Keeps();
+  void CheckSaving();
+
+  std::unique_ptr<Dice> dice_;
+  std::unique_ptr<SimulatedPrograms> programs_;
+  KorvaleCopy* korvale_ = nullptr;
+  std::deque<std::string> lastSteps_;
+  /// A selection that was chosen from the pop-up menu.
+  std::optional<Before> poppedUp_;
+  Kept saved_;
+  bool noMoreBoxes_ = false;
+};
+
+}  // namespace korvale

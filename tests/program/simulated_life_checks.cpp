@@ -1,0 +1,201 @@
+#include <algorithm>
+#include <utility>
+
+#include "desktop/tag_list.h"
+#include "desktop/title_match.h"
+#include "hotkeys/hot_key_names.h"
+#include "tests/program/simulated_life.h"
+#include "util/text.h"
+
+namespace korvale {
+
+SimulatedLife::Before SimulatedLife::LookBefore(int tag) {
+  MainParts& parts = korvale_->Parts();
+  const MenuItem* const entry = parts.tags.mnuWindowParentList.Find(tag);
+  std::set<WindowHandle> folded;
+  for (const WindowHandle hwnd : desktop.Windows().TopLevel()) {
+    const FakeWindow& window = *desktop.Windows().Find(hwnd);
+    if (window.iconic || window.hung || !desktop.Windows().IsVisible(hwnd)) folded.insert(hwnd);
+  }
+  return {.tag = tag,
+          .record = parts.previous,
+          .mainInFront = korvale_->Form().FocusTag() == kGotFocus,
+          .foreground = desktop.Windows().Foreground(),
+          .tagHandle = entry == nullptr ? 0 : TagHandle(*entry),
+          .boxes = korvale_->host.Messages().size(),
+          .folded = std::move(folded)};
+}
+
+void SimulatedLife::CheckSelection(const Before& before) {
+  if (before.tag == 0) return CheckPreviousSelected(before);
+  const MenuItem* const entry = korvale_->Parts().tags.mnuWindowParentList.Find(before.tag);
+  if (entry == nullptr) {
+    EXPECT_EQ(korvale_->Parts().previous.current, before.record.current);
+    EXPECT_EQ(desktop.Windows().Foreground(), before.foreground);
+    return;
+  }
+  const bool told = korvale_->host.Messages().size() > before.boxes;
+  if (told || TagHandle(*entry) != desktop.Windows().Foreground() || TagHandle(*entry) == 0) {
+    // A failure that nobody is told about is one of Windows' own.
+    EXPECT_TRUE(told || IsExcused(before, TagHandle(*entry)))
+        << "Tag " << before.tag << " stands for " << log.Window(TagHandle(*entry))
+        << ", in front is " << log.Window(desktop.Windows().Foreground());
+    return ExpectRecordKept(before);
+  }
+  CheckSelectedTag(before, *entry);
+}
+
+void SimulatedLife::CheckSelectedTag(const Before& before, const MenuItem& entry) {
+  const WindowHandle selected = TagHandle(entry);
+  const FakeWindow& window = *desktop.Windows().Find(selected);
+  const PreviousWindow& record = korvale_->Parts().previous;
+  EXPECT_TRUE(!window.iconic || window.hung);
+  if (selected == before.foreground && selected == before.tagHandle) {
+    return ExpectRecordKept(before);
+  }
+  EXPECT_TRUE(desktop.Windows().IsVisible(selected));
+  EXPECT_TRUE(window.enabled);
+  EXPECT_EQ(korvale_->Parts().tags.ParentWindowClass.at(static_cast<std::size_t>(before.tag) - 1),
+            window.className);
+  // The recorded windows are known by their handles, whatever their titles have become.
+  if (selected != before.record.current.handle && selected != before.record.alternate.handle) {
+    EXPECT_TRUE(TitleMatches(entry.caption, window.title, true))
+        << entry.caption << " is no " << window.title;
+  }
+  if (selected == korvale_->Handle()) return ExpectRecordKept(before);
+  EXPECT_EQ(record.current.handle, selected);
+  EXPECT_EQ(record.current.text, window.title);
+  EXPECT_EQ(record.alternate.handle,
+            before.mainInFront ? korvale_->Handle() : before.record.current.handle);
+}
+
+void SimulatedLife::CheckPreviousSelected(const Before& before) {
+  const WindowTriple& chosen = before.mainInFront ? before.record.current : before.record.alternate;
+  EXPECT_EQ(korvale_->host.Messages().size(), before.boxes);
+  if (IsValid(chosen) && !IsExcused(before, chosen.handle)) {
+    EXPECT_EQ(desktop.Windows().Foreground(), chosen.handle);
+  }
+  ExpectRecordKept(before);
+}
+
+/// The record as it was, but for windows that have gone meanwhile.
+void SimulatedLife::ExpectRecordKept(const Before& before) {
+  PreviousWindow expected = before.record;
+  if (!IsValid(expected.current)) {
+    expected.current = std::exchange(expected.alternate, {});
+    if (expected.current.handle == korvale_->Handle() || !IsValid(expected.current)) {
+      expected.current = {};
+    }
+  }
+  const PreviousWindow& record = korvale_->Parts().previous;
+  EXPECT_EQ(record.current.handle, expected.current.handle);
+  EXPECT_EQ(record.current.className, expected.current.className);
+  EXPECT_EQ(record.alternate.handle, expected.alternate.handle);
+  EXPECT_EQ(record.alternate.className, expected.alternate.className);
+}
+
+bool SimulatedLife::IsValid(const WindowTriple& triple) {
+  const FakeWindow* const window = desktop.Windows().Find(triple.handle);
+  return window != nullptr && window->enabled && window->className == triple.className &&
+         window->className != "Progman" && desktop.Windows().IsVisible(triple.handle) &&
+         triple.handle != korvale_->bridge.Owner();
+}
+
+/// Windows may refuse to bring this window to the front.
+bool SimulatedLife::IsExcused(const Before& before, WindowHandle hwnd) {
+  const FakeWindow* const window = desktop.Windows().Find(hwnd);
+  return programs_->ForegroundLocked() ||
+         (window != nullptr && before.folded.contains(window->owner));
+}
+
+void SimulatedLife::CheckAlways() {
+  frmMain& form = korvale_->Form();
+  ASSERT_TRUE(form.IsLoaded());
+  EXPECT_NE(korvale_->Parts().previous.current.handle, form.Handle());
+  EXPECT_TRUE(form.tmrWindow().Enabled());
+  EXPECT_EQ(form.tmrWindow().Tag(), "ON");
+  EXPECT_EQ(clock.IntervalOf(form.Handle(), form.Find("tmrWindow").Id()), 100U);
+  EXPECT_TRUE(desktop.Windows().Find(form.Handle())->enabled);
+  EXPECT_FALSE(korvale_->Parts().suspension.Active());
+  CheckHotKeys();
+  CheckSaving();
+}
+
+void SimulatedLife::CheckHotKeys() {
+  const std::vector<RegisteredHotKey>& table = korvale_->Parts().hotKeys.Registered();
+  std::vector<FakeHotKeys::Registration> expected;
+  for (std::size_t i = 0; i < table.size(); ++i) {
+    if (!table[i].accepted) continue;
+    expected.push_back({korvale_->Handle(), static_cast<int>(i) + 1,
+                        static_cast<std::uint32_t>(table[i].modifiers),
+                        static_cast<std::uint32_t>(table[i].key)});
+  }
+  EXPECT_EQ(hotKeys.Registered() == expected, true) << "registered is another than the table";
+  const std::vector<RegisteredHotKey> wanted = WantedHotKeys();
+  EXPECT_TRUE(std::ranges::equal(
+      table, wanted, [](const RegisteredHotKey& left, const RegisteredHotKey& right) {
+        return left.name == right.name && left.modifiers == right.modifiers &&
+               left.key == right.key;
+      }));
+}
+
+/// What the options ask for.
+std::vector<RegisteredHotKey> SimulatedLife::WantedHotKeys() {
+  const clsOptions& options = korvale_->Parts().options.Get();
+  std::vector<RegisteredHotKey> wanted;
+  if (korvale_->Parts().hotKeys.HotKeysActive()) {
+    for (std::int16_t tag = 0; tag <= 9; ++tag) {
+      if (!options.booHotKeyParent[static_cast<std::size_t>(tag)]) continue;
+      wanted.push_back({ParentHotKeyName(tag), options.intHotKeyModParent,
+                        static_cast<std::int16_t>('0' + tag)});
+    }
+    const auto add = [&](const char* name, std::int16_t modifiers, std::int16_t key) {
+      if (key != 0) wanted.push_back({name, modifiers, key});
+    };
+    add(kHotKeyMinimizeParent, options.intHotKeyModAction[0], options.intHotKeyAction[0]);
+    add(kHotKeyRestoreMaximizeParent, options.intHotKeyModAction[1], options.intHotKeyAction[1]);
+    add(kHotKeyDisplayOptions, options.intHotKeyModGeneral[0], options.intHotKeyGeneral[0]);
+    add(kHotKeyWindowMenuPopup, options.intHotKeyModGeneral[1], options.intHotKeyGeneral[1]);
+  }
+  if (options.intHotKeyGeneral[2] != 0) {
+    wanted.push_back(
+        {kHotKeyToggleHotKeys, options.intHotKeyModGeneral[2], options.intHotKeyGeneral[2]});
+  }
+  return wanted;
+}
+
+SimulatedLife::Kept SimulatedLife::Keeps() {
+  MainParts& parts = korvale_->Parts();
+  Kept kept{parts.options.Get(), parts.startup, {}, {}};
+  parts.tags.mnuWindowParentList.ForEach([&](const MenuItem& entry) {
+    if (entry.index == 0) return;
+    const std::string tag = DecimalText(entry.index);
+    kept.captions.emplace_back(tag, entry.caption);
+    kept.classes.emplace_back(tag, TagClass(parts.tags, entry));
+  });
+  return kept;
+}
+
+/// Saves what has changed into an empty store and loads it again.
+void SimulatedLife::CheckSaving() {
+  Kept kept = Keeps();
+  if (kept == saved_) return;
+  FakeSettingsStore empty;
+  Settings settings(empty, "Korvale - Elsewhere");
+  if (kept.options != saved_.options) {
+    settings.SaveOptions(kept.options);
+    clsOptions options;
+    settings.LoadOptions(options);
+    EXPECT_EQ(options, kept.options);
+  }
+  settings.SaveINI(kept.startup, [&](SettingsStore& target) {
+    TagListPasses(korvale_->Parts().tags, desktop, target)
+        .TagListPass(TagListMode::kSave, 0, settings.AppName());
+  });
+  EXPECT_EQ(settings.LoadStartup(), kept.startup);
+  EXPECT_EQ(settings.LoadTagList().captions, kept.captions);
+  EXPECT_EQ(settings.LoadTagList().classes, kept.classes);
+  saved_ = std::move(kept);
+}
+
+}  // namespace korvale

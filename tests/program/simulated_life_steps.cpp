@@ -1,0 +1,209 @@
+#include <algorithm>
+
+#include "hotkeys/hot_key_names.h"
+#include "platform/win32_constants.h"
+#include "tests/program/simulated_life.h"
+
+namespace korvale {
+namespace {
+
+constexpr std::uint32_t kDigitZeroKey = '0';
+
+bool IsTagEntry(const std::string& caption) {
+  return caption.size() >= 3 && caption[0] >= '0' && caption[0] <= '9' &&
+         caption.substr(1, 2) == "  ";
+}
+
+}  // namespace
+
+const std::vector<SimulatedLife::Step>& SimulatedLife::Steps() {
+  static const std::vector<Step> steps = {
+      {1000, &SimulatedLife::OtherPrograms},
+      {150, &SimulatedLife::PassTime},
+      {10, &SimulatedLife::TakeCombination},
+      {200, &SimulatedLife::PressTagKey},
+      {40, &SimulatedLife::PressActionKey},
+      {8, &SimulatedLife::PressToggleKey},
+      {50, &SimulatedLife::PopUpWindowMenu},
+      {30, &SimulatedLife::UseWindowMenu},
+      {15, &SimulatedLife::UseOtherMenu},
+      {8, &SimulatedLife::MoveKorvale},
+      {30, &SimulatedLife::UseOptions},
+      {2, &SimulatedLife::Restart},
+      {1, &SimulatedLife::Kill},
+  };
+  return steps;
+}
+
+void SimulatedLife::OtherPrograms() {
+  Note("a program " + programs_->Act());
+  if (!dice_->OneIn(3)) clock.Advance(100);
+}
+
+void SimulatedLife::PassTime() {
+  const int milliseconds = 50 * (1 + dice_->Below(8));
+  Note(std::to_string(milliseconds) + " ms pass");
+  clock.Advance(static_cast<std::uint64_t>(milliseconds));
+}
+
+void SimulatedLife::TakeCombination() {
+  const auto modifiers = static_cast<std::uint32_t>(1 + dice_->Below(2));
+  const std::uint32_t key = kDigitZeroKey + static_cast<std::uint32_t>(dice_->Below(10));
+  if (dice_->OneIn(2) && hotKeys.RegisterForeign(modifiers, key)) {
+    Note("a program takes a combination");
+  } else {
+    hotKeys.ReleaseForeign(modifiers, key);
+  }
+}
+
+const RegisteredHotKey* SimulatedLife::Registered(const std::string& name) {
+  const auto& table = korvale_->Parts().hotKeys.Registered();
+  const auto found = std::ranges::find(table, name, &RegisteredHotKey::name);
+  return found != table.end() && found->accepted ? &*found : nullptr;
+}
+
+void SimulatedLife::Press(const RegisteredHotKey& hotKey) {
+  Note("presses " + hotKey.name);
+  EXPECT_TRUE(hotKeys.Press(static_cast<std::uint32_t>(hotKey.modifiers),
+                            static_cast<std::uint32_t>(hotKey.key)));
+}
+
+void SimulatedLife::PressTagKey() {
+  const int tag = dice_->Below(10);
+  const RegisteredHotKey* const hotKey =
+      Registered(ParentHotKeyName(static_cast<std::int16_t>(tag)));
+  if (hotKey == nullptr) return;
+  const Before before = LookBefore(tag);
+  Press(*hotKey);
+  CheckSelection(before);
+}
+
+void SimulatedLife::PressActionKey() {
+  const RegisteredHotKey* const hotKey =
+      Registered(dice_->OneIn(2) ? kHotKeyMinimizeParent : kHotKeyRestoreMaximizeParent);
+  if (hotKey != nullptr) Press(*hotKey);
+}
+
+void SimulatedLife::PressToggleKey() {
+  const RegisteredHotKey* const hotKey = Registered(kHotKeyToggleHotKeys);
+  if (hotKey != nullptr) Press(*hotKey);
+}
+
+void SimulatedLife::PopUpWindowMenu() {
+  const RegisteredHotKey* const hotKey = Registered(kHotKeyWindowMenuPopup);
+  if (hotKey == nullptr) return;
+  korvale_->host.WhenPopupMenu([this](const std::vector<ShownMenuItem>& items) {
+    const std::string caption = dice_->OneIn(4) ? "" : SomeEntry(items);
+    Note("  chooses [" + caption + "]");
+    if (IsTagEntry(caption)) poppedUp_ = LookBefore(caption[0] - '0');
+    return caption;
+  });
+  poppedUp_.reset();
+  Press(*hotKey);
+  if (poppedUp_) CheckSelection(*poppedUp_);
+}
+
+void SimulatedLife::GoToKorvale() {
+  desktop.UserActivates(korvale_->Handle());
+  if (!korvale_->user.MenuBarItems(korvale_->Handle()).empty()) return;
+  korvale_->user.PressKey(korvale_->Handle(), 'V', kAlt);
+  korvale_->user.PressKey(korvale_->Handle(), win32::kVkEscape);
+}
+
+void SimulatedLife::UseMenu(const std::vector<std::string>& path) {
+  Note("chooses [" + path.back() + "]");
+  GoToKorvale();
+  korvale_->user.ChooseMenu(korvale_->Handle(), path);
+}
+
+std::string SimulatedLife::SomeEntry(const std::vector<ShownMenuItem>& items) {
+  std::vector<std::string> captions;
+  for (const ShownMenuItem& item : items) {
+    if (item.enabled && item.caption != "-") captions.push_back(item.caption);
+  }
+  return dice_->Pick(captions);
+}
+
+void SimulatedLife::UseWindowMenu() {
+  GoToKorvale();
+  std::vector<ShownMenuItem> items;
+  // Each opening looks at the foreground; after three nothing is new to it any more.
+  for (int i = 0; i < 3; ++i) items = korvale_->WindowMenuItems();
+  const std::string caption = dice_->OneIn(3) ? items.back().caption : SomeEntry(items);
+  Note("chooses [" + caption + "] from the Window menu");
+  if (!items.back().enabled && caption == items.back().caption) return;
+  if (!IsTagEntry(caption)) {
+    return korvale_->user.ChooseMenu(korvale_->Handle(), {"Window", caption});
+  }
+  const Before before = LookBefore(caption[0] - '0');
+  korvale_->user.ChooseMenu(korvale_->Handle(), {"Window", caption});
+  CheckSelection(before);
+}
+
+void SimulatedLife::UseOtherMenu() {
+  switch (dice_->Below(6)) {
+    case 0:
+      return UseMenu({"View", "Menu"});
+    case 1:
+      return UseMenu({"View", "Target Window"});
+    case 2:
+      return UseMenu({"View", "Default Settings", "Target Window/Class Colors"});
+    case 3:
+      return UseMenu({"Help", "Display Tip Messages"});
+    default:
+      return UseMenu({"Tools", korvale_->Parts().hotKeys.HotKeysActive() ? "Deactivate Hot Keys"
+                                                                         : "Activate Hot Keys"});
+  }
+}
+
+void SimulatedLife::MoveKorvale() {
+  if (dice_->OneIn(4)) {
+    Note("minimizes Korvale");
+    return desktop.UserMinimizes(korvale_->Handle());
+  }
+  Note("moves Korvale");
+  desktop.UserActivates(korvale_->Handle());
+  if (korvale_->Form().WindowState() != ShowState::kNormal) return;
+  TwipsRect place = korvale_->user.Place(korvale_->Handle());
+  place.left = 15 * dice_->Below(400);
+  place.top = 15 * dice_->Below(400);
+  place.width += 15 * (dice_->Below(41) - 20);
+  korvale_->user.Drag(korvale_->Handle(), place);
+}
+
+void SimulatedLife::Restart() {
+  Note("restarts Korvale");
+  Kept before = Keeps();
+  if (dice_->OneIn(2)) {
+    desktop.UserActivates(korvale_->Handle());
+    korvale_->user.PressCloseBox(korvale_->Handle());
+  } else {
+    UseMenu({"File", "Exit"});
+  }
+  before.startup = korvale_->Parts().startup;
+  EXPECT_FALSE(korvale_->Form().IsLoaded());
+  EXPECT_TRUE(hotKeys.Registered().empty());
+  ForgetKorvale();
+  StartKorvale();
+  ExpectKept(before);
+  // The height follows from what the window shows.
+  before.startup.Height = korvale_->Parts().startup.Height;
+  EXPECT_EQ(korvale_->Parts().startup, before.startup);
+}
+
+void SimulatedLife::Kill() {
+  Note("kills Korvale");
+  const Kept before = Keeps();
+  ForgetKorvale();
+  StartKorvale();
+  ExpectKept(before);
+}
+
+void SimulatedLife::ExpectKept(const Kept& before) {
+  const Kept after = Keeps();
+  EXPECT_EQ(after.options, before.options);
+  EXPECT_EQ(after.captions, before.captions);
+  EXPECT_EQ(after.classes, before.classes);
+}
+
+}  // namespace korvale

@@ -1,0 +1,215 @@
+#include <chrono>
+#include <cstdlib>
+#include <string>
+
+#include "app/core/save_journal.h"
+#include "app/core/setting_rows.h"
+#include "platform/win32_constants.h"
+#include "tests/program/dice.h"
+#include "tests/program/korvale_world.h"
+#include "util/text.h"
+
+namespace korvale {
+namespace {
+
+constexpr const char* kApp = "Korvale - Work";
+constexpr const char* kRegister = "Korvale Installations";
+constexpr int kRounds = 300;
+constexpr std::uint32_t kFirstSeed = 1;
+constexpr std::int32_t kButtonsMask = 0xF;
+
+constexpr const char* kNumbers[] = {
+    "",      "0",      "-1",          "1",          "3",           "32767",    "32768", "-32768",
+    "65535", "-32769", "-2147483648", "2147483647", "99999999999", " 7 ",      "1e5",   "0x10",
+    "1.5",   "True",   "FALSE",       "true ",      "not a value", "000000012"};
+constexpr const char* kSections[] = {"Options",           "Startup",      "ParentWindowList",
+                                     "ParentWindowClass", "ButtonTags",   "ButtonColors",
+                                     "ChildWindowList",   kJournalSection};
+
+/// Starts Korvale with anything at all in its settings.
+class StoredSettingsFuzzTest : public KorvaleWorld {
+ protected:
+  /// One start with a store made from this seed, one save, and one load of what was saved.
+  void Round(std::uint32_t seed) {
+    dice_ = Dice(seed);
+    store = FakeSettingsStore(log);
+    log.Clear();
+    FillStore();
+    KorvaleCopy& korvale = NewCopy();
+    korvale.host.SetIdle([&] { return CloseModal(korvale); });
+    Answer(korvale);
+    const bool started = korvale.Start();
+    if (started) {
+      CheckRanges(korvale);
+      const Kept before = Keeps(korvale);
+      korvale.Exit();
+      EXPECT_EQ(Stored(), before);
+    } else {
+      EXPECT_FALSE(korvale.Form().IsLoaded());
+    }
+    EXPECT_TRUE(hotKeys.Registered().empty());
+    End(korvale);
+  }
+
+ private:
+  struct Kept {
+    clsOptions options;
+    StartupSettings startup;
+    SettingsStore::Pairs captions;
+    SettingsStore::Pairs classes;
+
+    friend bool operator==(const Kept&, const Kept&) = default;
+  };
+
+  std::string AnyBytes() {
+    std::string bytes;
+    for (int left = dice_.Below(dice_.OneIn(50) ? 5000 : 20); left > 0; --left) {
+      bytes += static_cast<char>(dice_.Below(256));
+    }
+    return bytes;
+  }
+  std::string AnyValue() {
+    switch (dice_.Below(4)) {
+      case 0:
+        return AnyBytes();
+      case 1:
+        return DecimalText(dice_.Below(70'000) - 35'000);
+      case 2:
+        return "&" + DecimalText(dice_.Below(11)) + "  " + AnyBytes();
+      default:
+        return dice_.Pick(kNumbers);
+    }
+  }
+  void Put(const std::string& appName, const std::string& section, const std::string& key) {
+    if (dice_.OneIn(10)) {
+      store.SetOtherType(appName, section, key);
+    } else if (!dice_.OneIn(10)) {
+      store.SaveSetting(appName, section, key, AnyValue());
+    }
+  }
+  std::string AnyJournalEntry(int number) {
+    constexpr char kKinds[] = {'S', 'K', 'D', 'X'};
+    std::string name = DecimalText(dice_.OneIn(8) ? dice_.Below(40) : number) + "\\";
+    name += dice_.Pick(kKinds);
+    const char* const appName = dice_.OneIn(8) ? "Korvale - Other" : kApp;
+    return name + "\\" + appName + "\\" + dice_.Pick(kSections) + "\\" +
+           (dice_.OneIn(2) ? std::string("WindowState") : AnyBytes());
+  }
+  void FillJournal() {
+    const int entries = dice_.Below(12);
+    for (int number = 1; number <= entries; ++number) {
+      Put(kApp, kJournalSection, dice_.OneIn(10) ? AnyBytes() : AnyJournalEntry(number));
+    }
+    const std::string count = dice_.OneIn(4) ? AnyValue() : DecimalText(entries);
+    store.SaveSetting(kApp, kJournalSection, "Complete", count);
+  }
+  void FillStore() {
+    for (const auto& row : OptionRows()) Put(kApp, row.section, row.key);
+    for (const auto& row : StartupRows()) Put(kApp, row.section, row.key);
+    for (int tag = 0; tag <= 10; ++tag) {
+      Put(kApp, "ParentWindowList", DecimalText(tag));
+      Put(kApp, "ParentWindowClass", DecimalText(tag));
+    }
+    for (int i = dice_.Below(6); i > 0; --i) Put(kApp, dice_.Pick(kSections), AnyBytes());
+    for (int i = dice_.Below(3); i > 0; --i) Put(kRegister, "0", "Korvale - " + AnyBytes());
+    if (dice_.OneIn(3)) Put(kRegister, "0", kApp);
+    if (dice_.OneIn(3)) FillJournal();
+  }
+
+  void Answer(KorvaleCopy& korvale) {
+    korvale.host.WhenMessageBox([this, &korvale](const ShownMessage& box) {
+      if (box.title.empty()) return std::int16_t{win32::kIdOk};
+      Answer(korvale);
+      EXPECT_EQ(box.text.find("VB ERROR"), std::string::npos) << box.text;
+      const bool asks = (box.style & kButtonsMask) == win32::kMbYesNo;
+      return static_cast<std::int16_t>(!asks            ? win32::kIdOk
+                                       : dice_.OneIn(2) ? win32::kIdYes
+                                                        : win32::kIdNo);
+    });
+  }
+  bool CloseModal(KorvaleCopy& korvale) {
+    class Form* const form = korvale.program.Forms().TopModal();
+    if (form == nullptr) return false;
+    korvale.user.PressCloseBox(form->Handle());
+    return true;
+  }
+  void End(KorvaleCopy& korvale) {
+    korvale.host.MessageBoxW(0, "", "", win32::kMbOk);
+    const WindowHandle owner = korvale.bridge.Owner();
+    EndCopy(korvale);
+    desktop.Windows().Destroy(owner);
+  }
+
+  void CheckRanges(KorvaleCopy& korvale) {
+    const StartupSettings& startup = korvale.Parts().startup;
+    EXPECT_GE(startup.WindowState, 0);
+    EXPECT_LE(startup.WindowState, 2);
+    EXPECT_GE(startup.OptionsTab, 1);
+    EXPECT_LE(startup.OptionsTab, 3);
+    korvale.Parts().tags.mnuWindowParentList.ForEach([&](const MenuItem& entry) {
+      EXPECT_LE(entry.index, kTagCount);
+      EXPECT_TRUE(entry.caption.starts_with("&" + DecimalText(entry.index) + "  "));
+    });
+    for (const RegisteredHotKey& hotKey : korvale.Parts().hotKeys.Registered()) {
+      EXPECT_NE(hotKey.key, 0);
+    }
+    korvale.Form().udmOptions("LOAD_AND_OR_REFRESH");
+    const clsOptions before = korvale.Parts().options.Get();
+    korvale.Form().udmOptions("UPDATE_OPTIONS");
+    EXPECT_EQ(korvale.Parts().options.Get(), before);
+    korvale.Form().udmSaveOptions();
+    // A user can bring it to where he can use it.
+    desktop.UserActivates(korvale.Handle());
+    if (!startup.Menu) {
+      korvale.user.PressKey(korvale.Handle(), 'V', kAlt);
+      korvale.user.PressKey(korvale.Handle(), win32::kVkEscape);
+    }
+  }
+
+  Kept Keeps(KorvaleCopy& korvale) {
+    MainParts& parts = korvale.Parts();
+    Kept kept{parts.options.Get(), parts.startup, {}, {}};
+    parts.tags.mnuWindowParentList.ForEach([&](const MenuItem& entry) {
+      if (entry.index == 0) return;
+      kept.captions.emplace_back(DecimalText(entry.index), entry.caption);
+      kept.classes.emplace_back(DecimalText(entry.index), TagClass(parts.tags, entry));
+    });
+    return kept;
+  }
+  Kept Stored() {
+    Settings settings(store, kApp);
+    Kept kept;
+    settings.LoadOptions(kept.options);
+    kept.startup = settings.LoadStartup();
+    const StoredTagList tags = settings.LoadTagList();
+    kept.captions = tags.captions;
+    kept.classes = tags.classes;
+    return kept;
+  }
+
+  Dice dice_{0};
+};
+
+std::int32_t Setting(const char* name, std::int32_t otherwise) {
+  const char* const text = std::getenv(name);
+  return text == nullptr ? otherwise : ParseInt32(text).value_or(otherwise);
+}
+
+/// KORVALE_FUZZ_SECONDS lets it run longer, KORVALE_SEED begins with another seed.
+TEST_F(StoredSettingsFuzzTest, AnyStoreAtAllLeadsToValidSettingsThatAreSavedAndLoadedAgain) {
+  using Clock = std::chrono::steady_clock;
+  const auto end = Clock::now() + std::chrono::seconds(Setting("KORVALE_FUZZ_SECONDS", 0));
+  auto seed = static_cast<std::uint32_t>(Setting("KORVALE_SEED", kFirstSeed));
+  for (int round = 0; round < kRounds || Clock::now() < end; ++round, ++seed) {
+    SCOPED_TRACE("with seed " + std::to_string(seed));
+    try {
+      Round(seed);
+    } catch (const std::exception& error) {
+      ADD_FAILURE() << error.what();
+    }
+    if (HasFailure()) return;
+  }
+}
+
+}  // namespace
+}  // namespace korvale
