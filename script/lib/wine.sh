@@ -32,7 +32,7 @@ wine_display() {
 wine_template() {
   local wine_version
   wine_version=$("$WINE_LOADER" --version | tr -c 'A-Za-z0-9.\n' '_')
-  WINE_TEMPLATE=${KORVALE_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/korvale}/prefix-3-$wine_version
+  WINE_TEMPLATE=${KORVALE_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/korvale}/prefix-4-$wine_version
   if [ -f "$WINE_TEMPLATE.done" ]; then return; fi
   rm -rf "$WINE_TEMPLATE"
   mkdir -p "$(dirname "$WINE_TEMPLATE")"
@@ -66,8 +66,13 @@ wine_begin() {
 wine_suite() {
   export WINEPREFIX=$WINE_WORK/prefix-${#WINE_PREFIXES[@]}
   WINE_PREFIXES+=("$WINEPREFIX")
-  # Wine replaces its registry files as a whole, and nobody writes into its programs.
-  cp -al "$WINE_TEMPLATE" "$WINEPREFIX" 2>/dev/null || cp -a "$WINE_TEMPLATE" "$WINEPREFIX"
+  # Nobody writes into Wine's programs, so they are shared; the registry files are this suite's own.
+  if cp -al "$WINE_TEMPLATE" "$WINEPREFIX" 2>/dev/null; then
+    rm -f "$WINEPREFIX"/*.reg
+    cp -a "$WINE_TEMPLATE"/*.reg "$WINEPREFIX"/
+  else
+    cp -a "$WINE_TEMPLATE" "$WINEPREFIX"
+  fi
 }
 
 wine_run() { "$WINE_LOADER" "$@"; }

@@ -8,6 +8,14 @@ constexpr DWORD kNoMaximizeBox = WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
 
 class WindowActions : public KorvaleTest {
  protected:
+  Window HiddenOwner() { return Open({.title = "Owner", .show = SW_HIDE}); }
+
+  /// What this desktop makes of the call that puts a window on top.
+  static bool GoesOnTop(Window window) {
+    SetWindowPos(window.handle(), HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    return WaitFor([&] { return window.Topmost(); }, kWhile);
+  }
+
   /// The window keeps its size for as long as three ticks.
   static bool StaysAsItIs(Window window) {
     const bool minimized = window.Minimized();
@@ -87,12 +95,16 @@ TEST_F(WindowActions, MinimizeAllAndRestoreAllSkipWhatTheyMayNotTouch) {
 
 TEST_F(WindowActions, TheMainWindowGoesOnTopAndComesDownAgain) {
   Start();
+  const auto stored = [&] { return installation_.settings().Get("Startup", "AlwaysOnTop"); };
+  // Wine leaves a window with a hidden owner among the others; the main window is such a one.
+  const bool granted = GoesOnTop(Open({.title = "Owned", .owner = HiddenOwner()}));
   ASSERT_TRUE(OpenWindowMenu());
   Press({0, 'O'});
-  EXPECT_TRUE(WaitFor([&] { return main().Topmost(); }));
+  EXPECT_TRUE(WaitFor([&] { return stored() == "True"; }));
+  EXPECT_TRUE(WaitFor([&] { return main().Topmost() == granted; }));
   ASSERT_TRUE(OpenWindowMenu());
   Press({0, 'O'});
-  EXPECT_TRUE(WaitFor([&] { return !main().Topmost(); }));
+  EXPECT_TRUE(WaitFor([&] { return stored() == "False" && !main().Topmost(); }));
 }
 
 TEST_F(WindowActions, ThePreviousWindowGoesOnTopAndComesDownAgain) {
