@@ -131,11 +131,14 @@ TEST_F(InstancesTest, ACopyThatAsksAboutImportingIsNotAskedAnewByTheSecondOne) {
     return win32::kIdYes;
   });
   first.host.AnswerNext(win32::kIdNo);
+  std::int16_t answerAfterImport = 0;
+  log.WhenCalled("RegisterHotKey", [&] { answerAfterImport = first.Parts().state.lastAnswer; });
 
   EXPECT_TRUE(first.Start());
 
   EXPECT_FALSE(secondStarted);
   EXPECT_EQ(second.host.Messages().size(), 1U);
+  EXPECT_EQ(answerAfterImport, win32::kIdYes);
   EXPECT_EQ(Stored("Options", "HotKeyModParent"), "2");
 }
 

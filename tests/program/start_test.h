@@ -39,6 +39,7 @@ class StartTest : public KorvaleWorld {
   static void ReadTip(KorvaleCopy& copy, std::string& text) {
     copy.host.WhenModal("frmMsgTip", [&copy, &text](class Form& tip) {
       text = tip.Find("lblTip").Text();
+      EXPECT_EQ(tip.Caption(), "TIP - Korvale");
       copy.user.Click(tip.Handle(), tip.Find("cmdOK").Id());
     });
   }
