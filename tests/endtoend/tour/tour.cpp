@@ -154,10 +154,12 @@ void Tour::CloseAndReopen() {
 }
 
 void Tour::Toggle(const std::string& what) {
+  const Window before = Foreground();
   Press(kToggleKey);
   const Window notice = korvale_->Form("frmWaitWindow");
   report_.Step(what + ": " + LabelText(notice), static_cast<bool>(notice));
-  WaitFor([&] { return !korvale_->HasForm("frmWaitWindow"); });
+  // Korvale gives the foreground back once the notice has gone, which takes effect a moment later.
+  WaitFor([&] { return !korvale_->HasForm("frmWaitWindow") && Foreground() == before; });
 }
 
 void Tour::SwitchOffAndOn() {
