@@ -10,6 +10,9 @@
 namespace korvale::endtoend {
 namespace {
 
+/// How long the desktop may take to bring a window forward before it is asked again.
+constexpr std::chrono::milliseconds kAsk{1000};
+
 constexpr UINT kAnswerMs = 1000;
 
 BOOL CALLBACK Collect(HWND handle, LPARAM windows) {
@@ -98,10 +101,15 @@ bool Window::Close() const {
 Window Foreground() { return Window(GetForegroundWindow()); }
 
 bool BringToFront(Window window) {
-  if (Foreground() == window) return true;
-  EarnForeground();
-  SetForegroundWindow(window.handle());
-  return WaitFor([&] { return Foreground() == window; });
+  const auto in_front = [&] { return Foreground() == window; };
+  // A dialog that closes meanwhile may pass the foreground on after us; then we ask again.
+  for (auto waited = kPatience; waited > kPatience.zero(); waited -= kAsk) {
+    if (in_front()) return true;
+    EarnForeground();
+    SetForegroundWindow(window.handle());
+    if (WaitFor(in_front, kAsk)) return true;
+  }
+  return false;
 }
 
 std::vector<Window> TopLevelWindows() {
