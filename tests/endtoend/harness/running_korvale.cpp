@@ -76,10 +76,14 @@ std::string LabelText(Window dialog) {
 bool AnswerBox(Window box, int button) {
   const Window control(GetDlgItem(box.handle(), button));
   if (!WaitFor([&] { return control.Visible() && control.Enabled(); })) return false;
-  // Another window that comes forward late could lie over the button.
-  if (!BringToFront(box)) return false;
-  Click(control);
-  return WaitFor([&] { return !box.Exists() || !box.Visible(); });
+  const auto gone = [&] { return !box.Exists() || !box.Visible(); };
+  // A window that comes forward late can lie over the button when it is clicked; click again then.
+  for (int attempt = 0; attempt < 5; ++attempt) {
+    if (gone()) return true;
+    if (BringToFront(box)) Click(control);
+    if (WaitFor(gone, std::chrono::milliseconds(2000))) return true;
+  }
+  return false;
 }
 
 }  // namespace korvale::endtoend

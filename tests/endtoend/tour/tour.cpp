@@ -56,7 +56,7 @@ bool Tour::StartKorvale() {
   if (!started) return false;
   const Window question = korvale_->MessageBox();
   report_.Step("it offers to review the hot keys", question.Title() == "Korvale - CAUTION");
-  if (question) AnswerBox(question, IDNO);
+  report_.Step("No closes the question", question && AnswerBox(question, IDNO));
   report_.Step("with " + std::to_string(CountOpenWindows()) + " windows open",
                CountOpenWindows() >= kOpenWindows);
   return true;
