@@ -68,7 +68,16 @@ bool Tour::Seen(Window window) const {
 }
 
 void Tour::WorkIn(const std::string& name, Window window) {
-  report_.Step("work in " + name, BringToFront(window) && Seen(window));
+  const auto noticed = [&] {
+    return Foreground() == window && korvale_->TargetTitle() == window.Title();
+  };
+  // A program that has just started can come forward late, over the window chosen here.
+  bool works = false;
+  for (int attempt = 0; attempt < 4 && !works; ++attempt) {
+    works = BringToFront(window) && WaitFor(noticed, std::chrono::milliseconds(2500)) &&
+            HoldsFor([&] { return Foreground() == window; });
+  }
+  report_.Step("work in " + name, works);
 }
 
 AddWindowDialog Tour::OpenAddWindow(const std::string& picture) {
