@@ -5,7 +5,7 @@
 #include "platform/types.h"
 
 /// The numbers of the Windows API that portable code passes through the interfaces of this folder.
-/// The Windows adapters check them against <windows.h> with static_assert.
+/// The Windows adapters check them against the Windows headers with static_assert.
 namespace korvale::win32 {
 
 // GetWindow

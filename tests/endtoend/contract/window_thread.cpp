@@ -1,4 +1,4 @@
-#include "tests/contract/windows/window_thread.h"
+#include "tests/endtoend/contract/window_thread.h"
 
 namespace korvale {
 namespace {

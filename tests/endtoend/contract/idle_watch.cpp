@@ -1,4 +1,4 @@
-#include "tests/contract/windows/idle_watch.h"
+#include "tests/endtoend/contract/idle_watch.h"
 
 #include <gtest/gtest.h>
 

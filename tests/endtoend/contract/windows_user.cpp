@@ -1,11 +1,11 @@
-#include "tests/contract/windows/windows_user.h"
+#include "tests/endtoend/contract/windows_user.h"
 
 #include <commctrl.h>
 #include <gtest/gtest.h>
 
 #include "forms/windows/units.h"
 #include "platform/windows/text.h"
-#include "tests/contract/windows/input.h"
+#include "tests/endtoend/contract/input.h"
 
 namespace korvale {
 namespace {

@@ -7,7 +7,7 @@
 #include "platform/windows/windows_window_api.h"
 #include "tests/contract/desktop_changing_contract.h"
 #include "tests/contract/desktop_reading_contract.h"
-#include "tests/contract/windows/window_thread.h"
+#include "tests/endtoend/contract/window_thread.h"
 
 namespace korvale {
 namespace {

@@ -1,4 +1,4 @@
-#include "tests/contract/windows/input.h"
+#include "tests/endtoend/contract/input.h"
 
 #include <vector>
 

@@ -3,9 +3,9 @@
 #include <utility>
 
 #include "platform/windows/text.h"
-#include "tests/contract/windows/input.h"
-#include "tests/contract/windows/menu_reader.h"
-#include "tests/contract/windows/windows_user.h"
+#include "tests/endtoend/contract/input.h"
+#include "tests/endtoend/contract/menu_reader.h"
+#include "tests/endtoend/contract/windows_user.h"
 
 namespace korvale {
 namespace {

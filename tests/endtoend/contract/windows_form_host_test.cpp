@@ -7,7 +7,7 @@
 #include "platform/windows/text.h"
 #include "platform/windows/windows_hot_key_api.h"
 #include "tests/contract/contract_fixture.h"
-#include "tests/contract/windows/windows_user.h"
+#include "tests/endtoend/contract/windows_user.h"
 
 namespace korvale {
 namespace {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/windows/windows_clock.h"
-#include "tests/contract/windows/windows_user.h"
+#include "tests/endtoend/contract/windows_user.h"
 
 namespace korvale {
 namespace {

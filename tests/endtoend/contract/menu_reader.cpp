@@ -1,4 +1,4 @@
-#include "tests/contract/windows/menu_reader.h"
+#include "tests/endtoend/contract/menu_reader.h"
 
 #include <algorithm>
 

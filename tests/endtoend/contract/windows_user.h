@@ -4,7 +4,7 @@
 
 #include "forms/windows/windows_form_host.h"
 #include "tests/contract/user_hands.h"
-#include "tests/contract/windows/idle_watch.h"
+#include "tests/endtoend/contract/idle_watch.h"
 
 namespace korvale {
 
