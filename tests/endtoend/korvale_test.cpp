@@ -74,6 +74,23 @@ AssertionResult KorvaleTest::Says(const std::string& text) {
   return Check(AnswerBox(box, IDOK) || AnswerBox(box, IDCANCEL), "the message does not go");
 }
 
+AssertionResult KorvaleTest::Choose(UINT menu, std::initializer_list<UINT> entries) {
+  if (!BringToFront(main())) return AssertionFailure() << "the main window does not come";
+  Press({MOD_ALT, menu});
+  if (!korvale_->OpenMenu()) return AssertionFailure() << "the menu does not open";
+  for (const UINT entry : entries) Press({0, entry});
+  return Check(WaitFor([this] { return !korvale_->HasMenu(); }), "the menu does not close");
+}
+
+AssertionResult KorvaleTest::Stored(const std::string& key, const std::string& value) {
+  const auto stored = [&] { return installation_.settings().Get("Startup", key); };
+  const bool came = WaitFor([&] { return stored() == value; });
+  return Check(came, std::string("the settings hold ")
+                         .append(key + " = '")
+                         .append(stored().value_or("(none)"))
+                         .append("', not '" + value + "'"));
+}
+
 AssertionResult KorvaleTest::OpenWindowMenu() {
   if (!BringToFront(main())) return AssertionFailure() << "the main window does not come";
   Press({MOD_ALT, 'W'});

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <initializer_list>
 #include <optional>
 #include <string>
 
@@ -37,6 +38,10 @@ class KorvaleTest : public ::testing::Test {
   /// Waits for a message box, compares its text, and presses OK.
   ::testing::AssertionResult Says(const std::string& text);
 
+  /// Chooses from the menu bar: the menu's letter with Alt, then the letters of the entries.
+  ::testing::AssertionResult Choose(UINT menu, std::initializer_list<UINT> entries);
+  /// Waits until the settings hold that state of the main window.
+  ::testing::AssertionResult Stored(const std::string& key, const std::string& value);
   /// Opens the Window menu from the main window's menu bar, or as a pop-up.
   ::testing::AssertionResult OpenWindowMenu();
   ::testing::AssertionResult PopUpWindowMenu();

@@ -40,6 +40,17 @@ std::vector<WORD> KeysOf(Chord chord) {
 // SendInput counts positions in 65536ths of the screen.
 LONG Absolute(int pixel, int metric) { return MulDiv(pixel, 65536, GetSystemMetrics(metric)) + 1; }
 
+INPUT MouseTo(Window window, POINT at, DWORD button) {
+  RECT area{};
+  GetWindowRect(window.handle(), &area);
+  INPUT input{};
+  input.type = INPUT_MOUSE;
+  input.mi.dx = Absolute(area.left + at.x, SM_CXSCREEN);
+  input.mi.dy = Absolute(area.top + at.y, SM_CYSCREEN);
+  input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | button;
+  return input;
+}
+
 }  // namespace
 
 std::vector<Chord> AllHotKeys() {
@@ -82,16 +93,14 @@ void Type(const std::string& text) {
 void Click(Window window) {
   RECT area{};
   GetWindowRect(window.handle(), &area);
-  INPUT move{};
-  move.type = INPUT_MOUSE;
-  move.mi.dx = Absolute((area.left + area.right) / 2, SM_CXSCREEN);
-  move.mi.dy = Absolute((area.top + area.bottom) / 2, SM_CYSCREEN);
-  move.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
-  INPUT down = move;
-  down.mi.dwFlags |= MOUSEEVENTF_LEFTDOWN;
-  INPUT up = move;
-  up.mi.dwFlags |= MOUSEEVENTF_LEFTUP;
-  Send({move, down, up});
+  ClickAt(window, {(area.right - area.left) / 2, (area.bottom - area.top) / 2});
+}
+
+void MoveMouse(Window window, POINT at) { Send({MouseTo(window, at, 0)}); }
+
+void ClickAt(Window window, POINT at) {
+  Send({MouseTo(window, at, 0), MouseTo(window, at, MOUSEEVENTF_LEFTDOWN),
+        MouseTo(window, at, MOUSEEVENTF_LEFTUP)});
 }
 
 bool HotKeyIsFree(Chord chord) {

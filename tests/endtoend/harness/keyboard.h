@@ -48,6 +48,12 @@ void Type(const std::string& text);
 /// Clicks the left mouse button on the middle of a window or control.
 void Click(Window window);
 
+/// Moves the mouse to a place in a window or control, counted in pixels from its left upper corner.
+void MoveMouse(Window window, POINT at);
+
+/// Moves the mouse there and clicks its left button.
+void ClickAt(Window window, POINT at);
+
 /// True when this process could take the hot key, that is, nobody else has it.
 bool HotKeyIsFree(Chord chord);
 
