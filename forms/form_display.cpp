@@ -2,10 +2,14 @@
 
 #include <algorithm>
 
+#include "desktop/foreground_return.h"
 #include "platform/win32_constants.h"
 
 namespace korvale {
 namespace {
+
+/// What must be on a monitor of a form, in both directions, so that the user can drag it.
+constexpr Twips kReachable = 300;
 
 /// Sets a flag for a scope and puts its former value back, also when an error leaves the scope.
 class RaisedFlag {
@@ -33,6 +37,11 @@ Twips Centred(Twips start, Twips room, Twips length) { return start + (room - le
 /// The nearest beginning inside the room; what is longer than the room begins with it.
 Twips Inside(Twips wished, Twips start, Twips room, Twips length) {
   return std::max(start, std::min(wished, start + room - length));
+}
+
+/// The length that two stretches have in common, negative when they lie apart.
+Twips Overlap(Twips start, Twips length, Twips otherStart, Twips otherLength) {
+  return std::min(start + length, otherStart + otherLength) - std::max(start, otherStart);
 }
 
 bool CanBeCentredOn(const Form* owner) {
@@ -103,6 +112,15 @@ void FormDisplay::KeepInWorkArea(Form& form) {
          Inside(place.top, area.top, area.height, place.height));
 }
 
+void FormDisplay::BringOntoMonitor(Form& form) {
+  const TwipsRect area = forms_->Host().GetMonitorInfoW(form.Handle());
+  const TwipsRect place = form.State().place;
+  if (Overlap(place.left, place.width, area.left, area.width) < kReachable ||
+      Overlap(place.top, place.height, area.top, area.height) < kReachable) {
+    KeepInWorkArea(form);
+  }
+}
+
 void FormDisplay::BringToFront(Form& form, const DisplaySwitches& switches) {
   if (form.IsLoaded() && switches.followTopmost != 0) FollowTopmost(form.Handle());
   if (form.IsLoaded() && switches.takeForeground != 0) {
@@ -121,16 +139,8 @@ void FormDisplay::FollowTopmost(WindowHandle hwnd) {
 
 void FormDisplay::GiveForegroundBack(WindowHandle before) {
   const WindowHandle now = windows_->GetForegroundWindow();
-  if (before == 0 || now == before || (now != 0 && !IsOwnForm(now))) return;
-  if (windows_->IsWindow(before) && windows_->IsWindowVisible(before) &&
-      windows_->IsWindowEnabled(before)) {
-    commands_->SetForegroundWindow(before);
-  }
-}
-
-bool FormDisplay::IsOwnForm(WindowHandle hwnd) const {
-  return std::ranges::any_of(forms_->List(),
-                             [&](const LoadedForm& form) { return form.handle == hwnd; });
+  if (before == 0 || now == before || (now != 0 && !IsOwnForm(*forms_, now))) return;
+  ReturnForegroundTo(*windows_, *commands_, before);
 }
 
 }  // namespace korvale

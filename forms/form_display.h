@@ -10,6 +10,9 @@
 
 namespace korvale {
 
+/// What the callers of ShowFormModal pass as its milliseconds.
+inline constexpr std::int32_t kForegroundWait = 1000;
+
 /// Where a form shall come up, in twips of the screen; -1 = no wish.
 struct PlaceHints {
   Twips left = -1;
@@ -42,13 +45,16 @@ class FormDisplay {
   /// already sees stays where it is, a minimized one is restored.
   void ShowFormNonModal(Form& form, const DisplaySwitches& switches, Form* owner);
 
+  /// Moves the form onto the monitor nearest to it, when too little of it lies on any to be seen
+  /// and dragged.
+  void BringOntoMonitor(Form& form);
+
  private:
   void PlaceForm(Form& form, const DisplaySwitches& switches, const PlaceHints& hints, Form* owner);
   void KeepInWorkArea(Form& form);
   void BringToFront(Form& form, const DisplaySwitches& switches);
   void FollowTopmost(WindowHandle hwnd);
   void GiveForegroundBack(WindowHandle before);
-  bool IsOwnForm(WindowHandle hwnd) const;
 
   FormCollection* forms_;
   WindowQueries* windows_;

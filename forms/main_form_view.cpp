@@ -96,6 +96,7 @@ void frmMain::ApplyPlacement() {
   place.width = std::max<Twips>(startup.Width, kMinimumWidth);
   place.height = startup.Height;
   SetPlace(place);
+  parts_.display.BringOntoMonitor(*this);
   SetWindowState(static_cast<ShowState>(startup.WindowState));
 }
 

@@ -5,12 +5,6 @@
 #include "util/flag_string.h"
 
 namespace korvale {
-namespace {
-
-constexpr std::int32_t kForegroundWait = 1000;
-
-}  // namespace
-
 Tips::Tips(frmMsgTip& form, FormDisplay& display, const bool& displayTips, std::string& hiddenTips,
            std::string applicationTitle)
     : form_(&form),

@@ -7,9 +7,7 @@ namespace {
 
 using enum ControlKind;
 
-constexpr std::int32_t kForegroundWait = 1000;
-
-constexpr ControlRow kControls[] = {
+constexpr ControlRow kWaitControls[] = {
     {kLabel,
      "lblMessage",
      -1,
@@ -23,7 +21,7 @@ constexpr ControlRow kControls[] = {
 };
 
 constexpr FormDesign kDesign = {
-    .name = "frmWaitWindow", .caption = "", .place = {0, 0, 4800, 1450}, .controls = kControls};
+    .name = "frmWaitWindow", .caption = "", .place = {0, 0, 4800, 1450}, .controls = kWaitControls};
 
 }  // namespace
 

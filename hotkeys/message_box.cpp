@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "desktop/foreground_return.h"
 #include "platform/run_time_error.h"
 
 namespace korvale {
@@ -52,14 +53,13 @@ std::int16_t SuspendingMessageBoxes::ShowOutermost(const std::string& prompt, st
     throw;
   }
   Resume(before);
-  BringBack(before.ownForeground);
+  GiveForegroundBack(before.foreground);
   return button;
 }
 
 SuspendingMessageBoxes::Remembered SuspendingMessageBoxes::Remember() {
   const TimerControl& timer = mainWindow_->tmrWindow();
-  const WindowHandle foreground = windows_->GetForegroundWindow();
-  return {timer.Enabled(), timer.Tag(), IsOurs(foreground) ? foreground : 0};
+  return {timer.Enabled(), timer.Tag(), windows_->GetForegroundWindow()};
 }
 
 void SuspendingMessageBoxes::Suspend() {
@@ -87,21 +87,12 @@ std::int16_t SuspendingMessageBoxes::Show(const std::string& prompt, std::int32_
   return host_->MessageBoxW(owner, prompt, title, buttons);
 }
 
-void SuspendingMessageBoxes::BringBack(WindowHandle ownForeground) {
-  if (ownForeground == 0 || IsOurs(windows_->GetForegroundWindow())) return;
-  if (windows_->IsWindow(ownForeground) && windows_->IsWindowVisible(ownForeground) &&
-      windows_->IsWindowEnabled(ownForeground)) {
-    commands_->SetForegroundWindow(ownForeground);
-  }
-}
-
-bool SuspendingMessageBoxes::IsOurs(WindowHandle hwnd) const {
-  // A form without a window has the handle 0 as well.
-  if (hwnd == 0) return false;
-  for (const LoadedForm& form : forms_->List()) {
-    if (form.handle == hwnd) return true;
-  }
-  return false;
+void SuspendingMessageBoxes::GiveForegroundBack(WindowHandle before) {
+  const WindowHandle now = windows_->GetForegroundWindow();
+  if (before == 0 || now == before) return;
+  // From ours to another program's, or back, is the closed box's doing; the rest is the user's.
+  const bool passedOn = now == 0 || IsOwnForm(*forms_, now) != IsOwnForm(*forms_, before);
+  if (passedOn) ReturnForegroundTo(*windows_, *commands_, before);
 }
 
 }  // namespace korvale

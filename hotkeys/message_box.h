@@ -22,9 +22,10 @@ class SuspendingMessageBoxes : public MessageBoxes {
                          MainWindow& mainWindow, const LoadedForms& forms, Suspension& suspension,
                          std::function<WindowHandle()> modalOnTop);
 
-  /// Besides what every message box does: Windows brings another program to the front when the box
-  /// closes over the disabled main window; a window of our own that was in front before the
-  /// outermost box is put there again (SetForegroundWindow). Error 6 beyond 32767 nested boxes.
+  /// Besides what every message box does: when the outermost box closes, Windows brings another
+  /// program to the front over the disabled main window, or the main window over the program where
+  /// the user works; the window that was in front before is put there again
+  /// (SetForegroundWindow). Error 6 beyond 32767 nested boxes.
   std::int16_t ShowMessageBox(const std::string& prompt, std::int32_t buttons,
                               const std::string& title) override;
 
@@ -33,7 +34,7 @@ class SuspendingMessageBoxes : public MessageBoxes {
   struct Remembered {
     bool timerEnabled = false;
     std::string timerTag;
-    WindowHandle ownForeground = 0;
+    WindowHandle foreground = 0;
   };
 
   Remembered Remember();
@@ -42,8 +43,7 @@ class SuspendingMessageBoxes : public MessageBoxes {
   std::int16_t ShowOutermost(const std::string& prompt, std::int32_t buttons,
                              const std::string& title);
   std::int16_t Show(const std::string& prompt, std::int32_t buttons, const std::string& title);
-  void BringBack(WindowHandle ownForeground);
-  bool IsOurs(WindowHandle hwnd) const;
+  void GiveForegroundBack(WindowHandle before);
 
   FormHost* host_;
   WindowQueries* windows_;

@@ -107,8 +107,8 @@ class FormHost {
   /// What the frame and menu bar of the form add to its client area, in twips: `left`/`top` their
   /// thickness there, `width`/`height` the sums of both sides (AdjustWindowRectExForDpi).
   virtual TwipsRect AdjustWindowRectEx(const FormState& form) = 0;
-  /// The work area, in twips, of the monitor that shows the window (MonitorFromWindow,
-  /// GetMonitorInfoW); of the primary monitor when there is no such window.
+  /// The work area, in twips, of the monitor that shows the window or is nearest to it
+  /// (MonitorFromWindow, GetMonitorInfoW); of the primary monitor when there is no such window.
   virtual TwipsRect GetMonitorInfoW(WindowHandle hwnd) = 0;
 
   /// A message box; returns the number of the pressed button. `style` is a sum of MB_ values.

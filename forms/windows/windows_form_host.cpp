@@ -109,7 +109,7 @@ TwipsRect WindowsFormHost::AdjustWindowRectEx(const FormState& form) {
 TwipsRect WindowsFormHost::GetMonitorInfoW(WindowHandle hwnd) {
   MONITORINFO info{};
   info.cbSize = sizeof(info);
-  ::GetMonitorInfoW(MonitorFromWindow(ToHwnd(hwnd), MONITOR_DEFAULTTOPRIMARY), &info);
+  ::GetMonitorInfoW(MonitorFromWindow(ToHwnd(hwnd), MONITOR_DEFAULTTONEAREST), &info);
   return ToScreenTwips(info.rcWork, GetDpiForSystem());
 }
 

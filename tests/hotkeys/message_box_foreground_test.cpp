@@ -42,6 +42,17 @@ TEST_F(MessageBoxForegroundTest, LeavesTheForegroundToTheProgramThatHadIt) {
   EXPECT_EQ(desktop.GetForegroundWindow(), third);
 }
 
+TEST_F(MessageBoxForegroundTest, GivesTheForegroundBackToTheProgramThatHadItAfterAHotKey) {
+  desktop.UserActivates(other);
+  log.Clear();
+  host.whileShown = [this](const std::string&) { desktop.UserActivates(main); };
+
+  ShowBox();
+
+  EXPECT_EQ(log.Calls().back(), "SetForegroundWindow(other)");
+  EXPECT_EQ(desktop.GetForegroundWindow(), other);
+}
+
 TEST_F(MessageBoxForegroundTest, LeavesTheForegroundToAnotherFormOfTheProgram) {
   desktop.UserActivates(main);
   log.Clear();

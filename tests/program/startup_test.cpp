@@ -158,6 +158,19 @@ TEST_F(StartUpTest, TheStoredPlaceAndColoursAreApplied) {
   EXPECT_EQ(color("txtWindowClass"), 65280);
 }
 
+TEST_F(StartUpTest, AStoredPlaceOnNoMonitorIsBroughtBackOntoOne) {
+  KorvaleCopy& korvale = UsedCopy();
+  store.SaveSetting("Korvale - Work", "Startup", "Left", "32000");
+  store.SaveSetting("Korvale - Work", "Startup", "Top", "-9000");
+  korvale.host.SetWorkArea({0, 0, 15360, 11100});
+
+  EXPECT_TRUE(korvale.Start());
+
+  const TwipsRect place = korvale.user.Place(korvale.Handle());
+  EXPECT_EQ(place.left + place.width, 15360);
+  EXPECT_EQ(place.top, 0);
+}
+
 TEST_F(StartUpTest, TheModalFrameOptionIsOffAfterEveryStart) {
   KorvaleCopy& first = StartedCopy();
   first.Parts().options.Get().booAllowModalFrameWindow = true;

@@ -1,0 +1,19 @@
+#include "desktop/foreground_return.h"
+
+#include <algorithm>
+
+namespace korvale {
+
+bool IsOwnForm(const LoadedForms& forms, WindowHandle hwnd) {
+  if (hwnd == 0) return false;
+  return std::ranges::any_of(forms.List(),
+                             [&](const LoadedForm& form) { return form.handle == hwnd; });
+}
+
+void ReturnForegroundTo(WindowQueries& windows, WindowCommands& commands, WindowHandle hwnd) {
+  if (windows.IsWindow(hwnd) && windows.IsWindowVisible(hwnd) && windows.IsWindowEnabled(hwnd)) {
+    commands.SetForegroundWindow(hwnd);
+  }
+}
+
+}  // namespace korvale

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/window_api.h"
+#include "util/forms.h"
+
+namespace korvale {
+
+/// True when the window is that of a loaded form of ours. A form without a window has the handle
+/// 0, which is no window.
+bool IsOwnForm(const LoadedForms& forms, WindowHandle hwnd);
+
+/// Puts the window in front (SetForegroundWindow) when it still can be: it lives, is visible and
+/// enabled. Does nothing otherwise.
+void ReturnForegroundTo(WindowQueries& windows, WindowCommands& commands, WindowHandle hwnd);
+
+}  // namespace korvale
