@@ -76,7 +76,8 @@ void TagListPasses::Match(MenuItem& entry, WindowHandle hwnd) {
 void TagListPasses::Save(const MenuItem& entry, const std::string& appName) {
   const std::string key = DecimalText(entry.index);
   store_->SaveSetting(appName, "ParentWindowList", key, entry.caption);
-  store_->SaveSetting(appName, "ParentWindowClass", key, TagClass(*tags_, entry));
+  const std::string& storedClass = TagClass(*tags_, entry);
+  if (!storedClass.empty()) store_->SaveSetting(appName, "ParentWindowClass", key, storedClass);
 }
 
 }  // namespace korvale

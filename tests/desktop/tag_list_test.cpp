@@ -167,15 +167,14 @@ TEST_F(TagListTest, MatchingLooksForNoChildWhenTheTitleDiffers) {
             (Calls{"GetWindowTextLengthA(Alpha)", "GetWindowTextA(Alpha, 15)"}));
 }
 
-TEST_F(TagListTest, SavingWritesCaptionAndClassOfEachEntry) {
+TEST_F(TagListTest, SavingWritesTheCaptionOfEachEntryAndItsClassIfItHasOne) {
   AddTag(9, "無題 - ***", "");
   AddTag(2, "A&B", "Notepad");
   EXPECT_EQ(passes.TagListPass(TagListMode::kSave, 0, "Korvale - Work"), -1);
   EXPECT_EQ(store.lines,
             (std::vector<std::string>{"Korvale - Work|ParentWindowList|2|&2  A&B",
                                       "Korvale - Work|ParentWindowClass|2|Notepad",
-                                      "Korvale - Work|ParentWindowList|9|&9  無題 - ***",
-                                      "Korvale - Work|ParentWindowClass|9|"}));
+                                      "Korvale - Work|ParentWindowList|9|&9  無題 - ***"}));
   EXPECT_EQ(Entries(), (std::vector<int>{0, 2, 9}));
 }
 

@@ -7,7 +7,6 @@
 namespace korvale {
 namespace {
 
-constexpr Color kRed = 255;
 constexpr Color kBlue = 0xC00000;
 
 /// The way of a window through the Add Window dialog to its hot key.
@@ -257,7 +256,7 @@ TEST_F(AddWindowStory, AWindowWithoutChildWindowsIsStoredWithoutItsClass) {
   KorvaleCopy& korvale = StartedAfter("Clock", {.className = "Clock", .children = 0});
   korvale.TagPrevious();
   EXPECT_EQ(StoredTag(1), "&1  Clock");
-  EXPECT_EQ(store.GetSetting(kStore, "ParentWindowClass", "1"), "");
+  EXPECT_EQ(store.GetSetting(kStore, "ParentWindowClass", "1"), std::nullopt);
   ExpectTagSelects(1, window_);
   EXPECT_EQ(store.GetSetting(kStore, "ParentWindowClass", "1"), "Clock");
 }

@@ -5,8 +5,6 @@
 namespace korvale {
 namespace {
 
-constexpr Color kRed = 0x0000FF;
-
 class CustomizeColorsTest : public MainWindowTest {
  protected:
   /// A started copy whose user has silenced the tip.

@@ -2,7 +2,11 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
+#include <iterator>
 #include <random>
+
+#include "util/text.h"
 
 namespace korvale {
 
@@ -24,5 +28,14 @@ class Dice {
  private:
   std::mt19937 numbers_;
 };
+
+/// The seed of the first run; KORVALE_SEED gives another one.
+inline constexpr std::int32_t kFirstSeed = 1;
+
+/// A number that the environment gives in place of ours.
+inline std::int32_t Setting(const char* name, std::int32_t otherwise) {
+  const char* const text = std::getenv(name);
+  return text == nullptr ? otherwise : ParseInt32(text).value_or(otherwise);
+}
 
 }  // namespace korvale

@@ -21,6 +21,8 @@
 
 namespace korvale {
 
+inline constexpr Color kRed = 0x0000FF;
+
 class KorvaleWorld;
 
 /// One copy of Korvale, running in its own folder, and the user in front of it.

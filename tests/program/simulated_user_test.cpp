@@ -1,4 +1,3 @@
-#include <cstdlib>
 
 #include "tests/program/simulated_life.h"
 #include "util/text.h"
@@ -8,13 +7,6 @@ namespace {
 
 constexpr int kLives = 8;
 constexpr std::int32_t kStepsOfALife = 25'000;
-constexpr std::int32_t kFirstSeed = 1;
-
-/// A number that the environment gives in place of ours.
-std::int32_t Setting(const char* name, std::int32_t otherwise) {
-  const char* const text = std::getenv(name);
-  return text == nullptr ? otherwise : ParseInt32(text).value_or(otherwise);
-}
 
 /// KORVALE_SEED sets the seed of the first life, the others count on from it; KORVALE_STEPS the
 /// length of each.

@@ -1,5 +1,4 @@
 #include <chrono>
-#include <cstdlib>
 #include <string>
 
 #include "app/core/save_journal.h"
@@ -15,7 +14,6 @@ namespace {
 constexpr const char* kApp = "Korvale - Work";
 constexpr const char* kRegister = "Korvale Installations";
 constexpr int kRounds = 300;
-constexpr std::uint32_t kFirstSeed = 1;
 constexpr std::int32_t kButtonsMask = 0xF;
 
 constexpr const char* kNumbers[] = {
@@ -172,7 +170,8 @@ class StoredSettingsFuzzTest : public KorvaleWorld {
     parts.tags.mnuWindowParentList.ForEach([&](const MenuItem& entry) {
       if (entry.index == 0) return;
       kept.captions.emplace_back(DecimalText(entry.index), entry.caption);
-      kept.classes.emplace_back(DecimalText(entry.index), TagClass(parts.tags, entry));
+      const std::string& className = TagClass(parts.tags, entry);
+      if (!className.empty()) kept.classes.emplace_back(DecimalText(entry.index), className);
     });
     return kept;
   }
@@ -189,11 +188,6 @@ class StoredSettingsFuzzTest : public KorvaleWorld {
 
   Dice dice_{0};
 };
-
-std::int32_t Setting(const char* name, std::int32_t otherwise) {
-  const char* const text = std::getenv(name);
-  return text == nullptr ? otherwise : ParseInt32(text).value_or(otherwise);
-}
 
 /// KORVALE_FUZZ_SECONDS lets it run longer, KORVALE_SEED begins with another seed.
 TEST_F(StoredSettingsFuzzTest, AnyStoreAtAllLeadsToValidSettingsThatAreSavedAndLoadedAgain) {
