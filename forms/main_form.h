@@ -104,6 +104,7 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   void udmOptions(const std::string& strMode) override;
   void PopUpWindowMenu() override;
   void SetWindowMenuTag(const std::string& tag) override;
+  void HotKeysRegistered() override;
   void ShowTip(std::int32_t number, const std::string& text, const std::string& title,
                std::int16_t height) override;
   void ShowWaitWindow(const std::string& caption, const std::string& text,

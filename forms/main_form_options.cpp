@@ -22,6 +22,10 @@ void frmMain::udmOptions(const std::string& strMode) {
 
 void frmMain::BringOptionsToFront() { parts_.display.ShowFormNonModal(*openOptions_, {}, this); }
 
+void frmMain::HotKeysRegistered() {
+  if (openOptions_ != nullptr) openOptions_->RefreshConflictLine();
+}
+
 std::optional<Color> frmMain::udmShowColorPalette(Color initial) {
   Form* owner = Collection().TopModal();
   if (owner == nullptr) {

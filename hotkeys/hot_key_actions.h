@@ -21,6 +21,8 @@ class HotKeyActions {
   /// Pops the Window menu up at the mouse position.
   virtual void PopUpWindowMenu() = 0;
   virtual void SetWindowMenuTag(const std::string& tag) = 0;
+  /// The hot keys were registered anew: what shows refused ones is out of date.
+  virtual void HotKeysRegistered() = 0;
   /// Shows a tip that the user can silence; `height` in twips.
   virtual void ShowTip(std::int32_t number, const std::string& text, const std::string& title,
                        std::int16_t height) = 0;

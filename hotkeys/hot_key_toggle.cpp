@@ -49,6 +49,7 @@ void HotKeyToggle::SwitchOff(std::string_view caller) {
     table_->AddHotKey(kHotKeyToggleHotKeys, options.intHotKeyModGeneral[2],
                       options.intHotKeyGeneral[2]);
   }
+  actions_->HotKeysRegistered();
   actions_->ShowWaitWindow(programTitle_ + " - Hot Keys (OFF)", "Hot Keys are now Deactivated",
                            kNoticeMilliseconds);
 }
@@ -57,6 +58,7 @@ void HotKeyToggle::SwitchOn() {
   table_->SetHotKeysActive(true);
   table_->SetHotKeys("REMOVE");
   table_->SetHotKeys("SET");
+  actions_->HotKeysRegistered();
   actions_->ShowWaitWindow(programTitle_ + " - Hot Keys (ON)", "Hot Keys are now Activated",
                            kNoticeMilliseconds);
 }

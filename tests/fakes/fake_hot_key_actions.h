@@ -41,6 +41,7 @@ class FakeHotKeyActions : public HotKeyActions {
   void SetWindowMenuTag(const std::string& tag) override {
     Log("SetWindowMenuTag(\"" + tag + "\")");
   }
+  void HotKeysRegistered() override { Log("HotKeysRegistered"); }
   void ShowTip(std::int32_t number, const std::string& text, const std::string& title,
                std::int16_t height) override {
     tips.push_back({number, text, title, height});

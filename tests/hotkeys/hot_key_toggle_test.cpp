@@ -42,9 +42,10 @@ class HotKeyToggleTest : public testing::Test {
 TEST_F(HotKeyToggleTest, SwitchesOffEveryHotKeyButItsOwn) {
   toggle.ToggleHotKeys(kToggleFromHotKey);
 
-  EXPECT_EQ(log.Calls(), (Calls{"UnregisterHotKey(main, 1)", "UnregisterHotKey(main, 2)",
-                                "UnregisterHotKey(main, 3)", "RegisterHotKey(main, 1, 0, 19)",
-                                "ShowWaitWindow(\"Title - Hot Keys (OFF)\")"}));
+  EXPECT_EQ(log.Calls(),
+            (Calls{"UnregisterHotKey(main, 1)", "UnregisterHotKey(main, 2)",
+                   "UnregisterHotKey(main, 3)", "RegisterHotKey(main, 1, 0, 19)",
+                   "HotKeysRegistered", "ShowWaitWindow(\"Title - Hot Keys (OFF)\")"}));
   EXPECT_FALSE(table.HotKeysActive());
   EXPECT_EQ(table.HotKeyCount(), 1);
   EXPECT_EQ(table.NameOf(1), "HOTKEY_TOGGLE_HOTKEYS");
@@ -62,7 +63,7 @@ TEST_F(HotKeyToggleTest, SwitchesAllEnabledHotKeysOnAgain) {
 
   EXPECT_EQ(log.Calls(), (Calls{"UnregisterHotKey(main, 1)", "RegisterHotKey(main, 1, 1, 51)",
                                 "RegisterHotKey(main, 2, 8, 79)", "RegisterHotKey(main, 3, 0, 19)",
-                                "ShowWaitWindow(\"Title - Hot Keys (ON)\")"}));
+                                "HotKeysRegistered", "ShowWaitWindow(\"Title - Hot Keys (ON)\")"}));
   EXPECT_TRUE(table.HotKeysActive());
   EXPECT_EQ(
       actions.waitWindows,

@@ -86,5 +86,21 @@ TEST_F(OptionsExchangeInProgram, PauseTogglesWithoutAModifier) {
   EXPECT_EQ(hotKeys.Registered().size(), 15U);
 }
 
+TEST_F(OptionsExchangeInProgram, TheToggleTellsAnewWhichHotKeysAreNotAvailable) {
+  KorvaleCopy& korvale = StartedCopy();
+  korvale.Form().udmOptions("LOAD_AND_OR_REFRESH");
+  class Form& dialog = korvale.Loaded("frmOptions");
+  EXPECT_FALSE(dialog.Find("lblConflicts").Visible());
+
+  PressHotKey(0, 19);
+  hotKeys.RegisterForeign(1, 0x33);
+  PressHotKey(0, 19);
+  EXPECT_TRUE(dialog.Find("lblConflicts").Visible());
+  EXPECT_EQ(dialog.Find("lblConflicts").Text(), "Not available, in use by another program:  Alt+3");
+
+  PressHotKey(0, 19);
+  EXPECT_FALSE(dialog.Find("lblConflicts").Visible());
+}
+
 }  // namespace
 }  // namespace korvale
