@@ -1,6 +1,8 @@
 #include "app/program.h"
 
+#include <cstdint>
 #include <exception>
+#include <sstream>
 #include <string>
 
 #include "app/core/error_reporting.h"
@@ -30,6 +32,22 @@ CaughtError DescribeCaught() {
   }
 }
 
+std::string HexText(std::uint64_t value) {
+  std::ostringstream text;
+  text << "0x" << std::hex << std::uppercase << value;
+  return text.str();
+}
+
+/// What is known of an exception that nobody caught; it is the current one.
+std::string DescribeUncaught() {
+  if (!std::current_exception()) return "terminated";
+  try {
+    return DescribeCaught().text;
+  } catch (const ProgramEnded&) {
+    return "the end of the program was not caught";
+  }
+}
+
 }  // namespace
 
 Program::Program(Platform& platform)
@@ -38,7 +56,10 @@ Program::Program(Platform& platform)
       startUp_(platform),
       form_(platform, forms_, startUp_) {
   forms_.SetUncaughtHandler([this] { ReportUncaught(); });
+  platform_->system.SetUnhandledExceptionFilter([this](const Crash& crash) { ReportCrash(crash); });
 }
+
+Program::~Program() { platform_->system.SetUnhandledExceptionFilter({}); }
 
 bool Program::Start() {
   return Guarded([this] { form_.Show(); });
@@ -71,6 +92,20 @@ void Program::ReportUncaught() {
     form_.udmNonFatalError(ErrorPlace::kEventHandler, DescribeCaught().number);
   } catch (const ProgramEnded&) {
     platform_->host.PostQuitMessage();
+  }
+}
+
+void Program::ReportCrash(const Crash& crash) {
+  const std::string description = crash.code == 0 ? "uncaught exception: " + DescribeUncaught()
+                                                  : "exception " + HexText(crash.code);
+  MainParts& parts = form_.Parts();
+  try {
+    parts.errors.udmFatalError(ErrorPlace::kCrash, RunTimeError::kInternalError,
+                               {description, "address = " + HexText(crash.address),
+                                parts.identity.productName + " cannot go on and will be closed."});
+  } catch (...) {
+    // All has been told, recorded and taken down; of a further error there is nobody to tell.
+    return;
   }
 }
 

@@ -13,6 +13,9 @@ namespace korvale {
 class Program {
  public:
   explicit Program(Platform& platform);
+  ~Program();
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
 
   /// Loads and shows the main form; false when start-up refused to run or failed, in which case
   /// everything has been taken down again.
@@ -26,6 +29,7 @@ class Program {
  private:
   bool Guarded(const std::function<void()>& step);
   void ReportUncaught();
+  void ReportCrash(const Crash& crash);
 
   Platform* platform_;
   FormCollection forms_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -21,6 +22,15 @@ struct VersionInfo {
   int revision = 0;
   std::string legalCopyright;
   std::string fileDescription;
+};
+
+/// A fault that no handler foresaw.
+struct Crash {
+  /// The code of the exception (0xC0000005 = access violation); 0 when a C++ exception was caught
+  /// by nobody, which is then the current one.
+  std::uint32_t code = 0;
+  /// The instruction where it happened; 0 when that is not known.
+  std::uint64_t address = 0;
 };
 
 /// A named system object that at most one process holds. Released when destroyed.
@@ -57,6 +67,9 @@ class SystemApi {
   /// Opens or makes the named mutex of this session without waiting for it (CreateMutexA); null
   /// when the system refused.
   virtual std::unique_ptr<SystemMutex> CreateMutexA(const std::string& name) = 0;
+  /// Has `filter` called, on the thread that crashed, when the program crashes; the process ends
+  /// when it returns, and at once when it crashes too. An empty one takes it back.
+  virtual void SetUnhandledExceptionFilter(std::function<void(const Crash&)> filter) = 0;
 };
 
 }  // namespace korvale

@@ -12,6 +12,7 @@ enum class ErrorPlace : std::int16_t {
   kWindowProcedure = 3,
   kProcessHotKey = 4,
   kSaving = 5,
+  kCrash = 6,
 };
 
 /// The reporters of unexpected run-time errors.

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/windows/command_line.h"
+#include "platform/windows/crash_filter.h"
 #include "platform/windows/handles.h"
 #include "platform/windows/text.h"
 
@@ -130,6 +131,10 @@ std::unique_ptr<SystemMutex> WindowsSystemApi::CreateMutexA(const std::string& n
   UniqueKernelHandle handle(::CreateMutexW(nullptr, FALSE, ToUtf16(name).c_str()));
   if (!handle) return nullptr;
   return std::make_unique<WindowsMutex>(std::move(handle));
+}
+
+void WindowsSystemApi::SetUnhandledExceptionFilter(std::function<void(const Crash&)> filter) {
+  SetCrashFilter(std::move(filter));
 }
 
 }  // namespace korvale

@@ -17,6 +17,7 @@ class WindowsSystemApi final : public SystemApi {
                      int showCommand) override;
   bool FileExists(const std::string& path) override;
   std::unique_ptr<SystemMutex> CreateMutexA(const std::string& name) override;
+  void SetUnhandledExceptionFilter(std::function<void(const Crash&)> filter) override;
 };
 
 }  // namespace korvale

@@ -1,16 +1,14 @@
 #include "app/core/error_log.h"
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <cstdint>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 
 #include "platform/run_time_error.h"
 #include "tests/fakes/fake_clock.h"
+#include "tests/fakes/temporary_folder.h"
 
 namespace korvale {
 namespace {
@@ -20,19 +18,14 @@ namespace fs = std::filesystem;
 /// A folder of its own, gone after the test.
 class ErrorLogTest : public testing::Test {
  protected:
-  ErrorLogTest() : folder_(testing::TempDir() + "korvale-log-" + std::to_string(getpid())) {
-    fs::create_directories(folder_);
-    identity_.programFolder = folder_ + "/";
+  ErrorLogTest() {
+    identity_.programFolder = folder_.Path() + "/";
     identity_.versionText = "1.10.0695";
     clock_.SetLocalTime({2001, 12, 15, 14, 3, 27, 6});
   }
-  ~ErrorLogTest() override { fs::remove_all(folder_); }
 
   std::string LogPath() const { return identity_.programFolder + "Error.log"; }
-  std::string Content() const {
-    std::ifstream file(LogPath(), std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-  }
+  std::string Content() const { return FileContent(LogPath()); }
   std::int16_t AppendError() {
     try {
       log_.Append("1", "problem", "locals");
@@ -42,7 +35,7 @@ class ErrorLogTest : public testing::Test {
     return 0;
   }
 
-  std::string folder_;
+  TemporaryFolder folder_{"log"};
   ProgramIdentity identity_;
   FakeClock clock_;
   ErrorLogState state_;
@@ -94,14 +87,14 @@ TEST_F(ErrorLogTest, RecordsAccumulate) {
 }
 
 TEST_F(ErrorLogTest, FolderWithLettersOfAnyLanguageIsFine) {
-  identity_.programFolder = folder_ + "/\xd0\xa0\xd0\xb0\xd0\xb1\xd0\xbe\xd1\x82\xd0\xb0/";
+  identity_.programFolder = folder_.Path() + "/\xd0\xa0\xd0\xb0\xd0\xb1\xd0\xbe\xd1\x82\xd0\xb0/";
   fs::create_directories(identity_.programFolder);
   EXPECT_EQ(AppendError(), 0);
   EXPECT_NE(Content().find("0000002 = " + identity_.programFolder), std::string::npos);
 }
 
 TEST_F(ErrorLogTest, MissingFolderIsPathNotFound) {
-  identity_.programFolder = folder_ + "/none/";
+  identity_.programFolder = folder_.Path() + "/none/";
   EXPECT_EQ(AppendError(), 76);
 }
 

@@ -1,45 +1,35 @@
 #include "app/core/error_reports.h"
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "tests/fakes/fake_clock.h"
 #include "tests/fakes/fake_message_boxes.h"
+#include "tests/fakes/temporary_folder.h"
 
 namespace korvale {
 namespace {
 
-namespace fs = std::filesystem;
-
 class ErrorReportsTest : public testing::Test {
  protected:
-  ErrorReportsTest() : folder_(testing::TempDir() + "korvale-reports-" + std::to_string(getpid())) {
-    fs::create_directories(folder_);
-    identity_.programFolder = folder_ + "/";
+  ErrorReportsTest() {
+    identity_.programFolder = folder_.Path() + "/";
     messages_.whileShown = [this](const ShownMessageBox& /*box*/) {
       EXPECT_EQ(Content(), "") << "logged before the user was told";
       EXPECT_EQ(shutDowns_, 0) << "shut down before the user was told";
     };
   }
-  ~ErrorReportsTest() override { fs::remove_all(folder_); }
 
-  std::string Content() const {
-    std::ifstream file(identity_.programFolder + "Error.log", std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-  }
+  std::string Content() const { return FileContent(identity_.programFolder + "Error.log"); }
   void Fatal(std::int16_t number) {
     reports_.udmFatalError(ErrorPlace::kProgramEntry, number,
                            {"description", "a = 1", "Please start Korvale again."});
   }
 
-  std::string folder_;
+  TemporaryFolder folder_{"reports"};
   ProgramIdentity identity_;
   FakeMessageBoxes messages_;
   FakeClock clock_;
@@ -88,7 +78,7 @@ TEST_F(ErrorReportsTest, FatalErrorOfTheProgramsOwnHasNoRunTimeErrorText) {
 }
 
 TEST_F(ErrorReportsTest, ProgramEndsEvenWhenTheLogCannotBeWritten) {
-  identity_.programFolder = folder_ + "/none/";
+  identity_.programFolder = folder_.Path() + "/none/";
   ErrorReports reports(identity_, messages_, log_, [this] { ++shutDowns_; });
   EXPECT_THROW(reports.udmFatalError(ErrorPlace::kWindowProcedure, 5, {}), ProgramEnded);
   EXPECT_EQ(messages_.shown.size(), 1U);

@@ -6,6 +6,7 @@
 #include <memory>
 #include <set>
 #include <string>
+#include <utility>
 
 #include "platform/system_api.h"
 #include "tests/fakes/call_log.h"
@@ -62,6 +63,9 @@ class FakeSystem : public SystemApi {
                      int showCommand) override;
   bool FileExists(const std::string& path) override;
   std::unique_ptr<SystemMutex> CreateMutexA(const std::string& name) override;
+  void SetUnhandledExceptionFilter(std::function<void(const Crash&)> filter) override {
+    crashFilter = std::move(filter);
+  }
 
   std::string executablePath = "C:\\Programs\\Work\\Korvale.exe";
   std::string commandLine;
@@ -70,6 +74,8 @@ class FakeSystem : public SystemApi {
   std::string windowsFolder = "C:\\Windows";
   std::set<std::string> files;
   bool refuseMutexes = false;
+  /// Called for a crash of the program; empty when there is none.
+  std::function<void(const Crash&)> crashFilter;
 
  private:
   CallLog& log_;

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -23,6 +24,7 @@ class SystemOfTest : public SystemApi {
     buffer_size_ = bufferSize;
     return folder_.size() < bufferSize ? folder_ : "";
   }
+  void SetUnhandledExceptionFilter(std::function<void(const Crash&)> /*filter*/) override {}
   void ShellExecuteA(WindowHandle hwnd, const std::string& verb, const std::string& file,
                      int showCommand) override {
     opened_.push_back(std::to_string(hwnd) + " " + verb + " " + file + " " +
