@@ -30,7 +30,7 @@ constexpr ControlRow LinkLabel() {
   return row;
 }
 
-constexpr ControlRow kControls[] = {
+constexpr ControlRow kAboutControls[] = {
     {kImage, "imaProduct", -1, "", "", {240, 300, 600, 600}},
     Label("lblProduct", "", 300, kNoFlags),
     Label("lblFileDescription", "", 660, kNoFlags),
@@ -49,7 +49,7 @@ constexpr ControlRow kControls[] = {
 };
 
 constexpr FormDesign kDesign = {
-    .name = "frmMsgBox2", .caption = "", .place = {0, 0, 5580, 3030}, .controls = kControls};
+    .name = "frmMsgBox2", .caption = "", .place = {0, 0, 5580, 3030}, .controls = kAboutControls};
 
 }  // namespace
 

@@ -38,7 +38,7 @@ constexpr ControlRow Row(ControlKind kind, const char* name, int index, const ch
   return row;
 }
 
-constexpr ControlRow kControls[] = {
+constexpr ControlRow kAddWindowControls[] = {
     Row(kTextBox, "txtWindowClass", -1, "",
         " Class of window:  the window will be matched based on Title and Class - if a Title/Class "
         "match is not found, then the match is made by Title alone ",
@@ -85,7 +85,7 @@ constexpr ControlRow kControls[] = {
 constexpr FormDesign kDesign = {.name = "frmGetWindow",
                                 .caption = "Add Window",
                                 .place = {0, 0, 7800, 4500},
-                                .controls = kControls};
+                                .controls = kAddWindowControls};
 
 }  // namespace
 

@@ -13,7 +13,7 @@ constexpr ControlRow NameOfNext(const char* name, const char* text) {
   return {ControlKind::kLabel, name, -1, text, "", {}, "", -1, kHidden | kNoPrefix};
 }
 
-constexpr auto kControls = std::to_array<ControlRow>({
+constexpr auto kStripControls = std::to_array<ControlRow>({
     NameOfNext("lblWindow", "Target Window"),
     {ControlKind::kTextBox,
      "txtWindow",
@@ -88,7 +88,7 @@ FormDesign MainFormDesign() {
   design.modalFrame = false;
   design.inTaskbar = true;
   design.exactHeight = true;
-  design.controls = kControls;
+  design.controls = kStripControls;
   design.menu = kMenus;
   return design;
 }

@@ -15,7 +15,7 @@ constexpr Twips kTextAboveBottom = 1800;
 constexpr Twips kCheckBoxAboveBottom = 1275;
 constexpr Twips kButtonAboveBottom = 795;
 
-constexpr ControlRow kControls[] = {
+constexpr ControlRow kTipControls[] = {
     {kCheckBox,
      "chkStopMsg",
      -1,
@@ -45,7 +45,7 @@ constexpr ControlRow kControls[] = {
 constexpr FormDesign kDesign = {.name = "frmMsgTip",
                                 .caption = "",
                                 .place = {0, 0, kWidth, kDesignHeight},
-                                .controls = kControls};
+                                .controls = kTipControls};
 
 constexpr bool ClosesTip(int key, unsigned shift) {
   return (key == win32::kVkEscape && shift == kNoShift) || (key == win32::kVkF4 && shift == kAlt);

@@ -9,13 +9,12 @@
 #include <vector>
 
 #include "app/core/setting_rows.h"
+#include "tests/core/saves.h"
 #include "tests/fakes/call_log.h"
 #include "tests/fakes/fake_settings_store.h"
 
 namespace korvale {
 namespace {
-
-constexpr const char* kApp = "Korvale - Work";
 
 using Pairs = SettingsStore::Pairs;
 

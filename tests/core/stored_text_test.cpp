@@ -4,12 +4,11 @@
 #include <vector>
 
 #include "app/core/settings.h"
+#include "tests/core/saves.h"
 #include "tests/fakes/fake_settings_store.h"
 
 namespace korvale {
 namespace {
-
-constexpr const char* kApp = "Korvale - Work";
 
 using Pairs = SettingsStore::Pairs;
 

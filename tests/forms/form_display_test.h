@@ -8,24 +8,24 @@
 
 namespace korvale {
 
-inline constexpr ControlRow kDialogControls[] = {
+inline constexpr ControlRow kSmallDialogControls[] = {
     {ControlKind::kButton, "cmdOK", -1, "OK", "", {60, 60, 1000, 300}},
 };
 
 inline constexpr FormDesign kDialogDesign = {.name = "frmDialog",
                                              .caption = "Dialog",
                                              .place = {0, 0, 3000, 2000},
-                                             .controls = kDialogControls};
+                                             .controls = kSmallDialogControls};
 inline constexpr FormDesign kSecondDesign = {.name = "frmSecond",
                                              .caption = "Second",
                                              .place = {0, 0, 1000, 1000},
-                                             .controls = kDialogControls};
+                                             .controls = kSmallDialogControls};
 inline constexpr FormDesign kOwnerDesign = {.name = "frmOwner",
                                             .caption = "Owner",
                                             .place = {6000, 4000, 4000, 3000},
                                             .border = BorderStyle::kSizable,
                                             .minimizeBox = true,
-                                            .controls = kDialogControls};
+                                            .controls = kSmallDialogControls};
 
 class Dialog : public Form {
  public:

@@ -8,10 +8,6 @@ namespace {
 
 using FormLifeTest = FormTest;
 
-FormDesign Bare(const char* name) {
-  return {.name = name, .caption = name, .place = {150, 150, 3000, 1500}};
-}
-
 TEST_F(FormLifeTest, LoadingMakesAHiddenWindowAndRunsTheLoadHandlerOnce) {
   int loads = 0;
   form_.onLoad = [&] { ++loads; };

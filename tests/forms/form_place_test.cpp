@@ -5,10 +5,6 @@ namespace {
 
 using FormPlaceTest = FormTest;
 
-FormDesign Bare(const char* name) {
-  return {.name = name, .caption = name, .place = {150, 150, 3000, 1500}};
-}
-
 TEST_F(FormPlaceTest, TheWindowGrowsWithAFrameHigherAndWiderThanTheClassicOne) {
   host_.SetFrame({60, 500, 120, 560}, 285);
   RecordingForm dialog(DialogDesign("frmDialog"), forms_);

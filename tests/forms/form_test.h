@@ -43,4 +43,9 @@ class FormTest : public testing::Test {
   RecordingForm form_{kContractDesign, forms_};
 };
 
+/// A form without controls.
+inline FormDesign Bare(const char* name) {
+  return {.name = name, .caption = name, .place = {150, 150, 3000, 1500}};
+}
+
 }  // namespace korvale
