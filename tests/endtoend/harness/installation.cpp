@@ -1,10 +1,17 @@
 #include "tests/endtoend/harness/installation.h"
 
 #include <filesystem>
+#include <system_error>
 
 #include "tests/endtoend/harness/text.h"
+#include "tests/endtoend/harness/wait.h"
 
 namespace korvale::endtoend {
+namespace {
+
+constexpr char kRegister[] = "Korvale Installations";
+
+}  // namespace
 
 Installation::Installation(const std::string& folder_name)
     : folder_(parent_.path() + folder_name + "\\"),
@@ -17,6 +24,19 @@ Installation::Installation(const std::string& folder_name)
 }
 
 Installation::~Installation() { Forget(); }
+
+std::optional<std::string> Installation::RegisteredFolder() const {
+  return StoredSettings(kRegister).Get("0", name_);
+}
+
+void Installation::RemoveProgram() const {
+  // A program that was ended a moment ago may still hold its file.
+  WaitFor([this] {
+    std::error_code error;
+    std::filesystem::remove(std::filesystem::path(Wide(program())), error);
+    return !error;
+  });
+}
 
 void Installation::MarkAsUsed() const { SetOption("SplashScreen", "False"); }
 
@@ -32,7 +52,7 @@ void Installation::StoreTag(int tag, const std::string& text, const std::string&
 
 void Installation::Forget() const {
   settings_.DeleteAll();
-  StoredSettings("Korvale Installations").DeleteValue("0", name_);
+  StoredSettings(kRegister).DeleteValue("0", name_);
 }
 
 }  // namespace korvale::endtoend

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "tests/endtoend/harness/files.h"
@@ -22,6 +23,11 @@ class Installation {
   const std::string& folder() const { return folder_; }
   std::string program() const { return folder_ + "Korvale.exe"; }
   const StoredSettings& settings() const { return settings_; }
+  /// The folder that the register of all installations holds for this one.
+  std::optional<std::string> RegisteredFolder() const;
+
+  /// Takes the program out of the folder, as a user does who moves or renames the folder.
+  void RemoveProgram() const;
 
   /// Leaves settings as an earlier run would have, without the splash: nothing is asked at start.
   void MarkAsUsed() const;

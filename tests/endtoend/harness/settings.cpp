@@ -45,11 +45,31 @@ std::map<std::string, std::string> StoredSettings::Section(const std::string& se
   return pairs;
 }
 
+std::vector<std::string> StoredSettings::Sections() const {
+  std::vector<std::string> sections;
+  const std::wstring path = kRoot + Wide(application_);
+  HKEY key = nullptr;
+  if (RegOpenKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, KEY_READ, &key) != 0) return sections;
+  for (DWORD index = 0;; ++index) {
+    wchar_t name[kCapacity];
+    if (RegEnumKeyW(key, index, name, kCapacity) != 0) break;
+    sections.push_back(Utf8(name));
+  }
+  RegCloseKey(key);
+  return sections;
+}
+
 void StoredSettings::Set(const std::string& section, const std::string& key,
                          const std::string& value) const {
   const std::wstring text = Wide(value);
   RegSetKeyValueW(HKEY_CURRENT_USER, Path(section).c_str(), Wide(key).c_str(), REG_SZ, text.c_str(),
                   static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t)));
+}
+
+void StoredSettings::SetNumber(const std::string& section, const std::string& key,
+                               std::uint32_t value) const {
+  RegSetKeyValueW(HKEY_CURRENT_USER, Path(section).c_str(), Wide(key).c_str(), REG_DWORD, &value,
+                  sizeof(value));
 }
 
 void StoredSettings::DeleteValue(const std::string& section, const std::string& key) const {

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace korvale::endtoend {
 
@@ -14,7 +16,11 @@ class StoredSettings {
 
   std::optional<std::string> Get(const std::string& section, const std::string& key) const;
   std::map<std::string, std::string> Section(const std::string& section) const;
+  /// The names of all sections, also of those that hold nothing.
+  std::vector<std::string> Sections() const;
   void Set(const std::string& section, const std::string& key, const std::string& value) const;
+  /// Stores a number as registry editors do, which is not how settings are stored.
+  void SetNumber(const std::string& section, const std::string& key, std::uint32_t value) const;
   void DeleteValue(const std::string& section, const std::string& key) const;
   void DeleteAll() const;
 
