@@ -27,7 +27,9 @@ void Report::Line(const std::string& what, const std::string& time, bool worked)
   std::cout << (worked ? "  ok    " : "  FAIL  ") << std::left << std::setw(kTextWidth) << what
             << std::right << std::setw(10) << time << "   in front: " << Foreground().Title()
             << std::endl;
-  if (!worked) ++failures_;
+  if (worked) return;
+  ++failures_;
+  Picture("failure-" + std::to_string(failures_));
 }
 
 void Report::Step(const std::string& what, bool worked) { Line(what, "", worked); }

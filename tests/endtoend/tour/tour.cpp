@@ -29,6 +29,11 @@ void Tour::Run() {
   SwitchOffAndOn();
   TagMineGame();
   GoRound();
+  StartAgain();
+  ChangeTheModifier();
+  HideTheMenu();
+  CustomizeColors();
+  OpenAbout();
 }
 
 void Tour::OpenPrograms() {

@@ -1,11 +1,14 @@
 #pragma once
 
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "tests/endtoend/harness/add_window_dialog.h"
+#include "tests/endtoend/harness/color_dialog.h"
 #include "tests/endtoend/harness/installation.h"
+#include "tests/endtoend/harness/options_dialog.h"
 #include "tests/endtoend/harness/real_program.h"
 #include "tests/endtoend/harness/running_korvale.h"
 #include "tests/endtoend/harness/test_program.h"
@@ -32,6 +35,11 @@ class Tour {
   void CloseAndReopen();
   void SwitchOffAndOn();
   void GoRound();
+  void StartAgain();
+  void ChangeTheModifier();
+  void HideTheMenu();
+  void CustomizeColors();
+  void OpenAbout();
 
   /// Brings the window forward and waits until Korvale has seen it.
   void WorkIn(const std::string& name, Window window);
@@ -39,6 +47,17 @@ class Tour {
   bool Seen(Window window) const;
   AddWindowDialog OpenAddWindow(const std::string& picture);
   void Toggle(const std::string& what);
+  /// Chooses from the menu bar: the menu's letter with Alt, then the letters of the entries.
+  bool Choose(UINT menu, std::initializer_list<UINT> entries);
+  OptionsDialog OpenOptions();
+  void SetTagModifier(const OptionsDialog& dialog, const std::string& modifier);
+  /// Turns the mode for colours on and reads its tip.
+  void BeginCustomizing();
+  /// Moves the mouse from where it is an arrow over the box to where it is a C.
+  bool PointsWithC(Window box);
+  /// False when Korvale asks for a colour nevertheless.
+  bool AltClick(Window box);
+  void ColorTheBoxes(Rgb color);
 
   Report& report_;
   Installation installation_{"Tour"};
