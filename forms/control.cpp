@@ -110,6 +110,11 @@ void Control::AddItem(std::string_view text, std::int32_t itemData) {
   Changed(ControlProperty::kItems);
 }
 
+void Control::AddItems(std::span<const ListItem> items) {
+  state_->items.insert(state_->items.end(), items.begin(), items.end());
+  Changed(ControlProperty::kItems);
+}
+
 void Control::SetItemText(int listIndex, std::string_view text) {
   CheckEntry(*state_, listIndex);
   std::string& shown = state_->items[static_cast<std::size_t>(listIndex)].text;

@@ -55,6 +55,8 @@ class Control {
 
   std::span<const ListItem> Items() const { return state_->items; }
   void AddItem(std::string_view text, std::int32_t itemData = 0);
+  /// Adds many entries to a list, which is shown anew only once.
+  void AddItems(std::span<const ListItem> items);
   void SetItemText(int listIndex, std::string_view text);
   /// Removes all entries; nothing is selected then.
   void Clear();

@@ -1,6 +1,7 @@
 #include "forms/hot_key_lists.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "platform/win32_constants.h"
 #include "util/lists.h"
@@ -33,7 +34,9 @@ constexpr HotKeyChoice kKeys[] = {
 };
 
 void Fill(Control& list, std::span<const HotKeyChoice> choices) {
-  for (const HotKeyChoice& choice : choices) list.AddItem(choice.text, choice.value);
+  std::vector<ListItem> items;
+  for (const HotKeyChoice& choice : choices) items.push_back({choice.text, choice.value});
+  list.AddItems(items);
 }
 
 std::string KeyText(std::int16_t key) {

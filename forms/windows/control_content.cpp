@@ -58,7 +58,9 @@ bool SameEntries(HWND window, const ControlState& control) {
     std::wstring text(static_cast<std::size_t>(length) + 1, L'\0');
     SendMessageW(window, CB_GETLBTEXT, index, reinterpret_cast<LPARAM>(text.data()));
     text.resize(static_cast<std::size_t>(length));
-    if (text != ToUtf16(control.items[index].text)) return false;
+    const ListItem& item = control.items[index];
+    const LRESULT data = SendMessageW(window, CB_GETITEMDATA, index, 0);
+    if (text != ToUtf16(item.text) || data != item.itemData) return false;
   }
   return true;
 }
@@ -77,7 +79,9 @@ void ShowItems(HWND window, const ControlState& control) {
   } else if (!SameEntries(window, control)) {
     SendMessageW(window, CB_RESETCONTENT, 0, 0);
     for (const ListItem& item : control.items) {
-      SendMessageW(window, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(ToUtf16(item.text).c_str()));
+      const LRESULT index = SendMessageW(window, CB_ADDSTRING, 0,
+                                         reinterpret_cast<LPARAM>(ToUtf16(item.text).c_str()));
+      SendMessageW(window, CB_SETITEMDATA, static_cast<WPARAM>(index), item.itemData);
     }
   }
   ShowListIndex(window, control);
