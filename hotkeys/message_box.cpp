@@ -81,17 +81,25 @@ void SuspendingMessageBoxes::Resume(const Remembered& before) {
 
 std::int16_t SuspendingMessageBoxes::Show(const std::string& prompt, std::int32_t buttons,
                                           const std::string& title) {
-  // Owned by the main window alone, a box would open behind the dialog above it.
+  return host_->MessageBoxW(Owner(), prompt, title, buttons);
+}
+
+/// Owned by the main window alone, a box would open behind the dialog above it. A main window that
+/// is still hidden would be activated when its box closes, and so not once more when it is shown.
+WindowHandle SuspendingMessageBoxes::Owner() {
   const WindowHandle dialog = modalOnTop_();
-  const WindowHandle owner = dialog != 0 ? dialog : mainWindow_->MainHandle();
-  return host_->MessageBoxW(owner, prompt, title, buttons);
+  if (dialog != 0) return dialog;
+  const WindowHandle main = mainWindow_->MainHandle();
+  return windows_->IsWindowVisible(main) ? main : 0;
 }
 
 void SuspendingMessageBoxes::GiveForegroundBack(WindowHandle before) {
   const WindowHandle now = windows_->GetForegroundWindow();
   if (before == 0 || now == before) return;
-  // From ours to another program's, or back, is the closed box's doing; the rest is the user's.
-  const bool passedOn = now == 0 || IsOwnForm(*forms_, now) != IsOwnForm(*forms_, before);
+  // From ours to another program's, back, or to the main window, which took no input meanwhile, is
+  // the closed box's doing; the rest is the user's.
+  const bool passedOn = now == 0 || now == mainWindow_->MainHandle() ||
+                        IsOwnForm(*forms_, now) != IsOwnForm(*forms_, before);
   if (passedOn) ReturnForegroundTo(*windows_, *commands_, before);
 }
 

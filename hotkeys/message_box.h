@@ -43,6 +43,7 @@ class SuspendingMessageBoxes : public MessageBoxes {
   std::int16_t ShowOutermost(const std::string& prompt, std::int32_t buttons,
                              const std::string& title);
   std::int16_t Show(const std::string& prompt, std::int32_t buttons, const std::string& title);
+  WindowHandle Owner();
   void GiveForegroundBack(WindowHandle before);
 
   FormHost* host_;

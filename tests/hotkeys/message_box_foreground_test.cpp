@@ -30,6 +30,26 @@ TEST_F(MessageBoxForegroundTest, GivesTheForegroundBackToAnotherFormOfTheProgram
   EXPECT_EQ(desktop.GetForegroundWindow(), options);
 }
 
+TEST_F(MessageBoxForegroundTest, GivesTheForegroundBackToTheDialogWhenTheMainWindowGotIt) {
+  const WindowHandle options = Open("Korvale - Options", "Korvale.frmOptions", kOurProcess);
+  forms.Load("frmOptions", options);
+  desktop.UserActivates(options);
+  host.whileShown = [this](const std::string&) { desktop.UserActivates(main); };
+
+  ShowBox();
+
+  EXPECT_EQ(desktop.GetForegroundWindow(), options);
+}
+
+TEST_F(MessageBoxForegroundTest, ActivatesNoMainWindowThatIsStillHidden) {
+  desktop.Hide(main);
+  log.Clear();
+
+  ShowBox();
+
+  EXPECT_EQ(log.CallsOf("MessageBoxW"), Calls{"MessageBoxW(0, \"Prompt\", \"Title\", 0)"});
+}
+
 TEST_F(MessageBoxForegroundTest, LeavesTheForegroundToTheProgramThatHadIt) {
   desktop.UserActivates(other);
   const WindowHandle third = Open("Third", "Third", kOtherProcess);
