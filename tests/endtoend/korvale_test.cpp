@@ -113,7 +113,7 @@ AddWindowDialog KorvaleTest::OpenAddWindow() {
 
 AssertionResult KorvaleTest::Exit() {
   if (!BringToFront(main())) return AssertionFailure() << "the main window does not come";
-  Press({MOD_ALT, VK_F4});
+  PressUntil({MOD_ALT, VK_F4}, [this] { return !korvale_->process().Running(); });
   return Check(korvale_->process().WaitForExit() == 0U, "the program does not end with code 0");
 }
 

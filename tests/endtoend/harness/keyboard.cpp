@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "tests/endtoend/harness/text.h"
+#include "tests/endtoend/harness/wait.h"
 
 namespace korvale::endtoend {
 namespace {
@@ -75,6 +76,14 @@ HeldKeys::~HeldKeys() {
 }
 
 void Press(Chord chord) { const HeldKeys held(chord); }
+
+bool PressUntil(Chord chord, const std::function<bool()>& condition) {
+  for (int attempt = 0; attempt < 5; ++attempt) {
+    Press(chord);
+    if (WaitFor(condition, std::chrono::milliseconds(3000))) return true;
+  }
+  return false;
+}
 
 void Type(const std::string& text) {
   std::vector<INPUT> inputs;

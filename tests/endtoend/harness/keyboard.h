@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -41,6 +42,11 @@ class HeldKeys {
 
 /// Presses and releases a chord through SendInput: it reaches whatever is in front.
 void Press(Chord chord);
+
+/// Presses a chord that does no harm a second time until it has the effect that `condition` tells;
+/// false when it never has. When a window has just got the focus, Wine can let go of modifiers that
+/// only SendInput holds, and the chord is lost.
+bool PressUntil(Chord chord, const std::function<bool()>& condition);
 
 /// Types text into whatever has the focus.
 void Type(const std::string& text);

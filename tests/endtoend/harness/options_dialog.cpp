@@ -66,15 +66,13 @@ OptionsDialog::Page OptionsDialog::CurrentPage() const {
 
 bool OptionsDialog::GoTo(Page page) const {
   for (int turn = 0; turn < kPages && CurrentPage() != page; ++turn) {
-    const Window before = VisiblePage();
-    if (!BringToFront(form_)) return false;
-    Press({MOD_CONTROL, VK_TAB});
+    const Page before = CurrentPage();
     const auto turned = [&] {
-      // While one page gives way to the other, both are visible.
-      const Window now = VisiblePage();
-      return now && now != before;
+      // While one page gives way to the other, none is the one on the screen.
+      const std::optional<Page> now = PageOnScreen();
+      return now.has_value() && now != before;
     };
-    if (!WaitFor(turned)) return false;
+    if (!BringToFront(form_) || !PressUntil({MOD_CONTROL, VK_TAB}, turned)) return false;
   }
   return form_.Responds() && CurrentPage() == page;
 }
@@ -101,14 +99,17 @@ bool OptionsDialog::HasNoChoice(List list) const {
 
 bool OptionsDialog::Focus(List list) const {
   const auto frame = std::ranges::find_if(kFrames, [&](Frame each) { return each.first <= list; });
-  if (!BringToFront(form_)) return false;
-  Press({MOD_ALT, frame->accessKey});
-  for (auto each = static_cast<int>(frame->first);; ++each) {
-    const Window expected = ListBox(static_cast<List>(each));
-    if (!WaitFor([&] { return FocusOf(form_) == expected; })) return false;
-    if (each == static_cast<int>(list)) return true;
-    Press({0, VK_TAB});
+  const auto has_focus = [this](List each) { return FocusOf(form_) == ListBox(each); };
+  if (!BringToFront(form_) ||
+      !PressUntil({MOD_ALT, frame->accessKey}, [&] { return has_focus(frame->first); })) {
+    return false;
   }
+  for (auto each = static_cast<int>(frame->first); each < static_cast<int>(list);) {
+    Press({0, VK_TAB});
+    const List next = static_cast<List>(++each);
+    if (!WaitFor([&] { return has_focus(next); })) return false;
+  }
+  return true;
 }
 
 Window OptionsDialog::TagBox(int tag) const { return Button(std::to_string(tag)); }

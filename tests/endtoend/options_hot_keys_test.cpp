@@ -1,0 +1,137 @@
+#include "tests/endtoend/options_test.h"
+
+namespace korvale::endtoend {
+namespace {
+
+constexpr char kClass[] = "Test.Window";
+constexpr char kReactivated[] =
+    "The hot keys are currently deactivated.  They will now be re-activated, for any changes (if "
+    "any) made to the hot keys on the Hot Keys tab of the Options dialog box can take effect.";
+constexpr char kResetQuestion[] = "Reset all Options to default ?";
+constexpr char kResetNote[] =
+    "Note:  This operation will not effect any of the Settings changed from the View menu.";
+constexpr Chord kCtrl1{MOD_CONTROL, '1'};
+
+class OptionsHotKeys : public OptionsTest {
+ protected:
+  static bool BecomesFree(Chord chord) {
+    return WaitFor([&] { return HotKeyIsFree(chord); });
+  }
+
+  void SwitchHotKeysOff() {
+    Press(kToggleKey);
+    ASSERT_TRUE(korvale_->Form("frmWaitWindow"));
+    ASSERT_TRUE(WaitFor([this] { return !korvale_->HasForm("frmWaitWindow"); }));
+    ASSERT_TRUE(HotKeyIsFree(TagKey(1)));
+  }
+
+  /// Presses Reset, and answers the question.
+  ::testing::AssertionResult Reset(const OptionsDialog& dialog, int answer) {
+    Click(dialog.Button("Reset All Options to Default"));
+    const Window box = korvale_->MessageBox();
+    if (!box) return ::testing::AssertionFailure() << "no question";
+    EXPECT_EQ(box.Title(), "Korvale - Options");
+    const std::string text = LabelText(box);
+    EXPECT_TRUE(text.starts_with(kResetQuestion)) << text;
+    EXPECT_NE(text.find("The default options will be Applied automatically."), std::string::npos);
+    EXPECT_TRUE(text.ends_with(kResetNote)) << text;
+    if (!AnswerBox(box, answer)) return ::testing::AssertionFailure() << "the question stays";
+    if (!dialog.form().Responds()) return ::testing::AssertionFailure() << "the dialog hangs";
+    return InFront(dialog.form());
+  }
+};
+
+TEST_F(OptionsHotKeys, SelectWithAnotherModifierAsSoonAsItIsApplied) {
+  installation_.StoreTag(1, "Alpha", kClass);
+  const OptionsDialog dialog = StartWithOptions(Page::kHotKeys);
+  const Window alpha = Open("Alpha");
+  const Window beta = Open("Beta");
+  ASSERT_TRUE(Pick(dialog, List::kTagModifier, 'C', "Ctrl"));
+  ASSERT_TRUE(Apply(dialog));
+  EXPECT_EQ(settings().Get("Options", "HotKeyModParent"), "2");
+  ASSERT_TRUE(WorkIn(beta));
+  Press(TagKey(1));
+  EXPECT_TRUE(StaysInFront(beta));
+  Press(kCtrl1);
+  EXPECT_TRUE(InFront(alpha));
+}
+
+TEST_F(OptionsHotKeys, AreRegisteredAsTheDialogSaysWhenItIsApplied) {
+  const OptionsDialog dialog = StartWithOptions(Page::kHotKeys);
+  Click(dialog.TagBox(5));
+  ASSERT_TRUE(WaitFor([&] { return !IsChecked(dialog.TagBox(5)); }));
+  ASSERT_TRUE(Pick(dialog, List::kMinimizeModifier, 'S', "Shift"));
+  ASSERT_TRUE(Pick(dialog, List::kMinimizeKey, VK_F8, "F8"));
+  ASSERT_TRUE(Pick(dialog, List::kMenuKey, VK_SPACE, " "));
+  EXPECT_FALSE(HotKeyIsFree(TagKey(5)));
+  EXPECT_TRUE(HotKeyIsFree({MOD_SHIFT, VK_F8}));
+  ASSERT_TRUE(Apply(dialog));
+  EXPECT_TRUE(HotKeyIsFree(TagKey(5)));
+  EXPECT_TRUE(HotKeyIsFree(kMinimizeKey));
+  EXPECT_TRUE(HotKeyIsFree(kMenuKey));
+  EXPECT_FALSE(HotKeyIsFree({MOD_SHIFT, VK_F8}));
+  EXPECT_FALSE(HotKeyIsFree(TagKey(4)));
+  EXPECT_FALSE(HotKeyIsFree(kMaximizeKey));
+  EXPECT_EQ(settings().Get("Options", "HotKeyParent5"), "False");
+}
+
+TEST_F(OptionsHotKeys, AreSwitchedOnAgainByApply) {
+  Start();
+  SwitchHotKeysOff();
+  const OptionsDialog dialog = OpenOptionsByMenu();
+  Press({MOD_ALT, 'A'});
+  const Window box = korvale_->MessageBox();
+  ASSERT_TRUE(box);
+  EXPECT_EQ(box.Title(), "Korvale - Options (Save)");
+  ASSERT_TRUE(Says(kReactivated));
+  // It answers once the hot keys have been registered; to try them before would get in the way.
+  ASSERT_TRUE(dialog.form().Responds());
+  EXPECT_FALSE(HotKeyIsFree(TagKey(1)));
+  EXPECT_TRUE(InFront(dialog.form()));
+  ASSERT_TRUE(Apply(dialog));
+  EXPECT_FALSE(korvale_->HasMessageBox());
+}
+
+TEST_F(OptionsHotKeys, StayAsTheyAreWhenResetIsCancelled) {
+  installation_.SetOption("HotKeyModParent", "2");
+  const OptionsDialog dialog = StartWithOptions(Page::kHotKeys);
+  const Pairs before = StoredOptions();
+  ASSERT_TRUE(Reset(dialog, IDCANCEL));
+  EXPECT_EQ(StoredOptions(), before);
+  EXPECT_EQ(dialog.Chosen(List::kTagModifier), "Ctrl");
+  EXPECT_FALSE(HotKeyIsFree(kCtrl1));
+}
+
+TEST_F(OptionsHotKeys, AreTheDefaultsAfterReset) {
+  installation_.SetOption("HotKeyModParent", "2");
+  installation_.SetOption("HotKeyGeneral2", "0");
+  const OptionsDialog dialog = StartWithOptions(Page::kHotKeys);
+  ASSERT_TRUE(HotKeyIsFree(TagKey(1)));
+  ASSERT_TRUE(Reset(dialog, IDOK));
+  EXPECT_TRUE(HotKeyIsFree(kCtrl1));
+  for (const Chord key : AllHotKeys()) EXPECT_FALSE(HotKeyIsFree(key)) << key.key;
+  EXPECT_EQ(dialog.Chosen(List::kTagModifier), "Alt");
+  EXPECT_EQ(dialog.Chosen(List::kToggleKey), "Pause");
+  EXPECT_EQ(StoredOptions(), Pairs());
+}
+
+TEST_F(OptionsHotKeys, ThatAnotherProgramHasAreNamedUntilItGivesThemBack) {
+  installation_.StoreTag(5, "Alpha", kClass);
+  const Window alpha = Open("Alpha");
+  std::optional<TestProgram> holder(std::in_place);
+  ASSERT_TRUE(holder->TakeHotKey(TagKey(5)));
+  ASSERT_TRUE(holder->TakeHotKey(kMenuKey));
+  const OptionsDialog dialog = StartWithOptions(Page::kHotKeys);
+  EXPECT_EQ(dialog.ConflictLine(), "Not available, in use by another program:  Alt+5, Windows®+W");
+  holder.reset();
+  ASSERT_TRUE(BecomesFree(TagKey(5)));
+  ASSERT_TRUE(BecomesFree(kMenuKey));
+  ASSERT_TRUE(Apply(dialog));
+  EXPECT_EQ(dialog.ConflictLine(), "");
+  ASSERT_TRUE(WorkIn(Open("Beta")));
+  Press(TagKey(5));
+  EXPECT_TRUE(InFront(alpha));
+}
+
+}  // namespace
+}  // namespace korvale::endtoend

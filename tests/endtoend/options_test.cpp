@@ -1,0 +1,69 @@
+#include "tests/endtoend/options_test.h"
+
+#include <stdexcept>
+
+namespace korvale::endtoend {
+
+using ::testing::AssertionFailure;
+using ::testing::AssertionResult;
+using ::testing::AssertionSuccess;
+
+OptionsDialog OptionsTest::WaitForOptions() {
+  const OptionsDialog dialog(korvale_->Form("frmOptions"));
+  if (!dialog.form()) throw std::runtime_error("the Options dialog did not come");
+  // A moment later Wine has looked which keys are down, and lets go of no modifier any more.
+  const auto in_front = [&] { return Foreground() == dialog.form(); };
+  if (!WaitFor(in_front) || !HoldsFor(in_front, std::chrono::milliseconds(100))) {
+    throw std::runtime_error("the Options dialog is not in front");
+  }
+  return dialog;
+}
+
+OptionsDialog OptionsTest::OpenOptions() {
+  PressUntil(kOptionsKey, [this] { return korvale_->HasForm("frmOptions"); });
+  return WaitForOptions();
+}
+
+OptionsDialog OptionsTest::OpenOptionsByMenu() {
+  EXPECT_TRUE(Choose('T', {'O'}));
+  return WaitForOptions();
+}
+
+OptionsDialog OptionsTest::StartWithOptions(Page page) {
+  settings().Set("Startup", "OptionsTab", std::to_string(static_cast<int>(page)));
+  Start();
+  return OpenOptions();
+}
+
+AssertionResult OptionsTest::Apply(const OptionsDialog& dialog) {
+  if (!BringToFront(dialog.form())) return AssertionFailure() << "the dialog does not come";
+  // The last key that a save writes tells when it has come so far.
+  settings().DeleteValue("Startup", "WindowInfo");
+  const auto saved = [this] { return settings().Get("Startup", "WindowInfo").has_value(); };
+  if (!PressUntil({MOD_ALT, 'A'}, saved)) return AssertionFailure() << "nothing is saved";
+  // It answers once the hot keys have been registered, too.
+  if (!dialog.form().Responds()) return AssertionFailure() << "the dialog hangs";
+  return AssertionSuccess();
+}
+
+AssertionResult OptionsTest::Pick(const OptionsDialog& dialog, List list, UINT key,
+                                  const std::string& entry) {
+  if (!dialog.Focus(list)) return AssertionFailure() << "the list does not get the focus";
+  Press({0, key});
+  return Shows(dialog, list, entry);
+}
+
+AssertionResult OptionsTest::Shows(const OptionsDialog& dialog, List list,
+                                   const std::string& entry) {
+  if (WaitFor([&] { return dialog.Chosen(list) == entry; })) return AssertionSuccess();
+  return AssertionFailure() << "the list shows '" << dialog.Chosen(list) << "', not '" << entry
+                            << "'";
+}
+
+AssertionResult OptionsTest::HoldsOption(const std::string& key, const std::string& value) {
+  if (WaitFor([&] { return settings().Get("Options", key) == value; })) return AssertionSuccess();
+  return AssertionFailure() << key << " is '" << settings().Get("Options", key).value_or("(none)")
+                            << "', not '" << value << "'";
+}
+
+}  // namespace korvale::endtoend
