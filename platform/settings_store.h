@@ -19,7 +19,8 @@ class SettingsStore {
   virtual std::optional<std::string> GetSetting(const std::string& appName,
                                                 const std::string& section,
                                                 const std::string& key) = 0;
-  /// All text values of a section in the store's order; empty when there are none (RegEnumValueW).
+  /// All values of a section in the store's order, "" for one that is not text; empty when there
+  /// are none (RegEnumValueW).
   virtual Pairs GetAllSettings(const std::string& appName, const std::string& section) = 0;
   /// Writes one value, creating what is missing; false when the store refused (RegSetValueExW).
   virtual bool SaveSetting(const std::string& appName, const std::string& section,

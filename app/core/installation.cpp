@@ -92,7 +92,8 @@ class InstallationRule {
   std::string FirstToTakeOver(const SettingsStore::Pairs& installations) {
     for (const auto& [name, folder] : installations) {
       if (name.empty() || EqualsIgnoreCase(name, settings_.AppName())) continue;
-      if (HoldsExecutable(folder)) continue;
+      // An entry that is damaged does not tell whether its installation lives.
+      if (folder.empty() || HoldsExecutable(folder)) continue;
       const PointedAt other(settings_, name);
       settings_.FinishInterruptedSave();
       if (!settings_.NothingStored()) return name;

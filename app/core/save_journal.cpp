@@ -90,7 +90,8 @@ void SaveJournal::Commit(const std::vector<StoreChange>& changes) {
     throw RunTimeError(RunTimeError::kPermissionDenied);
   }
   const bool allMade = Apply(changes);
-  if (needsJournal) store_->DeleteSection(appName_, kJournalSection);
+  // What could not be made is tried again by the next save or the next run.
+  if (needsJournal && allMade) store_->DeleteSection(appName_, kJournalSection);
   if (!allMade) throw RunTimeError(RunTimeError::kPermissionDenied);
 }
 

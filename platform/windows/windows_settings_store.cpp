@@ -62,9 +62,8 @@ SettingsStore::Pairs WindowsSettingsStore::GetAllSettings(const std::string& app
                       nullptr) != ERROR_SUCCESS) {
       return pairs;
     }
-    if (auto text = ReadText(branch.Get(), name.c_str())) {
-      pairs.emplace_back(ToUtf8({name.data(), length}), *std::move(text));
-    }
+    pairs.emplace_back(ToUtf8({name.data(), length}),
+                       ReadText(branch.Get(), name.c_str()).value_or(""));
   }
 }
 

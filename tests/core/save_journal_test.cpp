@@ -139,6 +139,15 @@ TEST(RefusedSaveTest, IsReportedAfterTheOtherValuesAreSaved) {
   EXPECT_EQ(ErrorOf([&] { SaveNewINI(store); }), 70);
   EXPECT_EQ(store.GetSetting(kApp, "Startup", "WindowInfo"), "True");
   EXPECT_EQ(store.GetSetting(kApp, "ParentWindowList", "3"), "&3  New\\Tag");
+}
+
+TEST(RefusedSaveTest, IsTriedAgainByTheNextRun) {
+  RefusingStore store("Startup", "Tips");
+  store.refusing = true;
+  EXPECT_EQ(ErrorOf([&] { SaveNewINI(store); }), 70);
+  store.refusing = false;
+  Settings(store, kApp).FinishInterruptedSave();
+  EXPECT_EQ(store.GetSetting(kApp, "Startup", "Tips"), "10");
   EXPECT_TRUE(store.GetAllSettings(kApp, kJournalSection).empty());
 }
 

@@ -59,7 +59,7 @@ SettingsStore::Pairs FakeSettingsStore::GetAllSettings(const std::string& appNam
   const Section* const found = Find(appName, section);
   if (found == nullptr) return pairs;
   for (const Value& value : found->values) {
-    if (value.text) pairs.emplace_back(value.key, *value.text);
+    pairs.emplace_back(value.key, value.text.value_or(""));
   }
   return pairs;
 }

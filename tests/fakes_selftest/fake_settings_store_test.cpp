@@ -46,13 +46,13 @@ TEST(FakeSettingsStoreTest, HasNothingForMissingNames) {
   EXPECT_FALSE(store.DeleteSection("App", "Other"));
 }
 
-TEST(FakeSettingsStoreTest, ValuesOfOtherTypesAreNoText) {
+TEST(FakeSettingsStoreTest, ValuesOfOtherTypesHaveNoText) {
   FakeSettingsStore store;
   store.SaveSetting("App", "Options", "Text", "1");
   store.SetOtherType("App", "Options", "Number");
 
   EXPECT_EQ(store.GetSetting("App", "Options", "Number"), std::nullopt);
-  EXPECT_EQ(store.GetAllSettings("App", "Options"), (Pairs{{"Text", "1"}}));
+  EXPECT_EQ(store.GetAllSettings("App", "Options"), (Pairs{{"Text", "1"}, {"Number", ""}}));
   EXPECT_TRUE(store.SaveSetting("App", "Options", "Number", "2"));
   EXPECT_EQ(store.GetSetting("App", "Options", "Number"), "2");
 }

@@ -79,7 +79,8 @@ TEST_F(WindowsSettingsStoreTest, TakesAValueThatIsNoTextForMissing) {
   WriteRaw(L"Number", REG_DWORD, &number, sizeof(number));
   WriteRaw(L"Text", REG_SZ, L"text", sizeof(L"text"));
   EXPECT_EQ(store_.GetSetting(kApp, "Raw", "Number"), std::nullopt);
-  EXPECT_EQ(store_.GetAllSettings(kApp, "Raw"), (SettingsStore::Pairs{{"Text", "text"}}));
+  EXPECT_EQ(store_.GetAllSettings(kApp, "Raw"),
+            (SettingsStore::Pairs{{"Number", ""}, {"Text", "text"}}));
 }
 
 TEST_F(WindowsSettingsStoreTest, ReadsATextThatWasStoredWithoutItsEnd) {
