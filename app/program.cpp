@@ -12,23 +12,16 @@ namespace korvale {
 
 namespace {
 
-struct CaughtError {
-  std::int16_t number = RunTimeError::kInternalError;
-  std::string text;
-};
-
-/// Describes the error in whose catch block it is called; lets ProgramEnded pass.
-CaughtError DescribeCaught() {
+/// What is known of the exception in whose catch block it is called; lets ProgramEnded pass.
+std::string DescribeCaught() {
   try {
     throw;
   } catch (const ProgramEnded&) {
     throw;
-  } catch (const RunTimeError& error) {
-    return {error.Number(), error.what()};
   } catch (const std::exception& error) {
-    return {RunTimeError::kInternalError, error.what()};
+    return error.what();
   } catch (...) {
-    return {};
+    return "";
   }
 }
 
@@ -42,7 +35,7 @@ std::string HexText(std::uint64_t value) {
 std::string DescribeUncaught() {
   if (!std::current_exception()) return "terminated";
   try {
-    return DescribeCaught().text;
+    return DescribeCaught();
   } catch (const ProgramEnded&) {
     return "the end of the program was not caught";
   }
@@ -75,9 +68,9 @@ bool Program::Guarded(const std::function<void()>& step) {
       step();
       return true;
     } catch (...) {
-      const CaughtError error = DescribeCaught();
-      form_.Parts().errors.udmFatalError(ErrorPlace::kProgramEntry, error.number,
-                                         {error.text, "", ""});
+      const std::string description = DescribeCaught();
+      form_.Parts().errors.udmFatalError(ErrorPlace::kProgramEntry, CurrentErrorNumber(),
+                                         {description, "", ""});
     }
   } catch (const ProgramEnded&) {
     // Start-up refused to run, or a fatal error: everything has been taken down already.
@@ -89,7 +82,13 @@ bool Program::Guarded(const std::function<void()>& step) {
 /// program goes on, unless it has just been taken down.
 void Program::ReportUncaught() {
   try {
-    form_.udmNonFatalError(ErrorPlace::kEventHandler, DescribeCaught().number);
+    try {
+      throw;
+    } catch (const ProgramEnded&) {
+      throw;
+    } catch (...) {
+      form_.udmNonFatalError(ErrorPlace::kEventHandler, CurrentErrorNumber());
+    }
   } catch (const ProgramEnded&) {
     platform_->host.PostQuitMessage();
   }

@@ -15,17 +15,6 @@ namespace {
 // Makes the caption of the suspension notice differ from those of the other message boxes.
 constexpr const char* kNoticeMark = "     ";
 
-/// The number of the error being handled; only inside a catch block.
-std::int16_t CurrentErrorNumber() {
-  try {
-    throw;
-  } catch (const RunTimeError& error) {
-    return error.Number();
-  } catch (...) {
-    return RunTimeError::kInternalError;
-  }
-}
-
 }  // namespace
 
 HotKeyDispatch::HotKeyDispatch(HotKeyDispatchParts parts, std::string productName,

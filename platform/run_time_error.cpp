@@ -3,6 +3,8 @@
 #include <array>
 #include <cstddef>
 #include <limits>
+#include <new>
+#include <stdexcept>
 
 namespace korvale {
 namespace {
@@ -55,6 +57,20 @@ std::string RunTimeErrorDescription(std::int16_t number) {
     if (description.number == number) return std::string(description.text);
   }
   return "Application-defined or object-defined error";
+}
+
+std::int16_t CurrentErrorNumber() {
+  try {
+    throw;
+  } catch (const RunTimeError& error) {
+    return error.Number();
+  } catch (const std::out_of_range&) {
+    return RunTimeError::kSubscriptOutOfRange;
+  } catch (const std::bad_alloc&) {
+    return RunTimeError::kOutOfMemory;
+  } catch (...) {
+    return RunTimeError::kInternalError;
+  }
 }
 
 std::int16_t ToInt16(std::int32_t value) {

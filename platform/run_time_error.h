@@ -45,6 +45,10 @@ class RunTimeError : public std::runtime_error {
 /// that has none.
 std::string RunTimeErrorDescription(std::int16_t number);
 
+/// The number of the exception being handled: 9 for std::out_of_range, 7 for std::bad_alloc, 51 for
+/// one without a number of its own. Only inside a catch block.
+std::int16_t CurrentErrorNumber();
+
 /// The value in 16 bits; throws RunTimeError 6 (Overflow) when it does not fit.
 std::int16_t ToInt16(std::int32_t value);
 

@@ -9,7 +9,6 @@ namespace korvale {
 enum class ErrorPlace : std::int16_t {
   kProgramEntry = 1,
   kEventHandler = 2,
-  kWindowProcedure = 3,
   kProcessHotKey = 4,
   kSaving = 5,
   kCrash = 6,

@@ -39,8 +39,10 @@ void ErrorReports::udmFatalError(ErrorPlace intErrorNumber, std::int16_t intVB_E
                                  const FatalErrorTexts& texts) {
   const std::string runTimeError = intVB_ErrNumber != 0 ? RunTimeErrorText(intVB_ErrNumber) : "";
   const std::string place = PlaceText(intErrorNumber);
-  Show(runTimeError + "\r\r" + identity_->productName + " Error #" + place + "\r" +
-       texts.strUserMessage);
+  RunAndForgetErrors([&] {
+    Show(runTimeError + "\r\r" + identity_->productName + " Error #" + place + "\r" +
+         texts.strUserMessage);
+  });
   const std::string problem = runTimeError + " -- " + texts.strDescForErrorLog;
   RunAndForgetErrors([&] { log_->Append(place, problem, texts.strLocalsForErrorLog); });
   RunAndForgetErrors(shutDown_);

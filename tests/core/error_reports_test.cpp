@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/run_time_error.h"
 #include "tests/fakes/fake_clock.h"
 #include "tests/fakes/fake_message_boxes.h"
 #include "tests/fakes/temporary_folder.h"
@@ -80,7 +81,7 @@ TEST_F(ErrorReportsTest, FatalErrorOfTheProgramsOwnHasNoRunTimeErrorText) {
 TEST_F(ErrorReportsTest, ProgramEndsEvenWhenTheLogCannotBeWritten) {
   identity_.programFolder = folder_.Path() + "/none/";
   ErrorReports reports(identity_, messages_, log_, [this] { ++shutDowns_; });
-  EXPECT_THROW(reports.udmFatalError(ErrorPlace::kWindowProcedure, 5, {}), ProgramEnded);
+  EXPECT_THROW(reports.udmFatalError(ErrorPlace::kEventHandler, 5, {}), ProgramEnded);
   EXPECT_EQ(messages_.shown.size(), 1U);
   EXPECT_EQ(shutDowns_, 1);
 }
@@ -88,6 +89,15 @@ TEST_F(ErrorReportsTest, ProgramEndsEvenWhenTheLogCannotBeWritten) {
 TEST_F(ErrorReportsTest, ProgramEndsEvenWhenTheShutdownFails) {
   shutDownFails_ = true;
   EXPECT_THROW(Fatal(5), ProgramEnded);
+  EXPECT_EQ(shutDowns_, 1);
+}
+
+TEST_F(ErrorReportsTest, AMessageThatCannotBeShownStopsNeitherRecordNorShutDown) {
+  messages_.whileShown = [](const ShownMessageBox& /*box*/) {
+    throw RunTimeError(RunTimeError::kOverflow);
+  };
+  EXPECT_THROW(Fatal(5), ProgramEnded);
+  EXPECT_NE(Content().find("Error Code:  1"), std::string::npos);
   EXPECT_EQ(shutDowns_, 1);
 }
 
