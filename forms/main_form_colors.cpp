@@ -18,7 +18,7 @@ ColorCustomizing::Parts frmMain::CustomizingParts() {
           [this](MousePointer pointer) { SetMousePointer(pointer); },
           [this](Color initial) { return udmShowColorPalette(initial); },
           [this] {
-            ShowTip(static_cast<std::int32_t>(TipNumber::kCustomizeColors),
+            ShowTip(TipNumber::kCustomizeColors,
                     "To change the color of a Target Window/Class Label;  position the mouse over "
                     "the Label, when the cursor has changed to a 'C' (the letter C within a black "
                     "circle), click on the Label to change it's color.  To change the second Label "

@@ -5,16 +5,9 @@
 
 #include "forms/form_display.h"
 #include "forms/msg_tip_form.h"
+#include "hotkeys/tip_number.h"
 
 namespace korvale {
-
-/// Every tip has its own fixed number, the position of its flag in the record of silenced tips.
-enum class TipNumber : std::int32_t {
-  kCustomizeColors = 1,
-  kOtherInstance = 10,
-  kHotKeysDeactivated = 14,
-  kCommandLine = 17,
-};
 
 /// Shows tips that the user can silence one by one or all together.
 class Tips {

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 
+#include "hotkeys/tip_number.h"
 #include "platform/types.h"
 
 namespace korvale {
@@ -24,7 +25,7 @@ class HotKeyActions {
   /// The hot keys were registered anew: what shows refused ones is out of date.
   virtual void HotKeysRegistered() = 0;
   /// Shows a tip that the user can silence; `height` in twips.
-  virtual void ShowTip(std::int32_t number, const std::string& text, const std::string& title,
+  virtual void ShowTip(TipNumber number, const std::string& text, const std::string& title,
                        std::int16_t height) = 0;
   /// Shows a text for so many milliseconds.
   virtual void ShowWaitWindow(const std::string& caption, const std::string& text,

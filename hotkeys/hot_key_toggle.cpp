@@ -8,7 +8,6 @@
 namespace korvale {
 namespace {
 
-constexpr std::int32_t kToggleTip = 14;
 constexpr std::int16_t kToggleTipHeight = 3000;
 constexpr std::uint32_t kNoticeMilliseconds = 800;
 
@@ -32,7 +31,7 @@ void HotKeyToggle::ToggleHotKeys(std::string_view caller) {
 
 void HotKeyToggle::SwitchOff(std::string_view caller) {
   if (caller == kToggleFromMenu) {
-    actions_->ShowTip(kToggleTip,
+    actions_->ShowTip(TipNumber::kHotKeysDeactivated,
                       "This deactivates all hot keys except the hot key assigned to "
                       "Activate/Deactivate Hot Keys.  When " +
                           productName_ +

@@ -42,8 +42,9 @@ class FakeHotKeyActions : public HotKeyActions {
     Log("SetWindowMenuTag(\"" + tag + "\")");
   }
   void HotKeysRegistered() override { Log("HotKeysRegistered"); }
-  void ShowTip(std::int32_t number, const std::string& text, const std::string& title,
+  void ShowTip(TipNumber tip, const std::string& text, const std::string& title,
                std::int16_t height) override {
+    const auto number = static_cast<std::int32_t>(tip);
     tips.push_back({number, text, title, height});
     Log("ShowTip(" + DecimalText(number) + ")");
   }
