@@ -4,7 +4,6 @@
 #include "app/core/installation.h"
 #include "desktop/window_readers.h"
 #include "forms/main_form_design.h"
-#include "platform/run_time_error.h"
 #include "platform/win32_constants.h"
 
 namespace korvale {
@@ -45,7 +44,10 @@ void StartUp::Initialise(frmMain& form) {
   form.Parts().state.startUpFinished = true;
   form.Form_Resize();
   if (form.Parts().state.firstRun) {
-    SaveFirstDefaults(form);
+    form.SaveOrTell([&form] {
+      form.udmSaveINI();
+      form.udmSaveOptions();
+    });
   }
 }
 
@@ -53,16 +55,6 @@ void StartUp::Initialise(frmMain& form) {
 void StartUp::EndIfUnloaded(const frmMain& form) {
   if (!form.IsLoaded()) {
     throw ProgramEnded{};
-  }
-}
-
-/// A store that refuses is told to the user and no reason not to run.
-void StartUp::SaveFirstDefaults(frmMain& form) {
-  try {
-    form.udmSaveINI();
-    form.udmSaveOptions();
-  } catch (const RunTimeError& error) {
-    form.udmNonFatalError(ErrorPlace::kSaving, error.Number());
   }
 }
 
@@ -132,7 +124,7 @@ void StartUp::MentionOtherInstallation(frmMain& form) {
   if (parts.enumeration.FindByTitleAndClass(parts.identity.productName, className) == 0) {
     return;
   }
-  form.ShowTip(static_cast<std::int32_t>(TipNumber::kOtherInstance),
+  form.ShowTip(TipNumber::kOtherInstance,
                "Another instance of Korvale is currently running.  More than one instance of "
                "Korvale can be run to select different sets of windows.  For example, you can use "
                "Alt+0-9 to select one set of windows, and Ctrl+0-9 for another.\r\rWhen assigning "
@@ -154,8 +146,8 @@ void StartUp::MentionCommandLine(frmMain& form) {
   if (arguments.find_first_not_of(kWhitespace) == std::string::npos) {
     return;
   }
-  form.ShowTip(static_cast<std::int32_t>(TipNumber::kCommandLine),
-               "Korvale does not accept command line arguments.", "TIP", kCommandLineTipHeight);
+  form.ShowTip(TipNumber::kCommandLine, "Korvale does not accept command line arguments.", "TIP",
+               kCommandLineTipHeight);
 }
 
 void StartUp::ShowSplash(frmMain& form) {
@@ -238,20 +230,11 @@ void StartUp::AskToReviewHotKeys(frmMain& form) {
   }
 }
 
-/// A refused save must not keep the hot keys from being given back.
-void StartUp::SaveState(frmMain& form) {
-  try {
-    form.udmSaveINI();
-  } catch (const RunTimeError& error) {
-    form.udmNonFatalError(ErrorPlace::kSaving, error.Number());
-  }
-}
-
 void StartUp::Unload(frmMain& form, bool booNormalShutDown) {
   MainParts& parts = form.Parts();
   if (booNormalShutDown) {
     form.udmTimersEnabled(false);
-    SaveState(form);
+    form.SaveOrTell([&form] { form.udmSaveINI(); });
   }
   parts.tagPasses.RemoveClosed();
   parts.hotKeys.SetHotKeys("REMOVE");

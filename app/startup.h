@@ -25,8 +25,6 @@ class StartUp : public ProgramLifetime {
   void RefuseSecondCopy(frmMain& form);
   WindowHandle FindOtherCopy(frmMain& form);
   void WaitForOtherCopy(frmMain& form);
-  void SaveFirstDefaults(frmMain& form);
-  void SaveState(frmMain& form);
   void MentionOtherInstallation(frmMain& form);
   void MentionCommandLine(frmMain& form);
   void ShowSplash(frmMain& form);

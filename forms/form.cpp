@@ -171,7 +171,7 @@ void Form::ShowModal() {
 void Form::Hide() {
   if (!state_.visible) return;
   state_.visible = false;
-  forms_->EndModal(*this);
+  forms_->EndModal(this);
   forms_->Host().ShowWindow(handle_, win32::kSwHide);
 }
 

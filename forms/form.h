@@ -66,6 +66,8 @@ class Form : public FormEvents {
   /// Place and size in twips. Without FormDesign::exactHeight the size counts the classic frame.
   const TwipsRect& Place() const { return place_; }
   void SetPlace(const TwipsRect& place);
+  /// Keeps the user from making the form higher, in twips; 0 = no limit.
+  void SetMaximumHeight(Twips height) { state_.maximumHeight = height; }
   bool Enabled() const { return state_.enabled; }
   void SetEnabled(bool enabled);
   bool Visible() const { return state_.visible; }
@@ -109,6 +111,7 @@ class Form : public FormEvents {
   void OnMenuClicked(MenuItem& item) final;
   void OnActivated() final;
   void OnPlaced(ShowState state, const TwipsRect& place) final;
+  void OnDpiChanged() final;
   void OnCloseRequested(CloseReason reason) final;
   void OnTimer(int control) final;
   void OnUncaught() noexcept final;
@@ -129,6 +132,8 @@ class Form : public FormEvents {
   virtual void Form_Unload() {}
   /// The form is shown for the first time, or its size or state has changed.
   virtual void Form_Resize() {}
+  /// The user, or Windows for him, has put the form to another place without resizing it.
+  virtual void Form_Move() {}
   virtual void Form_MouseMove(const MouseInput& input);
   virtual void Control_Mouse(Control& control, const MouseInput& input);
 

@@ -38,19 +38,37 @@ void FormCollection::UnloadAllExcept(std::string_view name) {
 }
 
 void FormCollection::RunModal(Form& form) {
-  std::vector<Form*> blocked;
-  std::ranges::copy_if(loaded_, std::back_inserter(blocked),
-                       [&](const Form* other) { return other != &form && !IsBlocked(*other); });
-  modal_.push_back({&form, blocked});
+  const std::vector<Form*> blocked = Block(&form);
   for (const Form* const other : blocked) host_->EnableWindow(other->Handle(), false);
   try {
     form.Show();
     host_->RunMessageLoop([&] { return !IsModal(form); });
   } catch (...) {
-    EndModal(form);
+    EndModal(&form);
     throw;
   }
-  EndModal(form);
+  EndModal(&form);
+}
+
+void FormCollection::RunSystemDialog(const Form& owner, const std::function<void()>& dialog) {
+  for (const Form* const other : Block(nullptr)) {
+    if (other != &owner) host_->EnableWindow(other->Handle(), false);
+  }
+  try {
+    dialog();
+  } catch (...) {
+    EndModal(nullptr);
+    throw;
+  }
+  EndModal(nullptr);
+}
+
+std::vector<Form*> FormCollection::Block(Form* modal) {
+  std::vector<Form*> blocked;
+  std::ranges::copy_if(loaded_, std::back_inserter(blocked),
+                       [&](const Form* other) { return other != modal && !IsBlocked(*other); });
+  modal_.push_back({modal, blocked});
+  return blocked;
 }
 
 bool FormCollection::IsModal(const Form& form) const {
@@ -63,8 +81,8 @@ bool FormCollection::IsBlocked(const Form& form) const {
   });
 }
 
-void FormCollection::EndModal(const Form& form) {
-  const auto found = std::ranges::find(modal_, &form, &Modal::form);
+void FormCollection::EndModal(const Form* form) {
+  const auto found = std::ranges::find(modal_, form, &Modal::form);
   if (found == modal_.end()) return;
   const std::vector<Form*> blocked = std::move(found->blocked);
   const auto above = modal_.erase(found);
@@ -78,7 +96,7 @@ void FormCollection::EndModal(const Form& form) {
 }
 
 void FormCollection::Remove(Form& form) {
-  EndModal(form);
+  EndModal(&form);
   std::erase(loaded_, &form);
   for (Modal& modal : modal_) std::erase(modal.blocked, &form);
 }

@@ -31,6 +31,9 @@ class FormCollection : public LoadedForms {
   /// Disables every other loaded form, shows `form`, runs messages until it is no longer shown, and
   /// enables the forms again that were enabled before.
   void RunModal(Form& form);
+  /// Runs a dialog of Windows, which disables its owner itself, and keeps all other forms disabled
+  /// meanwhile.
+  void RunSystemDialog(const Form& owner, const std::function<void()>& dialog);
   /// The form shown modally on top, null when there is none.
   Form* TopModal() const { return modal_.empty() ? nullptr : modal_.back().form; }
 
@@ -41,7 +44,8 @@ class FormCollection : public LoadedForms {
  private:
   friend class Form;
 
-  /// A form shown modally and the forms that it keeps from taking input.
+  /// A form shown modally, null for a dialog of Windows, and the forms that it keeps from taking
+  /// input.
   struct Modal {
     Form* form;
     std::vector<Form*> blocked;
@@ -52,7 +56,9 @@ class FormCollection : public LoadedForms {
   bool IsModal(const Form& form) const;
   bool IsBlocked(const Form& form) const;
   /// Gives the blocked forms back to the user, or to a modal form above this one.
-  void EndModal(const Form& form);
+  void EndModal(const Form* form);
+  /// The forms that a new modal one keeps from taking input from now on.
+  std::vector<Form*> Block(Form* modal);
 
   FormHost* host_;
   TimerApi* timers_;

@@ -11,19 +11,6 @@ namespace {
 /// What must be on a monitor of a form, in both directions, so that the user can drag it.
 constexpr Twips kReachable = 300;
 
-/// Sets a flag for a scope and puts its former value back, also when an error leaves the scope.
-class RaisedFlag {
- public:
-  explicit RaisedFlag(bool& flag) : flag_(&flag), before_(flag) { flag = true; }
-  ~RaisedFlag() { *flag_ = before_; }
-  RaisedFlag(const RaisedFlag&) = delete;
-  RaisedFlag& operator=(const RaisedFlag&) = delete;
-
- private:
-  bool* flag_;
-  bool before_;
-};
-
 void MoveTo(Form& form, Twips left, Twips top) {
   TwipsRect place = form.Place();
   place.left = left;
@@ -86,6 +73,9 @@ void FormDisplay::ShowFormNonModal(Form& form, const DisplaySwitches& switches, 
   if (!form.Visible()) {
     PlaceForm(form, switches, {}, owner);
     form.Show();
+  } else if (!windows_->IsWindowVisible(form.Handle())) {
+    // Windows hides it together with its minimized owner.
+    form.Show();
   } else if (form.WindowState() == ShowState::kMinimized) {
     form.SetWindowState(ShowState::kNormal);
   } else if (switches.keepInWorkArea != 0) {
@@ -96,10 +86,15 @@ void FormDisplay::ShowFormNonModal(Form& form, const DisplaySwitches& switches, 
 
 void FormDisplay::PlaceForm(Form& form, const DisplaySwitches& switches, const PlaceHints& hints,
                             Form* owner) {
-  const bool onOwner = switches.centerOnOwner != 0 && CanBeCentredOn(owner);
-  const TwipsRect room = onOwner ? owner->State().place
-                                 : forms_->Host().GetMonitorInfoW(windows_->GetForegroundWindow());
-  const TwipsRect size = form.State().place;
+  FormHost& host = forms_->Host();
+  const TwipsRect area = host.GetMonitorInfoW(windows_->GetForegroundWindow());
+  // The user may work on another monitor than the one where the owner is.
+  const bool onOwner = switches.centerOnOwner != 0 && CanBeCentredOn(owner) &&
+                       host.GetMonitorInfoW(owner->Handle()) == area;
+  // Its size counts the dots of the monitor that it is on.
+  if (host.GetMonitorInfoW(form.Handle()) != area) MoveTo(form, area.left, area.top);
+  const TwipsRect room = onOwner ? host.GetWindowRect(owner->Handle()) : area;
+  const TwipsRect size = host.GetWindowRect(form.Handle());
   MoveTo(form, hints.left != -1 ? hints.left : Centred(room.left, room.width, size.width),
          hints.top != -1 ? hints.top : Centred(room.top, room.height, size.height));
   if (switches.keepInWorkArea != 0) KeepInWorkArea(form);
@@ -107,14 +102,14 @@ void FormDisplay::PlaceForm(Form& form, const DisplaySwitches& switches, const P
 
 void FormDisplay::KeepInWorkArea(Form& form) {
   const TwipsRect area = forms_->Host().GetMonitorInfoW(form.Handle());
-  const TwipsRect place = form.State().place;
+  const TwipsRect place = forms_->Host().GetWindowRect(form.Handle());
   MoveTo(form, Inside(place.left, area.left, area.width, place.width),
          Inside(place.top, area.top, area.height, place.height));
 }
 
 void FormDisplay::BringOntoMonitor(Form& form) {
   const TwipsRect area = forms_->Host().GetMonitorInfoW(form.Handle());
-  const TwipsRect place = form.State().place;
+  const TwipsRect place = forms_->Host().GetWindowRect(form.Handle());
   if (Overlap(place.left, place.width, area.left, area.width) < kReachable ||
       Overlap(place.top, place.height, area.top, area.height) < kReachable) {
     KeepInWorkArea(form);

@@ -147,14 +147,31 @@ void Form::OnActivated() {
 void Form::OnPlaced(ShowState state, const TwipsRect& place) {
   if (!IsLoaded()) return;
   bool changed = state != state_.windowState;
+  bool moved = false;
   state_.windowState = state;
   if (state != ShowState::kMinimized) {
+    moved = place.left != state_.place.left || place.top != state_.place.top;
     changed = changed || place.width != state_.place.width || place.height != state_.place.height;
     const TwipsRect growth = FrameGrowth();
     state_.place = place;
     place_ = {place.left, place.top, place.width - growth.width, place.height - growth.height};
   }
-  if (changed && shownBefore_) Form_Resize();
+  if (!shownBefore_) return;
+  if (changed) {
+    Form_Resize();
+  } else if (moved) {
+    Form_Move();
+  }
+}
+
+void Form::OnDpiChanged() {
+  if (!IsLoaded()) return;
+  const TwipsRect place = RealPlace();
+  if (state_.windowState == ShowState::kNormal && place != state_.place) {
+    state_.place = place;
+    forms_->Host().MoveWindow(handle_);
+  }
+  if (shownBefore_) Form_Resize();
 }
 
 void Form::OnCloseRequested(CloseReason reason) { Unload(reason); }

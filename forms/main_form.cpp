@@ -81,6 +81,14 @@ void frmMain::udmSaveINI() {
   });
 }
 
+void frmMain::SaveOrTell(const std::function<void()>& saves) {
+  try {
+    parts_.settings.SaveTogether([&](SettingsStore& /*store*/) { saves(); });
+  } catch (const RunTimeError& error) {
+    udmNonFatalError(ErrorPlace::kSaving, error.Number());
+  }
+}
+
 void frmMain::LoadStartupSettings() {
   parts_.startup = parts_.settings.LoadStartup();
   const StoredTagList stored = parts_.settings.LoadTagList();
@@ -139,10 +147,9 @@ void frmMain::PopUpWindowMenu() { platform_->host.TrackPopupMenuEx(Handle(), Men
 
 void frmMain::SetWindowMenuTag(const std::string& tag) { Menu("mnuWindow").tag = tag; }
 
-void frmMain::ShowTip(std::int32_t number, const std::string& text, const std::string& title,
+void frmMain::ShowTip(TipNumber number, const std::string& text, const std::string& title,
                       std::int16_t height) {
-  tips_.ShowTip(static_cast<TipNumber>(number), text, title, height, {},
-                IsLoaded() ? this : nullptr);
+  tips_.ShowTip(number, text, title, height, {}, IsLoaded() ? this : nullptr);
 }
 
 void frmMain::ShowWaitWindow(const std::string& caption, const std::string& text,

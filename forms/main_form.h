@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -54,6 +55,7 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   void udmSaveOptions() override;
   void udmDeleteOptions() override;
   void udmSaveINI() override;
+  void SaveOrTell(const std::function<void()>& saves) override;
   /// Reads the main window's state and the Tag list from the store.
   void LoadStartupSettings();
   std::string udmProcessHotKey(const std::string& name, bool booDoAction, bool booReturnWindow,
@@ -69,6 +71,7 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   /// Applies the stored place and state of the window.
   void ApplyPlacement();
   void Form_Resize() override;
+  void Form_Move() override;
 
   void mnuToolsOptions_Click();
   void mnuToolsToggleHotKeys_Click();
@@ -105,7 +108,7 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   void PopUpWindowMenu() override;
   void SetWindowMenuTag(const std::string& tag) override;
   void HotKeysRegistered() override;
-  void ShowTip(std::int32_t number, const std::string& text, const std::string& title,
+  void ShowTip(TipNumber number, const std::string& text, const std::string& title,
                std::int16_t height) override;
   void ShowWaitWindow(const std::string& caption, const std::string& text,
                       std::uint32_t milliseconds) override;

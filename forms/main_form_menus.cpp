@@ -11,8 +11,6 @@ namespace korvale {
 
 namespace {
 
-constexpr const char* kOptionsForm = "frmOptions";
-
 /// Menu bar entries; the hidden menu takes them away and Alt+letter brings them back.
 constexpr const char* kTopLevelMenus[] = {"mnuFile", "mnuView", "mnuTools", "mnuWindow", "mnuHelp"};
 
@@ -73,7 +71,7 @@ void frmMain::RefreshMenus(std::string_view source) {
   ShowTopLevelMenus(fromKeyboard || parts_.startup.Menu);
   // A command can end while the program has already been taken down, with everything saved.
   if (fromMenu && !unloaded_) {
-    udmSaveINI();
+    SaveOrTell([this] { udmSaveINI(); });
   }
 }
 

@@ -31,7 +31,10 @@ std::optional<Color> frmMain::udmShowColorPalette(Color initial) {
   if (owner == nullptr) {
     owner = openOptions_ != nullptr ? static_cast<Form*>(openOptions_) : this;
   }
-  const std::optional<Color> chosen = platform_->host.ChooseColorW(owner->Handle(), initial);
+  std::optional<Color> chosen;
+  const RaisedFlag shown(parts_.suspension.DialogShown);
+  Collection().RunSystemDialog(
+      *owner, [&] { chosen = platform_->host.ChooseColorW(owner->Handle(), initial); });
   if (chosen) {
     parts_.startup.LastColorSelected = *chosen;
   }

@@ -51,10 +51,15 @@ void frmMain::Form_Resize() {
   TwipsRect place = Place();
   place.height = HeightForContent();
   place.width = std::max(place.width, kMinimumWidth);
+  SetMaximumHeight(place.height);
   if (place != Place()) {
     SetPlace(place);
   }
   RememberPlace();
+}
+
+void frmMain::Form_Move() {
+  if (parts_.state.startUpFinished) RememberPlace();
 }
 
 void frmMain::LayOutFields() {

@@ -3,12 +3,20 @@
 #include <utility>
 
 #include "forms/form.h"
+#include "forms/options_form.h"
+#include "util/forms.h"
 
 namespace korvale {
 
 namespace {
 
 MenuItem& WindowMenuItems(MenuBar& menus) { return *menus.Find("mnuWindow"); }
+
+/// The window of the dialog that a message box must not leave usable; 0 when none is open.
+WindowHandle DialogOnTop(const FormCollection& forms) {
+  const Form* dialog = forms.TopModal();
+  return dialog != nullptr ? dialog->Handle() : FormHandle(forms, kOptionsForm);
+}
 
 }  // namespace
 
@@ -20,7 +28,7 @@ MainParts::MainParts(Platform& platform, FormCollection& forms, MainWindow& main
       filter(platform.windows, options, forms, mainWindow),
       enumeration(platform.windows, platform.commands, filter, mainWindow, tagPasses),
       messages(platform.host, platform.windows, platform.commands, mainWindow, forms, suspension,
-               [&forms] { return forms.TopModal() != nullptr ? forms.TopModal()->Handle() : 0; }),
+               [&forms] { return DialogOnTop(forms); }),
       errorLog(identity, platform.clock,
                [this] {
                  return ErrorLogState{state.firstActivation, startup.Menu, state.lastAnswer};

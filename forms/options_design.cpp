@@ -110,6 +110,7 @@ struct HotKeyGroup {
   const char* label;
   const char* modifier;
   const char* plus;
+  const char* keyName;
   const char* key;
   const char* note;
   std::span<const char* const> notes;
@@ -124,6 +125,8 @@ void AddHotKeys(Rows& rows, const HotKeyGroup& group) {
     rows.Add(kDropDownList, group.modifier, i, "", i == 0 ? group.firstModifierTip : kModifierTip,
              {2880, top, 1380, 315});
     rows.Add(kLabel, group.plus, i, "+", "", {4260, top + 38, 270, 240}, kCentered);
+    // A screen reader calls the list by the label before it; nobody sees this one.
+    rows.Add(kLabel, group.keyName, i, note, "", {}, kNoPrefix | kHidden);
     rows.Add(kDropDownList, group.key, i, "", kKeyTip, {4530, top, 1500, 315});
     rows.Add(kLabel, group.note, i, note, note, {6195, top + 38, 7080, 240}, kNoPrefix);
   }
@@ -153,11 +156,13 @@ void AddHotKeysPage(Rows& rows) {
            "Tip: Alt+Tab and Alt+F4 are provided by the Windows® operating system.", "",
            {180, 1935, 12000, 240}, kNoPrefix);
   rows.Frame("fraWindowActions", "Window Action&s", 2370, 1050);
-  AddHotKeys(rows, {"lblAction", "cboHotKeyModAction", "lblPlusAction", "cboHotKeyAction",
-                    "lblActionNote", kActionNotes, " key to hold down  (Alt+S) "});
+  AddHotKeys(rows,
+             {"lblAction", "cboHotKeyModAction", "lblPlusAction", "lblKeyAction", "cboHotKeyAction",
+              "lblActionNote", kActionNotes, " key to hold down  (Alt+S) "});
   rows.Frame("fraGeneral", "&General", 3480, 1425);
-  AddHotKeys(rows, {"lblGeneral", "cboHotKeyModGeneral", "lblPlusGeneral", "cboHotKeyGeneral",
-                    "lblGeneralNote", kGeneralNotes, " key to hold down  (Alt+G) "});
+  AddHotKeys(rows,
+             {"lblGeneral", "cboHotKeyModGeneral", "lblPlusGeneral", "lblKeyGeneral",
+              "cboHotKeyGeneral", "lblGeneralNote", kGeneralNotes, " key to hold down  (Alt+G) "});
   rows.CloseFrame();
   AddLegend(rows);
 }
@@ -199,7 +204,7 @@ std::vector<ControlRow> MakeRows() {
 const FormDesign& OptionsDesign() {
   static const std::vector<ControlRow> rows = MakeRows();
   static const FormDesign design = {
-      .name = "frmOptions", .caption = "Options", .place = {0, 0, 14100, 7335}, .controls = rows};
+      .name = kOptionsForm, .caption = "Options", .place = {0, 0, 14100, 7335}, .controls = rows};
   return design;
 }
 

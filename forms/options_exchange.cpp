@@ -44,6 +44,7 @@ void frmOptions::LoadFrom(const clsOptions& options) {
   }
   ForEachList(options,
               [&](const char* list, int index, std::int16_t value) { Select(list, index, value); });
+  shown_ = options;
   colHotKeyEnabled_ = options.colHotKeyEnabled;
   ShowPage(owner_->OptionsTab());
   loading_ = false;

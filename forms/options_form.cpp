@@ -1,5 +1,6 @@
 #include "forms/options_form.h"
 
+#include <cstddef>
 #include <utility>
 
 #include "forms/hot_key_lists.h"
@@ -92,8 +93,10 @@ void frmOptions::cmdApply_Click() {
 void frmOptions::Save() {
   const Hourglass hourglass(*owner_);
   owner_->udmOptions("UPDATE_OPTIONS");
-  owner_->udmSaveOptions();
-  owner_->udmSaveINI();
+  owner_->SaveOrTell([this] {
+    owner_->udmSaveOptions();
+    owner_->udmSaveINI();
+  });
   if (!owner_->HotKeys().HotKeysActive()) {
     owner_->HotKeys().SetHotKeysActive(true);
     owner_->Messages().ShowMessageBox(
@@ -101,6 +104,8 @@ void frmOptions::Save() {
         "(if any) made to the hot keys on the Hot Keys tab of the Options dialog box can take "
         "effect.",
         win32::kMbOk, owner_->ProgramTitle() + " - Options (Save)");
+    // The session may end while the message is shown.
+    if (!IsLoaded()) return;
   }
   RegisterHotKeysAnew();
 }
@@ -110,7 +115,7 @@ void frmOptions::cmdReset_Click() {
       "Reset all Options to default ?\r\rThe default options will be Applied automatically.\r\r"
       "Note:  This operation will not effect any of the Settings changed from the View menu.",
       win32::kMbOkCancel, owner_->ProgramTitle() + " - Options");
-  if (answer != win32::kIdOk) return;
+  if (answer != win32::kIdOk || !IsLoaded()) return;
   const Hourglass hourglass(*owner_);
   owner_->udmDeleteOptions();
   owner_->udmLoadOptions();
@@ -136,11 +141,14 @@ void frmOptions::udmRefreshHotKeyLabels() {
   for (int tag = 0; tag < 10; ++tag) {
     PaintLabel("lblTagParent", tag, Find("chkHotKeyParent", tag).Value() == 1);
   }
+  // A stored key that the list does not have stays registered, so its label stays enabled.
   for (int i = 0; i < 2; ++i) {
-    PaintLabel("lblAction", i, Find("cboHotKeyAction", i).SelectedItemData() != 0);
+    const std::int16_t stored = shown_.intHotKeyAction[static_cast<std::size_t>(i)];
+    PaintLabel("lblAction", i, Chosen("cboHotKeyAction", i, stored) != 0);
   }
   for (int i = 0; i < 3; ++i) {
-    PaintLabel("lblGeneral", i, Find("cboHotKeyGeneral", i).SelectedItemData() != 0);
+    const std::int16_t stored = shown_.intHotKeyGeneral[static_cast<std::size_t>(i)];
+    PaintLabel("lblGeneral", i, Chosen("cboHotKeyGeneral", i, stored) != 0);
   }
 }
 

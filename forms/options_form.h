@@ -10,6 +10,8 @@
 
 namespace korvale {
 
+inline constexpr const char* kOptionsForm = "frmOptions";
+
 /// The Options dialog. It edits a copy of the options record and is modeless.
 class frmOptions : public Form {
  public:
@@ -52,6 +54,8 @@ class frmOptions : public Form {
   void HotKeyChanged();
 
   OptionsDialogOwner* owner_;
+  /// The record as last shown: what a list without a choice stands for.
+  clsOptions shown_;
   Color colHotKeyEnabled_ = kDefaultHotKeyEnabledColor;
   /// The controls are being filled; what they tell meanwhile is no doing of the user's.
   bool loading_ = false;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -23,6 +24,8 @@ class OptionsDialogOwner {
   virtual void udmSaveOptions() = 0;
   virtual void udmDeleteOptions() = 0;
   virtual void udmSaveINI() = 0;
+  /// Makes all saves of `saves` as one; tells the user when the store refuses them.
+  virtual void SaveOrTell(const std::function<void()>& saves) = 0;
 
   virtual HotKeyTable& HotKeys() = 0;
   virtual MessageBoxes& Messages() = 0;

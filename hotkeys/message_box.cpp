@@ -25,14 +25,14 @@ class DepthCount {
 SuspendingMessageBoxes::SuspendingMessageBoxes(FormHost& host, WindowQueries& windows,
                                                WindowCommands& commands, MainWindow& mainWindow,
                                                const LoadedForms& forms, Suspension& suspension,
-                                               std::function<WindowHandle()> modalOnTop)
+                                               std::function<WindowHandle()> dialogOnTop)
     : host_(&host),
       windows_(&windows),
       commands_(&commands),
       mainWindow_(&mainWindow),
       forms_(&forms),
       suspension_(&suspension),
-      modalOnTop_(std::move(modalOnTop)) {}
+      dialogOnTop_(std::move(dialogOnTop)) {}
 
 std::int16_t SuspendingMessageBoxes::ShowMessageBox(const std::string& prompt, std::int32_t buttons,
                                                     const std::string& title) {
@@ -87,7 +87,7 @@ std::int16_t SuspendingMessageBoxes::Show(const std::string& prompt, std::int32_
 /// Owned by the main window alone, a box would open behind the dialog above it. A main window that
 /// is still hidden would be activated when its box closes, and so not once more when it is shown.
 WindowHandle SuspendingMessageBoxes::Owner() {
-  const WindowHandle dialog = modalOnTop_();
+  const WindowHandle dialog = dialogOnTop_();
   if (dialog != 0) return dialog;
   const WindowHandle main = mainWindow_->MainHandle();
   return windows_->IsWindowVisible(main) ? main : 0;

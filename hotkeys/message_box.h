@@ -16,11 +16,11 @@ namespace korvale {
 /// Shows the program's message boxes and suspends the hot keys meanwhile.
 class SuspendingMessageBoxes : public MessageBoxes {
  public:
-  /// `modalOnTop` gives the window of the dialog that is shown modally on top, 0 when there is
-  /// none.
+  /// `dialogOnTop` gives the window of the dialog that is shown on top of the main window, 0 when
+  /// there is none.
   SuspendingMessageBoxes(FormHost& host, WindowQueries& windows, WindowCommands& commands,
                          MainWindow& mainWindow, const LoadedForms& forms, Suspension& suspension,
-                         std::function<WindowHandle()> modalOnTop);
+                         std::function<WindowHandle()> dialogOnTop);
 
   /// Besides what every message box does: when the outermost box closes, Windows brings another
   /// program to the front over the disabled main window, or the main window over the program where
@@ -52,7 +52,7 @@ class SuspendingMessageBoxes : public MessageBoxes {
   MainWindow* mainWindow_;
   const LoadedForms* forms_;
   Suspension* suspension_;
-  std::function<WindowHandle()> modalOnTop_;
+  std::function<WindowHandle()> dialogOnTop_;
 };
 
 }  // namespace korvale

@@ -68,6 +68,8 @@ class FormEvents {
   virtual void OnActivated() = 0;
   /// The user or Windows moved, sized, minimized or restored the form.
   virtual void OnPlaced(ShowState state, const TwipsRect& place) = 0;
+  /// Its monitor has other dots per inch now (WM_DPICHANGED): frame and menu may have other sizes.
+  virtual void OnDpiChanged() = 0;
   /// The form is asked to close; the form unloads itself when it agrees.
   virtual void OnCloseRequested(CloseReason reason) = 0;
   virtual void OnTimer(int control) = 0;
@@ -110,6 +112,9 @@ class FormHost {
   /// The work area, in twips, of the monitor that shows the window or is nearest to it
   /// (MonitorFromWindow, GetMonitorInfoW); of the primary monitor when there is no such window.
   virtual TwipsRect GetMonitorInfoW(WindowHandle hwnd) = 0;
+  /// Where the form really stands, place and size in twips of the system's dots per inch, as the
+  /// work areas count them (GetWindowRect).
+  virtual TwipsRect GetWindowRect(WindowHandle hwnd) = 0;
 
   /// A message box; returns the number of the pressed button. `style` is a sum of MB_ values.
   virtual std::int16_t MessageBoxW(WindowHandle owner, const std::string& text,

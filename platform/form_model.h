@@ -108,7 +108,8 @@ enum class ShowState { kNormal = 0, kMinimized = 1, kMaximized = 2 };
 struct FormState {
   std::string name;  ///< Its window class is "Korvale." followed by this name.
   std::string caption;
-  TwipsRect place;  ///< Place and size on the screen, frame included.
+  TwipsRect place;          ///< Place and size on the screen, frame included.
+  Twips maximumHeight = 0;  ///< Neither the user nor maximizing makes it higher; 0 = no limit.
   BorderStyle border = BorderStyle::kFixedDialog;
   bool minimizeBox = false;
   bool maximizeBox = false;

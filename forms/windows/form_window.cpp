@@ -149,8 +149,7 @@ LRESULT FormWindow::Process(UINT message, WPARAM wParam, LPARAM lParam) {
       TellPlaced();
       break;
     case WM_GETMINMAXINFO:
-      // The form itself decides how small it may be.
-      reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {};
+      LimitSize(*reinterpret_cast<MINMAXINFO*>(lParam));
       break;
     case WM_TIMER:
       events_.Tell([&](FormEvents& events) { events.OnTimer(static_cast<int>(wParam)); });
@@ -245,10 +244,20 @@ void FormWindow::TellPlaced() {
   events_.Tell([&](FormEvents& events) { events.OnPlaced(state, place); });
 }
 
+void FormWindow::LimitSize(MINMAXINFO& limits) const {
+  // The form itself decides how small it may be.
+  limits.ptMinTrackSize = {};
+  if (form_->maximumHeight == 0) return;
+  const LONG height = ToPixels(form_->maximumHeight, GetDpiForWindow(hwnd_));
+  limits.ptMaxTrackSize.y = height;
+  limits.ptMaxSize.y = height;
+}
+
 void FormWindow::OnDpiChanged(const RECT& place) {
   controls_.ChangeDpi();
   SetWindowPos(hwnd_, nullptr, place.left, place.top, place.right - place.left,
                place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
+  events_.Tell([](FormEvents& events) { events.OnDpiChanged(); });
 }
 
 }  // namespace korvale

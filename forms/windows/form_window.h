@@ -65,6 +65,7 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   void TellTyped(int control);
   void TellListPicked(int control);
   void TellPlaced();
+  void LimitSize(MINMAXINFO& limits) const;
   void OnDpiChanged(const RECT& place);
   void Watch(HWND control, int id);
 

@@ -1,9 +1,24 @@
 #include "forms/windows/windows_form_host.h"
 
+#include <algorithm>
+
 #include "forms/windows/control_content.h"
 #include "platform/windows/text.h"
 
 namespace korvale {
+namespace {
+
+/// What frame and menu bar take of the window's height, 0 when they leave nothing of it. A bar that
+/// is too narrow for its menus has several rows, which AdjustWindowRectEx does not count.
+int ActualFrameHeight(HWND hwnd) {
+  RECT window{};
+  RECT client{};
+  GetWindowRect(hwnd, &window);
+  GetClientRect(hwnd, &client);
+  return client.bottom == 0 ? 0 : window.bottom - window.top - client.bottom;
+}
+
+}  // namespace
 
 WindowsFormHost::WindowsFormHost(HINSTANCE instance)
     : classes_(instance),
@@ -95,13 +110,18 @@ void WindowsFormHost::SetSelection(WindowHandle hwnd, int control, TextSelection
 }
 
 TwipsRect WindowsFormHost::AdjustWindowRectEx(const FormState& form) {
+  const BOOL menu = FormMenu(form).BarWanted() ? TRUE : FALSE;
   UINT dpi = GetDpiForSystem();
+  int actual = 0;
   for (const auto& [hwnd, other] : forms_) {
-    if (&other->Model() == &form) dpi = GetDpiForWindow(other->Handle());
+    if (&other->Model() != &form) continue;
+    dpi = GetDpiForWindow(other->Handle());
+    const bool asWanted = (GetMenu(other->Handle()) != nullptr) == (menu != FALSE);
+    if (asWanted) actual = ActualFrameHeight(other->Handle());
   }
   RECT frame{};
-  const BOOL menu = FormMenu(form).BarWanted() ? TRUE : FALSE;
   AdjustWindowRectExForDpi(&frame, FormStyle(form), menu, FormExStyle(form), dpi);
+  frame.top = std::min(frame.top, frame.bottom - actual);
   return {ToTwips(-frame.left, dpi), ToTwips(-frame.top, dpi),
           ToTwips(frame.right - frame.left, dpi), ToTwips(frame.bottom - frame.top, dpi)};
 }
@@ -111,6 +131,12 @@ TwipsRect WindowsFormHost::GetMonitorInfoW(WindowHandle hwnd) {
   info.cbSize = sizeof(info);
   ::GetMonitorInfoW(MonitorFromWindow(ToHwnd(hwnd), MONITOR_DEFAULTTONEAREST), &info);
   return ToScreenTwips(info.rcWork, GetDpiForSystem());
+}
+
+TwipsRect WindowsFormHost::GetWindowRect(WindowHandle hwnd) {
+  RECT rect{};
+  ::GetWindowRect(ToHwnd(hwnd), &rect);
+  return ToScreenTwips(rect, GetDpiForSystem());
 }
 
 std::int16_t WindowsFormHost::MessageBoxW(WindowHandle owner, const std::string& text,

@@ -189,7 +189,11 @@ void HeadlessFormHost::WindowStateChanged(WindowHandle hwnd, ShowState state) {
   const HeadlessWindow* const window = FindWindow(hwnd);
   if (window == nullptr) return;
   TwipsRect place = window->place;
-  if (state == ShowState::kMaximized) place = workArea_;
+  if (state == ShowState::kMaximized) {
+    place = workArea_;
+    const Twips most = window->form->maximumHeight;
+    if (most != 0) place.height = std::min(place.height, most);
+  }
   Tell(hwnd, [&](FormEvents& events) { events.OnPlaced(state, place); });
 }
 

@@ -86,6 +86,7 @@ class HeadlessFormHost : public FormHost, private DesktopListener {
   void SetSelection(WindowHandle hwnd, int control, TextSelection selection) override;
   TwipsRect AdjustWindowRectEx(const FormState& form) override;
   TwipsRect GetMonitorInfoW(WindowHandle hwnd) override;
+  TwipsRect GetWindowRect(WindowHandle hwnd) override { return Window(hwnd).place; }
   std::int16_t MessageBoxW(WindowHandle owner, const std::string& text, const std::string& title,
                            std::int32_t style) override;
   void TrackPopupMenuEx(WindowHandle hwnd, MenuItem& menu) override;

@@ -68,40 +68,64 @@ TEST_F(FormDisplayTest, BringsAFormThatIsOnNoMonitorOntoTheNearestOne) {
   EXPECT_EQ(brought(-2700, -1700), (TwipsRect{-2700, -1700, 3000, 2000}));
 }
 
-/// A screen of two monitors side by side.
+/// A screen of two monitors side by side; the right one has twice as many dots per inch.
 class TwoMonitors : public HeadlessFormHost {
  public:
   using HeadlessFormHost::HeadlessFormHost;
 
   TwipsRect GetMonitorInfoW(WindowHandle hwnd) override {
-    const HeadlessWindow* const window = FindWindow(hwnd);
-    const bool right = hwnd == onTheRight || (window != nullptr && window->place.left >= 10000);
-    return right ? TwipsRect{10000, 0, 8000, 6000} : TwipsRect{0, 0, 10000, 8000};
+    return IsOnTheRight(hwnd) ? TwipsRect{10000, 0, 8000, 6000} : TwipsRect{0, 0, 10000, 8000};
+  }
+  TwipsRect GetWindowRect(WindowHandle hwnd) override {
+    TwipsRect place = Window(hwnd).place;
+    const Twips scale = IsOnTheRight(hwnd) ? 2 : 1;
+    place.width *= scale;
+    place.height *= scale;
+    return place;
   }
 
   WindowHandle onTheRight = 0;
+
+ private:
+  bool IsOnTheRight(WindowHandle hwnd) {
+    const HeadlessWindow* const window = FindWindow(hwnd);
+    return hwnd == onTheRight || (window != nullptr && window->place.left >= 10000);
+  }
 };
 
-TEST_F(FormDisplayTest, ComesUpOnTheMonitorWhereTheUserWorks) {
+class TwoMonitorsTest : public FormDisplayTest {
+ protected:
+  /// Where the dialog comes up while the user works in the editor on the right.
+  TwipsRect PlaceOnTheRight(const PlaceHints& hints, Form* above) {
+    TwipsRect place;
+    host.WhenModal("frmDialog", [&](Form& form) {
+      place = host.Window(form.Handle()).place;
+      form.Unload();
+    });
+    display.ShowFormModal(dialog, {}, 1000, hints, above);
+    return place;
+  }
+
   CallLog log;
-  FakeDesktop desktop(log);
-  DesktopBridge windows(desktop.Windows(), 1);
-  TwoMonitors host(windows, log);
-  FormCollection forms(host, clock_);
-  Dialog dialog(kDialogDesign, forms);
-  FormDisplay display(forms, desktop, desktop, suspension_, alwaysOnTop_);
-  TwipsRect place;
-  const auto look = [&](Form& form) {
-    place = host.Window(form.Handle()).place;
-    form.Unload();
-  };
+  FakeDesktop desktop{log};
+  DesktopBridge windows{desktop.Windows(), 1};
+  TwoMonitors host{windows, log};
+  FormCollection forms{host, clock_};
+  Dialog dialog{kDialogDesign, forms};
+  Dialog owner{kOwnerDesign, forms};
+  FormDisplay display{forms, desktop, desktop, suspension_, alwaysOnTop_};
+};
+
+TEST_F(TwoMonitorsTest, AFormComesUpWhereTheUserWorksWithTheSizeThatItHasThere) {
   host.onTheRight = desktop.Open("Editor");
-  host.WhenModal("frmDialog", look);
-  display.ShowFormModal(dialog, {}, 1000, {}, nullptr);
-  EXPECT_EQ(place, (TwipsRect{12500, 2000, 3000, 2000}));
-  host.WhenModal("frmDialog", look);
-  display.ShowFormModal(dialog, {}, 1000, {.left = 17000, .top = 0}, nullptr);
-  EXPECT_EQ(place, (TwipsRect{15000, 0, 3000, 2000}));
+  EXPECT_EQ(PlaceOnTheRight({}, nullptr), (TwipsRect{11000, 1000, 3000, 2000}));
+  EXPECT_EQ(PlaceOnTheRight({.left = 17000, .top = 0}, nullptr), (TwipsRect{12000, 0, 3000, 2000}));
+}
+
+TEST_F(TwoMonitorsTest, AnOwnerOnAnotherMonitorDoesNotDrawTheFormThere) {
+  owner.Show();
+  host.onTheRight = desktop.Open("Editor");
+  EXPECT_EQ(PlaceOnTheRight({}, &owner), (TwipsRect{11000, 1000, 3000, 2000}));
 }
 
 TEST_F(FormDisplayTest, CountsTheFrameThatTheWindowReallyHas) {

@@ -36,6 +36,7 @@ class FakeOptionsOwner : public OptionsDialogOwner {
   void udmSaveOptions() override { Log("udmSaveOptions"); }
   void udmDeleteOptions() override { Log("udmDeleteOptions"); }
   void udmSaveINI() override { Log("udmSaveINI"); }
+  void SaveOrTell(const std::function<void()>& saves) override { saves(); }
   HotKeyTable& HotKeys() override { return *hotKeys_; }
   MessageBoxes& Messages() override { return messages; }
   std::optional<Color> udmShowColorPalette(Color initial) override {

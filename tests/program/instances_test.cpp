@@ -76,7 +76,7 @@ TEST_F(InstancesTest, TheRefusedCopyTouchesNothingElse) {
                              "SetWindowTextW(frmMain, \"Korvale - Work\")",
                              "a message that waited",
                              "EnableWindow(frmMain, false)",
-                             "MessageBoxW(frmMain, \"'Korvale - Work' is already open.\", "
+                             "MessageBoxW(0, \"'Korvale - Work' is already open.\", "
                              "\"Korvale\", 0)",
                              "EnableWindow(frmMain, true)",
                              "SetForegroundWindow(frmMain)",

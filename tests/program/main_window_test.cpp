@@ -99,6 +99,40 @@ TEST_F(MainWindowTest, TheNewWidthIsStoredByTheNextMenuCommand) {
   EXPECT_EQ(Stored("Height"), "1100");
 }
 
+TEST_F(MainWindowTest, ThePlaceToWhichItWasDraggedIsStoredAtTheEnd) {
+  KorvaleCopy& korvale = StartedCopy();
+  TwipsRect place = Place(korvale);
+  place.left = 4500;
+  place.top = 3000;
+  korvale.user.Drag(korvale.Handle(), place);
+  korvale.Exit();
+  EXPECT_EQ(Stored("Left"), "4500");
+  EXPECT_EQ(Stored("Top"), "3000");
+}
+
+TEST_F(MainWindowTest, ThePlaceToWhichItWasDraggedIsKeptWhileItIsMaximized) {
+  KorvaleCopy& korvale = StartedCopy();
+  TwipsRect place = Place(korvale);
+  place.left = 4500;
+  korvale.user.Drag(korvale.Handle(), place);
+  desktop.ShowWindow(korvale.Handle(), win32::kSwMaximize);
+  korvale.Exit();
+  EXPECT_EQ(Stored("Left"), "4500");
+}
+
+TEST_F(MainWindowTest, ARefusedSaveIsToldAndTheCommandGoesOn) {
+  KorvaleCopy& korvale = StartedCopy();
+  std::string told;
+  korvale.host.WhenMessageBox([&](const ShownMessage& box) {
+    told = box.text;
+    return win32::kIdOk;
+  });
+  store.RefuseWrites(true);
+  Choose(korvale, {"View", "Target Window"});
+  EXPECT_EQ(told, "VB ERROR 70 - Permission denied\r\rKorvale Error #5");
+  EXPECT_EQ(Height(korvale), 700);
+}
+
 TEST_F(MainWindowTest, MaximizedItRemembersTheSizeThatItHadBefore) {
   KorvaleCopy& korvale = StartedCopy();
   Resize(korvale, 6000, 1100);
@@ -106,6 +140,22 @@ TEST_F(MainWindowTest, MaximizedItRemembersTheSizeThatItHadBefore) {
   EXPECT_EQ(korvale.Parts().startup.WindowState, 2);
   EXPECT_EQ(korvale.Parts().startup.Width, 6000);
   EXPECT_EQ(korvale.Parts().startup.Height, 1100);
+}
+
+TEST_F(MainWindowTest, MaximizedItIsAsWideAsTheMonitorAndNoHigher) {
+  KorvaleCopy& korvale = StartedCopy();
+  korvale.host.SetWorkArea({0, 0, 20000, 12000});
+  desktop.ShowWindow(korvale.Handle(), win32::kSwMaximize);
+  EXPECT_EQ(korvale.Form().Place().width, 20000);
+  EXPECT_EQ(korvale.Form().Place().height, 1100);
+}
+
+TEST_F(MainWindowTest, AnotherDpiLaysTheFieldsOutAnew) {
+  KorvaleCopy& korvale = StartedCopy();
+  const Twips before = korvale.Form().Find("txtWindow").Place().height;
+  korvale.host.SetFrame({90, 600, 180, 660}, 400);
+  korvale.Form().OnDpiChanged();
+  EXPECT_GT(korvale.Form().Find("txtWindow").Place().height, before);
 }
 
 TEST_F(MainWindowTest, AnyResizePutsItOnTopAnew) {

@@ -102,5 +102,89 @@ TEST_F(OptionsExchangeInProgram, TheToggleTellsAnewWhichHotKeysAreNotAvailable) 
   EXPECT_FALSE(dialog.Find("lblConflicts").Visible());
 }
 
+TEST_F(OptionsExchangeInProgram, TheHotKeyBringsTheDialogBackThatWentWithTheMinimizedStrip) {
+  KorvaleCopy& korvale = StartedCopy();
+  PressHotKey(8, 79);
+  const WindowHandle dialog = korvale.Loaded("frmOptions").Handle();
+  WorkIn(Open("Alpha"));
+  desktop.UserMinimizes(korvale.Handle());
+  ASSERT_FALSE(desktop.IsWindowVisible(dialog));
+
+  PressHotKey(8, 79);
+
+  EXPECT_TRUE(desktop.IsWindowVisible(dialog));
+  EXPECT_EQ(desktop.GetForegroundWindow(), dialog);
+}
+
+TEST_F(OptionsExchangeInProgram, ItsQuestionsAreItsOwn) {
+  KorvaleCopy& korvale = StartedCopy();
+  PressHotKey(8, 79);
+  class Form& dialog = korvale.Loaded("frmOptions");
+  WindowHandle owner = 0;
+  korvale.host.WhenMessageBox([&](const ShownMessage& box) {
+    owner = box.owner;
+    return win32::kIdCancel;
+  });
+  korvale.user.Click(dialog.Handle(), korvale.Id(dialog, "cmdReset"));
+  EXPECT_EQ(owner, dialog.Handle());
+}
+
+TEST_F(OptionsExchangeInProgram, TheSessionCanEndWhileItAsks) {
+  KorvaleCopy& korvale = StartedCopy();
+  store.SaveSetting("Korvale - Work", "Options", "HotKeyModParent", "2");
+  PressHotKey(8, 79);
+  class Form& dialog = korvale.Loaded("frmOptions");
+  korvale.host.WhenMessageBox([&](const ShownMessage&) {
+    korvale.Form().OnCloseRequested(CloseReason::kSession);
+    return win32::kIdOk;
+  });
+  korvale.user.Click(dialog.Handle(), korvale.Id(dialog, "cmdReset"));
+  EXPECT_FALSE(korvale.Form().IsLoaded());
+  EXPECT_EQ(Stored("Options", "HotKeyModParent"), "2");
+  EXPECT_TRUE(hotKeys.Registered().empty());
+}
+
+TEST_F(OptionsExchangeInProgram, TheSessionCanEndWhileItTellsThatTheHotKeysAreOnAgain) {
+  KorvaleCopy& korvale = StartedCopy();
+  PressHotKey(0, 19);
+  korvale.Form().udmOptions("LOAD_AND_OR_REFRESH");
+  class Form& dialog = korvale.Loaded("frmOptions");
+  int boxes = 0;
+  korvale.host.WhenMessageBox([&](const ShownMessage&) {
+    ++boxes;
+    korvale.Form().OnCloseRequested(CloseReason::kSession);
+    return win32::kIdOk;
+  });
+  korvale.user.Click(dialog.Handle(), korvale.Id(dialog, "cmdApply"));
+  EXPECT_EQ(boxes, 1);
+  EXPECT_FALSE(korvale.Form().IsLoaded());
+  EXPECT_TRUE(hotKeys.Registered().empty());
+}
+
+TEST_F(OptionsExchangeInProgram, NothingOfOursTakesInputBesideTheColorDialog) {
+  KorvaleCopy& korvale = StartedCopy();
+  PressHotKey(8, 79);
+  class Form& dialog = korvale.Loaded("frmOptions");
+  bool mainEnabled = true;
+  bool mainEnabledAfterNotice = true;
+  std::string notice;
+  korvale.host.WhenMessageBox([&](const ShownMessage& box) {
+    notice = box.text;
+    return win32::kIdOk;
+  });
+  korvale.host.WhenColorDialog([&](Color) -> std::optional<Color> {
+    mainEnabled = desktop.IsWindowEnabled(korvale.Handle());
+    PressTag(1);
+    mainEnabledAfterNotice = desktop.IsWindowEnabled(korvale.Handle());
+    return std::nullopt;
+  });
+  korvale.Form().udmShowColorPalette(0);
+  EXPECT_FALSE(mainEnabled);
+  EXPECT_FALSE(mainEnabledAfterNotice);
+  EXPECT_TRUE(notice.starts_with("Hot Keys are temporarily suspended")) << notice;
+  EXPECT_TRUE(desktop.IsWindowEnabled(korvale.Handle()));
+  EXPECT_TRUE(desktop.IsWindowEnabled(dialog.Handle()));
+}
+
 }  // namespace
 }  // namespace korvale

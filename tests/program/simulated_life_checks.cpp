@@ -171,7 +171,8 @@ SimulatedLife::Kept SimulatedLife::Keeps() {
     if (entry.index == 0) return;
     const std::string tag = DecimalText(entry.index);
     kept.captions.emplace_back(tag, entry.caption);
-    kept.classes.emplace_back(tag, TagClass(parts.tags, entry));
+    const std::string& className = TagClass(parts.tags, entry);
+    if (!className.empty()) kept.classes.emplace_back(tag, className);
   });
   return kept;
 }

@@ -174,6 +174,8 @@ void SimulatedLife::MoveKorvale() {
 void SimulatedLife::Restart() {
   Note("restarts Korvale");
   Kept before = Keeps();
+  const TwipsRect place = korvale_->user.Place(korvale_->Handle());
+  const bool normal = korvale_->Form().WindowState() == ShowState::kNormal;
   if (dice_->OneIn(2)) {
     desktop.UserActivates(korvale_->Handle());
     korvale_->user.PressCloseBox(korvale_->Handle());
@@ -186,6 +188,9 @@ void SimulatedLife::Restart() {
   ForgetKorvale();
   StartKorvale();
   ExpectKept(before);
+  if (normal) {
+    EXPECT_EQ(korvale_->user.Place(korvale_->Handle()), place);
+  }
   // The height follows from what the window shows.
   before.startup.Height = korvale_->Parts().startup.Height;
   EXPECT_EQ(korvale_->Parts().startup, before.startup);

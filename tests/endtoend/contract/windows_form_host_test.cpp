@@ -28,6 +28,7 @@ struct TypedTexts final : FormEvents {
   void OnMenuClicked(MenuItem&) override {}
   void OnActivated() override {}
   void OnPlaced(ShowState, const TwipsRect&) override {}
+  void OnDpiChanged() override {}
   void OnCloseRequested(CloseReason) override {}
   void OnTimer(int) override {}
   void OnUncaught() noexcept override {}
