@@ -5,6 +5,8 @@
 #include <utility>
 #include <vector>
 
+#include "forms/options_form.h"
+
 namespace korvale {
 namespace {
 
