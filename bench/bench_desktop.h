@@ -6,47 +6,16 @@
 
 #include "app/core/error_reporting.h"
 #include "hotkeys/hot_key_dispatch.h"
-#include "platform/win32_constants.h"
-#include "tests/fakes/call_log.h"
-#include "tests/fakes/fake_desktop.h"
+#include "tests/fakes/dispatch_desktop.h"
 #include "tests/fakes/fake_hot_key_actions.h"
-#include "tests/fakes/fake_hot_keys.h"
-#include "tests/fakes/fake_loaded_forms.h"
-#include "tests/fakes/fake_main_window.h"
-#include "tests/fakes/fake_message_boxes.h"
-#include "tests/fakes/fake_settings_store.h"
 #include "util/text.h"
 
 namespace korvale {
 
-/// What the dispatcher works with, on a desktop full of windows.
-struct BenchParts {
-  BenchParts() { options.Create(); }
-
-  CallLog log;
-  FakeDesktop desktop{log};
-  FakeHotKeys hotKeys{log};
-  FakeSettingsStore store;
-  FakeMainWindow mainWindow;
-  FakeLoadedForms forms;
-  OptionsHolder options;
-  MenuItem windowMenu;
-  TagList tags{MenuItemArray(windowMenu, "mnuWindowParentList")};
-  TagListPasses tagPasses{tags, desktop, store};
-  PreviousWindow previous;
-  WindowFilter filter{desktop, options, forms, mainWindow};
-  WindowEnumeration enumeration{desktop, desktop, filter, mainWindow, tagPasses};
-  Suspension suspension;
-  FakeMessageBoxes messages;
-  WindowActions windowActions{desktop,    desktop,  filter,   enumeration,
-                              mainWindow, previous, messages, "Title"};
-  ForegroundTracker tracker{desktop, filter, windowActions, mainWindow, previous, tags};
-};
-
 /// Selects Tags as the Window menu does: by the stored handle, else by matching all windows anew.
 class BenchActions : public FakeHotKeyActions {
  public:
-  explicit BenchActions(BenchParts& parts) : parts_(&parts) {}
+  explicit BenchActions(DispatchDesktop& parts) : parts_(&parts) {}
 
   bool HasTagCaption(std::int16_t) override { return true; }
   void mnuWindowParentList_Click(std::int16_t Index) override {
@@ -64,7 +33,7 @@ class BenchActions : public FakeHotKeyActions {
     return parts_->windowActions.ActivateWindow(window, false, true);
   }
 
-  BenchParts* parts_;
+  DispatchDesktop* parts_;
 };
 
 struct BenchErrors : ErrorReporters {
@@ -111,7 +80,7 @@ class BenchDesktop {
     caption.append("&").append(DecimalText(tag)).append("  ").append(identification);
   }
 
-  BenchParts parts_;
+  DispatchDesktop parts_;
   BenchActions actions_{parts_};
   BenchErrors errors_;
   HotKeyTable table_{parts_.hotKeys, parts_.options, parts_.mainWindow};

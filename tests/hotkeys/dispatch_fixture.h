@@ -7,15 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "hotkeys/hot_key_dispatch.h"
-#include "tests/fakes/call_log.h"
-#include "tests/fakes/fake_desktop.h"
-#include "tests/fakes/fake_hot_key_actions.h"
-#include "tests/fakes/fake_hot_keys.h"
-#include "tests/fakes/fake_loaded_forms.h"
-#include "tests/fakes/fake_main_window.h"
-#include "tests/fakes/fake_message_boxes.h"
-#include "tests/fakes/fake_settings_store.h"
+#include "tests/fakes/dispatch_desktop.h"
 
 namespace korvale {
 
@@ -43,12 +35,11 @@ class FakeErrorReporters : public ErrorReporters {
 
 /// The dispatcher over a fake desktop with the real routines of the desktop. The log holds what
 /// changes windows and what the main window, the menus and the message boxes are told.
-class HotKeyDispatchTest : public testing::Test {
+class HotKeyDispatchTest : public testing::Test, protected DispatchDesktop {
  protected:
   using Calls = std::vector<std::string>;
 
   HotKeyDispatchTest() {
-    options.Create();
     other = Open("Other", "Other", "other");
     target = Open("Target", "Editor", "target");
     main = Open("Korvale - Work", "Korvale.frmMain", "main");
@@ -83,24 +74,6 @@ class HotKeyDispatchTest : public testing::Test {
     return dispatch.udmProcessHotKey(name, false, false, "");
   }
 
-  CallLog log;
-  FakeDesktop desktop{log};
-  FakeHotKeys hotKeys{log};
-  FakeSettingsStore store;
-  FakeMainWindow mainWindow;
-  FakeLoadedForms forms;
-  OptionsHolder options;
-  MenuItem windowMenu;
-  TagList tags{MenuItemArray(windowMenu, "mnuWindowParentList")};
-  TagListPasses tagPasses{tags, desktop, store};
-  PreviousWindow previous;
-  WindowFilter filter{desktop, options, forms, mainWindow};
-  WindowEnumeration enumeration{desktop, desktop, filter, mainWindow, tagPasses};
-  Suspension suspension;
-  FakeMessageBoxes messages;
-  WindowActions windowActions{desktop,    desktop,  filter,   enumeration,
-                              mainWindow, previous, messages, "Title"};
-  ForegroundTracker tracker{desktop, filter, windowActions, mainWindow, previous, tags};
   FakeHotKeyActions actions;
   HotKeyTable table{hotKeys, options, mainWindow};
   HotKeyToggle toggle{table, options, actions, "Product", "Title"};

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "hotkeys/hot_key_dispatch.h"
+#include "tests/fakes/call_log.h"
+#include "tests/fakes/fake_desktop.h"
+#include "tests/fakes/fake_hot_key_actions.h"
+#include "tests/fakes/fake_hot_keys.h"
+#include "tests/fakes/fake_loaded_forms.h"
+#include "tests/fakes/fake_main_window.h"
+#include "tests/fakes/fake_message_boxes.h"
+#include "tests/fakes/fake_settings_store.h"
+
+namespace korvale {
+
+/// What the dispatcher of hot keys works with: a fake desktop and the real routines for it.
+struct DispatchDesktop {
+  DispatchDesktop() { options.Create(); }
+
+  CallLog log;
+  FakeDesktop desktop{log};
+  FakeHotKeys hotKeys{log};
+  FakeSettingsStore store;
+  FakeMainWindow mainWindow;
+  FakeLoadedForms forms;
+  OptionsHolder options;
+  MenuItem windowMenu;
+  TagList tags{MenuItemArray(windowMenu, "mnuWindowParentList")};
+  TagListPasses tagPasses{tags, desktop, store};
+  PreviousWindow previous;
+  WindowFilter filter{desktop, options, forms, mainWindow};
+  WindowEnumeration enumeration{desktop, desktop, filter, mainWindow, tagPasses};
+  Suspension suspension;
+  FakeMessageBoxes messages;
+  WindowActions windowActions{desktop,    desktop,  filter,   enumeration,
+                              mainWindow, previous, messages, "Title"};
+  ForegroundTracker tracker{desktop, filter, windowActions, mainWindow, previous, tags};
+};
+
+}  // namespace korvale
