@@ -3,7 +3,8 @@
 
 WINE_LOADER=${WINE_LOADER:-/usr/lib/wine/wine64}
 WINE_SERVER=${WINE_SERVER:-/usr/lib/wine/wineserver64}
-WINE_SCREEN=${WINE_SCREEN:-1280x1024}
+WINE_USUAL_SCREEN=1280x1024
+WINE_SCREEN=${WINE_SCREEN:-$WINE_USUAL_SCREEN}
 
 # Starts a virtual display, unless KORVALE_DISPLAY names one, and leaves its name in DISPLAY.
 wine_display() {
@@ -40,13 +41,17 @@ wine_template() {
   "$WINE_LOADER" wineboot -i >/dev/null 2>&1
   # Without a window manager only Wine's own desktop window knows who is in front.
   "$WINE_LOADER" reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d Default /f >/dev/null
-  "$WINE_LOADER" reg add 'HKCU\Software\Wine\Explorer\Desktops' /v Default /d "$WINE_SCREEN" /f \
-    >/dev/null
+  wine_screen "$WINE_USUAL_SCREEN"
   # A program that crashes shall end at once, not wait in a debugger.
   "$WINE_LOADER" reg delete 'HKLM\Software\Microsoft\Windows NT\CurrentVersion\AeDebug' /f \
     >/dev/null
   "$WINE_SERVER" -w
   touch "$WINE_TEMPLATE.done"
+}
+
+# Gives Wine's desktop window this size, WIDTHxHEIGHT.
+wine_screen() {
+  "$WINE_LOADER" reg add 'HKCU\Software\Wine\Explorer\Desktops' /v Default /d "$1" /f >/dev/null
 }
 
 # Prepares everything that the suites share; ends it all when the script ends.
@@ -73,6 +78,7 @@ wine_suite() {
   else
     cp -a "$WINE_TEMPLATE" "$WINEPREFIX"
   fi
+  [ "$WINE_SCREEN" = "$WINE_USUAL_SCREEN" ] || wine_screen "$WINE_SCREEN"
 }
 
 wine_run() { "$WINE_LOADER" "$@"; }

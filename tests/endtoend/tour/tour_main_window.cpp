@@ -53,14 +53,14 @@ void Tour::HideTheMenu() {
   report_.Headline("The main window with and without its menu");
   const MainWindow main(korvale_->Main());
   const int height = main.Height();
-  report_.Step("both fields are whole", main.HoldsBoxesWhole());
+  report_.Step("both fields are whole", main.ShowsTextWhole());
   report_.Step("View, Menu", Choose('V', {'M'}));
   const Window caution = korvale_->MessageBox();
   report_.Picture("caution");
   report_.Step("it warns, and OK hides the menu",
                AnswerBox(caution, IDOK) && WaitFor([&] { return !main.HasMenuBar(); }));
   report_.Step("the window is lower, both fields are whole",
-               WaitFor([&] { return main.Height() < height; }) && main.HoldsBoxesWhole());
+               WaitFor([&] { return main.Height() < height; }) && main.ShowsTextWhole());
   report_.Picture("main-window-without-menu");
   report_.Step("Alt+V opens the menu all the same; Target Window",
                Choose('V', {'T'}) && WaitFor([&] { return !main.ShowsBoxes(); }));

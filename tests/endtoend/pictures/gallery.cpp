@@ -1,0 +1,254 @@
+#include "tests/endtoend/pictures/gallery.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <stdexcept>
+
+#include "tests/endtoend/harness/add_window_dialog.h"
+#include "tests/endtoend/harness/color_dialog.h"
+#include "tests/endtoend/harness/files.h"
+#include "tests/endtoend/harness/keyboard.h"
+#include "tests/endtoend/harness/main_window.h"
+#include "tests/endtoend/harness/wait.h"
+
+namespace korvale::endtoend {
+namespace {
+
+/// A place in inches of 96 dots, whatever the screen's dots are.
+void Place(Window window, int left, int top, int width, int height) {
+  const auto dpi = static_cast<int>(GetDpiForSystem());
+  const auto scaled = [dpi](int length) { return MulDiv(length, dpi, 96); };
+  SetWindowPos(window.handle(), nullptr, scaled(left), scaled(top), scaled(width), scaled(height),
+               SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+/// So that what pops up at the mouse pops up there.
+void PutMouse(Window window, int left, int top) {
+  RECT area{};
+  GetWindowRect(window.handle(), &area);
+  const auto dpi = static_cast<int>(GetDpiForSystem());
+  const POINT at{MulDiv(left, dpi, 96), MulDiv(top, dpi, 96)};
+  const auto there = [&] {
+    POINT now{};
+    GetCursorPos(&now);
+    return std::abs(now.x - area.left - at.x) <= 2 && std::abs(now.y - area.top - at.y) <= 2;
+  };
+  // The display can still tell of an earlier place of the mouse.
+  WaitFor([&] {
+    SetCursorPos(area.left + at.x, area.top + at.y);
+    return HoldsFor(there);
+  });
+}
+
+void Need(bool holds, const std::string& what) {
+  if (!holds) throw std::runtime_error(what);
+}
+
+void CloseForm(Window form) {
+  BringToFront(form);
+  Press({0, VK_ESCAPE});
+  Need(WaitFor([&] { return !form.Exists(); }), form.ClassName() + " does not close");
+}
+
+}  // namespace
+
+void Gallery::Run() {
+  Prepare();
+  TakeMainWindow();
+  TakeMenus();
+  TakePopUp();
+  TakeAddWindow();
+  TakeOptions();
+  TakeConflicts();
+  TakeColors();
+  TakeAbout();
+  TakeMessages();
+}
+
+void Gallery::Prepare() {
+  wordpad_.emplace(StartWordPad());
+  Place(wordpad_->window(), 40, 150, 700, 440);
+  const std::string notes = folder_.path() + "Notes.txt";
+  std::ofstream(notes) << "Alt+1 comes here, from anywhere.\n";
+  notepad_.emplace(std::vector<std::string>{"notepad.exe " + Quoted(notes)});
+  Place(notepad_->window(), 120, 250, 600, 320);
+  installation_.MarkAsUsed();
+  installation_.StoreTag(1, "*** - Notepad", "Notepad");
+  installation_.StoreTag(2, "*** - Wine Wordpad", "WORDPAD");
+  installation_.StoreTag(5, "Letters to Anna", "Journal");
+  installation_.settings().Set("Startup", "Left", "1800");
+  installation_.settings().Set("Startup", "Top", "900");
+  installation_.settings().Set("Startup", "Width", "6600");
+  korvale_.emplace(installation_);
+  Need(static_cast<bool>(Main()), "Korvale does not start");
+  WorkIn(notepad_->window());
+}
+
+Window Gallery::Main() const { return korvale_->Main(); }
+
+void Gallery::WorkIn(Window window) const {
+  const auto works = [&] {
+    return Foreground() == window && korvale_->TargetTitle() == window.Title();
+  };
+  Need(BringToFront(window) && WaitFor(works), window.Title() + " does not come");
+  // A slow program can still be on its way over what opens next.
+  Need(WaitFor([&] { return window.Responds(); }), window.Title() + " does not answer");
+}
+
+Window Gallery::OpenMenu(UINT letter) const {
+  BringToFront(Main());
+  Press({MOD_ALT, letter});
+  const Window menu = korvale_->OpenMenu();
+  Need(static_cast<bool>(menu), "no menu opens");
+  return menu;
+}
+
+void Gallery::CloseMenu() const {
+  Press({0, VK_ESCAPE});
+  Press({0, VK_ESCAPE});
+  Need(WaitFor([&] { return !korvale_->HasMenu(); }), "the menu does not close");
+}
+
+void Gallery::Choose(UINT menu, std::initializer_list<UINT> entries) const {
+  OpenMenu(menu);
+  for (const UINT entry : entries) Press({0, entry});
+  Need(WaitFor([&] { return !korvale_->HasMenu(); }), "the menu does not close");
+}
+
+Window Gallery::Form(const std::string& name) const {
+  const Window form = korvale_->Form(name);
+  Need(form && BringToFront(form), name + " does not come");
+  return form;
+}
+
+void Gallery::TakeMainWindow() {
+  const MainWindow main(Main());
+  BringToFront(main.window());
+  photographer_.Take("main-window", {main.window()});
+  Choose('V', {'T'});
+  photographer_.Take("main-window-menu-only", {main.window()});
+  Choose('V', {'T'});
+  Choose('V', {'M'});
+  const Window caution = korvale_->MessageBox();
+  photographer_.Take("caution", {caution});
+  Need(AnswerBox(caution, IDOK), "the caution stays");
+  BringToFront(main.window());
+  photographer_.Take("main-window-without-menu", {main.window()});
+  Choose('V', {'T'});
+  photographer_.Take("main-window-title-bar-only", {main.window()});
+  Choose('V', {'T'});
+  Choose('V', {'M'});
+  MoveWindow(main.window().handle(), 200, 100, 10, 10, TRUE);
+  photographer_.Take("main-window-narrow", {main.window()});
+  Place(main.window(), 120, 60, 440, 90);
+  photographer_.Take("main-window-wide", {main.window()});
+}
+
+void Gallery::TakeMenus() {
+  for (const char menu : {'F', 'V', 'T', 'W', 'H'}) {
+    const Window open = OpenMenu(static_cast<UINT>(menu));
+    photographer_.Take(std::string("menu-") + menu, {Main(), open});
+    CloseMenu();
+  }
+}
+
+void Gallery::TakePopUp() {
+  WorkIn(wordpad_->window());
+  WorkIn(notepad_->window());
+  PutMouse(notepad_->window(), 150, 90);
+  Press(kMenuKey);
+  const Window menu = korvale_->OpenMenu();
+  Need(static_cast<bool>(menu), "the menu does not pop up");
+  photographer_.Take("pop-up", {notepad_->window(), menu});
+  photographer_.Take("program", {Main(), notepad_->window(), wordpad_->window(), menu});
+  CloseMenu();
+}
+
+void Gallery::TakeAddWindow() {
+  WorkIn(wordpad_->window());
+  Choose('W', {'W'});
+  const AddWindowDialog dialog(Form("frmGetWindow"));
+  photographer_.Take("add-window", {dialog.form()});
+  Need(dialog.SelectTag(5), "Tag 5 cannot be chosen");
+  photographer_.Take("add-window-taken", {dialog.form()});
+  Need(dialog.SelectTag(3) && dialog.Choose(2), "Tag 3 cannot be chosen");
+  photographer_.Take("add-window-right-part", {dialog.form()});
+  Need(dialog.Cancel(), "the dialog does not close");
+}
+
+OptionsDialog Gallery::OpenOptions() const {
+  Press(kOptionsKey);
+  return OptionsDialog(Form("frmOptions"));
+}
+
+void Gallery::TakeOptions() {
+  using Page = OptionsDialog::Page;
+  WorkIn(wordpad_->window());
+  const OptionsDialog dialog = OpenOptions();
+  const std::pair<Page, const char*> pages[] = {
+      {Page::kGeneral, "options-general"},
+      {Page::kHotKeys, "options-hot-keys"},
+      {Page::kWindowIdentification, "options-identification"}};
+  for (const auto& [page, name] : pages) {
+    Need(dialog.GoTo(page), "the page does not come");
+    photographer_.Take(name, {dialog.form()});
+  }
+  CloseForm(dialog.form());
+}
+
+void Gallery::TakeConflicts() {
+  Press(kToggleKey);
+  photographer_.Take("notice", {Form("frmWaitWindow")});
+  Need(WaitFor([&] { return !korvale_->HasForm("frmWaitWindow"); }), "the notice stays");
+  Need(holder_.TakeHotKey(TagKey(3)) && holder_.TakeHotKey(kMenuKey), "the keys are not free");
+  Press(kToggleKey);
+  Need(WaitFor([&] { return korvale_->HasForm("frmWaitWindow"); }) &&
+           WaitFor([&] { return !korvale_->HasForm("frmWaitWindow"); }),
+       "the notice stays");
+  const OptionsDialog dialog = OpenOptions();
+  Need(dialog.GoTo(OptionsDialog::Page::kHotKeys), "the page does not come");
+  Need(!dialog.ConflictLine().empty(), "no conflict is shown");
+  photographer_.Take("options-conflicts", {dialog.form()});
+  Click(dialog.Button("Reset All Options to Default"));
+  const Window question = korvale_->MessageBox();
+  photographer_.Take("reset", {question});
+  Need(AnswerBox(question, IDCANCEL), "the question stays");
+  CloseForm(dialog.form());
+}
+
+void Gallery::TakeColors() {
+  Choose('V', {'C'});
+  const Window tip = Form("frmMsgTip");
+  photographer_.Take("tip", {tip});
+  CloseForm(tip);
+  const MainWindow main(Main());
+  BringToFront(main.window());
+  ClickAt(main.TitleBox(), {20, 4});
+  const ColorDialog dialog(*korvale_);
+  photographer_.Take("colors", {main.window(), dialog.window()});
+  Need(dialog.Choose({255, 214, 165}), "the colour is not taken");
+  Choose('V', {'C'});
+  photographer_.Take("main-window-colors", {main.window()});
+}
+
+void Gallery::TakeAbout() {
+  Choose('H', {'A'});
+  const Window about = Form("frmMsgBox2");
+  photographer_.Take("about", {about});
+  CloseForm(about);
+}
+
+void Gallery::TakeMessages() {
+  WorkIn(wordpad_->window());
+  Press(TagKey(5));
+  const Window message = korvale_->MessageBox();
+  photographer_.Take("message", {message});
+  Press(TagKey(1));
+  const auto title = std::string("Korvale     ");
+  Need(WaitFor([&] { return !korvale_->MessageBoxes(title).empty(); }), "no notice comes");
+  const Window notice = korvale_->MessageBoxes(title).front();
+  photographer_.Take("suspended", {notice});
+  Need(AnswerBox(notice, IDOK) && AnswerBox(message, IDOK), "the messages stay");
+}
+
+}  // namespace korvale::endtoend

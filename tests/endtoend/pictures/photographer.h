@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "tests/endtoend/harness/window.h"
+
+namespace korvale::endtoend {
+
+/// Takes pictures of the screen and notes which part of each shows what it is about.
+class Photographer {
+ public:
+  /// Has the screen pictured and writes the rectangle around the windows beside it, as
+  /// "640x400+10+20" in a file NAME.area.
+  void Take(const std::string& name, const std::vector<Window>& windows);
+
+  /// How many pictures could not be taken.
+  int Missed() const { return missed_; }
+
+ private:
+  int missed_ = 0;
+};
+
+}  // namespace korvale::endtoend
