@@ -20,6 +20,19 @@ class Options : public OptionsTest {
            }) == 1;
   }
 
+  /// Clicks a label of the dialog while Shift is held down.
+  void ShiftClick(const OptionsDialog& dialog, Window label) {
+    // Wine looks which keys are down when the mouse comes to a window, and lets go of Shift then.
+    MoveMouse(label, {20, 5});
+    ASSERT_TRUE(StaysInFront(dialog.form()));
+    const Window focus = FocusOf(dialog.form());
+    const HeldKeys shift({0, VK_SHIFT});
+    ClickAt(label, {20, 5});
+    // The dialog takes its input in order: once it has answered a key, it has seen the click.
+    Press({0, VK_TAB});
+    ASSERT_TRUE(WaitFor([&] { return FocusOf(dialog.form()) != focus; }));
+  }
+
   /// Presses the access key and waits until the box has changed.
   ::testing::AssertionResult Toggles(const OptionsDialog& dialog, UINT key, const char* caption) {
     const Window box = dialog.Button(caption);
@@ -42,6 +55,16 @@ TEST_F(Options, OpenOnTheTabThatWasUsedLast) {
   EXPECT_EQ(settings().Get("Startup", "OptionsTab"), "3");
   ASSERT_TRUE(StartAgain());
   EXPECT_EQ(OpenOptions().CurrentPage(), Page::kWindowIdentification);
+}
+
+TEST_F(Options, OpenOnTheHotKeysForAUserWhoReviewsThem) {
+  korvale_.emplace(installation_);
+  ASSERT_TRUE(AnswerBox(ReviewQuestion(), IDYES));
+  const OptionsDialog dialog(korvale_->Form("frmOptions"));
+  ASSERT_TRUE(InFront(dialog.form()));
+  EXPECT_EQ(dialog.CurrentPage(), Page::kHotKeys);
+  ASSERT_TRUE(dialog.Cancel());
+  EXPECT_EQ(OpenOptions().CurrentPage(), Page::kHotKeys);
 }
 
 TEST_F(Options, ComeToTheFrontWhenTheyAreOpenAlready) {
@@ -115,11 +138,7 @@ TEST_F(Options, AreLeftUnchangedByEscCancelAndTheCloseBox) {
 TEST_F(Options, TakeTheDefaultColourAgainByAShiftClickOnTheLegend) {
   installation_.SetOption("HotKeyEnabled", "255");
   const OptionsDialog dialog = StartWithOptions(Page::kHotKeys);
-  {
-    const HeldKeys shift({0, VK_SHIFT});
-    Click(dialog.EnabledLegend());
-    ASSERT_TRUE(dialog.form().Responds());
-  }
+  ShiftClick(dialog, dialog.EnabledLegend());
   ASSERT_TRUE(Apply(dialog));
   EXPECT_EQ(settings().Get("Options", "HotKeyEnabled"), Defaults("Options")["HotKeyEnabled"]);
   EXPECT_FALSE(korvale_->HasMessageBox());
