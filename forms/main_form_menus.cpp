@@ -2,6 +2,7 @@
 
 #include "forms/main_form.h"
 #include "forms/main_form_design.h"
+#include "forms/options_design.h"
 #include "platform/win32_constants.h"
 #include "util/forms.h"
 #include "util/system.h"

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "forms/form.h"
-#include "forms/options_form.h"
+#include "forms/options_design.h"
 #include "util/forms.h"
 
 namespace korvale {

@@ -5,8 +5,6 @@
 #include <utility>
 #include <vector>
 
-#include "forms/options_form.h"
-
 namespace korvale {
 namespace {
 
@@ -18,7 +16,9 @@ constexpr Twips kRowHeight = 375;
 class Rows {
  public:
   void Page(int index) {
-    rows_.push_back({kPage, "picOptions", index, "", "", {210, 495, 13575, 5775}});
+    ControlRow page{kPage, "picOptions", index, "", "", {210, 495, 13575, 5775}};
+    page.backColor = kWindowColor;
+    rows_.push_back(page);
     container_ = "picOptions";
     containerIndex_ = page_ = index;
   }
@@ -40,7 +40,8 @@ class Rows {
   void Add(ControlKind kind, const char* name, int index, const char* caption, const char* toolTip,
            TwipsRect place, unsigned flags = kNoFlags) {
     ControlRow row{kind, name, index, caption, toolTip, place, container_, containerIndex_, flags};
-    if (kind == kDropDownList) {
+    // Windows paints the body of a tab strip in the colour of a document.
+    if (*container_ != '\0') {
       row.backColor = kWindowColor;
       row.foreColor = kWindowTextColor;
     }

@@ -4,6 +4,8 @@
 
 namespace korvale {
 
+inline constexpr const char* kOptionsForm = "frmOptions";
+
 const FormDesign& OptionsDesign();
 
 }  // namespace korvale

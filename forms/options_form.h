@@ -10,8 +10,6 @@
 
 namespace korvale {
 
-inline constexpr const char* kOptionsForm = "frmOptions";
-
 /// The Options dialog. It edits a copy of the options record and is modeless.
 class frmOptions : public Form {
  public:
