@@ -1,0 +1,55 @@
+#include "tests/endtoend/harness/color_dialog.h"
+
+#include <cstdlib>
+
+#include "tests/endtoend/harness/keyboard.h"
+#include "tests/endtoend/harness/wait.h"
+
+namespace korvale::endtoend {
+namespace {
+
+// The dialog's own names for its fields, from the system's dialog template.
+constexpr int kRed = 706;
+constexpr int kGreen = 707;
+constexpr int kBlue = 708;
+
+Window Field(Window dialog, int field) { return Window(GetDlgItem(dialog.handle(), field)); }
+
+int Value(Window dialog, int field) { return std::atoi(Field(dialog, field).Text().c_str()); }
+
+}  // namespace
+
+std::string StoredColor(Rgb color) {
+  return std::to_string(color.red + 0x100 * color.green + 0x10000 * color.blue);
+}
+
+ColorDialog::ColorDialog(const RunningKorvale& korvale) : window_(korvale.MessageBox()) {
+  WaitFor([this] { return Field(window_, kBlue).Visible(); });
+}
+
+Rgb ColorDialog::Shown() const {
+  return {Value(window_, kRed), Value(window_, kGreen), Value(window_, kBlue)};
+}
+
+bool ColorDialog::Enter(int field, int value) const {
+  Click(Field(window_, field));
+  Press({0, VK_HOME});
+  Press({MOD_SHIFT, VK_END});
+  Type(std::to_string(value));
+  return WaitFor([&] { return Value(window_, field) == value; });
+}
+
+bool ColorDialog::Choose(Rgb color) const {
+  if (!BringToFront(window_)) return false;
+  const bool entered =
+      Enter(kRed, color.red) && Enter(kGreen, color.green) && Enter(kBlue, color.blue);
+  return entered && Shown() == color && AnswerBox(window_, IDOK);
+}
+
+bool ColorDialog::Cancel() const {
+  if (!BringToFront(window_)) return false;
+  Press({0, VK_ESCAPE});
+  return WaitFor([this] { return !window_.Exists() || !window_.Visible(); });
+}
+
+}  // namespace korvale::endtoend

@@ -1,0 +1,51 @@
+#include "tests/endtoend/harness/main_window.h"
+
+#include <vector>
+
+namespace korvale::endtoend {
+namespace {
+
+/// A line of text and the border around it.
+constexpr int kLineHeight = 19;
+
+}  // namespace
+
+RECT MainWindow::Area(Window window) {
+  RECT area{};
+  GetWindowRect(window.handle(), &area);
+  return area;
+}
+
+Window MainWindow::Box(size_t index) const {
+  std::vector<Window> boxes = window_.Children();
+  std::erase_if(boxes, [](Window child) { return child.ClassName() != "Edit"; });
+  return index < boxes.size() ? boxes[index] : Window();
+}
+
+int MainWindow::BoxHeight() const {
+  const RECT area = Area(TitleBox());
+  return area.bottom - area.top;
+}
+
+bool MainWindow::ShowsTextWhole() const {
+  RECT client{};
+  GetClientRect(window_.handle(), &client);
+  MapWindowPoints(window_.handle(), nullptr, reinterpret_cast<POINT*>(&client), 2);
+  for (const Window box : {TitleBox(), ClassBox()}) {
+    const RECT area = Area(box);
+    RECT shown{};
+    IntersectRect(&shown, &area, &client);
+    if (shown.left != area.left || shown.right != area.right || shown.top != area.top ||
+        shown.bottom - shown.top < kLineHeight) {
+      return false;
+    }
+  }
+  return true;
+}
+
+void MainWindow::Resize(int width, int height) const {
+  SetWindowPos(window_.handle(), nullptr, 0, 0, width, height,
+               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+}  // namespace korvale::endtoend

@@ -1,0 +1,47 @@
+#include "tests/endtoend/harness/screen.h"
+
+#include "tests/endtoend/harness/text.h"
+
+namespace korvale::endtoend {
+
+std::vector<COLORREF> PictureOf(Window window) {
+  RECT area{};
+  GetWindowRect(window.handle(), &area);
+  const int width = area.right - area.left;
+  const int height = area.bottom - area.top;
+  std::vector<COLORREF> pixels(static_cast<size_t>(width) * static_cast<size_t>(height));
+  const HDC screen = GetDC(nullptr);
+  const HDC memory = CreateCompatibleDC(screen);
+  const HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
+  const HGDIOBJ before = SelectObject(memory, bitmap);
+  BitBlt(memory, 0, 0, width, height, screen, area.left, area.top, SRCCOPY);
+  SelectObject(memory, before);
+  BITMAPINFO info{};
+  info.bmiHeader = {sizeof(BITMAPINFOHEADER), width, -height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+  GetDIBits(memory, bitmap, 0, static_cast<UINT>(height), pixels.data(), &info, DIB_RGB_COLORS);
+  DeleteObject(bitmap);
+  DeleteDC(memory);
+  ReleaseDC(nullptr, screen);
+  return pixels;
+}
+
+HCURSOR PointerOnScreen() {
+  CURSORINFO info{};
+  info.cbSize = sizeof(info);
+  GetCursorInfo(&info);
+  return info.hCursor;
+}
+
+std::string ClipboardText() {
+  if (OpenClipboard(nullptr) == 0) return "";
+  std::string text;
+  const HANDLE data = GetClipboardData(CF_UNICODETEXT);
+  if (const void* locked = data == nullptr ? nullptr : GlobalLock(data)) {
+    text = Utf8(static_cast<const wchar_t*>(locked));
+    GlobalUnlock(data);
+  }
+  CloseClipboard();
+  return text;
+}
+
+}  // namespace korvale::endtoend

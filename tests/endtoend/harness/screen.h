@@ -1,0 +1,21 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+#include "tests/endtoend/harness/window.h"
+
+namespace korvale::endtoend {
+
+/// The pixels that a window covers on the screen, row by row.
+std::vector<COLORREF> PictureOf(Window window);
+
+/// The pointer that the mouse has at the moment; only good for comparing.
+HCURSOR PointerOnScreen();
+
+/// The text on the clipboard, "" when there is none.
+std::string ClipboardText();
+
+}  // namespace korvale::endtoend

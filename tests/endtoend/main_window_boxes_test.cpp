@@ -1,0 +1,87 @@
+#include <algorithm>
+
+#include "tests/endtoend/harness/main_window.h"
+#include "tests/endtoend/harness/screen.h"
+#include "tests/endtoend/korvale_test.h"
+
+namespace korvale::endtoend {
+namespace {
+
+class MainWindowBoxes : public KorvaleTest {
+ protected:
+  MainWindow window() { return MainWindow(main()); }
+
+  /// Marks all of the box's text and copies it, by the keys that every text box knows.
+  static std::string CopyAll(Window box) {
+    const DWORD before = GetClipboardSequenceNumber();
+    Click(box);
+    Press({0, VK_HOME});
+    Press({MOD_SHIFT, VK_END});
+    Press({MOD_CONTROL, 'C'});
+    // Whoever reads the clipboard meanwhile keeps the box from writing.
+    WaitFor([&] { return GetClipboardSequenceNumber() != before; });
+    std::string text;
+    WaitFor([&] { return !(text = ClipboardText()).empty(); });
+    return text;
+  }
+
+  /// The control that stands before it in the order that a screen reader takes.
+  std::string NameOf(Window box) {
+    const std::vector<Window> controls = main().Children();
+    const auto found = std::find(controls.begin(), controls.end(), box);
+    return found == controls.begin() || found == controls.end() ? "" : std::prev(found)->Text();
+  }
+
+  /// Moves the mouse over the box until that tool tip is shown.
+  bool ShowsOver(Window box, const std::string& tip) {
+    for (int place = 20; place < 25; ++place) {
+      MoveMouse(box, {place, 8});
+      const auto shown = [&] { return ToolTip() == tip; };
+      if (WaitFor(shown, std::chrono::milliseconds(2000))) return true;
+    }
+    return false;
+  }
+
+  /// The tool tip on the screen.
+  std::string ToolTip() {
+    const Window tip = FindTopLevel([this](Window candidate) {
+      return candidate.Visible() && candidate.ProcessId() == korvale_->process().id() &&
+             candidate.ClassName() == "tooltips_class32";
+    });
+    return tip ? tip.Text() : "";
+  }
+};
+
+TEST_F(MainWindowBoxes, GiveTheirTextToTheClipboardAndTakeNone) {
+  Start();
+  ASSERT_TRUE(WorkIn(Open("Rechnung № 7 日本")));
+  ASSERT_TRUE(BringToFront(main()));
+  EXPECT_EQ(CopyAll(window().TitleBox()), "Rechnung № 7 日本");
+  EXPECT_EQ(CopyAll(window().ClassBox()), "Test.Window");
+  Type("x");
+  Press({0, VK_DELETE});
+  EXPECT_TRUE(HoldsFor([this] { return korvale_->TargetClass() == "Test.Window"; }));
+  for (const Window box : {window().TitleBox(), window().ClassBox()}) {
+    EXPECT_NE(box.Style() & ES_READONLY, 0);
+  }
+}
+
+TEST_F(MainWindowBoxes, HaveNamesAndToolTips) {
+  Start();
+  EXPECT_EQ(NameOf(window().TitleBox()), "Target Window");
+  EXPECT_EQ(NameOf(window().ClassBox()), "Class of Target Window");
+  EXPECT_TRUE(ShowsOver(window().TitleBox(), " Target Window "));
+  EXPECT_TRUE(ShowsOver(window().ClassBox(), " Class of Target Window "));
+}
+
+TEST_F(MainWindowBoxes, ShareTheWidth) {
+  Start();
+  for (const int width : {176, 300, 900}) {
+    window().Resize(width, window().Height());
+    ASSERT_TRUE(WaitFor([&] { return window().Width() == width; }));
+    EXPECT_TRUE(WaitFor([this] { return window().ShowsTextWhole(); })) << width;
+  }
+}
+
+}  // namespace
+}  // namespace korvale::endtoend
