@@ -1,0 +1,75 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "app/core/installation.h"
+#include "tests/core/form_of_settings.h"
+#include "tests/fakes/call_log.h"
+#include "tests/fakes/fake_message_boxes.h"
+#include "tests/fakes/fake_settings_store.h"
+#include "tests/fakes/fake_system.h"
+
+namespace korvale {
+
+inline constexpr const char* kWork = "Korvale - Work";
+inline constexpr const char* kOld = "Korvale - Old";
+inline constexpr std::int16_t kYes = 6;
+inline constexpr std::int16_t kNo = 7;
+
+/// A start in D:\Tools\Work, and the settings of an installation that was in D:\Tools\Old.
+class InstallationTest : public testing::Test {
+ protected:
+  InstallationTest() { StartFrom("D:\\Tools\\Work\\"); }
+
+  void StartFrom(const std::string& folder) {
+    system_.executablePath = folder + "Korvale.exe";
+    system_.files.insert(folder + "Korvale.exe");
+    identity_ = ReadProgramIdentity(system_);
+  }
+  InstallationResult RunOn(SettingsStore& store) {
+    Settings settings(store, identity_.mainCaption);
+    FormOfSettings form(settings);
+    const InstallationResult result =
+        RunInstallationRule(identity_, settings, system_, messages_, form.Import());
+    EXPECT_EQ(settings.AppName(), identity_.mainCaption);
+    return result;
+  }
+  InstallationResult Run() { return RunOn(store_); }
+
+  static void Register(SettingsStore& store, const std::string& appName,
+                       const std::string& folder) {
+    store.SaveSetting(kInstallationRegister, "0", appName, folder);
+  }
+  std::optional<std::string> Registered(const std::string& appName) {
+    return store_.GetSetting(kInstallationRegister, "0", appName);
+  }
+
+  /// A full set of settings, none of them the default.
+  static void StoreSettings(SettingsStore& store, const std::string& appName) {
+    Settings settings(store, appName);
+    FormOfSettings form(settings);
+    form.options.intHotKeyModParent = 2;
+    form.startup.Left = 100;
+    form.startup.Width = 5000;
+    form.startup.DisplayTips = false;
+    form.startup.Tips = "11";
+    form.startup.Menu = false;
+    form.tags.captions = {{"1", "&1  Mail"}, {"4", "&4  *** - Notepad"}};
+    form.tags.classes = {{"4", "Notepad"}};
+    form.Import().udmSaveOptions();
+    form.Import().udmSaveINI();
+    store.SaveSetting(appName, "ButtonTags", "1", "old");
+  }
+
+  CallLog log_;
+  FakeSystem system_{log_};
+  FakeSettingsStore store_{log_};
+  FakeMessageBoxes messages_;
+  ProgramIdentity identity_;
+};
+
+}  // namespace korvale
