@@ -120,6 +120,11 @@ TEST_F(TipsTest, NamesItsControls) {
   ShowTip(TipNumber::kCustomizeColors);
 }
 
+TEST_F(TipsTest, HasAPlaceholderUntilItIsGivenItsText) {
+  form_.Load();
+  EXPECT_EQ(Text(form_, "lblTip"), "*get what*");
+}
+
 TEST_F(TipsTest, EscDoesWhatTheButtonDoes) {
   LeaveNextWith(win32::kVkEscape, kNoShift, true);
   ShowTip(TipNumber::kCustomizeColors);

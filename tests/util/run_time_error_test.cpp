@@ -19,17 +19,39 @@ TEST(RunTimeErrorTest, PutsTheArgumentIntoTheDescription) {
   EXPECT_STREQ(error.what(), "Control array element '7' doesn't exist");
 }
 
+struct KnownError {
+  std::int16_t number;
+  const char* description;
+};
+
+constexpr KnownError kKnownErrors[] = {
+    {5, "Invalid procedure call or argument"},
+    {6, "Overflow"},
+    {7, "Out of memory"},
+    {9, "Subscript out of range"},
+    {11, "Division by zero"},
+    {13, "Type mismatch"},
+    {51, "Internal error"},
+    {52, "Bad file name or number"},
+    {53, "File not found"},
+    {55, "File already open"},
+    {57, "Device I/O error"},
+    {61, "Disk full"},
+    {70, "Permission denied"},
+    {71, "Disk not ready"},
+    {75, "Path/File access error"},
+    {76, "Path not found"},
+    {91, "Object variable or With block variable not set"},
+    {340, "Control array element '|' doesn't exist"},
+    {360, "Object already loaded"},
+    {362, "Can't unload controls created at design time"},
+    {380, "Invalid property value"},
+};
+
 TEST(RunTimeErrorTest, DescribesTheKnownNumbers) {
-  EXPECT_EQ(RunTimeErrorDescription(5), "Invalid procedure call or argument");
-  EXPECT_EQ(RunTimeErrorDescription(6), "Overflow");
-  EXPECT_EQ(RunTimeErrorDescription(9), "Subscript out of range");
-  EXPECT_EQ(RunTimeErrorDescription(11), "Division by zero");
-  EXPECT_EQ(RunTimeErrorDescription(70), "Permission denied");
-  EXPECT_EQ(RunTimeErrorDescription(75), "Path/File access error");
-  EXPECT_EQ(RunTimeErrorDescription(76), "Path not found");
-  EXPECT_EQ(RunTimeErrorDescription(340), "Control array element '|' doesn't exist");
-  EXPECT_EQ(RunTimeErrorDescription(360), "Object already loaded");
-  EXPECT_EQ(RunTimeErrorDescription(362), "Can't unload controls created at design time");
+  for (const auto& [number, description] : kKnownErrors) {
+    EXPECT_EQ(RunTimeErrorDescription(number), description) << number;
+  }
 }
 
 TEST(RunTimeErrorTest, DescribesUnknownNumbersInGeneral) {
