@@ -1,0 +1,184 @@
+#include <cctype>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "forms/access_key.h"
+#include "platform/win32_constants.h"
+#include "tests/forms/options_test.h"
+
+namespace korvale {
+namespace {
+
+/// The keyboard in the Options dialog, and what the tool tips say of it.
+class OptionsKeysTest : public OptionsTest {
+ protected:
+  static bool TakesInput(const Control& control) {
+    const ControlKind kind = control.State().kind;
+    return kind == ControlKind::kButton || kind == ControlKind::kCheckBox ||
+           kind == ControlKind::kDropDownList || kind == ControlKind::kTabStrip;
+  }
+  /// The access keys that the user sees, in capitals, once for each control that has one.
+  std::vector<std::string> AccessKeysShown() {
+    std::vector<std::string> keys;
+    for (const Control& control : dialog_.Controls()) {
+      const bool shown = user_.IsShown(dialog_.Handle(), control.Id());
+      if (!shown || (control.State().flags & kNoPrefix) != 0) continue;
+      Collect(control.Text(), keys);
+      if (control.State().kind != ControlKind::kTabStrip) continue;
+      for (const ListItem& tab : control.Items()) Collect(tab.text, keys);
+    }
+    return keys;
+  }
+  /// "cmdOK" or "chkHotKeyParent 3".
+  std::string FocusedControl() {
+    const Control& control = dialog_.ById(user_.Focus(dialog_.Handle()));
+    const std::string index = control.Index() < 0 ? "" : " " + std::to_string(control.Index());
+    return control.Name() + index;
+  }
+  std::string FocusedTip() {
+    return user_.Look(dialog_.Handle(), user_.Focus(dialog_.Handle())).toolTip;
+  }
+  /// The controls through which the Tab key goes until it is back at the first.
+  std::vector<std::string> TabOrder() {
+    std::vector<std::string> visited;
+    const std::string first = FocusedControl();
+    do {
+      visited.push_back(FocusedControl());
+      Press(dialog_, win32::kVkTab);
+    } while (FocusedControl() != first && visited.size() < 100);
+    return visited;
+  }
+  std::string Tip(std::string_view name, int index = -1) {
+    return Look(dialog_, name, index).toolTip;
+  }
+
+ private:
+  static void Collect(const std::string& caption, std::vector<std::string>& keys) {
+    const std::string key = AccessKey(caption);
+    if (!key.empty()) keys.emplace_back(1, static_cast<char>(std::toupper(key.front())));
+  }
+};
+
+TEST_F(OptionsKeysTest, NoTwoControlsOfAPageShareAnAccessKey) {
+  for (std::int16_t tab = 1; tab <= 3; ++tab) {
+    OpenDialog(tab);
+    const std::vector<std::string> keys = AccessKeysShown();
+    EXPECT_GE(keys.size(), 3U);
+    EXPECT_EQ(std::set(keys.begin(), keys.end()).size(), keys.size()) << "tab " << tab;
+  }
+}
+
+TEST_F(OptionsKeysTest, EveryAccessKeyLeadsToAControlWhoseTipNamesIt) {
+  for (std::int16_t tab = 1; tab <= 3; ++tab) {
+    OpenDialog(tab);
+    for (const std::string& key : AccessKeysShown()) {
+      Press(dialog_, key.front(), kAlt);
+      EXPECT_TRUE(FocusedTip().ends_with("  (Alt+" + key + ") ")) << FocusedControl();
+    }
+  }
+}
+
+TEST_F(OptionsKeysTest, NoTipNamesAnAccessKeyThatLeadsElsewhere) {
+  for (std::int16_t tab = 1; tab <= 3; ++tab) {
+    OpenDialog(tab);
+    for (const Control& control : dialog_.Controls()) {
+      const std::string& tip = control.State().toolTip;
+      const std::size_t named = tip.find("(Alt+");
+      if (named == std::string::npos || !user_.IsShown(dialog_.Handle(), control.Id())) continue;
+      Press(dialog_, tip.at(named + 5), kAlt);
+      EXPECT_EQ(user_.Focus(dialog_.Handle()), control.Id()) << control.Name();
+    }
+  }
+}
+
+TEST_F(OptionsKeysTest, EveryControlHasAToolTipBetweenBlanks) {
+  OpenDialog();
+  for (const Control& control : dialog_.Controls()) {
+    if (!TakesInput(control)) continue;
+    const std::string& tip = control.State().toolTip;
+    EXPECT_TRUE(tip.size() > 2 && tip.starts_with(' ') && tip.ends_with(' ')) << control.Name();
+  }
+}
+
+TEST_F(OptionsKeysTest, TheTipsNameTheKeysOfButtonsAndTabs) {
+  OpenDialog();
+  EXPECT_EQ(Tip("cmdOK"), " Save and close  (Enter) ");
+  EXPECT_EQ(Tip("cmdCancel"), " Close without saving  (Esc) ");
+  EXPECT_EQ(Tip("cmdApply"), " Save  (Alt+A) ");
+  EXPECT_EQ(Tip("tabOptions"), " page of the options  (Ctrl+Tab) ");
+}
+
+TEST_F(OptionsKeysTest, TheTipsOfLabelsAreTheirExplanations) {
+  OpenDialog();
+  for (int tag = 0; tag < 10; ++tag) {
+    EXPECT_EQ(Tip("lblTagParent", tag), Text(dialog_, "lblTagParent", tag));
+    EXPECT_EQ(Tip("chkHotKeyParent", tag), Text(dialog_, "lblTagParent", tag));
+  }
+  for (int i = 0; i < 2; ++i) {
+    EXPECT_EQ(Tip("lblAction", i), Text(dialog_, "lblActionNote", i));
+    EXPECT_EQ(Tip("lblActionNote", i), Text(dialog_, "lblActionNote", i));
+    EXPECT_EQ(Tip("lblLegend", i), Text(dialog_, "lblLegend", i));
+  }
+  for (int i = 0; i < 3; ++i) {
+    EXPECT_EQ(Tip("lblGeneral", i), Text(dialog_, "lblGeneralNote", i));
+    EXPECT_EQ(Tip("lblGeneralNote", i), Text(dialog_, "lblGeneralNote", i));
+  }
+}
+
+TEST_F(OptionsKeysTest, TheTabKeyGoesThroughTheGeneralPage) {
+  OpenDialog(1);
+  EXPECT_EQ(TabOrder(),
+            (std::vector<std::string>{"chkSplashScreen", "chkSelectPrevWinOnStart", "cmdOK",
+                                      "cmdCancel", "cmdApply", "cmdReset", "tabOptions"}));
+}
+
+TEST_F(OptionsKeysTest, TheTabKeyGoesThroughTheHotKeysPage) {
+  OpenDialog(2);
+  EXPECT_EQ(TabOrder(), (std::vector<std::string>{"cboHotKeyModParent", "chkHotKeyParent 0",
+                                                  "chkHotKeyParent 1",  "chkHotKeyParent 2",
+                                                  "chkHotKeyParent 3",  "chkHotKeyParent 4",
+                                                  "chkHotKeyParent 5",  "chkHotKeyParent 6",
+                                                  "chkHotKeyParent 7",  "chkHotKeyParent 8",
+                                                  "chkHotKeyParent 9",  "cboHotKeyModAction 0",
+                                                  "cboHotKeyAction 0",  "cboHotKeyModAction 1",
+                                                  "cboHotKeyAction 1",  "cboHotKeyModGeneral 0",
+                                                  "cboHotKeyGeneral 0", "cboHotKeyModGeneral 1",
+                                                  "cboHotKeyGeneral 1", "cboHotKeyModGeneral 2",
+                                                  "cboHotKeyGeneral 2", "cmdOK",
+                                                  "cmdCancel",          "cmdApply",
+                                                  "cmdReset",           "tabOptions"}));
+}
+
+TEST_F(OptionsKeysTest, TheTabKeyGoesThroughTheWindowIdentificationPage) {
+  OpenDialog(3);
+  EXPECT_EQ(TabOrder(),
+            (std::vector<std::string>{"chkAllowToolbarWindow", "chkAllowNoTextWindow", "cmdOK",
+                                      "cmdCancel", "cmdApply", "cmdReset", "tabOptions"}));
+}
+
+TEST_F(OptionsKeysTest, ShiftTabGoesBack) {
+  OpenDialog(2);
+  std::vector<std::string> visited;
+  for (int i = 0; i < 6; ++i) {
+    Press(dialog_, win32::kVkTab, kShift);
+    visited.push_back(FocusedControl());
+  }
+  EXPECT_EQ(visited, (std::vector<std::string>{"tabOptions", "cmdReset", "cmdApply", "cmdCancel",
+                                               "cmdOK", "cboHotKeyGeneral 2"}));
+}
+
+TEST_F(OptionsKeysTest, CtrlTabIsRememberedLikeAClickOnTheTab) {
+  OpenDialog(1);
+  Press(dialog_, win32::kVkTab, kCtrl);
+  EXPECT_EQ(owner_.tab, 2);
+  Press(dialog_, win32::kVkTab, kCtrl);
+  EXPECT_EQ(owner_.tab, 3);
+  Press(dialog_, win32::kVkTab, kCtrl);
+  EXPECT_EQ(owner_.tab, 1);
+  Press(dialog_, win32::kVkTab, kCtrl | kShift);
+  EXPECT_EQ(owner_.tab, 3);
+}
+
+}  // namespace
+}  // namespace korvale
