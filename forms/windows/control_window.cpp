@@ -67,7 +67,9 @@ WindowKind KindOf(const ControlState& control, const wchar_t* pageClass) {
     case ControlKind::kComboBox:
       return {WC_COMBOBOXW, kCombo | CBS_DROPDOWN};
     case ControlKind::kFrame:
-      return {WC_BUTTONW, BS_GROUPBOX};
+      // Windows paints the border only; so that the page paints what lies within, it must not be
+      // clipped away there.
+      return {WC_BUTTONW, BS_GROUPBOX, WS_EX_TRANSPARENT};
     case ControlKind::kPage:
       return {pageClass, WS_CLIPCHILDREN, WS_EX_CONTROLPARENT};
     case ControlKind::kTabStrip:

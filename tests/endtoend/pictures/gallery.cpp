@@ -217,6 +217,7 @@ void Gallery::TakeConflicts() {
 }
 
 void Gallery::TakeColors() {
+  WorkIn(notepad_->window());
   Choose('V', {'C'});
   const Window tip = Form("frmMsgTip");
   photographer_.Take("tip", {tip});
