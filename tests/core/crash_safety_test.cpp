@@ -20,6 +20,16 @@ void SaveNewOptions(SettingsStore& store) {
   Settings(store, kApp).SaveOptions(options);
 }
 
+void SaveBoth(SettingsStore& store) {
+  Settings settings(store, kApp);
+  settings.SaveTogether([&](SettingsStore& /*together*/) {
+    clsOptions options;
+    options.intHotKeyModParent = 2;
+    settings.SaveOptions(options);
+    settings.SaveINI(StartupSettings(), SaveNewTags);
+  });
+}
+
 struct SaveCase {
   const char* name;
   Program save;
@@ -96,6 +106,7 @@ TEST_P(KilledSaveTest, IsSettledBeforeTheNextSave) {
 INSTANTIATE_TEST_SUITE_P(Saves, KilledSaveTest,
                          testing::Values(SaveCase{"SaveINI", SaveNewINI},
                                          SaveCase{"SaveOptions", SaveNewOptions},
+                                         SaveCase{"Both", SaveBoth},
                                          SaveCase{"DeleteOptions", DeleteTheOptions}),
                          [](const auto& test) { return std::string(test.param.name); });
 

@@ -31,6 +31,8 @@ TEST_F(FirstActivationTest, TheFirstRunStoresAllDefaultsBeforeItAsks) {
   EXPECT_EQ(Stored("Startup", "Left"), "3000");
   EXPECT_EQ(Stored("Options", "HotKeyGeneral2"), "19");
   EXPECT_EQ(korvale.program.Forms().Find("frmOptions"), nullptr);
+  EXPECT_EQ(log.CallsOf("SaveSetting(Korvale - Work, Saving, Complete").size(), 1U)
+      << "all defaults are one save";
   EXPECT_EQ(korvale.Parts().state.lastAnswer, win32::kIdNo);
 }
 
