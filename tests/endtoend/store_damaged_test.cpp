@@ -1,4 +1,5 @@
 #include <functional>
+#include <ostream>
 
 #include "tests/endtoend/harness/default_settings.h"
 #include "tests/endtoend/options_test.h"
@@ -12,6 +13,8 @@ struct Damage {
   const char* text_left;
   std::function<void(const StoredSettings&, const DefaultSetting&)> apply;
 };
+
+void PrintTo(const Damage& damage, std::ostream* out) { *out << damage.name; }
 
 Damage Text(const char* name, const char* text) {
   return {name, text, [text](const StoredSettings& store, const DefaultSetting& setting) {
