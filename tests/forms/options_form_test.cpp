@@ -98,6 +98,27 @@ TEST_F(OptionsTest, ApplyWhileToggledOffSaysSoOnceAndSwitchesOn) {
   EXPECT_EQ(keys_.Registered().size(), 15U);
 }
 
+TEST_F(OptionsTest, SaysThatItSwitchesOnBetweenSavingAndRegistering) {
+  table_.SetHotKeys("SET");
+  table_.SetHotKeysActive(false);
+  const auto before = keys_.Registered();
+  ASSERT_EQ(before.size(), 15U);
+  OpenDialog();
+  Click(dialog_, "chkHotKeyParent", 3);
+  std::vector<std::string> logThen;
+  owner_.messages.whileShown = [&](const ShownMessageBox& /*box*/) {
+    logThen = owner_.log;
+    EXPECT_EQ(keys_.Registered(), before);
+    EXPECT_TRUE(table_.HotKeysActive());
+    EXPECT_FALSE(Record().booHotKeyParent[3]);
+  };
+  Click(dialog_, "cmdApply");
+  EXPECT_EQ(logThen, (std::vector<std::string>{"hourglass", "udmOptions UPDATE_OPTIONS",
+                                               "udmSaveOptions", "udmSaveINI"}));
+  EXPECT_EQ(owner_.log.back(), "default pointer");
+  EXPECT_EQ(keys_.Registered().size(), 14U);
+}
+
 TEST_F(OptionsTest, CancelEscAndTheCloseBoxSaveNothing) {
   for (const auto& close : std::vector<std::function<void()>>{
            [&] { Click(dialog_, "cmdCancel"); },
