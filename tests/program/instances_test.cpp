@@ -142,6 +142,51 @@ TEST_F(InstancesTest, ACopyThatAsksAboutImportingIsNotAskedAnewByTheSecondOne) {
   EXPECT_EQ(Stored("Options", "HotKeyModParent"), "2");
 }
 
+TEST_F(InstancesTest, AnImportBringsTagsColoursAndTipsButNotThePlace) {
+  const std::string old = "Korvale - Old";
+  store.SaveSetting("Korvale Installations", "0", old, "C:\\Gone\\Old");
+  store.SaveSetting(old, "Options", "HotKeyModParent", "2");
+  for (const auto& [key, value] :
+       {std::pair("WindowState", "2"), std::pair("Left", "600"), std::pair("Top", "900"),
+        std::pair("Width", "6000"), std::pair("Height", "700"), std::pair("DisplayTips", "False"),
+        std::pair("Tips", "01"), std::pair("WI1BackColor", "255"),
+        std::pair("WI2BackColor", "65280")}) {
+    store.SaveSetting(old, "Startup", key, value);
+  }
+  store.SaveSetting(old, "ParentWindowList", "1", "&1  Alpha");
+  store.SaveSetting(old, "ParentWindowList", "4", "&4  *** - Notes");
+  store.SaveSetting(old, "ParentWindowClass", "4", "NotesFrame");
+  KorvaleCopy& korvale = NewCopy();
+  korvale.host.WhenMessageBox([](const ShownMessage& box) {
+    EXPECT_EQ(box.text,
+              "Do you want to import common settings and options from Korvale - Old into this "
+              "installation of Korvale ?");
+    return win32::kIdYes;
+  });
+  korvale.host.AnswerNext(win32::kIdNo);
+
+  EXPECT_TRUE(korvale.Start());
+
+  EXPECT_EQ(korvale.WindowMenuItems()[7].caption, "1  Alpha");
+  EXPECT_EQ(korvale.WindowMenuItems()[8].caption, "4  *** - Notes");
+  EXPECT_EQ(korvale.Parts().tags.ParentWindowClass[3], "NotesFrame");
+  EXPECT_EQ(Stored("ParentWindowList", "1"), "&1  Alpha");
+  EXPECT_EQ(Stored("ParentWindowList", "4"), "&4  *** - Notes");
+  EXPECT_EQ(Stored("ParentWindowClass", "4"), "NotesFrame");
+  EXPECT_EQ(korvale.Form().Find("txtWindow").BackColor(), 255);
+  EXPECT_EQ(korvale.Form().Find("txtWindowClass").BackColor(), 65280);
+  EXPECT_EQ(korvale.Parts().startup.Tips, "01");
+  EXPECT_EQ(korvale.Parts().options.Get().intHotKeyModParent, 2);
+  EXPECT_EQ(korvale.user.Place(korvale.Handle()), (TwipsRect{3000, 1500, 4500, 1100}));
+  EXPECT_EQ(korvale.Form().WindowState(), ShowState::kNormal);
+  EXPECT_TRUE(korvale.Parts().startup.DisplayTips);
+  EXPECT_TRUE(korvale.Form().Menu("mnuHelpDisplayTips").checked);
+  EXPECT_EQ(Stored("Startup", "DisplayTips"), "True");
+  EXPECT_EQ(Stored("Startup", "Left"), "3000");
+  EXPECT_EQ(Stored("Startup", "Width"), "4500");
+  EXPECT_TRUE(store.Sections(old).empty());
+}
+
 TEST_F(InstancesTest, ACopyInAnotherFolderExplainsAndRunsWithItsOwnSettings) {
   KorvaleCopy& work = StartedCopy("Work");
   KorvaleCopy& home = UsedCopy("Home");
