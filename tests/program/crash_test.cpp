@@ -1,5 +1,8 @@
 #include <stdexcept>
+#include <string>
+#include <vector>
 
+#include "platform/run_time_error.h"
 #include "tests/fakes/temporary_folder.h"
 #include "tests/program/start_test.h"
 
@@ -8,24 +11,54 @@ namespace {
 
 constexpr Crash kAccessViolation{0xC0000005, 0x7FF612AB};
 
-/// A running copy of Korvale in a folder of this machine, where its Error.log is written.
+/// Copies of Korvale in a folder of this machine, where their Error.log is written.
 class CrashTest : public StartTest {
  protected:
-  KorvaleCopy& Running() {
+  KorvaleCopy& Prepared() {
     KorvaleCopy& korvale = UsedCopy();
     korvale.system.executablePath = program_folder_ + "Korvale.exe";
-    korvale.Start();
-    clock.Advance(20'000);
+    clock.SetLocalTime({2026, 11, 21, 9, 5, 7, 6});
+    return korvale;
+  }
+  void RecordNextMessage(KorvaleCopy& korvale) {
     korvale.host.WhenMessageBox([this](const ShownMessage& box) {
       messages_.push_back(box);
       return win32::kIdOk;
     });
-    clock.SetLocalTime({2026, 11, 21, 9, 5, 7, 6});
+  }
+  KorvaleCopy& Running() {
+    KorvaleCopy& korvale = Prepared();
+    korvale.Start();
+    clock.Advance(20'000);
+    RecordNextMessage(korvale);
     log.Clear();
+    return korvale;
+  }
+  /// A copy whose start fails in the middle of the registration of its hot keys.
+  KorvaleCopy& FailingAtStart() {
+    KorvaleCopy& korvale = Prepared();
+    RecordNextMessage(korvale);
+    log.WhenCalled("RegisterHotKey(frmMain, 5",
+                   [] { throw RunTimeError(RunTimeError::kOverflow); });
     return korvale;
   }
 
   std::string Log() const { return FileContent(program_folder_ + "Error.log"); }
+  /// The record of a start that failed so.
+  std::string RecordOfFailedStart() const {
+    return "\r\n"
+           "-- Sat 11/21/2026 09:05:07 --\r\n"
+           "Error Code:  1\r\n"
+           "Problem:  VB ERROR 6 - Overflow -- Overflow\r\n"
+           "Locals:  \r\n"
+           "0000001 = False\r\n"
+           "0000002 = " +
+           program_folder_ +
+           "\r\n"
+           "0000003 = 1.02.0003\r\n"
+           "0000004 = True\r\n"
+           "0000005 = 0\r\n";
+  }
 
   TemporaryFolder folder_{"crash"};
   std::string program_folder_ = folder_.Path() + "/C:\\Work\\";
@@ -83,6 +116,71 @@ TEST_F(CrashTest, AnUncaughtExceptionIsRecordedWithItsText) {
 TEST_F(CrashTest, ATerminationWithoutAnExceptionIsRecordedToo) {
   Running().system.crashFilter({});
   EXPECT_NE(Log().find("-- uncaught exception: terminated\r\n"), std::string::npos) << Log();
+}
+
+TEST_F(CrashTest, AnErrorAtTheStartIsToldAndRecordedAndEndsTheProgram) {
+  KorvaleCopy& korvale = FailingAtStart();
+
+  EXPECT_FALSE(korvale.Start());
+
+  ASSERT_EQ(messages_.size(), 1U);
+  EXPECT_EQ(messages_[0].text, "VB ERROR 6 - Overflow\r\rKorvale Error #1\r");
+  EXPECT_EQ(messages_[0].title, "Korvale - ERROR");
+  EXPECT_EQ(messages_[0].style, win32::kMbSetForeground);
+  EXPECT_EQ(Log(), RecordOfFailedStart());
+  EXPECT_FALSE(korvale.Form().IsLoaded());
+}
+
+TEST_F(CrashTest, AnErrorAtTheStartSavesNothingAndLeavesNoHotKey) {
+  KorvaleCopy& korvale = FailingAtStart();
+
+  korvale.Start();
+
+  EXPECT_TRUE(log.CallsOf("SaveSetting(Korvale - Work").empty());
+  EXPECT_TRUE(log.CallsOf("DeleteSection").empty());
+  // Windows takes back what belonged to a window that is gone.
+  for (const FakeHotKeys::Registration& left : hotKeys.Registered()) {
+    EXPECT_FALSE(desktop.IsWindow(left.hwnd)) << left.id;
+  }
+}
+
+TEST_F(CrashTest, AnErrorOfTheMessageLoopEndsTheProgramWithoutSaving) {
+  KorvaleCopy& korvale = Running();
+  const WindowHandle window = korvale.Handle();
+  korvale.host.WhenWaiting([] { throw RunTimeError(RunTimeError::kOverflow); });
+
+  korvale.program.Run();
+
+  ASSERT_EQ(messages_.size(), 1U);
+  EXPECT_EQ(messages_[0].text, "VB ERROR 6 - Overflow\r\rKorvale Error #1\r");
+  EXPECT_NE(Log().find("Problem:  VB ERROR 6 - Overflow -- Overflow\r\n"), std::string::npos);
+  EXPECT_NE(Log().find("0000001 = True\r\n"), std::string::npos);
+  EXPECT_TRUE(hotKeys.Registered().empty());
+  EXPECT_FALSE(hotKeys.IsHooked(window));
+  EXPECT_TRUE(log.CallsOf("SaveSetting").empty());
+}
+
+TEST_F(CrashTest, EachStartThatFailsAddsItsRecord) {
+  for (int i = 0; i < 2; ++i) {
+    KorvaleCopy& korvale = FailingAtStart();
+    EXPECT_FALSE(korvale.Start());
+    EndCopy(korvale);
+  }
+  EXPECT_EQ(Log(), RecordOfFailedStart() + RecordOfFailedStart());
+}
+
+TEST_F(CrashTest, TheRecordNamesTheLastAnswer) {
+  for (const std::int16_t answer : {win32::kIdNo, win32::kIdYes}) {
+    KorvaleCopy& korvale = Prepared();
+    store.SaveSetting("Korvale - Work", "Startup", "DisplayTips", "False");
+    korvale.Start();
+    korvale.host.AnswerNext(answer);
+    korvale.user.ChooseMenu(korvale.Handle(), {"Help", "Display Tip Messages"});
+    RecordNextMessage(korvale);
+    korvale.system.crashFilter(kAccessViolation);
+    EXPECT_TRUE(Log().ends_with("\r\n0000005 = " + std::to_string(answer) + "\r\n")) << Log();
+    EndCopy(korvale);
+  }
 }
 
 }  // namespace
