@@ -1,37 +1,10 @@
-#include <optional>
+#include "tests/program/customize_colors_test.h"
 
-#include "tests/program/main_window_test.h"
+#include <optional>
+#include <string>
 
 namespace korvale {
 namespace {
-
-class CustomizeColorsTest : public MainWindowTest {
- protected:
-  /// A started copy whose user has silenced the tip.
-  KorvaleCopy& Started() {
-    Store("Tips", "0");
-    return StartedCopy();
-  }
-  /// The mode is on.
-  KorvaleCopy& Customizing() {
-    KorvaleCopy& copy = Started();
-    Toggle(copy);
-    return copy;
-  }
-  static void Toggle(KorvaleCopy& copy) { Choose(copy, {"View", "Customize Colors - C"}); }
-  static bool IsOn(KorvaleCopy& copy) { return IsChecked(copy, "View", "Customize Colors - C"); }
-  static void ClickAt(KorvaleCopy& copy, const char* field, Twips x, Twips y,
-                      unsigned shift = kNoShift, MouseButton button = MouseButton::kLeft) {
-    copy.user.ClickAt(copy.Handle(), Field(copy, field), x, y, shift, button);
-  }
-  static void Tell(KorvaleCopy& copy, const MouseInput& input, const char* field = "txtWindow") {
-    copy.host.Tell(copy.Handle(),
-                   [&](FormEvents& events) { events.OnMouse(Field(copy, field), input); });
-  }
-  static void ChooseNext(KorvaleCopy& copy, std::optional<Color> color) {
-    copy.host.WhenColorDialog([color](Color) { return color; });
-  }
-};
 
 TEST_F(CustomizeColorsTest, IsOffAtEveryStart) {
   KorvaleCopy& first = Customizing();
@@ -138,6 +111,28 @@ TEST_F(CustomizeColorsTest, AltCountsForItsOwnClickOnly) {
   EXPECT_EQ(ColorOf(korvale, "txtWindow"), kRed);
 }
 
+TEST_F(CustomizeColorsTest, TheAltOfAClickBeforeDoesNotCountForAPressOutsideThePointersPlace) {
+  KorvaleCopy& korvale = Customizing();
+  ClickAt(korvale, "txtWindow", 10, 10, kAlt);
+  EXPECT_EQ(ColorOf(korvale, "txtWindow"), 0xFFFFFF);
+  bool asked = false;
+  korvale.host.WhenColorDialog([&](Color) {
+    asked = true;
+    return std::optional<Color>(kRed);
+  });
+  const auto move = [](Twips y) {
+    return MouseInput{MouseEvent::kMove, MouseButton::kNone, kNoShift, 10, y};
+  };
+
+  Tell(korvale, move(200));
+  Tell(korvale, {MouseEvent::kDown, MouseButton::kLeft, kNoShift, 10, 200});
+  Tell(korvale, move(10));
+  Tell(korvale, {MouseEvent::kUp, MouseButton::kLeft, kNoShift, 10, 10});
+
+  EXPECT_TRUE(asked);
+  EXPECT_EQ(ColorOf(korvale, "txtWindow"), kRed);
+}
+
 TEST_F(CustomizeColorsTest, ColorsAreStoredByTheNextMenuCommand) {
   KorvaleCopy& korvale = Customizing();
   ChooseNext(korvale, kRed);
@@ -203,24 +198,6 @@ TEST_F(CustomizeColorsTest, OnlyAWholeClickOfTheLeftButtonCounts) {
   Tell(korvale, down);
   Tell(korvale, up);
   EXPECT_EQ(ColorOf(korvale, "txtWindow"), 0xFFFFFF);
-}
-
-TEST_F(CustomizeColorsTest, AnyOtherMenuCommandTurnsItOff) {
-  KorvaleCopy& korvale = Started();
-  for (const auto& path : std::vector<std::vector<std::string>>{
-           {"View", "Target Window"},
-           {"View", "Default Settings", "Target Window/Class Colors"},
-           {"Window", "Korvale  Always On Top"},
-           {"Tools", "Options..."},
-           {"Help", "web:  Readme"},
-           {"Help", "Display Tip Messages"},
-           {"Help", "About Korvale"}}) {
-    Toggle(korvale);
-    EXPECT_TRUE(IsOn(korvale));
-    Choose(korvale, path);
-    EXPECT_FALSE(IsOn(korvale)) << path.back();
-    EXPECT_EQ(korvale.host.Pointer(), MousePointer::kDefault) << path.back();
-  }
 }
 
 TEST_F(CustomizeColorsTest, GoesOnOverRefreshesThatAreNoOtherMenuCommand) {

@@ -147,6 +147,7 @@ TEST_F(MainWindowKeysTest, TurningTipsOnAsksWhetherToShowAllOfThem) {
   Choose(korvale, {"Help", "Display Tip Messages"});
   EXPECT_EQ(Stored("Tips"), "");
   EXPECT_EQ(Stored("DisplayTips"), "True");
+  EXPECT_EQ(korvale.Parts().state.lastAnswer, 6);
 }
 
 TEST_F(MainWindowKeysTest, NoKeepsTheSilencedTips) {
@@ -157,6 +158,7 @@ TEST_F(MainWindowKeysTest, NoKeepsTheSilencedTips) {
   Choose(korvale, {"Help", "Display Tip Messages"});
   EXPECT_EQ(Stored("Tips"), "0110");
   EXPECT_EQ(Stored("DisplayTips"), "True");
+  EXPECT_EQ(korvale.Parts().state.lastAnswer, 7);
 }
 
 TEST_F(MainWindowKeysTest, WebPagesOpenFromTheFolderOfTheProgram) {
@@ -177,7 +179,9 @@ TEST_F(MainWindowKeysTest, AboutShowsTheHomePageAndOpensIt) {
   class Form& about = korvale.Loaded("frmMsgBox2");
   EXPECT_EQ(about.Find("lblWebSite").Text(), "web\\index.html");
   korvale.user.Click(about.Handle(), korvale.Id(about, "lblWebSite"));
-  EXPECT_EQ(log.CallsOf("ShellExecuteA").size(), 1U);
+  EXPECT_EQ(log.CallsOf("ShellExecuteA"),
+            std::vector<std::string>{"ShellExecuteA(frmMain, \"Open\", "
+                                     "\"C:\\Programs\\Work\\web\\index.html\", SW_SHOWNORMAL)"});
 }
 
 }  // namespace
