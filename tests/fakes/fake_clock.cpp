@@ -1,10 +1,15 @@
 #include "tests/fakes/fake_clock.h"
 
 #include <algorithm>
+#include <string>
 
 namespace korvale {
 
 void FakeClock::SetTimer(WindowHandle hwnd, int id, std::uint32_t milliseconds) {
+  if (log_ != nullptr) {
+    log_->AddRead("SetTimer(" + log_->Window(hwnd) + ", " + std::to_string(id) + ", " +
+                  std::to_string(milliseconds) + ")");
+  }
   KillTimer(hwnd, id);
   timers_.push_back({hwnd, id, milliseconds, now_ + milliseconds});
 }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/clock.h"
+#include "tests/fakes/call_log.h"
 
 namespace korvale {
 
@@ -13,6 +14,10 @@ namespace korvale {
 class FakeClock : public Clock, public TimerApi {
  public:
   using Tick = std::function<void(WindowHandle hwnd, int id)>;
+
+  FakeClock() = default;
+  /// Logs each start of a timer as a reading call: it changes nothing on the desktop.
+  explicit FakeClock(CallLog& log) : log_(&log) {}
 
   /// Who gets the ticks.
   void SetTickHandler(Tick tick) { tick_ = std::move(tick); }
@@ -43,6 +48,7 @@ class FakeClock : public Clock, public TimerApi {
   std::vector<Timer>::iterator Earliest();
   void Deliver(std::vector<Timer>::iterator timer);
 
+  CallLog* log_ = nullptr;
   Tick tick_;
   std::uint64_t now_ = 1'000'000;
   LocalTime local_;

@@ -49,6 +49,7 @@ KorvaleWorld::KorvaleWorld()
     : desktop(log),
       hotKeys(log, [this](WindowHandle hwnd) { return desktop.Windows().Find(hwnd) != nullptr; }),
       store(log),
+      clock(log),
       session(std::make_shared<FakeSession>()) {
   desktop.OpenShell();
 }

@@ -65,9 +65,11 @@ TEST_F(StartUpTest, StartUpKeepsItsOrder) {
   StartedCopy("Home");
   WorkIn(Open("Alpha"));
   KorvaleCopy& korvale = NewCopy();
-  store.SaveSetting("Korvale - Work", "Startup", "Menu", "False");
-  store.SaveSetting("Korvale - Work", "Startup", "WI1BackColor", "255");
-  store.SaveSetting("Korvale - Work", "Startup", "AlwaysOnTop", "True");
+  for (const auto& [key, value] :
+       {std::pair("Menu", "False"), std::pair("WI1BackColor", "255"),
+        std::pair("AlwaysOnTop", "True"), std::pair("Left", "600"), std::pair("Height", "800")}) {
+    store.SaveSetting("Korvale - Work", "Startup", key, value);
+  }
   store.SaveSetting("Korvale - Work", "Options", "SelectPrevWinOnStart", "True");
   korvale.system.commandLine = "/x";
   std::string tips;
@@ -91,8 +93,10 @@ TEST_F(StartUpTest, StartUpKeepsItsOrder) {
       "CreateWindowExW(frmMsgTip)",
       "DestroyWindow(frmMsgTip)",
       "CreateWindowExW(frmMsgBox2)",
+      "MoveWindow(frmMain)",
       "SetWindowPos(frmMain, HWND_TOPMOST, 0, 0, 0, 0, 3)",
       "UpdateControl(frmMain, txtWindow, kColors)",
+      "SetTimer(frmMain, ",
       "SetWindowLongPtrA(frmMain, procedure)",
       "RegisterHotKey",
       "DrawMenuBar(frmMain)",
