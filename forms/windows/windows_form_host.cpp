@@ -8,14 +8,14 @@
 namespace korvale {
 namespace {
 
-/// What frame and menu bar take of the window's height, 0 when they leave nothing of it. A bar that
-/// is too narrow for its menus has several rows, which AdjustWindowRectEx does not count.
-int ActualFrameHeight(HWND hwnd) {
-  RECT window{};
-  RECT client{};
-  GetWindowRect(hwnd, &window);
-  GetClientRect(hwnd, &client);
-  return client.bottom == 0 ? 0 : window.bottom - window.top - client.bottom;
+/// By how much the menu bar is higher than one row: it has several rows where it is too narrow for
+/// its menus, which AdjustWindowRectEx does not count.
+int FurtherMenuRows(HWND hwnd, UINT dpi) {
+  MENUBARINFO bar{};
+  bar.cbSize = sizeof(bar);
+  if (GetMenuBarInfo(hwnd, OBJID_MENU, 0, &bar) == FALSE) return 0;
+  const LONG height = bar.rcBar.bottom - bar.rcBar.top;
+  return std::max<int>(0, height - GetSystemMetricsForDpi(SM_CYMENUSIZE, dpi));
 }
 
 }  // namespace
@@ -112,16 +112,16 @@ void WindowsFormHost::SetSelection(WindowHandle hwnd, int control, TextSelection
 TwipsRect WindowsFormHost::AdjustWindowRectEx(const FormState& form) {
   const BOOL menu = FormMenu(form).BarWanted() ? TRUE : FALSE;
   UINT dpi = GetDpiForSystem();
-  int actual = 0;
+  int further = 0;
   for (const auto& [hwnd, other] : forms_) {
     if (&other->Model() != &form) continue;
     dpi = GetDpiForWindow(other->Handle());
     const bool asWanted = (GetMenu(other->Handle()) != nullptr) == (menu != FALSE);
-    if (asWanted) actual = ActualFrameHeight(other->Handle());
+    if (asWanted) further = FurtherMenuRows(other->Handle(), dpi);
   }
   RECT frame{};
   AdjustWindowRectExForDpi(&frame, FormStyle(form), menu, FormExStyle(form), dpi);
-  frame.top = std::min(frame.top, frame.bottom - actual);
+  frame.top -= further;
   return {ToTwips(-frame.left, dpi), ToTwips(-frame.top, dpi),
           ToTwips(frame.right - frame.left, dpi), ToTwips(frame.bottom - frame.top, dpi)};
 }
