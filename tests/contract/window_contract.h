@@ -58,6 +58,17 @@ TEST_F(FormHostContract, AFormIsToldWhereTheUserHasDraggedIt) {
   EXPECT_GT(strip_.resizes, before);
 }
 
+TEST_F(FormHostContract, AFormWithAMaximumHeightGrowsInWidthOnly) {
+  strip_.SetMaximumHeight(1500);
+  strip_.Show();
+  User().Drag(strip_.Handle(), {1200, 1200, 7500, 1800});
+  EXPECT_EQ(strip_.Place(), (TwipsRect{1200, 1200, 7500, 1500}));
+  strip_.SetWindowState(ShowState::kMaximized);
+  EXPECT_EQ(strip_.WindowState(), ShowState::kMaximized);
+  EXPECT_GE(strip_.Place().width, Host().GetMonitorInfoW(strip_.Handle()).width);
+  EXPECT_EQ(strip_.Place().height, 1500);
+}
+
 TEST_F(FormHostContract, MinimizingAndRestoringIsTold) {
   strip_.Show();
   strip_.SetWindowState(ShowState::kMinimized);
@@ -218,6 +229,7 @@ TEST_F(FormHostContract, TheWorkAreaHoldsTheForm) {
   EXPECT_GE(area.width, 6000);
   EXPECT_GE(area.height, 5000);
   EXPECT_EQ(Host().GetMonitorInfoW(0), area);
+  EXPECT_EQ(Host().GetWindowRect(Window()), User().Place(Window()));
 }
 
 TEST_F(FormHostContract, QuittingEndsEveryMessageLoop) {

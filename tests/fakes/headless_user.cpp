@@ -1,5 +1,6 @@
 #include "tests/fakes/headless_user.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace korvale {
@@ -74,8 +75,11 @@ void HeadlessUser::Drag(WindowHandle hwnd, const TwipsRect& place) {
     FailTest("form " + window.form->name + " has a fixed size");
   }
   window.place = place;
-  host_->Desktop().SetPlace(hwnd, place);
-  host_->Tell(hwnd, [&](FormEvents& events) { events.OnPlaced(ShowState::kNormal, place); });
+  const Twips most = window.form->maximumHeight;
+  if (most != 0) window.place.height = std::min(place.height, most);
+  const TwipsRect taken = window.place;
+  host_->Desktop().SetPlace(hwnd, taken);
+  host_->Tell(hwnd, [&](FormEvents& events) { events.OnPlaced(ShowState::kNormal, taken); });
 }
 
 const ControlState& HeadlessUser::Look(WindowHandle hwnd, int control) {
