@@ -15,7 +15,7 @@ int FurtherMenuRows(HWND hwnd, UINT dpi) {
   bar.cbSize = sizeof(bar);
   if (GetMenuBarInfo(hwnd, OBJID_MENU, 0, &bar) == FALSE) return 0;
   const LONG height = bar.rcBar.bottom - bar.rcBar.top;
-  return std::max<int>(0, height - GetSystemMetricsForDpi(SM_CYMENUSIZE, dpi));
+  return std::max<int>(0, height - GetSystemMetricsForDpi(SM_CYMENU, dpi));
 }
 
 }  // namespace
