@@ -142,8 +142,8 @@ TEST_F(InstancesTest, ACopyThatAsksAboutImportingIsNotAskedAnewByTheSecondOne) {
   EXPECT_EQ(Stored("Options", "HotKeyModParent"), "2");
 }
 
-TEST_F(InstancesTest, AnImportBringsTagsColoursAndTipsButNotThePlace) {
-  const std::string old = "Korvale - Old";
+/// An installation that has left its folder and settings behind, none of them the default.
+void StoreOldInstallation(FakeSettingsStore& store, const std::string& old) {
   store.SaveSetting("Korvale Installations", "0", old, "C:\\Gone\\Old");
   store.SaveSetting(old, "Options", "HotKeyModParent", "2");
   for (const auto& [key, value] :
@@ -156,6 +156,11 @@ TEST_F(InstancesTest, AnImportBringsTagsColoursAndTipsButNotThePlace) {
   store.SaveSetting(old, "ParentWindowList", "1", "&1  Alpha");
   store.SaveSetting(old, "ParentWindowList", "4", "&4  *** - Notes");
   store.SaveSetting(old, "ParentWindowClass", "4", "NotesFrame");
+}
+
+TEST_F(InstancesTest, AnImportBringsTagsColoursAndTipsButNotThePlace) {
+  const std::string old = "Korvale - Old";
+  StoreOldInstallation(store, old);
   KorvaleCopy& korvale = NewCopy();
   korvale.host.WhenMessageBox([](const ShownMessage& box) {
     EXPECT_EQ(box.text,

@@ -61,26 +61,8 @@ TEST_F(StartUpTest, WhitespaceOnTheCommandLineIsNoArgument) {
   }
 }
 
-TEST_F(StartUpTest, StartUpKeepsItsOrder) {
-  StartedCopy("Home");
-  WorkIn(Open("Alpha"));
-  KorvaleCopy& korvale = NewCopy();
-  for (const auto& [key, value] :
-       {std::pair("Menu", "False"), std::pair("WI1BackColor", "255"),
-        std::pair("AlwaysOnTop", "True"), std::pair("Left", "600"), std::pair("Height", "800")}) {
-    store.SaveSetting("Korvale - Work", "Startup", key, value);
-  }
-  store.SaveSetting("Korvale - Work", "Options", "SelectPrevWinOnStart", "True");
-  korvale.system.commandLine = "/x";
-  std::string tips;
-  ReadTip(korvale, tips);
-  ReadTip(korvale, tips);
-  log.IncludeReads(true);
-  log.Clear();
-
-  EXPECT_TRUE(korvale.Start());
-
-  const std::vector<std::string> order = {
+std::vector<std::string> StartUpOrder() {
+  return {
       "SetWindowTextW(frmMain, \"Korvale - Work\")",
       "CreateMutexA",
       "GetAllSettings(Korvale Installations",
@@ -106,6 +88,28 @@ TEST_F(StartUpTest, StartUpKeepsItsOrder) {
       "EnumWindows",
       "SetForegroundWindow(Alpha)",
   };
+}
+
+TEST_F(StartUpTest, StartUpKeepsItsOrder) {
+  StartedCopy("Home");
+  WorkIn(Open("Alpha"));
+  KorvaleCopy& korvale = NewCopy();
+  for (const auto& [key, value] :
+       {std::pair("Menu", "False"), std::pair("WI1BackColor", "255"),
+        std::pair("AlwaysOnTop", "True"), std::pair("Left", "600"), std::pair("Height", "800")}) {
+    store.SaveSetting("Korvale - Work", "Startup", key, value);
+  }
+  store.SaveSetting("Korvale - Work", "Options", "SelectPrevWinOnStart", "True");
+  korvale.system.commandLine = "/x";
+  std::string tips;
+  ReadTip(korvale, tips);
+  ReadTip(korvale, tips);
+  log.IncludeReads(true);
+  log.Clear();
+
+  EXPECT_TRUE(korvale.Start());
+
+  const std::vector<std::string> order = StartUpOrder();
   EXPECT_EQ(Order(order), order);
 }
 
