@@ -78,6 +78,9 @@ wine_suite() {
   else
     cp -a "$WINE_TEMPLATE" "$WINEPREFIX"
   fi
+  # Debian's Wine does not look for its own fonts; without this one title bars have letters in
+  # place of buttons.
+  cp /usr/share/wine/fonts/marlett.ttf "$WINEPREFIX/drive_c/windows/Fonts/" || true
   [ "$WINE_SCREEN" = "$WINE_USUAL_SCREEN" ] || wine_screen "$WINE_SCREEN"
 }
 

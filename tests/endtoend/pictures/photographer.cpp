@@ -6,6 +6,7 @@
 #include <iostream>
 
 #include "tests/endtoend/harness/files.h"
+#include "tests/endtoend/harness/resting_screen.h"
 #include "tests/endtoend/harness/wait.h"
 
 namespace korvale::endtoend {
@@ -46,7 +47,7 @@ void Photographer::Take(const std::string& name, const std::vector<Window>& wind
         << area.right - area.left << 'x' << area.bottom - area.top << '+' << area.left << '+'
         << area.top << "\n";
   }
-  const bool taken = ready && TakePicture(name);
+  const bool taken = ready && ScreenComesToRest() && TakePicture(name);
   if (!taken) ++missed_;
   std::cout << (taken ? "  ok    " : "  FAIL  ") << name << std::endl;
 }

@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "tests/endtoend/harness/files.h"
+#include "tests/endtoend/harness/resting_screen.h"
 #include "tests/endtoend/harness/wait.h"
 
 namespace korvale::endtoend {
@@ -61,6 +62,7 @@ void Report::KeyDoesNothing(const std::string& what, Chord chord) {
 }
 
 void Report::Picture(const std::string& name) {
+  ScreenComesToRest();
   if (TakePicture(name)) std::cout << "        picture: " << name << ".png" << std::endl;
 }
 
