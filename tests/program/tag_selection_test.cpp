@@ -1,0 +1,203 @@
+#include "platform/win32_constants.h"
+#include "tests/program/window_menu_test.h"
+
+namespace korvale {
+namespace {
+
+using TagSelectionTest = WindowMenuTest;
+
+TEST_F(TagSelectionTest, ASelectedTagMovesThePreviousWindowOn) {
+  const WindowHandle alpha = Open("Alpha", {.className = "A"});
+  KorvaleCopy& korvale = StartedAfter(alpha);
+  korvale.TagPrevious();
+  WorkIn(Open("Beta", {.className = "B"}));
+  PressTag(1);
+  EXPECT_EQ(korvale.Parts().previous.current, (WindowTriple{alpha, "Alpha", "A"}));
+  EXPECT_EQ(korvale.Parts().previous.alternate.text, "Beta");
+  EXPECT_EQ(korvale.Parts().previous.alternate.className, "B");
+}
+
+TEST_F(TagSelectionTest, Alt0AfterATagGoesBackAndThereAgain) {
+  const WindowHandle alpha = Open("Alpha");
+  KorvaleCopy& korvale = StartedAfter(alpha);
+  korvale.TagPrevious();
+  WorkIn(Open("Beta"));
+  PressTag(1);
+  PressTag(0);
+  EXPECT_EQ(Front(), "Beta");
+  PressTag(0);
+  EXPECT_EQ(Front(), "Alpha");
+}
+
+TEST_F(TagSelectionTest, SelectingFromTheMainWindowMakesItTheAlternate) {
+  const WindowHandle alpha = Open("Alpha");
+  KorvaleCopy& korvale = StartedAfter(alpha);
+  korvale.TagPrevious();
+  WorkIn(Open("Beta"));
+  WorkIn(korvale.Handle());
+  PressTag(1);
+  EXPECT_EQ(korvale.Parts().previous.current.handle, alpha);
+  EXPECT_EQ(korvale.Parts().previous.alternate.handle, korvale.Handle());
+  EXPECT_EQ(korvale.Form().FocusTag(), "");
+}
+
+TEST_F(TagSelectionTest, TheWindowInFrontIsOnlyRestored) {
+  const WindowHandle alpha = Open("Alpha");
+  KorvaleCopy& korvale = StartedAfter(alpha);
+  korvale.TagPrevious();
+  WorkIn(Open("Beta"));
+  WorkIn(alpha);
+  const WindowTriple alternate = korvale.Parts().previous.alternate;
+  log.Clear();
+  PressTag(1);
+  EXPECT_TRUE(log.CallsOf("SetForegroundWindow").empty());
+  EXPECT_TRUE(log.CallsOf("ShowWindow").empty());
+  EXPECT_EQ(korvale.Parts().previous.alternate, alternate);
+}
+
+TEST_F(TagSelectionTest, AMinimizedWindowIsRestored) {
+  const WindowHandle alpha = Open("Alpha");
+  KorvaleCopy& korvale = StartedAfter(alpha);
+  korvale.TagPrevious();
+  WorkIn(Open("Beta"));
+  desktop.UserMinimizes(alpha);
+  PressTag(1);
+  EXPECT_EQ(Front(), "Alpha");
+  EXPECT_FALSE(desktop.IsIconic(alpha));
+}
+
+TEST_F(TagSelectionTest, Tag0InTheMainWindowSelectsTheCurrentPreviousWindow) {
+  const WindowHandle alpha = Open("Alpha");
+  WorkIn(Open("Beta"));
+  StartedAfter(alpha);
+  PressTag(0);
+  EXPECT_EQ(Front(), "Alpha");
+}
+
+TEST_F(TagSelectionTest, AClosedTagWindowIsReportedAsNotOpen) {
+  const WindowHandle alpha = Open("Alpha");
+  KorvaleCopy& korvale = StartedAfter(alpha);
+  korvale.TagPrevious();
+  const WindowHandle beta = Open("Beta");
+  WorkIn(beta);
+  desktop.Close(alpha);
+  WorkIn(beta);
+  const PreviousWindow before = korvale.Parts().previous;
+  ExpectMessage(korvale, "Window:  [Alpha]  is not open.", win32::kMbSetForeground);
+  PressTag(1);
+  EXPECT_EQ(korvale.host.Messages().size(), 1U);
+  EXPECT_EQ(Front(), "Beta");
+  EXPECT_EQ(korvale.Parts().previous.current, before.current);
+  EXPECT_TRUE(korvale.Form().tmrWindow().Enabled());
+}
+
+TEST_F(TagSelectionTest, ADisabledTagWindowIsReportedAsNotEnabled) {
+  const WindowHandle alpha = Open("Alpha");
+  KorvaleCopy& korvale = StartedAfter(alpha);
+  korvale.TagPrevious();
+  WorkIn(Open("Beta"));
+  desktop.SetEnabled(alpha, false);
+  ExpectMessage(korvale, "Window:  [Alpha]  is not enabled, and currently cannot be selected.",
+                win32::kMbSetForeground);
+  PressTag(1);
+  EXPECT_EQ(korvale.host.Messages().size(), 1U);
+  EXPECT_EQ(Front(), "Beta");
+}
+
+TEST_F(TagSelectionTest, AFailedActivationIsReportedOnce) {
+  const WindowHandle alpha = Open("Alpha");
+  KorvaleCopy& korvale = StartedAfter(alpha);
+  korvale.TagPrevious();
+  WorkIn(Open("Beta"));
+  desktop.LockForeground(true);
+  // The window is there at each of the three attempts and changes its title at the last one.
+  log.WhenCalled("SetForegroundWindow", [&] {
+    log.WhenCalled("SetForegroundWindow", [&] {
+      log.WhenCalled("SetForegroundWindow", [&] { desktop.Rename(alpha, "Another"); });
+    });
+  });
+  ExpectMessage(korvale, "The window operation was not successful.  Please try again.",
+                win32::kMbSetForeground);
+  PressTag(1);
+  EXPECT_EQ(korvale.host.Messages().size(), 1U);
+}
+
+TEST_F(TagSelectionTest, AWindowThatWindowsKeepsInTheBackgroundIsNoReasonForAMessage) {
+  const WindowHandle alpha = Open("Alpha");
+  KorvaleCopy& korvale = StartedAfter(alpha);
+  korvale.TagPrevious();
+  WorkIn(Open("Beta"));
+  desktop.LockForeground(true);
+  log.Clear();
+  PressTag(1);
+  EXPECT_EQ(log.CallsOf("SetForegroundWindow").size(), 3U);
+  EXPECT_EQ(Front(), "Beta");
+}
+
+TEST_F(TagSelectionTest, AReopenedWindowIsFoundAgain) {
+  const WindowHandle alpha = Open("Alpha", {.className = "A"});
+  KorvaleCopy& korvale = StartedAfter(alpha);
+  korvale.TagPrevious();
+  WorkIn(Open("Beta"));
+  desktop.Close(alpha);
+  const WindowHandle again = Open("Alpha", {.className = "A"});
+  WorkIn(Open("Gamma"));
+  PressTag(1);
+  EXPECT_EQ(Front(), "Alpha");
+  EXPECT_EQ(korvale.Parts().tags.mnuWindowParentList.Find(1)->tag, std::to_string(again));
+}
+
+TEST_F(TagSelectionTest, AWindowOfAnotherClassIsFoundByItsTitleAloneAndTeachesItsClass) {
+  const WindowHandle alpha = Open("Alpha", {.className = "A"});
+  KorvaleCopy& korvale = StartedAfter(alpha);
+  korvale.TagPrevious();
+  desktop.Close(alpha);
+  Open("Alpha", {.className = "New"});
+  WorkIn(Open("Beta"));
+  PressTag(1);
+  EXPECT_EQ(Front(), "Alpha");
+  EXPECT_EQ(korvale.Parts().tags.ParentWindowClass[0], "New");
+}
+
+TEST_F(TagSelectionTest, AWindowWithoutChildrenIsFoundByTitleAndTheLastMatchWins) {
+  KorvaleCopy& korvale = StartedAfter(Open("Clock", {.children = 0}));
+  korvale.TagPrevious();
+  EXPECT_EQ(korvale.Parts().tags.mnuWindowParentList.Find(1)->tag, "0");
+  EXPECT_EQ(korvale.Parts().tags.ParentWindowClass[0], "");
+  const WindowHandle upper = Open("Clock 2", {.className = "C2", .children = 0});
+  WorkIn(Open("Beta"));
+  PressTag(1);
+  EXPECT_EQ(Front(), "Clock");
+  EXPECT_NE(desktop.GetForegroundWindow(), upper);
+}
+
+TEST_F(TagSelectionTest, WhileASearchIsForbiddenATagIsTriedOnlyOnce) {
+  const WindowHandle alpha = Open("Alpha");
+  KorvaleCopy& korvale = StartedAfter(alpha);
+  korvale.TagPrevious();
+  WorkIn(Open("Beta"));
+  desktop.Close(alpha);
+  Open("Alpha");
+  WorkIn(Open("Gamma"));
+  korvale.Form().TheWindowMenu().windowSearch = true;
+  ExpectMessage(korvale, "Window:  [Alpha]  is not open.", win32::kMbSetForeground);
+  log.IncludeReads(true);
+  log.Clear();
+  korvale.Form().mnuWindowParentList_Click(1);
+  EXPECT_TRUE(log.CallsOf("EnumWindows").empty());
+}
+
+TEST_F(TagSelectionTest, TimersRestDuringASelection) {
+  const WindowHandle alpha = Open("Alpha");
+  KorvaleCopy& korvale = StartedAfter(alpha);
+  korvale.TagPrevious();
+  WorkIn(Open("Beta"));
+  bool running = true;
+  log.WhenCalled("SetForegroundWindow", [&] { running = korvale.Form().tmrWindow().Enabled(); });
+  PressTag(1);
+  EXPECT_FALSE(running);
+  EXPECT_TRUE(korvale.Form().tmrWindow().Enabled());
+}
+
+}  // namespace
+}  // namespace korvale
