@@ -78,9 +78,11 @@ bool AnswerBox(Window box, int button) {
   if (!WaitFor([&] { return control.Visible() && control.Enabled(); })) return false;
   const auto gone = [&] { return !box.Exists() || !box.Visible(); };
   // A window that comes forward late can lie over the button when it is clicked; click again then.
+  // Wine can refuse the foreground to a box that lies on top of all; the click activates it.
   for (int attempt = 0; attempt < 5; ++attempt) {
     if (gone()) return true;
-    if (BringToFront(box)) Click(control);
+    BringToFront(box, std::chrono::milliseconds(2000));
+    Click(control);
     if (WaitFor(gone, std::chrono::milliseconds(2000))) return true;
   }
   return false;

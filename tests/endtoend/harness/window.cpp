@@ -100,10 +100,10 @@ bool Window::Close() const {
 
 Window Foreground() { return Window(GetForegroundWindow()); }
 
-bool BringToFront(Window window) {
+bool BringToFront(Window window, std::chrono::milliseconds limit) {
   const auto in_front = [&] { return Foreground() == window; };
   // A dialog that closes meanwhile may pass the foreground on after us; then we ask again.
-  for (auto waited = kPatience; waited > kPatience.zero(); waited -= kAsk) {
+  for (auto waited = limit; waited > kPatience.zero(); waited -= kAsk) {
     if (in_front()) return true;
     EarnForeground();
     SetForegroundWindow(window.handle());

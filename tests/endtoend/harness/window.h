@@ -2,9 +2,12 @@
 
 #include <windows.h>
 
+#include <chrono>
 #include <functional>
 #include <string>
 #include <vector>
+
+#include "tests/endtoend/harness/wait.h"
 
 namespace korvale::endtoend {
 
@@ -56,7 +59,7 @@ class Window {
 Window Foreground();
 
 /// Brings the window to the front as a user would; true once it is there.
-bool BringToFront(Window window);
+bool BringToFront(Window window, std::chrono::milliseconds limit = kPatience);
 
 /// All top-level windows, topmost first.
 std::vector<Window> TopLevelWindows();

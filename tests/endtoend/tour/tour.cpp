@@ -201,11 +201,13 @@ void Tour::TagMineGame() {
 void Tour::GoRound() {
   report_.Headline("Round and round");
   for (int round = 0; round < 3; ++round) {
-    report_.KeyToFront("Alt+3: Notepad", TagKey(3), notepad_->window());
-    Seen(notepad_->window());
     report_.KeyToFront("Alt+4: the game", TagKey(4), mines_->window());
     Seen(mines_->window());
-    report_.KeyToFront("Alt+0: back", TagKey(0), notepad_->window());
+    report_.KeyToFront("Alt+3: Notepad", TagKey(3), notepad_->window());
+    Seen(notepad_->window());
+    report_.KeyToFront("Alt+0: back to the game", TagKey(0), mines_->window());
+    Seen(mines_->window());
+    report_.KeyToFront("Alt+0: and to Notepad again", TagKey(0), notepad_->window());
     Seen(notepad_->window());
   }
 }
