@@ -52,7 +52,7 @@ void frmMain::Form_Activate() { lifetime_->FirstActivation(*this); }
 
 void frmMain::Form_QueryUnload(bool& cancel, CloseReason reason) {
   // A modal dialog must be answered first; only the end of the session overrides it.
-  cancel = reason == CloseReason::kUser && Collection().TopModal() != nullptr;
+  cancel = reason == CloseReason::kUser && Collection().AnyModal();
 }
 
 void frmMain::Form_Unload() {
@@ -72,7 +72,12 @@ void frmMain::udmLoadOptions() { parts_.settings.LoadOptions(parts_.options.Get(
 
 void frmMain::udmSaveOptions() { parts_.settings.SaveOptions(parts_.options.Get()); }
 
-void frmMain::udmDeleteOptions() { parts_.settings.DeleteOptions(); }
+void frmMain::udmDeleteOptions() {
+  parts_.settings.DeleteOptions();
+  // A failed deletion stops nothing, but the user shall not take old values for defaults.
+  if (!parts_.settings.HasOptions()) return;
+  udmNonFatalError(ErrorPlace::kSaving, RunTimeError::kPermissionDenied);
+}
 
 void frmMain::udmSaveINI() {
   parts_.settings.SaveINI(parts_.startup, [this](SettingsStore& store) {
@@ -84,8 +89,10 @@ void frmMain::udmSaveINI() {
 void frmMain::SaveOrTell(const std::function<void()>& saves) {
   try {
     parts_.settings.SaveTogether([&](SettingsStore& /*store*/) { saves(); });
-  } catch (const RunTimeError& error) {
-    udmNonFatalError(ErrorPlace::kSaving, error.Number());
+  } catch (const ProgramEnded&) {
+    throw;
+  } catch (...) {
+    udmNonFatalError(ErrorPlace::kSaving, CurrentErrorNumber());
   }
 }
 

@@ -111,7 +111,7 @@ class InstallationRule {
   /// All of it is one save: the other installation's settings are never gone before they stand
   /// under this installation's name.
   void Import(const std::string& other, const InstallationImport& import) {
-    settings_.SaveTogether([&](SettingsStore& store) {
+    const auto takeOver = [&](SettingsStore& store) {
       {
         const PointedAt from(settings_, other);
         import.udmLoadOptions();
@@ -126,17 +126,19 @@ class InstallationRule {
         settings_.DeleteOptions();
       }
       settings_.DeletePlacement();
-    });
-  }
+    };
+    import.saveOrTell([&] { settings_.SaveTogether(takeOver);
+  });
+}
 
-  const ProgramIdentity& identity_;
-  Settings& settings_;
-  SystemApi& system_;
-  MessageBoxes& messages_;
-  std::string folder_;
-};
+const ProgramIdentity& identity_;
+Settings& settings_;
+SystemApi& system_;
+MessageBoxes& messages_;
+std::string folder_;
+};  // namespace
 
-}  // namespace
+}  // namespace korvale
 
 InstallationResult RunInstallationRule(const ProgramIdentity& identity, Settings& settings,
                                        SystemApi& system, MessageBoxes& messages,

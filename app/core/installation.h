@@ -20,6 +20,9 @@ struct InstallationImport {
   std::function<void()> loadStartupSettings;
   std::function<void()> udmSaveOptions;
   std::function<void()> udmSaveINI;
+  /// Makes the whole import; a refusal of the store is no reason not to start.
+  std::function<void(const std::function<void()>&)> saveOrTell =
+      [](const std::function<void()>& saves) { saves(); };
 };
 
 struct InstallationResult {

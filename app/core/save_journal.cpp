@@ -1,5 +1,6 @@
 #include "app/core/save_journal.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <map>
@@ -82,8 +83,12 @@ std::optional<std::vector<StoreChange>> CompleteChanges(const SettingsStore::Pai
 SaveJournal::SaveJournal(SettingsStore& store, std::string appName)
     : store_(&store), appName_(std::move(appName)) {}
 
-void SaveJournal::Commit(const std::vector<StoreChange>& changes) {
+void SaveJournal::Commit(const std::vector<StoreChange>& newChanges) {
   FinishInterrupted();
+  const std::vector<StoreChange> changes = BehindRefused(newChanges);
+  if (Exists()) store_->DeleteSection(appName_, kJournalSection);
+  // Two journals must never mix.
+  if (Exists()) throw RunTimeError(RunTimeError::kPermissionDenied);
   const bool needsJournal = changes.size() > 1;
   if (needsJournal && !Write(changes)) {
     store_->DeleteSection(appName_, kJournalSection);
@@ -98,8 +103,29 @@ void SaveJournal::Commit(const std::vector<StoreChange>& changes) {
 void SaveJournal::FinishInterrupted() {
   const SettingsStore::Pairs entries = store_->GetAllSettings(appName_, kJournalSection);
   if (entries.empty()) return;
-  if (const auto changes = CompleteChanges(entries)) Apply(*changes);
+  const auto changes = CompleteChanges(entries);
+  if (changes && !Apply(*changes)) return;
   store_->DeleteSection(appName_, kJournalSection);
+}
+
+/// What an earlier save was refused stays to be made, before the new changes and without what they
+/// make anew.
+std::vector<StoreChange> SaveJournal::BehindRefused(
+    const std::vector<StoreChange>& newChanges) const {
+  auto changes = CompleteChanges(store_->GetAllSettings(appName_, kJournalSection))
+                     .value_or(std::vector<StoreChange>());
+  std::erase_if(changes, [&](const StoreChange& refused) {
+    return std::ranges::any_of(newChanges, [&](const StoreChange& change) {
+      return change.kind == refused.kind && change.appName == refused.appName &&
+             change.section == refused.section && change.key == refused.key;
+    });
+  });
+  changes.insert(changes.end(), newChanges.begin(), newChanges.end());
+  return changes;
+}
+
+bool SaveJournal::Exists() const {
+  return !store_->GetAllSettings(appName_, kJournalSection).empty();
 }
 
 bool SaveJournal::Write(const std::vector<StoreChange>& changes) {

@@ -23,14 +23,16 @@ class SaveJournal {
 
   /// Makes the changes in their order. Throws RunTimeError 70 (Permission denied) when the store
   /// refused a value: with no change made when the journal could not be written, otherwise after
-  /// all other changes.
-  void Commit(const std::vector<StoreChange>& changes);
+  /// all other changes; what was refused is tried again by the next Commit or FinishInterrupted.
+  void Commit(const std::vector<StoreChange>& newChanges);
 
-  /// Makes all changes of a complete journal that was left behind and removes it; drops an
-  /// incomplete one. Does nothing when there is none.
+  /// Makes all changes of a complete journal that was left behind and removes it unless the store
+  /// refuses again; drops an incomplete one. Does nothing when there is none.
   void FinishInterrupted();
 
  private:
+  std::vector<StoreChange> BehindRefused(const std::vector<StoreChange>& newChanges) const;
+  bool Exists() const;
   bool Write(const std::vector<StoreChange>& changes);
   bool Apply(const std::vector<StoreChange>& changes);
 

@@ -145,8 +145,39 @@ TEST(RefusedSaveTest, IsTriedAgainByTheNextRun) {
   RefusingStore store("Startup", "Tips");
   store.refusing = true;
   EXPECT_EQ(ErrorOf([&] { SaveNewINI(store); }), 70);
+  Settings(store, kApp).FinishInterruptedSave();
+  EXPECT_FALSE(store.GetAllSettings(kApp, kJournalSection).empty()) << "still refused";
   store.refusing = false;
   Settings(store, kApp).FinishInterruptedSave();
+  EXPECT_EQ(store.GetSetting(kApp, "Startup", "Tips"), "10");
+  EXPECT_TRUE(store.GetAllSettings(kApp, kJournalSection).empty());
+}
+
+TEST(RefusedSaveTest, ANewerSaveNeverMixesWithAJournalThatCannotBeDeleted) {
+  class KeepingStore : public FakeSettingsStore {
+   public:
+    bool DeleteSection(const std::string& appName, const std::string& section) override {
+      return section != kJournalSection && FakeSettingsStore::DeleteSection(appName, section);
+    }
+  };
+  KeepingStore store;
+  EXPECT_EQ(ErrorOf([&] { SaveOld(store); }), 70);
+  const auto journal = store.GetAllSettings(kApp, kJournalSection);
+  ASSERT_FALSE(journal.empty());
+  EXPECT_EQ(ErrorOf([&] { SaveNewINI(store); }), 70);
+  EXPECT_EQ(store.GetAllSettings(kApp, kJournalSection), journal);
+}
+
+TEST(RefusedSaveTest, IsMadeAfterAllBeforeANewerOneOfOtherSettings) {
+  RefusingStore store("Options", "HotKeyModParent");
+  store.refusing = true;
+  clsOptions options;
+  options.intHotKeyModParent = 2;
+  EXPECT_EQ(ErrorOf([&] { Settings(store, kApp).SaveOptions(options); }), 70);
+  EXPECT_EQ(ErrorOf([&] { SaveNewINI(store); }), 70);
+  store.refusing = false;
+  Settings(store, kApp).FinishInterruptedSave();
+  EXPECT_EQ(store.GetSetting(kApp, "Options", "HotKeyModParent"), "2");
   EXPECT_EQ(store.GetSetting(kApp, "Startup", "Tips"), "10");
   EXPECT_TRUE(store.GetAllSettings(kApp, kJournalSection).empty());
 }
