@@ -4,6 +4,7 @@
 #include "app/core/installation.h"
 #include "desktop/window_readers.h"
 #include "forms/main_form_design.h"
+#include "hotkeys/suspension.h"
 #include "platform/win32_constants.h"
 
 namespace korvale {
@@ -76,7 +77,8 @@ void StartUp::RunInstallation(frmMain& form) {
   const InstallationResult result = RunInstallationRule(
       parts.identity, parts.settings, platform_->system, parts.messages,
       {[&form] { form.udmLoadOptions(); }, [&form] { form.LoadStartupSettings(); },
-       [&form] { form.udmSaveOptions(); }, [&form] { form.udmSaveINI(); }});
+       [&form] { form.udmSaveOptions(); }, [&form] { form.udmSaveINI(); },
+       [&form](const std::function<void()>& saves) { form.SaveOrTell(saves); }});
   EndIfUnloaded(form);
   parts.state.firstRun = result.firstRun;
   parts.state.lastAnswer = result.lastAnswer;
@@ -189,13 +191,14 @@ void StartUp::FirstActivation(frmMain& form) {
   if (parts.state.firstActivation || firstActivationRuns_ || !form.Visible()) {
     return;
   }
-  firstActivationRuns_ = true;
+  const RaisedFlag runs(firstActivationRuns_);
   if (parts.startup.AlwaysOnTop) {
     parts.actions.SetTopmost(form.Handle(), true);
   }
   RecordPreviousWindow(form);
   if (parts.state.firstRun) {
     AskToReviewHotKeys(form);
+    if (!form.IsLoaded()) return;
   }
   // The user has come to the main window from another one, as he does by a click on it.
   parts.tracker.LookAnew();
@@ -224,7 +227,8 @@ void StartUp::AskToReviewHotKeys(frmMain& form) {
       "Korvale is installed with Hot Keys active.  It is recommended that you review the Hot Keys "
       "before getting started.\r\rDo you want to review the Hot Keys now ?",
       win32::kMbYesNo, parts.identity.messageTitle + " - CAUTION");
-  if (parts.state.lastAnswer == win32::kIdYes) {
+  // The session may end while the question is shown.
+  if (parts.state.lastAnswer == win32::kIdYes && form.IsLoaded()) {
     parts.startup.OptionsTab = kHotKeysTab;
     form.udmOptions("LOAD_AND_OR_REFRESH");
   }

@@ -202,6 +202,16 @@ void Form::SetPlace(const TwipsRect& place) {
   if (sized && IsLoaded()) Form_Resize();
 }
 
+void Form::SetMaximumHeight(Twips height) {
+  if (state_.maximumHeight == height) return;
+  state_.maximumHeight = height;
+  if (!IsLoaded() || state_.windowState != ShowState::kMaximized) return;
+  // Windows asks for the limit only when it maximizes.
+  state_.place.height = height;
+  place_.height = height - FrameGrowth().height;
+  forms_->Host().MoveWindow(handle_);
+}
+
 void Form::SetEnabled(bool enabled) {
   if (state_.enabled == enabled) return;
   state_.enabled = enabled;

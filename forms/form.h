@@ -67,7 +67,7 @@ class Form : public FormEvents {
   const TwipsRect& Place() const { return place_; }
   void SetPlace(const TwipsRect& place);
   /// Keeps the user from making the form higher, in twips; 0 = no limit.
-  void SetMaximumHeight(Twips height) { state_.maximumHeight = height; }
+  void SetMaximumHeight(Twips height);
   bool Enabled() const { return state_.enabled; }
   void SetEnabled(bool enabled);
   bool Visible() const { return state_.visible; }

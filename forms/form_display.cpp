@@ -8,8 +8,9 @@
 namespace korvale {
 namespace {
 
-/// What must be on a monitor of a form, in both directions, so that the user can drag it.
+/// What must be on a monitor of a form's title bar, in both directions, so that it can be dragged.
 constexpr Twips kReachable = 300;
+constexpr Twips kTitleBar = 400;
 
 void MoveTo(Form& form, Twips left, Twips top) {
   TwipsRect place = form.Place();
@@ -111,7 +112,7 @@ void FormDisplay::BringOntoMonitor(Form& form) {
   const TwipsRect area = forms_->Host().GetMonitorInfoW(form.Handle());
   const TwipsRect place = forms_->Host().GetWindowRect(form.Handle());
   if (Overlap(place.left, place.width, area.left, area.width) < kReachable ||
-      Overlap(place.top, place.height, area.top, area.height) < kReachable) {
+      Overlap(place.top, kTitleBar, area.top, area.height) < kReachable) {
     KeepInWorkArea(form);
   }
 }

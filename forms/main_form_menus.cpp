@@ -84,7 +84,7 @@ void frmMain::ShowTopLevelMenus(bool shown) {
     return;
   }
   SetMenuShown(shown);
-  // The bar takes its room from the fields or gives it back.
+  // The window grows by the bar or shrinks.
   Form_Resize();
 }
 
@@ -111,6 +111,8 @@ void frmMain::mnuToolsOptions_Click() {
 
 void frmMain::mnuHelpAbout_Click() {
   RefreshMenus("mnu");
+  // The session may end while a message is shown.
+  if (!IsLoaded()) return;
   about_.ShowAbout(*this, parts_.display);
 }
 

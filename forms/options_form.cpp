@@ -97,6 +97,8 @@ void frmOptions::Save() {
     owner_->udmSaveOptions();
     owner_->udmSaveINI();
   });
+  // The session may end while a message is shown.
+  if (!IsLoaded()) return;
   if (!owner_->HotKeys().HotKeysActive()) {
     owner_->HotKeys().SetHotKeysActive(true);
     owner_->Messages().ShowMessageBox(
@@ -104,7 +106,6 @@ void frmOptions::Save() {
         "(if any) made to the hot keys on the Hot Keys tab of the Options dialog box can take "
         "effect.",
         win32::kMbOk, owner_->ProgramTitle() + " - Options (Save)");
-    // The session may end while the message is shown.
     if (!IsLoaded()) return;
   }
   RegisterHotKeysAnew();
@@ -118,6 +119,7 @@ void frmOptions::cmdReset_Click() {
   if (answer != win32::kIdOk || !IsLoaded()) return;
   const Hourglass hourglass(*owner_);
   owner_->udmDeleteOptions();
+  if (!IsLoaded()) return;
   owner_->udmLoadOptions();
   owner_->udmOptions("LOAD_AND_OR_REFRESH");
   // All hot keys are registered below, which is what being active means.

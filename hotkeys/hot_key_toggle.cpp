@@ -39,6 +39,8 @@ void HotKeyToggle::SwitchOff(std::string_view caller) {
                           "the Pause key.  If you wish, this hot key can be changed on the Hot "
                           "Keys tab of the Options dialog box.",
                       "TIP", kToggleTipHeight);
+    // The session may end while the tip is shown.
+    if (!options_->Exists()) return;
   }
   table_->SetHotKeysActive(false);
   table_->SetHotKeys("REMOVE");

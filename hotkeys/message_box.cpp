@@ -87,10 +87,10 @@ std::int16_t SuspendingMessageBoxes::Show(const std::string& prompt, std::int32_
 /// Owned by the main window alone, a box would open behind the dialog above it. A main window that
 /// is still hidden would be activated when its box closes, and so not once more when it is shown.
 WindowHandle SuspendingMessageBoxes::Owner() {
-  const WindowHandle dialog = dialogOnTop_();
-  if (dialog != 0) return dialog;
-  const WindowHandle main = mainWindow_->MainHandle();
-  return windows_->IsWindowVisible(main) ? main : 0;
+  for (const WindowHandle owner : {dialogOnTop_(), mainWindow_->MainHandle()}) {
+    if (owner != 0 && windows_->IsWindowVisible(owner)) return owner;
+  }
+  return 0;
 }
 
 void SuspendingMessageBoxes::GiveForegroundBack(WindowHandle before) {

@@ -65,7 +65,8 @@ TEST_F(FormDisplayTest, BringsAFormThatIsOnNoMonitorOntoTheNearestOne) {
   EXPECT_EQ(brought(-2800, 8000), (TwipsRect{0, 6000, 3000, 2000}));
   EXPECT_EQ(brought(9700, 7700), (TwipsRect{9700, 7700, 3000, 2000}));
   EXPECT_EQ(brought(9701, 7700), (TwipsRect{7000, 6000, 3000, 2000}));
-  EXPECT_EQ(brought(-2700, -1700), (TwipsRect{-2700, -1700, 3000, 2000}));
+  EXPECT_EQ(brought(-2700, -100), (TwipsRect{-2700, -100, 3000, 2000}));
+  EXPECT_EQ(brought(4000, -101), (TwipsRect{4000, 0, 3000, 2000}));
 }
 
 /// A screen of two monitors side by side; the right one has twice as many dots per inch.

@@ -170,5 +170,19 @@ TEST_F(FirstActivationTest, ThePreviousWindowIsSelectedWhenTheOptionSaysSo) {
   EXPECT_EQ(Front(), "Alpha");
 }
 
+TEST_F(FirstActivationTest, TheSessionCanEndWhileTheReviewIsOffered) {
+  KorvaleCopy& korvale = NewCopy();
+  int boxes = 0;
+  korvale.host.WhenMessageBox([&](const ShownMessage&) {
+    ++boxes;
+    korvale.Form().OnCloseRequested(CloseReason::kSession);
+    return win32::kIdYes;
+  });
+  korvale.Start();
+  EXPECT_EQ(boxes, 1);
+  EXPECT_FALSE(korvale.Form().IsLoaded());
+  EXPECT_EQ(korvale.program.Forms().Find("frmOptions"), nullptr);
+}
+
 }  // namespace
 }  // namespace korvale

@@ -36,6 +36,18 @@ TEST_F(MainWindowStateTest, AMinimizedWindowComesUpSoAndIsStoredSo) {
   EXPECT_EQ(Stored("Height"), "1100");
 }
 
+TEST_F(MainWindowStateTest, AMinimizedStartIsActivatedForTheFirstTimeWhenItIsRestored) {
+  Store("WindowState", "1");
+  WorkIn(Open("Alpha"));
+  KorvaleCopy& korvale = StartedCopy();
+  EXPECT_FALSE(korvale.Parts().state.firstActivation);
+
+  desktop.UserRestores(korvale.Handle());
+
+  EXPECT_TRUE(korvale.Parts().state.firstActivation);
+  EXPECT_EQ(korvale.TargetWindow(), "Alpha");
+}
+
 TEST_F(MainWindowStateTest, AMaximizedWindowComesUpSoAndIsStoredSo) {
   Store("WindowState", "2");
   Store("Left", "600");

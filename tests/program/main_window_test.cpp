@@ -150,6 +150,16 @@ TEST_F(MainWindowTest, MaximizedItIsAsWideAsTheMonitorAndNoHigher) {
   EXPECT_EQ(korvale.Form().Place().height, 1100);
 }
 
+TEST_F(MainWindowTest, MaximizedItsHeightFollowsWhatItShows) {
+  KorvaleCopy& korvale = StartedCopy();
+  desktop.ShowWindow(korvale.Handle(), win32::kSwMaximize);
+  Choose(korvale, {"View", "Target Window"});
+  EXPECT_EQ(Height(korvale), 700);
+  Choose(korvale, {"View", "Target Window"});
+  EXPECT_EQ(Height(korvale), 1100);
+  EXPECT_EQ(korvale.Form().WindowState(), ShowState::kMaximized);
+}
+
 TEST_F(MainWindowTest, AnotherDpiLaysTheFieldsOutAnew) {
   KorvaleCopy& korvale = StartedCopy();
   const Twips before = korvale.Form().Find("txtWindow").Place().height;

@@ -161,6 +161,66 @@ TEST_F(OptionsExchangeInProgram, TheSessionCanEndWhileItTellsThatTheHotKeysAreOn
   EXPECT_TRUE(hotKeys.Registered().empty());
 }
 
+TEST_F(OptionsExchangeInProgram, TheSessionCanEndWhileItTellsOfARefusedSave) {
+  KorvaleCopy& korvale = StartedCopy();
+  PressHotKey(8, 79);
+  class Form& dialog = korvale.Loaded("frmOptions");
+  store.RefuseWrites(true);
+  std::vector<std::string> told;
+  korvale.host.WhenMessageBox([&](const ShownMessage& box) {
+    told.push_back(box.text);
+    // What its end saves is refused and told as well.
+    korvale.host.AnswerNext(win32::kIdOk);
+    korvale.Form().OnCloseRequested(CloseReason::kSession);
+    return win32::kIdOk;
+  });
+  korvale.user.Click(dialog.Handle(), korvale.Id(dialog, "cmdApply"));
+  EXPECT_EQ(told, std::vector<std::string>{"VB ERROR 70 - Permission denied\r\rKorvale Error #5"});
+  EXPECT_FALSE(korvale.Form().IsLoaded());
+  EXPECT_TRUE(hotKeys.Registered().empty());
+}
+
+TEST_F(OptionsExchangeInProgram, AResetThatTheStoreRefusesIsTold) {
+  KorvaleCopy& korvale = StartedCopy();
+  store.SaveSetting("Korvale - Work", "Options", "HotKeyModParent", "2");
+  PressHotKey(8, 79);
+  class Form& dialog = korvale.Loaded("frmOptions");
+  store.RefuseWrites(true);
+  std::string told;
+  korvale.host.WhenMessageBox([&](const ShownMessage&) {
+    korvale.host.WhenMessageBox([&](const ShownMessage& box) {
+      told = box.text;
+      return win32::kIdOk;
+    });
+    return win32::kIdOk;
+  });
+  korvale.user.Click(dialog.Handle(), korvale.Id(dialog, "cmdReset"));
+  EXPECT_EQ(told, "VB ERROR 70 - Permission denied\r\rKorvale Error #5");
+}
+
+TEST_F(OptionsExchangeInProgram, AMessageBelongsToTheStripWhileTheDialogIsHiddenWithIt) {
+  KorvaleCopy& korvale = StartedCopy();
+  PressHotKey(8, 79);
+  desktop.UserMinimizes(korvale.Handle());
+  WindowHandle owner = 0;
+  korvale.host.WhenMessageBox([&](const ShownMessage& box) {
+    owner = box.owner;
+    return win32::kIdOk;
+  });
+  korvale.Form().udmNonFatalError(ErrorPlace::kEventHandler, 5);
+  EXPECT_EQ(owner, korvale.Handle());
+}
+
+TEST_F(OptionsExchangeInProgram, TheProgramDoesNotEndUnderTheColorDialog) {
+  KorvaleCopy& korvale = StartedCopy();
+  korvale.host.WhenColorDialog([&](Color) -> std::optional<Color> {
+    korvale.Form().OnCloseRequested(CloseReason::kUser);
+    EXPECT_TRUE(korvale.Form().IsLoaded());
+    return std::nullopt;
+  });
+  korvale.Form().udmShowColorPalette(0);
+}
+
 TEST_F(OptionsExchangeInProgram, NothingOfOursTakesInputBesideTheColorDialog) {
   KorvaleCopy& korvale = StartedCopy();
   PressHotKey(8, 79);

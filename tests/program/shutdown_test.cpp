@@ -1,3 +1,5 @@
+#include <stdexcept>
+
 #include "platform/win32_constants.h"
 #include "tests/program/start_test.h"
 
@@ -121,6 +123,31 @@ TEST_F(ShutdownTest, TheSessionCanEndWhileAMessageBoxIsShown) {
   EXPECT_FALSE(korvale.Form().IsLoaded());
   EXPECT_TRUE(hotKeys.Registered().empty());
   EXPECT_FALSE(clock.AdvanceToNextTick());
+}
+
+TEST_F(ShutdownTest, TheSessionCanEndWhileTheTipOfTheToggleIsShown) {
+  KorvaleCopy& korvale = StartedCopy();
+  korvale.host.WhenModal("frmMsgTip", [&](class Form&) {
+    korvale.Form().OnCloseRequested(CloseReason::kSession);
+    log.Clear();
+  });
+  korvale.Form().mnuToolsToggleHotKeys_Click();
+  EXPECT_FALSE(korvale.Form().IsLoaded());
+  EXPECT_TRUE(log.CallsOf("UnregisterHotKey").empty());
+}
+
+TEST_F(ShutdownTest, AnyErrorOfASaveLeavesTheHotKeysGivenBack) {
+  KorvaleCopy& korvale = StartedCopy();
+  std::string told;
+  korvale.host.WhenMessageBox([&](const ShownMessage& box) {
+    told = box.text;
+    return win32::kIdOk;
+  });
+  log.WhenCalled("SaveSetting", [] { throw std::runtime_error("broken"); });
+  korvale.Exit();
+  EXPECT_EQ(told, "VB ERROR 51 - Internal error\r\rKorvale Error #5");
+  EXPECT_TRUE(hotKeys.Registered().empty());
+  EXPECT_FALSE(korvale.Form().IsLoaded());
 }
 
 TEST_F(ShutdownTest, TagsOfClosedWindowsStayStoredButLeaveTheMenuAtShutdown) {

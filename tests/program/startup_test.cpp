@@ -44,6 +44,19 @@ TEST_F(StartUpTest, AnArgumentOnTheCommandLineGetsATip) {
   EXPECT_TRUE(korvale.user.IsShown(korvale.Handle()));
 }
 
+TEST_F(StartUpTest, AfterATipTheMainWindowIsInFrontAndTheWindowBeforeIsThePreviousOne) {
+  WorkIn(Open("Alpha"));
+  KorvaleCopy& korvale = UsedCopy();
+  korvale.system.commandLine = "/x";
+  std::string tip;
+  ReadTip(korvale, tip);
+
+  EXPECT_TRUE(korvale.Start());
+
+  EXPECT_EQ(Front(), "Korvale - Work");
+  EXPECT_EQ(korvale.TargetWindow(), "Alpha");
+}
+
 TEST_F(StartUpTest, TheTipAboutArgumentsIsNumber17) {
   KorvaleCopy& korvale = UsedCopy();
   store.SaveSetting("Korvale - Work", "Startup", "Tips", "11111111111111110");
