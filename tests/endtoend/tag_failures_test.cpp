@@ -11,15 +11,19 @@ TEST_F(TagFailures, AClosedWindowIsReportedAsNotOpen) {
   installation_.StoreTag(3, "*** - Notes", kClass);
   Start();
   const Window notes = Open("Day - Notes");
-  ASSERT_TRUE(WorkIn(Open("Beta")));
+  const Window beta = Open("Beta");
+  ASSERT_TRUE(WorkIn(beta));
   Press(TagKey(3));
   ASSERT_TRUE(InFront(notes));
   ASSERT_TRUE(notes.Close());
+  ASSERT_TRUE(WorkIn(beta));
   Press(TagKey(3));
   const Window box = korvale_->MessageBox();
   EXPECT_EQ(box.Title(), "Korvale");
   EXPECT_TRUE(InFront(box));
   EXPECT_TRUE(Says("Window:  [*** - Notes]  is not open."));
+  EXPECT_TRUE(InFront(beta)) << "the user goes on where he worked";
+  EXPECT_TRUE(StaysInFront(beta));
 }
 
 TEST_F(TagFailures, AReopenedWindowIsFoundUnderItsNewHandle) {
