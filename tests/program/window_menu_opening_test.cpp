@@ -2,20 +2,12 @@
 #include <vector>
 
 #include "platform/win32_constants.h"
-#include "tests/program/korvale_world.h"
+#include "tests/program/window_menu_test.h"
 
 namespace korvale {
 namespace {
 
-class WindowMenuOpeningTest : public KorvaleWorld {
- protected:
-  KorvaleCopy& StartedAfter(WindowHandle window) {
-    KorvaleCopy& korvale = StartedCopy();
-    WorkIn(window);
-    WorkIn(korvale.Handle());
-    return korvale;
-  }
-};
+using WindowMenuOpeningTest = WindowMenuTest;
 
 TEST_F(WindowMenuOpeningTest, ATitleIsShortenedBeforeItsAmpersandsAreDoubled) {
   const std::string thirty = "&&&&&&&&&&&&&&& 78901234567890";
