@@ -110,15 +110,15 @@ class InstallationRule {
 
   /// All of it is one save: the other installation's settings are never gone before they stand
   /// under this installation's name.
-  void Import(const std::string& other, const InstallationImport& import) {
+  void Import(const std::string& other, const InstallationImport& mainForm) {
     const auto takeOver = [&](SettingsStore& store) {
       {
         const PointedAt from(settings_, other);
-        import.udmLoadOptions();
-        import.loadStartupSettings();
+        mainForm.udmLoadOptions();
+        mainForm.loadStartupSettings();
       }
-      import.udmSaveOptions();
-      import.udmSaveINI();
+      mainForm.udmSaveOptions();
+      mainForm.udmSaveINI();
       store.DeleteSetting(kInstallationRegister, kRegisterSection, other);
       {
         const PointedAt removed(settings_, other);
@@ -127,18 +127,17 @@ class InstallationRule {
       }
       settings_.DeletePlacement();
     };
-    import.saveOrTell([&] { settings_.SaveTogether(takeOver);
-  });
-}
+    mainForm.saveOrTell([&] { settings_.SaveTogether(takeOver); });
+  }
 
-const ProgramIdentity& identity_;
-Settings& settings_;
-SystemApi& system_;
-MessageBoxes& messages_;
-std::string folder_;
-};  // namespace
+  const ProgramIdentity& identity_;
+  Settings& settings_;
+  SystemApi& system_;
+  MessageBoxes& messages_;
+  std::string folder_;
+};
 
-}  // namespace korvale
+}  // namespace
 
 InstallationResult RunInstallationRule(const ProgramIdentity& identity, Settings& settings,
                                        SystemApi& system, MessageBoxes& messages,

@@ -75,6 +75,10 @@ void Settings::DeleteOptions() {
   SaveTogether([&](SettingsStore& store) { DeleteIfAny(store, appName_, kOptionsSection); });
 }
 
+bool Settings::HasOptions() const {
+  return !store_->GetAllSettings(appName_, kOptionsSection).empty();
+}
+
 StartupSettings Settings::LoadStartup() const {
   StartupSettings startup;
   Load(*store_, appName_, StartupRows(), startup);

@@ -37,7 +37,7 @@ class Settings {
   /// Deletes the section "Options" if it holds any values.
   void DeleteOptions();
   /// True when the section "Options" holds any values.
-  bool HasOptions() const { return !store_->GetAllSettings(appName_, "Options").empty(); }
+  bool HasOptions() const;
 
   StartupSettings LoadStartup() const;
   /// In ascending order of the Tags; without keys other than "1" to "9" and without captions that
