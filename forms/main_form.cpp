@@ -73,10 +73,8 @@ void frmMain::udmLoadOptions() { parts_.settings.LoadOptions(parts_.options.Get(
 void frmMain::udmSaveOptions() { parts_.settings.SaveOptions(parts_.options.Get()); }
 
 void frmMain::udmDeleteOptions() {
-  parts_.settings.DeleteOptions();
   // A failed deletion stops nothing, but the user shall not take old values for defaults.
-  if (!parts_.settings.HasOptions()) return;
-  udmNonFatalError(ErrorPlace::kSaving, RunTimeError::kPermissionDenied);
+  SaveOrTell([this] { parts_.settings.DeleteOptions(); });
 }
 
 void frmMain::udmSaveINI() {

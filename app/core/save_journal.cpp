@@ -1,10 +1,12 @@
 #include "app/core/save_journal.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cstddef>
 #include <cstdint>
 #include <map>
 #include <optional>
+#include <span>
 #include <string_view>
 #include <utility>
 
@@ -18,12 +20,18 @@ constexpr const char* kCompleteMark = "Complete";
 /// Occurs in no folder name and so in no application name; the key may hold anything.
 constexpr char kSeparator = '\\';
 
+/// The letter of the kind, a small one for changes that are made last.
+char KindLetter(const StoreChange& change) {
+  const char letter = static_cast<char>(change.kind);
+  return change.last ? static_cast<char>(std::tolower(letter)) : letter;
+}
+
 // The value of a change is the value of its entry as it is, so that the store treats both alike;
 // everything else is in the entry's name: number\kind\application name\section\key.
 std::string EntryName(std::int32_t number, const StoreChange& change) {
   std::string name = DecimalText(number);
   name += kSeparator;
-  name += static_cast<char>(change.kind);
+  name += KindLetter(change);
   for (const std::string* part : {&change.appName, &change.section, &change.key}) {
     name += kSeparator;
     name += *part;
@@ -31,10 +39,14 @@ std::string EntryName(std::int32_t number, const StoreChange& change) {
   return name;
 }
 
-std::optional<StoreChange::Kind> KindOf(std::string_view text) {
+/// A change of the kind that the letter stands for, nothing when it stands for none.
+std::optional<StoreChange> ChangeOfKind(std::string_view letter) {
   using Kind = StoreChange::Kind;
   for (const Kind kind : {Kind::kSaveSetting, Kind::kDeleteSetting, Kind::kDeleteSection}) {
-    if (text.size() == 1 && text.front() == static_cast<char>(kind)) return kind;
+    for (const bool last : {false, true}) {
+      const StoreChange change{kind, "", "", "", "", last};
+      if (letter.size() == 1 && letter.front() == KindLetter(change)) return change;
+    }
   }
   return std::nullopt;
 }
@@ -51,11 +63,13 @@ using NumberedChanges = std::map<std::int32_t, StoreChange>;
 
 void AddEntry(std::string_view name, const std::string& value, NumberedChanges& changes) {
   const auto number = ParseInt32(TakePart(name));
-  const auto kind = KindOf(TakePart(name));
-  if (!number || !kind) return;
-  const std::string_view appName = TakePart(name);
-  const std::string_view section = TakePart(name);
-  changes[*number] = {*kind, std::string(appName), std::string(section), std::string(name), value};
+  auto change = ChangeOfKind(TakePart(name));
+  if (!number || !change) return;
+  change->appName = TakePart(name);
+  change->section = TakePart(name);
+  change->key = name;
+  change->value = value;
+  changes[*number] = std::move(*change);
 }
 
 /// The changes of a journal, nothing unless all of them are there.
@@ -76,6 +90,26 @@ std::optional<std::vector<StoreChange>> CompleteChanges(const SettingsStore::Pai
   }
   if (count != static_cast<std::int32_t>(changes.size())) return std::nullopt;
   return changes;
+}
+
+bool InOneSection(const StoreChange& one, const StoreChange& other) {
+  return one.appName == other.appName && one.section == other.section;
+}
+
+/// True when nothing is left of `older` once `newer` has been made.
+bool Supersedes(const StoreChange& newer, const StoreChange& older) {
+  if (newer.last || !InOneSection(newer, older)) return false;
+  using Kind = StoreChange::Kind;
+  return newer.kind == Kind::kDeleteSection ||
+         (older.kind != Kind::kDeleteSection && newer.key == older.key);
+}
+
+/// True when the change deletes a section that nothing stands in by then.
+bool IsIdle(SettingsStore& store, std::span<const StoreChange> before, const StoreChange& change) {
+  return change.kind == StoreChange::Kind::kDeleteSection &&
+         std::ranges::none_of(before,
+                              [&](const auto& earlier) { return InOneSection(earlier, change); }) &&
+         store.GetAllSettings(change.appName, change.section).empty();
 }
 
 }  // namespace
@@ -109,18 +143,18 @@ void SaveJournal::FinishInterrupted() {
 }
 
 /// What an earlier save was refused stays to be made, before the new changes and without what they
-/// make anew.
+/// make anew or delete.
 std::vector<StoreChange> SaveJournal::BehindRefused(
     const std::vector<StoreChange>& newChanges) const {
   auto changes = CompleteChanges(store_->GetAllSettings(appName_, kJournalSection))
                      .value_or(std::vector<StoreChange>());
   std::erase_if(changes, [&](const StoreChange& refused) {
-    return std::ranges::any_of(newChanges, [&](const StoreChange& change) {
-      return change.kind == refused.kind && change.appName == refused.appName &&
-             change.section == refused.section && change.key == refused.key;
-    });
+    return std::ranges::any_of(
+        newChanges, [&](const StoreChange& change) { return Supersedes(change, refused); });
   });
-  changes.insert(changes.end(), newChanges.begin(), newChanges.end());
+  for (const StoreChange& change : newChanges) {
+    if (!IsIdle(*store_, changes, change)) changes.push_back(change);
+  }
   return changes;
 }
 
@@ -141,8 +175,14 @@ bool SaveJournal::Write(const std::vector<StoreChange>& changes) {
 
 bool SaveJournal::Apply(const std::vector<StoreChange>& changes) {
   bool allMade = true;
-  for (const StoreChange& change : changes) allMade &= ApplyChange(*store_, change);
-  return allMade;
+  for (const StoreChange& change : changes) {
+    if (!change.last) allMade &= ApplyChange(*store_, change);
+  }
+  if (!allMade) return false;
+  for (const StoreChange& change : changes) {
+    if (change.last) ApplyChange(*store_, change);
+  }
+  return true;
 }
 
 }  // namespace korvale

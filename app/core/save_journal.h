@@ -21,9 +21,10 @@ class SaveJournal {
   /// The journal stands under `appName`; the changes may concern any application name.
   SaveJournal(SettingsStore& store, std::string appName);
 
-  /// Makes the changes in their order. Throws RunTimeError 70 (Permission denied) when the store
-  /// refused a value: with no change made when the journal could not be written, otherwise after
-  /// all other changes; what was refused is tried again by the next Commit or FinishInterrupted.
+  /// Makes the changes in their order, the last ones only when all others were made. Throws
+  /// RunTimeError 70 (Permission denied) when the store refused one: with no change made when the
+  /// journal could not be written, otherwise after all others; what was refused is tried again by
+  /// the next Commit or FinishInterrupted, and never undoes a newer change.
   void Commit(const std::vector<StoreChange>& newChanges);
 
   /// Makes all changes of a complete journal that was left behind and removes it unless the store

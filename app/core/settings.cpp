@@ -38,10 +38,6 @@ void Save(SettingsStore& store, const std::string& appName,
   }
 }
 
-void DeleteIfAny(SettingsStore& store, const std::string& appName, const char* section) {
-  if (!store.GetAllSettings(appName, section).empty()) store.DeleteSection(appName, section);
-}
-
 bool IsTagNumber(std::string_view key) {
   return key.size() == 1 && key.front() >= '1' && key.front() <= '9';
 }
@@ -72,11 +68,7 @@ void Settings::SaveOptions(const clsOptions& options) {
 }
 
 void Settings::DeleteOptions() {
-  SaveTogether([&](SettingsStore& store) { DeleteIfAny(store, appName_, kOptionsSection); });
-}
-
-bool Settings::HasOptions() const {
-  return !store_->GetAllSettings(appName_, kOptionsSection).empty();
+  SaveTogether([&](SettingsStore& store) { store.DeleteSection(appName_, kOptionsSection); });
 }
 
 StartupSettings Settings::LoadStartup() const {
@@ -103,7 +95,7 @@ void Settings::SaveINI(const StartupSettings& startup,
 
 void Settings::DeleteINI() {
   SaveTogether([&](SettingsStore& store) {
-    for (const char* section : kSectionsOfSaveINI) DeleteIfAny(store, appName_, section);
+    for (const char* section : kSectionsOfSaveINI) store.DeleteSection(appName_, section);
   });
 }
 
@@ -134,6 +126,16 @@ void Settings::SaveTogether(const std::function<void(SettingsStore&)>& work) {
   }
   together_ = nullptr;
   journal.Commit(recorder.Changes());
+}
+
+void Settings::SaveThenDelete(const std::function<void(SettingsStore&)>& work,
+                              const std::function<void(SettingsStore&)>& deletions) {
+  SaveTogether([&](SettingsStore& store) {
+    work(store);
+    together_->DeleteLast(true);
+    deletions(store);
+    together_->DeleteLast(false);
+  });
 }
 
 void Settings::FinishInterruptedSave() { SaveJournal(*store_, appName_).FinishInterrupted(); }

@@ -10,6 +10,8 @@
 
 namespace korvale {
 
+class ChangeRecorder;
+
 /// The Tag list as it is stored: Tag number text -> caption, Tag number text -> class.
 struct StoredTagList {
   SettingsStore::Pairs captions;
@@ -36,8 +38,6 @@ class Settings {
   void SaveOptions(const clsOptions& options);
   /// Deletes the section "Options" if it holds any values.
   void DeleteOptions();
-  /// True when the section "Options" holds any values.
-  bool HasOptions() const;
 
   StartupSettings LoadStartup() const;
   /// In ascending order of the Tags; without keys other than "1" to "9" and without captions that
@@ -60,6 +60,10 @@ class Settings {
   /// as one when it has ended, and none of it when it throws. Until then reads see the store as it
   /// was. Calls within `work` belong to it.
   void SaveTogether(const std::function<void(SettingsStore&)>& work);
+  /// The same, followed by deletions that are made only once all of `work` stands: nothing that
+  /// the store refuses is lost under both names.
+  void SaveThenDelete(const std::function<void(SettingsStore&)>& work,
+                      const std::function<void(SettingsStore&)>& deletions);
 
   /// Ends a save under AppName() that a killed run began, or drops it when it had not got far
   /// enough. To be called before loading, and by the only running copy of the installation.
@@ -71,7 +75,7 @@ class Settings {
   SettingsStore* store_;
   std::string appName_;
   /// Collects what the running SaveTogether will make; null outside of one.
-  SettingsStore* together_ = nullptr;
+  ChangeRecorder* together_ = nullptr;
 };
 
 }  // namespace korvale

@@ -4,10 +4,10 @@
 
 namespace korvale {
 
-bool ApplyChange(SettingsStore& store, const StoreChange& change) {
-  if (change.kind == StoreChange::Kind::kSaveSetting) {
-    return store.SaveSetting(change.appName, change.section, change.key, change.value);
-  }
+namespace {
+
+/// Deletes what the change names; a failure is nothing that stops the others.
+void Delete(SettingsStore& store, const StoreChange& change) {
   try {
     if (change.kind == StoreChange::Kind::kDeleteSetting) {
       store.DeleteSetting(change.appName, change.section, change.key);
@@ -15,9 +15,26 @@ bool ApplyChange(SettingsStore& store, const StoreChange& change) {
       store.DeleteSection(change.appName, change.section);
     }
   } catch (const RunTimeError&) {
+    return;
+  }
+}
+
+}  // namespace
+
+bool ApplyChange(SettingsStore& store, const StoreChange& change) {
+  if (change.kind == StoreChange::Kind::kSaveSetting) {
+    return store.SaveSetting(change.appName, change.section, change.key, change.value);
+  }
+  if (change.kind == StoreChange::Kind::kDeleteSetting) {
+    Delete(store, change);
     return true;
   }
-  return true;
+  const auto holdsAny = [&] {
+    return !store.GetAllSettings(change.appName, change.section).empty();
+  };
+  if (!holdsAny()) return true;
+  Delete(store, change);
+  return !holdsAny();
 }
 
 std::optional<std::string> ChangeRecorder::GetSetting(const std::string& appName,
@@ -39,12 +56,12 @@ bool ChangeRecorder::SaveSetting(const std::string& appName, const std::string& 
 
 bool ChangeRecorder::DeleteSetting(const std::string& appName, const std::string& section,
                                    const std::string& key) {
-  changes_.push_back({StoreChange::Kind::kDeleteSetting, appName, section, key, ""});
+  changes_.push_back({StoreChange::Kind::kDeleteSetting, appName, section, key, "", last_});
   return true;
 }
 
 bool ChangeRecorder::DeleteSection(const std::string& appName, const std::string& section) {
-  changes_.push_back({StoreChange::Kind::kDeleteSection, appName, section, "", ""});
+  changes_.push_back({StoreChange::Kind::kDeleteSection, appName, section, "", "", last_});
   return true;
 }
 

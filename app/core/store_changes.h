@@ -17,16 +17,19 @@ struct StoreChange {
   std::string section;
   std::string key;
   std::string value;
+  /// To be made only once all others stand: what is deleted then is not to be had again.
+  bool last = false;
 
   friend bool operator==(const StoreChange&, const StoreChange&) = default;
 };
 
-/// Makes one change; false when the store refused to save a value. A deletion that fails, because
-/// there is nothing to delete or otherwise, never counts and never stops what follows.
+/// Makes one change; false when the store refused to save a value or to delete a section that holds
+/// any. That one value cannot be deleted never counts; nothing stops what follows.
 bool ApplyChange(SettingsStore& store, const StoreChange& change);
 
 /// Keeps all writes as a list of changes to be made later, and answers every one with success.
 /// Reads go to the store as it stands and see none of them.
+/// A section is deleted whether or not it holds anything yet: an earlier save may still be pending.
 class ChangeRecorder : public SettingsStore {
  public:
   explicit ChangeRecorder(SettingsStore& store) : store_(&store) {}
@@ -40,11 +43,15 @@ class ChangeRecorder : public SettingsStore {
                      const std::string& key) override;
   bool DeleteSection(const std::string& appName, const std::string& section) override;
 
+  /// Whether deletions from now on are made only once everything else stands.
+  void DeleteLast(bool last) { last_ = last; }
+
   const std::vector<StoreChange>& Changes() const { return changes_; }
 
  private:
   SettingsStore* store_;
   std::vector<StoreChange> changes_;
+  bool last_ = false;
 };
 
 }  // namespace korvale

@@ -186,10 +186,65 @@ TEST(RefusedSaveTest, FailingDeletionDoesNotStopTheOthers) {
   RefusingStore store("ButtonTags", "");
   SaveOld(store);
   store.refusing = true;
-  SaveNewINI(store);
+  EXPECT_EQ(ErrorOf([&] { SaveNewINI(store); }), 70);
   EXPECT_EQ(store.GetSetting(kApp, "ButtonTags", "1"), "old");
   EXPECT_EQ(store.GetSetting(kApp, "ParentWindowList", "1"), std::nullopt);
   EXPECT_EQ(store.GetSetting(kApp, "ParentWindowList", "3"), "&3  New\\Tag");
+}
+
+/// Saves the state with these Tags, as the program does.
+void SaveTags(SettingsStore& store, const std::vector<std::string>& tags) {
+  const auto save = [&](SettingsStore& list) {
+    for (const std::string& tag : tags) {
+      list.SaveSetting(kApp, "ParentWindowList", tag, "&" + tag + "  Mail");
+    }
+  };
+  Settings(store, kApp).SaveINI(StartupSettings(), save);
+}
+
+TEST(RefusedSaveTest, ATagThatWasRemovedMeanwhileDoesNotComeBack) {
+  for (const std::vector<std::string>& left : {std::vector<std::string>{"1"}, {}}) {
+    RefusingStore store("ParentWindowList", "");
+    store.refusing = true;
+    EXPECT_EQ(ErrorOf([&] { SaveTags(store, {"1", "2"}); }), 70);
+    EXPECT_EQ(ErrorOf([&] { SaveTags(store, left); }), left.empty() ? 0 : 70);
+    store.refusing = false;
+    Restart(store);
+    const SettingsStore::Pairs expected =
+        left.empty() ? SettingsStore::Pairs() : SettingsStore::Pairs{{"1", "&1  Mail"}};
+    EXPECT_EQ(store.GetAllSettings(kApp, "ParentWindowList"), expected);
+    EXPECT_TRUE(store.GetAllSettings(kApp, kJournalSection).empty());
+  }
+}
+
+TEST(RefusedSaveTest, TheLastTagWhoseRemovalIsRefusedIsRemovedLater) {
+  RefusingStore store("ParentWindowList", "");
+  SaveTags(store, {"2"});
+  store.refusing = true;
+  EXPECT_EQ(ErrorOf([&] { SaveTags(store, {}); }), 70);
+  EXPECT_EQ(store.GetSetting(kApp, "ParentWindowList", "2"), "&2  Mail");
+  store.refusing = false;
+  Restart(store);
+  EXPECT_EQ(store.GetSetting(kApp, "ParentWindowList", "2"), std::nullopt);
+}
+
+TEST(RefusedSaveTest, WhatIsDeletedLastStaysUntilAllElseStands) {
+  RefusingStore store("Startup", "Tips");
+  store.SaveSetting("Korvale - Old", "Options", "A", "1");
+  store.refusing = true;
+  Settings settings(store, kApp);
+  const auto saveHere = [&](SettingsStore& /*store*/) {
+    settings.SaveINI(StartupSettings(), SaveNewTags);
+  };
+  const auto deleteOld = [&](SettingsStore& old) { old.DeleteSection("Korvale - Old", "Options"); };
+  EXPECT_EQ(ErrorOf([&] { settings.SaveThenDelete(saveHere, deleteOld); }), 70);
+  EXPECT_EQ(store.GetSetting("Korvale - Old", "Options", "A"), "1");
+  EXPECT_EQ(ErrorOf([&] { SaveNewINI(store); }), 70);
+  EXPECT_EQ(store.GetSetting("Korvale - Old", "Options", "A"), "1");
+  store.refusing = false;
+  SaveNewINI(store);
+  EXPECT_EQ(store.GetSetting("Korvale - Old", "Options", "A"), std::nullopt);
+  EXPECT_TRUE(store.GetAllSettings(kApp, kJournalSection).empty());
 }
 
 TEST(SaveTogetherTest, MakesNothingWhenTheWorkThrows) {
