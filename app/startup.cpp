@@ -97,7 +97,7 @@ WindowHandle StartUp::FindOtherCopy(frmMain& form) {
 /// just ending shows none any more: wait until it is seen or gone.
 void StartUp::WaitForOtherCopy(frmMain& form) {
   instanceLock_ =
-      std::make_unique<InstanceLock>(platform_->system, form.Parts().identity.programFolder);
+      std::make_unique<InstanceLock>(platform_->system, form.Parts().identity.installation);
   alone_ = instanceLock_->TryHold(0);
   for (std::uint32_t waited = 0; !alone_ && FindOtherCopy(form) == 0 && waited < kCopyPatience;
        waited += kCopyPoll) {

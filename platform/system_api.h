@@ -24,6 +24,19 @@ struct VersionInfo {
   std::string fileDescription;
 };
 
+/// What came of opening a folder.
+struct FolderInfo {
+  /// 0, or the ERROR_ code of the refusal.
+  std::uint32_t error = 0;
+  /// The one path that all links, drive letters and short names lead to, as in "\\?\C:\Work" and
+  /// "\\?\UNC\server\share\Work"; "" when the volume does not tell.
+  std::string finalPath;
+  /// Number of volume and folder, the same under every path; "" when the volume does not tell.
+  std::string fileId;
+  /// Not opened, although something of this name is there.
+  bool isLink = false;
+};
+
 /// A fault that no handler foresaw.
 struct Crash {
   /// The code of the exception (0xC0000005 = access violation); 0 when a C++ exception was caught
@@ -64,6 +77,9 @@ class SystemApi {
                              int showCommand) = 0;
   /// True when a file (not a folder) of this path exists (GetFileAttributesA).
   virtual bool FileExists(const std::string& path) = 0;
+  /// Opens a folder, through links if need be, and reads what it really is (CreateFileW,
+  /// GetFinalPathNameByHandleW, GetFileInformationByHandle).
+  virtual FolderInfo GetFinalPathNameByHandleW(const std::string& folder) = 0;
   /// Opens or makes the named mutex of this session without waiting for it (CreateMutexA); null
   /// when the system refused.
   virtual std::unique_ptr<SystemMutex> CreateMutexA(const std::string& name) = 0;

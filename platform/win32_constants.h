@@ -8,6 +8,10 @@
 /// The Windows adapters check them against the Windows headers with static_assert.
 namespace korvale::win32 {
 
+// GetLastError
+inline constexpr std::uint32_t kErrorFileNotFound = 2;
+inline constexpr std::uint32_t kErrorPathNotFound = 3;
+
 // GetWindow
 inline constexpr std::uint32_t kGwOwner = 4;
 inline constexpr std::uint32_t kGwChild = 5;

@@ -27,7 +27,8 @@ ProgramIdentity ReadProgramIdentity(SystemApi& system) {
   const std::size_t nameStart = path.rfind('\\') + 1;  // npos + 1 is 0: the whole path is the name
   identity.programFolder = path.substr(0, nameStart);
   identity.executableName = path.substr(nameStart);
-  identity.installationFolderName = FolderName(identity.programFolder);
+  identity.installation = ReadFolderIdentity(system, identity.programFolder);
+  identity.installationFolderName = FolderName(identity.installation.path);
   const VersionInfo version = system.GetFileVersionInfoA();
   identity.versionText = VersionText(version);
   identity.legalNotice = version.legalCopyright;

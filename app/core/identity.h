@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "app/core/folder_identity.h"
 #include "platform/system_api.h"
 
 namespace korvale {
@@ -14,7 +15,9 @@ struct ProgramIdentity {
   std::string productName = kProductName;
   /// The executable's folder with a closing backslash.
   std::string programFolder;
-  /// The last component of the executable's folder.
+  /// The same folder under every drive letter, link, share or short name.
+  FolderIdentity installation;
+  /// The last component of the executable's folder, by its long name.
   std::string installationFolderName;
   /// Major.minor.revision as in 1.10.0695.
   std::string versionText;

@@ -10,11 +10,6 @@ namespace {
 
 constexpr const char* kRegisterSection = "0";
 
-std::string WithoutClosingBackslash(std::string_view folder) {
-  while (folder.ends_with('\\')) folder.remove_suffix(1);
-  return std::string(folder);
-}
-
 /// Points the settings at another installation and back again, however the scope is left.
 class PointedAt {
  public:
@@ -35,11 +30,7 @@ class InstallationRule {
  public:
   InstallationRule(const ProgramIdentity& identity, Settings& settings, SystemApi& system,
                    MessageBoxes& messages)
-      : identity_(identity),
-        settings_(settings),
-        system_(system),
-        messages_(messages),
-        folder_(WithoutClosingBackslash(identity.programFolder)) {}
+      : identity_(identity), settings_(settings), system_(system), messages_(messages) {}
 
   InstallationResult Run(const InstallationImport& import) {
     InstallationResult result;
@@ -53,7 +44,7 @@ class InstallationRule {
     }
     // Without an entry only the rule about equal names is lost; no reason not to start.
     settings_.Store().SaveSetting(kInstallationRegister, kRegisterSection, settings_.AppName(),
-                                  folder_);
+                                  identity_.installation.path);
     if (!result.firstRun) return result;
     const std::string other = FirstToTakeOver(installations);
     if (other.empty()) return result;
@@ -67,10 +58,20 @@ class InstallationRule {
     return system_.FileExists(WithoutClosingBackslash(folder) + "\\" + identity_.executableName);
   }
 
+  bool IsOwnFolder(const std::string& folder) {
+    return ReadFolderIdentity(system_, folder).IsSameAs(identity_.installation);
+  }
+
+  /// True when the folder is known to hold the program no more, and nobody but this installation.
+  bool HasLeft(const std::string& folder) {
+    if (IsOwnFolder(folder)) return true;
+    return LookForFolder(system_, folder) != FolderPresence::kAway && !HoldsExecutable(folder);
+  }
+
   bool NameIsTaken(const SettingsStore::Pairs& installations) {
     for (const auto& [name, folder] : installations) {
       if (EqualsIgnoreCase(FolderName(folder), identity_.installationFolderName) &&
-          !EqualsIgnoreCase(WithoutClosingBackslash(folder), folder_) && HoldsExecutable(folder)) {
+          !IsOwnFolder(folder) && HoldsExecutable(folder)) {
         return true;
       }
     }
@@ -93,7 +94,7 @@ class InstallationRule {
     for (const auto& [name, folder] : installations) {
       if (name.empty() || EqualsIgnoreCase(name, settings_.AppName())) continue;
       // An entry that is damaged does not tell whether its installation lives.
-      if (folder.empty() || HoldsExecutable(folder)) continue;
+      if (folder.empty() || !HasLeft(folder)) continue;
       const PointedAt other(settings_, name);
       settings_.FinishInterruptedSave();
       if (!settings_.NothingStored()) return name;
@@ -108,10 +109,10 @@ class InstallationRule {
                                     win32::kMbYesNo, identity_.messageTitle);
   }
 
-  /// All of it is one save: the other installation's settings are never gone before they stand
-  /// under this installation's name.
+  /// All of it is one save: the other installation's settings are never gone before all of them
+  /// stand under this installation's name, also when the store refuses some.
   void Import(const std::string& other, const InstallationImport& mainForm) {
-    const auto takeOver = [&](SettingsStore& store) {
+    const auto takeOver = [&](SettingsStore& /*store*/) {
       {
         const PointedAt from(settings_, other);
         mainForm.udmLoadOptions();
@@ -119,22 +120,21 @@ class InstallationRule {
       }
       mainForm.udmSaveOptions();
       mainForm.udmSaveINI();
-      store.DeleteSetting(kInstallationRegister, kRegisterSection, other);
-      {
-        const PointedAt removed(settings_, other);
-        settings_.DeleteINI();
-        settings_.DeleteOptions();
-      }
       settings_.DeletePlacement();
     };
-    mainForm.saveOrTell([&] { settings_.SaveTogether(takeOver); });
+    const auto removeOther = [&](SettingsStore& store) {
+      store.DeleteSetting(kInstallationRegister, kRegisterSection, other);
+      const PointedAt removed(settings_, other);
+      settings_.DeleteINI();
+      settings_.DeleteOptions();
+    };
+    mainForm.saveOrTell([&] { settings_.SaveThenDelete(takeOver, removeOther); });
   }
 
   const ProgramIdentity& identity_;
   Settings& settings_;
   SystemApi& system_;
   MessageBoxes& messages_;
-  std::string folder_;
 };
 
 }  // namespace

@@ -39,7 +39,8 @@ struct InstallationResult {
 ///
 /// Settings are taken over as one save: at any moment they stand under one of the two names. They
 /// are the ones of the first registered installation that has settings and whose folder no longer
-/// holds the executable.
+/// holds the executable, or is this one under another name. A folder that cannot be reached has not
+/// lost it.
 /// An interrupted save must have been finished before.
 InstallationResult RunInstallationRule(const ProgramIdentity& identity, Settings& settings,
                                        SystemApi& system, MessageBoxes& messages,

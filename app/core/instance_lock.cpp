@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <string_view>
+#include <utility>
 
 #include "util/text.h"
 
@@ -29,18 +30,24 @@ std::string HexText(std::uint64_t value) {
 
 }  // namespace
 
-std::string InstanceLockName(const std::string& programFolder) {
-  std::string folder = UpperCase(programFolder);
-  while (folder.ends_with('\\')) folder.pop_back();
-  return "Local\\Korvale." + HexText(Hash(folder));
+std::vector<std::string> InstanceLockNames(const FolderIdentity& folder) {
+  std::vector<std::string> names = {"Local\\Korvale." + HexText(Hash(UpperCase(folder.path)))};
+  if (!folder.fileId.empty()) names.push_back("Local\\Korvale." + HexText(Hash(folder.fileId)));
+  return names;
 }
 
-InstanceLock::InstanceLock(SystemApi& system, const std::string& programFolder)
-    : mutex_(system.CreateMutexA(InstanceLockName(programFolder))) {}
+InstanceLock::InstanceLock(SystemApi& system, const FolderIdentity& folder) {
+  for (const std::string& name : InstanceLockNames(folder)) {
+    if (auto mutex = system.CreateMutexA(name)) wanted_.push_back(std::move(mutex));
+  }
+}
 
 bool InstanceLock::TryHold(std::uint32_t ms) {
-  if (!held_) held_ = mutex_ == nullptr || mutex_->WaitForSingleObject(ms);
-  return held_;
+  while (!wanted_.empty() && wanted_.front()->WaitForSingleObject(ms)) {
+    held_.push_back(std::move(wanted_.front()));
+    wanted_.erase(wanted_.begin());
+  }
+  return wanted_.empty();
 }
 
 }  // namespace korvale

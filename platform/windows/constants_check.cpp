@@ -7,6 +7,8 @@
 // The numbers that portable code passes must be those of the system.
 namespace korvale::win32 {
 
+static_assert(kErrorFileNotFound == ERROR_FILE_NOT_FOUND);
+static_assert(kErrorPathNotFound == ERROR_PATH_NOT_FOUND);
 static_assert(kGwOwner == GW_OWNER);
 static_assert(kGwChild == GW_CHILD);
 static_assert(kGwlWndProc == GWLP_WNDPROC);

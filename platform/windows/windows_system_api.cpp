@@ -46,6 +46,26 @@ std::wstring ModuleFileName() {
   }
 }
 
+std::string FinalPath(HANDLE folder) {
+  std::wstring path(GetFinalPathNameByHandleW(folder, nullptr, 0, VOLUME_NAME_DOS), L'\0');
+  const DWORD length = GetFinalPathNameByHandleW(folder, path.data(),
+                                                 static_cast<DWORD>(path.size()), VOLUME_NAME_DOS);
+  if (length >= path.size()) return "";
+  path.resize(length);
+  return ToUtf8(path);
+}
+
+/// Also over the network, where only this call asks the other computer for its own numbers.
+std::string FileId(HANDLE folder) {
+  BY_HANDLE_FILE_INFORMATION info{};
+  if (GetFileInformationByHandle(folder, &info) == FALSE) return "";
+  if (info.nFileIndexHigh == 0 && info.nFileIndexLow == 0) return "";
+  wchar_t text[32];
+  wsprintfW(text, L"%08x:%08x%08x", info.dwVolumeSerialNumber, info.nFileIndexHigh,
+            info.nFileIndexLow);
+  return ToUtf8(text);
+}
+
 /// One string of the version resource, in the first language that it has.
 std::string VersionString(const std::vector<std::byte>& resource, const wchar_t* name) {
   struct Translation {
@@ -125,6 +145,23 @@ void WindowsSystemApi::ShellExecuteA(WindowHandle hwnd, const std::string& verb,
 bool WindowsSystemApi::FileExists(const std::string& path) {
   const DWORD attributes = GetFileAttributesW(ToUtf16(path).c_str());
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+}
+
+FolderInfo WindowsSystemApi::GetFinalPathNameByHandleW(const std::string& folder) {
+  const std::wstring path = ToUtf16(folder);
+  constexpr DWORD kShare = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  const HANDLE opened = ::CreateFileW(path.c_str(), 0, kShare, nullptr, OPEN_EXISTING,
+                                      FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+  FolderInfo info;
+  if (opened == INVALID_HANDLE_VALUE) {
+    info.error = GetLastError();
+    info.isLink = GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
+    return info;
+  }
+  const UniqueKernelHandle handle(opened);
+  info.finalPath = FinalPath(handle.Get());
+  info.fileId = FileId(handle.Get());
+  return info;
 }
 
 std::unique_ptr<SystemMutex> WindowsSystemApi::CreateMutexA(const std::string& name) {

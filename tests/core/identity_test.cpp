@@ -55,6 +55,33 @@ TEST(IdentityTest, PathWithoutAFolderIsANameOnly) {
   EXPECT_EQ(identity.executableName, "Korvale.exe");
 }
 
+TEST(IdentityTest, FolderIsNamedAsTheDiskNamesItHoweverTheProgramWasStarted) {
+  CallLog log;
+  FakeSystem system(log);
+  system.files = {"C:\\Program Files\\Long Name\\Korvale.exe"};
+  system.links = {{"W:", "C:\\Program Files\\Long Name"},
+                  {"D:\\Junction", "C:\\Program Files\\Long Name"},
+                  {"C:\\PROGRA~1\\LONGNA~1", "C:\\Program Files\\Long Name"}};
+  for (const char* folder :
+       {"C:\\Program Files\\Long Name", "c:\\program files\\LONG NAME", "W:", "D:\\Junction",
+        "\\\\?\\C:\\Program Files\\Long Name", "C:\\PROGRA~1\\LONGNA~1"}) {
+    system.executablePath = std::string(folder) + "\\Korvale.exe";
+    const ProgramIdentity identity = ReadProgramIdentity(system);
+    EXPECT_EQ(identity.mainCaption, "Korvale - Long Name") << folder;
+    EXPECT_EQ(identity.installation.path, "C:\\Program Files\\Long Name") << folder;
+    EXPECT_EQ(identity.programFolder, std::string(folder) + "\\");
+  }
+}
+
+TEST(IdentityTest, FolderThatDoesNotTellItsPathIsNamedAsItWasStarted) {
+  CallLog log;
+  FakeSystem system(log);
+  system.executablePath = "\\\\?\\C:\\Work\\Korvale.exe";
+  system.unreachable = {{"C:\\Work", 5}};
+  EXPECT_EQ(ReadProgramIdentity(system).mainCaption, "Korvale - Work");
+  EXPECT_EQ(ReadProgramIdentity(system).installation.path, "C:\\Work");
+}
+
 TEST(FolderNameTest, LeavesClosingBackslashesAside) {
   EXPECT_EQ(FolderName("D:\\Tools\\Work"), "Work");
   EXPECT_EQ(FolderName("D:\\Tools\\Work\\\\"), "Work");

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/run_time_error.h"
 #include "tests/core/stored_values.h"
 
 namespace korvale {
@@ -52,6 +53,81 @@ TEST_F(InstallationTest, FolderThatWasMovedKeepsItsSettings) {
 TEST_F(InstallationTest, OwnFolderInAnotherSpellingIsNoOtherInstallation) {
   Register(store_, kWork, "d:\\TOOLS\\work\\");
   EXPECT_FALSE(Run().mustEnd);
+}
+
+TEST_F(InstallationTest, OwnFolderUnderAnotherPathIsNoOtherInstallation) {
+  system_.links = {{"C:\\Junction", "D:\\Tools"}};
+  system_.shares = {{"\\\\server\\tools", "D:\\Tools"}};
+  StoreSettings(store_, kWork);
+  for (const char* folder :
+       {"C:\\Junction\\Work", "\\\\server\\tools\\Work", "\\\\?\\D:\\Tools\\Work"}) {
+    Register(store_, kWork, folder);
+    EXPECT_FALSE(Run().mustEnd) << folder;
+    EXPECT_EQ(Registered(kWork), "D:\\Tools\\Work");
+  }
+  EXPECT_TRUE(messages_.shown.empty());
+}
+
+TEST_F(InstallationTest, StartUnderAnotherPathIsTheSameInstallation) {
+  StoreSettings(store_, kWork);
+  Register(store_, kWork, "D:\\Tools\\Work");
+  system_.links = {{"W:", "D:\\Tools\\Work"}};
+  system_.executablePath = "W:\\Korvale.exe";
+  identity_ = ReadProgramIdentity(system_);
+  EXPECT_FALSE(Run().firstRun);
+  EXPECT_EQ(Registered(kWork), "D:\\Tools\\Work");
+  EXPECT_TRUE(messages_.shown.empty());
+}
+
+TEST_F(InstallationTest, SettingsOfAFolderThatIsAwayAreNotOffered) {
+  constexpr std::uint32_t kNotReady = 21;
+  constexpr std::uint32_t kBadNetPath = 53;
+  StoreSettings(store_, kOld);
+  system_.unreachable = {{"E:", kNotReady}, {"\\\\server", kBadNetPath}};
+  for (const char* folder : {"E:\\Old", "Q:\\Old", "\\\\server\\tools\\Old"}) {
+    Register(store_, kOld, folder);
+    EXPECT_EQ(Run().lastAnswer, 0) << folder;
+    EXPECT_EQ(Registered(kOld), folder);
+  }
+  EXPECT_TRUE(messages_.shown.empty());
+}
+
+TEST_F(InstallationTest, SettingsOfTheOwnFolderUnderAnotherNameAreOffered) {
+  StoreSettings(store_, "Korvale - WORK~1");
+  system_.links = {{"D:\\TOOLS\\WORK~1", "D:\\Tools\\Work"}};
+  Register(store_, "Korvale - WORK~1", "D:\\TOOLS\\WORK~1");
+  messages_.answers = {kYes};
+  EXPECT_EQ(Run().lastAnswer, kYes);
+  EXPECT_EQ(Registered("Korvale - WORK~1"), std::nullopt);
+}
+
+/// Refuses the values of one key until it is told otherwise.
+class RefusingKey : public FakeSettingsStore {
+ public:
+  explicit RefusingKey(const FakeSettingsStore& store) : FakeSettingsStore(store) {}
+  bool SaveSetting(const std::string& appName, const std::string& section, const std::string& key,
+                   const std::string& value) override {
+    if (refusing && appName == kWork && section == "Startup" && key == "Tips") return false;
+    return FakeSettingsStore::SaveSetting(appName, section, key, value);
+  }
+  bool refusing = true;
+};
+
+TEST_F(InstallationTest, ImportThatIsRefusedAValueLeavesTheOtherInstallationAsItIs) {
+  StoreSettings(store_, kOld);
+  Register(store_, kOld, "D:\\Tools\\Old");
+  const StoredValues old = ValuesOf(store_, kOld);
+  RefusingKey store(store_);
+  messages_.answers = {kYes};
+  EXPECT_THROW(RunOn(store), RunTimeError);
+  EXPECT_EQ(ValuesOf(store, kOld), old);
+  EXPECT_EQ(store.GetSetting(kInstallationRegister, "0", kOld), "D:\\Tools\\Old");
+
+  store.refusing = false;
+  Settings(store, kWork).FinishInterruptedSave();
+  EXPECT_EQ(store.GetSetting(kWork, "Startup", "Tips"), "11");
+  EXPECT_EQ(ValuesOf(store, kOld), StoredValues());
+  EXPECT_EQ(store.GetSetting(kInstallationRegister, "0", kOld), std::nullopt);
 }
 
 TEST_F(InstallationTest, RootOfADriveIsAnInstallation) {

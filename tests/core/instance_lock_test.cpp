@@ -7,29 +7,42 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "tests/fakes/fake_system.h"
 
 namespace korvale {
 namespace {
 
-TEST(InstanceLockNameTest, IsTheSameForEverySpellingOfAFolder) {
-  const std::string name = InstanceLockName("D:\\Tools\\W\xc3\xb6rk\\");
-  EXPECT_EQ(InstanceLockName("d:\\TOOLS\\w\xc3\x96RK\\"), name);
-  EXPECT_EQ(InstanceLockName("D:\\Tools\\W\xc3\xb6rk"), name);
+using Names = std::vector<std::string>;
+
+TEST(InstanceLockNamesTest, AreTheSameInAnyCase) {
+  const Names names = InstanceLockNames({"D:\\Tools\\W\xc3\xb6rk", ""});
+  EXPECT_EQ(names.size(), 1U);
+  EXPECT_EQ(InstanceLockNames({"d:\\TOOLS\\w\xc3\x96RK", ""}), names);
 }
 
-TEST(InstanceLockNameTest, DiffersBetweenFolders) {
-  EXPECT_NE(InstanceLockName("D:\\Tools\\Work\\"), InstanceLockName("D:\\Tools\\Home\\"));
-  EXPECT_NE(InstanceLockName("C:\\Work\\"), InstanceLockName("D:\\Work\\"));
+TEST(InstanceLockNamesTest, DifferBetweenFolders) {
+  EXPECT_NE(InstanceLockNames({"D:\\Tools\\Work", ""}), InstanceLockNames({"D:\\Tools\\Home", ""}));
+  EXPECT_NE(InstanceLockNames({"C:\\Work", ""}), InstanceLockNames({"D:\\Work", ""}));
 }
 
-TEST(InstanceLockNameTest, BelongsToTheSessionAndHoldsNoPath) {
-  const std::string name = InstanceLockName("D:\\Tools\\Work\\");
+TEST(InstanceLockNamesTest, HaveOneInCommonForTheSameFolderUnderAnotherPath) {
+  const Names names = InstanceLockNames({"D:\\Work", "1:2"});
+  const Names others = InstanceLockNames({"\\\\server\\data\\Work", "1:2"});
+  ASSERT_EQ(names.size(), 2U);
+  ASSERT_EQ(others.size(), 2U);
+  EXPECT_NE(others[0], names[0]);
+  EXPECT_EQ(others[1], names[1]);
+}
+
+TEST(InstanceLockNamesTest, BelongToTheSessionAndHoldNoPath) {
   const std::string prefix = "Local\\Korvale.";
-  ASSERT_TRUE(name.starts_with(prefix)) << name;
-  EXPECT_EQ(name.find_first_not_of("0123456789abcdef", prefix.size()), std::string::npos) << name;
-  EXPECT_EQ(name.size(), prefix.size() + 16);
+  for (const std::string& name : InstanceLockNames({"D:\\Tools\\Work", "1:2"})) {
+    ASSERT_TRUE(name.starts_with(prefix)) << name;
+    EXPECT_EQ(name.find_first_not_of("0123456789abcdef", prefix.size()), std::string::npos) << name;
+    EXPECT_EQ(name.size(), prefix.size() + 16);
+  }
 }
 
 /// Copies of the program in one session.
@@ -42,8 +55,8 @@ class InstanceLockTest : public testing::Test {
 };
 
 TEST_F(InstanceLockTest, OneCopyAtATimeHoldsIt) {
-  std::optional<InstanceLock> first(std::in_place, firstSystem_, "D:\\Work\\");
-  InstanceLock second(secondSystem_, "D:\\WORK\\");
+  std::optional<InstanceLock> first(std::in_place, firstSystem_, FolderIdentity{"D:\\Work", ""});
+  InstanceLock second(secondSystem_, FolderIdentity{"D:\\WORK", ""});
   EXPECT_TRUE(first->TryHold(0));
   EXPECT_TRUE(first->TryHold(0));
   EXPECT_FALSE(second.TryHold(500));
@@ -52,16 +65,25 @@ TEST_F(InstanceLockTest, OneCopyAtATimeHoldsIt) {
 }
 
 TEST_F(InstanceLockTest, IsHeldOnceTheOtherCopyLetsGoDuringTheWait) {
-  std::optional<InstanceLock> first(std::in_place, firstSystem_, "D:\\Work\\");
-  InstanceLock second(secondSystem_, "D:\\Work\\");
+  std::optional<InstanceLock> first(std::in_place, firstSystem_, FolderIdentity{"D:\\Work", ""});
+  InstanceLock second(secondSystem_, FolderIdentity{"D:\\Work", ""});
   ASSERT_TRUE(first->TryHold(0));
   session_->WhenWaiting([&] { first.reset(); });
   EXPECT_TRUE(second.TryHold(500));
 }
 
+TEST_F(InstanceLockTest, OneCopyAtATimeHoldsItUnderAnotherPathToTheFolder) {
+  std::optional<InstanceLock> first(std::in_place, firstSystem_, FolderIdentity{"D:\\Work", "1:2"});
+  InstanceLock second(secondSystem_, FolderIdentity{"\\\\server\\data\\Work", "1:2"});
+  EXPECT_TRUE(first->TryHold(0));
+  EXPECT_FALSE(second.TryHold(0));
+  first.reset();
+  EXPECT_TRUE(second.TryHold(0));
+}
+
 TEST_F(InstanceLockTest, OtherInstallationsDoNotMatter) {
-  InstanceLock work(firstSystem_, "D:\\Work\\");
-  InstanceLock home(secondSystem_, "D:\\Home\\");
+  InstanceLock work(firstSystem_, FolderIdentity{"D:\\Work", ""});
+  InstanceLock home(secondSystem_, FolderIdentity{"D:\\Home", ""});
   EXPECT_TRUE(work.TryHold(0));
   EXPECT_TRUE(home.TryHold(0));
 }
@@ -84,7 +106,7 @@ class CountingSystem : public FakeSystem {
 
 TEST_F(InstanceLockTest, IsNotTakenTwice) {
   CountingSystem system(log_);
-  InstanceLock lock(system, "D:\\Work\\");
+  InstanceLock lock(system, FolderIdentity{"D:\\Work", ""});
   EXPECT_TRUE(lock.TryHold(0));
   EXPECT_TRUE(lock.TryHold(0));
   EXPECT_EQ(system.waits, 1);
@@ -92,7 +114,7 @@ TEST_F(InstanceLockTest, IsNotTakenTwice) {
 
 TEST_F(InstanceLockTest, CountsAsHeldWhenTheSystemGivesNoObject) {
   firstSystem_.refuseMutexes = true;
-  InstanceLock lock(firstSystem_, "D:\\Work\\");
+  InstanceLock lock(firstSystem_, FolderIdentity{"D:\\Work", ""});
   EXPECT_TRUE(lock.TryHold(0));
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/win32_constants.h"
 #include "util/text.h"
 
 namespace korvale {
@@ -10,6 +11,38 @@ namespace {
 
 constexpr std::uint32_t kOsVersionInfoSizeA = 148;
 constexpr std::uint32_t kOsVersionInfoExSizeA = 156;
+
+std::string WithoutPrefix(std::string path) {
+  if (path.starts_with("\\\\?\\UNC\\")) return "\\" + path.substr(7);
+  if (path.starts_with("\\\\?\\")) path.erase(0, 4);
+  while (path.ends_with('\\')) path.pop_back();
+  return path;
+}
+
+bool IsBelow(const std::string& path, const std::string& folder) {
+  return path.size() >= folder.size() && EqualsIgnoreCase(path.substr(0, folder.size()), folder) &&
+         (path.size() == folder.size() || path[folder.size()] == '\\');
+}
+
+/// The path with a folder instead of another spelling of it at the beginning.
+std::string InPlaceOf(const std::map<std::string, std::string>& spellings, std::string path) {
+  for (const auto& [spelling, folder] : spellings) {
+    if (IsBelow(path, spelling)) path = folder + path.substr(spelling.size());
+  }
+  return path;
+}
+
+/// The folder in the spelling of the disk; "" when there is no such folder.
+std::string Spelled(const std::set<std::string>& files, const std::set<std::string>& drives,
+                    const std::string& folder) {
+  for (const std::string& drive : drives) {
+    if (EqualsIgnoreCase(drive, folder)) return drive;
+  }
+  for (const std::string& file : files) {
+    if (file.size() > folder.size() && IsBelow(file, folder)) return file.substr(0, folder.size());
+  }
+  return "";
+}
 
 }  // namespace
 
@@ -85,8 +118,39 @@ void FakeSystem::ShellExecuteA(WindowHandle hwnd, const std::string& verb, const
 
 bool FakeSystem::FileExists(const std::string& path) {
   log_.AddRead("FileExists(" + path + ")");
-  return std::ranges::any_of(files,
-                             [&](const std::string& file) { return EqualsIgnoreCase(file, path); });
+  const std::string real = InPlaceOf(shares, RealPath(path));
+  return Reach(WithoutPrefix(path)) == 0 && Reach(RealPath(path)) == 0 &&
+         std::ranges::any_of(files,
+                             [&](const std::string& file) { return EqualsIgnoreCase(file, real); });
+}
+
+FolderInfo FakeSystem::GetFinalPathNameByHandleW(const std::string& folder) {
+  log_.AddRead("GetFinalPathNameByHandleW(" + folder + ")");
+  const std::string path = RealPath(folder);
+  const std::string real = InPlaceOf(shares, path);
+  const std::string spelled = Spelled(files, drives, real);
+  std::uint32_t error = Reach(WithoutPrefix(folder));
+  if (error == 0) error = Reach(path);
+  if (error == 0 && spelled.empty()) {
+    const std::string above = real.substr(0, real.find_last_of('\\'));
+    error = Spelled(files, drives, above).empty() ? win32::kErrorPathNotFound
+                                                  : win32::kErrorFileNotFound;
+  }
+  // The letter of a substituted drive is nothing that a folder lists.
+  if (error != 0) return {error, "", "", links.contains(folder) && folder.size() > 2};
+  if (path != real) return {0, "\\\\?\\UNC" + path.substr(1), "id of " + spelled, false};
+  return {0, "\\\\?\\" + spelled + (spelled.size() == 2 ? "\\" : ""), "id of " + spelled, false};
+}
+
+std::string FakeSystem::RealPath(const std::string& path) const {
+  return InPlaceOf(links, WithoutPrefix(path));
+}
+
+std::uint32_t FakeSystem::Reach(const std::string& path) const {
+  for (const auto& [place, error] : unreachable) {
+    if (IsBelow(path, place)) return error;
+  }
+  return 0;
 }
 
 std::unique_ptr<SystemMutex> FakeSystem::CreateMutexA(const std::string& name) {

@@ -62,6 +62,7 @@ class FakeSystem : public SystemApi {
   void ShellExecuteA(WindowHandle hwnd, const std::string& verb, const std::string& file,
                      int showCommand) override;
   bool FileExists(const std::string& path) override;
+  FolderInfo GetFinalPathNameByHandleW(const std::string& folder) override;
   std::unique_ptr<SystemMutex> CreateMutexA(const std::string& name) override;
   void SetUnhandledExceptionFilter(std::function<void(const Crash&)> filter) override {
     crashFilter = std::move(filter);
@@ -73,11 +74,23 @@ class FakeSystem : public SystemApi {
   OsVersion osVersion{2, 10};
   std::string windowsFolder = "C:\\Windows";
   std::set<std::string> files;
+  /// Drives that are there.
+  std::set<std::string> drives = {"C:", "D:"};
+  /// Other spellings (substituted drive, junction, short name) -> folder, which the system
+  /// resolves.
+  std::map<std::string, std::string> links;
+  /// Shares of folders: another path to the same folder, which the system does not resolve.
+  std::map<std::string, std::string> shares;
+  /// Drives, computers and shares that cannot be reached, and what trying comes to.
+  std::map<std::string, std::uint32_t> unreachable;
   bool refuseMutexes = false;
   /// Called for a crash of the program; empty when there is none.
   std::function<void(const Crash&)> crashFilter;
 
  private:
+  std::string RealPath(const std::string& path) const;
+  std::uint32_t Reach(const std::string& path) const;
+
   CallLog& log_;
   std::shared_ptr<FakeSession> session_;
   int program_;

@@ -31,6 +31,7 @@ class SystemOfTest : public SystemApi {
                       std::to_string(showCommand));
   }
   bool FileExists(const std::string& /*path*/) override { return false; }
+  FolderInfo GetFinalPathNameByHandleW(const std::string& /*folder*/) override { return {}; }
   std::unique_ptr<SystemMutex> CreateMutexA(const std::string& /*name*/) override { return {}; }
 
   OsVersion version_;
