@@ -131,6 +131,7 @@ void WindowActions::RestoreAll() {
 void WindowActions::SetTopmost(WindowHandle hwnd, bool topmost) {
   std::uint32_t flags = win32::kSwpNoSize | win32::kSwpNoMove;
   if (windows_->IsHungAppWindow(hwnd)) flags |= win32::kSwpAsyncWindowPos;
+  if (!windows_->IsWindowVisible(hwnd)) flags |= win32::kSwpNoActivate;
   commands_->SetWindowPos(hwnd, topmost ? win32::kHwndTopmost : win32::kHwndNoTopmost, 0, 0, 0, 0,
                           flags);
 }

@@ -45,7 +45,7 @@ class WindowActions {
   void RestoreAll();
 
   /// Makes a window topmost or not, without moving it or waiting for it when it hangs
-  /// (SetWindowPos).
+  /// (SetWindowPos). A hidden window is not activated.
   void SetTopmost(WindowHandle hwnd, bool topmost);
 
   /// ShowWindow, without waiting for a window that hangs.

@@ -45,6 +45,7 @@ inline constexpr WindowHandle kHwndNoTopmost = -2;
 inline constexpr WindowHandle kHwndTop = 0;
 inline constexpr std::uint32_t kSwpNoSize = 0x0001;
 inline constexpr std::uint32_t kSwpNoMove = 0x0002;
+inline constexpr std::uint32_t kSwpNoActivate = 0x0010;
 inline constexpr std::uint32_t kSwpAsyncWindowPos = 0x4000;
 
 // RegisterHotKey

@@ -170,7 +170,9 @@ bool FakeDesktop::SetWindowPos(WindowHandle hwnd, WindowHandle insertAfter, int 
     if (insertAfter == win32::kHwndTopmost) windows_.SetTopmost(hwnd, true);
     if (insertAfter == win32::kHwndNoTopmost) windows_.SetTopmost(hwnd, false);
   }
-  if ((flags & fakes::kSwpNoActivate) == 0 && windows_.IsVisible(hwnd)) windows_.Activate(hwnd);
+  // A hidden window of the program that calls is activated as well.
+  const bool reachable = windows_.IsVisible(hwnd) || window->process != kOtherProcess;
+  if ((flags & fakes::kSwpNoActivate) == 0 && reachable) windows_.Activate(hwnd);
   return true;
 }
 

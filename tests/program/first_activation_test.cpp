@@ -147,6 +147,28 @@ TEST_F(FirstActivationTest, AlwaysOnTopIsAppliedAtTheFirstActivation) {
   EXPECT_TRUE(korvale.WindowMenuItems().front().checked);
 }
 
+TEST_F(FirstActivationTest, AlwaysOnTopUsesUpNothingOfTheFirstActivation) {
+  store.SaveSetting("Korvale - Work", "Startup", "AlwaysOnTop", "True");
+  Open("Alpha");
+  KorvaleCopy& korvale = UsedCopy();
+  EXPECT_TRUE(korvale.Start());
+  EXPECT_TRUE(korvale.Parts().state.firstActivation);
+  EXPECT_EQ(korvale.TargetWindow(), "Alpha");
+  PressTag(0);
+  EXPECT_EQ(Front(), "Alpha");
+}
+
+TEST_F(FirstActivationTest, AlwaysOnTopLeavesThePreviousWindowToBeSelected) {
+  store.SaveSetting("Korvale - Work", "Startup", "AlwaysOnTop", "True");
+  store.SaveSetting("Korvale - Work", "Options", "SelectPrevWinOnStart", "True");
+  Open("Alpha");
+  KorvaleCopy& korvale = StartedCopy();
+  EXPECT_EQ(Front(), "Alpha");
+  WorkIn(Open("Beta"));
+  WorkIn(korvale.Handle());
+  EXPECT_EQ(Front(), "Korvale - Work");
+}
+
 TEST_F(FirstActivationTest, TheWindowInFrontBeforeTheStartIsThePreviousWindow) {
   Open("Below");
   Open("Alpha", {.className = "AlphaClass"});
