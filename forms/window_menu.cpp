@@ -48,6 +48,7 @@ MenuItem& WindowMenu::Item(const char* name, int index) {
 void WindowMenu::mnuWindow_Click() {
   parts_.tracker.tmrWindow_Timer();
   parts_.tracker.ValidatePreviousWindow();
+  parts_.tracker.udmRefreshAlwaysOnTopMenuChecked();
 
   MenuItem& addThis = Item("mnuWindowAddToList", kThisWindow);
   addThis.caption = Trim(addThis.caption);

@@ -42,6 +42,15 @@ TEST_F(WindowMenuOpeningTest, KnowsTheWindowInFrontBeforeTheNextTick) {
   EXPECT_EQ(Front(), "Alpha");
 }
 
+TEST_F(WindowMenuOpeningTest, MarksAWindowThatHasMadeItselfTopmost) {
+  const WindowHandle alpha = Open("Alpha");
+  KorvaleCopy& korvale = StartedAfter(alpha);
+  desktop.SetWindowPos(alpha, win32::kHwndTopmost, 0, 0, 0, 0, 3 | win32::kSwpNoActivate);
+  EXPECT_TRUE(korvale.WindowMenuItems()[1].checked);
+  desktop.SetWindowPos(alpha, win32::kHwndNoTopmost, 0, 0, 0, 0, 3 | win32::kSwpNoActivate);
+  EXPECT_FALSE(korvale.WindowMenuItems()[1].checked);
+}
+
 TEST_F(WindowMenuOpeningTest, TheMinimizedWindowInFrontIsRestoredAndNothingElse) {
   const WindowHandle alpha = Open("Alpha");
   KorvaleCopy& korvale = StartedAfter(alpha);
