@@ -200,8 +200,6 @@ void StartUp::FirstActivation(frmMain& form) {
     AskToReviewHotKeys(form);
     if (!form.IsLoaded()) return;
   }
-  // The user has come to the main window from another one, as he does by a click on it.
-  parts.tracker.LookAnew();
   parts.state.firstActivation = true;
 }
 
@@ -210,14 +208,24 @@ void StartUp::RecordPreviousWindow(frmMain& form) {
   const WindowHandle before = parts.enumeration.FindTopWindow([&](WindowHandle hwnd) {
     return parts.tracker.AcceptForeground(hwnd, GetWindowTitle(platform_->windows, hwnd));
   });
-  if (before == 0) {
-    return;
+  if (before != 0) {
+    parts.tracker.MoveRecordTo({before, GetWindowTitle(platform_->windows, before),
+                                GetWindowClass(platform_->windows, before)});
+    parts.tracker.ValidatePreviousWindow();
   }
-  parts.previous.current = {before, GetWindowTitle(platform_->windows, before),
-                            GetWindowClass(platform_->windows, before)};
-  parts.tracker.ValidatePreviousWindow();
-  if (parts.options.Get().booSelectPrevWinOnStart) {
-    parts.actions.ActivateWindow(parts.previous.current, false, true);
+  // The user has come to the main window from another one, as they do by a click on it.
+  parts.tracker.LookAnew();
+  if (before != 0 && parts.options.Get().booSelectPrevWinOnStart) {
+    SelectPreviousWindow(form);
+  }
+}
+
+void StartUp::SelectPreviousWindow(frmMain& form) {
+  MainParts& parts = form.Parts();
+  parts.tracker.LookAtForeground();
+  WindowTriple previous = parts.previous.current;
+  if (parts.actions.ActivateWindow(previous, false, true) == kActivationDone) {
+    parts.tracker.RecordSelection(previous);
   }
 }
 

@@ -32,6 +32,7 @@ class StartUp : public ProgramLifetime {
   void PrepareMenusAndTimers(frmMain& form);
   void InstallHotKeys(frmMain& form);
   void RecordPreviousWindow(frmMain& form);
+  void SelectPreviousWindow(frmMain& form);
   void AskToReviewHotKeys(frmMain& form);
 
   Platform* platform_;

@@ -8,6 +8,7 @@
 #include "desktop/tag_list.h"
 #include "desktop/window_actions.h"
 #include "desktop/window_filter.h"
+#include "desktop/worked_windows.h"
 #include "platform/types.h"
 #include "platform/window_api.h"
 
@@ -22,12 +23,26 @@ class ForegroundTracker {
   /// The tick of tmrWindow; also called when the Window menu opens.
   void tmrWindow_Timer();
 
+  /// Takes the foreground window of now into the record, as the tick does, so that nothing is lost
+  /// between two ticks; called before a hot key's action.
+  void LookAtForeground();
+
   /// Makes the next tick look at the foreground window as if it had just come to the front; called
   /// once the main window has come up in front of the window that the user worked in.
   void LookAnew();
 
-  /// Falls back to the alternate window when the Previous Window cannot be activated any more, then
-  /// shows the record in the main window.
+  /// The window that the user has in front (GetForegroundWindow); 0 while that is the main window
+  /// for its popped-up menu alone.
+  WindowHandle WindowInFront();
+
+  /// The window to bring forward when `closing`, a window of ours, goes: the one that was in front
+  /// before it, else the one last worked in. 0 when `closing` is not in front, or nothing is left.
+  WindowHandle WindowBehind(WindowHandle closing);
+
+  /// Fills the record with the windows last worked in that can be activated now.
+  void UpdateRecord();
+
+  /// Updates the record, then shows it in the main window.
   void ValidatePreviousWindow();
 
   /// Sets both always-on-top check marks from the windows' real state.
@@ -37,13 +52,24 @@ class ForegroundTracker {
   /// allow it, or else a Tag identifies it, which then takes its handle.
   bool AcceptForeground(WindowHandle hwnd, const std::string& title);
 
-  /// Makes `window` the Previous Window. The window before it, or the main window when that was the
-  /// tracked one, becomes the alternate.
+  /// The user is in `window` now. Unless that is the main window, it becomes the Previous Window,
+  /// and the window before it, or the main window when that had the focus, the alternate.
   void MoveRecordTo(const WindowTriple& window);
 
+  /// Moves the record to a window that was just brought to the front (SetForegroundWindow), which
+  /// Windows may do a moment later.
+  void RecordSelection(const WindowTriple& window);
+
+  /// The main window was in front for its popped-up menu alone and may stay there for a moment.
+  void PopUpClosed();
+
  private:
-  void ShowRecord(bool valid);
-  bool HasLeftSelectionUnseen(WindowHandle foreground);
+  void NoteInFront(WindowHandle foreground);
+  bool IsGone(const WindowTriple& window);
+  bool CanBeActivated(const WindowTriple& window);
+  bool CanComeBack(WindowHandle hwnd);
+  WindowTriple Recorded(const WindowTriple* window);
+  void ShowRecord();
 
   WindowQueries* windows_;
   const WindowFilter* filter_;
@@ -51,10 +77,15 @@ class ForegroundTracker {
   MainWindow* mainWindow_;
   PreviousWindow* previous_;
   TagList* tags_;
+  WorkedWindows worked_;
+  /// The window that the user was seen in last.
   WindowHandle lastSeen_ = 0;
   bool firstTick_ = true;
-  /// The last tick has not seen the selected window yet.
-  bool selectionUnseen_ = false;
+  /// The window in front when the record was moved by a selection.
+  WindowHandle leftBySelection_ = 0;
+  /// What was in front last and before that, followed or not.
+  WindowHandle inFront_ = 0;
+  WindowHandle inFrontBefore_ = 0;
 };
 
 }  // namespace korvale

@@ -15,7 +15,7 @@ struct WindowTriple {
   friend bool operator==(const WindowTriple&, const WindowTriple&) = default;
 };
 
-/// The record of the window that Tag 0 stands for.
+/// The record of the window that Tag 0 stands for. It never holds one window twice.
 struct PreviousWindow {
   /// The Previous Window; its text is its title as last read.
   WindowTriple current;
@@ -24,9 +24,17 @@ struct PreviousWindow {
   WindowTriple alternate;
   /// The last foreground window that was not the main window.
   WindowHandle lastOtherForeground = 0;
-  /// A selection has moved the record already; the tick that sees the selected window come to the
-  /// front does not move it once more.
+  /// A selection has moved the record already, or the main window was in front for its menu alone:
+  /// the next tick may still find the window in front that is on its way to the back.
   bool menuSelection = false;
+  /// Outside the main window Tag 0 stands for the alternate, as the user is in the current window;
+  /// not when the window that they were in is gone.
+  bool tagZeroIsAlternate = true;
+
+  /// The window of Tag 0; `mainInFront` = the main window has the focus.
+  WindowTriple& OfTagZero(bool mainInFront) {
+    return mainInFront || !tagZeroIsAlternate ? current : alternate;
+  }
 };
 
 }  // namespace korvale

@@ -89,27 +89,23 @@ bool WindowActions::BringForward(WindowHandle hwnd) {
   return !windows_->IsIconic(hwnd) || ShowDesktopWindow(hwnd, win32::kSwRestore);
 }
 
-void WindowActions::MinimizeOrMaximizeForeground(std::string_view hotKeyName) {
-  if (hotKeyName != kMinimizeHotKey && hotKeyName != kRestoreMaximizeHotKey) return;
+WindowTriple WindowActions::MinimizeOrMaximizeForeground(std::string_view hotKeyName) {
+  if (hotKeyName != kMinimizeHotKey && hotKeyName != kRestoreMaximizeHotKey) return {};
   const TimerPause pause(*mainWindow_);
   const WindowHandle hwnd = windows_->GetForegroundWindow();
-  if (hwnd == 0) return;
-  if (hotKeyName == kMinimizeHotKey) {
-    MinimizeForeground(hwnd);
-  } else {
-    MaximizeOrRestoreForeground(hwnd);
-  }
+  if (hwnd == 0) return {};
+  if (hotKeyName == kMinimizeHotKey) return MinimizeForeground(hwnd);
+  MaximizeOrRestoreForeground(hwnd);
+  return {};
 }
 
-void WindowActions::MinimizeForeground(WindowHandle hwnd) {
-  if (!CanBeSized(*windows_, hwnd, win32::kWsMinimizeBox)) return;
+WindowTriple WindowActions::MinimizeForeground(WindowHandle hwnd) {
+  if (!CanBeSized(*windows_, hwnd, win32::kWsMinimizeBox)) return {};
   const WindowHandle owner = GetRelatedWindow(*windows_, hwnd, 2);
   ShowDesktopWindow(owner != 0 ? owner : hwnd, win32::kSwMinimize);
-  const bool mainInFront = mainWindow_->FocusTag() == kGotFocus;
-  WindowTriple& next = mainInFront ? previous_->current : previous_->alternate;
-  if (windows_->IsWindowVisible(next.handle) && !windows_->IsIconic(next.handle)) {
-    ActivateWindow(next, false, true);
-  }
+  WindowTriple& next = previous_->OfTagZero(mainWindow_->FocusTag() == kGotFocus);
+  if (!windows_->IsWindowVisible(next.handle) || windows_->IsIconic(next.handle)) return {};
+  return ActivateWindow(next, false, true) == kActivationDone ? next : WindowTriple{};
 }
 
 void WindowActions::MaximizeOrRestoreForeground(WindowHandle hwnd) {

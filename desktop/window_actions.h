@@ -36,7 +36,8 @@ class WindowActions {
   ActivationResult ActivateWindow(WindowTriple& window, bool reportFailure, bool act);
 
   /// `hotKeyName` is HOTKEY_MINIMIZE_PARENT or HOTKEY_RESTORE/MAXIMIZE_PARENT; others do nothing.
-  void MinimizeOrMaximizeForeground(std::string_view hotKeyName);
+  /// Returns the window that came forward in the place of a minimized one, all empty without one.
+  WindowTriple MinimizeOrMaximizeForeground(std::string_view hotKeyName);
 
   /// Minimizes every window of the desktop that can be minimized, with the timers stopped.
   void MinimizeAll();
@@ -57,7 +58,7 @@ class WindowActions {
   bool RestoreIconicOwner(WindowHandle hwnd);
   void RefreshRecordedTitle(WindowHandle hwnd, std::string& text);
   bool BringForward(WindowHandle hwnd);
-  void MinimizeForeground(WindowHandle hwnd);
+  WindowTriple MinimizeForeground(WindowHandle hwnd);
   void MaximizeOrRestoreForeground(WindowHandle hwnd);
 
   WindowQueries* windows_;

@@ -150,7 +150,12 @@ void frmMain::mnuWindowParentList_Click(std::int16_t Index) {
 
 void frmMain::PopUpWindowMenu() { platform_->host.TrackPopupMenuEx(Handle(), Menu("mnuWindow")); }
 
-void frmMain::SetWindowMenuTag(const std::string& tag) { Menu("mnuWindow").tag = tag; }
+void frmMain::SetWindowMenuTag(const std::string& tag) {
+  Menu("mnuWindow").tag = tag;
+  if (!WindowMenuPoppedUp()) parts_.tracker.PopUpClosed();
+}
+
+bool frmMain::WindowMenuPoppedUp() { return Menu("mnuWindow").tag == kHotKeyWindowMenuPopup; }
 
 void frmMain::ShowTip(TipNumber number, const std::string& text, const std::string& title,
                       std::int16_t height) {

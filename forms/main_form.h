@@ -90,6 +90,7 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   std::string MainCaption() const override { return Caption(); }
   std::string FocusTag() const override { return Tag(); }
   void SetFocusTag(std::string_view tag) override { SetTag(tag); }
+  bool WindowMenuPoppedUp() override;
   void SetMainEnabled(bool enabled) override { SetEnabled(enabled); }
   TimerControl& tmrWindow() override { return tmrWindow_; }
   void udmTimersEnabled(bool booTrueFalse) override;
@@ -122,7 +123,7 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   std::int16_t OptionsTab() const override { return parts_.startup.OptionsTab; }
   void SetOptionsTab(std::int16_t tab) override { parts_.startup.OptionsTab = tab; }
   std::string ProgramTitle() const override { return parts_.identity.messageTitle; }
-  void OptionsDialogClosed() override { openOptions_ = nullptr; }
+  void OptionsDialogClosed() override;
 
  protected:
   void Form_Load() override;

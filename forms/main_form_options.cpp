@@ -1,3 +1,4 @@
+#include "desktop/foreground_return.h"
 #include "forms/main_form.h"
 
 namespace korvale {
@@ -12,6 +13,8 @@ void frmMain::udmOptions(const std::string& strMode) {
     return;
   }
   if (!optionsForm_.IsLoaded()) {
+    // Where the user is now they shall be again when the dialog closes.
+    parts_.tracker.LookAtForeground();
     optionsForm_.Load();
     optionsForm_.SetCaption(parts_.identity.productName + " - Options");
     openOptions_ = &optionsForm_;
@@ -20,7 +23,17 @@ void frmMain::udmOptions(const std::string& strMode) {
   parts_.display.ShowFormNonModal(optionsForm_, {}, this);
 }
 
-void frmMain::BringOptionsToFront() { parts_.display.ShowFormNonModal(*openOptions_, {}, this); }
+void frmMain::BringOptionsToFront() {
+  parts_.tracker.LookAtForeground();
+  parts_.display.ShowFormNonModal(*openOptions_, {}, this);
+}
+
+void frmMain::OptionsDialogClosed() {
+  openOptions_ = nullptr;
+  // Windows would bring the main window forward, which owns the dialog.
+  ReturnForegroundTo(platform_->windows, platform_->commands,
+                     parts_.tracker.WindowBehind(optionsForm_.Handle()));
+}
 
 void frmMain::HotKeysRegistered() {
   if (openOptions_ != nullptr) openOptions_->RefreshConflictLine();

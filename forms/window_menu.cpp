@@ -76,20 +76,27 @@ void WindowMenu::mnuWindowParentList_Click(std::int16_t Index) {
 }
 
 void WindowMenu::SelectPrevious() {
-  const bool inMainWindow = parts_.mainWindow.FocusTag() == kGotFocus;
-  parts_.actions.ActivateWindow(inMainWindow ? parts_.previous.current : parts_.previous.alternate,
-                                false, true);
+  parts_.tracker.UpdateRecord();
+  WindowTriple window = parts_.previous.OfTagZero(parts_.mainWindow.FocusTag() == kGotFocus);
+  if (parts_.actions.ActivateWindow(window, false, true) == kActivationDone) {
+    parts_.tracker.RecordSelection(window);
+  }
 }
 
 void WindowMenu::SelectTag(MenuItem& entry, std::size_t slot) {
-  const WindowHandle foreground = parts_.windows.GetForegroundWindow();
+  const WindowHandle foreground = parts_.tracker.WindowInFront();
   if (TagHandle(entry) == foreground && foreground != 0) {
     if (parts_.windows.IsIconic(foreground)) {
       parts_.actions.ShowDesktopWindow(foreground, win32::kSwRestore);
     }
     return;
   }
-  TellOutcome(entry, slot, ActivateOrSearch(entry, slot));
+  const ActivationResult result = ActivateOrSearch(entry, slot);
+  if (result != kActivationDone) {
+    TellFailure(entry, slot, result);
+  } else if (TagHandle(entry) != foreground) {
+    MoveRecordToSelected(entry);
+  }
 }
 
 ActivationResult WindowMenu::ActivateTag(MenuItem& entry, std::size_t slot, bool reportFailure,
@@ -118,11 +125,10 @@ ActivationResult WindowMenu::ActivateOrSearch(MenuItem& entry, std::size_t slot)
   return ActivateTag(entry, slot, false, true);
 }
 
-void WindowMenu::TellOutcome(MenuItem& entry, std::size_t slot, ActivationResult result) {
+void WindowMenu::TellFailure(MenuItem& entry, std::size_t slot, ActivationResult result) {
   const std::string window = InBrackets(IdentificationText(entry));
   switch (result) {
     case kActivationDone:
-      MoveRecordToSelected(entry);
       break;
     case kWindowNotEnabled:
       parts_.messages.ShowMessageBox(window + "  is not enabled, and currently cannot be selected.",
@@ -140,12 +146,8 @@ void WindowMenu::TellOutcome(MenuItem& entry, std::size_t slot, ActivationResult
 
 void WindowMenu::MoveRecordToSelected(const MenuItem& entry) {
   const WindowHandle selected = TagHandle(entry);
-  if (selected == parts_.mainWindow.MainHandle()) {
-    return;
-  }
-  parts_.tracker.MoveRecordTo({selected, GetWindowTitle(parts_.windows, selected),
-                               GetWindowClass(parts_.windows, selected)});
-  parts_.previous.menuSelection = true;
+  parts_.tracker.RecordSelection({selected, GetWindowTitle(parts_.windows, selected),
+                                  GetWindowClass(parts_.windows, selected)});
 }
 
 void WindowMenu::mnuWindowAddToList_Click(std::int16_t Index) {

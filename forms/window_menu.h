@@ -62,7 +62,7 @@ class WindowMenu {
   void SelectTag(MenuItem& entry, std::size_t slot);
   ActivationResult ActivateTag(MenuItem& entry, std::size_t slot, bool reportFailure, bool act);
   ActivationResult ActivateOrSearch(MenuItem& entry, std::size_t slot);
-  void TellOutcome(MenuItem& entry, std::size_t slot, ActivationResult result);
+  void TellFailure(MenuItem& entry, std::size_t slot, ActivationResult result);
   void MoveRecordToSelected(const MenuItem& entry);
   bool PreviousCanBeAdded();
   MenuItem& Item(const char* name, int index = -1);

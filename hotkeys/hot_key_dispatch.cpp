@@ -87,13 +87,7 @@ bool HotKeyDispatch::IsIdentified(const WindowTriple& window) {
 }
 
 void HotKeyDispatch::MakeTarget(const WindowTriple& window) {
-  if (window.handle == parts_.mainWindow.MainHandle()) {
-    parts_.mainWindow.SetFocusTag(kGotFocus);
-  } else {
-    parts_.tracker.MoveRecordTo(window);
-    parts_.previous.menuSelection = true;
-    parts_.tracker.udmRefreshAlwaysOnTopMenuChecked();
-  }
+  parts_.tracker.MoveRecordTo(window);
   parts_.tracker.ValidatePreviousWindow();
 }
 
@@ -110,17 +104,28 @@ void HotKeyDispatch::Perform(const std::string& name) {
   if (tag >= 0) {
     SelectTag(tag);
   } else if (name == kHotKeyMinimizeParent || name == kHotKeyRestoreMaximizeParent) {
-    parts_.windowActions.MinimizeOrMaximizeForeground(name);
+    MinimizeOrMaximize(name);
   } else if (name == kHotKeyDisplayOptions) {
     ShowOptions();
   } else if (name == kHotKeyWindowMenuPopup) {
+    parts_.tracker.LookAtForeground();
     PopUpWindowMenu();
   } else if (name == kHotKeyToggleHotKeys && !IsFormLoaded(parts_.forms, "frmKeys2List")) {
     parts_.toggle.ToggleHotKeys(kToggleFromHotKey);
   }
 }
 
+void HotKeyDispatch::MinimizeOrMaximize(const std::string& name) {
+  parts_.tracker.LookAtForeground();
+  const WindowTriple next = parts_.windowActions.MinimizeOrMaximizeForeground(name);
+  if (next.handle == 0) return;
+  parts_.tracker.RecordSelection(next);
+  parts_.tracker.ValidatePreviousWindow();
+}
+
 void HotKeyDispatch::SelectTag(int tag) {
+  // The user may have changed windows since the last tick.
+  parts_.tracker.LookAtForeground();
   const std::int16_t index = ToInt16(tag);
   if (parts_.tagPasses.TagListPass(TagListMode::kExists, index) != -1 &&
       parts_.actions.HasTagCaption(index)) {

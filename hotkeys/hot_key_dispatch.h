@@ -61,6 +61,7 @@ class HotKeyDispatch {
   void MakeTarget(const WindowTriple& window);
   void ShowNotRecognized(const std::string& title);
   void Perform(const std::string& name);
+  void MinimizeOrMaximize(const std::string& name);
   void SelectTag(int tag);
   void ShowOptions();
   void PopUpWindowMenu();

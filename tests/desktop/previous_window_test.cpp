@@ -46,19 +46,34 @@ TEST_F(PreviousWindowValidation, FallsBackWhenTheWindowIsDisabledOrHidden) {
   desktop.SetEnabled(gamma, false);
   tracker.ValidatePreviousWindow();
   EXPECT_EQ(previous.current, Triple(beta));
-  previous.alternate = Triple(alpha);
+  EXPECT_EQ(previous.alternate, Triple(alpha));
   desktop.Hide(beta);
   tracker.ValidatePreviousWindow();
   EXPECT_EQ(previous.current, Triple(alpha));
 }
 
-TEST_F(PreviousWindowValidation, EndsInNothingWhenTheAlternateIsTheMainWindow) {
+TEST_F(PreviousWindowValidation, TakesADisabledWindowBackOnceTheUserIsInItAgain) {
+  WorkIn(alpha);
+  WorkIn(beta);
+  const WindowHandle dialog = desktop.OpenModalDialog(beta, "Save As");
+  WorkIn(dialog);
+  tracker.ValidatePreviousWindow();
+  EXPECT_EQ(previous.current, Triple(alpha));
+  desktop.CloseModalDialog(dialog);
+  WorkIn(beta);
+  EXPECT_EQ(previous.current, Triple(beta));
+  EXPECT_EQ(previous.alternate, Triple(alpha));
+}
+
+TEST_F(PreviousWindowValidation, GoesBackBehindTheMainWindow) {
   WorkIn(alpha);
   WorkIn(mainWindow.handle);
   WorkIn(beta);
   desktop.Close(beta);
   tracker.ValidatePreviousWindow();
-  ExpectNothing();
+  EXPECT_EQ(previous.current, Triple(alpha));
+  EXPECT_EQ(previous.alternate, Triple(mainWindow.handle));
+  EXPECT_TRUE(mainWindow.previousWindowItems);
 }
 
 TEST_F(PreviousWindowValidation, EndsInNothingWhenTheAlternateIsGoneToo) {
@@ -98,105 +113,6 @@ TEST_F(PreviousWindowValidation, NeverShowsAMessage) {
   tracker.ValidatePreviousWindow();
   ExpectNothing();
   EXPECT_TRUE(messages.shown.empty());
-}
-
-class RecordMoves : public ForegroundTracking {};
-
-TEST_F(RecordMoves, WindowBeforeBecomesTheAlternate) {
-  WorkIn(alpha);
-  tracker.MoveRecordTo(Triple(beta));
-  EXPECT_EQ(previous.current, Triple(beta));
-  EXPECT_EQ(previous.alternate, Triple(alpha));
-}
-
-TEST_F(RecordMoves, MainWindowBecomesTheAlternateWhileItIsInFront) {
-  WorkIn(alpha);
-  WorkIn(mainWindow.handle);
-  tracker.MoveRecordTo(Triple(beta));
-  EXPECT_EQ(previous.current, Triple(beta));
-  EXPECT_EQ(previous.alternate, Triple(mainWindow.handle));
-  EXPECT_EQ(mainWindow.focusTag, "");
-}
-
-TEST_F(RecordMoves, AlternateItselfMayBecomeTheCurrentOne) {
-  WorkIn(alpha);
-  WorkIn(beta);
-  tracker.MoveRecordTo(previous.alternate);
-  EXPECT_EQ(previous.current, Triple(alpha));
-  EXPECT_EQ(previous.alternate, Triple(beta));
-}
-
-class RecordMovedBySelection : public ForegroundTracking {
- protected:
-  /// What a selection does: the record moves, then the window comes to the front.
-  void Select(WindowHandle hwnd) {
-    tracker.MoveRecordTo(Triple(hwnd));
-    previous.menuSelection = true;
-    desktop.UserActivates(hwnd);
-  }
-};
-
-TEST_F(RecordMovedBySelection, IsNotMovedOnceMoreByTheTick) {
-  WorkIn(alpha);
-  Select(beta);
-  tracker.tmrWindow_Timer();
-  EXPECT_EQ(previous.current, Triple(beta));
-  EXPECT_EQ(previous.alternate, Triple(alpha));
-}
-
-TEST_F(RecordMovedBySelection, FromTheMainWindowKeepsItAsTheAlternate) {
-  WorkIn(alpha);
-  WorkIn(mainWindow.handle);
-  Select(beta);
-  tracker.tmrWindow_Timer();
-  EXPECT_EQ(previous.alternate, Triple(mainWindow.handle));
-}
-
-TEST_F(RecordMovedBySelection, StillHasItsMarkRefreshedByTheTick) {
-  desktop.Windows().Find(beta)->exStyle = win32::kWsExTopmost;
-  Select(beta);
-  tracker.tmrWindow_Timer();
-  EXPECT_TRUE(mainWindow.previousAlwaysOnTop);
-}
-
-TEST_F(RecordMovedBySelection, IsMovedByTheTickWhenAnotherWindowCameToTheFront) {
-  WorkIn(alpha);
-  Select(beta);
-  WorkIn(gamma);
-  EXPECT_EQ(previous.current, Triple(gamma));
-  EXPECT_EQ(previous.alternate, Triple(beta));
-  EXPECT_FALSE(previous.menuSelection);
-}
-
-TEST_F(RecordMovedBySelection, IsMovedByTheNextChangeAfterIt) {
-  Select(alpha);
-  tracker.tmrWindow_Timer();
-  WorkIn(beta);
-  WorkIn(alpha);
-  EXPECT_EQ(previous.current, Triple(alpha));
-  EXPECT_EQ(previous.alternate, Triple(beta));
-}
-
-TEST_F(RecordMovedBySelection, LetsTheUserLeaveTheMainWindowForTheSelectedOne) {
-  WorkIn(alpha);
-  desktop.UserActivates(beta);
-  Select(alpha);
-  tracker.tmrWindow_Timer();
-  WorkIn(mainWindow.handle);
-  WorkIn(alpha);
-  EXPECT_EQ(mainWindow.focusTag, "");
-  EXPECT_EQ(previous.alternate, Triple(mainWindow.handle));
-}
-
-TEST_F(RecordMovedBySelection, IsMovedBackWhenTheUserReturnedBeforeTheTick) {
-  WorkIn(alpha);
-  Select(beta);
-  desktop.UserActivates(alpha);
-  tracker.tmrWindow_Timer();
-  EXPECT_EQ(previous.current, Triple(beta));
-  tracker.tmrWindow_Timer();
-  EXPECT_EQ(previous.current, Triple(alpha));
-  EXPECT_EQ(previous.alternate, Triple(beta));
 }
 
 class AlwaysOnTopMarks : public ForegroundTracking {

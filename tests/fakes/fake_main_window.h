@@ -32,6 +32,7 @@ class FakeMainWindow : public MainWindow {
   std::string MainCaption() const override { return caption; }
   std::string FocusTag() const override { return focusTag; }
   void SetFocusTag(std::string_view tag) override { focusTag = tag; }
+  bool WindowMenuPoppedUp() override { return windowMenuPoppedUp; }
   void SetMainEnabled(bool enabled) override {
     mainEnabled = enabled;
     Log(enabled ? "SetMainEnabled(true)" : "SetMainEnabled(false)");
@@ -56,6 +57,7 @@ class FakeMainWindow : public MainWindow {
   WindowHandle handle = 0;
   std::string caption = "Korvale - Work";
   std::string focusTag;
+  bool windowMenuPoppedUp = false;
   bool mainEnabled = true;
   FakeTimer timer;
   std::string txtWindow;

@@ -53,6 +53,7 @@ void SimulatedLife::Note(std::string what) {
 
 void SimulatedLife::StartKorvale() {
   korvale_ = &NewCopy();
+  workedIn_.ForgetAll();
   korvale_->host.SetIdle([this] { return LiveInDialog(); });
   noMoreBoxes_ = false;
   WaitForBoxes();

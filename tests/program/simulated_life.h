@@ -12,6 +12,7 @@
 #include "tests/program/dice.h"
 #include "tests/program/korvale_world.h"
 #include "tests/program/simulated_programs.h"
+#include "tests/program/worked_in.h"
 
 namespace korvale {
 
@@ -39,10 +40,9 @@ class SimulatedLife : public KorvaleWorld {
   /// What a selection may depend on, right before it.
   struct Before {
     int tag = 0;
-    PreviousWindow record;
-    bool mainInFront = false;
     WindowHandle foreground = 0;
-    WindowHandle tagHandle = 0;
+    /// Where the user works, 0 when that is not certain.
+    WindowHandle present = 0;
     std::size_t boxes = 0;
     /// Windows that are out of sight, minimized or hung.
     std::set<WindowHandle> folded = {};
@@ -64,6 +64,7 @@ class SimulatedLife : public KorvaleWorld {
   static const std::vector<Step>& Steps();
   void OtherPrograms();
   void PassTime();
+  void Wait(int milliseconds);
   void TakeCombination();
   const RegisteredHotKey* Registered(const std::string& name);
   void Press(const RegisteredHotKey& hotKey);
@@ -93,8 +94,8 @@ class SimulatedLife : public KorvaleWorld {
   void CheckSelection(const Before& before);
   void CheckSelectedTag(const Before& before, const MenuItem& entry);
   void CheckPreviousSelected(const Before& before);
-  void ExpectRecordKept(const Before& before);
-  bool IsValid(const WindowTriple& window);
+  bool IsFollowed(WindowHandle hwnd);
+  bool CanBeSelected(WindowHandle hwnd);
   bool IsExcused(const Before& before, WindowHandle hwnd);
   void CheckAlways();
   void CheckHotKeys();
@@ -102,6 +103,7 @@ class SimulatedLife : public KorvaleWorld {
   Kept Keeps();
   void CheckSaving();
 
+  WorkedIn workedIn_{desktop.Windows()};
   std::unique_ptr<Dice> dice_;
   std::unique_ptr<SimulatedPrograms> programs_;
   KorvaleCopy* korvale_ = nullptr;

@@ -37,13 +37,22 @@ const std::vector<SimulatedLife::Step>& SimulatedLife::Steps() {
 
 void SimulatedLife::OtherPrograms() {
   Note("a program " + programs_->Act());
-  if (!dice_->OneIn(3)) clock.Advance(100);
+  if (!dice_->OneIn(3)) Wait(100);
 }
 
 void SimulatedLife::PassTime() {
   const int milliseconds = 50 * (1 + dice_->Below(8));
   Note(std::to_string(milliseconds) + " ms pass");
+  Wait(milliseconds);
+}
+
+/// The main window may be in front for a moment after its menu was popped up.
+void SimulatedLife::Wait(int milliseconds) {
   clock.Advance(static_cast<std::uint64_t>(milliseconds));
+  const WindowHandle front = desktop.Windows().Foreground();
+  if (milliseconds >= (front == korvale_->Handle() ? 200 : 100) && IsFollowed(front)) {
+    workedIn_.Work(front);
+  }
 }
 
 void SimulatedLife::TakeCombination() {
@@ -69,7 +78,7 @@ void SimulatedLife::Press(const RegisteredHotKey& hotKey) {
 }
 
 void SimulatedLife::PressTagKey() {
-  const int tag = dice_->Below(10);
+  const int tag = dice_->OneIn(3) ? 0 : dice_->Below(10);
   const RegisteredHotKey* const hotKey =
       Registered(ParentHotKeyName(static_cast<std::int16_t>(tag)));
   if (hotKey == nullptr) return;

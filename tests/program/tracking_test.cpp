@@ -196,6 +196,9 @@ TEST_F(TrackingTest, WhenOnlyKorvaleIsLeftThereIsNoPreviousWindow) {
   desktop.UserActivates(korvale.Handle());
   desktop.Close(beta);
   LetTick();
+  ExpectPrevious(korvale, "Alpha");
+  desktop.Close(alpha);
+  LetTick();
   ExpectPrevious(korvale, "", false);
   EXPECT_EQ(korvale.Parts().previous.alternate, WindowTriple{});
 }

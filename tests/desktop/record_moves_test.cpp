@@ -1,0 +1,245 @@
+#include <gtest/gtest.h>
+
+#include "desktop/foreground_tracker.h"
+#include "platform/win32_constants.h"
+#include "tests/desktop/tracking_case.h"
+
+namespace korvale {
+namespace {
+
+class RecordMoves : public ForegroundTracking {};
+
+TEST_F(RecordMoves, WindowBeforeBecomesTheAlternate) {
+  WorkIn(alpha);
+  tracker.MoveRecordTo(Triple(beta));
+  EXPECT_EQ(previous.current, Triple(beta));
+  EXPECT_EQ(previous.alternate, Triple(alpha));
+}
+
+TEST_F(RecordMoves, MainWindowBecomesTheAlternateWhileItIsInFront) {
+  WorkIn(alpha);
+  WorkIn(mainWindow.handle);
+  tracker.MoveRecordTo(Triple(beta));
+  EXPECT_EQ(previous.current, Triple(beta));
+  EXPECT_EQ(previous.alternate, Triple(mainWindow.handle));
+  EXPECT_EQ(mainWindow.focusTag, "");
+}
+
+TEST_F(RecordMoves, AlternateItselfMayBecomeTheCurrentOne) {
+  WorkIn(alpha);
+  WorkIn(beta);
+  tracker.MoveRecordTo(previous.alternate);
+  EXPECT_EQ(previous.current, Triple(alpha));
+  EXPECT_EQ(previous.alternate, Triple(beta));
+}
+
+class RecordMovedBySelection : public ForegroundTracking {
+ protected:
+  /// What a selection does: the window comes to the front, then the record moves.
+  void Select(WindowHandle hwnd) {
+    desktop.UserActivates(hwnd);
+    tracker.RecordSelection(Triple(hwnd));
+  }
+  /// The same while Windows takes its time to bring the window to the front.
+  void SelectLate(WindowHandle hwnd) { tracker.RecordSelection(Triple(hwnd)); }
+};
+
+TEST_F(RecordMovedBySelection, IsNotMovedOnceMoreByTheTick) {
+  WorkIn(alpha);
+  Select(beta);
+  tracker.tmrWindow_Timer();
+  EXPECT_EQ(previous.current, Triple(beta));
+  EXPECT_EQ(previous.alternate, Triple(alpha));
+}
+
+TEST_F(RecordMovedBySelection, FromTheMainWindowKeepsItAsTheAlternate) {
+  WorkIn(alpha);
+  WorkIn(mainWindow.handle);
+  Select(beta);
+  tracker.tmrWindow_Timer();
+  EXPECT_EQ(previous.alternate, Triple(mainWindow.handle));
+}
+
+TEST_F(RecordMovedBySelection, HasItsMarkRefreshed) {
+  desktop.Windows().Find(beta)->exStyle = win32::kWsExTopmost;
+  Select(beta);
+  EXPECT_TRUE(mainWindow.previousAlwaysOnTop);
+}
+
+TEST_F(RecordMovedBySelection, IsMovedByTheTickWhenAnotherWindowCameToTheFront) {
+  WorkIn(alpha);
+  Select(beta);
+  WorkIn(gamma);
+  EXPECT_EQ(previous.current, Triple(gamma));
+  EXPECT_EQ(previous.alternate, Triple(beta));
+  EXPECT_FALSE(previous.menuSelection);
+}
+
+TEST_F(RecordMovedBySelection, IsMovedByTheNextChangeAfterIt) {
+  Select(alpha);
+  tracker.tmrWindow_Timer();
+  WorkIn(beta);
+  WorkIn(alpha);
+  EXPECT_EQ(previous.current, Triple(alpha));
+  EXPECT_EQ(previous.alternate, Triple(beta));
+}
+
+TEST_F(RecordMovedBySelection, LetsTheUserLeaveTheMainWindowForTheSelectedOne) {
+  WorkIn(alpha);
+  desktop.UserActivates(beta);
+  Select(alpha);
+  tracker.tmrWindow_Timer();
+  WorkIn(mainWindow.handle);
+  WorkIn(alpha);
+  EXPECT_EQ(mainWindow.focusTag, "");
+  EXPECT_EQ(previous.alternate, Triple(mainWindow.handle));
+}
+
+TEST_F(RecordMovedBySelection, IsMovedBackWhenTheUserReturnedBeforeTheTick) {
+  WorkIn(alpha);
+  Select(beta);
+  WorkIn(alpha);
+  EXPECT_EQ(previous.current, Triple(alpha));
+  EXPECT_EQ(previous.alternate, Triple(beta));
+}
+
+TEST_F(RecordMovedBySelection, IsNotMovedBackByATickBeforeTheWindowHasComeForward) {
+  WorkIn(alpha);
+  SelectLate(beta);
+  tracker.LookAtForeground();
+  tracker.tmrWindow_Timer();
+  EXPECT_EQ(previous.current, Triple(beta));
+  EXPECT_EQ(previous.alternate, Triple(alpha));
+  WorkIn(beta);
+  EXPECT_EQ(previous.current, Triple(beta));
+  EXPECT_EQ(previous.alternate, Triple(alpha));
+}
+
+TEST_F(RecordMovedBySelection, IsMovedBackWhenTheWindowNeverComesForward) {
+  WorkIn(alpha);
+  SelectLate(beta);
+  tracker.tmrWindow_Timer();
+  tracker.tmrWindow_Timer();
+  EXPECT_EQ(previous.current, Triple(alpha));
+}
+
+TEST_F(RecordMovedBySelection, ToTheMainWindowCountsAsItsFocusAtOnce) {
+  WorkIn(alpha);
+  WorkIn(mainWindow.handle);
+  WorkIn(beta);
+  Select(mainWindow.handle);
+  EXPECT_EQ(mainWindow.focusTag, kGotFocus);
+  EXPECT_EQ(previous.current, Triple(beta));
+}
+
+TEST_F(RecordMovedBySelection, OfTheCurrentWindowChangesNothing) {
+  WorkIn(alpha);
+  WorkIn(beta);
+  Select(beta);
+  EXPECT_EQ(previous.current, Triple(beta));
+  EXPECT_EQ(previous.alternate, Triple(alpha));
+}
+
+/// The windows worked in behind the record.
+class WindowsWorkedInBefore : public ForegroundTracking {
+ protected:
+  WindowTriple OfTagZero() { return previous.OfTagZero(mainWindow.focusTag == kGotFocus); }
+};
+
+TEST_F(WindowsWorkedInBefore, TakeThePlaceOfAClosedOne) {
+  WorkIn(alpha);
+  WorkIn(beta);
+  WorkIn(gamma);
+  desktop.Close(gamma);
+  WorkIn(beta);
+  EXPECT_EQ(previous.current, Triple(beta));
+  EXPECT_EQ(previous.alternate, Triple(alpha));
+}
+
+TEST_F(WindowsWorkedInBefore, AreMissedByNoneThatClosesBehindTheScenes) {
+  WorkIn(alpha);
+  WorkIn(beta);
+  WorkIn(gamma);
+  desktop.Close(beta);
+  tracker.tmrWindow_Timer();
+  EXPECT_EQ(previous.current, Triple(gamma));
+  EXPECT_EQ(previous.alternate, Triple(alpha));
+}
+
+TEST_F(WindowsWorkedInBefore, AreOneKeyAwayFromTheDesktopAfterTheWindowInFrontClosed) {
+  WorkIn(alpha);
+  WorkIn(beta);
+  WorkIn(gamma);
+  desktop.Close(gamma);
+  WorkIn(desktop.FindWindowA("Program Manager"));
+  EXPECT_EQ(previous.current, Triple(beta));
+  EXPECT_EQ(OfTagZero().handle, beta);
+}
+
+TEST_F(WindowsWorkedInBefore, CountFromTheRecordedWindowWhileAnotherKindIsInFront) {
+  WorkIn(alpha);
+  WorkIn(beta);
+  WorkIn(desktop.FindWindowA("Program Manager"));
+  EXPECT_EQ(OfTagZero().handle, alpha);
+}
+
+TEST_F(WindowsWorkedInBefore, AreShownAtOnceWhenThePreviousWindowCloses) {
+  WorkIn(alpha);
+  WorkIn(beta);
+  WorkIn(mainWindow.handle);
+  desktop.Close(beta);
+  tracker.tmrWindow_Timer();
+  EXPECT_EQ(mainWindow.txtWindow, "Alpha");
+}
+
+TEST_F(WindowsWorkedInBefore, HoldNoneTwice) {
+  WorkIn(alpha);
+  WorkIn(beta);
+  WorkIn(alpha);
+  WorkIn(beta);
+  desktop.Close(beta);
+  tracker.ValidatePreviousWindow();
+  EXPECT_EQ(previous.current, Triple(alpha));
+  EXPECT_EQ(previous.alternate, WindowTriple{});
+}
+
+class WindowMenuPoppedUp : public ForegroundTracking {
+ protected:
+  void SetUp() override {
+    ForegroundTracking::SetUp();
+    WorkIn(alpha);
+    WorkIn(beta);
+    desktop.UserActivates(mainWindow.handle);
+    mainWindow.windowMenuPoppedUp = true;
+    tracker.tmrWindow_Timer();
+  }
+
+  void CloseMenu() {
+    mainWindow.windowMenuPoppedUp = false;
+    tracker.PopUpClosed();
+  }
+};
+
+TEST_F(WindowMenuPoppedUp, GivesTheMainWindowNoFocus) {
+  EXPECT_EQ(mainWindow.focusTag, "");
+  EXPECT_EQ(previous.current, Triple(beta));
+  EXPECT_EQ(tracker.WindowInFront(), 0);
+}
+
+TEST_F(WindowMenuPoppedUp, LeavesNoTraceWhenTheForegroundGoesBackAMomentLate) {
+  CloseMenu();
+  tracker.tmrWindow_Timer();
+  WorkIn(beta);
+  EXPECT_EQ(mainWindow.focusTag, "");
+  EXPECT_EQ(previous.alternate, Triple(alpha));
+}
+
+TEST_F(WindowMenuPoppedUp, GivesTheMainWindowTheFocusWhenItStaysInFront) {
+  CloseMenu();
+  tracker.tmrWindow_Timer();
+  tracker.tmrWindow_Timer();
+  EXPECT_EQ(mainWindow.focusTag, kGotFocus);
+}
+
+}  // namespace
+}  // namespace korvale

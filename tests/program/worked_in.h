@@ -1,0 +1,58 @@
+#pragma once
+
+#include <map>
+#include <vector>
+
+#include "platform/types.h"
+#include "tests/fakes/fake_windows.h"
+
+namespace korvale {
+
+/// Where a user has worked, in order, as a bystander sees it. A window that was in front long
+/// enough was worked in for certain, one that was in front for a moment perhaps.
+class WorkedIn : private DesktopObserver {
+ public:
+  explicit WorkedIn(FakeWindows& windows) : windows_(&windows) { windows.AddObserver(*this); }
+  ~WorkedIn() override { windows_->RemoveObserver(*this); }
+  WorkedIn(const WorkedIn&) = delete;
+  WorkedIn& operator=(const WorkedIn&) = delete;
+
+  void ForgetAll() { times_.clear(); }
+  /// The user works in this window.
+  void Work(WindowHandle hwnd) { times_[hwnd] = {++now_, now_}; }
+
+  /// The windows worked in for certain after the last moment that this one was in front.
+  std::vector<WindowHandle> LaterThan(WindowHandle hwnd) const {
+    std::vector<WindowHandle> later;
+    const auto found = times_.find(hwnd);
+    const int last = found == times_.end() ? 0 : found->second.perhaps;
+    for (const auto& [window, times] : times_) {
+      if (times.certain > last) later.push_back(window);
+    }
+    return later;
+  }
+
+ private:
+  struct Times {
+    int certain = 0;
+    int perhaps = 0;
+  };
+
+  void OnForegroundChanged(WindowHandle foreground) override {
+    ++now_;
+    if (front_ != 0) times_[front_].perhaps = now_;
+    if (foreground != 0) times_[foreground].perhaps = now_;
+    front_ = foreground;
+  }
+  void OnDestroyed(WindowHandle hwnd) override {
+    times_.erase(hwnd);
+    if (front_ == hwnd) front_ = 0;
+  }
+
+  FakeWindows* windows_;
+  std::map<WindowHandle, Times> times_;
+  WindowHandle front_ = 0;
+  int now_ = 0;
+};
+
+}  // namespace korvale
