@@ -56,12 +56,17 @@ constexpr std::array kOptionRows = std::to_array<SettingRow<clsOptions>>({
     {kOptionsSection, "HotKeyGeneral2", OptionAt<&clsOptions::intHotKeyGeneral, 2>},
 });
 
+constexpr SettingRow<StartupSettings> PlaceRow(const char* key,
+                                               SettingField (*field)(StartupSettings&)) {
+  return {kStartupSection, key, field, OnImport::kDrop, -kFarthestPlace, kFarthestPlace};
+}
+
 constexpr std::array kStartupRows = std::to_array<SettingRow<StartupSettings>>({
     {kStartupSection, "WindowState", Startup<&StartupSettings::WindowState>, OnImport::kDrop, 0, 2},
-    {kStartupSection, "Left", Startup<&StartupSettings::Left>, OnImport::kDrop},
-    {kStartupSection, "Top", Startup<&StartupSettings::Top>, OnImport::kDrop},
-    {kStartupSection, "Width", Startup<&StartupSettings::Width>, OnImport::kDrop},
-    {kStartupSection, "Height", Startup<&StartupSettings::Height>, OnImport::kDrop},
+    PlaceRow("Left", Startup<&StartupSettings::Left>),
+    PlaceRow("Top", Startup<&StartupSettings::Top>),
+    PlaceRow("Width", Startup<&StartupSettings::Width>),
+    PlaceRow("Height", Startup<&StartupSettings::Height>),
     {kStartupSection, "AlwaysOnTop", Startup<&StartupSettings::AlwaysOnTop>},
     {kStartupSection, "WI1BackColor", Startup<&StartupSettings::WI1BackColor>},
     {kStartupSection, "WI2BackColor", Startup<&StartupSettings::WI2BackColor>},

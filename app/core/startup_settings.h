@@ -11,13 +11,16 @@ inline constexpr Color kDefaultTargetColor = 0x009FFFFF;
 inline constexpr Color kDefaultClassColor = 0x00AEFFAE;
 inline constexpr Color kDefaultLastColor = 0x00FFFFFF;
 
+/// No stored place or size is farther out, in twips: Windows counts screens in 16 bits of pixels.
+inline constexpr Twips kFarthestPlace = 32767 * 15;
+
 /// The main window's state as it is kept between runs. Lengths in twips.
 struct StartupSettings {
   std::int32_t WindowState = 0;  ///< 0 normal, 1 minimized, 2 maximized.
-  std::int16_t Left = -1;        ///< -1 = never stored.
-  std::int16_t Top = -1;         ///< -1 = never stored.
-  std::int16_t Width = 4500;
-  std::int16_t Height = 1100;
+  Twips Left = -1;               ///< -1 = never stored.
+  Twips Top = -1;                ///< -1 = never stored.
+  Twips Width = 4500;
+  Twips Height = 1100;
   bool AlwaysOnTop = false;
   Color WI1BackColor = kDefaultTargetColor;  ///< Background of txtWindow.
   Color WI2BackColor = kDefaultClassColor;   ///< Background of txtWindowClass.

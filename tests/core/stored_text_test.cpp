@@ -57,13 +57,26 @@ TEST_F(StoredTextTest, TextThatIsNoNumberGivesTheDefault) {
 }
 
 TEST_F(StoredTextTest, NumberOutsideSixteenBitsGivesTheDefault) {
-  StoreStartup("Left", "32767");
-  StoreStartup("Top", "-32768");
-  EXPECT_EQ(settings_.LoadStartup().Left, 32767);
-  EXPECT_EQ(settings_.LoadStartup().Top, -32768);
-  StoreStartup("Left", "32768");
-  StoreStartup("Top", "-32769");
+  StoreOption("HotKeyAction0", "32767");
+  StoreOption("HotKeyGeneral0", "-32768");
+  EXPECT_EQ(LoadedOptions().intHotKeyAction[0], 32767);
+  EXPECT_EQ(LoadedOptions().intHotKeyGeneral[0], -32768);
+  StoreOption("HotKeyAction0", "32768");
+  StoreOption("HotKeyGeneral0", "-32769");
+  EXPECT_EQ(LoadedOptions(), clsOptions());
+}
+
+TEST_F(StoredTextTest, APlaceBeyondAllScreensGivesTheDefault) {
+  StoreStartup("Left", "57600");
+  StoreStartup("Top", "-491505");
+  StoreStartup("Width", "115200");
+  EXPECT_EQ(settings_.LoadStartup().Left, 57600);
+  EXPECT_EQ(settings_.LoadStartup().Top, -491505);
+  EXPECT_EQ(settings_.LoadStartup().Width, 115200);
+  StoreStartup("Left", "491506");
+  StoreStartup("Top", "-2147483648");
   StoreStartup("Width", "99999999999999999999");
+  StoreStartup("Height", "2147483647");
   EXPECT_EQ(settings_.LoadStartup(), StartupSettings());
 }
 
