@@ -3,6 +3,7 @@
 #include "app/core/error_reporting.h"
 #include "app/core/installation.h"
 #include "desktop/window_readers.h"
+#include "forms/hot_key_lists.h"
 #include "forms/main_form_design.h"
 #include "hotkeys/suspension.h"
 #include "platform/win32_constants.h"
@@ -22,6 +23,7 @@ constexpr const char* kWhitespace = " \t\r\n\v\f";
 
 constexpr std::int16_t kOtherInstanceTipHeight = 5400;
 constexpr std::int16_t kCommandLineTipHeight = 2700;
+constexpr std::int16_t kRefusedHotKeysTipHeight = 3600;
 constexpr std::int16_t kHotKeysTab = 2;
 
 }  // namespace
@@ -50,6 +52,9 @@ void StartUp::Initialise(frmMain& form) {
       form.udmSaveOptions();
     });
   }
+  // Before the main window comes up and takes the user where he wants to be.
+  MentionRefusedHotKeys(form);
+  EndIfUnloaded(form);
 }
 
 /// The session may end while a message is shown.
@@ -184,6 +189,19 @@ void StartUp::PrepareMenusAndTimers(frmMain& form) {
 void StartUp::InstallHotKeys(frmMain& form) {
   form.Parts().hook.HookWindowProc("SET", form.Handle());
   form.Parts().hotKeys.SetHotKeys("SET");
+}
+
+void StartUp::MentionRefusedHotKeys(frmMain& form) {
+  const std::string refused = NotAvailableText(form.Parts().hotKeys.Registered());
+  if (refused.empty()) {
+    return;
+  }
+  form.ShowTip(
+      TipNumber::kHotKeysRefused,
+      "These hot keys are not available, because Windows or another program has them:  " + refused +
+          ".\r\rIf you wish, other hot keys can be chosen on the Hot Keys tab of the "
+          "Options dialog box  (Options... on the Tools menu).",
+      "TIP", kRefusedHotKeysTipHeight);
 }
 
 void StartUp::FirstActivation(frmMain& form) {

@@ -31,6 +31,7 @@ class StartUp : public ProgramLifetime {
   void LayOut(frmMain& form);
   void PrepareMenusAndTimers(frmMain& form);
   void InstallHotKeys(frmMain& form);
+  static void MentionRefusedHotKeys(frmMain& form);
   void RecordPreviousWindow(frmMain& form);
   void SelectPreviousWindow(frmMain& form);
   void AskToReviewHotKeys(frmMain& form);

@@ -46,6 +46,20 @@ std::string KeyText(std::int16_t key) {
   return choice == std::end(kKeys) ? "Key " + DecimalText(key) : choice->text;
 }
 
+/// The combinations of those hot keys that `chosen` picks, each once, with commas.
+template <typename Choose>
+std::string Listed(std::span<const RegisteredHotKey> registered, Choose chosen) {
+  std::vector<std::string> texts;
+  for (const RegisteredHotKey& hotKey : registered) {
+    if (!chosen(hotKey)) continue;
+    const std::string text = HotKeyText(hotKey.modifiers, hotKey.key);
+    if (std::ranges::find(texts, text) == texts.end()) texts.push_back(text);
+  }
+  std::string list;
+  for (const std::string& text : texts) list += list.empty() ? text : ", " + text;
+  return list;
+}
+
 }  // namespace
 
 std::span<const HotKeyChoice> ModifierChoices() { return kModifiers; }
@@ -75,6 +89,16 @@ std::string HotKeyText(std::int16_t modifiers, std::int16_t key) {
     if ((modifiers & choice.value) != 0) text.append(choice.text).append("+");
   }
   return text + KeyText(key);
+}
+
+std::string NotAvailableText(std::span<const RegisteredHotKey> registered) {
+  return Listed(registered, [](const RegisteredHotKey& hotKey) {
+    return !hotKey.accepted && !hotKey.chosenBefore;
+  });
+}
+
+std::string ChosenTwiceText(std::span<const RegisteredHotKey> registered) {
+  return Listed(registered, [](const RegisteredHotKey& hotKey) { return hotKey.chosenBefore; });
 }
 
 }  // namespace korvale

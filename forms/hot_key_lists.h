@@ -5,6 +5,7 @@
 #include <string>
 
 #include "forms/form.h"
+#include "hotkeys/hot_key_table.h"
 
 namespace korvale {
 
@@ -31,5 +32,11 @@ void SelectReleasedKey(Control& list, int& key, unsigned shift);
 /// A combination as the user reads it: "Alt+3", "Windows®+W", "Pause". `modifiers` is a sum of MOD_
 /// values.
 std::string HotKeyText(std::int16_t modifiers, std::int16_t key);
+
+/// The combinations that Windows refused because it has them itself or another program does, each
+/// once, as the user reads them: "Alt+3, Windows®+W". "" when there is none.
+std::string NotAvailableText(std::span<const RegisteredHotKey> registered);
+/// The combinations that more than one hot key has, likewise.
+std::string ChosenTwiceText(std::span<const RegisteredHotKey> registered);
 
 }  // namespace korvale

@@ -10,7 +10,7 @@ namespace {
 
 using enum ControlKind;
 
-constexpr Twips kRowHeight = 375;
+constexpr Twips kRowHeight = 360;
 
 /// Collects the rows of the form; every row goes into the container that was opened last.
 class Rows {
@@ -98,7 +98,7 @@ void AddGeneralPage(Rows& rows) {
 }
 
 void AddTag(Rows& rows, int tag) {
-  constexpr Twips kTagRowHeight = 315;
+  constexpr Twips kTagRowHeight = 285;
   const Twips left = tag < 5 ? 1800 : 7560;
   const Twips top = 285 + kTagRowHeight * (tag % 5);
   const TagText& text = kTags.at(static_cast<std::size_t>(tag));
@@ -136,33 +136,34 @@ void AddHotKeys(Rows& rows, const HotKeyGroup& group) {
 }
 
 void AddLegend(Rows& rows) {
-  rows.Add(kLabel, "lblLegendTitle", -1, "Legend:", "", {180, 4995, 750, 240});
+  rows.Add(kLabel, "lblLegendTitle", -1, "Legend:", "", {180, 4725, 750, 240});
   constexpr const char* kEnabled =
       " indicates Hot Key is Enabled -- Click to change this color -- use Shift+Click to reset to "
       "default ";
   constexpr const char* kDisabled = " indicates Hot Key is Disabled ";
-  rows.Add(kLabel, "lblLegend", 1, kEnabled, kEnabled, {990, 4980, 8700, 255},
+  rows.Add(kLabel, "lblLegend", 1, kEnabled, kEnabled, {990, 4710, 8700, 255},
            kNoPrefix | kClickable | kSingleBorder);
-  rows.Add(kLabel, "lblLegend", 0, kDisabled, kDisabled, {9810, 4980, 3660, 255}, kNoPrefix);
-  rows.Add(kLabel, "lblConflicts", -1, "", "", {180, 5280, 13200, 480},
+  rows.Add(kLabel, "lblLegend", 0, kDisabled, kDisabled, {9810, 4710, 3660, 255}, kNoPrefix);
+  // Room for three lines: a long list of refused hot keys, and what was chosen twice.
+  rows.Add(kLabel, "lblConflicts", -1, "", "", {180, 5010, 13200, 750},
            kNoPrefix | kWordWrap | kHidden);
 }
 
 void AddHotKeysPage(Rows& rows) {
   rows.Page(2);
-  rows.Frame("fraWindowSelection", "&Window Selection", 60, 2250);
+  rows.Frame("fraWindowSelection", "&Window Selection", 60, 2055);
   rows.Add(kDropDownList, "cboHotKeyModParent", -1, "",
            " key to hold down while pressing the number of a Tag  (Alt+W) ", {180, 285, 1380, 315});
   rows.Add(kLabel, "lblPlusParent", -1, "+", "", {1560, 323, 240, 240}, kCentered);
   for (int tag = 0; tag < 10; ++tag) AddTag(rows, tag);
   rows.Add(kLabel, "lblHotKeyTip", -1,
            "Tip: Alt+Tab and Alt+F4 are provided by the Windows® operating system.", "",
-           {180, 1935, 12000, 240}, kNoPrefix);
-  rows.Frame("fraWindowActions", "Window Action&s", 2370, 1050);
+           {180, 1770, 12000, 240}, kNoPrefix);
+  rows.Frame("fraWindowActions", "Window Action&s", 2175, 1020);
   AddHotKeys(rows,
              {"lblAction", "cboHotKeyModAction", "lblPlusAction", "lblKeyAction", "cboHotKeyAction",
               "lblActionNote", kActionNotes, " key to hold down  (Alt+S) "});
-  rows.Frame("fraGeneral", "&General", 3480, 1425);
+  rows.Frame("fraGeneral", "&General", 3255, 1380);
   AddHotKeys(rows,
              {"lblGeneral", "cboHotKeyModGeneral", "lblPlusGeneral", "lblKeyGeneral",
               "cboHotKeyGeneral", "lblGeneralNote", kGeneralNotes, " key to hold down  (Alt+G) "});
@@ -188,7 +189,8 @@ void AddButtons(Rows& rows) {
            {11400, kTop, 1215, 345}, kCancelButton);
   rows.Add(kButton, "cmdApply", -1, "&Apply", " Save  (Alt+A) ", {12690, kTop, 1215, 345});
   rows.Add(kButton, "cmdReset", -1, "Reset All Options to Default",
-           " gives every option its default value and saves it ", {105, kTop, 3000, 345});
+           " deletes the saved options and applies the default of every option ",
+           {105, kTop, 3000, 345});
   rows.Add(kTabStrip, "tabOptions", -1, "", " page of the options  (Ctrl+Tab) ",
            {105, 105, 13800, 6255});
 }

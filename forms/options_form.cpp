@@ -161,15 +161,16 @@ void frmOptions::PaintLabel(std::string_view label, int index, bool enabled) {
 }
 
 void frmOptions::RefreshConflictLine() {
-  std::string refused;
-  for (const RegisteredHotKey& hotKey : owner_->HotKeys().Registered()) {
-    if (hotKey.accepted) continue;
-    if (!refused.empty()) refused += ", ";
-    refused += HotKeyText(hotKey.modifiers, hotKey.key);
-  }
+  const std::vector<RegisteredHotKey>& registered = owner_->HotKeys().Registered();
+  const std::string refused = NotAvailableText(registered);
+  const std::string doubles = ChosenTwiceText(registered);
+  std::string text;
+  if (!refused.empty()) text = "Not available, in use by Windows or another program:  " + refused;
+  if (!refused.empty() && !doubles.empty()) text += '\r';
+  if (!doubles.empty()) text += "Chosen twice:  " + doubles;
   Control& line = Find("lblConflicts");
-  line.SetText(refused.empty() ? "" : "Not available, in use by another program:  " + refused);
-  line.SetVisible(!refused.empty());
+  line.SetText(text);
+  line.SetVisible(!text.empty());
 }
 
 void frmOptions::Form_KeyDown(int& key, unsigned shift) {

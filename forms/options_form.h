@@ -23,7 +23,8 @@ class frmOptions : public Form {
 
   /// Paints the label of each hot key: enabled ones in the legend's colour with a border.
   void udmRefreshHotKeyLabels();
-  /// Names the hot keys that the last registration was refused, or hides the line.
+  /// Names the hot keys that are not available since the last registration, and those that the user
+  /// chose twice; hides the line when there are none.
   void RefreshConflictLine();
 
  protected:

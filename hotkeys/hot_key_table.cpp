@@ -1,5 +1,6 @@
 #include "hotkeys/hot_key_table.h"
 
+#include <algorithm>
 #include <cstddef>
 
 #include "hotkeys/hot_key_names.h"
@@ -58,8 +59,11 @@ void HotKeyTable::AddHotKey(std::string_view name, std::int16_t modifiers, std::
   const auto count = static_cast<std::size_t>(hotKeyCount_);
   hotKeyNames_.resize(count);
   hotKeyNames_.back() = name;
+  const bool chosenBefore = std::ranges::any_of(registered_, [&](const RegisteredHotKey& other) {
+    return other.modifiers == modifiers && other.key == key;
+  });
   registered_.resize(count);
-  registered_.back() = {std::string(name), modifiers, key, false};
+  registered_.back() = {std::string(name), modifiers, key, false, chosenBefore};
   registered_.back().accepted = hotKeys_->RegisterHotKey(mainWindow_->MainHandle(), hotKeyCount_,
                                                          static_cast<std::uint32_t>(modifiers),
                                                          static_cast<std::uint32_t>(key));

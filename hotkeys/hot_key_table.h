@@ -16,8 +16,11 @@ struct RegisteredHotKey {
   std::string name;
   std::int16_t modifiers = 0;
   std::int16_t key = 0;
-  /// Whether Windows took it; false when another program owns the combination.
+  /// Whether Windows took it; false when Windows itself or another program owns the combination, or
+  /// another hot key of the table.
   bool accepted = false;
+  /// A hot key before this one in the table has the same combination.
+  bool chosenBefore = false;
 };
 
 /// The hot keys registered with the operating system. A hot key's identifier is its position in

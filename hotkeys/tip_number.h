@@ -10,6 +10,7 @@ enum class TipNumber : std::int32_t {
   kOtherInstance = 10,
   kHotKeysDeactivated = 14,
   kCommandLine = 17,
+  kHotKeysRefused = 18,
 };
 
 }  // namespace korvale

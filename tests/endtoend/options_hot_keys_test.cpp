@@ -121,8 +121,10 @@ TEST_F(OptionsHotKeys, ThatAnotherProgramHasAreNamedUntilItGivesThemBack) {
   std::optional<TestProgram> holder(std::in_place);
   ASSERT_TRUE(holder->TakeHotKey(TagKey(5)));
   ASSERT_TRUE(holder->TakeHotKey(kMenuKey));
+  installation_.settings().Set("Startup", "DisplayTips", "False");
   const OptionsDialog dialog = StartWithOptions(Page::kHotKeys);
-  EXPECT_EQ(dialog.ConflictLine(), "Not available, in use by another program:  Alt+5, Windows®+W");
+  EXPECT_EQ(dialog.ConflictLine(),
+            "Not available, in use by Windows or another program:  Alt+5, Windows®+W");
   holder.reset();
   ASSERT_TRUE(BecomesFree(TagKey(5)));
   ASSERT_TRUE(BecomesFree(kMenuKey));
@@ -131,6 +133,15 @@ TEST_F(OptionsHotKeys, ThatAnotherProgramHasAreNamedUntilItGivesThemBack) {
   ASSERT_TRUE(WorkIn(Open("Beta")));
   Press(TagKey(5));
   EXPECT_TRUE(InFront(alpha));
+}
+
+TEST_F(OptionsHotKeys, ThatTheUserChoseTwiceAreToldApartFromThoseOfOtherPrograms) {
+  const OptionsDialog dialog = StartWithOptions(Page::kHotKeys);
+  ASSERT_TRUE(Pick(dialog, List::kMaximizeKey, VK_DOWN, "DownArrow"));
+  ASSERT_TRUE(Apply(dialog));
+  const Window line = dialog.Label("Chosen twice");
+  ASSERT_TRUE(line);
+  EXPECT_EQ(line.Text(), "Chosen twice:  Alt+DownArrow");
 }
 
 }  // namespace

@@ -97,6 +97,8 @@ TEST_F(StartUp, ACopyFromAnotherFolderGivesATipAndRuns) {
   other.MarkAsUsed();
   other.SetOption("HotKeyModParent", "2");
   other.StoreTag(1, "Alpha", "Test.Window");
+  // The other hot keys are those of the first copy; that they are refused is told elsewhere.
+  other.settings().Set("Startup", "Tips", std::string(17, '1') + "0");
   RunningKorvale second(other);
   const Window tip = second.Form("frmMsgTip");
   ASSERT_TRUE(tip);
@@ -120,6 +122,27 @@ TEST_F(StartUp, AnArgumentGivesATipAndIsIgnored) {
   ASSERT_TRUE(InFront(tip));
   Press({0, VK_ESCAPE});
   EXPECT_TRUE(InFront(main()));
+}
+
+TEST_F(StartUp, HotKeysThatAnotherProgramHasAreNamedInATip) {
+  TestProgram holder;
+  ASSERT_TRUE(holder.TakeHotKey(kOptionsKey) && holder.TakeHotKey(kMenuKey));
+  installation_.MarkAsUsed();
+  installation_.SetOption("SelectPrevWinOnStart", "True");
+  const Window alpha = Open("Alpha");
+  ASSERT_TRUE(BringToFront(alpha));
+  korvale_.emplace(installation_);
+  const Window tip = korvale_->Form("frmMsgTip");
+  ASSERT_TRUE(tip);
+  EXPECT_EQ(LabelText(tip),
+            "These hot keys are not available, because Windows or another program has them:  "
+            "Windows®+O, Windows®+W.\r\rIf you wish, other hot keys can be chosen on the Hot Keys "
+            "tab of the Options dialog box  (Options... on the Tools menu).");
+  ASSERT_TRUE(InFront(tip));
+  Press({0, VK_ESCAPE});
+  EXPECT_TRUE(main().Visible());
+  EXPECT_TRUE(InFront(alpha));
+  EXPECT_TRUE(Target("Alpha"));
 }
 
 TEST_F(StartUp, BlanksAsArgumentsGiveNoTip) {

@@ -110,6 +110,7 @@ TEST_F(Toggle, TakesAKeyThatAnotherProgramHadAtTheStart) {
   const Window alpha = Open("Alpha");
   std::optional<TestProgram> holder(std::in_place);
   ASSERT_TRUE(holder->TakeHotKey(TagKey(5)));
+  installation_.settings().Set("Startup", "DisplayTips", "False");
   Start();
   const Window beta = Open("Beta");
   ASSERT_TRUE(WorkIn(beta));

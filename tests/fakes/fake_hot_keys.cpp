@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string>
+#include <string_view>
 
 #include "platform/win32_constants.h"
 
@@ -36,6 +37,12 @@ bool FakeHotKeys::RegisterForeign(std::uint32_t modifiers, std::uint32_t key) {
   if (IsTaken(modifiers, key)) return false;
   foreign_.emplace_back(modifiers, key);
   return true;
+}
+
+void FakeHotKeys::StartShell() {
+  for (const char key : std::string_view("0123456789ABCDEFGHIKLMNOPQRSTUVWXZ")) {
+    RegisterForeign(win32::kModWin, static_cast<std::uint32_t>(key));
+  }
 }
 
 void FakeHotKeys::ReleaseForeign(std::uint32_t modifiers, std::uint32_t key) {

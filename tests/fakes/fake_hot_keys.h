@@ -37,6 +37,8 @@ class FakeHotKeys : public HotKeyApi {
                         std::intptr_t lParam = 0);
   /// Another program takes a combination; false when it is taken already.
   bool RegisterForeign(std::uint32_t modifiers, std::uint32_t key);
+  /// The shell of Windows 10 and 11 starts: it takes Windows with nearly every letter and digit.
+  void StartShell();
   void ReleaseForeign(std::uint32_t modifiers, std::uint32_t key);
   /// Drops all that belongs to a window, as its destruction does.
   void ForgetWindow(WindowHandle hwnd);

@@ -73,6 +73,15 @@ TEST_F(FakeHotKeysTest, ACombinationBelongsToOneProgram) {
   EXPECT_TRUE(hot_keys_.RegisterHotKey(kMain, 1, win32::kModAlt, kDigit3));
 }
 
+TEST_F(FakeHotKeysTest, TheShellOwnsMostCombinationsWithTheWindowsKey) {
+  hot_keys_.StartShell();
+  for (const std::uint32_t key : {'O', 'W', '1'}) {
+    EXPECT_FALSE(hot_keys_.RegisterHotKey(kMain, 1, win32::kModWin, key));
+  }
+  EXPECT_TRUE(hot_keys_.RegisterHotKey(kMain, 1, win32::kModWin, 'J'));
+  EXPECT_TRUE(hot_keys_.RegisterHotKey(kMain, 2, win32::kModAlt, 'W'));
+}
+
 TEST_F(FakeHotKeysTest, ACombinationIsRegisteredOnceOnly) {
   EXPECT_TRUE(hot_keys_.RegisterHotKey(kMain, 1, win32::kModAlt, kDigit3));
   EXPECT_FALSE(hot_keys_.RegisterHotKey(kMain, 1, win32::kModAlt, kDigit3));

@@ -124,5 +124,17 @@ TEST_F(HotKeyListsTest, AKeyThatIsNotOfferedChangesNothing) {
   EXPECT_EQ(Keys().SelectedText(), "Q");
 }
 
+TEST(HotKeyTexts, NameWhatIsNotAvailableAndWhatWasChosenTwiceOnceEach) {
+  const std::vector<RegisteredHotKey> registered = {
+      {"a", 1, '3', false, false}, {"b", 1, '4', true, false},  {"c", 8, 'W', false, false},
+      {"d", 8, 'W', false, true},  {"e", 0, 0x13, true, false}, {"f", 0, 0x13, false, true},
+      {"g", 0, 0x13, false, true},
+  };
+  EXPECT_EQ(NotAvailableText(registered), "Alt+3, Windows®+W");
+  EXPECT_EQ(ChosenTwiceText(registered), "Windows®+W, Pause");
+  EXPECT_EQ(NotAvailableText({}), "");
+  EXPECT_EQ(ChosenTwiceText({}), "");
+}
+
 }  // namespace
 }  // namespace korvale

@@ -178,7 +178,26 @@ TEST_F(OptionsTest, NamesTheHotKeysThatWereRefused) {
   OpenDialog();
   EXPECT_TRUE(Shown(dialog_, "lblConflicts"));
   EXPECT_EQ(Text(dialog_, "lblConflicts"),
-            "Not available, in use by another program:  Alt+3, Windows®+W");
+            "Not available, in use by Windows or another program:  Alt+3, Windows®+W");
+}
+
+TEST_F(OptionsTest, NamesTheHotKeysThatTheUserChoseTwice) {
+  Record().intHotKeyModGeneral = {0, 0, 0};
+  Record().intHotKeyGeneral = {0x75, 0x75, 0x13};
+  table_.SetHotKeys("SET");
+  OpenDialog();
+  EXPECT_EQ(Text(dialog_, "lblConflicts"), "Chosen twice:  F6");
+}
+
+TEST_F(OptionsTest, NamesRefusedAndDoubleHotKeysOnLinesOfTheirOwn) {
+  keys_.StartShell();
+  Record().intHotKeyModAction = {0, 0};
+  Record().intHotKeyAction = {0x75, 0x75};
+  table_.SetHotKeys("SET");
+  OpenDialog();
+  EXPECT_EQ(Text(dialog_, "lblConflicts"),
+            "Not available, in use by Windows or another program:  Windows®+O, Windows®+W\r"
+            "Chosen twice:  F6");
 }
 
 TEST_F(OptionsTest, ShowsNoConflictLineWithoutAConflict) {
@@ -200,7 +219,8 @@ TEST_F(OptionsTest, BringsTheConflictLineUpToDateAfterReset) {
   OpenDialog();
   keys_.RegisterForeign(0, 0x13);
   Click(dialog_, "cmdReset");
-  EXPECT_EQ(Text(dialog_, "lblConflicts"), "Not available, in use by another program:  Pause");
+  EXPECT_EQ(Text(dialog_, "lblConflicts"),
+            "Not available, in use by Windows or another program:  Pause");
 }
 
 TEST_F(OptionsTest, IsNoWindowThatTheFilterTakesForOrdinary) {

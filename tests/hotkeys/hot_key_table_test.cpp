@@ -204,6 +204,20 @@ TEST_F(HotKeyTableTest, KeepsTheSlotOfAHotKeyThatWindowsRefused) {
   }
 }
 
+TEST_F(HotKeyTableTest, TellsACombinationThatTheUserChoseTwiceFromOneThatSomebodyElseHas) {
+  hotKeys.StartShell();
+  Options().intHotKeyModAction = {0, 0};
+  Options().intHotKeyAction = {0x77, 0x77};
+  table.SetHotKeys("SET");
+  for (const RegisteredHotKey& hotKey : table.Registered()) {
+    const bool shells =
+        hotKey.name == "HOTKEY_DISPLAY_OPTIONS" || hotKey.name == "HOTKEY_WINDOW_MENU_POPUP";
+    const bool second = hotKey.name == "HOTKEY_RESTORE/MAXIMIZE_PARENT";
+    EXPECT_EQ(hotKey.accepted, !shells && !second) << hotKey.name;
+    EXPECT_EQ(hotKey.chosenBefore, second) << hotKey.name;
+  }
+}
+
 TEST_F(HotKeyTableTest, RegistersARefusedHotKeyOnceItIsFree) {
   hotKeys.RegisterForeign(1, 0x31);
   table.SetHotKeys("SET");

@@ -153,8 +153,9 @@ TEST_F(HotKeysTest, SavingTheOptionsSwitchesThemOnAgain) {
   EXPECT_EQ(ToggleCaption(korvale), "Deactivate Hot Keys");
 }
 
-TEST_F(HotKeysTest, AKeyOfAnotherProgramIsLeftToItInSilenceAndTakenOnceItIsGivenBack) {
+TEST_F(HotKeysTest, AKeyOfAnotherProgramIsLeftToItAndTakenOnceItIsGivenBack) {
   hotKeys.RegisterForeign(win32::kModAlt, '1');
+  store.SaveSetting("Korvale - Work", "Startup", "DisplayTips", "False");
   KorvaleCopy& korvale = StartedWithTag(Open("Alpha"));
   EXPECT_EQ(hotKeys.Registered().size(), 14U);
   EXPECT_FALSE(korvale.Parts().hotKeys.Registered()[1].accepted);

@@ -198,10 +198,16 @@ TEST_F(InstancesTest, ACopyInAnotherFolderExplainsAndRunsWithItsOwnSettings) {
   store.SaveSetting("Korvale - Home", "Options", "HotKeyModParent", "2");
   std::string tip;
   ReadTip(home, tip);
+  std::string refused;
+  ReadTip(home, refused);
 
   EXPECT_TRUE(home.Start());
 
   EXPECT_EQ(tip, kOtherInstanceTip);
+  EXPECT_TRUE(refused.starts_with(
+      "These hot keys are not available, because Windows or another program has them:  "
+      "Alt+DownArrow, Alt+UpArrow, Windows®+O, Windows®+W, Pause."))
+      << refused;
   EXPECT_EQ(home.Parts().hotKeys.Registered().front().modifiers, 2);
   EXPECT_TRUE(home.Parts().hotKeys.Registered().front().accepted);
   EXPECT_TRUE(work.Form().IsLoaded());
@@ -213,6 +219,8 @@ TEST_F(InstancesTest, AMinimizedCopyInAnotherFolderIsMentionedToo) {
   KorvaleCopy& home = UsedCopy("Home");
   std::string tip;
   ReadTip(home, tip);
+  std::string refused;
+  ReadTip(home, refused);
   EXPECT_TRUE(home.Start());
   EXPECT_EQ(tip, kOtherInstanceTip);
 }
@@ -227,7 +235,7 @@ TEST_F(InstancesTest, WindowsThatOnlyLookLikeACopyGetNoTip) {
 TEST_F(InstancesTest, ASilencedTipIsNotShownAgain) {
   StartedCopy("Work");
   KorvaleCopy& home = UsedCopy("Home");
-  store.SaveSetting("Korvale - Home", "Startup", "Tips", "1111111110");
+  store.SaveSetting("Korvale - Home", "Startup", "Tips", "111111111011111110");
   EXPECT_TRUE(home.Start());
 }
 

@@ -96,7 +96,8 @@ TEST_F(OptionsExchangeInProgram, TheToggleTellsAnewWhichHotKeysAreNotAvailable) 
   hotKeys.RegisterForeign(1, 0x33);
   PressHotKey(0, 19);
   EXPECT_TRUE(dialog.Find("lblConflicts").Visible());
-  EXPECT_EQ(dialog.Find("lblConflicts").Text(), "Not available, in use by another program:  Alt+3");
+  EXPECT_EQ(dialog.Find("lblConflicts").Text(),
+            "Not available, in use by Windows or another program:  Alt+3");
 
   PressHotKey(0, 19);
   EXPECT_FALSE(dialog.Find("lblConflicts").Visible());

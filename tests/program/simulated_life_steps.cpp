@@ -184,7 +184,9 @@ void SimulatedLife::Restart() {
   Note("restarts Korvale");
   Kept before = Keeps();
   const TwipsRect place = korvale_->user.Place(korvale_->Handle());
-  const bool normal = korvale_->Form().WindowState() == ShowState::kNormal;
+  // A hidden menu bar that the keyboard has just brought up makes the strip higher for a moment.
+  const bool barAsChosen = korvale_->Form().State().menuShown == korvale_->Parts().startup.Menu;
+  const bool normal = korvale_->Form().WindowState() == ShowState::kNormal && barAsChosen;
   if (dice_->OneIn(2)) {
     desktop.UserActivates(korvale_->Handle());
     korvale_->user.PressCloseBox(korvale_->Handle());
@@ -202,6 +204,8 @@ void SimulatedLife::Restart() {
   }
   // The height follows from what the window shows.
   before.startup.Height = korvale_->Parts().startup.Height;
+  // The tip about refused hot keys may have been silenced.
+  before.startup.Tips = korvale_->Parts().startup.Tips;
   EXPECT_EQ(korvale_->Parts().startup, before.startup);
 }
 

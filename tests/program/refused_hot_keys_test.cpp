@@ -1,0 +1,91 @@
+#include "platform/win32_constants.h"
+#include "tests/program/start_test.h"
+
+namespace korvale {
+namespace {
+
+constexpr const char* kShellsTip =
+    "These hot keys are not available, because Windows or another program has them:  Windows®+O, "
+    "Windows®+W.\r\rIf you wish, other hot keys can be chosen on the Hot Keys tab of the Options "
+    "dialog box  (Options... on the Tools menu).";
+
+using RefusedHotKeys = StartTest;
+
+TEST_F(RefusedHotKeys, AreNamedOnceTheyHaveBeenRegistered) {
+  hotKeys.StartShell();
+  KorvaleCopy& korvale = UsedCopy();
+  std::string tip;
+  ReadTip(korvale, tip);
+
+  EXPECT_TRUE(korvale.Start());
+
+  EXPECT_EQ(tip, kShellsTip);
+  EXPECT_EQ(Front(), "Korvale - Work");
+  PressTag(0);
+  EXPECT_TRUE(korvale.host.Messages().empty());
+}
+
+TEST_F(RefusedHotKeys, LeaveTheWindowBeforeAsThePreviousOneAndInFrontWhenItIsSelected) {
+  hotKeys.StartShell();
+  WorkIn(Open("Alpha"));
+  KorvaleCopy& korvale = UsedCopy();
+  store.SaveSetting("Korvale - Work", "Options", "SelectPrevWinOnStart", "True");
+  std::string tip;
+  ReadTip(korvale, tip);
+
+  EXPECT_TRUE(korvale.Start());
+  LetTick();
+
+  EXPECT_EQ(tip, kShellsTip);
+  EXPECT_EQ(Front(), "Alpha");
+  EXPECT_EQ(korvale.TargetWindow(), "Alpha");
+}
+
+TEST_F(RefusedHotKeys, AreNamedBeforeTheFirstRunAsksToReviewThem) {
+  hotKeys.StartShell();
+  KorvaleCopy& korvale = NewCopy();
+  std::string tip;
+  ReadTip(korvale, tip);
+  korvale.host.WhenMessageBox([&](const ShownMessage&) {
+    EXPECT_EQ(tip, kShellsTip);
+    return win32::kIdNo;
+  });
+
+  EXPECT_TRUE(korvale.Start());
+
+  EXPECT_EQ(korvale.host.Messages().size(), 1U);
+}
+
+TEST_F(RefusedHotKeys, AreTipNumber18WhichTheUserCanSilence) {
+  hotKeys.StartShell();
+  KorvaleCopy& korvale = UsedCopy();
+  korvale.host.WhenModal("frmMsgTip", [&korvale](class Form& tip) {
+    korvale.user.Click(tip.Handle(), tip.Find("chkStopMsg").Id());
+    korvale.user.Click(tip.Handle(), tip.Find("cmdOK").Id());
+  });
+  EXPECT_TRUE(korvale.Start());
+  korvale.Exit();
+  EXPECT_EQ(Stored("Startup", "Tips"), "111111111111111110");
+  EndCopy(korvale);
+
+  EXPECT_TRUE(UsedCopy().Start());
+}
+
+TEST_F(RefusedHotKeys, AreNotWhatTheUserChoseTwice) {
+  store.SaveSetting("Korvale - Work", "Options", "HotKeyModAction0", "0");
+  store.SaveSetting("Korvale - Work", "Options", "HotKeyAction0", "19");
+  EXPECT_TRUE(UsedCopy().Start());
+}
+
+TEST_F(RefusedHotKeys, EndTheStartWhenTheSessionEndsMeanwhile) {
+  hotKeys.StartShell();
+  KorvaleCopy& korvale = UsedCopy();
+  korvale.host.WhenModal("frmMsgTip", [&korvale](class Form&) {
+    korvale.Form().OnCloseRequested(CloseReason::kSession);
+  });
+  EXPECT_FALSE(korvale.Start());
+  EXPECT_TRUE(hotKeys.Registered().empty());
+}
+
+}  // namespace
+}  // namespace korvale
