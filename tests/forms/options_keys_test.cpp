@@ -106,6 +106,7 @@ TEST_F(OptionsKeysTest, TheTipsNameTheKeysOfButtonsAndTabs) {
   EXPECT_EQ(Tip("cmdOK"), " Save and close  (Enter) ");
   EXPECT_EQ(Tip("cmdCancel"), " Close without saving  (Esc) ");
   EXPECT_EQ(Tip("cmdApply"), " Save  (Alt+A) ");
+  EXPECT_EQ(Tip("cmdReset"), " deletes the saved options and applies the default of every option ");
   EXPECT_EQ(Tip("tabOptions"), " page of the options  (Ctrl+Tab) ");
 }
 
