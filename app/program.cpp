@@ -59,7 +59,11 @@ bool Program::Start() {
 }
 
 void Program::Run() {
-  Guarded([this] { platform_->host.RunMessageLoop([this] { return !form_.IsLoaded(); }); });
+  Guarded([this] {
+    platform_->host.RunMessageLoop([this] { return !form_.IsLoaded(); });
+    // Another program may have told the thread to quit.
+    form_.Unload(CloseReason::kTaskManager);
+  });
 }
 
 bool Program::Guarded(const std::function<void()>& step) {

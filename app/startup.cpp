@@ -14,6 +14,8 @@ namespace {
 
 /// How long a copy that is just starting may take to show its main window, in ms.
 constexpr std::uint32_t kCopyPatience = 5000;
+/// How long one without any window may take to let the next one run, in ms.
+constexpr std::uint32_t kEndPatience = 200;
 constexpr std::uint32_t kCopyPoll = 50;
 
 /// How often the foreground window is looked at, in ms.
@@ -47,7 +49,7 @@ void StartUp::Initialise(frmMain& form) {
   form.Parts().state.startUpFinished = true;
   form.Form_Resize();
   if (form.Parts().state.firstRun) {
-    form.SaveOrTell([&form] {
+    form.SaveOrTellOnce([&form] {
       form.udmSaveINI();
       form.udmSaveOptions();
     });
@@ -57,8 +59,9 @@ void StartUp::Initialise(frmMain& form) {
   EndIfUnloaded(form);
 }
 
-/// The session may end while a message is shown.
-void StartUp::EndIfUnloaded(const frmMain& form) {
+/// The session may end while a message is shown, or another program may end this one.
+void StartUp::EndIfUnloaded(frmMain& form) {
+  if (platform_->host.QuitPosted()) form.Unload(CloseReason::kTaskManager);
   if (!form.IsLoaded()) {
     throw ProgramEnded{};
   }
@@ -83,7 +86,7 @@ void StartUp::RunInstallation(frmMain& form) {
       parts.identity, parts.settings, platform_->system, parts.messages,
       {[&form] { form.udmLoadOptions(); }, [&form] { form.LoadStartupSettings(); },
        [&form] { form.udmSaveOptions(); }, [&form] { form.udmSaveINI(); },
-       [&form](const std::function<void()>& saves) { form.SaveOrTell(saves); }});
+       [&form](const std::function<void()>& saves) { form.SaveOrTellOnce(saves); }});
   EndIfUnloaded(form);
   parts.state.firstRun = result.firstRun;
   parts.state.lastAnswer = result.lastAnswer;
@@ -98,13 +101,20 @@ WindowHandle StartUp::FindOtherCopy(frmMain& form) {
                                                form.Caption());
 }
 
-/// A copy that was started in the same instant holds the lock but shows no window yet, one that is
-/// just ending shows none any more: wait until it is seen or gone.
+std::uint32_t StartUp::PatienceWithOtherCopy(frmMain& form) {
+  const WindowHandle hidden = form.Parts().enumeration.FindHiddenInstance(
+      GetWindowClass(platform_->windows, form.Handle()), form.Caption());
+  return hidden != 0 ? kCopyPatience : kEndPatience;
+}
+
+/// A copy that was started in the same instant holds the lock but its window is still hidden, one
+/// that is just ending has none any more: wait until it is seen or gone.
 void StartUp::WaitForOtherCopy(frmMain& form) {
   instanceLock_ =
       std::make_unique<InstanceLock>(platform_->system, form.Parts().identity.installation);
   alone_ = instanceLock_->TryHold(0);
-  for (std::uint32_t waited = 0; !alone_ && FindOtherCopy(form) == 0 && waited < kCopyPatience;
+  for (std::uint32_t waited = 0;
+       !alone_ && FindOtherCopy(form) == 0 && waited < PatienceWithOtherCopy(form);
        waited += kCopyPoll) {
     alone_ = instanceLock_->TryHold(kCopyPoll);
   }
@@ -264,7 +274,7 @@ void StartUp::Unload(frmMain& form, bool booNormalShutDown) {
   MainParts& parts = form.Parts();
   if (booNormalShutDown) {
     form.udmTimersEnabled(false);
-    form.SaveOrTell([&form] { form.udmSaveINI(); });
+    form.SaveOrTellOnce([&form] { form.udmSaveINI(); });
   }
   parts.tagPasses.RemoveClosed();
   parts.hotKeys.SetHotKeys("REMOVE");

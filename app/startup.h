@@ -19,11 +19,12 @@ class StartUp : public ProgramLifetime {
   void Unload(frmMain& form, bool booNormalShutDown) override;
 
  private:
-  static void EndIfUnloaded(const frmMain& form);
+  void EndIfUnloaded(frmMain& form);
   void FixIdentity(frmMain& form);
   void RunInstallation(frmMain& form);
   void RefuseSecondCopy(frmMain& form);
   WindowHandle FindOtherCopy(frmMain& form);
+  std::uint32_t PatienceWithOtherCopy(frmMain& form);
   void WaitForOtherCopy(frmMain& form);
   void MentionOtherInstallation(frmMain& form);
   void MentionCommandLine(frmMain& form);

@@ -7,6 +7,7 @@
 #include "desktop/window_readers.h"
 #include "platform/run_time_error.h"
 #include "platform/win32_constants.h"
+#include "util/text.h"
 
 namespace korvale {
 namespace {
@@ -88,9 +89,9 @@ void WindowEnumeration::HandleSelectable(WindowHandle hwnd, std::int32_t mode) {
 }
 
 bool WindowEnumeration::EnumInstanceProc(WindowHandle hwnd, std::int32_t mode) {
-  if (mode == kSearchTitleAndClass && windows_->IsWindowVisible(hwnd) &&
+  if (mode == kSearchTitleAndClass && windows_->IsWindowVisible(hwnd) == fields_.instanceVisible &&
       GetWindowClass(*windows_, hwnd) == fields_.instanceClass &&
-      GetWindowTitle(*windows_, hwnd) == fields_.instanceTitle &&
+      EqualsIgnoreCase(GetWindowTitle(*windows_, hwnd), fields_.instanceTitle) &&
       hwnd != mainWindow_->MainHandle()) {
     fields_.instanceResult = hwnd;
   }
@@ -120,8 +121,19 @@ WindowHandle WindowEnumeration::FindByTitleAndClass(const std::string& title,
 
 WindowHandle WindowEnumeration::FindInstance(const std::string& className,
                                              const std::string& title) {
+  return FindInstance(className, title, true);
+}
+
+WindowHandle WindowEnumeration::FindHiddenInstance(const std::string& className,
+                                                   const std::string& title) {
+  return FindInstance(className, title, false);
+}
+
+WindowHandle WindowEnumeration::FindInstance(const std::string& className, const std::string& title,
+                                             bool visible) {
   fields_.instanceClass = className;
   fields_.instanceTitle = title;
+  fields_.instanceVisible = visible;
   fields_.instanceResult = 0;
   EnumInstances();
   return fields_.instanceResult;

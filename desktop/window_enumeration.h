@@ -35,6 +35,7 @@ struct SearchFields {
   WindowHandle titleSearchResult = 0;
   std::string instanceClass;  ///< Instance search.
   std::string instanceTitle;
+  bool instanceVisible = true;
   WindowHandle instanceResult = 0;
 };
 
@@ -56,7 +57,8 @@ class WindowEnumeration {
   /// Always true, so that an enumeration visits all windows. Modes 4 and 7 keep the last match in
   /// Z-order, mode 6 the first.
   bool EnumWindowsProc(WindowHandle hwnd, std::int32_t mode);
-  /// Finds another copy of the program by exact class and title; the last match wins.
+  /// Finds another copy of the program by exact class, and title in any case, as folder names are
+  /// the same in any; the last match wins.
   bool EnumInstanceProc(WindowHandle hwnd, std::int32_t mode);
 
   /// Matches every Tag anew against the desktop: all unresolved first, then mode 3.
@@ -67,10 +69,13 @@ class WindowEnumeration {
   WindowHandle FindByTitleAndClass(const std::string& title, const std::string& className);
   /// The instance search; 0 = no other copy.
   WindowHandle FindInstance(const std::string& className, const std::string& title);
+  /// The same for a copy whose window is not shown yet.
+  WindowHandle FindHiddenInstance(const std::string& className, const std::string& title);
   /// Mode 6: the topmost window below the program's own that `qualifies`, 0 = none.
   WindowHandle FindTopWindow(std::function<bool(WindowHandle)> qualifies = {});
 
  private:
+  WindowHandle FindInstance(const std::string& className, const std::string& title, bool visible);
   void Enumerate(const std::function<bool(WindowHandle)>& visit);
   void HandleSelectable(WindowHandle hwnd, std::int32_t mode);
   bool CanMinimizeOrRestore(WindowHandle hwnd, bool iconic) const;

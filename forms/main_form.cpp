@@ -51,8 +51,9 @@ void frmMain::Form_Load() {
 void frmMain::Form_Activate() { lifetime_->FirstActivation(*this); }
 
 void frmMain::Form_QueryUnload(bool& cancel, CloseReason reason) {
-  // A modal dialog must be answered first; only the end of the session overrides it.
+  // A modal dialog must be answered first; only what ends the whole program overrides it.
   cancel = reason == CloseReason::kUser && Collection().AnyModal();
+  endsUnattended_ = reason == CloseReason::kSession || reason == CloseReason::kTaskManager;
 }
 
 void frmMain::Form_Unload() {
@@ -85,11 +86,17 @@ void frmMain::udmSaveINI() {
 }
 
 void frmMain::SaveOrTell(const std::function<void()>& saves) {
+  refusalTold_ = false;
+  SaveOrTellOnce(saves);
+}
+
+void frmMain::SaveOrTellOnce(const std::function<void()>& saves) {
   try {
     parts_.settings.SaveTogether([&](SettingsStore& /*store*/) { saves(); });
   } catch (const ProgramEnded&) {
     throw;
   } catch (...) {
+    if (std::exchange(refusalTold_, true)) return;
     udmNonFatalError(ErrorPlace::kSaving, CurrentErrorNumber());
   }
 }
@@ -111,7 +118,8 @@ void frmMain::udmRefreshAlwaysOnTopMenuChecked() {
 }
 
 void frmMain::udmNonFatalError(ErrorPlace intErrorNumber, std::int16_t intVB_ErrNumber) {
-  parts_.errors.udmNonFatalError(intErrorNumber, intVB_ErrNumber);
+  // A message would keep the session from ending.
+  if (!endsUnattended_) parts_.errors.udmNonFatalError(intErrorNumber, intVB_ErrNumber);
 }
 
 void frmMain::udmTimersEnabled(bool booTrueFalse) {

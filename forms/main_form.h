@@ -56,6 +56,8 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   void udmDeleteOptions() override;
   void udmSaveINI() override;
   void SaveOrTell(const std::function<void()>& saves) override;
+  /// The same for a save that the program makes by itself: one message a run is enough.
+  void SaveOrTellOnce(const std::function<void()>& saves);
   /// Reads the main window's state and the Tag list from the store.
   void LoadStartupSettings();
   std::string udmProcessHotKey(const std::string& name, bool booDoAction, bool booReturnWindow,
@@ -182,6 +184,10 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   MousePointer pointer_ = MousePointer::kDefault;
   ColorCustomizing customizing_{CustomizingParts()};
   bool unloaded_ = false;
+  /// The user knows that the store refuses.
+  bool refusalTold_ = false;
+  /// The program is being ended by others, with nobody to answer a message.
+  bool endsUnattended_ = false;
 };
 
 }  // namespace korvale

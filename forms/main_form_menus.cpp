@@ -72,7 +72,7 @@ void frmMain::RefreshMenus(std::string_view source) {
   ShowTopLevelMenus(fromKeyboard || parts_.startup.Menu);
   // A command can end while the program has already been taken down, with everything saved.
   if (fromMenu && !unloaded_) {
-    SaveOrTell([this] { udmSaveINI(); });
+    SaveOrTellOnce([this] { udmSaveINI(); });
   }
 }
 

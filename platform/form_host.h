@@ -28,8 +28,8 @@ struct MouseInput {
 };
 
 /// Why a form is asked to go. `kCode` = the program itself, `kUser` = close box or Alt+F4,
-/// `kSession` = the Windows session ends.
-enum class CloseReason { kCode, kUser, kSession };
+/// `kSession` = the Windows session ends, `kTaskManager` = another program ends this one.
+enum class CloseReason { kCode, kUser, kSession, kTaskManager };
 
 /// A part of a text in characters: where it starts (0-based) and how long it is.
 struct TextSelection {

@@ -108,6 +108,10 @@ void FormWindow::TrackPopup(MenuItem& menu) {
   if (chosen != nullptr) events_.Tell([&](FormEvents& events) { events.OnMenuClicked(*chosen); });
 }
 
+void FormWindow::RequestClose(CloseReason reason) {
+  events_.Tell([&](FormEvents& events) { events.OnCloseRequested(reason); });
+}
+
 bool FormWindow::Filter(const MSG& message) {
   controls_.Tips().Relay(message);
   return keys_->Filter(message);
@@ -169,14 +173,12 @@ LRESULT FormWindow::Process(UINT message, WPARAM wParam, LPARAM lParam) {
 std::optional<LRESULT> FormWindow::HandleEnd(UINT message, WPARAM wParam) {
   switch (message) {
     case WM_CLOSE:
-      events_.Tell([](FormEvents& events) { events.OnCloseRequested(CloseReason::kUser); });
+      RequestClose(CloseReason::kUser);
       return 0;
     case WM_QUERYENDSESSION:
       return TRUE;
     case WM_ENDSESSION:
-      if (wParam != FALSE && form_->inTaskbar) {
-        events_.Tell([](FormEvents& events) { events.OnCloseRequested(CloseReason::kSession); });
-      }
+      if (wParam != FALSE && form_->inTaskbar) RequestClose(CloseReason::kSession);
       return 0;
     case WM_DESTROY:
       events_.Disconnect();

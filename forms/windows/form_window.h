@@ -40,6 +40,7 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   void Show(int command);
   void SetFocus(int control);
   void TrackPopup(MenuItem& menu);
+  void RequestClose(CloseReason reason);
   /// Sees each message of the form's windows first; true when it shall not be dispatched.
   bool Filter(const MSG& message);
 

@@ -31,6 +31,12 @@ void MessageLoop::DoEvents() {
   }
 }
 
+bool MessageLoop::QuitPosted() const {
+  // A message box that is told to quit passes the order on.
+  MSG message;
+  return quitPosted_ || PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_NOREMOVE) != FALSE;
+}
+
 void MessageLoop::Wake() const { PostThreadMessageW(GetCurrentThreadId(), WM_NULL, 0, 0); }
 
 void MessageLoop::PostQuit() {

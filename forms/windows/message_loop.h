@@ -28,7 +28,8 @@ class MessageLoop {
   void Wake() const;
   void PostQuit();
   bool IsOurs(HWND window) const { return findForm_(window) != nullptr; }
-  bool QuitPosted() const { return quitPosted_; }
+  /// True when the program shall end, also when no loop has met the order yet.
+  bool QuitPosted() const;
 
  private:
   void Dispatch(const MSG& message);

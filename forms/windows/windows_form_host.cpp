@@ -22,11 +22,14 @@ int FurtherMenuRows(HWND hwnd, UINT dpi) {
 
 WindowsFormHost::WindowsFormHost(HINSTANCE instance)
     : classes_(instance),
-      owner_(::CreateWindowExW(0, classes_.Register("Owner", DefWindowProcW).c_str(), L"Korvale",
+      owner_(::CreateWindowExW(0, classes_.Register("Owner", OwnerProcedure).c_str(), L"Korvale",
                                WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, instance, nullptr)),
-      loop_([this](HWND window) { return Find(ToWindowHandle(GetAncestor(window, GA_ROOT))); }) {}
+      loop_([this](HWND window) { return Find(ToWindowHandle(GetAncestor(window, GA_ROOT))); }) {
+  SetWindowLongPtrW(owner_.Get(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+}
 
 WindowsFormHost::~WindowsFormHost() {
+  SetWindowLongPtrW(owner_.Get(), GWLP_USERDATA, 0);
   for (const auto& [hwnd, form] : forms_) form->Destroy();
 }
 
@@ -35,13 +38,26 @@ std::shared_ptr<FormWindow> WindowsFormHost::Find(WindowHandle hwnd) const {
   return found == forms_.end() ? nullptr : found->second;
 }
 
+std::shared_ptr<FormWindow> WindowsFormHost::FindMain() const {
+  const auto found = std::ranges::find_if(
+      forms_, [](const auto& entry) { return entry.second->Model().inTaskbar; });
+  return found == forms_.end() ? nullptr : found->second;
+}
+
 HWND WindowsFormHost::OwnerOf(const FormState& form) const {
-  if (!form.inTaskbar) {
-    for (const auto& [hwnd, other] : forms_) {
-      if (other->Model().inTaskbar) return other->Handle();
-    }
-  }
-  return owner_.Get();
+  const std::shared_ptr<FormWindow> main = form.inTaskbar ? nullptr : FindMain();
+  return main == nullptr ? owner_.Get() : main->Handle();
+}
+
+LRESULT CALLBACK WindowsFormHost::OwnerProcedure(HWND hwnd, UINT message, WPARAM wParam,
+                                                 LPARAM lParam) {
+  // Destroyed, it would take all forms with it, and nobody would know.
+  if (message != WM_CLOSE) return DefWindowProcW(hwnd, message, wParam, lParam);
+  const auto* const host =
+      reinterpret_cast<const WindowsFormHost*>(GetWindowLongPtrW(hwnd, GWLP_USERDATA));
+  if (host == nullptr) return 0;
+  if (const auto main = host->FindMain()) main->RequestClose(CloseReason::kTaskManager);
+  return 0;
 }
 
 WindowHandle WindowsFormHost::CreateWindowExW(const FormState& form, FormEvents& events) {

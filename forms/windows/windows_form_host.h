@@ -19,7 +19,8 @@ namespace korvale {
 /// Shows forms as real windows. Used from one thread.
 class WindowsFormHost : public FormHost {
  public:
-  /// Makes the hidden window that owns the main window; it is never shown.
+  /// Makes the hidden window that owns the main window; it is never shown. Whoever closes it ends
+  /// the program.
   explicit WindowsFormHost(HINSTANCE instance);
   ~WindowsFormHost() override;
 
@@ -50,7 +51,10 @@ class WindowsFormHost : public FormHost {
   bool QuitPosted() override;
 
  private:
+  static LRESULT CALLBACK OwnerProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
   std::shared_ptr<FormWindow> Find(WindowHandle hwnd) const;
+  /// The main form's window; null while there is none.
+  std::shared_ptr<FormWindow> FindMain() const;
   /// The window that owns a new form: the main form's, or for the main form the hidden one.
   HWND OwnerOf(const FormState& form) const;
 

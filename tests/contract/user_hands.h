@@ -48,6 +48,10 @@ class UserHands {
   virtual TwipsRect Place(WindowHandle hwnd) = 0;
   /// Presses the close box.
   virtual void PressCloseBox(WindowHandle hwnd) = 0;
+  /// Closes the hidden window that owns this one of the main form, as task killers do.
+  virtual void CloseOwner(WindowHandle hwnd) = 0;
+  /// Tells the program's thread to quit, as task killers do.
+  virtual void QuitThread() = 0;
   /// Drags the window to a new place and size.
   virtual void Drag(WindowHandle hwnd, const TwipsRect& place) = 0;
 

@@ -95,6 +95,29 @@ TEST_F(FormHostContract, AFormThatRefusesToCloseStays) {
   EXPECT_TRUE(User().IsShown(Window()));
 }
 
+TEST_F(FormHostContract, ClosingTheHiddenOwnerAsksTheMainFormToGo) {
+  form_.refusesToClose = true;
+  form_.Show();
+  User().CloseOwner(Window());
+  EXPECT_TRUE(User().IsShown(Window()));
+  form_.refusesToClose = false;
+  User().CloseOwner(Window());
+  EXPECT_FALSE(form_.IsLoaded());
+  EXPECT_EQ(form_.closeReasons,
+            (std::vector<CloseReason>{CloseReason::kTaskManager, CloseReason::kTaskManager}));
+}
+
+TEST_F(FormHostContract, ClosingTheHiddenOwnerReachesAMainFormThatIsBlockedOrHidden) {
+  form_.Load();
+  User().WhenWaiting([&] {
+    User().CloseOwner(Window());
+    EXPECT_FALSE(form_.IsLoaded());
+    dialog_.Unload();
+  });
+  dialog_.ShowModal();
+  EXPECT_EQ(form_.closeReasons, std::vector<CloseReason>{CloseReason::kTaskManager});
+}
+
 TEST_F(FormHostContract, ShowingAFormActivatesIt) {
   form_.Show();
   EXPECT_EQ(form_.activations, 1);
@@ -230,6 +253,17 @@ TEST_F(FormHostContract, TheWorkAreaHoldsTheForm) {
   EXPECT_GE(area.height, 5000);
   EXPECT_EQ(Host().GetMonitorInfoW(0), area);
   EXPECT_EQ(Host().GetWindowRect(Window()), User().Place(Window()));
+}
+
+TEST_F(FormHostContract, AThreadThatIsToldToQuitEndsEveryMessageLoop) {
+  form_.Show();
+  User().WhenWaiting([&] {
+    User().QuitThread();
+    EXPECT_TRUE(Host().QuitPosted());
+  });
+  dialog_.ShowModal();
+  EXPECT_TRUE(Host().QuitPosted());
+  EXPECT_TRUE(form_.IsLoaded());
 }
 
 TEST_F(FormHostContract, QuittingEndsEveryMessageLoop) {

@@ -204,6 +204,19 @@ TEST_F(WindowEnumerationTest, InstanceSearchNeedsTheExactTitleAndClassOfAVisible
   EXPECT_EQ(enumeration.FindInstance("Korvale.frmMain", "Main"), 0);
 }
 
+TEST_F(WindowEnumerationTest, InstanceSearchIgnoresTheCaseOfTheFolder) {
+  const WindowHandle hwnd = desktop.Open("MAIN", {.className = "Korvale.frmMain"});
+  EXPECT_EQ(enumeration.FindInstance("Korvale.frmMain", "Main"), hwnd);
+}
+
+TEST_F(WindowEnumerationTest, HiddenInstanceSearchFindsACopyThatIsStarting) {
+  desktop.Open("Main", {.className = "Korvale.frmMain"});
+  EXPECT_EQ(enumeration.FindHiddenInstance("Korvale.frmMain", "Main"), 0);
+  const WindowHandle hidden =
+      desktop.Open("Main", {.className = "Korvale.frmMain", .visible = false});
+  EXPECT_EQ(enumeration.FindHiddenInstance("Korvale.frmMain", "Main"), hidden);
+}
+
 TEST_F(WindowEnumerationTest, InstanceSearchDoesNotApplyTheFilter) {
   const WindowHandle hwnd = desktop.Open("Program Manager", {.className = "Progman"});
   EXPECT_EQ(enumeration.FindInstance("Progman", "Program Manager"), hwnd);

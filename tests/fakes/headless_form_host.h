@@ -56,6 +56,9 @@ class HeadlessFormHost : public FormHost, private DesktopListener {
   void SetFrame(const TwipsRect& frame, Twips menuHeight);
   void SetWorkArea(const TwipsRect& workArea) { workArea_ = workArea; }
 
+  /// Another program tells the thread to quit.
+  void PostThreadQuit() { quit_ = true; }
+
   /// Every message box so far.
   const std::vector<ShownMessage>& Messages() const { return messages_; }
   bool MessageBoxUp() const { return !boxes_.empty(); }

@@ -68,6 +68,12 @@ void HeadlessUser::PressCloseBox(WindowHandle hwnd) {
   host_->Tell(hwnd, [](FormEvents& events) { events.OnCloseRequested(CloseReason::kUser); });
 }
 
+void HeadlessUser::CloseOwner(WindowHandle hwnd) {
+  host_->Tell(hwnd, [](FormEvents& events) { events.OnCloseRequested(CloseReason::kTaskManager); });
+}
+
+void HeadlessUser::QuitThread() { host_->PostThreadQuit(); }
+
 void HeadlessUser::Drag(WindowHandle hwnd, const TwipsRect& place) {
   HeadlessWindow& window = Reach(hwnd, "drag");
   const bool sized = place.width != window.place.width || place.height != window.place.height;

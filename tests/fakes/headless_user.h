@@ -25,6 +25,8 @@ class HeadlessUser : public UserHands {
   std::string ClassName(WindowHandle hwnd) override;
   TwipsRect Place(WindowHandle hwnd) override;
   void PressCloseBox(WindowHandle hwnd) override;
+  void CloseOwner(WindowHandle hwnd) override;
+  void QuitThread() override;
   void Drag(WindowHandle hwnd, const TwipsRect& place) override;
 
   std::string Text(WindowHandle hwnd, int control) override;

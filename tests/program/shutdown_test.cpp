@@ -113,6 +113,91 @@ TEST_F(ShutdownTest, ARefusedSaveIsToldAndTheHotKeysAreGivenBackAllTheSame) {
   EXPECT_FALSE(korvale.Form().IsLoaded());
 }
 
+TEST_F(ShutdownTest, ARefusedSaveHoldsUpNoSessionAndNoTaskKiller) {
+  for (const CloseReason reason : {CloseReason::kSession, CloseReason::kTaskManager}) {
+    store.RefuseWrites(false);
+    KorvaleCopy& korvale = StartedCopy();
+    store.RefuseWrites(true);
+    korvale.Form().OnCloseRequested(reason);
+    EXPECT_TRUE(korvale.host.Messages().empty());
+    EXPECT_TRUE(hotKeys.Registered().empty());
+    EXPECT_FALSE(korvale.Form().IsLoaded());
+    EndCopy(korvale);
+  }
+}
+
+TEST_F(ShutdownTest, ARefusalIsToldOnceARun) {
+  const WindowHandle alpha = Open("Alpha");
+  KorvaleCopy& korvale = StartedCopy();
+  WorkIn(alpha);
+  WorkIn(korvale.Handle());
+  korvale.TagPrevious();
+  store.RefuseWrites(true);
+  korvale.host.AnswerNext(win32::kIdOk);
+  for (int press = 0; press < 3; ++press) {
+    WorkIn(Open("Beta"));
+    PressTag(1);
+    EXPECT_EQ(Front(), "Alpha");
+  }
+  korvale.Exit();
+  EXPECT_EQ(korvale.host.Messages().size(), 1U);
+}
+
+TEST_F(ShutdownTest, ARefusalIsToldForEachSaveThatTheUserAsksFor) {
+  KorvaleCopy& korvale = StartedCopy();
+  korvale.Form().mnuToolsOptions_Click();
+  store.RefuseWrites(true);
+  class Form& options = korvale.Loaded("frmOptions");
+  for (int press = 0; press < 2; ++press) {
+    korvale.host.AnswerNext(win32::kIdOk);
+    korvale.user.Click(options.Handle(), korvale.Id(options, "cmdApply"));
+  }
+  korvale.Exit();
+  EXPECT_EQ(korvale.host.Messages().size(), 2U);
+}
+
+TEST_F(ShutdownTest, ClosingTheHiddenOwnerEndsTheProgramAsAnExitDoes) {
+  KorvaleCopy& korvale = StartedCopy();
+  korvale.user.CloseOwner(korvale.Handle());
+  EXPECT_FALSE(log.CallsOf("SaveSetting(Korvale - Work, Startup").empty());
+  EXPECT_TRUE(hotKeys.Registered().empty());
+  EXPECT_FALSE(korvale.Form().IsLoaded());
+}
+
+TEST_F(ShutdownTest, ClosingTheHiddenOwnerEndsTheProgramDuringATipToo) {
+  KorvaleCopy& korvale = StartedCopy();
+  korvale.host.WhenModal("frmMsgTip",
+                         [&](class Form&) { korvale.user.CloseOwner(korvale.Handle()); });
+  korvale.Form().mnuToolsToggleHotKeys_Click();
+  EXPECT_FALSE(korvale.Form().IsLoaded());
+  EXPECT_FALSE(log.CallsOf("SaveSetting(Korvale - Work, Startup").empty());
+}
+
+TEST_F(ShutdownTest, AThreadThatIsToldToQuitEndsAsAnExitDoes) {
+  KorvaleCopy& korvale = StartedCopy();
+  korvale.host.WhenWaiting([&] { korvale.user.QuitThread(); });
+  korvale.program.Run();
+  EXPECT_FALSE(log.CallsOf("SaveSetting(Korvale - Work, Startup").empty());
+  EXPECT_TRUE(hotKeys.Registered().empty());
+  EXPECT_FALSE(korvale.Form().IsLoaded());
+}
+
+TEST_F(ShutdownTest, AThreadThatIsToldToQuitDuringTheImportQuestionStoresNothing) {
+  store.SaveSetting("Korvale Installations", "0", "Korvale - Old", "C:\\Gone\\Old");
+  store.SaveSetting("Korvale - Old", "Options", "SplashScreen", "False");
+  KorvaleCopy& korvale = NewCopy();
+  korvale.host.WhenMessageBox([&](const ShownMessage&) {
+    korvale.user.QuitThread();
+    return win32::kIdNo;
+  });
+
+  EXPECT_FALSE(korvale.Start());
+
+  EXPECT_TRUE(store.Sections("Korvale - Work").empty());
+  EXPECT_FALSE(korvale.Form().IsLoaded());
+  EXPECT_TRUE(hotKeys.Registered().empty());
+}
+
 TEST_F(ShutdownTest, TheSessionCanEndWhileAMessageBoxIsShown) {
   KorvaleCopy& korvale = StartedCopy();
   korvale.host.WhenMessageBox([&](const ShownMessage&) {

@@ -90,6 +90,13 @@ void WindowsUser::PressCloseBox(WindowHandle hwnd) {
   Settle();
 }
 
+void WindowsUser::CloseOwner(WindowHandle hwnd) {
+  PostMessageW(GetWindow(ToHwnd(hwnd), GW_OWNER), WM_CLOSE, 0, 0);
+  Settle();
+}
+
+void WindowsUser::QuitThread() { PostThreadMessageW(GetCurrentThreadId(), WM_QUIT, 0, 0); }
+
 void WindowsUser::Drag(WindowHandle hwnd, const TwipsRect& place) {
   ASSERT_TRUE(IsShown(hwnd) && IsEnabled(hwnd));
   const PixelPlace to = ToScreenPixels(place, GetDpiForWindow(ToHwnd(hwnd)));
