@@ -1,4 +1,5 @@
 #include "tests/endtoend/harness/default_settings.h"
+#include "tests/endtoend/harness/other_paths.h"
 #include "tests/endtoend/store_test.h"
 
 namespace korvale::endtoend {
@@ -73,6 +74,44 @@ TEST_F(Installations, InTwoFoldersOfTheSameNameAreRefused) {
   EXPECT_EQ(installation_.RegisteredFolder(), folder);
 }
 
+/// A folder whose short name is another one.
+class LongNamed : public Installations {
+ protected:
+  LongNamed() : long_("Folder With A Long Name"), paths_(long_.folder()) { KeepSilent(long_); }
+
+  Installation long_;
+  OtherPaths paths_;
+};
+
+TEST_F(LongNamed, RunsOnceWhateverPathItIsStartedBy) {
+  const RunningKorvale first(long_);
+  ASSERT_TRUE(first.Main());
+  EXPECT_EQ(paths_.All().size(), 4U);
+  for (const OtherPath& path : paths_.All()) {
+    SCOPED_TRACE(path.what + ": " + path.folder);
+    RunningKorvale second(long_, path);
+    const Window box = second.MessageBox();
+    ASSERT_TRUE(box);
+    EXPECT_EQ(LabelText(box), "'Korvale - Folder With A Long Name' is already open.");
+    EXPECT_TRUE(AnswerBox(box, IDOK) || AnswerBox(box, IDCANCEL));
+    EXPECT_EQ(second.process().WaitForExit(), 0U);
+    EXPECT_TRUE(InFront(first.Main()));
+  }
+}
+
+TEST_F(LongNamed, HasTheSameSettingsWhateverPathItIsStartedBy) {
+  long_.StoreTag(1, "Alpha", kClass);
+  for (const OtherPath& path : paths_.All()) {
+    SCOPED_TRACE(path.what + ": " + path.folder);
+    korvale_.emplace(long_, path);
+    ASSERT_TRUE(InFront(main()));
+    EXPECT_EQ(main().Title(), "Korvale - Folder With A Long Name");
+    EXPECT_FALSE(korvale_->HasMessageBox());
+    ASSERT_TRUE(Exit());
+    EXPECT_EQ(TagsOf(long_), (Pairs{{"1", "&1  Alpha"}}));
+  }
+}
+
 TEST_F(Installations, MayMoveToAnotherFolderOfTheSameName) {
   const Installation twin("Probe");
   installation_.StoreTag(1, "Alpha", kClass);
@@ -84,6 +123,18 @@ TEST_F(Installations, MayMoveToAnotherFolderOfTheSameName) {
   EXPECT_EQ(twin.RegisteredFolder().value_or("") + "\\", twin.folder());
   ASSERT_TRUE(Exit());
   EXPECT_EQ(TagsOf(twin), (Pairs{{"1", "&1  Alpha"}}));
+}
+
+TEST_F(Installations, OnADriveThatIsAwayAreNotOffered) {
+  const Installation away("Away");
+  away.MarkAsUsed();
+  StoredSettings("Korvale Installations").Set("0", away.name(), "Q:\\Tools\\Away");
+  korvale_.emplace(installation_);
+  const Window question = ReviewQuestion();
+  ASSERT_TRUE(question) << LabelText(korvale_->MessageBox());
+  EXPECT_TRUE(AnswerBox(question, IDNO));
+  EXPECT_EQ(away.RegisteredFolder(), "Q:\\Tools\\Away");
+  EXPECT_EQ(away.settings().Get("Options", "SplashScreen"), "False");
 }
 
 /// An installation that was used with nothing as it is out of the box, and whose folder has been

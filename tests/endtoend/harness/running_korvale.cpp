@@ -14,6 +14,15 @@ constexpr char kMenuClass[] = "#32768";
 RunningKorvale::RunningKorvale(const Installation& installation, const std::string& arguments)
     : process_(Quoted(installation.program()) + arguments, installation.folder()) {}
 
+RunningKorvale::RunningKorvale(const Installation& installation, const OtherPath& path)
+    : process_(Quoted(path.folder + "Korvale.exe"), installation.folder()) {}
+
+Window RunningKorvale::HiddenOwner() const {
+  return WaitForTopLevel([&](Window window) {
+    return window.ProcessId() == process_.id() && window.ClassName() == "Korvale.Owner";
+  });
+}
+
 Window RunningKorvale::Find(const std::string& class_name) const {
   return FindTopLevel([&](Window window) {
     return window.ProcessId() == process_.id() && window.Visible() &&

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "tests/endtoend/harness/installation.h"
+#include "tests/endtoend/harness/other_paths.h"
 #include "tests/endtoend/harness/process.h"
 #include "tests/endtoend/harness/window.h"
 
@@ -14,6 +15,9 @@ class RunningKorvale {
  public:
   explicit RunningKorvale(const Installation& installation, const std::string& arguments = "");
 
+  /// Starts a copy by another path to its program.
+  RunningKorvale(const Installation& installation, const OtherPath& path);
+
   Process& process() { return process_; }
 
   /// The main window, waited for until it is visible.
@@ -22,6 +26,9 @@ class RunningKorvale {
   Window Form(const std::string& name) const;
   /// True when no such form is on the screen.
   bool HasForm(const std::string& name) const;
+
+  /// The hidden window that owns the main window, waited for.
+  Window HiddenOwner() const;
 
   /// The message box on the screen, waited for.
   Window MessageBox() const;
