@@ -39,7 +39,6 @@ void ForegroundTracker::LookAtForeground() {
   NoteInFront(foreground);
   if (std::exchange(firstTick_, false) && isMain) lastSeen_ = foreground;
   if (IsGone(previous_->current) || IsGone(previous_->alternate)) ValidatePreviousWindow();
-  if (previous_->menuSelection && foreground == leftBySelection_) return;
   if (!filter_->IsSelectableWindow(foreground, false, false) ||
       !windows_->IsWindowVisible(foreground)) {
     return;
@@ -64,7 +63,8 @@ WindowHandle ForegroundTracker::WindowInFront() {
   const WindowHandle foreground = windows_->GetForegroundWindow();
   const bool forItsMenu =
       foreground == mainWindow_->MainHandle() && mainWindow_->WindowMenuPoppedUp();
-  return forItsMenu ? 0 : foreground;
+  const bool onItsWayBack = previous_->menuSelection && foreground == leftBySelection_;
+  return forItsMenu || onItsWayBack ? 0 : foreground;
 }
 
 void ForegroundTracker::NoteInFront(WindowHandle foreground) {

@@ -32,7 +32,7 @@ class ForegroundTracker {
   void LookAnew();
 
   /// The window that the user has in front (GetForegroundWindow); 0 while that is the main window
-  /// for its popped-up menu alone.
+  /// for its popped-up menu alone, or one that a selected window is about to take the place of.
   WindowHandle WindowInFront();
 
   /// The window to bring forward when `closing`, a window of ours, goes: the one that was in front

@@ -83,9 +83,9 @@ void WindowActions::RefreshRecordedTitle(WindowHandle hwnd, std::string& text) {
 }
 
 bool WindowActions::BringForward(WindowHandle hwnd) {
-  if (windows_->GetForegroundWindow() != hwnd && !commands_->SetForegroundWindow(hwnd)) {
-    return false;
-  }
+  // What is in front now may be on its way to the back, when another selection came just before.
+  const bool inFront = windows_->GetForegroundWindow() == hwnd && !previous_->menuSelection;
+  if (!inFront && !commands_->SetForegroundWindow(hwnd)) return false;
   return !windows_->IsIconic(hwnd) || ShowDesktopWindow(hwnd, win32::kSwRestore);
 }
 

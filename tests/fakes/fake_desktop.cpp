@@ -103,6 +103,14 @@ void FakeDesktop::SetHung(WindowHandle hwnd, bool hung) {
 
 void FakeDesktop::LoseForeground() { windows_.Activate(0); }
 
+void FakeDesktop::DelayForeground(bool delayed) {
+  foreground_delayed_ = delayed;
+  if (delayed) return;
+  for (const WindowHandle hwnd : std::exchange(coming_forward_, {})) {
+    if (windows_.Find(hwnd) != nullptr) windows_.Activate(hwnd);
+  }
+}
+
 std::string FakeDesktop::Title(WindowHandle hwnd) const {
   const FakeWindow* const window = windows_.Find(hwnd);
   return window == nullptr ? "" : window->title;

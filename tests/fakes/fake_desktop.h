@@ -46,6 +46,9 @@ class FakeDesktop : public WindowQueries, public WindowCommands {
   void LoseForeground();
   /// While locked SetForegroundWindow refuses, as Windows does to a program without the right.
   void LockForeground(bool locked) { foreground_locked_ = locked; }
+  /// While delayed, SetForegroundWindow succeeds at once, but the windows come forward only when
+  /// the delay ends, as Windows has it with a window of another thread.
+  void DelayForeground(bool delayed);
 
   // What a test looks at.
   std::string Title(WindowHandle hwnd) const;
@@ -92,6 +95,8 @@ class FakeDesktop : public WindowQueries, public WindowCommands {
   CallLog& log_;
   FakeWindows windows_;
   bool foreground_locked_ = false;
+  bool foreground_delayed_ = false;
+  std::vector<WindowHandle> coming_forward_;
   int calls_that_waited_ = 0;
 };
 

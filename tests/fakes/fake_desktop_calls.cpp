@@ -180,7 +180,11 @@ bool FakeDesktop::SetForegroundWindow(WindowHandle hwnd) {
   log_.Add("SetForegroundWindow(" + log_.Window(hwnd) + ")");
   const FakeWindow* const window = windows_.Find(hwnd);
   if (window == nullptr || window->parent != 0 || foreground_locked_) return false;
-  windows_.Activate(hwnd);
+  if (foreground_delayed_) {
+    coming_forward_.push_back(hwnd);
+  } else {
+    windows_.Activate(hwnd);
+  }
   return true;
 }
 

@@ -94,6 +94,28 @@ TEST_F(WayBackTest, TwoQuickTagsLoseNothing) {
   EXPECT_EQ(Front(), "Alpha");
 }
 
+TEST_F(WayBackTest, QuickKeysLoseNothingWhenTheWindowsComeForwardLate) {
+  InAlpha();
+  desktop.DelayForeground(true);
+  PressQuickly(0);
+  PressQuickly(1);
+  desktop.DelayForeground(false);
+  LetTick();
+  EXPECT_EQ(Front(), "Alpha");
+  ExpectWayBack("Beta");
+}
+
+TEST_F(WayBackTest, ATickBeforeTheWindowComesForwardLosesNothing) {
+  InAlpha();
+  desktop.DelayForeground(true);
+  PressQuickly(0);
+  clock.Advance(100);
+  desktop.DelayForeground(false);
+  LetTick();
+  EXPECT_EQ(Front(), "Beta");
+  ExpectWayBack("Alpha");
+}
+
 TEST_F(WayBackTest, AClickAndAQuickKeyLoseNothing) {
   InAlpha();
   desktop.UserActivates(gamma);

@@ -1,0 +1,143 @@
+#include "tests/endtoend/korvale_test.h"
+
+namespace korvale::endtoend {
+namespace {
+
+constexpr char kClass[] = "Test.Window";
+
+/// Alt+0 goes to the window worked in before the one in front.
+class WayBack : public KorvaleTest {
+ protected:
+  /// Starts with Tag 1 for Alpha and Tag 2 for Beta, not found yet, and works in Gamma, Beta and
+  /// Alpha.
+  void StartInAlpha() {
+    installation_.StoreTag(1, "Alpha", kClass);
+    installation_.StoreTag(2, "Beta", kClass);
+    Start();
+    gamma_ = Open("Gamma");
+    ASSERT_TRUE(WorkIn(gamma_));
+    beta_ = Open("Beta");
+    ASSERT_TRUE(WorkIn(beta_));
+    alpha_ = Open("Alpha");
+    ASSERT_TRUE(WorkIn(alpha_));
+  }
+
+  /// Alt+0 brings the window forward, which stays there.
+  ::testing::AssertionResult LeadsTo(Window window) {
+    Press(TagKey(0));
+    const ::testing::AssertionResult came = InFront(window);
+    return came ? StaysInFront(window) : came;
+  }
+
+  Window alpha_;
+  Window beta_;
+  Window gamma_;
+};
+
+TEST_F(WayBack, IsKeptByTheTagOfTheWindowInFront) {
+  StartInAlpha();
+  Press(TagKey(1));
+  ASSERT_TRUE(StaysInFront(alpha_));
+  EXPECT_TRUE(LeadsTo(beta_));
+}
+
+TEST_F(WayBack, IsKeptByATagPressedInAToolWindow) {
+  StartInAlpha();
+  const Window tool = Open({.title = "Tool", .extended_style = WS_EX_TOOLWINDOW});
+  ASSERT_TRUE(BringToFront(tool));
+  ASSERT_TRUE(StaysInFront(tool));
+  Press(TagKey(1));
+  ASSERT_TRUE(InFront(alpha_));
+  EXPECT_TRUE(LeadsTo(beta_));
+  EXPECT_TRUE(LeadsTo(alpha_));
+}
+
+TEST_F(WayBack, IsKeptByTwoQuickKeys) {
+  StartInAlpha();
+  Press(TagKey(0));
+  Press(TagKey(1));
+  ASSERT_TRUE(InFront(alpha_));
+  ASSERT_TRUE(StaysInFront(alpha_));
+  EXPECT_TRUE(LeadsTo(beta_));
+}
+
+TEST_F(WayBack, IsKeptByAQuickTagAfterMinimizing) {
+  StartInAlpha();
+  Press({MOD_ALT, VK_DOWN});
+  Press(TagKey(1));
+  ASSERT_TRUE(InFront(alpha_));
+  ASSERT_TRUE(StaysInFront(alpha_));
+  EXPECT_TRUE(LeadsTo(beta_));
+}
+
+TEST_F(WayBack, IsKeptByAQuickTagAfterAClick) {
+  StartInAlpha();
+  SetForegroundWindow(gamma_.handle());
+  ASSERT_TRUE(WaitFor([&] { return Foreground() == gamma_; }));
+  Press(TagKey(1));
+  ASSERT_TRUE(InFront(alpha_));
+  EXPECT_TRUE(LeadsTo(gamma_));
+}
+
+TEST_F(WayBack, IsKeptWhenTheWindowInFrontCloses) {
+  StartInAlpha();
+  ASSERT_TRUE(alpha_.Close());
+  ASSERT_TRUE(BringToFront(beta_));
+  ASSERT_TRUE(StaysInFront(beta_));
+  EXPECT_TRUE(LeadsTo(gamma_));
+  EXPECT_TRUE(LeadsTo(beta_));
+}
+
+TEST_F(WayBack, IsNotTheMainWindowAfterThePopUp) {
+  StartInAlpha();
+  ShowWindow(main().handle(), SW_MINIMIZE);
+  ASSERT_TRUE(WaitFor([&] { return main().Minimized(); }));
+  ASSERT_TRUE(BringToFront(alpha_));
+  ASSERT_TRUE(StaysInFront(alpha_));
+  ASSERT_TRUE(PopUpWindowMenu());
+  ASSERT_TRUE(HoldsFor([&] { return korvale_->HasMenu(); }));
+  Press({0, '2'});
+  ASSERT_TRUE(InFront(beta_));
+  ASSERT_TRUE(StaysInFront(beta_));
+  EXPECT_TRUE(LeadsTo(alpha_));
+  EXPECT_TRUE(main().Minimized());
+}
+
+TEST_F(WayBack, IsAliveAfterAStartThatIsAlwaysOnTop) {
+  ASSERT_TRUE(BringToFront(Open("Earlier")));
+  installation_.settings().Set("Startup", "AlwaysOnTop", "True");
+  Start();
+  EXPECT_TRUE(Target("Earlier"));
+  EXPECT_TRUE(main().Topmost());
+  Press(TagKey(0));
+  EXPECT_EQ(korvale_->TargetTitle(), "Earlier");
+  EXPECT_TRUE(WaitFor([&] { return Foreground().Title() == "Earlier"; }));
+}
+
+TEST_F(WayBack, IsTakenByAStartThatIsAlwaysOnTopWhenTheOptionSaysSo) {
+  const Window earlier = Open("Earlier");
+  ASSERT_TRUE(BringToFront(earlier));
+  installation_.MarkAsUsed();
+  installation_.settings().Set("Startup", "AlwaysOnTop", "True");
+  installation_.SetOption("SelectPrevWinOnStart", "True");
+  korvale_.emplace(installation_);
+  ASSERT_TRUE(main());
+  EXPECT_TRUE(Target("Earlier"));
+  EXPECT_TRUE(InFront(earlier));
+  EXPECT_TRUE(StaysInFront(earlier));
+}
+
+TEST_F(WayBack, MarksAWindowThatHasMadeItselfTopmost) {
+  StartInAlpha();
+  ASSERT_TRUE(BringToFront(main()));
+  ASSERT_TRUE(StaysInFront(main()));
+  SetWindowPos(alpha_.handle(), HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  ASSERT_TRUE(WaitFor([&] { return alpha_.Topmost(); }));
+  // Its entry takes the window out of the topmost ones again.
+  ASSERT_TRUE(OpenWindowMenu());
+  Press({0, 'T'});
+  EXPECT_TRUE(WaitFor([&] { return !alpha_.Topmost(); }));
+}
+
+}  // namespace
+}  // namespace korvale::endtoend
