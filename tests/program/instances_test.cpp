@@ -192,6 +192,20 @@ TEST_F(InstancesTest, AnImportBringsTagsColoursAndTipsButNotThePlace) {
   EXPECT_TRUE(store.Sections(old).empty());
 }
 
+TEST_F(InstancesTest, AnImportOfAlwaysOnTopStillAsksAboutTheHotKeys) {
+  StoreOldInstallation(store, "Korvale - Old");
+  store.SaveSetting("Korvale - Old", "Startup", "AlwaysOnTop", "True");
+  KorvaleCopy& korvale = NewCopy();
+  korvale.host.AnswerNext(win32::kIdYes);
+  korvale.host.WhenMessageBox([](const ShownMessage& box) {
+    EXPECT_EQ(box.title, "Korvale - CAUTION");
+    return win32::kIdNo;
+  });
+  EXPECT_TRUE(korvale.Start());
+  EXPECT_TRUE(korvale.Parts().startup.AlwaysOnTop);
+  EXPECT_TRUE(korvale.Parts().state.firstActivation);
+}
+
 TEST_F(InstancesTest, ACopyInAnotherFolderExplainsAndRunsWithItsOwnSettings) {
   KorvaleCopy& work = StartedCopy("Work");
   KorvaleCopy& home = UsedCopy("Home");
