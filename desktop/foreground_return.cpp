@@ -11,7 +11,8 @@ bool IsOwnForm(const LoadedForms& forms, WindowHandle hwnd) {
 }
 
 void ReturnForegroundTo(WindowQueries& windows, WindowCommands& commands, WindowHandle hwnd) {
-  if (windows.IsWindow(hwnd) && windows.IsWindowVisible(hwnd) && windows.IsWindowEnabled(hwnd)) {
+  if (windows.IsWindow(hwnd) && windows.IsWindowVisible(hwnd) && windows.IsWindowEnabled(hwnd) &&
+      !windows.IsIconic(hwnd)) {
     commands.SetForegroundWindow(hwnd);
   }
 }

@@ -9,8 +9,8 @@ namespace korvale {
 /// 0, which is no window.
 bool IsOwnForm(const LoadedForms& forms, WindowHandle hwnd);
 
-/// Puts the window in front (SetForegroundWindow) when it still can be: it lives, is visible and
-/// enabled. Does nothing otherwise.
+/// Puts the window in front (SetForegroundWindow) when it still can be: it lives, is visible,
+/// enabled and not minimized. Does nothing otherwise.
 void ReturnForegroundTo(WindowQueries& windows, WindowCommands& commands, WindowHandle hwnd);
 
 }  // namespace korvale

@@ -156,7 +156,11 @@ void frmMain::mnuWindowParentList_Click(std::int16_t Index) {
   windowMenu_.mnuWindowParentList_Click(Index);
 }
 
-void frmMain::PopUpWindowMenu() { platform_->host.TrackPopupMenuEx(Handle(), Menu("mnuWindow")); }
+WindowHandle frmMain::PopUpWindowMenu() {
+  windowMenu_.selected = 0;
+  platform_->host.TrackPopupMenuEx(Handle(), Menu("mnuWindow"));
+  return windowMenu_.selected;
+}
 
 void frmMain::SetWindowMenuTag(const std::string& tag) {
   Menu("mnuWindow").tag = tag;

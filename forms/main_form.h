@@ -108,7 +108,7 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   /// "LOAD_AND_OR_REFRESH" opens the Options dialog, or fills the open one anew, from the options
   /// record; "UPDATE_OPTIONS" takes its values into the record; other modes do nothing.
   void udmOptions(const std::string& strMode) override;
-  void PopUpWindowMenu() override;
+  WindowHandle PopUpWindowMenu() override;
   void SetWindowMenuTag(const std::string& tag) override;
   void HotKeysRegistered() override;
   void ShowTip(TipNumber number, const std::string& text, const std::string& title,

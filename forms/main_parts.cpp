@@ -44,7 +44,7 @@ MainParts::MainParts(Platform& platform, FormCollection& forms, MainWindow& main
                 tracker, previous, suspension, messages, hotKeyActions, toggle, errors},
                identity.productName, identity.messageTitle),
       hook(
-          platform.hotKeys, hotKeys, mainWindow,
+          platform.hotKeys, hotKeys, mainWindow, [&platform] { return platform.host.EndMenu(); },
           [this](const std::string& name) { dispatch.udmProcessHotKey(name, true, false, ""); },
           [&forms] { forms.ReportUncaught(); }) {}
 

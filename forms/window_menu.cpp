@@ -79,6 +79,7 @@ void WindowMenu::SelectPrevious() {
   parts_.tracker.UpdateRecord();
   WindowTriple window = parts_.previous.OfTagZero(parts_.mainWindow.FocusTag() == kGotFocus);
   if (parts_.actions.ActivateWindow(window, false, true) == kActivationDone) {
+    selected = window.handle;
     parts_.tracker.RecordSelection(window);
   }
 }
@@ -86,6 +87,7 @@ void WindowMenu::SelectPrevious() {
 void WindowMenu::SelectTag(MenuItem& entry, std::size_t slot) {
   const WindowHandle foreground = parts_.tracker.WindowInFront();
   if (TagHandle(entry) == foreground && foreground != 0) {
+    selected = foreground;
     if (parts_.windows.IsIconic(foreground)) {
       parts_.actions.ShowDesktopWindow(foreground, win32::kSwRestore);
     }
@@ -145,7 +147,7 @@ void WindowMenu::TellFailure(MenuItem& entry, std::size_t slot, ActivationResult
 }
 
 void WindowMenu::MoveRecordToSelected(const MenuItem& entry) {
-  const WindowHandle selected = TagHandle(entry);
+  selected = TagHandle(entry);
   parts_.tracker.RecordSelection({selected, GetWindowTitle(parts_.windows, selected),
                                   GetWindowClass(parts_.windows, selected)});
 }

@@ -56,6 +56,8 @@ class WindowMenu {
 
   /// True while a search over the windows must not be started.
   bool windowSearch = false;
+  /// The window to which an entry has last led; 0 = none since this was cleared.
+  WindowHandle selected = 0;
 
  private:
   void SelectPrevious();

@@ -19,8 +19,9 @@ class HotKeyActions {
   /// Brings the loaded Options dialog to the front and activates it.
   virtual void BringOptionsToFront() = 0;
   virtual void udmOptions(const std::string& strMode) = 0;
-  /// Pops the Window menu up at the mouse position.
-  virtual void PopUpWindowMenu() = 0;
+  /// Pops the Window menu up at the mouse position and carries out what the user chooses. Returns
+  /// the window that he has gone to by one of its entries, 0 = none.
+  virtual WindowHandle PopUpWindowMenu() = 0;
   virtual void SetWindowMenuTag(const std::string& tag) = 0;
   /// The hot keys were registered anew: what shows refused ones is out of date.
   virtual void HotKeysRegistered() = 0;

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <utility>
 
+#include "desktop/foreground_return.h"
 #include "desktop/window_readers.h"
 #include "hotkeys/hot_key_names.h"
 #include "platform/run_time_error.h"
@@ -143,10 +144,12 @@ void HotKeyDispatch::ShowOptions() {
 
 void HotKeyDispatch::PopUpWindowMenu() {
   const WindowHandle main = parts_.mainWindow.MainHandle();
+  const WindowHandle before = parts_.windows.GetForegroundWindow();
+  WindowHandle selected = 0;
   parts_.commands.SetForegroundWindow(main);
   parts_.actions.SetWindowMenuTag(kHotKeyWindowMenuPopup);
   try {
-    parts_.actions.PopUpWindowMenu();
+    selected = parts_.actions.PopUpWindowMenu();
     // Without a message behind it the next pop-up of the same menu would vanish at once.
     parts_.commands.PostMessageW(main, win32::kWmNull);
   } catch (...) {
@@ -154,6 +157,11 @@ void HotKeyDispatch::PopUpWindowMenu() {
     throw;
   }
   parts_.actions.SetWindowMenuTag("");
+  // Only the menu needed the main window in front. A user who has gone to a window meanwhile, by an
+  // entry or by a click, keeps it.
+  if (selected == 0 && before != main && parts_.windows.GetForegroundWindow() == main) {
+    ReturnForegroundTo(parts_.windows, parts_.commands, before);
+  }
 }
 
 }  // namespace korvale

@@ -7,12 +7,13 @@
 namespace korvale {
 
 WindowProcHook::WindowProcHook(HotKeyApi& hotKeys, const HotKeyTable& table,
-                               const MainWindow& mainWindow,
+                               const MainWindow& mainWindow, std::function<bool()> endMenu,
                                std::function<void(const std::string&)> process,
                                std::function<void()> reportUncaught)
     : hotKeys_(&hotKeys),
       table_(&table),
       mainWindow_(&mainWindow),
+      endMenu_(std::move(endMenu)),
       process_(std::move(process)),
       reportUncaught_(std::move(reportUncaught)) {}
 
@@ -30,15 +31,21 @@ std::intptr_t WindowProcHook::HotKeyWindowProc(WindowHandle hWnd, std::uint32_t 
                                                std::uintptr_t wParam, std::intptr_t lParam) {
   // A hot key may end the program, which removes the hook.
   const PreviousProcedure previous = prevWindowProc_;
-  if (uMsg == win32::kWmHotKey && hWnd == mainWindow_->MainHandle()) Dispatch(wParam);
+  if (uMsg == win32::kWmHotKey && hWnd == mainWindow_->MainHandle()) Dispatch(wParam, lParam);
   return hotKeys_->CallWindowProcA(previous, hWnd, uMsg, wParam, lParam);
 }
 
-void WindowProcHook::Dispatch(std::uintptr_t identifier) {
+void WindowProcHook::Dispatch(std::uintptr_t identifier, std::intptr_t lParam) {
   try {
     // A copy: the toggle rebuilds the table while the name is in use.
     const std::string name = table_->NameOf(identifier);
-    process_(name);
+    if (endMenu_()) {
+      // The menu's own loop is still running: Windows shows no second menu inside it, and what
+      // showed the first one must have ended before the next command begins.
+      hotKeys_->PostMessageW(mainWindow_->MainHandle(), win32::kWmHotKey, identifier, lParam);
+    } else {
+      process_(name);
+    }
   } catch (...) {
     reportUncaught_();
   }

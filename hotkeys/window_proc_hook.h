@@ -14,10 +14,11 @@ namespace korvale {
 /// The hook on the main window's message procedure that receives the hot keys.
 class WindowProcHook : public WindowProcedure {
  public:
-  /// `process` is given the name of each hot key; `reportUncaught` is called inside a catch block
-  /// and must not throw.
+  /// `endMenu` closes an open menu of the program and tells whether there was one; `process` is
+  /// given the name of each hot key; `reportUncaught` is called inside a catch block and must not
+  /// throw.
   WindowProcHook(HotKeyApi& hotKeys, const HotKeyTable& table, const MainWindow& mainWindow,
-                 std::function<void(const std::string&)> process,
+                 std::function<bool()> endMenu, std::function<void(const std::string&)> process,
                  std::function<void()> reportUncaught);
 
   /// "SET" installs the hot-key window procedure on the main window, "REMOVE" puts the former one
@@ -26,7 +27,8 @@ class WindowProcHook : public WindowProcedure {
   void HookWindowProc(std::string_view mode, WindowHandle hWnd);
 
   /// Hands a WM_HOTKEY of the main window to the dispatcher, then passes every message on,
-  /// also when the dispatcher failed (CallWindowProcA).
+  /// also when the dispatcher failed (CallWindowProcA). One that comes while a menu is open closes
+  /// the menu and is posted anew, to be carried out when that has gone.
   std::intptr_t HotKeyWindowProc(WindowHandle hWnd, std::uint32_t uMsg, std::uintptr_t wParam,
                                  std::intptr_t lParam);
 
@@ -35,11 +37,12 @@ class WindowProcHook : public WindowProcedure {
   void OnUncaught() noexcept override;
 
  private:
-  void Dispatch(std::uintptr_t identifier);
+  void Dispatch(std::uintptr_t identifier, std::intptr_t lParam);
 
   HotKeyApi* hotKeys_;
   const HotKeyTable* table_;
   const MainWindow* mainWindow_;
+  std::function<bool()> endMenu_;
   std::function<void(const std::string&)> process_;
   std::function<void()> reportUncaught_;
   PreviousProcedure prevWindowProc_ = 0;

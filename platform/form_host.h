@@ -122,6 +122,9 @@ class FormHost {
   /// Pops a menu of the form up at the mouse position and returns when it has closed; the choice
   /// has then been told through OnMenuClicked (TrackPopupMenuEx).
   virtual void TrackPopupMenuEx(WindowHandle hwnd, MenuItem& menu) = 0;
+  /// Closes the menu that is open in the program, of a bar or popped up; false when there is none.
+  /// Whoever shows it gets control back later and is told of no choice (EndMenu).
+  virtual bool EndMenu() = 0;
 
   /// The colour dialog; nothing when the user cancels it. Colours are 0x00BBGGRR.
   virtual std::optional<Color> ChooseColorW(WindowHandle owner, Color initial) = 0;

@@ -42,6 +42,9 @@ class HotKeyApi {
   virtual std::intptr_t CallWindowProcA(PreviousProcedure previous, WindowHandle hwnd,
                                         std::uint32_t message, std::uintptr_t wParam,
                                         std::intptr_t lParam) = 0;
+  /// Puts a message at the end of the queue; it comes to the window's procedure in its turn.
+  virtual bool PostMessageW(WindowHandle hwnd, std::uint32_t message, std::uintptr_t wParam,
+                            std::intptr_t lParam) = 0;
 };
 
 }  // namespace korvale

@@ -165,6 +165,14 @@ void WindowsFormHost::TrackPopupMenuEx(WindowHandle hwnd, MenuItem& menu) {
   if (const auto form = Find(hwnd)) form->TrackPopup(menu);
 }
 
+bool WindowsFormHost::EndMenu() {
+  GUITHREADINFO info{};
+  info.cbSize = sizeof(info);
+  constexpr DWORD kAnyMenu = GUI_INMENUMODE | GUI_SYSTEMMENUMODE | GUI_POPUPMENUMODE;
+  const BOOL known = GetGUIThreadInfo(GetCurrentThreadId(), &info);
+  return known != FALSE && (info.flags & kAnyMenu) != 0 && ::EndMenu() != FALSE;
+}
+
 void WindowsFormHost::RunMessageLoop(const std::function<bool()>& done) { loop_.Run(done); }
 
 void WindowsFormHost::DoEvents() { loop_.DoEvents(); }

@@ -42,6 +42,7 @@ class WindowsFormHost : public FormHost {
   std::int16_t MessageBoxW(WindowHandle owner, const std::string& text, const std::string& title,
                            std::int32_t style) override;
   void TrackPopupMenuEx(WindowHandle hwnd, MenuItem& menu) override;
+  bool EndMenu() override;
   std::optional<Color> ChooseColorW(WindowHandle owner, Color initial) override;
   void SetCursor(MousePointer pointer) override;
   void SendInput(WindowHandle hwnd, int virtualKey, unsigned shift) override;

@@ -90,4 +90,9 @@ std::intptr_t WindowsHotKeyApi::CallWindowProcA(PreviousProcedure previous, Wind
   return PassOn(reinterpret_cast<WNDPROC>(previous), ToHwnd(hwnd), message, wParam, lParam);
 }
 
+bool WindowsHotKeyApi::PostMessageW(WindowHandle hwnd, std::uint32_t message, std::uintptr_t wParam,
+                                    std::intptr_t lParam) {
+  return ::PostMessageW(ToHwnd(hwnd), message, wParam, lParam) != FALSE;
+}
+
 }  // namespace korvale

@@ -22,6 +22,8 @@ class WindowsHotKeyApi final : public HotKeyApi {
   std::intptr_t CallWindowProcA(PreviousProcedure previous, WindowHandle hwnd,
                                 std::uint32_t message, std::uintptr_t wParam,
                                 std::intptr_t lParam) override;
+  bool PostMessageW(WindowHandle hwnd, std::uint32_t message, std::uintptr_t wParam,
+                    std::intptr_t lParam) override;
 
   struct Hook;
 

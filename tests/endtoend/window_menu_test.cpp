@@ -1,3 +1,7 @@
+#include <cstdlib>
+#include <string>
+#include <vector>
+
 #include "tests/endtoend/korvale_test.h"
 
 namespace korvale::endtoend {
@@ -5,7 +9,22 @@ namespace {
 
 constexpr char kClass[] = "Test.Window";
 
-class WindowMenu : public KorvaleTest {};
+class WindowMenu : public KorvaleTest {
+ protected:
+  /// How many menus are on the screen.
+  size_t OpenMenus() {
+    std::vector<Window> menus = TopLevelWindows();
+    std::erase_if(
+        menus, [](Window window) { return window.ClassName() != "#32768" || !window.Visible(); });
+    return menus.size();
+  }
+
+  bool MenuIsAt(int x, int y) {
+    RECT area{};
+    GetWindowRect(korvale_->OpenMenu().handle(), &area);
+    return std::abs(area.left - x) <= 4 && std::abs(area.top - y) <= 4;
+  }
+};
 
 TEST_F(WindowMenu, SelectsATaggedWindow) {
   installation_.StoreTag(3, "Alpha", kClass);
@@ -53,6 +72,84 @@ TEST_F(WindowMenu, PoppedUpTwiceWorksAgainAfterEscape) {
   ASSERT_TRUE(PopUpWindowMenu());
   Press({0, '3'});
   EXPECT_TRUE(InFront(alpha));
+}
+
+TEST_F(WindowMenu, PoppedUpAndLeftWithoutAChoiceGivesTheKeyboardBack) {
+  Start();
+  const Window beta = Open("Beta");
+  ASSERT_TRUE(WorkIn(beta));
+  ASSERT_TRUE(PopUpWindowMenu());
+  Press({0, VK_ESCAPE});
+  EXPECT_TRUE(WaitFor([&] { return !korvale_->HasMenu(); }));
+  EXPECT_TRUE(InFront(beta));
+  EXPECT_TRUE(StaysInFront(beta));
+}
+
+TEST_F(WindowMenu, PoppedUpFromAMinimizedStripLeavesItMinimized) {
+  Start();
+  const Window strip = main();
+  const Window beta = Open("Beta");
+  ShowWindow(strip.handle(), SW_MINIMIZE);
+  ASSERT_TRUE(WaitFor([&] { return strip.Minimized(); }));
+  ASSERT_TRUE(BringToFront(beta));
+  ASSERT_TRUE(PopUpWindowMenu());
+  EXPECT_TRUE(strip.Minimized());
+  Press({0, VK_ESCAPE});
+  EXPECT_TRUE(WaitFor([&] { return !korvale_->HasMenu(); }));
+  EXPECT_TRUE(InFront(beta));
+  EXPECT_TRUE(strip.Minimized());
+}
+
+TEST_F(WindowMenu, ASwitchOfThePopUpLeavesTheUserWhereHeWorks) {
+  Start();
+  const Window beta = Open("Beta");
+  ASSERT_TRUE(WorkIn(beta));
+  ASSERT_TRUE(PopUpWindowMenu());
+  Press({0, 'O'});
+  EXPECT_TRUE(
+      WaitFor([&] { return installation_.settings().Get("Startup", "AlwaysOnTop") == "True"; }));
+  EXPECT_TRUE(InFront(beta));
+  EXPECT_TRUE(StaysInFront(beta));
+}
+
+TEST_F(WindowMenu, PoppedUpOverAnOpenMenuOfTheBarIsTheOnlyMenu) {
+  installation_.StoreTag(3, "Alpha", kClass);
+  Start();
+  const Window alpha = Open("Alpha");
+  ASSERT_TRUE(WorkIn(Open("Beta")));
+  SetCursorPos(700, 300);
+  ASSERT_TRUE(OpenWindowMenu());
+  Press(kMenuKey);
+  EXPECT_TRUE(WaitFor([&] { return OpenMenus() == 1 && MenuIsAt(700, 300); }));
+  Press({0, '3'});
+  EXPECT_TRUE(InFront(alpha));
+  EXPECT_TRUE(WaitFor([&] { return OpenMenus() == 0; }));
+}
+
+TEST_F(WindowMenu, PoppedUpAgainMovesToTheMouse) {
+  Start();
+  const Window beta = Open("Beta");
+  ASSERT_TRUE(WorkIn(beta));
+  SetCursorPos(300, 300);
+  ASSERT_TRUE(PopUpWindowMenu());
+  SetCursorPos(700, 350);
+  Press(kMenuKey);
+  EXPECT_TRUE(WaitFor([&] { return OpenMenus() == 1 && MenuIsAt(700, 350); }));
+  Press({0, VK_ESCAPE});
+  EXPECT_TRUE(WaitFor([&] { return OpenMenus() == 0; }));
+  EXPECT_TRUE(InFront(beta));
+}
+
+TEST_F(WindowMenu, ATagKeyClosesThePopUpAndSelectsItsWindow) {
+  installation_.StoreTag(3, "Alpha", kClass);
+  Start();
+  const Window alpha = Open("Alpha");
+  ASSERT_TRUE(WorkIn(Open("Beta")));
+  ASSERT_TRUE(PopUpWindowMenu());
+  Press(TagKey(3));
+  EXPECT_TRUE(WaitFor([&] { return OpenMenus() == 0; }));
+  EXPECT_TRUE(InFront(alpha));
+  EXPECT_TRUE(StaysInFront(alpha));
 }
 
 TEST_F(WindowMenu, SaysThatATaggedWindowIsNotOpen) {

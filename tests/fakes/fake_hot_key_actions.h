@@ -37,7 +37,10 @@ class FakeHotKeyActions : public HotKeyActions {
   }
   void BringOptionsToFront() override { Log("BringOptionsToFront"); }
   void udmOptions(const std::string& strMode) override { Log("udmOptions(\"" + strMode + "\")"); }
-  void PopUpWindowMenu() override { Log("PopUpWindowMenu"); }
+  WindowHandle PopUpWindowMenu() override {
+    Log("PopUpWindowMenu");
+    return selectedInMenu;
+  }
   void SetWindowMenuTag(const std::string& tag) override {
     Log("SetWindowMenuTag(\"" + tag + "\")");
   }
@@ -56,6 +59,8 @@ class FakeHotKeyActions : public HotKeyActions {
 
   /// The entries of the Window menu's list whose caption begins with "&".
   std::set<std::int16_t> tagCaptions;
+  /// What the user has gone to by the pop-up.
+  WindowHandle selectedInMenu = 0;
   std::vector<ShownTip> tips;
   std::vector<ShownWaitWindow> waitWindows;
 

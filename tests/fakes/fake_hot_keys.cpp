@@ -30,7 +30,15 @@ bool FakeHotKeys::Press(std::uint32_t modifiers, std::uint32_t key) {
 
 std::intptr_t FakeHotKeys::Deliver(WindowHandle hwnd, std::uint32_t message, std::uintptr_t wParam,
                                    std::intptr_t lParam) {
-  return Run(Current(hwnd), hwnd, message, wParam, lParam);
+  ++delivering_;
+  const std::intptr_t result = Run(Current(hwnd), hwnd, message, wParam, lParam);
+  --delivering_;
+  while (delivering_ == 0 && !posted_.empty()) {
+    const std::function<void()> next = std::move(posted_.front());
+    posted_.pop_front();
+    next();
+  }
+  return result;
 }
 
 bool FakeHotKeys::RegisterForeign(std::uint32_t modifiers, std::uint32_t key) {
@@ -96,6 +104,15 @@ std::intptr_t FakeHotKeys::CallWindowProcA(PreviousProcedure previous, WindowHan
   log_.Add("CallWindowProcA(" + log_.Window(hwnd) + ", " + HexText(message) + ", " +
            std::to_string(wParam) + ", " + std::to_string(lParam) + ")");
   return Run(previous, hwnd, message, wParam, lParam);
+}
+
+bool FakeHotKeys::PostMessageW(WindowHandle hwnd, std::uint32_t message, std::uintptr_t wParam,
+                               std::intptr_t lParam) {
+  log_.Add("PostMessageW(" + log_.Window(hwnd) + ", " + HexText(message) + ", " +
+           std::to_string(wParam) + ", " + std::to_string(lParam) + ")");
+  if (!Exists(hwnd)) return false;
+  posted_.emplace_back([=, this] { Deliver(hwnd, message, wParam, lParam); });
+  return true;
 }
 
 bool FakeHotKeys::IsTaken(std::uint32_t modifiers, std::uint32_t key) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <deque>
 #include <functional>
 #include <map>
 #include <utility>
@@ -61,6 +62,9 @@ class FakeHotKeys : public HotKeyApi {
   std::intptr_t CallWindowProcA(PreviousProcedure previous, WindowHandle hwnd,
                                 std::uint32_t message, std::uintptr_t wParam,
                                 std::intptr_t lParam) override;
+  /// Delivered once the message that is being handled has been dealt with.
+  bool PostMessageW(WindowHandle hwnd, std::uint32_t message, std::uintptr_t wParam,
+                    std::intptr_t lParam) override;
 
  private:
   static constexpr PreviousProcedure kOwnProcedure = 0x7000;
@@ -77,6 +81,8 @@ class FakeHotKeys : public HotKeyApi {
   std::vector<std::pair<std::uint32_t, std::uint32_t>> foreign_;
   std::map<PreviousProcedure, WindowProcedure*> procedures_;
   std::map<WindowHandle, PreviousProcedure> current_;
+  std::deque<std::function<void()>> posted_;
+  int delivering_ = 0;
 };
 
 }  // namespace korvale

@@ -72,6 +72,8 @@ class HeadlessFormHost : public FormHost, private DesktopListener {
   DesktopWindows& Desktop() { return *desktop_; }
   /// Tells the form something; its errors go to OnUncaught.
   void Tell(WindowHandle hwnd, const std::function<void(FormEvents&)>& event);
+  /// The menus that the keyboard has opened: the one of the bar, then its submenus.
+  std::vector<MenuItem*>& OpenMenus() { return openMenus_; }
   /// Gives the focus as the mouse does, the window being active.
   void MoveFocus(HeadlessWindow& window, int control);
 
@@ -92,7 +94,9 @@ class HeadlessFormHost : public FormHost, private DesktopListener {
   TwipsRect GetWindowRect(WindowHandle hwnd) override { return Window(hwnd).place; }
   std::int16_t MessageBoxW(WindowHandle owner, const std::string& text, const std::string& title,
                            std::int32_t style) override;
+  /// Refused while a menu is open, as by Windows.
   void TrackPopupMenuEx(WindowHandle hwnd, MenuItem& menu) override;
+  bool EndMenu() override;
   std::optional<Color> ChooseColorW(WindowHandle owner, Color initial) override;
   void SetCursor(MousePointer pointer) override { pointer_ = pointer; }
   void SendInput(WindowHandle hwnd, int virtualKey, unsigned shift) override;
@@ -126,6 +130,9 @@ class HeadlessFormHost : public FormHost, private DesktopListener {
   std::deque<std::function<void()>> posted_;
   std::function<bool()> idle_;
   Keyboard keyboard_;
+  std::vector<MenuItem*> openMenus_;
+  bool poppedUp_ = false;
+  bool popUpEnded_ = false;
   std::vector<ShownMessage> messages_;
   std::vector<ShownMessage> boxes_;
   TwipsRect frame_ = {45, 355, 90, 400};

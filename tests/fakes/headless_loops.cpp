@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "forms/form.h"
+#include "hotkeys/suspension.h"
 #include "platform/win32_constants.h"
 #include "tests/fakes/headless_form_host.h"
 
@@ -80,7 +81,7 @@ std::int16_t HeadlessFormHost::MessageBoxW(WindowHandle owner, const std::string
             std::to_string(style) + ")");
   const Answer answer = TakeAnswer(message);
   const bool disables = owner != 0 && desktop_->IsEnabled(owner);
-  if (disables) desktop_->Enable(owner, false);
+  if (disables && FindWindow(owner) != nullptr) desktop_->Enable(owner, false);
   const WindowHandle box = desktop_->OpenBox(owner, title);
   std::int16_t button = 0;
   {
@@ -97,18 +98,34 @@ std::int16_t HeadlessFormHost::MessageBoxW(WindowHandle owner, const std::string
 
 void HeadlessFormHost::TrackPopupMenuEx(WindowHandle hwnd, MenuItem& menu) {
   log_->Add("TrackPopupMenuEx(" + log_->Window(hwnd) + ", " + menu.name + ")");
+  if (poppedUp_ || !openMenus_.empty()) return;
   Tell(hwnd, [&](FormEvents& events) { events.OnMenuOpened(menu); });
   if (choices_.empty()) FailTest("nobody chooses from the pop-up menu " + menu.name);
   const Choose choose = std::move(choices_.front());
   choices_.pop_front();
-  const std::string caption = choose(DrawItems(menu));
+  popUpEnded_ = false;
+  std::string caption;
+  {
+    const RaisedFlag shown(poppedUp_);
+    caption = choose(DrawItems(menu));
+  }
   if (caption.empty()) return;
+  if (popUpEnded_) FailTest("the pop-up menu " + menu.name + " has been closed");
   const auto found = std::ranges::find_if(menu.items, [&](const auto& item) {
     return item->visible && DrawItem(*item).caption == caption;
   });
   if (found == menu.items.end()) FailTest("the pop-up menu has no entry \"" + caption + "\"");
   if (!(*found)->enabled) FailTest("the entry \"" + caption + "\" is disabled");
   Tell(hwnd, [&](FormEvents& events) { events.OnMenuClicked(**found); });
+}
+
+bool HeadlessFormHost::EndMenu() {
+  const bool open = poppedUp_ || !openMenus_.empty();
+  if (!open) return false;
+  log_->Add("EndMenu()");
+  popUpEnded_ = poppedUp_;
+  openMenus_.clear();
+  return true;
 }
 
 std::string HeadlessFormHost::ActiveFormName() {

@@ -30,7 +30,7 @@ bool ReportsClick(const ControlState& control) {
 }  // namespace
 
 HeadlessUser::HeadlessUser(HeadlessFormHost& host, FakeClock& clock)
-    : host_(&host), clock_(&clock) {
+    : host_(&host), clock_(&clock), openMenus_(host.OpenMenus()) {
   clock.SetTickHandler([&host](WindowHandle hwnd, int id) { host.DeliverTimer(hwnd, id); });
   host.SetKeyboard([this](WindowHandle, int virtualKey, unsigned shift) {
     sentKeys_.push_back(KeyOf(virtualKey, shift));

@@ -102,8 +102,8 @@ class HeadlessUser : public UserHands {
 
   HeadlessFormHost* host_;
   FakeClock* clock_;
-  std::deque<Key> sentKeys_;          ///< By the program itself; pressed after the user's own.
-  std::vector<MenuItem*> openMenus_;  ///< By the keyboard: the menu of the bar, then its submenus.
+  std::deque<Key> sentKeys_;           ///< By the program itself; pressed after the user's own.
+  std::vector<MenuItem*>& openMenus_;  ///< Of the host.
   MenuItem* highlighted_ = nullptr;
 };
 

@@ -93,7 +93,30 @@ TEST_F(HotKeyDispatchTest, PopsTheWindowMenuUpOverItsOwnForegroundWindow) {
 
   EXPECT_EQ(log.Calls(), (Calls{kTimersOff, "SetForegroundWindow(main)",
                                 "SetWindowMenuTag(\"HOTKEY_WINDOW_MENU_POPUP\")", "PopUpWindowMenu",
-                                "PostMessageW(main, 0x0)", "SetWindowMenuTag(\"\")", kTimersOn}));
+                                "PostMessageW(main, 0x0)", "SetWindowMenuTag(\"\")",
+                                "SetForegroundWindow(target)", kTimersOn}));
+}
+
+TEST_F(HotKeyDispatchTest, LeavesTheUserWhereThePopUpHasLedHim) {
+  actions.selectedInMenu = main;
+  Press("HOTKEY_WINDOW_MENU_POPUP");
+  EXPECT_EQ(desktop.GetForegroundWindow(), main);
+
+  desktop.UserActivates(target);
+  actions.selectedInMenu = 0;
+  actions.onCall = [this](const std::string& call) {
+    if (call == "PopUpWindowMenu") desktop.UserActivates(other);
+  };
+  Press("HOTKEY_WINDOW_MENU_POPUP");
+  EXPECT_EQ(desktop.GetForegroundWindow(), other);
+}
+
+TEST_F(HotKeyDispatchTest, GivesTheForegroundBackToNoWindowMinimizedThroughThePopUp) {
+  actions.onCall = [this](const std::string& call) {
+    if (call == "PopUpWindowMenu") desktop.UserMinimizes(target);
+  };
+  Press("HOTKEY_WINDOW_MENU_POPUP");
+  EXPECT_EQ(desktop.GetForegroundWindow(), main);
 }
 
 TEST_F(HotKeyDispatchTest, TakesTheMenuTagBackWhenThePopUpFails) {

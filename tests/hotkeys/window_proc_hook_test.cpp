@@ -7,6 +7,7 @@
 #include <functional>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "app/core/error_reporting.h"
@@ -61,7 +62,11 @@ class WindowProcHookTest : public testing::Test {
   OptionsHolder options;
   HotKeyTable table{hotKeys, options, mainWindow};
   std::function<void(const std::string&)> inDispatch;
-  WindowProcHook hook{hotKeys, table, mainWindow,
+  bool menuOpen = false;
+  WindowProcHook hook{hotKeys,
+                      table,
+                      mainWindow,
+                      [this] { return std::exchange(menuOpen, false); },
                       [this](const std::string& name) { Process(name); },
                       [this] { ReportUncaught(); }};
 };
@@ -70,6 +75,17 @@ TEST_F(WindowProcHookTest, HandsAHotKeyToTheDispatcherThenPassesItOn) {
   EXPECT_EQ(PressHotKey(4), 77);
 
   EXPECT_EQ(log.Calls(), (Calls{"process HOTKEY_PARENT3", "CallWindowProcA(main, 0x312, 4, 5)"}));
+}
+
+TEST_F(WindowProcHookTest, AHotKeyOverAnOpenMenuComesAgainWhenThatHasGone) {
+  menuOpen = true;
+  inDispatch = [this](const std::string&) { EXPECT_FALSE(menuOpen); };
+
+  hotKeys.Deliver(kMain, win32::kWmHotKey, 4, 5);
+
+  EXPECT_EQ(log.Calls(),
+            (Calls{"PostMessageW(main, 0x312, 4, 5)", "CallWindowProcA(main, 0x312, 4, 5)",
+                   "process HOTKEY_PARENT3", "CallWindowProcA(main, 0x312, 4, 5)"}));
 }
 
 TEST_F(WindowProcHookTest, PassesOtherMessagesOnUnseen) {
@@ -206,7 +222,7 @@ TEST_F(WindowProcHookTest, DoesNothingInAnyOtherMode) {
 
 TEST_F(WindowProcHookTest, RemovesNothingThatWasNeverSet) {
   WindowProcHook unused(
-      hotKeys, table, mainWindow, [](const std::string&) {}, [] {});
+      hotKeys, table, mainWindow, [] { return false; }, [](const std::string&) {}, [] {});
 
   unused.HookWindowProc("REMOVE", kMain);
 

@@ -215,7 +215,7 @@ TEST_F(HotKeysTest, ThePopUpWithoutAChoiceLeavesTheMenuAsTheBarShowsIt) {
     return std::string();
   });
   PressHotKey(win32::kModWin, 'W');
-  EXPECT_EQ(Front(), "Korvale - Work");
+  EXPECT_EQ(Front(), "Beta");
   EXPECT_EQ(korvale.Form().Menu("mnuWindow").tag, "");
   EXPECT_TRUE(korvale.Form().tmrWindow().Enabled());
 }
