@@ -3,10 +3,14 @@
 #include <utility>
 
 #include "desktop/foreground_return.h"
+#include "desktop/waiting_window.h"
 #include "platform/run_time_error.h"
 
 namespace korvale {
 namespace {
+
+/// The window class of message boxes and of the dialogs of Windows.
+constexpr const char* kDialogClass = "#32770";
 
 /// Counts a message box for as long as it is shown.
 class DepthCount {
@@ -84,10 +88,15 @@ std::int16_t SuspendingMessageBoxes::Show(const std::string& prompt, std::int32_
   return host_->MessageBoxW(Owner(), prompt, title, buttons);
 }
 
-/// Owned by the main window alone, a box would open behind the dialog above it. A main window that
-/// is still hidden would be activated when its box closes, and so not once more when it is shown.
+/// Windows enables the owner of a closed box and brings it to the front, so the owner must be what
+/// the user sees below the box: another box or a dialog of Windows, a dialog of ours, or the main
+/// window. A main window that is still hidden would be activated when its box closes, and so not
+/// once more when it is shown.
 WindowHandle SuspendingMessageBoxes::Owner() {
-  for (const WindowHandle owner : {dialogOnTop_(), mainWindow_->MainHandle()}) {
+  const WindowHandle main = mainWindow_->MainHandle();
+  const bool overAnother = suspension_->MessageBoxDepth > 1 || suspension_->DialogShown;
+  const WindowHandle below = overAnother ? FindWaitingWindow(*windows_, main, kDialogClass) : 0;
+  for (const WindowHandle owner : {below, dialogOnTop_(), main}) {
     if (owner != 0 && windows_->IsWindowVisible(owner)) return owner;
   }
   return 0;

@@ -86,6 +86,12 @@ bool WindowsWindowApi::IsHungAppWindow(WindowHandle hwnd) {
   return ::IsHungAppWindow(ToHwnd(hwnd)) != FALSE;
 }
 
+std::uint32_t WindowsWindowApi::GetWindowThreadProcessId(WindowHandle hwnd) {
+  DWORD process = 0;
+  ::GetWindowThreadProcessId(ToHwnd(hwnd), &process);
+  return process;
+}
+
 WindowHandle WindowsWindowApi::GetForegroundWindow() {
   return ToWindowHandle(::GetForegroundWindow());
 }

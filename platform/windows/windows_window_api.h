@@ -21,6 +21,7 @@ class WindowsWindowApi final : public WindowQueries, public WindowCommands {
   bool IsIconic(WindowHandle hwnd) override;
   bool IsZoomed(WindowHandle hwnd) override;
   bool IsHungAppWindow(WindowHandle hwnd) override;
+  std::uint32_t GetWindowThreadProcessId(WindowHandle hwnd) override;
   WindowHandle GetForegroundWindow() override;
   WindowHandle FindWindowA(const std::string& title) override;
 

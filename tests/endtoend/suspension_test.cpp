@@ -39,6 +39,49 @@ TEST_F(Suspension, ShowsItsNoticeOnceHoweverOftenAKeyIsPressed) {
   EXPECT_TRUE(InFront(alpha));
 }
 
+TEST_F(Suspension, TheDismissedNoticeLeadsBackToTheMessageBelowIt) {
+  installation_.StoreTag(1, "Nowhere", kClass);
+  installation_.StoreTag(2, "Alpha", kClass);
+  Start();
+  Open("Alpha");
+  const Window beta = Open("Beta");
+  ASSERT_TRUE(WorkIn(beta));
+  Press(TagKey(1));
+  const Window message = korvale_->MessageBox();
+  ASSERT_TRUE(InFront(message));
+  Press(TagKey(2));
+  const Window notice = Notice();
+  ASSERT_TRUE(InFront(notice));
+  EXPECT_FALSE(message.Enabled());
+  Press({0, VK_RETURN});
+  ASSERT_TRUE(WaitFor([&] { return !notice.Exists(); }));
+  EXPECT_TRUE(InFront(message));
+  EXPECT_TRUE(HoldsFor([&] { return Foreground() == message && !main().Enabled(); }));
+  Press({0, VK_RETURN});
+  ASSERT_TRUE(WaitFor([&] { return !message.Exists(); }));
+  EXPECT_TRUE(InFront(beta));
+  EXPECT_TRUE(main().Enabled());
+}
+
+TEST_F(Suspension, TheDismissedNoticeLeadsBackToTheMessageAlsoFromTheMainWindow) {
+  installation_.StoreTag(1, "Nowhere", kClass);
+  Start();
+  Open("Beta");
+  ASSERT_TRUE(BringToFront(main()));
+  Press(TagKey(1));
+  const Window message = korvale_->MessageBox();
+  ASSERT_TRUE(InFront(message));
+  Press(TagKey(1));
+  const Window notice = Notice();
+  ASSERT_TRUE(InFront(notice));
+  Press({0, VK_RETURN});
+  ASSERT_TRUE(WaitFor([&] { return !notice.Exists(); }));
+  EXPECT_TRUE(InFront(message));
+  EXPECT_TRUE(HoldsFor([&] { return Foreground() == message && !main().Enabled(); }));
+  Press({0, VK_RETURN});
+  EXPECT_TRUE(InFront(main()));
+}
+
 TEST_F(Suspension, HoldsWhileTheAddWindowDialogIsOpen) {
   installation_.StoreTag(2, "Beta", kClass);
   Start();

@@ -113,6 +113,11 @@ bool FakeDesktop::IsHungAppWindow(WindowHandle hwnd) {
   return window != nullptr && window->hung;
 }
 
+std::uint32_t FakeDesktop::GetWindowThreadProcessId(WindowHandle hwnd) {
+  const FakeWindow* const window = Read("GetWindowThreadProcessId", hwnd);
+  return window == nullptr ? 0 : static_cast<std::uint32_t>(window->process) + 1;
+}
+
 WindowHandle FakeDesktop::GetForegroundWindow() {
   log_.AddRead("GetForegroundWindow()");
   return windows_.Foreground();

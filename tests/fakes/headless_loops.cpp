@@ -81,7 +81,7 @@ std::int16_t HeadlessFormHost::MessageBoxW(WindowHandle owner, const std::string
             std::to_string(style) + ")");
   const Answer answer = TakeAnswer(message);
   const bool disables = owner != 0 && desktop_->IsEnabled(owner);
-  if (disables && FindWindow(owner) != nullptr) desktop_->Enable(owner, false);
+  if (disables) desktop_->Enable(owner, false);
   const WindowHandle box = desktop_->OpenBox(owner, title);
   std::int16_t button = 0;
   {
@@ -91,7 +91,7 @@ std::int16_t HeadlessFormHost::MessageBoxW(WindowHandle owner, const std::string
   if (!Offers(style, button)) {
     FailTest("button " + std::to_string(button) + " is not on the " + Quote(message));
   }
-  if (disables && FindWindow(owner) != nullptr) desktop_->Enable(owner, true);
+  if (disables) desktop_->Enable(owner, true);
   desktop_->Destroy(box);
   return button;
 }

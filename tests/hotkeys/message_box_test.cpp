@@ -159,6 +159,20 @@ TEST_F(MessageBoxTest, HasNoOwnerBeforeTheMainWindowExists) {
   EXPECT_EQ(log.CallsOf("MessageBoxW"), Calls{"MessageBoxW(0, \"Prompt\", \"Title\", 0)"});
 }
 
+TEST_F(MessageBoxTest, BelongsToTheBoxBelowIt) {
+  modal = Open("Korvale - Options", "Korvale.frmOptions", kOurProcess);
+  host.whileShown = [this](const std::string& prompt) {
+    if (prompt == "inner") return;
+    log.NameWindow(Open("Box", "#32770", kOurProcess), "outer box");
+    Open("Box of another program", "#32770", kOtherProcess);
+    ShowBox("inner");
+  };
+
+  ShowBox("outer");
+
+  EXPECT_EQ(log.CallsOf("MessageBoxW").back(), "MessageBoxW(outer box, \"inner\", \"Title\", 0)");
+}
+
 TEST_F(MessageBoxTest, BelongsToTheModalDialogOnTop) {
   modal = Open("Korvale - Add Window", "Korvale.frmAddWindow", kOurProcess);
   log.NameWindow(modal, "dialog");

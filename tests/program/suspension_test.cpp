@@ -74,6 +74,28 @@ TEST_F(SuspensionTest, AMessageBoxHoldsTheHotKeysWithASingleNotice) {
   EXPECT_EQ(Front(), "Alpha");
 }
 
+TEST_F(SuspensionTest, TheNoticeLeadsBackToTheMessageBelowIt) {
+  KorvaleCopy& korvale = Started();
+  desktop.Close(alpha_);
+  korvale.host.WhenMessageBox([&](const ShownMessage&) {
+    const WindowHandle message = desktop.GetForegroundWindow();
+    ExpectNotice(korvale, [&](const ShownMessage& box) {
+      EXPECT_EQ(box.owner, message);
+      EXPECT_FALSE(desktop.IsWindowEnabled(message));
+    });
+    PressTag(1);
+    EXPECT_EQ(desktop.GetForegroundWindow(), message);
+    EXPECT_TRUE(desktop.IsWindowEnabled(message));
+    EXPECT_FALSE(korvale.user.IsEnabled(korvale.Handle()));
+    return win32::kIdOk;
+  });
+
+  PressTag(1);
+
+  EXPECT_EQ(Front(), "Beta");
+  EXPECT_TRUE(korvale.user.IsEnabled(korvale.Handle()));
+}
+
 TEST_F(SuspensionTest, TheAddWindowDialogHoldsThemAndStaysModalBehindTheNotice) {
   KorvaleCopy& korvale = Started();
   WorkIn(korvale.Handle());
