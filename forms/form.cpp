@@ -14,8 +14,9 @@ namespace {
 constexpr Twips kClassicFrameWidth = 90;
 constexpr Twips kClassicFrameHeight = 400;
 
-int ShowCommand(ShowState state) {
-  switch (state) {
+int ShowCommand(const FormState& form) {
+  if (form.aside) return win32::kSwShowNoActivate;
+  switch (form.windowState) {
     case ShowState::kMinimized:
       return win32::kSwShowMinNoActive;
     case ShowState::kMaximized:
@@ -84,6 +85,7 @@ void Form::BuildFromDesign() {
   state_.maximizeBox = design_.maximizeBox;
   state_.modalFrame = design_.modalFrame;
   state_.inTaskbar = design_.inTaskbar;
+  state_.aside = design_.aside;
   state_.menu = MenuBar(design_.menu);
   place_ = design_.place;
   focused_ = 0;
@@ -160,7 +162,7 @@ void Form::Show() {
     if (!IsLoaded()) return;
   }
   state_.visible = true;
-  forms_->Host().ShowWindow(handle_, ShowCommand(state_.windowState));
+  forms_->Host().ShowWindow(handle_, ShowCommand(state_));
 }
 
 void Form::ShowModal() {

@@ -27,6 +27,8 @@ struct FormDesign {
   bool maximizeBox = false;
   bool modalFrame = true;
   bool inTaskbar = false;
+  /// Seen above all windows without ever taking the keyboard.
+  bool aside = false;
   /// The height counts the frame and menu that the window really has; otherwise it counts the
   /// classic frame (400 twips) and the window grows with a higher one, so that no control is cut.
   bool exactHeight = false;

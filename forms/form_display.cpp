@@ -69,6 +69,16 @@ std::string FormDisplay::ShowFormModal(Form& form, const DisplaySwitches& switch
   return form.Tag();
 }
 
+void FormDisplay::ShowFormAside(Form& form) {
+  // A second loop for the same form would only hold up what waits for the first.
+  if (form.Visible()) return;
+  const RaisedFlag shown(suspension_->DialogShown);
+  form.Load();
+  PlaceForm(form, {}, {}, nullptr);
+  form.Show();
+  forms_->Host().RunMessageLoop([&form] { return !form.Visible(); });
+}
+
 void FormDisplay::ShowFormNonModal(Form& form, const DisplaySwitches& switches, Form* owner) {
   if (!form.IsLoaded()) return;
   if (!form.Visible()) {

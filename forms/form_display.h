@@ -41,6 +41,10 @@ class FormDisplay {
   std::string ShowFormModal(Form& form, const DisplaySwitches& switches, std::int32_t milliseconds,
                             const PlaceHints& hints, Form* owner);
 
+  /// Shows the form until it closes, and leaves the foreground and the other forms as they are. Hot
+  /// keys are suspended meanwhile. A form that is shown already stays where it is.
+  void ShowFormAside(Form& form);
+
   /// Brings a loaded form to the front; does nothing when it is not loaded. A form that the user
   /// already sees stays where it is, a minimized one is restored.
   void ShowFormNonModal(Form& form, const DisplaySwitches& switches, Form* owner);

@@ -25,7 +25,7 @@ frmMain::frmMain(Platform& platform, FormCollection& forms, ProgramLifetime& lif
       tmrWindow_(*this, "tmrWindow"),
       parts_(platform, forms, *this, Menus(), *this, [this] { udmUnload(false); }),
       tipForm_(forms),
-      waitForm_(forms, parts_.display, parts_.suspension),
+      waitForm_(forms, parts_.display),
       about_(forms, platform.clock, parts_.identity),
       addWindow_(forms, AddWindowContext{platform.windows, *this, parts_.previous, parts_.tags,
                                          addWindowMode_}),

@@ -1,7 +1,5 @@
 #include "forms/wait_window_form.h"
 
-#include "platform/win32_constants.h"
-
 namespace korvale {
 namespace {
 
@@ -20,14 +18,16 @@ constexpr ControlRow kWaitControls[] = {
     {kTimer, "tmrWait", -1, "", "", {}, "", -1, kDisabled},
 };
 
-constexpr FormDesign kDesign = {
-    .name = "frmWaitWindow", .caption = "", .place = {0, 0, 4800, 1450}, .controls = kWaitControls};
+constexpr FormDesign kDesign = {.name = "frmWaitWindow",
+                                .caption = "",
+                                .place = {0, 0, 4800, 1450},
+                                .aside = true,
+                                .controls = kWaitControls};
 
 }  // namespace
 
-frmWaitWindow::frmWaitWindow(FormCollection& forms, FormDisplay& display,
-                             const Suspension& suspension)
-    : Form(kDesign, forms), display_(&display), suspension_(&suspension) {
+frmWaitWindow::frmWaitWindow(FormCollection& forms, FormDisplay& display)
+    : Form(kDesign, forms), display_(&display) {
   WhenClicked("tmrWait", [this](int) { tmrWait_Timer(); });
 }
 
@@ -39,20 +39,9 @@ void frmWaitWindow::ShowWaitWindow(const std::string& caption, const std::string
   Control& tmrWait = Find("tmrWait");
   tmrWait.SetInterval(milliseconds);
   tmrWait.SetEnabled(true);
-  display_->ShowFormModal(*this, {}, kForegroundWait, {}, nullptr);
+  display_->ShowFormAside(*this);
 }
 
-void frmWaitWindow::Form_KeyDown(int& key, unsigned shift) {
-  const bool closes =
-      (key == win32::kVkEscape && shift == kNoShift) || (key == win32::kVkF4 && shift == kAlt);
-  if (!closes) return;
-  key = 0;
-  Unload();
-}
-
-void frmWaitWindow::tmrWait_Timer() {
-  // Windows would take the message box away together with its owner, unread.
-  if (!suspension_->MessageBoxShown) Unload();
-}
+void frmWaitWindow::tmrWait_Timer() { Unload(); }
 
 }  // namespace korvale

@@ -115,6 +115,9 @@ struct FormState {
   bool maximizeBox = false;
   bool modalFrame = false;  ///< Carries DS_MODALFRAME.
   bool inTaskbar = false;
+  /// Stands above all windows, and neither showing nor clicking it makes it the active one
+  /// (WS_EX_TOPMOST, WS_EX_NOACTIVATE).
+  bool aside = false;
   bool visible = false;
   bool enabled = true;
   ShowState windowState = ShowState::kNormal;

@@ -34,6 +34,7 @@ inline constexpr std::int32_t kWsExToolWindow = 0x00000080;
 inline constexpr int kSwHide = 0;
 inline constexpr int kSwShowNormal = 1;
 inline constexpr int kSwMaximize = 3;
+inline constexpr int kSwShowNoActivate = 4;
 inline constexpr int kSwShow = 5;
 inline constexpr int kSwMinimize = 6;
 inline constexpr int kSwShowMinNoActive = 7;

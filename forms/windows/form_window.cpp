@@ -25,6 +25,7 @@ DWORD FormExStyle(const FormState& form) {
   if (form.modalFrame) style |= WS_EX_DLGMODALFRAME;
   // An owned window has a place in the taskbar only when it asks for one.
   if (form.inTaskbar) style |= WS_EX_APPWINDOW;
+  if (form.aside) style |= WS_EX_NOACTIVATE | WS_EX_TOPMOST;
   return style;
 }
 

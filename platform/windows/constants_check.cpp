@@ -26,6 +26,7 @@ static_assert(kSwShowNormal == SW_SHOWNORMAL);
 static_assert(kSwMaximize == SW_MAXIMIZE);
 static_assert(kSwShow == SW_SHOW);
 static_assert(kSwMinimize == SW_MINIMIZE);
+static_assert(kSwShowNoActivate == SW_SHOWNOACTIVATE);
 static_assert(kSwShowMinNoActive == SW_SHOWMINNOACTIVE);
 static_assert(kSwRestore == SW_RESTORE);
 static_assert(kSwpNoSize == SWP_NOSIZE);

@@ -1,3 +1,6 @@
+#include <vector>
+
+#include "tests/endtoend/harness/real_program.h"
 #include "tests/endtoend/korvale_test.h"
 
 namespace korvale::endtoend {
@@ -109,6 +112,14 @@ class Toggle : public KorvaleTest {
     EXPECT_TRUE(WaitFor([&] { return !korvale_->HasForm("frmWaitWindow"); }));
   }
 
+  /// The top-level window that the user sees in the middle of that place.
+  Window TopLevelAt(Window place) {
+    RECT area{};
+    GetWindowRect(place.handle(), &area);
+    const POINT middle{(area.left + area.right) / 2, (area.top + area.bottom) / 2};
+    return Window(GetAncestor(WindowFromPoint(middle), GA_ROOT));
+  }
+
   void SwitchOff() {
     Press(kToggleKey);
     ExpectNotice("Korvale - Hot Keys (OFF)", "Hot Keys are now Deactivated");
@@ -134,6 +145,39 @@ TEST_F(Toggle, SwitchesTheOtherHotKeysOffAndOnAgain) {
   ASSERT_TRUE(BringToFront(beta));
   Press(TagKey(3));
   EXPECT_TRUE(InFront(alpha));
+}
+
+TEST_F(Toggle, ItsNoticeLeavesTheKeyboardToTheUsersWindow) {
+  Start();
+  const RealProgram notepad = StartNotepad();
+  ASSERT_TRUE(BringToFront(notepad.window()));
+  const std::vector<Window> edits = notepad.window().Controls("Edit");
+  ASSERT_FALSE(edits.empty());
+  Press(kToggleKey);
+  const Window notice = korvale_->Form("frmWaitWindow");
+  ASSERT_TRUE(notice);
+  EXPECT_EQ(TopLevelAt(notice), notice);
+  Type("abc");
+  EXPECT_EQ(Foreground(), notepad.window());
+  EXPECT_TRUE(WaitFor([&] { return edits.front().Text() == "abc"; }));
+  EXPECT_TRUE(WaitFor([&] { return !korvale_->HasForm("frmWaitWindow"); }));
+  EXPECT_TRUE(InFront(notepad.window()));
+}
+
+TEST_F(Toggle, ItsNoticeGoesByItselfUnderTheSuspensionNotice) {
+  Start();
+  const Window beta = Open("Beta");
+  ASSERT_TRUE(WorkIn(beta));
+  Press(kToggleKey);
+  ASSERT_TRUE(korvale_->Form("frmWaitWindow"));
+  Press(kToggleKey);
+  const Window suspended = korvale_->MessageBox();
+  ASSERT_TRUE(suspended);
+  EXPECT_EQ(LabelText(suspended), kNotice);
+  EXPECT_TRUE(WaitFor([&] { return !korvale_->HasForm("frmWaitWindow"); }));
+  EXPECT_TRUE(suspended.Visible());
+  EXPECT_TRUE(AnswerBox(suspended, IDOK));
+  EXPECT_TRUE(InFront(beta));
 }
 
 TEST_F(Toggle, LeavesTheKeysToOtherProgramsWhileTheyAreOff) {

@@ -69,7 +69,7 @@ std::string ShowCommandText(int command) {
       {win32::kSwShowNormal, "SW_SHOWNORMAL"},
       {fakes::kSwShowMinimized, "SW_SHOWMINIMIZED"},
       {win32::kSwMaximize, "SW_MAXIMIZE"},
-      {fakes::kSwShowNoActivate, "SW_SHOWNOACTIVATE"},
+      {win32::kSwShowNoActivate, "SW_SHOWNOACTIVATE"},
       {win32::kSwShow, "SW_SHOW"},
       {win32::kSwMinimize, "SW_MINIMIZE"},
       {win32::kSwShowMinNoActive, "SW_SHOWMINNOACTIVE"},

@@ -49,6 +49,7 @@ WindowHandle DesktopBridge::Create(const FormState& form, int children) {
   window.owner = OwnerOf(form);
   window.style = StyleOf(form);
   window.exStyle = form.inTaskbar ? kWsExAppWindow : 0;
+  if (form.aside) window.exStyle |= fakes::kWsExNoActivate | win32::kWsExTopmost;
   window.visible = false;
   window.children = children;
   window.process = process_;

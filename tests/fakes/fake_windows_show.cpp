@@ -40,7 +40,7 @@ bool FakeWindows::Apply(FakeWindow& window, int command) {
       return true;
     case win32::kSwShowNormal:
     case win32::kSwRestore:
-    case fakes::kSwShowNoActivate:
+    case win32::kSwShowNoActivate:
       Unfold(window, window.iconic && window.restoresToZoomed);
       return true;
     case win32::kSwMaximize:

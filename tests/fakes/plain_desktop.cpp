@@ -74,9 +74,9 @@ void PlainDesktop::Show(WindowHandle hwnd, int command) {
   }
   SetState(hwnd, state);
   const bool canBeActive = command != win32::kSwHide && state != ShowState::kMinimized;
-  if (canBeActive) {
+  if (canBeActive && command != win32::kSwShowNoActivate) {
     Activate(hwnd);
-  } else if (active_ == hwnd) {
+  } else if (active_ == hwnd && !canBeActive) {
     ActivateNext();
   }
 }

@@ -1,6 +1,5 @@
 #include "forms/wait_window_form.h"
 
-#include "platform/win32_constants.h"
 #include "tests/forms/dialog_test.h"
 
 namespace korvale {
@@ -12,7 +11,7 @@ class WaitWindowTest : public DialogTest {
     form_.ShowWaitWindow("Korvale - Hot Keys (OFF)", "Hot Keys are now Deactivated", 800);
   }
 
-  frmWaitWindow form_{forms_, display_, suspension_};
+  frmWaitWindow form_{forms_, display_};
 };
 
 TEST_F(WaitWindowTest, ShowsItsTextForAsLongAsItIsTold) {
@@ -23,62 +22,68 @@ TEST_F(WaitWindowTest, ShowsItsTextForAsLongAsItIsTold) {
 }
 
 TEST_F(WaitWindowTest, ShowsCaptionAndText) {
-  host_.WhenModal("frmWaitWindow", [&](Form& form) {
-    EXPECT_EQ(user_.Title(form.Handle()), "Korvale - Hot Keys (OFF)");
-    EXPECT_EQ(Text(form, "lblMessage"), "Hot Keys are now Deactivated");
+  host_.WhenWaiting([&] {
+    EXPECT_EQ(user_.Title(form_.Handle()), "Korvale - Hot Keys (OFF)");
+    EXPECT_EQ(Text(form_, "lblMessage"), "Hot Keys are now Deactivated");
   });
   ShowWaitWindow();
 }
 
 TEST_F(WaitWindowTest, SuspendsTheHotKeys) {
-  host_.WhenModal("frmWaitWindow", [&](Form&) { EXPECT_TRUE(suspension_.DialogShown); });
+  host_.WhenWaiting([&] { EXPECT_TRUE(suspension_.DialogShown); });
   ShowWaitWindow();
   EXPECT_FALSE(suspension_.DialogShown);
 }
 
-TEST_F(WaitWindowTest, GivesTheForegroundBackToTheUsersWindow) {
+TEST_F(WaitWindowTest, IsSeenAboveTheUsersWindowWhichKeepsTheKeyboard) {
   desktop_.Open("Editor");
+  host_.WhenWaiting([&] {
+    EXPECT_EQ(desktop_.ForegroundTitle(), "Editor");
+    EXPECT_EQ(desktop_.VisibleTitles().front(), "Korvale - Hot Keys (OFF)");
+  });
   ShowWaitWindow();
   EXPECT_EQ(desktop_.ForegroundTitle(), "Editor");
+  EXPECT_TRUE(log_.CallsOf("SetForegroundWindow").empty());
+}
+
+TEST_F(WaitWindowTest, LeavesTheOtherFormsToTheUser) {
+  frmWaitWindow other(forms_, display_);
+  other.Show();
+  host_.WhenWaiting([&] { EXPECT_TRUE(user_.IsEnabled(other.Handle())); });
+  ShowWaitWindow();
 }
 
 TEST_F(WaitWindowTest, EndsEarlyWhenTheUserClosesIt) {
   const std::uint64_t start = clock_.GetTickCount64();
-  host_.WhenModal("frmWaitWindow", [&](Form& form) { user_.PressCloseBox(form.Handle()); });
-  ShowWaitWindow();
-  host_.WhenModal("frmWaitWindow", [&](Form& form) { Press(form, win32::kVkEscape); });
-  ShowWaitWindow();
-  host_.WhenModal("frmWaitWindow", [&](Form& form) { Press(form, win32::kVkF4, kAlt); });
+  host_.WhenWaiting([&] { form_.OnCloseRequested(CloseReason::kUser); });
   ShowWaitWindow();
   EXPECT_EQ(clock_.GetTickCount64(), start);
 }
 
-TEST_F(WaitWindowTest, StaysForOtherKeys) {
-  const std::uint64_t start = clock_.GetTickCount64();
-  host_.WhenModal("frmWaitWindow", [&](Form& form) {
-    Press(form, win32::kVkPause);
-    Press(form, win32::kVkEscape, kCtrl);
-    Press(form, win32::kVkF4);
-  });
-  ShowWaitWindow();
-  EXPECT_EQ(clock_.GetTickCount64() - start, 800U);
-}
-
-TEST_F(WaitWindowTest, StaysUnderAMessageBoxUntilThatIsAnswered) {
-  const std::uint64_t start = clock_.GetTickCount64();
-  host_.WhenModal("frmWaitWindow", [&](Form& form) {
+TEST_F(WaitWindowTest, GoesInItsTimeUnderAMessageBox) {
+  host_.WhenWaiting([&] {
     suspension_.MessageBoxShown = true;
-    clock_.Advance(2000);
-    EXPECT_TRUE(form.IsLoaded());
+    clock_.Advance(800);
+    EXPECT_FALSE(form_.IsLoaded());
     suspension_.MessageBoxShown = false;
   });
   ShowWaitWindow();
-  EXPECT_EQ(clock_.GetTickCount64() - start, 2400U);
+}
+
+TEST_F(WaitWindowTest, ANewTextTakesThePlaceOfTheOneShownAndHasItsFullTime) {
+  const std::uint64_t start = clock_.GetTickCount64();
+  host_.WhenWaiting([&] {
+    clock_.Advance(500);
+    form_.ShowWaitWindow("Korvale - Hot Keys (ON)", "Hot Keys are now Activated", 800);
+    EXPECT_EQ(Text(form_, "lblMessage"), "Hot Keys are now Activated");
+  });
+  ShowWaitWindow();
+  EXPECT_EQ(clock_.GetTickCount64() - start, 1300U);
 }
 
 TEST_F(WaitWindowTest, LeavesNoTimerBehind) {
   WindowHandle handle = 0;
-  host_.WhenModal("frmWaitWindow", [&](Form& form) { handle = form.Handle(); });
+  host_.WhenWaiting([&] { handle = form_.Handle(); });
   ShowWaitWindow();
   EXPECT_FALSE(clock_.AnyTimerOf(handle));
 }

@@ -10,7 +10,8 @@ namespace {
 
 /// Expects to be told for 0.8 seconds that the hot keys are on or off.
 void ExpectWaitWindow(KorvaleCopy& korvale, const std::string& caption, const std::string& text) {
-  korvale.host.WhenModal("frmWaitWindow", [&korvale, caption, text](class Form& form) {
+  korvale.host.WhenWaiting([&korvale, caption, text] {
+    class Form& form = korvale.Loaded("frmWaitWindow");
     EXPECT_EQ(korvale.user.Title(form.Handle()), caption);
     EXPECT_EQ(form.Find("lblMessage").Text(), text);
     EXPECT_EQ(form.Find("tmrWait").Interval(), 800U);

@@ -142,10 +142,11 @@ TEST_F(SuspensionTest, ATipHoldsThem) {
 
 TEST_F(SuspensionTest, TheNoticeOutlastsTheWaitWindowThatCausedIt) {
   KorvaleCopy& korvale = Started();
-  korvale.host.WhenModal("frmWaitWindow", [&](class Form& form) {
+  korvale.host.WhenWaiting([&] {
     ExpectNotice(korvale, [&](const ShownMessage& box) {
-      EXPECT_EQ(box.owner, form.Handle());
-      clock.Advance(5000);
+      EXPECT_EQ(box.owner, korvale.Handle());
+      clock.Advance(800);
+      EXPECT_EQ(korvale.program.Forms().Find("frmWaitWindow"), nullptr);
       EXPECT_NE(desktop.FindWindowA(kNoticeTitle), 0);
     });
     PressHotKey(0, win32::kVkPause);
