@@ -2,6 +2,7 @@
 
 #include "forms/main_form.h"
 #include "forms/main_form_design.h"
+#include "forms/menu_width.h"
 #include "forms/options_design.h"
 #include "platform/win32_constants.h"
 #include "util/forms.h"
@@ -42,7 +43,10 @@ void frmMain::BindMenus() {
 }
 
 void frmMain::BindWindowMenu() {
-  WhenMenuOpens("mnuWindow", [this](int) { windowMenu_.mnuWindow_Click(); });
+  WhenMenuOpens("mnuWindow", [this](int) {
+    windowMenu_.mnuWindow_Click();
+    FitMenuToScreen(platform_->host, Handle(), Menu("mnuWindow"));
+  });
   WhenMenuClicked("mnuWindowAlwaysOnTop",
                   [this](int) { windowMenu_.mnuWindowAlwaysOnTop_Click(); });
   WhenMenuClicked("mnuWindowPreviousWindowAlwaysOnTop",

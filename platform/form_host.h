@@ -112,6 +112,10 @@ class FormHost {
   /// The work area, in twips, of the monitor that shows the window or is nearest to it
   /// (MonitorFromWindow, GetMonitorInfoW); of the primary monitor when there is no such window.
   virtual TwipsRect GetMonitorInfoW(WindowHandle hwnd) = 0;
+  /// The work area, in twips, of the monitor under the mouse pointer (MonitorFromPoint).
+  virtual TwipsRect MonitorFromPoint() = 0;
+  /// The width of a text in the menus of a form, in twips of the system's dots per inch.
+  virtual Twips GetTextExtentPoint32W(WindowHandle hwnd, const std::string& text) = 0;
   /// Where the form really stands, place and size in twips of the system's dots per inch, as the
   /// work areas count them (GetWindowRect).
   virtual TwipsRect GetWindowRect(WindowHandle hwnd) = 0;

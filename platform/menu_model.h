@@ -24,6 +24,8 @@ struct MenuItem {
   std::string name;
   int index = -1;
   std::string caption;
+  /// Stands in the menu instead of a caption that is too wide for the screen; "" = the caption.
+  std::string shown;
   std::string tag;
   bool checked = false;
   bool enabled = true;

@@ -18,6 +18,13 @@ int FurtherMenuRows(HWND hwnd, UINT dpi) {
   return std::max<int>(0, height - GetSystemMetricsForDpi(SM_CYMENU, dpi));
 }
 
+TwipsRect WorkAreaOf(HMONITOR monitor) {
+  MONITORINFO info{};
+  info.cbSize = sizeof(info);
+  ::GetMonitorInfoW(monitor, &info);
+  return ToScreenTwips(info.rcWork, GetDpiForSystem());
+}
+
 }  // namespace
 
 WindowsFormHost::WindowsFormHost(HINSTANCE instance)
@@ -143,10 +150,29 @@ TwipsRect WindowsFormHost::AdjustWindowRectEx(const FormState& form) {
 }
 
 TwipsRect WindowsFormHost::GetMonitorInfoW(WindowHandle hwnd) {
-  MONITORINFO info{};
-  info.cbSize = sizeof(info);
-  ::GetMonitorInfoW(MonitorFromWindow(ToHwnd(hwnd), MONITOR_DEFAULTTONEAREST), &info);
-  return ToScreenTwips(info.rcWork, GetDpiForSystem());
+  return WorkAreaOf(MonitorFromWindow(ToHwnd(hwnd), MONITOR_DEFAULTTONEAREST));
+}
+
+TwipsRect WindowsFormHost::MonitorFromPoint() {
+  POINT mouse{};
+  GetCursorPos(&mouse);
+  return WorkAreaOf(::MonitorFromPoint(mouse, MONITOR_DEFAULTTONEAREST));
+}
+
+Twips WindowsFormHost::GetTextExtentPoint32W(WindowHandle hwnd, const std::string& text) {
+  const std::wstring wide = ToUtf16(text);
+  NONCLIENTMETRICSW metrics{};
+  metrics.cbSize = sizeof(metrics);
+  SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof(metrics), &metrics, 0,
+                             GetDpiForWindow(ToHwnd(hwnd)));
+  const UniqueFont font(CreateFontIndirectW(&metrics.lfMenuFont));
+  const HDC screen = GetDC(nullptr);
+  const HGDIOBJ before = SelectObject(screen, font.Get());
+  SIZE size{};
+  ::GetTextExtentPoint32W(screen, wide.c_str(), static_cast<int>(wide.size()), &size);
+  SelectObject(screen, before);
+  ReleaseDC(nullptr, screen);
+  return ToTwips(size.cx, GetDpiForSystem());
 }
 
 TwipsRect WindowsFormHost::GetWindowRect(WindowHandle hwnd) {

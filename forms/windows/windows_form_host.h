@@ -38,6 +38,8 @@ class WindowsFormHost : public FormHost {
   void SetSelection(WindowHandle hwnd, int control, TextSelection selection) override;
   TwipsRect AdjustWindowRectEx(const FormState& form) override;
   TwipsRect GetMonitorInfoW(WindowHandle hwnd) override;
+  TwipsRect MonitorFromPoint() override;
+  Twips GetTextExtentPoint32W(WindowHandle hwnd, const std::string& text) override;
   TwipsRect GetWindowRect(WindowHandle hwnd) override;
   std::int16_t MessageBoxW(WindowHandle owner, const std::string& text, const std::string& title,
                            std::int32_t style) override;

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "platform/win32_constants.h"
+#include "util/text.h"
 
 namespace korvale {
 namespace {
@@ -247,6 +248,11 @@ void HeadlessFormHost::SendInput(WindowHandle hwnd, int virtualKey, unsigned shi
   if (desktop_->Active() != hwnd) return;
   if (!keyboard_) FailTest("there is no keyboard to send keys with");
   keyboard_(hwnd, virtualKey, shift);
+}
+
+Twips HeadlessFormHost::GetTextExtentPoint32W(WindowHandle hwnd, const std::string& text) {
+  Window(hwnd);
+  return 100 * CharacterCount(text);
 }
 
 TwipsRect HeadlessFormHost::GetMonitorInfoW(WindowHandle /*hwnd*/) { return workArea_; }

@@ -91,6 +91,9 @@ class HeadlessFormHost : public FormHost, private DesktopListener {
   void SetSelection(WindowHandle hwnd, int control, TextSelection selection) override;
   TwipsRect AdjustWindowRectEx(const FormState& form) override;
   TwipsRect GetMonitorInfoW(WindowHandle hwnd) override;
+  TwipsRect MonitorFromPoint() override { return workArea_; }
+  /// Every character is 100 twips wide.
+  Twips GetTextExtentPoint32W(WindowHandle hwnd, const std::string& text) override;
   TwipsRect GetWindowRect(WindowHandle hwnd) override { return Window(hwnd).place; }
   std::int16_t MessageBoxW(WindowHandle owner, const std::string& text, const std::string& title,
                            std::int32_t style) override;

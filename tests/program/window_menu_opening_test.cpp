@@ -23,6 +23,27 @@ TEST_F(WindowMenuOpeningTest, ATitleIsShortenedBeforeItsAmpersandsAreDoubled) {
   EXPECT_EQ(items.back().caption, "Add  [&&&&&&&&&&&&&&& 78901234567...]  to Window menu...");
 }
 
+TEST_F(WindowMenuOpeningTest, AnEntryTooWideForTheScreenIsShownShortenedAndStaysWhole) {
+  const std::string title = "Q&A " + std::string(60, 'x') + "日本";
+  const WindowHandle alpha = Open(title);
+  KorvaleCopy& korvale = StartedAfter(alpha);
+  korvale.TagPrevious();
+  EXPECT_EQ(korvale.WindowMenuItems()[7].caption, "1  " + title);
+
+  // Forty characters of 100 twips and what stands beside them.
+  korvale.host.SetWorkArea({0, 0, 6400, 8000});
+  const ShownMenuItem entry = korvale.WindowMenuItems()[7];
+  EXPECT_EQ(entry.caption, "1  Q&A " + std::string(29, 'x') + "...");
+  EXPECT_EQ(entry.accessKey, "1");
+  EXPECT_EQ(store.GetSetting("Korvale - Work", "ParentWindowList", "1"), "&1  " + title);
+  WorkIn(Open("Beta"));
+  PressTag(1);
+  EXPECT_EQ(desktop.GetForegroundWindow(), alpha);
+
+  korvale.host.SetWorkArea({0, 0, 15360, 8000});
+  EXPECT_EQ(korvale.WindowMenuItems()[7].caption, "1  " + title);
+}
+
 TEST_F(WindowMenuOpeningTest, FollowsTheTitleOfThePreviousWindow) {
   const WindowHandle alpha = Open("Счёт");
   KorvaleCopy& korvale = StartedAfter(alpha);
