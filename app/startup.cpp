@@ -2,6 +2,8 @@
 
 #include "app/core/error_reporting.h"
 #include "app/core/installation.h"
+#include "desktop/foreground_return.h"
+#include "desktop/waiting_window.h"
 #include "desktop/window_readers.h"
 #include "forms/hot_key_lists.h"
 #include "forms/main_form_design.h"
@@ -96,9 +98,32 @@ void StartUp::RunInstallation(frmMain& form) {
   }
 }
 
+/// Also a copy whose main window is still hidden while a box or tip of its start-up is shown.
 WindowHandle StartUp::FindOtherCopy(frmMain& form) {
-  return form.Parts().enumeration.FindInstance(GetWindowClass(platform_->windows, form.Handle()),
-                                               form.Caption());
+  const std::string className = GetWindowClass(platform_->windows, form.Handle());
+  const WindowHandle shown = form.Parts().enumeration.FindInstance(className, form.Caption());
+  if (shown != 0 || alone_) return shown;
+  WindowQueries& windows = platform_->windows;
+  WindowHandle hidden = 0;
+  windows.EnumWindows([&](WindowHandle hwnd) {
+    if (hwnd != form.Handle() && GetWindowClass(windows, hwnd) == className &&
+        GetWindowTitle(windows, hwnd) == form.Caption() && FindWaitingWindow(windows, hwnd) != 0) {
+      hidden = hwnd;
+    }
+    return hidden == 0;
+  });
+  return hidden;
+}
+
+void StartUp::BringForward(frmMain& form, WindowHandle other) {
+  WindowQueries& windows = platform_->windows;
+  if (!windows.IsWindowVisible(other) || !windows.IsWindowEnabled(other)) {
+    // Something of its own waits for the user's answer first.
+    ReturnForegroundTo(windows, platform_->commands, FindWaitingWindow(windows, other));
+    return;
+  }
+  WindowTriple copy{other, form.Caption(), GetWindowClass(windows, other)};
+  form.Parts().actions.ActivateWindow(copy, false, true);
 }
 
 std::uint32_t StartUp::PatienceWithOtherCopy(frmMain& form) {
@@ -122,15 +147,13 @@ void StartUp::WaitForOtherCopy(frmMain& form) {
 
 void StartUp::RefuseSecondCopy(frmMain& form) {
   MainParts& parts = form.Parts();
-  const WindowHandle other = FindOtherCopy(form);
-  if (alone_ && other == 0) {
+  if (FindOtherCopy(form) == 0 && alone_) {
     return;
   }
   platform_->host.DoEvents();
   parts.messages.ShowMessageBox("'" + form.Caption() + "' is already open.", win32::kMbOk,
                                 parts.identity.messageTitle);
-  WindowTriple copy{other, form.Caption(), GetWindowClass(platform_->windows, other)};
-  parts.actions.ActivateWindow(copy, false, true);
+  BringForward(form, FindOtherCopy(form));
   form.udmUnload(false);
   throw ProgramEnded{};
 }

@@ -25,6 +25,7 @@ class StartUp : public ProgramLifetime {
   void RefuseSecondCopy(frmMain& form);
   WindowHandle FindOtherCopy(frmMain& form);
   std::uint32_t PatienceWithOtherCopy(frmMain& form);
+  void BringForward(frmMain& form, WindowHandle other);
   void WaitForOtherCopy(frmMain& form);
   void MentionOtherInstallation(frmMain& form);
   void MentionCommandLine(frmMain& form);

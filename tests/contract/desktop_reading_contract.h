@@ -50,6 +50,15 @@ TEST_F(DesktopContract, EnumeratesTheWindowsThatWereThereAtItsStart) {
   EXPECT_EQ(met, (Handles{beta, alpha}));
 }
 
+TEST_F(DesktopContract, TellsWhichWindowsOneProcessHasMade) {
+  const WindowHandle alpha = OpenPlain("Contract Alpha");
+  const WindowHandle beta = OpenPlain("Contract Beta");
+
+  EXPECT_NE(queries_.GetWindowThreadProcessId(alpha), 0U);
+  EXPECT_EQ(queries_.GetWindowThreadProcessId(beta), queries_.GetWindowThreadProcessId(alpha));
+  EXPECT_EQ(queries_.GetWindowThreadProcessId(0), 0U);
+}
+
 TEST_F(DesktopContract, ReadsTitlesInAnyScript) {
   for (const char* title : {"Contract - Notepad", "Блокнот", "メモ帳", "a😀b", ""}) {
     const WindowHandle hwnd = OpenPlain(title);

@@ -78,6 +78,38 @@ TEST_F(StartUp, ASecondCopyFromTheSameFolderBringsTheFirstForwardAndEnds) {
   EXPECT_FALSE(HotKeyIsFree(TagKey(1)));
 }
 
+TEST_F(StartUp, ASecondCopyBringsTheMessageForwardThatWaitsForTheUser) {
+  installation_.StoreTag(1, "Nowhere", "Test.Window");
+  Start();
+  const Window alpha = Open("Alpha");
+  ASSERT_TRUE(WorkIn(alpha));
+  Press(TagKey(1));
+  const Window message = korvale_->MessageBox();
+  ASSERT_TRUE(InFront(message));
+  ASSERT_TRUE(BringToFront(alpha));
+  RunningKorvale second(installation_);
+  const Window box = second.MessageBox();
+  ASSERT_TRUE(box);
+  EXPECT_TRUE(AnswerBox(box, IDOK));
+  EXPECT_EQ(second.process().WaitForExit(), 0U);
+  EXPECT_TRUE(InFront(message));
+}
+
+TEST_F(StartUp, ASecondCopyBringsTheTipForwardThatWaitsForTheUser) {
+  installation_.MarkAsUsed();
+  const Window alpha = Open("Alpha");
+  korvale_.emplace(installation_, " /anything");
+  const Window tip = korvale_->Form("frmMsgTip");
+  ASSERT_TRUE(InFront(tip));
+  ASSERT_TRUE(BringToFront(alpha));
+  RunningKorvale second(installation_);
+  const Window box = second.MessageBox();
+  ASSERT_TRUE(box);
+  EXPECT_TRUE(AnswerBox(box, IDOK));
+  EXPECT_EQ(second.process().WaitForExit(), 0U);
+  EXPECT_TRUE(InFront(tip));
+}
+
 TEST_F(StartUp, TwoCopiesStartedInTheSameInstantEndAsOne) {
   installation_.MarkAsUsed();
   korvale_.emplace(installation_);

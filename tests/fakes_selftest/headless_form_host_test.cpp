@@ -51,6 +51,24 @@ TEST_F(HeadlessFormHostTest, AButtonThatTheMessageBoxLacksFailsTheTest) {
   EXPECT_TEST_FAILURE(host_.MessageBoxW(0, "text", "title", win32::kMbYesNo), "button 2");
 }
 
+TEST_F(HeadlessFormHostTest, APopUpMenuCanBeEndedAndIsRefusedInsideAnother) {
+  form_.Show();
+  EXPECT_FALSE(host_.EndMenu());
+  host_.WhenPopupMenu([&](const auto&) {
+    host_.TrackPopupMenuEx(form_.Handle(), form_.Menu("mnuFile"));
+    EXPECT_TRUE(host_.EndMenu());
+    return "";
+  });
+  host_.TrackPopupMenuEx(form_.Handle(), form_.Menu("mnuFile"));
+  EXPECT_FALSE(host_.EndMenu());
+  host_.WhenPopupMenu([&](const auto&) {
+    host_.EndMenu();
+    return "Open";
+  });
+  EXPECT_TEST_FAILURE(host_.TrackPopupMenuEx(form_.Handle(), form_.Menu("mnuFile")),
+                      "the pop-up menu mnuFile has been closed");
+}
+
 TEST_F(HeadlessFormHostTest, APopUpMenuThatNobodyUsesFailsTheTest) {
   form_.Show();
   EXPECT_TEST_FAILURE(host_.TrackPopupMenuEx(form_.Handle(), form_.Menu("mnuFile")),

@@ -1,0 +1,47 @@
+#include "desktop/waiting_window.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/fakes/call_log.h"
+#include "tests/fakes/fake_desktop.h"
+
+namespace korvale {
+namespace {
+
+class WaitingWindowTest : public testing::Test {
+ protected:
+  static constexpr int kOurs = 1;
+
+  WindowHandle Open(const std::string& title, int process, const std::string& className = "Form") {
+    return desktop_.Open(title, {.className = className, .process = process});
+  }
+
+  CallLog log_;
+  FakeDesktop desktop_{log_};
+};
+
+TEST_F(WaitingWindowTest, IsTheTopmostOfTheProgramThatTakesInput) {
+  const WindowHandle main = Open("Main", kOurs);
+  const WindowHandle tip = Open("Tip", kOurs);
+  desktop_.SetEnabled(Open("Blocked", kOurs), false);
+  desktop_.Hide(Open("Hidden", kOurs));
+  Open("Another program's", kOtherProcess);
+
+  EXPECT_EQ(FindWaitingWindow(desktop_, main), tip);
+}
+
+TEST_F(WaitingWindowTest, MayBeOfOneClassOnly) {
+  const WindowHandle main = Open("Main", kOurs);
+  EXPECT_EQ(FindWaitingWindow(desktop_, main, "#32770"), 0);
+  const WindowHandle box = Open("Box", kOurs, "#32770");
+  Open("Tip", kOurs);
+  EXPECT_EQ(FindWaitingWindow(desktop_, main, "#32770"), box);
+}
+
+TEST_F(WaitingWindowTest, IsNoneForAWindowThatIsGone) {
+  Open("Main", kOtherProcess);
+  EXPECT_EQ(FindWaitingWindow(desktop_, 0), 0);
+}
+
+}  // namespace
+}  // namespace korvale
