@@ -101,9 +101,10 @@ std::int16_t SimulatedLife::AnswerBox(const ShownMessage& box) {
   }
 }
 
-/// One thing that the user does while a modal form waits for him.
+/// One thing that the user does while a modal form waits for him, or a notice for its time.
 bool SimulatedLife::LiveInDialog() {
-  Form* const form = korvale_->program.Forms().TopModal();
+  Form* form = korvale_->program.Forms().TopModal();
+  if (form == nullptr) form = korvale_->program.Forms().Find("frmWaitWindow");
   if (form == nullptr) return false;
   Meanwhile();
   if (!form->IsLoaded()) return true;
