@@ -155,6 +155,10 @@ std::string Control::SelectedText() const {
 
 void Control::SetFocus() { form_->FocusOn(Id()); }
 
+bool Control::Dropped() const {
+  return form_->IsLoaded() && form_->Collection().Host().GetDroppedState(form_->Handle(), Id());
+}
+
 TextSelection Control::Selection() const {
   if (!form_->IsLoaded()) return {};
   return form_->Collection().Host().GetSelection(form_->Handle(), Id());

@@ -71,6 +71,8 @@ class Control {
 
   /// Moves the focus here; does nothing while the user could not reach the control.
   void SetFocus();
+  /// The list of a drop-down list or combo box is open.
+  bool Dropped() const;
   TextSelection Selection() const;
   void SetSelection(TextSelection selection);
 

@@ -89,7 +89,6 @@ void Form::BuildFromDesign() {
   state_.menu = MenuBar(design_.menu);
   place_ = design_.place;
   focused_ = 0;
-  droppedList_ = 0;
   shownBefore_ = false;
   controls_.clear();
   state_.controls.reserve(rows_.size());

@@ -104,7 +104,7 @@ class Form : public FormEvents {
   void OnListPicked(int control, int listIndex) final;
   void OnListDropDown(int control) final;
   void OnListClosedUp(int control) final;
-  bool OnKeyDown(int control, int virtualKey, unsigned shift) final;
+  bool OnKeyDown(int control, int virtualKey, unsigned shift, bool repeated) final;
   bool OnKeyUp(int control, int virtualKey, unsigned shift) final;
   bool OnCharacter(int control, char32_t character, unsigned shift) final;
   void OnMouse(int control, const MouseInput& input) final;
@@ -128,6 +128,8 @@ class Form : public FormEvents {
   virtual void Form_Activate() {}
   /// Sees each key before any control; set `key` to 0 to swallow it.
   virtual void Form_KeyDown(int& key, unsigned shift);
+  /// During Form_KeyDown: the key was down already.
+  bool KeyRepeats() const { return keyRepeats_; }
   virtual void Form_KeyUp(Control* focused, int& key, unsigned shift);
   /// Set `cancel` to keep the form open.
   virtual void Form_QueryUnload(bool& cancel, CloseReason reason);
@@ -194,7 +196,7 @@ class Form : public FormEvents {
   std::deque<Control> controls_;
   WindowHandle handle_ = 0;
   int focused_ = 0;
-  int droppedList_ = 0;  ///< The list that is open, 0 = none.
+  bool keyRepeats_ = false;
   bool shownBefore_ = false;
   bool unloading_ = false;
   /// The model has been loaded once, so the next loading starts from the design.

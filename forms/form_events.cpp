@@ -88,18 +88,17 @@ void Form::OnListPicked(int control, int listIndex) {
 
 void Form::OnListDropDown(int control) {
   if (!IsLoaded()) return;
-  droppedList_ = control;
   RaiseFor(droppedDown_, StateOf(control).name, StateOf(control).index);
 }
 
 void Form::OnListClosedUp(int control) {
-  if (droppedList_ == control) droppedList_ = 0;
   if (IsLoaded()) RaiseFor(closedUp_, StateOf(control).name, StateOf(control).index);
 }
 
-bool Form::OnKeyDown(int control, int virtualKey, unsigned shift) {
+bool Form::OnKeyDown(int control, int virtualKey, unsigned shift, bool repeated) {
   if (!IsLoaded()) return false;
   int key = virtualKey;
+  keyRepeats_ = repeated;
   Form_KeyDown(key, shift);
   if (key == 0 || !IsLoaded()) return true;
   return DialogKey(control, key, shift);

@@ -156,9 +156,10 @@ bool Form::DialogKey(int control, int virtualKey, unsigned shift) {
   if (IsLetterOrDigit(virtualKey)) {
     return PressAccessKey(control, static_cast<char32_t>(virtualKey), alt);
   }
-  // An open list keeps the keys that choose and close.
-  if (alt || droppedList_ != 0) return false;
+  if (alt) return false;
   if (virtualKey == win32::kVkTab) return MoveFocus(control, (shift & kShift) != 0);
+  // An open list keeps the keys that choose and close.
+  if (control != 0 && ById(control).Dropped()) return false;
   if (IsArrow(virtualKey)) return MoveChoice(control, IsBackwardArrow(virtualKey));
   const Control* button = nullptr;
   if (virtualKey == win32::kVkReturn) button = DefaultButtonFor(control);

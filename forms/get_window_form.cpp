@@ -50,7 +50,7 @@ frmGetWindow::frmGetWindow(FormCollection& forms, AddWindowContext context)
   WhenClicked("txtWindow", [this](int) { SetChoice(0, Find("txtWindow").Text()); });
   WhenDroppedDown("cboWindow", [this](int) { cboWindow_DropDown(); });
   // A list that is closed without a choice must not stay wide with Remove disabled.
-  WhenClosedUp("cboWindow", [this](int) { cboWindow_Click(); });
+  WhenClosedUp("cboWindow", [this](int) { cboWindow_CloseUp(); });
 }
 
 void frmGetWindow::PrepareForWindowMenu(std::string_view applicationTitle) {
@@ -209,6 +209,16 @@ void frmGetWindow::cboWindow_DropDown() {
 }
 
 void frmGetWindow::cboWindow_Click() {
+  if (Find("cboWindow").Dropped()) {
+    // The arrow keys go on through the open list; to resize it would close it.
+    ShowTagState();
+    Find("cmdRemove").SetEnabled(false);
+  } else {
+    cboWindow_CloseUp();
+  }
+}
+
+void frmGetWindow::cboWindow_CloseUp() {
   ShowTagState();
   Find("cboWindow").SetWidth(designWidthOfTags_);
 }

@@ -29,6 +29,7 @@ class frmGetWindow : public Form {
   void cmdRemove_Click();
   void cboWindow_DropDown();
   void cboWindow_Click();
+  void cboWindow_CloseUp();
 
   void FillTags();
   void SelectLowestFreeTag();

@@ -55,7 +55,8 @@ class FormEvents {
   virtual void OnListClosedUp(int control) = 0;
   /// A key went down or up while `control` had the focus, before the control sees it; true when it
   /// has been dealt with and the control shall not see it.
-  virtual bool OnKeyDown(int control, int virtualKey, unsigned shift) = 0;
+  /// `repeated`: Windows repeats a key that was down already.
+  virtual bool OnKeyDown(int control, int virtualKey, unsigned shift, bool repeated) = 0;
   virtual bool OnKeyUp(int control, int virtualKey, unsigned shift) = 0;
   /// A character came from the keyboard (WM_CHAR, WM_SYSCHAR) out of a key that OnKeyDown did not
   /// deal with, before the control sees it; true when the control shall not see it.
@@ -104,6 +105,8 @@ class FormHost {
   /// The control of the form that has the focus, 0 = none.
   virtual int GetFocus(WindowHandle hwnd) = 0;
 
+  /// The list of a combo box is open; false for every other control (CB_GETDROPPEDSTATE).
+  virtual bool GetDroppedState(WindowHandle hwnd, int control) = 0;
   virtual TextSelection GetSelection(WindowHandle hwnd, int control) = 0;
   virtual void SetSelection(WindowHandle hwnd, int control, TextSelection selection) = 0;
   /// What the frame and menu bar of the form add to its client area, in twips: `left`/`top` their

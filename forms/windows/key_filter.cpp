@@ -3,6 +3,9 @@
 namespace korvale {
 namespace {
 
+/// In a key message: the key was down before.
+constexpr LPARAM kWasDown = 1L << 30;
+
 bool IsSurrogate(WPARAM unit) { return unit >= 0xD800 && unit <= 0xDFFF; }
 
 /// Characters that a one-line text box has no use for and would beep at.
@@ -42,10 +45,10 @@ bool KeyFilter::FilterDown(int control, const MSG& message) {
   const auto key = static_cast<int>(message.wParam);
   if (key == VK_MENU) altUsed_ = false;
   ShowCues(key);
-  // An open list takes these keys itself: they close it.
-  if ((key == VK_RETURN || key == VK_ESCAPE) && controls_->IsListDropped(control)) return false;
-  const bool taken = events_->Ask(
-      [&](FormEvents& events) { return events.OnKeyDown(control, key, HeldShiftState()); });
+  const bool repeated = (message.lParam & kWasDown) != 0;
+  const bool taken = events_->Ask([&](FormEvents& events) {
+    return events.OnKeyDown(control, key, HeldShiftState(), repeated);
+  });
   if (taken && message.message == WM_SYSKEYDOWN) altUsed_ = true;
   return taken;
 }

@@ -120,6 +120,11 @@ int WindowsFormHost::GetFocus(WindowHandle hwnd) {
   return ours ? form->Controls().IdOf(focus) : 0;
 }
 
+bool WindowsFormHost::GetDroppedState(WindowHandle hwnd, int control) {
+  const auto form = Find(hwnd);
+  return form != nullptr && form->Controls().IsListDropped(control);
+}
+
 TextSelection WindowsFormHost::GetSelection(WindowHandle hwnd, int control) {
   const auto form = Find(hwnd);
   if (form == nullptr) return {};

@@ -120,6 +120,7 @@ class RecordingForm : public Form {
     }
   }
 
+  using Form::KeyRepeats;
   using Form::WhenClicked;
   using Form::WhenClosedUp;
   using Form::WhenDroppedDown;

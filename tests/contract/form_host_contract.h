@@ -4,5 +4,6 @@
 // MakeHostUnderTest there.
 #include "tests/contract/control_contract.h"   // IWYU pragma: export
 #include "tests/contract/keyboard_contract.h"  // IWYU pragma: export
+#include "tests/contract/list_contract.h"      // IWYU pragma: export
 #include "tests/contract/menu_contract.h"      // IWYU pragma: export
 #include "tests/contract/window_contract.h"    // IWYU pragma: export

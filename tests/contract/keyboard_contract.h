@@ -171,6 +171,29 @@ TEST_F(FormHostContract, ReleasedKeysAreSeenToo) {
   EXPECT_EQ(keys, std::vector<int>{win32::kVkHome});
 }
 
+TEST_F(FormHostContract, AKeyThatIsHeldIsToldAsRepeated) {
+  ShowForm();
+  std::vector<bool> repeats;
+  form_.onKeyDown = [&](int&, unsigned) { repeats.push_back(form_.KeyRepeats()); };
+  User().HoldKey(Window(), 'A', 2);
+  User().ReleaseKey(Window(), 'A');
+  User().HoldKey(Window(), 'A', 0);
+  User().ReleaseKey(Window(), 'A');
+  EXPECT_EQ(repeats, (std::vector<bool>{false, true, true, false}));
+  EXPECT_EQ(Text("txtName"), "aaaa");
+}
+
+TEST_F(FormHostContract, AReleaseIsSeenWhereTheFocusIsByThen) {
+  ShowForm();
+  std::vector<int> released;
+  form_.onKeyUp = [&](int& key, unsigned) { released.push_back(key); };
+  FocusOn("cmdGo");
+  User().HoldKey(Window(), win32::kVkHome, 0);
+  FocusOn("cmdStay");
+  User().ReleaseKey(Window(), win32::kVkHome);
+  EXPECT_EQ(released, std::vector<int>{win32::kVkHome});
+}
+
 TEST_F(FormHostContract, AltF4AsksTheFormToCloseUnlessItDealsWithTheKey) {
   ShowForm();
   form_.onKeyDown = [](int& key, unsigned shift) {

@@ -67,6 +67,8 @@ class UserHands {
   virtual std::vector<std::string> ListEntries(WindowHandle hwnd, int control) = 0;
   /// The chosen entry or tab, -1 = none.
   virtual int ListIndex(WindowHandle hwnd, int control) = 0;
+  /// The list of a combo box is open.
+  virtual bool IsListOpen(WindowHandle hwnd, int control) = 0;
   /// The control with the focus, 0 = none of this form.
   virtual int Focus(WindowHandle hwnd) = 0;
   /// Place in twips within what holds it.
@@ -79,10 +81,16 @@ class UserHands {
   virtual void MoveMouse(WindowHandle hwnd, int control, Twips x, Twips y) = 0;
   /// Presses and releases a key in the control that has the focus. `shift` keys are held.
   virtual void PressKey(WindowHandle hwnd, int virtualKey, unsigned shift = kNoShift) = 0;
+  /// Presses a key and holds it until it has been repeated so many times.
+  virtual void HoldKey(WindowHandle hwnd, int virtualKey, int repeats) = 0;
+  /// Releases a key in the control that has the focus by now.
+  virtual void ReleaseKey(WindowHandle hwnd, int virtualKey) = 0;
   /// Types characters that the keyboard gives directly, with Alt held when `alt` is true.
   virtual void TypeText(WindowHandle hwnd, std::string_view text, bool alt = false) = 0;
   /// Opens a drop-down list with the mouse and clicks an entry; clicks a tab of a tab strip.
   virtual void Pick(WindowHandle hwnd, int control, int listIndex) = 0;
+  /// Opens a drop-down list with the mouse.
+  virtual void OpenList(WindowHandle hwnd, int control) = 0;
   /// Opens a drop-down list and closes it without a choice.
   virtual void OpenAndCloseList(WindowHandle hwnd, int control) = 0;
 

@@ -29,6 +29,13 @@ class AddWindow : public KorvaleTest {
     EXPECT_TRUE(InFront(window));
   }
 
+  static bool IsListOpen(const AddWindowDialog& dialog) {
+    return dialog.TagList().Send(CB_GETDROPPEDSTATE) != 0;
+  }
+  static bool ListOpens(const AddWindowDialog& dialog, bool open) {
+    return WaitFor([&] { return IsListOpen(dialog) == open; });
+  }
+
   Window window_;
 };
 
@@ -141,6 +148,60 @@ TEST_F(AddWindow, RemovesATagAndStaysOpen) {
   ASSERT_TRUE(WorkIn(elsewhere));
   Press(TagKey(2));
   EXPECT_TRUE(StaysInFront(elsewhere));
+}
+
+TEST_F(AddWindow, GoesThroughTheOpenListOfTagsWithTheArrowsAndTakesTheChosenOne) {
+  Start();
+  const AddWindowDialog dialog = OpenFor("Alpha");
+  Press({0, VK_F4});
+  ASSERT_TRUE(ListOpens(dialog, true));
+  Press({0, VK_DOWN});
+  Press({0, VK_DOWN});
+  EXPECT_TRUE(WaitFor([&] { return dialog.SelectedTag() == "3"; }));
+  EXPECT_TRUE(HoldsFor([&] { return IsListOpen(dialog); }));
+  Press({0, VK_RETURN});
+  ASSERT_TRUE(ListOpens(dialog, false));
+  EXPECT_EQ(dialog.SelectedTag(), "3");
+  ASSERT_TRUE(dialog.Confirm());
+  ExpectTagSelects(3, window_);
+}
+
+TEST_F(AddWindow, ClosesWithEscAfterTheListOfTagsWasOpen) {
+  Start();
+  const AddWindowDialog dialog = OpenFor("Alpha");
+  Press({0, VK_F4});
+  ASSERT_TRUE(ListOpens(dialog, true));
+  Press({0, VK_DOWN});
+  Press({0, VK_ESCAPE});
+  ASSERT_TRUE(ListOpens(dialog, false));
+  EXPECT_TRUE(dialog.form().Exists());
+  EXPECT_TRUE(dialog.Cancel());
+}
+
+TEST_F(AddWindow, LeavesTheOpenListOfTagsWithTab) {
+  StoreTags({2});
+  Start();
+  const AddWindowDialog dialog = OpenFor("Alpha");
+  Press({0, VK_F4});
+  ASSERT_TRUE(ListOpens(dialog, true));
+  Press({0, VK_DOWN});
+  Press({0, VK_TAB});
+  ASSERT_TRUE(ListOpens(dialog, false));
+  EXPECT_TRUE(dialog.SelectedTag().starts_with("2"));
+  EXPECT_TRUE(WaitFor([&] { return dialog.RemoveButton().Enabled(); }));
+  EXPECT_TRUE(dialog.Cancel());
+}
+
+TEST_F(AddWindow, ClosesAtTheFirstClickAfterTheMouseHasOpenedTheListOfTags) {
+  Start();
+  const AddWindowDialog dialog = OpenFor("Alpha");
+  Click(dialog.TagList());
+  ASSERT_TRUE(ListOpens(dialog, true));
+  Press({0, VK_DOWN});
+  Press({0, VK_RETURN});
+  ASSERT_TRUE(ListOpens(dialog, false));
+  Click(dialog.CloseButton());
+  EXPECT_TRUE(WaitFor([&] { return !dialog.form().Exists(); }));
 }
 
 TEST_F(AddWindow, GivesTheFocusBackToTheMainWindow) {

@@ -146,8 +146,10 @@ void HeadlessFormHost::UpdateControl(WindowHandle hwnd, int control, ControlProp
   HeadlessWindow& window = Window(hwnd);
   log_->AddRead("UpdateControl(" + log_->Window(hwnd) + ", " + window.Describe(control) + ", " +
                 kPropertyNames.at(static_cast<std::size_t>(property)) + ")");
-  CopyProperty(window.Control(control),
-               window.form->controls[static_cast<std::size_t>(control) - 1], property);
+  HeadlessControl& shown = window.Control(control);
+  CopyProperty(shown, window.form->controls[static_cast<std::size_t>(control) - 1], property);
+  // An open list that is placed anew closes without a word.
+  if (property == ControlProperty::kPlace) shown.dropped = false;
 }
 
 void HeadlessFormHost::SetWindowTextW(WindowHandle hwnd) {
@@ -209,12 +211,23 @@ void HeadlessFormHost::SetFocus(WindowHandle hwnd, int control) {
 }
 
 void HeadlessFormHost::MoveFocus(HeadlessWindow& window, int control) {
-  if (std::exchange(window.focus, control) == control) return;
+  const int before = std::exchange(window.focus, control);
+  if (before == control) return;
+  const WindowHandle hwnd = window.handle;
+  if (GetDroppedState(hwnd, before)) {
+    window.Control(before).dropped = false;
+    Tell(hwnd, [&](FormEvents& events) { events.OnListClosedUp(before); });
+    if (FindWindow(hwnd) == nullptr) return;
+  }
   Tell(window.handle, [&](FormEvents& events) { events.OnFocusMoved(control); });
 }
 
 int HeadlessFormHost::GetFocus(WindowHandle hwnd) {
   return desktop_->Active() == hwnd ? Window(hwnd).focus : 0;
+}
+
+bool HeadlessFormHost::GetDroppedState(WindowHandle hwnd, int control) {
+  return control != 0 && Window(hwnd).Control(control).dropped;
 }
 
 TextSelection HeadlessFormHost::GetSelection(WindowHandle hwnd, int control) {

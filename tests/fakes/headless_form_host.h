@@ -87,6 +87,7 @@ class HeadlessFormHost : public FormHost, private DesktopListener {
   void ShowWindow(WindowHandle hwnd, int command) override;
   void SetFocus(WindowHandle hwnd, int control) override;
   int GetFocus(WindowHandle hwnd) override;
+  bool GetDroppedState(WindowHandle hwnd, int control) override;
   TextSelection GetSelection(WindowHandle hwnd, int control) override;
   void SetSelection(WindowHandle hwnd, int control, TextSelection selection) override;
   TwipsRect AdjustWindowRectEx(const FormState& form) override;

@@ -85,19 +85,34 @@ void HeadlessUser::TypeText(WindowHandle hwnd, std::string_view text, bool alt) 
   }
 }
 
+void HeadlessUser::HoldKey(WindowHandle hwnd, int virtualKey, int repeats) {
+  for (int i = 0; i <= repeats; ++i) GoDown(hwnd, KeyOf(virtualKey, kNoShift), i > 0);
+}
+
+void HeadlessUser::ReleaseKey(WindowHandle hwnd, int virtualKey) {
+  ComeUp(hwnd, KeyOf(virtualKey, kNoShift), false);
+}
+
 void HeadlessUser::Press(WindowHandle hwnd, const Key& key) {
+  const bool dealtWith = GoDown(hwnd, key, false);
+  if (host_->FindWindow(hwnd) != nullptr) ComeUp(hwnd, key, dealtWith);
+}
+
+bool HeadlessUser::GoDown(WindowHandle hwnd, const Key& key, bool repeated) {
   HeadlessWindow& window = Reach(hwnd, "press a key");
   if (host_->Desktop().Active() != hwnd) {
     FailTest("cannot press a key: form " + window.form->name + " is not in front");
   }
   if (!openMenus_.empty()) {
     PressInMenu(hwnd, key);
-    return;
+    return true;
   }
+  // Windows tells of this key only that it has come up.
+  if (key.virtualKey == win32::kVkSnapshot) return false;
   const int control = window.focus;
   bool dealtWith = false;
   host_->Tell(hwnd, [&](FormEvents& events) {
-    dealtWith = events.OnKeyDown(control, key.virtualKey, key.shift);
+    dealtWith = events.OnKeyDown(control, key.virtualKey, key.shift, repeated);
   });
   if (!dealtWith && !key.character.empty()) {
     const char32_t character = FirstCharacter(key.character).codePoint;
@@ -105,15 +120,19 @@ void HeadlessUser::Press(WindowHandle hwnd, const Key& key) {
       dealtWith = events.OnCharacter(control, character, key.shift);
     });
   }
-  if (host_->FindWindow(hwnd) == nullptr) return;
-  if (!dealtWith) PressInControl(hwnd, control, key);
-  if (host_->FindWindow(hwnd) == nullptr) return;
-  bool releaseDealtWith = false;
+  if (!dealtWith && host_->FindWindow(hwnd) != nullptr) PressInControl(hwnd, control, key);
+  return dealtWith;
+}
+
+void HeadlessUser::ComeUp(WindowHandle hwnd, const Key& key, bool pressDealtWith) {
+  if (!openMenus_.empty() || host_->Desktop().Active() != hwnd) return;
+  const int control = host_->GetFocus(hwnd);
+  bool dealtWith = false;
   host_->Tell(hwnd, [&](FormEvents& events) {
-    releaseDealtWith = events.OnKeyUp(control, key.virtualKey, key.shift);
+    dealtWith = events.OnKeyUp(control, key.virtualKey, key.shift);
   });
   // Buttons act when the space bar is released.
-  const bool presses = !dealtWith && !releaseDealtWith && control != 0 &&
+  const bool presses = !pressDealtWith && !dealtWith && control != 0 &&
                        key.virtualKey == win32::kVkSpace && key.shift == kNoShift &&
                        host_->FindWindow(hwnd) != nullptr;
   if (!presses) return;
@@ -197,17 +216,17 @@ void HeadlessUser::PressInOpenList(WindowHandle hwnd, int control, const Key& ke
     OpenList(hwnd, control);
     return;
   }
-  const bool enter = key.virtualKey == win32::kVkReturn;
+  const int count = static_cast<int>(list.shown.items.size());
+  const int chosen = list.shown.listIndex;
   if (key.virtualKey == win32::kVkEscape) {
+    const int before = list.chosenBefore;
     CloseList(hwnd, control);
-  } else if (enter || OpensOrClosesList(key.virtualKey, key.shift)) {
-    const int chosen = list.highlighted;
+    if (before != chosen && host_->FindWindow(hwnd) != nullptr) PickEntry(hwnd, control, before);
+  } else if (key.virtualKey == win32::kVkReturn || OpensOrClosesList(key.virtualKey, key.shift)) {
     CloseList(hwnd, control);
-    if (chosen >= 0) PickEntry(hwnd, control, chosen);
-  } else {
-    const int count = static_cast<int>(list.shown.items.size());
-    const int target = MoveInList(list.highlighted, count, key.virtualKey);
-    if (target >= 0) list.highlighted = target;
+  } else if (const int target = MoveInList(chosen, count, key.virtualKey);
+             target >= 0 && target != chosen) {
+    PickEntry(hwnd, control, target);
   }
 }
 

@@ -25,7 +25,7 @@ struct HeadlessControl {
   ControlState shown;
   TextCursor cursor;
   bool dropped = false;
-  int highlighted = -1;  ///< In an open list.
+  int chosenBefore = -1;  ///< The entry that Esc brings back into an open list.
 };
 
 /// A menu of the bar as last drawn.

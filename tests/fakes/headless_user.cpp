@@ -119,6 +119,10 @@ int HeadlessUser::ListIndex(WindowHandle hwnd, int control) {
   return Look(hwnd, control).listIndex;
 }
 
+bool HeadlessUser::IsListOpen(WindowHandle hwnd, int control) {
+  return host_->GetDroppedState(hwnd, control);
+}
+
 int HeadlessUser::Focus(WindowHandle hwnd) { return host_->GetFocus(hwnd); }
 
 TwipsRect HeadlessUser::Place(WindowHandle hwnd, int control) { return Look(hwnd, control).place; }
@@ -180,9 +184,9 @@ void HeadlessUser::OpenList(WindowHandle hwnd, int control) {
   CloseOpenLists(hwnd);
   host_->MoveFocus(window, control);
   HeadlessControl& list = host_->Window(hwnd).Control(control);
-  list.dropped = true;
-  list.highlighted = list.shown.listIndex;
+  list.chosenBefore = list.shown.listIndex;
   host_->Tell(hwnd, [&](FormEvents& events) { events.OnListDropDown(control); });
+  if (host_->FindWindow(hwnd) != nullptr) host_->Window(hwnd).Control(control).dropped = true;
 }
 
 void HeadlessUser::CloseList(WindowHandle hwnd, int control) {

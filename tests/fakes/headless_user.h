@@ -35,6 +35,7 @@ class HeadlessUser : public UserHands {
   int Value(WindowHandle hwnd, int control) override;
   std::vector<std::string> ListEntries(WindowHandle hwnd, int control) override;
   int ListIndex(WindowHandle hwnd, int control) override;
+  bool IsListOpen(WindowHandle hwnd, int control) override;
   int Focus(WindowHandle hwnd) override;
   TwipsRect Place(WindowHandle hwnd, int control) override;
   /// The control as shown: colours, border, tool tip, flags.
@@ -46,9 +47,11 @@ class HeadlessUser : public UserHands {
                MouseButton button = MouseButton::kLeft);
   void MoveMouse(WindowHandle hwnd, int control, Twips x, Twips y) override;
   void PressKey(WindowHandle hwnd, int virtualKey, unsigned shift = kNoShift) override;
+  void HoldKey(WindowHandle hwnd, int virtualKey, int repeats) override;
+  void ReleaseKey(WindowHandle hwnd, int virtualKey) override;
   void TypeText(WindowHandle hwnd, std::string_view text, bool alt = false) override;
   void Pick(WindowHandle hwnd, int control, int listIndex) override;
-  void OpenList(WindowHandle hwnd, int control);
+  void OpenList(WindowHandle hwnd, int control) override;
   void OpenAndCloseList(WindowHandle hwnd, int control) override;
 
   std::vector<ShownMenuItem> MenuBarItems(WindowHandle hwnd) override;
@@ -83,6 +86,9 @@ class HeadlessUser : public UserHands {
   static Key KeyOf(int virtualKey, unsigned shift);
   static Key KeyOfCharacter(std::string_view character, bool alt);
   void Press(WindowHandle hwnd, const Key& key);
+  /// True when the form has dealt with the key.
+  bool GoDown(WindowHandle hwnd, const Key& key, bool repeated);
+  void ComeUp(WindowHandle hwnd, const Key& key, bool pressDealtWith);
   void PressSentKeys(WindowHandle hwnd);
   void PressInControl(WindowHandle hwnd, int control, const Key& key);
   void PressInText(WindowHandle hwnd, int control, const Key& key);

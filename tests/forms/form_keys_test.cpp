@@ -92,28 +92,28 @@ TEST_F(FormKeysTest, ArrowsSkipHiddenOptionsAndLeaveOtherControlsAlone) {
 
 TEST_F(FormKeysTest, AnArrowOnAnOptionThatCannotBeReachedDoesNothing) {
   form_.Find("fraColor").SetEnabled(false);
-  EXPECT_FALSE(form_.OnKeyDown(Id(form_, "optColor", 0), win32::kVkDown, kNoShift));
+  EXPECT_FALSE(form_.OnKeyDown(Id(form_, "optColor", 0), win32::kVkDown, kNoShift, false));
   EXPECT_EQ(form_.Take(), Lines{});
 }
 
 TEST_F(FormKeysTest, KeysWithCtrlAreNoDialogKeys) {
   const int box = Id(form_, "txtName");
-  EXPECT_FALSE(form_.OnKeyDown(box, win32::kVkReturn, kCtrl));
-  EXPECT_FALSE(form_.OnKeyDown(box, win32::kVkTab, kCtrl));
-  EXPECT_FALSE(form_.OnKeyDown(box, 'S', kCtrl | kAlt));
+  EXPECT_FALSE(form_.OnKeyDown(box, win32::kVkReturn, kCtrl, false));
+  EXPECT_FALSE(form_.OnKeyDown(box, win32::kVkTab, kCtrl, false));
+  EXPECT_FALSE(form_.OnKeyDown(box, 'S', kCtrl | kAlt, false));
   EXPECT_EQ(form_.Take(), Lines{});
 }
 
 TEST_F(FormKeysTest, AltWithTabOrEnterIsLeftToWindows) {
   const int box = Id(form_, "txtName");
-  EXPECT_FALSE(form_.OnKeyDown(box, win32::kVkTab, kAlt));
-  EXPECT_FALSE(form_.OnKeyDown(box, win32::kVkReturn, kAlt));
+  EXPECT_FALSE(form_.OnKeyDown(box, win32::kVkTab, kAlt, false));
+  EXPECT_FALSE(form_.OnKeyDown(box, win32::kVkReturn, kAlt, false));
 }
 
 TEST_F(FormKeysTest, AnUnknownAccessKeyIsLeftToTheControl) {
-  EXPECT_FALSE(form_.OnKeyDown(Id(form_, "cmdStay"), 'Z', kNoShift));
-  EXPECT_FALSE(form_.OnKeyDown(Id(form_, "txtName"), 'Z', kAlt));
-  EXPECT_FALSE(form_.OnKeyDown(Id(form_, "txtName"), 'S', kNoShift));
+  EXPECT_FALSE(form_.OnKeyDown(Id(form_, "cmdStay"), 'Z', kNoShift, false));
+  EXPECT_FALSE(form_.OnKeyDown(Id(form_, "txtName"), 'Z', kAlt, false));
+  EXPECT_FALSE(form_.OnKeyDown(Id(form_, "txtName"), 'S', kNoShift, false));
   EXPECT_FALSE(form_.OnCharacter(Id(form_, "txtName"), U's', kAlt));
 }
 
@@ -191,7 +191,7 @@ TEST_F(FormKeysTest, AKeyHandlerMayHandOnAnotherKey) {
 
 TEST_F(FormKeysTest, AKeyThatUnloadedTheFormHasBeenDealtWith) {
   form_.onKeyDown = [&](int&, unsigned) { form_.Unload(); };
-  EXPECT_TRUE(form_.OnKeyDown(Id(form_, "txtName"), 'Z', kNoShift));
+  EXPECT_TRUE(form_.OnKeyDown(Id(form_, "txtName"), 'Z', kNoShift, false));
 }
 
 TEST_F(FormKeysTest, AReleasedKeyMayBeSwallowed) {

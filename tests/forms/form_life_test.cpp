@@ -208,7 +208,7 @@ TEST_F(FormLifeTest, EventsThatArriveAfterTheEndAreDropped) {
   form_.OnMenuClicked(form_.Menu("mnuFileOpen"));
   form_.OnActivated();
   form_.OnPlaced(ShowState::kMinimized, {});
-  EXPECT_FALSE(form_.OnKeyDown(button, 'A', kNoShift));
+  EXPECT_FALSE(form_.OnKeyDown(button, 'A', kNoShift, false));
   EXPECT_FALSE(form_.OnKeyUp(button, 'A', kNoShift));
   EXPECT_FALSE(form_.OnCharacter(button, U'ж', kNoShift));
   EXPECT_EQ(form_.Take(), Lines{});

@@ -65,6 +65,54 @@ TEST_F(AddWindowTest, NarrowsTheListOfTagsThatIsClosedWithoutAChoice) {
   EXPECT_TRUE(RemoveEnabled());
 }
 
+TEST_F(AddWindowTest, TheOpenListStaysWideWhileTheArrowsGoThroughIt) {
+  Assign(2, "Mail");
+  OpenDialogFor("Notes");
+  const int list = Id(dialog_, "cboWindow");
+  const Twips width = TagWidth();
+  Press(dialog_, win32::kVkF4);
+  Press(dialog_, win32::kVkDown);
+  EXPECT_TRUE(user_.IsListOpen(dialog_.Handle(), list));
+  EXPECT_EQ(TagWidth(), 4785);
+  EXPECT_FALSE(RemoveEnabled());
+  ExpectState("Mail", kRed);
+  Press(dialog_, win32::kVkReturn);
+  EXPECT_FALSE(user_.IsListOpen(dialog_.Handle(), list));
+  EXPECT_EQ(TagWidth(), width);
+  EXPECT_TRUE(RemoveEnabled());
+  ExpectState("Mail", kRed);
+  Press(dialog_, win32::kVkReturn);
+  EXPECT_EQ(Entry(2).caption, "&2  Notes");
+}
+
+TEST_F(AddWindowTest, TabInTheOpenListGoesOn) {
+  Assign(2, "Mail");
+  OpenDialogFor("Notes");
+  const Twips width = TagWidth();
+  Press(dialog_, win32::kVkF4);
+  Press(dialog_, win32::kVkDown);
+  Press(dialog_, win32::kVkTab);
+  EXPECT_EQ(TagWidth(), width);
+  EXPECT_TRUE(RemoveEnabled());
+  ExpectState("Mail", kRed);
+  EXPECT_NE(Focus(dialog_), "cboWindow");
+  Press(dialog_, win32::kVkEscape);
+  EXPECT_FALSE(dialog_.IsLoaded());
+}
+
+TEST_F(AddWindowTest, EscInTheOpenListBringsTheFormerTagBack) {
+  Assign(2, "Mail");
+  OpenDialogFor("Notes");
+  Press(dialog_, win32::kVkF4);
+  Press(dialog_, win32::kVkDown);
+  Press(dialog_, win32::kVkEscape);
+  ASSERT_TRUE(dialog_.IsLoaded());
+  ExpectState("Available", kBlue);
+  EXPECT_FALSE(RemoveEnabled());
+  Press(dialog_, win32::kVkEscape);
+  EXPECT_FALSE(dialog_.IsLoaded());
+}
+
 TEST_F(AddWindowTest, FindsRoomForTheWidenedList) {
   OpenDialogFor("Notes");
   const TwipsRect list = user_.Place(dialog_.Handle(), Id(dialog_, "cboWindow"));

@@ -58,11 +58,13 @@ void PressAndRelease(int virtualKey, unsigned shift) {
   batch.Send();
 }
 
-void HoldAlt(bool down) {
+void PutKey(int virtualKey, bool down) {
   InputBatch batch;
-  batch.Key(VK_MENU, !down);
+  batch.Key(virtualKey, !down);
   batch.Send();
 }
+
+void HoldAlt(bool down) { PutKey(VK_MENU, down); }
 
 bool HasKey(wchar_t character) {
   constexpr wchar_t kFirstBeyondAscii = 0x80;

@@ -8,6 +8,8 @@ namespace korvale {
 
 /// Puts keys and mouse movements into the system's input, as the devices do.
 void PressAndRelease(int virtualKey, unsigned shift);
+/// Puts in that a key goes down, once more when it is down already, or comes up.
+void PutKey(int virtualKey, bool down);
 void HoldAlt(bool down);
 /// True for a character that has a key of its own.
 bool HasKey(wchar_t character);

@@ -139,6 +139,10 @@ int WindowsUser::ListIndex(WindowHandle hwnd, int control) {
   return static_cast<int>(SendMessageW(window, message, 0, 0));
 }
 
+bool WindowsUser::IsListOpen(WindowHandle hwnd, int control) {
+  return IsWindowVisible(ComboInfo(FindControl(hwnd, control)).hwndList) != FALSE;
+}
+
 int WindowsUser::Focus(WindowHandle hwnd) {
   HWND focus = GetFocus();
   if (IsChild(ToHwnd(hwnd), focus) == FALSE) return 0;
@@ -219,6 +223,19 @@ void WindowsUser::PressKey(WindowHandle hwnd, int virtualKey, unsigned shift) {
   Settle();
 }
 
+void WindowsUser::HoldKey(WindowHandle hwnd, int virtualKey, int repeats) {
+  if (!IsActive(hwnd)) return;
+  // A keyboard repeats a key by pressing it again.
+  for (int i = 0; i <= repeats; ++i) PutKey(virtualKey, true);
+  Settle();
+}
+
+void WindowsUser::ReleaseKey(WindowHandle hwnd, int virtualKey) {
+  if (!IsActive(hwnd)) return;
+  PutKey(virtualKey, false);
+  Settle();
+}
+
 void WindowsUser::TypeText(WindowHandle hwnd, std::string_view text, bool alt) {
   if (!IsActive(hwnd)) return;
   for (const wchar_t character : ToUtf16(text)) {
@@ -243,7 +260,7 @@ void WindowsUser::TypeWithAlt(wchar_t character) {
   HoldAlt(false);
 }
 
-void WindowsUser::OpenList(HWND combo) {
+void WindowsUser::DropDown(HWND combo) {
   RECT button = ComboInfo(combo).rcButton;
   MapWindowPoints(combo, nullptr, reinterpret_cast<POINT*>(&button), 2);
   ClickReachable(combo, MiddleOf(button));
@@ -257,7 +274,7 @@ void WindowsUser::Pick(WindowHandle hwnd, int control, int listIndex) {
   if (IsTabStrip(window)) {
     SendMessageW(window, TCM_GETITEMRECT, position, reinterpret_cast<LPARAM>(&entry));
   } else {
-    OpenList(window);
+    DropDown(window);
     window = ComboInfo(window).hwndList;
     SendMessageW(window, LB_GETITEMRECT, position, reinterpret_cast<LPARAM>(&entry));
   }
@@ -265,9 +282,13 @@ void WindowsUser::Pick(WindowHandle hwnd, int control, int listIndex) {
   ClickReachable(window, MiddleOf(entry));
 }
 
-void WindowsUser::OpenAndCloseList(WindowHandle hwnd, int control) {
+void WindowsUser::OpenList(WindowHandle hwnd, int control) {
   Settle();
-  OpenList(FindControl(hwnd, control));
+  DropDown(FindControl(hwnd, control));
+}
+
+void WindowsUser::OpenAndCloseList(WindowHandle hwnd, int control) {
+  OpenList(hwnd, control);
   PressKey(hwnd, VK_ESCAPE, kNoShift);
 }
 

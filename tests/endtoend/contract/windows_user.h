@@ -42,14 +42,18 @@ class WindowsUser final : public UserHands {
   int Value(WindowHandle hwnd, int control) override;
   std::vector<std::string> ListEntries(WindowHandle hwnd, int control) override;
   int ListIndex(WindowHandle hwnd, int control) override;
+  bool IsListOpen(WindowHandle hwnd, int control) override;
   int Focus(WindowHandle hwnd) override;
   TwipsRect Place(WindowHandle hwnd, int control) override;
 
   void Click(WindowHandle hwnd, int control) override;
   void MoveMouse(WindowHandle hwnd, int control, Twips x, Twips y) override;
   void PressKey(WindowHandle hwnd, int virtualKey, unsigned shift) override;
+  void HoldKey(WindowHandle hwnd, int virtualKey, int repeats) override;
+  void ReleaseKey(WindowHandle hwnd, int virtualKey) override;
   void TypeText(WindowHandle hwnd, std::string_view text, bool alt) override;
   void Pick(WindowHandle hwnd, int control, int listIndex) override;
+  void OpenList(WindowHandle hwnd, int control) override;
   void OpenAndCloseList(WindowHandle hwnd, int control) override;
 
   std::vector<ShownMenuItem> MenuBarItems(WindowHandle hwnd) override;
@@ -79,7 +83,7 @@ class WindowsUser final : public UserHands {
   void ClickAt(POINT at);
   void TypeWithAlt(wchar_t character);
   void ClickReachable(HWND window, POINT at);
-  void OpenList(HWND combo);
+  void DropDown(HWND combo);
   /// Opens the menu at `path` with the mouse, then takes `last`, then runs until it has closed.
   void WalkMenu(WindowHandle hwnd, const std::vector<std::string>& path, const MenuStep& last);
 
