@@ -46,6 +46,11 @@ std::string KeyText(std::int16_t key) {
   return choice == std::end(kKeys) ? "Key " + DecimalText(key) : choice->text;
 }
 
+/// The entry that a key stands for, -1 = none.
+std::int16_t EntryOf(const Control& list, int key) {
+  return FindListIndex(list.Items(), key == win32::kVkSpace ? 0 : key, "ITEM_DATA");
+}
+
 /// The combinations of those hot keys that `chosen` picks, each once, with commas.
 template <typename Choose>
 std::string Listed(std::span<const RegisteredHotKey> registered, Choose chosen) {
@@ -74,11 +79,22 @@ void FillHotKeyLists(Form& form) {
   }
 }
 
-void SelectReleasedKey(Control& list, int& key, unsigned shift) {
-  if (shift != kNoShift) return;
-  const std::int32_t value = key == win32::kVkSpace ? 0 : key;
-  const std::int16_t index = FindListIndex(list.Items(), value, "ITEM_DATA");
-  if (index < 0) return;
+void KeyListKeys::Down(const Control& list, int& key, unsigned shift, bool repeated) {
+  if (!repeated) Forget();
+  const bool open = list.Dropped();
+  const bool moves = open && (key == win32::kVkDown || key == win32::kVkUp);
+  if (shift != kNoShift || moves || EntryOf(list, key) < 0) return;
+  if (!repeated) pressed_ = {list.Id(), key};
+  if (!open) key = 0;
+}
+
+void KeyListKeys::Up(Control& list, int& key, unsigned shift) {
+  // Windows tells of this key only that it has come up.
+  const bool pressedHere = pressed_ == Press{list.Id(), key} || key == win32::kVkSnapshot;
+  if (!pressedHere) return;
+  Forget();
+  const std::int16_t index = EntryOf(list, key);
+  if (shift != kNoShift || index < 0) return;
   list.SetListIndex(index);
   key = 0;
 }

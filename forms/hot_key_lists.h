@@ -25,9 +25,28 @@ std::span<const HotKeyChoice> KeyChoices();
 /// other one whose name begins with "cboHotKey" with the keys.
 void FillHotKeyLists(Form& form);
 
-/// A key was released in a key list: selects its entry, the space bar the blank one, and sets `key`
-/// to 0. Does nothing for a key that is not in the list or while Shift, Ctrl or Alt is held.
-void SelectReleasedKey(Control& list, int& key, unsigned shift);
+/// Chooses in the key lists by the keys themselves: a key that is pressed and released in a list
+/// selects its entry, the space bar the blank one. Does nothing for a key that is not in the list,
+/// while Shift, Ctrl or Alt is held, or with the arrow keys of an open list.
+class KeyListKeys {
+ public:
+  /// A key went down in a key list; `repeated` as it is held. Sets `key` to 0 when the list shall
+  /// not see it: a closed list takes keys for its entries in another way, and opens with F4.
+  void Down(const Control& list, int& key, unsigned shift, bool repeated);
+  /// A key came up in a key list: selects its entry and sets `key` to 0 when the list saw it
+  /// pressed.
+  void Up(Control& list, int& key, unsigned shift);
+  /// What was pressed before counts no more: the dialog has just come forward.
+  void Forget() { pressed_ = {}; }
+
+ private:
+  struct Press {
+    int list = 0;
+    int key = 0;
+    friend bool operator==(const Press&, const Press&) = default;
+  };
+  Press pressed_;
+};
 
 /// A combination as the user reads it: "Alt+3", "Windows®+W", "Pause". `modifiers` is a sum of MOD_
 /// values.

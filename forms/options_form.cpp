@@ -20,6 +20,10 @@ constexpr int kEnabledLegend = 1;
 constexpr const char* kFirstControls[kPages] = {"chkSplashScreen", "cboHotKeyModParent",
                                                 "chkAllowToolbarWindow"};
 
+bool IsKeyList(const Control& control) {
+  return control.Name() == "cboHotKeyAction" || control.Name() == "cboHotKeyGeneral";
+}
+
 /// Shows the hourglass for a scope.
 class Hourglass {
  public:
@@ -173,21 +177,26 @@ void frmOptions::RefreshConflictLine() {
   line.SetVisible(!text.empty());
 }
 
+void frmOptions::Form_Activate() { keyListKeys_.Forget(); }
+
 void frmOptions::Form_KeyDown(int& key, unsigned shift) {
-  if (key != win32::kVkTab || (shift & ~kShift) != kCtrl) return;
-  key = 0;
-  const int step = (shift & kShift) != 0 ? kPages - 1 : 1;
+  if (key == win32::kVkTab && (shift & ~kShift) == kCtrl) {
+    key = 0;
+    NextPage((shift & kShift) != 0);
+  } else if (FocusedControl() != 0 && IsKeyList(ById(FocusedControl()))) {
+    keyListKeys_.Down(ById(FocusedControl()), key, shift, KeyRepeats());
+  }
+}
+
+void frmOptions::NextPage(bool backwards) {
   Control& tabs = Find("tabOptions");
-  const int tab = (tabs.ListIndex() + step) % kPages;
+  const int tab = (tabs.ListIndex() + (backwards ? kPages - 1 : 1)) % kPages;
   tabs.SetListIndex(tab);
   Find(kFirstControls[tab]).SetFocus();
 }
 
 void frmOptions::Form_KeyUp(Control* focused, int& key, unsigned shift) {
-  if (focused == nullptr) return;
-  if (focused->Name() == "cboHotKeyAction" || focused->Name() == "cboHotKeyGeneral") {
-    SelectReleasedKey(*focused, key, shift);
-  }
+  if (focused != nullptr && IsKeyList(*focused)) keyListKeys_.Up(*focused, key, shift);
 }
 
 void frmOptions::Control_Mouse(Control& control, const MouseInput& input) {

@@ -6,6 +6,7 @@
 
 #include "app/core/options.h"
 #include "forms/form.h"
+#include "forms/hot_key_lists.h"
 #include "forms/options_owner.h"
 
 namespace korvale {
@@ -30,6 +31,7 @@ class frmOptions : public Form {
  protected:
   void Form_Load() override;
   void Form_Unload() override;
+  void Form_Activate() override;
   void Form_KeyDown(int& key, unsigned shift) override;
   void Form_KeyUp(Control* focused, int& key, unsigned shift) override;
   void Control_Mouse(Control& control, const MouseInput& input) override;
@@ -41,6 +43,7 @@ class frmOptions : public Form {
   void cmdReset_Click();
   void tabOptions_Click();
 
+  void NextPage(bool backwards);
   void Save();
   /// A check that always passes: what does not go together is the user's business.
   static bool Validate() { return true; }
@@ -55,6 +58,7 @@ class frmOptions : public Form {
   OptionsDialogOwner* owner_;
   /// The record as last shown: what a list without a choice stands for.
   clsOptions shown_;
+  KeyListKeys keyListKeys_;
   Color colHotKeyEnabled_ = kDefaultHotKeyEnabledColor;
   /// The controls are being filled; what they tell meanwhile is no doing of the user's.
   bool loading_ = false;

@@ -79,6 +79,39 @@ TEST_F(OptionsLists, TakeTheKeyThatIsPressedInThem) {
   EXPECT_EQ(settings().Get("Options", "HotKeyGeneral1"), std::to_string(VK_F2));
 }
 
+TEST_F(OptionsLists, TakeNoKeyThatWasPressedBeforeTheDialogCameForward) {
+  const OptionsDialog dialog = StartWithOptions(Page::kHotKeys);
+  ASSERT_TRUE(dialog.Focus(kMinimizeKey));
+  ASSERT_TRUE(BringToFront(Open("Alpha")));
+  Press({MOD_WIN, 'O'});
+  ASSERT_TRUE(InFront(dialog.form()));
+  EXPECT_TRUE(HoldsFor([&] { return dialog.Chosen(kMinimizeKey) == "DownArrow"; }));
+  Press({0, 'K'});
+  EXPECT_TRUE(Shows(dialog, kMinimizeKey, "K"));
+}
+
+TEST_F(OptionsLists, TakeF4AndArrowsAndStayClosed) {
+  const OptionsDialog dialog = StartWithOptions(Page::kHotKeys);
+  ASSERT_TRUE(dialog.Focus(kMaximizeKey));
+  const auto open = [&] { return dialog.ListBox(kMaximizeKey).Send(CB_GETDROPPEDSTATE) != 0; };
+  Press({0, VK_F4});
+  EXPECT_TRUE(Shows(dialog, kMaximizeKey, "F4"));
+  EXPECT_TRUE(HoldsFor([&] { return !open(); }));
+  Press({0, VK_DOWN});
+  EXPECT_TRUE(Shows(dialog, kMaximizeKey, "DownArrow"));
+  Press({0, 'X'});
+  EXPECT_TRUE(Shows(dialog, kMaximizeKey, "X"));
+  Click(dialog.ListBox(kMaximizeKey));
+  ASSERT_TRUE(WaitFor(open));
+  Press({0, VK_DOWN});
+  EXPECT_TRUE(Shows(dialog, kMaximizeKey, "Y"));
+  EXPECT_TRUE(HoldsFor([&] { return open() && dialog.Chosen(kMaximizeKey) == "Y"; }));
+  Press({0, VK_TAB});
+  EXPECT_TRUE(WaitFor([&] { return !open(); }));
+  EXPECT_EQ(dialog.Chosen(kMaximizeKey), "Y");
+  EXPECT_TRUE(dialog.Cancel());
+}
+
 TEST_F(OptionsLists, IgnoreAKeyPressedTogetherWithAnother) {
   const OptionsDialog dialog = StartWithOptions(Page::kHotKeys);
   ASSERT_TRUE(dialog.Focus(kToggleKey));

@@ -74,14 +74,17 @@ class HotKeyListsTest : public DialogTest {
     FillHotKeyLists(form_);
   }
 
-  /// Releases a key in the key list; true when it was swallowed.
+  /// Presses and releases a key in the key list; true when the release was swallowed.
   bool Release(int key, unsigned shift = kNoShift) {
-    SelectReleasedKey(Keys(), key, shift);
+    int pressed = key;
+    keys_.Down(Keys(), pressed, shift, false);
+    keys_.Up(Keys(), key, shift);
     return key == 0;
   }
   Control& Keys() { return form_.Find("cboHotKeyAction", 0); }
 
   Form form_{kDesign, forms_};
+  KeyListKeys keys_;
 };
 
 TEST_F(HotKeyListsTest, FillsEachListByItsName) {
