@@ -55,7 +55,11 @@ Program::Program(Platform& platform)
 Program::~Program() { platform_->system.SetUnhandledExceptionFilter({}); }
 
 bool Program::Start() {
-  return Guarded([this] { form_.Show(); });
+  return Guarded([this] {
+    form_.Show();
+    // Windows does not activate what is shown minimized, so its user is asked and recorded here.
+    if (form_.WindowState() == ShowState::kMinimized) startUp_.FirstActivation(form_);
+  });
 }
 
 void Program::Run() {

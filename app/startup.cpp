@@ -243,7 +243,8 @@ void StartUp::FirstActivation(frmMain& form) {
     return;
   }
   const RaisedFlag runs(firstActivationRuns_);
-  if (parts.startup.AlwaysOnTop) {
+  const bool minimized = form.WindowState() == ShowState::kMinimized;
+  if (parts.startup.AlwaysOnTop && !minimized) {
     parts.actions.SetTopmost(form.Handle(), true);
   }
   RecordPreviousWindow(form);
@@ -264,8 +265,9 @@ void StartUp::RecordPreviousWindow(frmMain& form) {
                                 GetWindowClass(platform_->windows, before)});
     parts.tracker.ValidatePreviousWindow();
   }
-  // The user has come to the main window from another one, as they do by a click on it.
-  parts.tracker.LookAnew();
+  // The user has come to the main window from another one, as they do by a click on it; to a
+  // minimized one they have not come.
+  if (form.WindowState() != ShowState::kMinimized) parts.tracker.LookAnew();
   if (before != 0 && parts.options.Get().booSelectPrevWinOnStart) {
     SelectPreviousWindow(form);
   }

@@ -151,7 +151,11 @@ void Form::Destroy() {
   forms_->Host().DestroyWindow(std::exchange(handle_, 0));
 }
 
-void Form::Show() {
+void Form::Show() { ShowAs(true); }
+
+void Form::ShowInactive() { ShowAs(false); }
+
+void Form::ShowAs(bool active) {
   Load();
   if (!IsLoaded()) return;
   if (!shownBefore_) {
@@ -161,7 +165,7 @@ void Form::Show() {
     if (!IsLoaded()) return;
   }
   state_.visible = true;
-  forms_->Host().ShowWindow(handle_, ShowCommand(state_));
+  forms_->Host().ShowWindow(handle_, active ? ShowCommand(state_) : win32::kSwShowNa);
 }
 
 void Form::ShowModal() {
@@ -203,13 +207,14 @@ void Form::SetPlace(const TwipsRect& place) {
   if (sized && IsLoaded()) Form_Resize();
 }
 
-void Form::SetMaximumHeight(Twips height) {
-  if (state_.maximumHeight == height) return;
-  state_.maximumHeight = height;
-  if (!IsLoaded() || state_.windowState != ShowState::kMaximized) return;
-  // Windows asks for the limit only when it maximizes.
-  state_.place.height = height;
-  place_.height = height - FrameGrowth().height;
+void Form::SetSizeLimits(const SizeLimits& limits) {
+  if (state_.limits == limits) return;
+  state_.limits = limits;
+  if (!IsLoaded() || !state_.visible || state_.windowState != ShowState::kMaximized) return;
+  if (limits.height == 0 || limits.height == state_.place.height) return;
+  // Windows asks for the limits only when it maximizes.
+  state_.place.height = limits.height;
+  place_.height = limits.height - FrameGrowth().height;
   forms_->Host().MoveWindow(handle_);
 }
 

@@ -58,6 +58,8 @@ class Form : public FormEvents {
   bool Unload(CloseReason reason = CloseReason::kCode);
   /// Loads the form if need be and shows it.
   void Show();
+  /// As Show, but the window that is active stays so.
+  void ShowInactive();
   /// Shows the form and returns when it has been unloaded or hidden; no other form of the program
   /// takes input meanwhile.
   void ShowModal();
@@ -68,8 +70,8 @@ class Form : public FormEvents {
   /// Place and size in twips. Without FormDesign::exactHeight the size counts the classic frame.
   const TwipsRect& Place() const { return place_; }
   void SetPlace(const TwipsRect& place);
-  /// Keeps the user from making the form higher, in twips; 0 = no limit.
-  void SetMaximumHeight(Twips height);
+  /// Limits what the user can make of the form's size, frame included.
+  void SetSizeLimits(const SizeLimits& limits);
   bool Enabled() const { return state_.enabled; }
   void SetEnabled(bool enabled);
   bool Visible() const { return state_.visible; }
@@ -159,6 +161,7 @@ class Form : public FormEvents {
   int ContainerId(const ControlRow& row) const;
   TwipsRect FrameGrowth() const;
   TwipsRect RealPlace() const;
+  void ShowAs(bool active);
   bool AgreesToUnload(CloseReason reason);
   void Destroy();
 

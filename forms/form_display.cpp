@@ -83,7 +83,11 @@ void FormDisplay::ShowFormNonModal(Form& form, const DisplaySwitches& switches, 
   if (!form.IsLoaded()) return;
   if (!form.Visible()) {
     PlaceForm(form, switches, {}, owner);
-    form.Show();
+    if (switches.takeForeground != 0) {
+      form.Show();
+    } else {
+      form.ShowInactive();
+    }
   } else if (!windows_->IsWindowVisible(form.Handle())) {
     // Windows hides it together with its minimized owner.
     form.Show();

@@ -24,7 +24,7 @@ struct DisplaySwitches {
   std::int16_t centerOnOwner = 1;   ///< Otherwise, or without owner, centred on the work area.
   std::int16_t keepInWorkArea = 1;  ///< Moved inside the work area of its monitor.
   std::int16_t followTopmost = 1;   ///< Topmost while the main window is always on top.
-  std::int16_t takeForeground = 1;  ///< Made the foreground window.
+  std::int16_t takeForeground = 1;  ///< Made the foreground window; 0 = not even active.
 };
 
 /// Places and shows the forms of the program.

@@ -145,6 +145,8 @@ void Form::OnActivated() {
 
 void Form::OnPlaced(ShowState state, const TwipsRect& place) {
   if (!IsLoaded()) return;
+  // A hidden window is never minimized or maximized yet; the model says how it will be shown.
+  if (!state_.visible) state = state_.windowState;
   bool changed = state != state_.windowState;
   bool moved = false;
   state_.windowState = state;

@@ -162,9 +162,9 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   ColorCustomizing::Parts CustomizingParts();
   void ShowTopLevelMenus(bool shown);
   void CloseAbout();
-  Twips HeightForContent() const;
+  Twips HeightForContent(const TwipsRect& frame);
   bool IsTopmostBehindAnother() const;
-  void LayOutFields();
+  void LayOutFields(const TwipsRect& frame);
   void RememberPlace();
 
   Platform* platform_;

@@ -1,5 +1,11 @@
+void frmMain::ApplyColors() {
+  Find("txtWindow").SetBackColor(parts_.startup.WI1BackColor);
+  Find("txtWindowClass").SetBackColor(parts_.startup.WI2BackColor);
+}
+
 #include <algorithm>
 
+#include "app/core/startup_settings.h"
 #include "forms/main_form.h"
 #include "forms/main_form_design.h"
 #include "platform/win32_constants.h"
@@ -14,17 +20,18 @@ constexpr Twips kMargin = 45;
 constexpr int kTitleShare = 3;
 constexpr int kShares = 5;
 
-std::int16_t AsStored(Twips length) {
-  return static_cast<std::int16_t>(std::clamp<Twips>(length, INT16_MIN, INT16_MAX));
-}
+Twips AsStored(Twips length) { return std::clamp(length, -kFarthestPlace, kFarthestPlace); }
 
 }  // namespace
 
-Twips frmMain::HeightForContent() const {
-  Twips height = kClassicFrameHeight;
-  if (parts_.startup.Menu) {
-    height += kClassicMenuHeight;
-  }
+/// The classic heights hold for frames and menu bars that are no higher; a higher one, or a bar of
+/// several rows, makes the window higher. What counts is the bar that is on the screen, which may
+/// be shown only for a moment.
+Twips frmMain::HeightForContent(const TwipsRect& frame) {
+  Twips height = kClassicFrameHeight + (State().menuShown ? kClassicMenuHeight : 0);
+  const Twips higher = frame.height - height;
+  // Less than half a pixel comes from counting in twips.
+  if (2 * higher * Collection().Host().GetDpiForWindow(Handle()) > kTwipsPerInch) height += higher;
   if (parts_.startup.WindowInfo) {
     height += Find("txtWindow").Place().height + kRoomAroundFields;
   }
@@ -40,18 +47,22 @@ bool frmMain::IsTopmostBehindAnother() const {
 }
 
 void frmMain::Form_Resize() {
-  const bool ready = IsLoaded() && parts_.state.startUpFinished;
-  if (!ready || WindowState() == ShowState::kMinimized) {
+  if (!IsLoaded() || !parts_.state.startUpFinished) {
+    return;
+  }
+  if (WindowState() == ShowState::kMinimized) {
+    RememberPlace();
     return;
   }
   if (parts_.startup.AlwaysOnTop && !IsTopmostBehindAnother()) {
     parts_.actions.SetTopmost(Handle(), true);
   }
-  LayOutFields();
+  const TwipsRect frame = Collection().Host().AdjustWindowRectEx(State());
+  LayOutFields(frame);
   TwipsRect place = Place();
-  place.height = HeightForContent();
+  place.height = HeightForContent(frame);
   place.width = std::max(place.width, kMinimumWidth);
-  SetMaximumHeight(place.height);
+  SetSizeLimits({.minimumWidth = kMinimumWidth, .height = place.height});
   if (place != Place()) {
     SetPlace(place);
   }
@@ -62,20 +73,15 @@ void frmMain::Form_Move() {
   if (parts_.state.startUpFinished) RememberPlace();
 }
 
-void frmMain::LayOutFields() {
-  const TwipsRect frame = Collection().Host().AdjustWindowRectEx(State());
+void frmMain::LayOutFields(const TwipsRect& frame) {
   Control& title = Find("txtWindow");
   Control& className = Find("txtWindowClass");
-  const Twips classic = kClassicFrameHeight + (parts_.startup.Menu ? kClassicMenuHeight : 0);
-  // The window's height is fixed; where frame and menu are higher than the classic ones, higher
-  // fields make the window higher too, so that their text stays whole.
-  const Twips height = kFieldHeight + std::max<Twips>(0, frame.height - classic);
   const Twips width = std::max(Place().width, kMinimumWidth) - frame.width - 3 * kMargin;
   const Twips titleWidth = width * kTitleShare / kShares;
   title.SetVisible(parts_.startup.WindowInfo);
   className.SetVisible(parts_.startup.WindowInfo);
-  title.SetPlace({kMargin, kMargin, titleWidth, height});
-  className.SetPlace({2 * kMargin + titleWidth, kMargin, width - titleWidth, height});
+  title.SetPlace({kMargin, kMargin, titleWidth, kFieldHeight});
+  className.SetPlace({2 * kMargin + titleWidth, kMargin, width - titleWidth, kFieldHeight});
 }
 
 void frmMain::RememberPlace() {
@@ -98,16 +104,11 @@ void frmMain::ApplyPlacement() {
   if (startup.Top != -1) {
     place.top = startup.Top;
   }
-  place.width = std::max<Twips>(startup.Width, kMinimumWidth);
+  place.width = std::max(startup.Width, kMinimumWidth);
   place.height = startup.Height;
   SetPlace(place);
   parts_.display.BringOntoMonitor(*this);
   SetWindowState(static_cast<ShowState>(startup.WindowState));
-}
-
-void frmMain::ApplyColors() {
-  Find("txtWindow").SetBackColor(parts_.startup.WI1BackColor);
-  Find("txtWindowClass").SetBackColor(parts_.startup.WI2BackColor);
 }
 
 void frmMain::mnuViewMenu_Click() {

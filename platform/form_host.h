@@ -69,7 +69,8 @@ class FormEvents {
   virtual void OnActivated() = 0;
   /// The user or Windows moved, sized, minimized or restored the form.
   virtual void OnPlaced(ShowState state, const TwipsRect& place) = 0;
-  /// Its monitor has other dots per inch now (WM_DPICHANGED): frame and menu may have other sizes.
+  /// Frame and menu may have other sizes: its monitor has other dots per inch now (WM_DPICHANGED),
+  /// or the user wants other metrics (WM_SETTINGCHANGE).
   virtual void OnDpiChanged() = 0;
   /// The form is asked to close; the form unloads itself when it agrees.
   virtual void OnCloseRequested(CloseReason reason) = 0;
@@ -112,6 +113,8 @@ class FormHost {
   /// What the frame and menu bar of the form add to its client area, in twips: `left`/`top` their
   /// thickness there, `width`/`height` the sums of both sides (AdjustWindowRectExForDpi).
   virtual TwipsRect AdjustWindowRectEx(const FormState& form) = 0;
+  /// The dots per inch with which the window is shown (GetDpiForWindow).
+  virtual int GetDpiForWindow(WindowHandle hwnd) = 0;
   /// The work area, in twips, of the monitor that shows the window or is nearest to it
   /// (MonitorFromWindow, GetMonitorInfoW); of the primary monitor when there is no such window.
   virtual TwipsRect GetMonitorInfoW(WindowHandle hwnd) = 0;

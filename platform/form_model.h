@@ -104,12 +104,20 @@ enum class BorderStyle { kSizable, kFixedDialog, kNone };
 
 enum class ShowState { kNormal = 0, kMinimized = 1, kMaximized = 2 };
 
+/// The sizes that the user, or maximizing, can give a form, in twips; 0 = any.
+struct SizeLimits {
+  Twips minimumWidth = 0;
+  Twips height = 0;  ///< The only height that it can have.
+
+  friend bool operator==(const SizeLimits&, const SizeLimits&) = default;
+};
+
 /// What a host needs to know of a form to show it. Changed by the shared form code only.
 struct FormState {
   std::string name;  ///< Its window class is "Korvale." followed by this name.
   std::string caption;
-  TwipsRect place;          ///< Place and size on the screen, frame included.
-  Twips maximumHeight = 0;  ///< Neither the user nor maximizing makes it higher; 0 = no limit.
+  TwipsRect place;  ///< Place and size on the screen, frame included.
+  SizeLimits limits;
   BorderStyle border = BorderStyle::kFixedDialog;
   bool minimizeBox = false;
   bool maximizeBox = false;

@@ -38,6 +38,7 @@ inline constexpr int kSwShowNoActivate = 4;
 inline constexpr int kSwShow = 5;
 inline constexpr int kSwMinimize = 6;
 inline constexpr int kSwShowMinNoActive = 7;
+inline constexpr int kSwShowNa = 8;
 inline constexpr int kSwRestore = 9;
 
 // SetWindowPos

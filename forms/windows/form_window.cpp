@@ -156,11 +156,17 @@ LRESULT FormWindow::Process(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_GETMINMAXINFO:
       LimitSize(*reinterpret_cast<MINMAXINFO*>(lParam));
       break;
+    case WM_SIZING:
+      KeepHeight(wParam, *reinterpret_cast<RECT*>(lParam));
+      return TRUE;
     case WM_TIMER:
       events_.Tell([&](FormEvents& events) { events.OnTimer(static_cast<int>(wParam)); });
       break;
     case WM_DPICHANGED:
       OnDpiChanged(*reinterpret_cast<const RECT*>(lParam));
+      break;
+    case WM_SETTINGCHANGE:
+      if (wParam == SPI_SETNONCLIENTMETRICS) OnMetricsChanged();
       break;
     case WM_SYSCOLORCHANGE:
       brushes_->Clear();
@@ -249,17 +255,35 @@ void FormWindow::TellPlaced() {
 
 void FormWindow::LimitSize(MINMAXINFO& limits) const {
   // The form itself decides how small it may be.
-  limits.ptMinTrackSize = {};
-  if (form_->maximumHeight == 0) return;
-  const LONG height = ToPixels(form_->maximumHeight, GetDpiForWindow(hwnd_));
+  const UINT dpi = GetDpiForWindow(hwnd_);
+  limits.ptMinTrackSize = {ToPixels(form_->limits.minimumWidth, dpi), 0};
+  if (form_->limits.height == 0) return;
+  const LONG height = ToPixels(form_->limits.height, dpi);
+  limits.ptMinTrackSize.y = height;
   limits.ptMaxTrackSize.y = height;
   limits.ptMaxSize.y = height;
+}
+
+void FormWindow::KeepHeight(WPARAM edge, RECT& place) const {
+  if (form_->limits.height == 0) return;
+  const LONG height = ToPixels(form_->limits.height, GetDpiForWindow(hwnd_));
+  // The edge that is not dragged stays where it is.
+  if (edge == WMSZ_TOP || edge == WMSZ_TOPLEFT || edge == WMSZ_TOPRIGHT) {
+    place.top = place.bottom - height;
+  } else {
+    place.bottom = place.top + height;
+  }
 }
 
 void FormWindow::OnDpiChanged(const RECT& place) {
   controls_.ChangeDpi();
   SetWindowPos(hwnd_, nullptr, place.left, place.top, place.right - place.left,
                place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
+  events_.Tell([](FormEvents& events) { events.OnDpiChanged(); });
+}
+
+void FormWindow::OnMetricsChanged() {
+  controls_.ChangeDpi();
   events_.Tell([](FormEvents& events) { events.OnDpiChanged(); });
 }
 

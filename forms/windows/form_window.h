@@ -67,7 +67,9 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   void TellListPicked(int control);
   void TellPlaced();
   void LimitSize(MINMAXINFO& limits) const;
+  void KeepHeight(WPARAM edge, RECT& place) const;
   void OnDpiChanged(const RECT& place);
+  void OnMetricsChanged();
   void Watch(HWND control, int id);
 
   const FormState* form_;

@@ -10,12 +10,18 @@ namespace {
 
 /// By how much the menu bar is higher than one row: it has several rows where it is too narrow for
 /// its menus, which AdjustWindowRectEx does not count.
-int FurtherMenuRows(HWND hwnd, UINT dpi) {
-  MENUBARINFO bar{};
-  bar.cbSize = sizeof(bar);
-  if (GetMenuBarInfo(hwnd, OBJID_MENU, 0, &bar) == FALSE) return 0;
-  const LONG height = bar.rcBar.bottom - bar.rcBar.top;
-  return std::max<int>(0, height - GetSystemMetricsForDpi(SM_CYMENU, dpi));
+int FurtherMenuRows(HWND hwnd) {
+  const HMENU menu = GetMenu(hwnd);
+  RECT first{};
+  if (GetMenuItemRect(hwnd, menu, 0, &first) == FALSE) return 0;
+  LONG end = first.bottom;
+  for (int item = GetMenuItemCount(menu) - 1; item > 0; --item) {
+    RECT entry{};
+    if (GetMenuItemRect(hwnd, menu, static_cast<UINT>(item), &entry) != FALSE) {
+      end = std::max(end, entry.bottom);
+    }
+  }
+  return end - first.bottom;
 }
 
 TwipsRect WorkAreaOf(HMONITOR monitor) {
@@ -143,15 +149,19 @@ TwipsRect WindowsFormHost::AdjustWindowRectEx(const FormState& form) {
   int further = 0;
   for (const auto& [hwnd, other] : forms_) {
     if (&other->Model() != &form) continue;
-    dpi = GetDpiForWindow(other->Handle());
+    dpi = ::GetDpiForWindow(other->Handle());
     const bool asWanted = (GetMenu(other->Handle()) != nullptr) == (menu != FALSE);
-    if (asWanted) further = FurtherMenuRows(other->Handle(), dpi);
+    if (asWanted) further = FurtherMenuRows(other->Handle());
   }
   RECT frame{};
   AdjustWindowRectExForDpi(&frame, FormStyle(form), menu, FormExStyle(form), dpi);
   frame.top -= further;
   return {ToTwips(-frame.left, dpi), ToTwips(-frame.top, dpi),
           ToTwips(frame.right - frame.left, dpi), ToTwips(frame.bottom - frame.top, dpi)};
+}
+
+int WindowsFormHost::GetDpiForWindow(WindowHandle hwnd) {
+  return static_cast<int>(::GetDpiForWindow(ToHwnd(hwnd)));
 }
 
 TwipsRect WindowsFormHost::GetMonitorInfoW(WindowHandle hwnd) {

@@ -38,6 +38,7 @@ class WindowsFormHost : public FormHost {
   TextSelection GetSelection(WindowHandle hwnd, int control) override;
   void SetSelection(WindowHandle hwnd, int control, TextSelection selection) override;
   TwipsRect AdjustWindowRectEx(const FormState& form) override;
+  int GetDpiForWindow(WindowHandle hwnd) override;
   TwipsRect GetMonitorInfoW(WindowHandle hwnd) override;
   TwipsRect MonitorFromPoint() override;
   Twips GetTextExtentPoint32W(WindowHandle hwnd, const std::string& text) override;

@@ -28,6 +28,7 @@ static_assert(kSwShow == SW_SHOW);
 static_assert(kSwMinimize == SW_MINIMIZE);
 static_assert(kSwShowNoActivate == SW_SHOWNOACTIVATE);
 static_assert(kSwShowMinNoActive == SW_SHOWMINNOACTIVE);
+static_assert(kSwShowNa == SW_SHOWNA);
 static_assert(kSwRestore == SW_RESTORE);
 static_assert(kSwpNoSize == SWP_NOSIZE);
 static_assert(kSwpNoMove == SWP_NOMOVE);

@@ -58,15 +58,46 @@ TEST_F(FormHostContract, AFormIsToldWhereTheUserHasDraggedIt) {
   EXPECT_GT(strip_.resizes, before);
 }
 
-TEST_F(FormHostContract, AFormWithAMaximumHeightGrowsInWidthOnly) {
-  strip_.SetMaximumHeight(1500);
+TEST_F(FormHostContract, AFormOfAFixedHeightChangesInWidthOnly) {
+  strip_.SetSizeLimits({.minimumWidth = 3000, .height = 1500});
   strip_.Show();
   User().Drag(strip_.Handle(), {1200, 1200, 7500, 1800});
   EXPECT_EQ(strip_.Place(), (TwipsRect{1200, 1200, 7500, 1500}));
+  User().Drag(strip_.Handle(), {1200, 1200, 2400, 900});
+  EXPECT_EQ(strip_.Place(), (TwipsRect{1200, 1200, 3000, 1500}));
   strip_.SetWindowState(ShowState::kMaximized);
   EXPECT_EQ(strip_.WindowState(), ShowState::kMaximized);
   EXPECT_GE(strip_.Place().width, Host().GetMonitorInfoW(strip_.Handle()).width);
   EXPECT_EQ(strip_.Place().height, 1500);
+}
+
+TEST_F(FormHostContract, AMaximizedFormStaysSoUnderAnotherHeight) {
+  strip_.SetSizeLimits({.height = 1500});
+  strip_.Show();
+  strip_.SetWindowState(ShowState::kMaximized);
+  strip_.SetSizeLimits({.height = 1200});
+  EXPECT_EQ(strip_.WindowState(), ShowState::kMaximized);
+  EXPECT_EQ(User().Place(strip_.Handle()).height, 1200);
+  EXPECT_GE(User().Place(strip_.Handle()).width, Host().GetMonitorInfoW(strip_.Handle()).width);
+  strip_.SetWindowState(ShowState::kNormal);
+  EXPECT_EQ(User().Place(strip_.Handle()).width, kStripDesign.place.width);
+}
+
+TEST_F(FormHostContract, AHiddenFormKeepsTheStateInWhichItWillBeShown) {
+  for (const ShowState state : {ShowState::kMaximized, ShowState::kMinimized}) {
+    strip_.Load();
+    strip_.SetPlace({1200, 1200, 4500, 1500});
+    strip_.SetWindowState(state);
+    strip_.SetSizeLimits({.height = 1200});
+    Host().MoveWindow(strip_.Handle());
+    Host().DrawMenuBar(strip_.Handle());
+    EXPECT_EQ(strip_.WindowState(), state);
+    strip_.Show();
+    EXPECT_EQ(strip_.WindowState(), state);
+    strip_.SetWindowState(ShowState::kNormal);
+    EXPECT_EQ(strip_.Place(), (TwipsRect{1200, 1200, 4500, 1200}));
+    strip_.Unload();
+  }
 }
 
 TEST_F(FormHostContract, MinimizingAndRestoringIsTold) {
@@ -123,6 +154,13 @@ TEST_F(FormHostContract, ShowingAFormActivatesIt) {
   EXPECT_EQ(form_.activations, 1);
   dialog_.Show();
   EXPECT_EQ(dialog_.activations, 1);
+}
+
+TEST_F(FormHostContract, AFormShownInactiveLeavesTheActiveOne) {
+  form_.Show();
+  dialog_.ShowInactive();
+  EXPECT_TRUE(User().IsShown(dialog_.Handle()));
+  EXPECT_EQ(dialog_.activations, 0);
 }
 
 TEST_F(FormHostContract, ADisabledFormIsDisabledOnTheScreen) {

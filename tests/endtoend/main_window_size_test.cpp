@@ -92,10 +92,113 @@ TEST_F(MainWindowSize, IsTheSameAfterTheNextStart) {
   EXPECT_TRUE(HasHeight(height));
 }
 
+TEST_F(MainWindowSize, HasRoomForAMenuOfAMoment) {
+  for (const char* const boxes : {"True", "False"}) {
+    StartWith("False", boxes);
+    const int height = window().Height();
+    Press({MOD_ALT, 'V'});
+    ASSERT_TRUE(korvale_->OpenMenu());
+    EXPECT_TRUE(HasHeight(height + Pixels(kWithMenu - kBare)));
+    EXPECT_TRUE(window().ShowsMenusWhole());
+    EXPECT_TRUE(!window().ShowsBoxes() || window().ShowsTextWhole());
+    Press({0, 'C'});
+    const Window tip = korvale_->Form("frmMsgTip");
+    ASSERT_TRUE(tip.Close());
+    EXPECT_TRUE(HasHeight(height));
+    EXPECT_FALSE(window().HasMenuBar());
+    ASSERT_TRUE(Exit());
+  }
+}
+
+TEST_F(MainWindowSize, ShowsEveryMenuAndBothBoxesWhereItIsNarrow) {
+  Start();
+  const int height = window().Height();
+  window().Resize(Pixels(2640), height);
+  ASSERT_TRUE(WaitFor([&] { return window().Width() == Pixels(2640); }));
+  EXPECT_TRUE(WaitFor([&] { return window().ShowsMenusWhole(); }));
+  EXPECT_TRUE(window().ShowsTextWhole());
+  EXPECT_EQ(window().BoxHeight(), Pixels(285));
+  ASSERT_TRUE(Choose('V', {'T'}));
+  EXPECT_TRUE(WaitFor([&] { return !window().ShowsBoxes(); }));
+  EXPECT_TRUE(window().ShowsMenusWhole());
+  ASSERT_TRUE(Choose('V', {'T'}));
+  window().Resize(400, height);
+  EXPECT_TRUE(HasHeight(height));
+}
+
+TEST_F(MainWindowSize, StaysWhereItIsWhenItsEdgesAreDraggedUpOrDown) {
+  Start();
+  const RECT before = window().Place();
+  const auto middle = (before.left + before.right) / 2;
+  const auto same = [&] {
+    const RECT now = window().Place();
+    return EqualRect(&now, &before) != 0;
+  };
+  const auto unmoved = [&] { EXPECT_TRUE(same()); };
+  for (const LONG edge : {before.top + 1, before.bottom - 2}) {
+    for (const LONG by : {-40L, 40L}) {
+      Drag({middle, edge}, {middle, edge + by}, unmoved);
+      EXPECT_TRUE(HoldsFor(same));
+    }
+  }
+}
+
+TEST_F(MainWindowSize, StopsAtTheLeastWidthWithoutMoving) {
+  Start();
+  const RECT before = window().Place();
+  const LONG middle = (before.top + before.bottom) / 2;
+  const auto right_stays = [&] { EXPECT_EQ(window().Place().right, before.right); };
+  Drag({before.left + 1, middle}, {before.right - 20, middle}, right_stays);
+  // Wine lets a dragged edge come within a pixel of the limit.
+  EXPECT_TRUE(WaitFor([&] { return std::abs(window().Width() - Pixels(2640)) <= 1; }));
+  EXPECT_EQ(window().Place().right, before.right);
+  EXPECT_EQ(window().Place().top, before.top);
+}
+
+/// Title bars and menus of another height, for what starts from now on.
+class Metrics {
+ public:
+  Metrics(int caption, int menu) {
+    before_.cbSize = sizeof(before_);
+    SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof(before_), &before_, 0);
+    NONCLIENTMETRICSW metrics = before_;
+    metrics.iCaptionHeight = caption;
+    metrics.iMenuHeight = menu;
+    Apply(metrics);
+  }
+  Metrics(const Metrics&) = delete;
+  Metrics& operator=(const Metrics&) = delete;
+  ~Metrics() { Apply(before_); }
+
+ private:
+  static void Apply(NONCLIENTMETRICSW metrics) {
+    SystemParametersInfoW(SPI_SETNONCLIENTMETRICS, sizeof(metrics), &metrics,
+                          SPIF_UPDATEINIFILE | SPIF_SENDCHANGE);
+  }
+
+  NONCLIENTMETRICSW before_{};
+};
+
+TEST_F(MainWindowSize, IsGreaterByWhatAHigherFrameNeeds) {
+  const Metrics high(36, 38);
+  Start();
+  EXPECT_TRUE(window().ShowsTextWhole());
+  EXPECT_TRUE(window().ShowsMenusWhole());
+  EXPECT_EQ(window().BoxHeight(), Pixels(285));
+  RECT client{};
+  GetClientRect(main().handle(), &client);
+  EXPECT_NEAR(client.bottom, Pixels(285 + 115), 1);
+  ASSERT_TRUE(Choose('V', {'T'}));
+  EXPECT_TRUE(WaitFor([&] { return !window().ShowsBoxes(); }));
+  EXPECT_TRUE(window().ShowsMenusWhole());
+}
+
 TEST_F(MainWindowSize, OfAStoredWidthThatIsTooNarrowIsRaised) {
   installation_.settings().Set("Startup", "Width", "2000");
   Start();
   EXPECT_EQ(window().Width(), Pixels(2640));
+  EXPECT_TRUE(window().ShowsMenusWhole());
+  EXPECT_TRUE(window().ShowsTextWhole());
 }
 
 }  // namespace

@@ -73,7 +73,7 @@ std::string ShowCommandText(int command) {
       {win32::kSwShow, "SW_SHOW"},
       {win32::kSwMinimize, "SW_MINIMIZE"},
       {win32::kSwShowMinNoActive, "SW_SHOWMINNOACTIVE"},
-      {fakes::kSwShowNa, "SW_SHOWNA"},
+      {win32::kSwShowNa, "SW_SHOWNA"},
       {win32::kSwRestore, "SW_RESTORE"},
   };
   const auto name = kNames.find(command);

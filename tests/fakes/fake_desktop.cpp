@@ -87,7 +87,7 @@ void FakeDesktop::Hide(WindowHandle hwnd) {
 
 void FakeDesktop::Reveal(WindowHandle hwnd) {
   Existing(hwnd);
-  windows_.Show(hwnd, fakes::kSwShowNa);
+  windows_.Show(hwnd, win32::kSwShowNa);
 }
 
 void FakeDesktop::SetEnabled(WindowHandle hwnd, bool enabled) { Existing(hwnd).enabled = enabled; }

@@ -52,7 +52,7 @@ bool FakeWindows::Apply(FakeWindow& window, int command) {
       Minimize(window);
       return true;
     case win32::kSwShow:
-    case fakes::kSwShowNa:
+    case win32::kSwShowNa:
       window.visible = true;
       window.hiddenByOwner = false;
       return true;

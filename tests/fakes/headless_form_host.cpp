@@ -124,6 +124,7 @@ WindowHandle HeadlessFormHost::CreateWindowExW(const FormState& form, FormEvents
   window->form = &form;
   window->events = &events;
   window->place = form.place;
+  window->restored = form.place;
   window->frame = AdjustWindowRectEx(form);
   for (const ControlState& control : form.controls) window->controls.push_back({control, {}});
   window->DrawMenuBar();
@@ -161,8 +162,19 @@ void HeadlessFormHost::SetWindowTextW(WindowHandle hwnd) {
 void HeadlessFormHost::MoveWindow(WindowHandle hwnd) {
   HeadlessWindow& window = Window(hwnd);
   log_->Add("MoveWindow(" + log_->Window(hwnd) + ")");
-  window.place = window.form->place;
-  desktop_->SetPlace(hwnd, window.place);
+  const TwipsRect wanted = window.form->place;
+  Place(window, wanted);
+  // A hidden window is in the normal state, whatever it will be shown as.
+  const ShowState state = desktop_->State(hwnd);
+  if (window.place == wanted && state == window.form->windowState) return;
+  const TwipsRect taken = window.place;
+  Tell(hwnd, [&](FormEvents& events) { events.OnPlaced(state, taken); });
+}
+
+void HeadlessFormHost::Place(HeadlessWindow& window, const TwipsRect& place) {
+  window.place = Limited(place, window.form->limits);
+  if (desktop_->State(window.handle) == ShowState::kNormal) window.restored = window.place;
+  desktop_->SetPlace(window.handle, window.place);
 }
 
 void HeadlessFormHost::DrawMenuBar(WindowHandle hwnd) {
@@ -189,14 +201,11 @@ void HeadlessFormHost::WindowActivated(WindowHandle hwnd) {
 }
 
 void HeadlessFormHost::WindowStateChanged(WindowHandle hwnd, ShowState state) {
-  const HeadlessWindow* const window = FindWindow(hwnd);
+  HeadlessWindow* const window = FindWindow(hwnd);
   if (window == nullptr) return;
-  TwipsRect place = window->place;
-  if (state == ShowState::kMaximized) {
-    place = workArea_;
-    const Twips most = window->form->maximumHeight;
-    if (most != 0) place.height = std::min(place.height, most);
-  }
+  if (state == ShowState::kMaximized) Place(*window, workArea_);
+  if (state == ShowState::kNormal) Place(*window, window->restored);
+  const TwipsRect place = window->place;
   Tell(hwnd, [&](FormEvents& events) { events.OnPlaced(state, place); });
 }
 

@@ -54,6 +54,7 @@ class HeadlessFormHost : public FormHost, private DesktopListener {
   void Post(std::function<void()> message) { posted_.push_back(std::move(message)); }
   /// The frame of a form with a border, as AdjustWindowRectEx tells it, and the height of a menu.
   void SetFrame(const TwipsRect& frame, Twips menuHeight);
+  void SetDpi(int dpi) { dpi_ = dpi; }
   void SetWorkArea(const TwipsRect& workArea) { workArea_ = workArea; }
 
   /// Another program tells the thread to quit.
@@ -91,6 +92,7 @@ class HeadlessFormHost : public FormHost, private DesktopListener {
   TextSelection GetSelection(WindowHandle hwnd, int control) override;
   void SetSelection(WindowHandle hwnd, int control, TextSelection selection) override;
   TwipsRect AdjustWindowRectEx(const FormState& form) override;
+  int GetDpiForWindow(WindowHandle /*hwnd*/) override { return dpi_; }
   TwipsRect GetMonitorInfoW(WindowHandle hwnd) override;
   TwipsRect MonitorFromPoint() override { return workArea_; }
   /// Every character is 100 twips wide.
@@ -116,6 +118,7 @@ class HeadlessFormHost : public FormHost, private DesktopListener {
     std::function<void()> action;
   };
 
+  void Place(HeadlessWindow& window, const TwipsRect& place);
   void WindowActivated(WindowHandle hwnd) override;
   void WindowStateChanged(WindowHandle hwnd, ShowState state) override;
   bool RunPosted();
@@ -142,6 +145,7 @@ class HeadlessFormHost : public FormHost, private DesktopListener {
   TwipsRect frame_ = {45, 355, 90, 400};
   Twips menuHeight_ = 300;
   TwipsRect workArea_ = {0, 0, 15360, 11100};
+  int dpi_ = 96;
   bool quit_ = false;
 };
 

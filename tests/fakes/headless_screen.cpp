@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstddef>
 
 #include "forms/access_key.h"
@@ -101,6 +102,13 @@ void HeadlessWindow::DrawMenuBar() {
   for (const auto& menu : form->menu.Root().items) {
     if (menu->visible) bar.push_back({menu.get(), DrawItem(*menu)});
   }
+}
+
+TwipsRect Limited(const TwipsRect& place, const SizeLimits& limits) {
+  TwipsRect taken = place;
+  taken.width = std::max(taken.width, limits.minimumWidth);
+  if (limits.height != 0) taken.height = limits.height;
+  return taken;
 }
 
 ShownMenuItem DrawItem(const MenuItem& item) {

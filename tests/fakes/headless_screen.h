@@ -40,7 +40,8 @@ struct HeadlessWindow {
   const FormState* form = nullptr;
   FormEvents* events = nullptr;
   TwipsRect place;
-  TwipsRect frame;  ///< What frame and menu bar add.
+  TwipsRect restored;  ///< Where it stands when it is neither minimized nor maximized.
+  TwipsRect frame;     ///< What frame and menu bar add.
   std::vector<HeadlessControl> controls;
   std::vector<DrawnMenu> bar;
   int focus = 0;
@@ -60,6 +61,9 @@ struct HeadlessWindow {
   void CheckControl(int id) const;
   bool IsCovered(int id, Twips x, Twips y) const;
 };
+
+/// What Windows makes of a place that a window of these limits is given (WM_GETMINMAXINFO).
+TwipsRect Limited(const TwipsRect& place, const SizeLimits& limits);
 
 /// The entry as it is drawn.
 ShownMenuItem DrawItem(const MenuItem& item);

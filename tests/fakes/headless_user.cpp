@@ -80,10 +80,9 @@ void HeadlessUser::Drag(WindowHandle hwnd, const TwipsRect& place) {
   if (sized && window.form->border != BorderStyle::kSizable) {
     FailTest("form " + window.form->name + " has a fixed size");
   }
-  window.place = place;
-  const Twips most = window.form->maximumHeight;
-  if (most != 0) window.place.height = std::min(place.height, most);
-  const TwipsRect taken = window.place;
+  const TwipsRect taken = Limited(place, window.form->limits);
+  window.place = taken;
+  window.restored = taken;
   host_->Desktop().SetPlace(hwnd, taken);
   host_->Tell(hwnd, [&](FormEvents& events) { events.OnPlaced(ShowState::kNormal, taken); });
 }

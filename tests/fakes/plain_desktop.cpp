@@ -73,6 +73,7 @@ void PlainDesktop::Show(WindowHandle hwnd, int command) {
     state = maximized ? ShowState::kMaximized : ShowState::kNormal;
   }
   SetState(hwnd, state);
+  if (command == win32::kSwShowNa) return;
   const bool canBeActive = command != win32::kSwHide && state != ShowState::kMinimized;
   if (canBeActive && command != win32::kSwShowNoActivate) {
     Activate(hwnd);

@@ -15,7 +15,6 @@ inline constexpr std::int32_t kWsOverlappedWindow = 0x00CF0000;
 inline constexpr std::int32_t kWsExNoActivate = 0x08000000;
 
 inline constexpr int kSwShowMinimized = 2;
-inline constexpr int kSwShowNa = 8;
 
 inline constexpr std::uint32_t kSwpNoZOrder = 0x0004;
 inline constexpr std::uint32_t kSwpNoActivate = 0x0010;

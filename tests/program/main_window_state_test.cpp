@@ -36,16 +36,57 @@ TEST_F(MainWindowStateTest, AMinimizedWindowComesUpSoAndIsStoredSo) {
   EXPECT_EQ(Stored("Height"), "1100");
 }
 
-TEST_F(MainWindowStateTest, AMinimizedStartIsActivatedForTheFirstTimeWhenItIsRestored) {
+TEST_F(MainWindowStateTest, AMinimizedStartLeavesTheUserWhereHeIsAndKnowsIt) {
   Store("WindowState", "1");
+  Store("AlwaysOnTop", "True");
   WorkIn(Open("Alpha"));
   KorvaleCopy& korvale = StartedCopy();
-  EXPECT_FALSE(korvale.Parts().state.firstActivation);
-
-  desktop.UserRestores(korvale.Handle());
-
-  EXPECT_TRUE(korvale.Parts().state.firstActivation);
+  EXPECT_EQ(Front(), "Alpha");
   EXPECT_EQ(korvale.TargetWindow(), "Alpha");
+  LetTick();
+  EXPECT_EQ(korvale.TargetWindow(), "Alpha");
+
+  WorkIn(Open("Beta"));
+  PressTag(0);
+  EXPECT_EQ(Front(), "Alpha");
+}
+
+TEST_F(MainWindowStateTest, RestoredAfterAMinimizedStartItStaysInFront) {
+  Store("WindowState", "1");
+  store.SaveSetting("Korvale - Work", "Options", "SelectPrevWinOnStart", "True");
+  WorkIn(Open("Alpha"));
+  KorvaleCopy& korvale = StartedCopy();
+  desktop.UserRestores(korvale.Handle());
+  WorkIn(korvale.Handle());
+  EXPECT_EQ(Front(), "Korvale - Work");
+  EXPECT_EQ(korvale.TargetWindow(), "Alpha");
+}
+
+TEST_F(MainWindowStateTest, TheStateAtTheExitIsStoredWithTheNormalPlace) {
+  for (const auto& [command, state] :
+       {std::pair(win32::kSwMinimize, "1"), std::pair(win32::kSwMaximize, "2")}) {
+    KorvaleCopy& korvale = StartedCopy();
+    desktop.UserRestores(korvale.Handle());
+    korvale.user.Drag(korvale.Handle(), {600, 900, 6000, 1100});
+    desktop.ShowWindow(korvale.Handle(), command);
+    korvale.Form().OnCloseRequested(CloseReason::kUser);
+    EXPECT_EQ(Stored("WindowState"), state);
+    EXPECT_EQ(Stored("Left"), "600");
+    EXPECT_EQ(Stored("Top"), "900");
+    EXPECT_EQ(Stored("Width"), "6000");
+    EndCopy(korvale);
+  }
+}
+
+TEST_F(MainWindowStateTest, AMaximizedWindowIsStoredSoAfterEveryStart) {
+  Store("WindowState", "2");
+  for (int start = 0; start < 2; ++start) {
+    KorvaleCopy& korvale = StartedCopy();
+    EXPECT_TRUE(desktop.IsZoomed(korvale.Handle()));
+    korvale.Exit();
+    EXPECT_EQ(Stored("WindowState"), "2");
+    EndCopy(korvale);
+  }
 }
 
 TEST_F(MainWindowStateTest, AMaximizedWindowComesUpSoAndIsStoredSo) {

@@ -40,18 +40,39 @@ TEST_F(MainWindowTest, WithoutMenuAndFieldsItComesUpSoAgain) {
   EXPECT_FALSE(IsShown(korvale, "txtWindow"));
 }
 
-TEST_F(MainWindowTest, UnderAHigherFrameTheFieldsGrowAndStayWhole) {
+TEST_F(MainWindowTest, UnderAHigherFrameItIsHigherAndNothingIsCut) {
   KorvaleCopy& korvale = NewCopy();
   store.SaveSetting("Korvale - Work", "Options", "SplashScreen", "False");
   korvale.host.SetFrame({120, 480, 240, 600}, 390);
   EXPECT_TRUE(korvale.Start());
 
-  const Twips field = korvale.user.Place(korvale.Handle(), Field(korvale)).height;
-  EXPECT_EQ(field, kFieldHeight + (600 + 390) - (400 + 300));
-  EXPECT_EQ(Height(korvale), 700 + field + 115);
-  EXPECT_GE(Height(korvale) - (600 + 390), kFieldHeight + 115);
+  EXPECT_EQ(korvale.user.Place(korvale.Handle(), Field(korvale)).height, 285);
+  EXPECT_EQ(Height(korvale), 600 + 390 + 285 + 115);
+  Choose(korvale, {"View", "Target Window"});
+  EXPECT_EQ(Height(korvale), 600 + 390);
+  HideMenu(korvale);
+  EXPECT_EQ(Height(korvale), 600);
+}
+
+TEST_F(MainWindowTest, AFrameThatIsHigherByRoundingOnlyLeavesTheClassicHeights) {
+  KorvaleCopy& korvale = NewCopy();
+  store.SaveSetting("Korvale - Work", "Options", "SplashScreen", "False");
+  // 27 and 20 pixels of 15 twips.
+  korvale.host.SetFrame({60, 345, 120, 405}, 300);
+  EXPECT_TRUE(korvale.Start());
+  EXPECT_EQ(Height(korvale), 1100);
   Choose(korvale, {"View", "Target Window"});
   EXPECT_EQ(Height(korvale), 700);
+}
+
+TEST_F(MainWindowTest, OnAFineScreenEveryPixelOfTheFrameCounts) {
+  KorvaleCopy& korvale = NewCopy();
+  store.SaveSetting("Korvale - Work", "Options", "SplashScreen", "False");
+  // 54 and 40 pixels of 7.5 twips.
+  korvale.host.SetDpi(192);
+  korvale.host.SetFrame({60, 345, 120, 405}, 300);
+  EXPECT_TRUE(korvale.Start());
+  EXPECT_EQ(Height(korvale), 1105);
 }
 
 TEST_F(MainWindowTest, UnderALowerFrameTheFieldsKeepTheirHeight) {
@@ -67,6 +88,15 @@ TEST_F(MainWindowTest, OnlyItsWidthCanBeChanged) {
   Resize(korvale, 6000, 3000);
   EXPECT_EQ(Place(korvale).width, 6000);
   EXPECT_EQ(Height(korvale), 1100);
+}
+
+TEST_F(MainWindowTest, TheUserCannotMakeItLowerOrNarrowerForAMoment) {
+  KorvaleCopy& korvale = StartedCopy();
+  const SizeLimits& limits = korvale.Form().State().limits;
+  EXPECT_EQ(limits.height, 1100);
+  EXPECT_EQ(limits.minimumWidth, 2640);
+  Choose(korvale, {"View", "Target Window"});
+  EXPECT_EQ(limits.height, 700);
 }
 
 TEST_F(MainWindowTest, AWidthOf2000TwipsIsRaisedTo2640) {
@@ -108,6 +138,23 @@ TEST_F(MainWindowTest, ThePlaceToWhichItWasDraggedIsStoredAtTheEnd) {
   korvale.Exit();
   EXPECT_EQ(Stored("Left"), "4500");
   EXPECT_EQ(Stored("Top"), "3000");
+}
+
+TEST_F(MainWindowTest, APlaceOnAFarMonitorIsStoredAndComesBack) {
+  KorvaleCopy& first = StartedCopy();
+  first.host.SetWorkArea({57600, 0, 115200, 30000});
+  first.user.Drag(first.Handle(), {60000, 33000, 90000, 1100});
+  first.Exit();
+  EXPECT_EQ(Stored("Left"), "60000");
+  EXPECT_EQ(Stored("Top"), "33000");
+  EXPECT_EQ(Stored("Width"), "90000");
+  EXPECT_EQ(Stored("Height"), "1100");
+  EndCopy(first);
+
+  KorvaleCopy& second = NewCopy();
+  second.host.SetWorkArea({57600, 0, 115200, 60000});
+  EXPECT_TRUE(second.Start());
+  EXPECT_EQ(Place(second), (TwipsRect{60000, 33000, 90000, 1100}));
 }
 
 TEST_F(MainWindowTest, ThePlaceToWhichItWasDraggedIsKeptWhileItIsMaximized) {
@@ -160,12 +207,12 @@ TEST_F(MainWindowTest, MaximizedItsHeightFollowsWhatItShows) {
   EXPECT_EQ(korvale.Form().WindowState(), ShowState::kMaximized);
 }
 
-TEST_F(MainWindowTest, AnotherDpiLaysTheFieldsOutAnew) {
+TEST_F(MainWindowTest, AnotherDpiGivesItTheHeightOfTheOtherFrame) {
   KorvaleCopy& korvale = StartedCopy();
-  const Twips before = korvale.Form().Find("txtWindow").Place().height;
   korvale.host.SetFrame({90, 600, 180, 660}, 400);
   korvale.Form().OnDpiChanged();
-  EXPECT_GT(korvale.Form().Find("txtWindow").Place().height, before);
+  EXPECT_EQ(Height(korvale), 660 + 400 + 285 + 115);
+  EXPECT_EQ(korvale.user.Place(korvale.Handle(), Field(korvale)).height, 285);
 }
 
 TEST_F(MainWindowTest, AnyResizePutsItOnTopAnew) {
@@ -224,6 +271,20 @@ TEST_F(MainWindowTest, ShowingTheMenuAsksNothing) {
   EXPECT_TRUE(IsChecked(korvale, "View", "Menu"));
   EXPECT_EQ(Height(korvale), 1100);
   EXPECT_EQ(Stored("Menu"), "True");
+}
+
+TEST_F(MainWindowTest, AMenuShownForAMomentHasRoomWhileItIsShown) {
+  Store("Menu", "False");
+  KorvaleCopy& korvale = StartedCopy();
+  EXPECT_EQ(Height(korvale), 800);
+  korvale.user.PressKey(korvale.Handle(), 'V', kAlt);
+  EXPECT_EQ(Height(korvale), 1100);
+  EXPECT_EQ(korvale.user.Place(korvale.Handle(), Field(korvale)).height, 285);
+  korvale.user.PressKey(korvale.Handle(), 'T');
+  EXPECT_EQ(Height(korvale), 400);
+  korvale.user.PressKey(korvale.Handle(), 'V', kAlt);
+  EXPECT_EQ(Height(korvale), 700);
+  EXPECT_EQ(Stored("Menu"), "False");
 }
 
 TEST_F(MainWindowTest, TheTargetWindowCommandTogglesCheckFieldsAndSetting) {

@@ -41,15 +41,19 @@ std::vector<WORD> KeysOf(Chord chord) {
 // SendInput counts positions in 65536ths of the screen.
 LONG Absolute(int pixel, int metric) { return MulDiv(pixel, 65536, GetSystemMetrics(metric)) + 1; }
 
+INPUT MouseTo(POINT at, DWORD button) {
+  INPUT input{};
+  input.type = INPUT_MOUSE;
+  input.mi.dx = Absolute(at.x, SM_CXSCREEN);
+  input.mi.dy = Absolute(at.y, SM_CYSCREEN);
+  input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | button;
+  return input;
+}
+
 INPUT MouseTo(Window window, POINT at, DWORD button) {
   RECT area{};
   GetWindowRect(window.handle(), &area);
-  INPUT input{};
-  input.type = INPUT_MOUSE;
-  input.mi.dx = Absolute(area.left + at.x, SM_CXSCREEN);
-  input.mi.dy = Absolute(area.top + at.y, SM_CYSCREEN);
-  input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | button;
-  return input;
+  return MouseTo({area.left + at.x, area.top + at.y}, button);
 }
 
 }  // namespace
@@ -110,6 +114,27 @@ void MoveMouse(Window window, POINT at) { Send({MouseTo(window, at, 0)}); }
 void ClickAt(Window window, POINT at) {
   Send({MouseTo(window, at, 0), MouseTo(window, at, MOUSEEVENTF_LEFTDOWN),
         MouseTo(window, at, MOUSEEVENTF_LEFTUP)});
+}
+
+void Drag(POINT from, POINT to, const std::function<void()>& each_step) {
+  constexpr int kSteps = 10;
+  const auto settle = [](POINT at) {
+    WaitFor([&] {
+      POINT now{};
+      GetCursorPos(&now);
+      return now.x == at.x && now.y == at.y;
+    });
+  };
+  Send({MouseTo(from, 0), MouseTo(from, MOUSEEVENTF_LEFTDOWN)});
+  settle(from);
+  for (int step = 1; step <= kSteps; ++step) {
+    const POINT at{from.x + (to.x - from.x) * step / kSteps,
+                   from.y + (to.y - from.y) * step / kSteps};
+    Send({MouseTo(at, 0)});
+    settle(at);
+    if (each_step) each_step();
+  }
+  Send({MouseTo(to, MOUSEEVENTF_LEFTUP)});
 }
 
 bool HotKeyIsFree(Chord chord) {

@@ -60,6 +60,10 @@ void MoveMouse(Window window, POINT at);
 /// Moves the mouse there and clicks its left button.
 void ClickAt(Window window, POINT at);
 
+/// Drags what lies at a place of the screen to another one, with the left button, step by step.
+/// `each_step` is called while the button is down.
+void Drag(POINT from, POINT to, const std::function<void()>& each_step = {});
+
 /// True when this process could take the hot key, that is, nobody else has it.
 bool HotKeyIsFree(Chord chord);
 

@@ -43,6 +43,15 @@ bool MainWindow::ShowsTextWhole() const {
   return true;
 }
 
+bool MainWindow::ShowsMenusWhole() const {
+  const RECT area = Place();
+  POINT client{};
+  ClientToScreen(window_.handle(), &client);
+  // The client area begins where the menu bar ends, even where there is no room left for it.
+  const LONG border = client.x - area.left;
+  return HasMenuBar() && client.y + border <= area.bottom;
+}
+
 void MainWindow::Resize(int width, int height) const {
   SetWindowPos(window_.handle(), nullptr, 0, 0, width, height,
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);

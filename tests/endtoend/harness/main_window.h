@@ -20,6 +20,9 @@ class MainWindow {
   Window ClassBox() const { return Box(1); }
   bool ShowsBoxes() const { return TitleBox().Visible() && ClassBox().Visible(); }
   int BoxHeight() const;
+  /// True when the menu bar is shown with all its rows.
+  bool ShowsMenusWhole() const;
+  RECT Place() const { return Area(window_); }
   /// True when both boxes are shown to their full width and high enough for a line of text.
   bool ShowsTextWhole() const;
 
