@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "forms/form_collection.h"
+#include "forms/readable_colors.h"
 #include "platform/win32_constants.h"
 
 namespace korvale {
@@ -86,6 +88,9 @@ void frmMsgBox2::Prepare(std::string_view mode) {
   Find("lblFileDescription").SetText(identity_->fileDescription);
   Find("lblCopyright").SetText(identity_->legalNotice);
   Find("lblWebSite").SetText(webSite_);
+  Find("lblWebSite")
+      .SetForeColor(
+          MarkedTextColor(Collection().Host(), kLinkColor, {kButtonFaceColor, kButtonTextColor}));
   Find("lblWebSite").SetVisible(!webSite_.empty());
   Find("cmdOK").SetVisible(!splash);
   Control& tmrUnload = Find("tmrUnload");

@@ -39,7 +39,7 @@ void ColorCustomizing::End() {
   parts_.setPointer(MousePointer::kDefault);
 }
 
-void ColorCustomizing::Mouse(Control& field, Color& color, const MouseInput& input) {
+void ColorCustomizing::Mouse(const Control& field, Color& color, const MouseInput& input) {
   const bool left = input.button == MouseButton::kLeft;
   switch (input.event) {
     case MouseEvent::kMove:
@@ -51,7 +51,7 @@ void ColorCustomizing::Mouse(Control& field, Color& color, const MouseInput& inp
       break;
     case MouseEvent::kUp:
       if (left && std::exchange(pressed_, 0) == field.Id() && IsInside(field, input)) {
-        Click(field, color);
+        Click(color);
       }
       break;
   }
@@ -63,10 +63,10 @@ void ColorCustomizing::Move(const Control& field, const MouseInput& input) {
   if (parts_.pointer() != wanted) parts_.setPointer(wanted);
 }
 
-void ColorCustomizing::Click(Control& field, Color& color) {
+void ColorCustomizing::Click(Color& color) {
   if (!On()) return;
   if (parts_.pointer() == MousePointer::kCustom) {
-    ChangeColor(field, color);
+    ChangeColor(color);
   } else {
     parts_.messages.ShowMessageBox("position the mouse until the cursor has changed to a 'C'",
                                    win32::kMbOk, parts_.title + " - Customize Colors");
@@ -74,12 +74,12 @@ void ColorCustomizing::Click(Control& field, Color& color) {
   shift_ = kNoShift;
 }
 
-void ColorCustomizing::ChangeColor(Control& field, Color& color) {
+void ColorCustomizing::ChangeColor(Color& color) {
   const std::optional<Color> chosen =
       shift_ == kAlt ? parts_.lastColor : parts_.showColorPalette(color);
   if (!chosen) return;
   color = *chosen;
-  field.SetBackColor(color);
+  parts_.showColors();
 }
 
 }  // namespace korvale

@@ -27,6 +27,7 @@ class ColorCustomizing {
     std::function<MousePointer()> pointer;
     std::function<void(MousePointer)> setPointer;
     std::function<std::optional<Color>(Color initial)> showColorPalette;
+    std::function<void()> showColors;
     std::function<void()> showTip;
   };
 
@@ -38,14 +39,14 @@ class ColorCustomizing {
   /// Turns the mode off, as every other menu command does.
   void End();
   /// The mouse over a field, `color` being the field's stored colour. While the mode is on, a click
-  /// with the left button changes both: to a colour that the user chooses, or with Alt to the last
+  /// with the left button changes it: to a colour that the user chooses, or with Alt to the last
   /// one chosen.
-  void Mouse(Control& field, Color& color, const MouseInput& input);
+  void Mouse(const Control& field, Color& color, const MouseInput& input);
 
  private:
   void Move(const Control& field, const MouseInput& input);
-  void Click(Control& field, Color& color);
-  void ChangeColor(Control& field, Color& color);
+  void Click(Color& color);
+  void ChangeColor(Color& color);
 
   Parts parts_;
   unsigned shift_ = kNoShift;  ///< Held at the last press while the pointer was the mode's.

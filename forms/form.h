@@ -116,6 +116,7 @@ class Form : public FormEvents {
   void OnActivated() final;
   void OnPlaced(ShowState state, const TwipsRect& place) final;
   void OnDpiChanged() final;
+  void OnSysColorChange() final;
   void OnCloseRequested(CloseReason reason) final;
   void OnTimer(int control) final;
   void OnUncaught() noexcept final;
@@ -138,6 +139,8 @@ class Form : public FormEvents {
   virtual void Form_Unload() {}
   /// The form is shown for the first time, or its size or state has changed.
   virtual void Form_Resize() {}
+  /// The system's colours have changed; those that the form chose by them must follow.
+  virtual void Form_SysColorChange() {}
   /// The user, or Windows for him, has put the form to another place without resizing it.
   virtual void Form_Move() {}
   virtual void Form_MouseMove(const MouseInput& input);

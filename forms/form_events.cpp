@@ -175,6 +175,10 @@ void Form::OnDpiChanged() {
   if (shownBefore_) Form_Resize();
 }
 
+void Form::OnSysColorChange() {
+  if (IsLoaded()) Form_SysColorChange();
+}
+
 void Form::OnCloseRequested(CloseReason reason) { Unload(reason); }
 
 void Form::OnTimer(int control) {

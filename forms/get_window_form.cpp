@@ -3,7 +3,9 @@
 #include <utility>
 
 #include "desktop/window_readers.h"
+#include "forms/form_collection.h"
 #include "forms/get_window_design.h"
+#include "forms/readable_colors.h"
 #include "forms/shortened_text.h"
 #include "platform/win32_constants.h"
 #include "util/text.h"
@@ -108,7 +110,8 @@ void frmGetWindow::ShowTagState() {
   const std::string text = AssignedText(Find("cboWindow").SelectedText());
   Control& lblWindow = Find("lblWindow");
   lblWindow.SetText(text.empty() ? "Available" : ShortenedText(text, kLabelColumns));
-  lblWindow.SetForeColor(text.empty() ? kBlue : kRed);
+  lblWindow.SetForeColor(MarkedTextColor(Collection().Host(), text.empty() ? kBlue : kRed,
+                                         {kButtonFaceColor, kButtonTextColor}));
   Find("cmdRemove").SetEnabled(!text.empty());
 }
 
@@ -227,6 +230,8 @@ void frmGetWindow::Form_Activate() {
   // Coming back from another program, the user finds the focus where it was.
   if (!std::exchange(activatedBefore_, true)) Find("cboWindow").SetFocus();
 }
+
+void frmGetWindow::Form_SysColorChange() { ShowTagState(); }
 
 void frmGetWindow::Form_KeyDown(int& key, unsigned shift) {
   if (shift != kAlt) return;

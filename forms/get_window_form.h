@@ -21,6 +21,7 @@ class frmGetWindow : public Form {
  protected:
   void Form_Load() override;
   void Form_Activate() override;
+  void Form_SysColorChange() override;
   void Form_KeyDown(int& key, unsigned shift) override;
 
  private:

@@ -133,6 +133,7 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   void Form_KeyDown(int& key, unsigned shift) override;
   void Form_QueryUnload(bool& cancel, CloseReason reason) override;
   void Form_Unload() override;
+  void Form_SysColorChange() override;
   void Form_MouseMove(const MouseInput& input) override;
   void Control_Mouse(Control& control, const MouseInput& input) override;
 

@@ -1,4 +1,5 @@
 #include "forms/main_form.h"
+#include "forms/readable_colors.h"
 
 namespace korvale {
 
@@ -17,6 +18,7 @@ ColorCustomizing::Parts frmMain::CustomizingParts() {
           [this] { return pointer_; },
           [this](MousePointer pointer) { SetMousePointer(pointer); },
           [this](Color initial) { return udmShowColorPalette(initial); },
+          [this] { ApplyColors(); },
           [this] {
             ShowTip(TipNumber::kCustomizeColors,
                     "To change the color of a Target Window/Class Label;  position the mouse over "
@@ -28,6 +30,20 @@ ColorCustomizing::Parts frmMain::CustomizingParts() {
                     "TIP", kCustomizeColorsTipHeight);
           }};
 }
+
+void frmMain::ApplyColors() {
+  const auto paint = [this](const char* name, Color chosen) {
+    const TextColors colors =
+        OnChosenColor(Collection().Host(), chosen, {kWindowColor, kWindowTextColor});
+    Control& field = Find(name);
+    field.SetBackColor(colors.back);
+    field.SetForeColor(colors.text);
+  };
+  paint("txtWindow", parts_.startup.WI1BackColor);
+  paint("txtWindowClass", parts_.startup.WI2BackColor);
+}
+
+void frmMain::Form_SysColorChange() { ApplyColors(); }
 
 void frmMain::SetMousePointer(MousePointer pointer) {
   pointer_ = pointer;

@@ -1,8 +1,3 @@
-void frmMain::ApplyColors() {
-  Find("txtWindow").SetBackColor(parts_.startup.WI1BackColor);
-  Find("txtWindowClass").SetBackColor(parts_.startup.WI2BackColor);
-}
-
 #include <algorithm>
 
 #include "app/core/startup_settings.h"

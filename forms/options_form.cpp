@@ -3,8 +3,10 @@
 #include <cstddef>
 #include <utility>
 
+#include "forms/form_collection.h"
 #include "forms/hot_key_lists.h"
 #include "forms/options_design.h"
+#include "forms/readable_colors.h"
 #include "platform/win32_constants.h"
 
 namespace korvale {
@@ -15,6 +17,7 @@ constexpr const char* kPageTitles[kPages] = {"General", "Hot Keys", "Window Iden
 constexpr const char* kActionLabels[] = {" Minimize Window", " Maximize/Restore Window"};
 constexpr const char* kGeneralLabels[] = {" Display Options", " Display Window Menu",
                                           " Activate/Deactivate Hot Keys"};
+constexpr std::string_view kLegend = "lblLegend";
 constexpr int kEnabledLegend = 1;
 /// Where the focus goes on each page.
 constexpr const char* kFirstControls[kPages] = {"chkSplashScreen", "cboHotKeyModParent",
@@ -142,8 +145,8 @@ void frmOptions::HotKeyChanged() {
 }
 
 void frmOptions::udmRefreshHotKeyLabels() {
-  Find("lblLegend", kEnabledLegend).SetBackColor(colHotKeyEnabled_);
-  Find("lblLegend", 0).SetBackColor(kButtonFaceColor);
+  PaintLabel(kLegend, kEnabledLegend, true);
+  PaintLabel(kLegend, 0, false);
   for (int tag = 0; tag < 10; ++tag) {
     PaintLabel("lblTagParent", tag, Find("chkHotKeyParent", tag).Value() == 1);
   }
@@ -159,9 +162,13 @@ void frmOptions::udmRefreshHotKeyLabels() {
 }
 
 void frmOptions::PaintLabel(std::string_view label, int index, bool enabled) {
+  const TextColors colors = enabled ? OnChosenColor(Collection().Host(), colHotKeyEnabled_,
+                                                    {kHighlightColor, kHighlightTextColor})
+                                    : TextColors{kButtonFaceColor, kButtonTextColor};
   Control& control = Find(label, index);
-  control.SetBackColor(enabled ? colHotKeyEnabled_ : kButtonFaceColor);
-  control.SetBorder(enabled);
+  control.SetBackColor(colors.back);
+  control.SetForeColor(colors.text);
+  if (label != kLegend) control.SetBorder(enabled);
 }
 
 void frmOptions::RefreshConflictLine() {
@@ -200,15 +207,17 @@ void frmOptions::Form_KeyUp(Control* focused, int& key, unsigned shift) {
 }
 
 void frmOptions::Control_Mouse(Control& control, const MouseInput& input) {
-  const bool legend = control.Name() == "lblLegend" && control.Index() == kEnabledLegend;
+  const bool legend = control.Name() == kLegend && control.Index() == kEnabledLegend;
   if (!legend || input.event != MouseEvent::kUp || input.button != MouseButton::kLeft) return;
   if (input.shift == kShift) {
     SetEnabledColor(kDefaultHotKeyEnabledColor);
   } else if (input.shift == kNoShift) {
-    const std::optional<Color> chosen = owner_->udmShowColorPalette(control.BackColor());
+    const std::optional<Color> chosen = owner_->udmShowColorPalette(colHotKeyEnabled_);
     if (chosen) SetEnabledColor(*chosen);
   }
 }
+
+void frmOptions::Form_SysColorChange() { udmRefreshHotKeyLabels(); }
 
 void frmOptions::SetEnabledColor(Color color) {
   colHotKeyEnabled_ = color;

@@ -32,6 +32,7 @@ class frmOptions : public Form {
   void Form_Load() override;
   void Form_Unload() override;
   void Form_Activate() override;
+  void Form_SysColorChange() override;
   void Form_KeyDown(int& key, unsigned shift) override;
   void Form_KeyUp(Control* focused, int& key, unsigned shift) override;
   void Control_Mouse(Control& control, const MouseInput& input) override;

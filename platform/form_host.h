@@ -72,6 +72,9 @@ class FormEvents {
   /// Frame and menu may have other sizes: its monitor has other dots per inch now (WM_DPICHANGED),
   /// or the user wants other metrics (WM_SETTINGCHANGE).
   virtual void OnDpiChanged() = 0;
+  /// The user has chosen other system colours, or turned high contrast on or off
+  /// (WM_SYSCOLORCHANGE, WM_SETTINGCHANGE).
+  virtual void OnSysColorChange() = 0;
   /// The form is asked to close; the form unloads itself when it agrees.
   virtual void OnCloseRequested(CloseReason reason) = 0;
   virtual void OnTimer(int control) = 0;
@@ -136,6 +139,11 @@ class FormHost {
   /// Whoever shows it gets control back later and is told of no choice (EndMenu).
   virtual bool EndMenu() = 0;
 
+  /// What a colour stands for on this screen, 0x00BBGGRR; other than system colours stay as they
+  /// are (GetSysColor).
+  virtual Color GetSysColor(Color color) = 0;
+  /// The user wants high contrast (SystemParametersInfoW with SPI_GETHIGHCONTRAST).
+  virtual bool HighContrast() = 0;
   /// The colour dialog; nothing when the user cancels it. Colours are 0x00BBGGRR.
   virtual std::optional<Color> ChooseColorW(WindowHandle owner, Color initial) = 0;
   /// The pointer over all windows of the program; kDefault leaves it to each window.

@@ -17,6 +17,8 @@ using Color = std::int32_t;
 inline constexpr Color kButtonFaceColor = static_cast<Color>(0x8000000FU);
 inline constexpr Color kWindowColor = static_cast<Color>(0x80000005U);
 inline constexpr Color kWindowTextColor = static_cast<Color>(0x80000008U);
+inline constexpr Color kHighlightColor = static_cast<Color>(0x8000000DU);
+inline constexpr Color kHighlightTextColor = static_cast<Color>(0x8000000EU);
 inline constexpr Color kButtonTextColor = static_cast<Color>(0x80000012U);
 
 inline constexpr Twips kTwipsPerInch = 1440;

@@ -7,7 +7,8 @@ COLORREF ToColorRef(Color color) {
   constexpr std::uint32_t kNumber = 0xFFU;
   const auto bits = static_cast<std::uint32_t>(color);
   if ((bits & kSystemColor) != 0) return GetSysColor(static_cast<int>(bits & kNumber));
-  return bits;
+  constexpr std::uint32_t kRgb = 0x00FFFFFFU;
+  return bits & kRgb;
 }
 
 HBRUSH BrushCache::Get(Color color) {

@@ -167,9 +167,10 @@ LRESULT FormWindow::Process(UINT message, WPARAM wParam, LPARAM lParam) {
       break;
     case WM_SETTINGCHANGE:
       if (wParam == SPI_SETNONCLIENTMETRICS) OnMetricsChanged();
+      if (wParam == SPI_SETHIGHCONTRAST) OnColorsChanged();
       break;
     case WM_SYSCOLORCHANGE:
-      brushes_->Clear();
+      OnColorsChanged();
       break;
     default:
       break;
@@ -280,6 +281,12 @@ void FormWindow::OnDpiChanged(const RECT& place) {
   SetWindowPos(hwnd_, nullptr, place.left, place.top, place.right - place.left,
                place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
   events_.Tell([](FormEvents& events) { events.OnDpiChanged(); });
+}
+
+void FormWindow::OnColorsChanged() {
+  brushes_->Clear();
+  RedrawWindow(hwnd_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+  events_.Tell([](FormEvents& events) { events.OnSysColorChange(); });
 }
 
 void FormWindow::OnMetricsChanged() {

@@ -70,6 +70,7 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   void KeepHeight(WPARAM edge, RECT& place) const;
   void OnDpiChanged(const RECT& place);
   void OnMetricsChanged();
+  void OnColorsChanged();
   void Watch(HWND control, int id);
 
   const FormState* form_;

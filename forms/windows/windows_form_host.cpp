@@ -214,6 +214,15 @@ bool WindowsFormHost::EndMenu() {
   return known != FALSE && (info.flags & kAnyMenu) != 0 && ::EndMenu() != FALSE;
 }
 
+Color WindowsFormHost::GetSysColor(Color color) { return static_cast<Color>(ToColorRef(color)); }
+
+bool WindowsFormHost::HighContrast() {
+  HIGHCONTRASTW contrast{};
+  contrast.cbSize = sizeof(contrast);
+  return SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof(contrast), &contrast, 0) != FALSE &&
+         (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0;
+}
+
 void WindowsFormHost::RunMessageLoop(const std::function<bool()>& done) { loop_.Run(done); }
 
 void WindowsFormHost::DoEvents() { loop_.DoEvents(); }

@@ -47,6 +47,8 @@ class WindowsFormHost : public FormHost {
                            std::int32_t style) override;
   void TrackPopupMenuEx(WindowHandle hwnd, MenuItem& menu) override;
   bool EndMenu() override;
+  Color GetSysColor(Color color) override;
+  bool HighContrast() override;
   std::optional<Color> ChooseColorW(WindowHandle owner, Color initial) override;
   void SetCursor(MousePointer pointer) override;
   void SendInput(WindowHandle hwnd, int virtualKey, unsigned shift) override;

@@ -76,6 +76,44 @@ TEST_F(Colors, ChosenForABoxAreShownAtOnceAndStoredByTheNextMenuCommand) {
   EXPECT_TRUE(Shows(TitleBox(), kRed));
 }
 
+/// A system colour that the user has changed, for what starts from now on.
+class SystemColor {
+ public:
+  SystemColor(int index, COLORREF color) : index_(index), before_(GetSysColor(index)) {
+    SetSysColors(1, &index_, &color);
+  }
+  SystemColor(const SystemColor&) = delete;
+  SystemColor& operator=(const SystemColor&) = delete;
+  ~SystemColor() { SetSysColors(1, &index_, &before_); }
+
+ private:
+  int index_;
+  COLORREF before_;
+};
+
+TEST_F(Colors, OfTheTextStandOffFromThePaleBoxesUnderWhiteSystemText) {
+  const SystemColor white(COLOR_WINDOWTEXT, RGB(255, 255, 255));
+  const Window alpha = Open("Alpha");
+  ASSERT_TRUE(BringToFront(alpha));
+  Start();
+  ASSERT_TRUE(Target("Alpha"));
+  const auto has_dark_text = [this] {
+    RECT area{};
+    GetWindowRect(TitleBox().handle(), &area);
+    const HDC screen = GetDC(nullptr);
+    int dark = 0;
+    for (LONG y = area.top + 3; y < area.bottom - 3; ++y) {
+      for (LONG x = area.left + 3; x < area.left + 40; ++x) {
+        const COLORREF color = GetPixel(screen, x, y);
+        if (GetRValue(color) + GetGValue(color) + GetBValue(color) < 200) ++dark;
+      }
+    }
+    ReleaseDC(nullptr, screen);
+    return dark > 10;
+  };
+  EXPECT_TRUE(WaitFor(has_dark_text));
+}
+
 TEST_F(Colors, AreLeftAloneByCancel) {
   installation_.settings().Set("Startup", "WI2BackColor", StoredColor(kBlue));
   StartCustomizing();

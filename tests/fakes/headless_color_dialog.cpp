@@ -16,4 +16,28 @@ std::optional<Color> HeadlessFormHost::ChooseColorW(WindowHandle owner, Color in
   return choose(initial);
 }
 
+Color HeadlessFormHost::GetSysColor(Color color) {
+  const auto found = sysColors_.find(color);
+  return found == sysColors_.end() ? color : found->second;
+}
+
+void HeadlessFormHost::ChangeSysColor(Color system, Color shown) {
+  sysColors_[system] = shown;
+  TellColorsChanged();
+}
+
+void HeadlessFormHost::ChangeHighContrast(bool on) {
+  highContrast_ = on;
+  TellColorsChanged();
+}
+
+void HeadlessFormHost::TellColorsChanged() {
+  std::vector<WindowHandle> windows;
+  for (const auto& window : windows_) windows.push_back(window->handle);
+  for (const WindowHandle hwnd : windows) {
+    if (FindWindow(hwnd) == nullptr) continue;
+    Tell(hwnd, [](FormEvents& events) { events.OnSysColorChange(); });
+  }
+}
+
 }  // namespace korvale

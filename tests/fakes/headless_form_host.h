@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <deque>
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -55,6 +56,10 @@ class HeadlessFormHost : public FormHost, private DesktopListener {
   /// The frame of a form with a border, as AdjustWindowRectEx tells it, and the height of a menu.
   void SetFrame(const TwipsRect& frame, Twips menuHeight);
   void SetDpi(int dpi) { dpi_ = dpi; }
+  /// The user changes a system colour; tells every form.
+  void ChangeSysColor(Color system, Color shown);
+  /// The user turns high contrast on or off; tells every form.
+  void ChangeHighContrast(bool on);
   void SetWorkArea(const TwipsRect& workArea) { workArea_ = workArea; }
 
   /// Another program tells the thread to quit.
@@ -92,6 +97,8 @@ class HeadlessFormHost : public FormHost, private DesktopListener {
   TextSelection GetSelection(WindowHandle hwnd, int control) override;
   void SetSelection(WindowHandle hwnd, int control, TextSelection selection) override;
   TwipsRect AdjustWindowRectEx(const FormState& form) override;
+  Color GetSysColor(Color color) override;
+  bool HighContrast() override { return highContrast_; }
   int GetDpiForWindow(WindowHandle /*hwnd*/) override { return dpi_; }
   TwipsRect GetMonitorInfoW(WindowHandle hwnd) override;
   TwipsRect MonitorFromPoint() override { return workArea_; }
@@ -118,6 +125,7 @@ class HeadlessFormHost : public FormHost, private DesktopListener {
     std::function<void()> action;
   };
 
+  void TellColorsChanged();
   void Place(HeadlessWindow& window, const TwipsRect& place);
   void WindowActivated(WindowHandle hwnd) override;
   void WindowStateChanged(WindowHandle hwnd, ShowState state) override;
@@ -146,6 +154,10 @@ class HeadlessFormHost : public FormHost, private DesktopListener {
   Twips menuHeight_ = 300;
   TwipsRect workArea_ = {0, 0, 15360, 11100};
   int dpi_ = 96;
+  std::map<Color, Color> sysColors_ = {
+      {kButtonFaceColor, 0xF0F0F0}, {kButtonTextColor, 0x000000}, {kWindowColor, 0xFFFFFF},
+      {kWindowTextColor, 0x000000}, {kHighlightColor, 0xD77800},  {kHighlightTextColor, 0xFFFFFF}};
+  bool highContrast_ = false;
   bool quit_ = false;
 };
 

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/form_host.h"
+#include "platform/types.h"
+
+namespace korvale {
+
+/// The colours of a text and of what lies below it.
+struct TextColors {
+  Color back;
+  Color text;
+};
+
+/// How text is shown on a colour that the user has chosen: black or white, whichever is easier to
+/// read. With high contrast the `system` colours take the place of both.
+TextColors OnChosenColor(FormHost& host, Color chosen, const TextColors& system);
+
+/// `mark` as the colour of a text above `system.back`, or the system's text colour where the mark
+/// could hardly be read or the user wants high contrast.
+Color MarkedTextColor(FormHost& host, Color mark, const TextColors& system);
+
+}  // namespace korvale
