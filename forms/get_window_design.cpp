@@ -5,6 +5,9 @@ namespace {
 
 using enum ControlKind;
 
+/// Leaves some room below the last row, which stands close to the lower edge.
+constexpr Twips kButtonHeight = 285;
+
 // The order of the windows: each label before its control, and the Tab key from top to bottom.
 enum WindowOrder : int {
   kOrderLblAssignHotKey,
@@ -61,11 +64,11 @@ constexpr ControlRow kAddWindowControls[] = {
         " Identify Window by the right portion of the Title ", {240, 2305, 7350, 285},
         kOrderOptWindow2, kNoPrefix),
     Row(kButton, "cmdOK", -1, "OK", " Add window to the Window menu  (Enter) ",
-        {5085, 3735, 1215, 345}, kOrderCmdOK, kDefaultButton),
-    Row(kButton, "cmdClose", -1, "Close", " Close  (Esc) ", {6375, 3735, 1215, 345}, kOrderCmdClose,
-        kCancelButton),
+        {5085, 3735, 1215, kButtonHeight}, kOrderCmdOK, kDefaultButton),
+    Row(kButton, "cmdClose", -1, "Close", " Close  (Esc) ", {6375, 3735, 1215, kButtonHeight},
+        kOrderCmdClose, kCancelButton),
     Row(kButton, "cmdRemove", -1, "&Remove",
-        " clears the specified Tag/window from the Window menu ", {6375, 315, 1215, 345},
+        " clears the specified Tag/window from the Window menu ", {6375, 345, 1215, kButtonHeight},
         kOrderCmdRemove),
     Row(kLabel, "lblChildWindow", -1, "&Child Window", "", {120, 2715, 1800, 225},
         kOrderLblChildWindow),

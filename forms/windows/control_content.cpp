@@ -100,8 +100,11 @@ void ShowBorder(HWND window, const ControlState& control) {
     const LONG_PTR exStyle = GetWindowLongPtrW(window, GWL_EXSTYLE) & ~WS_EX_CLIENTEDGE;
     SetWindowLongPtrW(window, GWL_EXSTYLE, control.border ? exStyle : exStyle | WS_EX_CLIENTEDGE);
   }
-  SetWindowPos(window, nullptr, 0, 0, 0, 0,
-               SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+  SetWindowPos(
+      window, nullptr, 0, 0, 0, 0,
+      SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED | SWP_NOCOPYBITS);
+  // What the border covered belongs to the control now, or the other way round.
+  RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME);
 }
 
 void ShowDefault(HWND window, const ControlState& control) {

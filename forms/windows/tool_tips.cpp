@@ -10,6 +10,14 @@ namespace {
 
 constexpr Twips kWidestTip = 6000;
 constexpr int kMillisecondsToRead = 20000;
+/// The room beside a text that the blanks around it stand for.
+constexpr Twips kBlank = 45;
+
+std::wstring WithoutBlanks(const std::wstring& text) {
+  const std::size_t start = text.find_first_not_of(L' ');
+  return start == std::wstring::npos ? L""
+                                     : text.substr(start, text.find_last_not_of(L' ') + 1 - start);
+}
 
 TTTOOLINFOW Tool(HWND window, UINT_PTR id) {
   TTTOOLINFOW tool{};
@@ -30,6 +38,10 @@ void ToolTips::Create(HWND form, HINSTANCE instance) {
                                 CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, form, nullptr,
                                 instance, nullptr));
   SendMessageW(window_.Get(), TTM_SETMAXTIPWIDTH, 0, ToPixels(kWidestTip, GetDpiForWindow(form)));
+  // Blanks in the text itself would stand before the first of several lines only.
+  const int blank = ToPixels(kBlank, GetDpiForWindow(form));
+  const RECT margin{blank, 0, blank, 0};
+  SendMessageW(window_.Get(), TTM_SETMARGIN, 0, reinterpret_cast<LPARAM>(&margin));
   SendMessageW(window_.Get(), TTM_SETDELAYTIME, TTDT_AUTOPOP, kMillisecondsToRead);
 }
 
@@ -66,7 +78,7 @@ void ToolTips::Relay(const MSG& message) {
 
 void ToolTips::Add(HWND window, UINT_PTR id, UINT flags, const RECT& area,
                    const std::wstring& text) {
-  std::wstring copy = text;
+  std::wstring copy = WithoutBlanks(text);
   TTTOOLINFOW tool = Tool(window, id);
   tool.uFlags = flags;
   tool.rect = area;

@@ -125,6 +125,11 @@ TEST_F(AddWindowTest, LooksAsTheWindowMenuOpensIt) {
   EXPECT_EQ(dialog_.Place().height, 3465);
   EXPECT_EQ(user_.Place(dialog_.Handle(), Id(dialog_, "cmdOK")).top, 2700);
   EXPECT_EQ(user_.Place(dialog_.Handle(), Id(dialog_, "cmdClose")).top, 2700);
+  // Of the height, 400 twips are the frame.
+  for (const char* const button : {"cmdOK", "cmdClose"}) {
+    const TwipsRect place = user_.Place(dialog_.Handle(), Id(dialog_, button));
+    EXPECT_GE(3465 - 400 - (place.top + place.height), 75) << button;
+  }
   EXPECT_EQ(Text(dialog_, "lblIdentifyWindow"), "Identify &Window");
   for (const char* const name : {"lblChildWindow", "Line3", "chkChildWindow", "cboChildWindow"}) {
     EXPECT_FALSE(Shown(dialog_, name)) << name;
