@@ -40,49 +40,6 @@ TEST_F(MainWindowTest, WithoutMenuAndFieldsItComesUpSoAgain) {
   EXPECT_FALSE(IsShown(korvale, "txtWindow"));
 }
 
-TEST_F(MainWindowTest, UnderAHigherFrameItIsHigherAndNothingIsCut) {
-  KorvaleCopy& korvale = NewCopy();
-  store.SaveSetting("Korvale - Work", "Options", "SplashScreen", "False");
-  korvale.host.SetFrame({120, 480, 240, 600}, 390);
-  EXPECT_TRUE(korvale.Start());
-
-  EXPECT_EQ(korvale.user.Place(korvale.Handle(), Field(korvale)).height, 285);
-  EXPECT_EQ(Height(korvale), 600 + 390 + 285 + 115);
-  Choose(korvale, {"View", "Target Window"});
-  EXPECT_EQ(Height(korvale), 600 + 390);
-  HideMenu(korvale);
-  EXPECT_EQ(Height(korvale), 600);
-}
-
-TEST_F(MainWindowTest, AFrameThatIsHigherByRoundingOnlyLeavesTheClassicHeights) {
-  KorvaleCopy& korvale = NewCopy();
-  store.SaveSetting("Korvale - Work", "Options", "SplashScreen", "False");
-  // 27 and 20 pixels of 15 twips.
-  korvale.host.SetFrame({60, 345, 120, 405}, 300);
-  EXPECT_TRUE(korvale.Start());
-  EXPECT_EQ(Height(korvale), 1100);
-  Choose(korvale, {"View", "Target Window"});
-  EXPECT_EQ(Height(korvale), 700);
-}
-
-TEST_F(MainWindowTest, OnAFineScreenEveryPixelOfTheFrameCounts) {
-  KorvaleCopy& korvale = NewCopy();
-  store.SaveSetting("Korvale - Work", "Options", "SplashScreen", "False");
-  // 54 and 40 pixels of 7.5 twips.
-  korvale.host.SetDpi(192);
-  korvale.host.SetFrame({60, 345, 120, 405}, 300);
-  EXPECT_TRUE(korvale.Start());
-  EXPECT_EQ(Height(korvale), 1105);
-}
-
-TEST_F(MainWindowTest, UnderALowerFrameTheFieldsKeepTheirHeight) {
-  KorvaleCopy& korvale = NewCopy();
-  store.SaveSetting("Korvale - Work", "Options", "SplashScreen", "False");
-  korvale.host.SetFrame({45, 300, 90, 345}, 285);
-  EXPECT_TRUE(korvale.Start());
-  EXPECT_EQ(Height(korvale), 700 + kFieldHeight + 115);
-}
-
 TEST_F(MainWindowTest, OnlyItsWidthCanBeChanged) {
   KorvaleCopy& korvale = StartedCopy();
   Resize(korvale, 6000, 3000);
@@ -205,14 +162,6 @@ TEST_F(MainWindowTest, MaximizedItsHeightFollowsWhatItShows) {
   Choose(korvale, {"View", "Target Window"});
   EXPECT_EQ(Height(korvale), 1100);
   EXPECT_EQ(korvale.Form().WindowState(), ShowState::kMaximized);
-}
-
-TEST_F(MainWindowTest, AnotherDpiGivesItTheHeightOfTheOtherFrame) {
-  KorvaleCopy& korvale = StartedCopy();
-  korvale.host.SetFrame({90, 600, 180, 660}, 400);
-  korvale.Form().OnDpiChanged();
-  EXPECT_EQ(Height(korvale), 660 + 400 + 285 + 115);
-  EXPECT_EQ(korvale.user.Place(korvale.Handle(), Field(korvale)).height, 285);
 }
 
 TEST_F(MainWindowTest, AnyResizePutsItOnTopAnew) {

@@ -1,0 +1,77 @@
+#include <gtest/gtest.h>
+#include <windows.h>
+// After windows.h, which it needs.
+#include <commctrl.h>
+
+#include "platform/windows/handles.h"
+#include "tests/contract/contract_fixture.h"
+#include "tests/endtoend/contract/windows_user.h"
+
+namespace korvale {
+namespace {
+
+/// What the controls of real windows look like on the screen.
+class WindowsFormLookTest : public FormHostContract {
+ protected:
+  HWND Hwnd() const { return ToHwnd(Window()); }
+  HWND Control(std::string_view name) { return FindControl(Window(), Id(name, -1)); }
+  /// The tool tips of the form.
+  HWND FindTips() const {
+    HWND tips = nullptr;
+    do {
+      tips = FindWindowExW(nullptr, tips, TOOLTIPS_CLASSW, nullptr);
+    } while (tips != nullptr && GetWindow(tips, GW_OWNER) != Hwnd());
+    return tips;
+  }
+  /// The colour of a control's first pixel.
+  COLORREF ColorOf(HWND window) {
+    User().LetPass(50);
+    const HDC dc = GetDC(window);
+    const COLORREF color = GetPixel(dc, 1, 1);
+    ReleaseDC(window, dc);
+    return color;
+  }
+};
+
+TEST_F(WindowsFormLookTest, ALabelThatLosesItsBorderShowsNothingOfItsFormerColor) {
+  ShowForm();
+  class Control& label = form_.Find("lblClick");
+  label.SetText("");
+  label.SetBackColor(0x9FFFFF);
+  label.SetBorder(true);
+  ASSERT_EQ(ColorOf(Control("lblClick")), 0x9FFFFFU);
+  label.SetBackColor(kButtonFaceColor);
+  label.SetBorder(false);
+  const COLORREF face = GetSysColor(COLOR_BTNFACE);
+  EXPECT_EQ(ColorOf(Control("lblClick")), face);
+  RECT area{};
+  GetWindowRect(Control("lblClick"), &area);
+  const HDC screen = GetDC(nullptr);
+  for (LONG y = area.top; y < area.bottom; ++y) {
+    for (const LONG x : {area.left, area.right - 1}) EXPECT_EQ(GetPixel(screen, x, y), face) << y;
+  }
+  for (LONG x = area.left; x < area.right; ++x) {
+    for (const LONG y : {area.top, area.bottom - 1}) EXPECT_EQ(GetPixel(screen, x, y), face) << x;
+  }
+  ReleaseDC(nullptr, screen);
+}
+
+TEST_F(WindowsFormLookTest, TheLinesOfAToolTipBeginBelowEachOther) {
+  ShowForm();
+  const HWND tips = FindTips();
+  TTTOOLINFOW tool{};
+  tool.cbSize = sizeof(tool);
+  wchar_t text[256] = L"";
+  tool.lpszText = text;
+  tool.hwnd = Hwnd();
+  tool.uId = reinterpret_cast<UINT_PTR>(Control("txtName"));
+  SendMessageW(tips, TTM_GETTEXTW, 256, reinterpret_cast<LPARAM>(&tool));
+  EXPECT_EQ(std::wstring(text), L"the name");
+  RECT margin{};
+  SendMessageW(tips, TTM_GETMARGIN, 0, reinterpret_cast<LPARAM>(&margin));
+  EXPECT_GT(margin.left, 0);
+  EXPECT_EQ(margin.left, margin.right);
+}
+
+}  // namespace
+}  // namespace korvale
