@@ -32,6 +32,27 @@ TEST(WindowsSystemApi, TakesNoFolderForAFile) {
   EXPECT_FALSE(system.FileExists(""));
 }
 
+TEST(WindowsSystemApi, KnowsAFolderByEveryPath) {
+  WindowsSystemApi system;
+  const std::string path = system.GetModuleFileNameA();
+  const std::string folder = path.substr(0, path.rfind('\\'));
+  const FolderInfo info = system.GetFinalPathNameByHandleW(folder);
+  EXPECT_EQ(info.error, 0U);
+  EXPECT_TRUE(info.finalPath.starts_with("\\\\?\\")) << info.finalPath;
+  EXPECT_NE(info.fileId, "");
+  EXPECT_EQ(system.GetFinalPathNameByHandleW(info.finalPath).fileId, info.fileId);
+}
+
+TEST(WindowsSystemApi, TellsWhyAFolderCannotBeOpened) {
+  WindowsSystemApi system;
+  const std::string path = system.GetModuleFileNameA();
+  const FolderInfo none = system.GetFinalPathNameByHandleW(path + ".none");
+  EXPECT_EQ(none.error, static_cast<std::uint32_t>(ERROR_FILE_NOT_FOUND));
+  EXPECT_FALSE(none.isLink);
+  EXPECT_NE(system.GetFinalPathNameByHandleW("Q:\\").error, 0U);
+  EXPECT_NE(system.GetFinalPathNameByHandleW("").error, 0U);
+}
+
 TEST(WindowsSystemApi, TellsTheFamilyOfTheSystem) {
   constexpr std::uint32_t kStructureSize = 148;
   EXPECT_EQ(WindowsSystemApi().GetVersionExA(kStructureSize).platformId, 2U);
