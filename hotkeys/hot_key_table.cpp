@@ -5,6 +5,7 @@
 
 #include "hotkeys/hot_key_names.h"
 #include "platform/run_time_error.h"
+#include "platform/win32_constants.h"
 
 namespace korvale {
 namespace {
@@ -75,6 +76,9 @@ void HotKeyTable::Remove() {
   const auto highest = static_cast<int>(hotKeyNames_.size());
   for (int identifier = 1; identifier <= highest; ++identifier) {
     hotKeys_->UnregisterHotKey(mainWindow, identifier);
+  }
+  // Presses still in the queue would be taken for the hot keys that get their identifiers next.
+  while (hotKeys_->PeekMessageW(mainWindow, win32::kWmHotKey)) {
   }
   hotKeyNames_.assign(1, "");
   registered_.clear();

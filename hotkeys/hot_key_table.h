@@ -30,14 +30,18 @@ class HotKeyTable {
  public:
   HotKeyTable(HotKeyApi& hotKeys, const OptionsHolder& options, const MainWindow& mainWindow);
 
-  /// "SET" registers all enabled hot keys and removes nothing; "REMOVE" unregisters all; any other
-  /// mode does nothing.
+  /// "SET" registers all enabled hot keys and removes nothing; "REMOVE" unregisters all and
+  /// drops their presses that nobody has seen yet; any other mode does nothing.
   void SetHotKeys(std::string_view mode);
 
   /// Appends a hot key under the next identifier and registers it. A refused one keeps its slot.
   /// Error 6 when the identifiers run out.
   void AddHotKey(std::string_view name, std::int16_t modifiers, std::int16_t key);
 
+  /// True for the identifier of a hot key of the last registration, taken or refused.
+  bool Has(std::uintptr_t identifier) const {
+    return identifier >= 1 && identifier <= registered_.size();
+  }
   /// The name behind an identifier; error 9 when it is outside the table.
   const std::string& NameOf(std::uintptr_t identifier) const;
 

@@ -35,6 +35,10 @@ class HotKeyApi {
   /// False when no hot key of this id belongs to the window.
   virtual bool UnregisterHotKey(WindowHandle hwnd, int id) = 0;
 
+  /// Takes one message of this kind out of the window's queue; false when there is none
+  /// (PeekMessageW with PM_REMOVE).
+  virtual bool PeekMessageW(WindowHandle hwnd, std::uint32_t message) = 0;
+
   /// SetWindowLongPtrA with GWLP_WNDPROC: puts `procedure`, which must outlive the hook, in front.
   virtual PreviousProcedure SetWindowLongPtrA(WindowHandle hwnd, WindowProcedure& procedure) = 0;
   /// SetWindowLongPtrA with GWLP_WNDPROC: puts a former procedure back.

@@ -25,7 +25,8 @@ LRESULT CALLBACK CallHook(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
   auto* found = static_cast<WindowsHotKeyApi::Hook*>(GetPropW(hwnd, kHookProperty));
   if (found == nullptr) return DefWindowProcA(hwnd, message, wParam, lParam);
   const std::shared_ptr<WindowsHotKeyApi::Hook> hook = found->shared_from_this();
-  if (message == WM_NCDESTROY) RemovePropW(hwnd, kHookProperty);
+  // Sent by another program it is no end of the window.
+  if (message == WM_NCDESTROY && InSendMessage() == FALSE) RemovePropW(hwnd, kHookProperty);
   const bool outer = std::exchange(hook->passedOn, false);
   LRESULT result = 0;
   try {
@@ -56,6 +57,16 @@ bool WindowsHotKeyApi::RegisterHotKey(WindowHandle hwnd, int id, std::uint32_t m
 
 bool WindowsHotKeyApi::UnregisterHotKey(WindowHandle hwnd, int id) {
   return ::UnregisterHotKey(ToHwnd(hwnd), id) != FALSE;
+}
+
+bool WindowsHotKeyApi::PeekMessageW(WindowHandle hwnd, std::uint32_t message) {
+  constexpr UINT kPosted = PM_REMOVE | PM_QS_POSTMESSAGE;
+  MSG taken;
+  if (::PeekMessageW(&taken, ToHwnd(hwnd), message, message, kPosted) == FALSE) return false;
+  if (taken.message != WM_QUIT) return true;
+  // The end of the program passes every filter.
+  PostQuitMessage(static_cast<int>(taken.wParam));
+  return false;
 }
 
 PreviousProcedure WindowsHotKeyApi::SetWindowLongPtrA(WindowHandle hwnd,

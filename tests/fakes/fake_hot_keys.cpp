@@ -19,13 +19,27 @@ FakeHotKeys::FakeHotKeys(CallLog& log, IsWindow isWindow)
     : log_(log), is_window_(std::move(isWindow)) {}
 
 bool FakeHotKeys::Press(std::uint32_t modifiers, std::uint32_t key) {
+  if (!PressWhileBusy(modifiers, key)) return false;
+  DeliverQueued();
+  return true;
+}
+
+bool FakeHotKeys::PressWhileBusy(std::uint32_t modifiers, std::uint32_t key) {
   const auto pressed = std::ranges::find_if(registered_, [&](const Registration& registration) {
     return (registration.modifiers & ~kModNoRepeat) == modifiers && registration.key == key;
   });
   if (pressed == registered_.end()) return false;
-  const auto id = static_cast<std::uintptr_t>(pressed->id);
-  Deliver(pressed->hwnd, win32::kWmHotKey, id, static_cast<std::intptr_t>(modifiers | key << 16U));
+  queue_.push_back({pressed->hwnd, win32::kWmHotKey, static_cast<std::uintptr_t>(pressed->id),
+                    static_cast<std::intptr_t>(modifiers | key << 16U)});
   return true;
+}
+
+void FakeHotKeys::DeliverQueued() {
+  while (!queue_.empty()) {
+    const Queued message = queue_.front();
+    queue_.pop_front();
+    Deliver(message.hwnd, message.message, message.wParam, message.lParam);
+  }
 }
 
 std::intptr_t FakeHotKeys::Deliver(WindowHandle hwnd, std::uint32_t message, std::uintptr_t wParam,
@@ -61,6 +75,7 @@ void FakeHotKeys::ForgetWindow(WindowHandle hwnd) {
   std::erase_if(registered_,
                 [&](const Registration& registration) { return registration.hwnd == hwnd; });
   current_.erase(hwnd);
+  std::erase_if(queue_, [&](const Queued& message) { return message.hwnd == hwnd; });
 }
 
 bool FakeHotKeys::RegisterHotKey(WindowHandle hwnd, int id, std::uint32_t modifiers,
@@ -80,6 +95,16 @@ bool FakeHotKeys::UnregisterHotKey(WindowHandle hwnd, int id) {
       });
   if (latest == registered_.rend()) return false;
   registered_.erase(std::next(latest).base());
+  return true;
+}
+
+bool FakeHotKeys::PeekMessageW(WindowHandle hwnd, std::uint32_t message) {
+  log_.AddRead("PeekMessageW(" + log_.Window(hwnd) + ", " + HexText(message) + ")");
+  const auto found = std::ranges::find_if(queue_, [&](const Queued& queued) {
+    return queued.hwnd == hwnd && queued.message == message;
+  });
+  if (found == queue_.end()) return false;
+  queue_.erase(found);
   return true;
 }
 

@@ -33,6 +33,11 @@ class FakeHotKeys : public HotKeyApi {
   // What the user and the other programs do.
   /// Presses a combination once. True when a window of the program got WM_HOTKEY for it.
   bool Press(std::uint32_t modifiers, std::uint32_t key);
+  /// Presses a combination while the program is too busy to take messages: WM_HOTKEY waits in the
+  /// queue. True when it was somebody's hot key.
+  bool PressWhileBusy(std::uint32_t modifiers, std::uint32_t key);
+  /// Delivers what waits in the queue, as the message loop does.
+  void DeliverQueued();
   /// Calls the procedure of a window, as Windows does with each of its messages.
   std::intptr_t Deliver(WindowHandle hwnd, std::uint32_t message, std::uintptr_t wParam = 0,
                         std::intptr_t lParam = 0);
@@ -57,6 +62,7 @@ class FakeHotKeys : public HotKeyApi {
                       std::uint32_t key) override;
   /// Of several registrations of the identifier the latest one goes.
   bool UnregisterHotKey(WindowHandle hwnd, int id) override;
+  bool PeekMessageW(WindowHandle hwnd, std::uint32_t message) override;
   PreviousProcedure SetWindowLongPtrA(WindowHandle hwnd, WindowProcedure& procedure) override;
   void SetWindowLongPtrA(WindowHandle hwnd, PreviousProcedure previous) override;
   std::intptr_t CallWindowProcA(PreviousProcedure previous, WindowHandle hwnd,
@@ -67,6 +73,13 @@ class FakeHotKeys : public HotKeyApi {
                     std::intptr_t lParam) override;
 
  private:
+  struct Queued {
+    WindowHandle hwnd = 0;
+    std::uint32_t message = 0;
+    std::uintptr_t wParam = 0;
+    std::intptr_t lParam = 0;
+  };
+
   static constexpr PreviousProcedure kOwnProcedure = 0x7000;
 
   bool Exists(WindowHandle hwnd) const { return !is_window_ || is_window_(hwnd); }
@@ -78,6 +91,7 @@ class FakeHotKeys : public HotKeyApi {
   CallLog& log_;
   IsWindow is_window_;
   std::vector<Registration> registered_;
+  std::deque<Queued> queue_;
   std::vector<std::pair<std::uint32_t, std::uint32_t>> foreign_;
   std::map<PreviousProcedure, WindowProcedure*> procedures_;
   std::map<WindowHandle, PreviousProcedure> current_;

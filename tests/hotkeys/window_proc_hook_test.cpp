@@ -100,12 +100,14 @@ TEST_F(WindowProcHookTest, PassesAHotKeyOfAnotherWindowOnUndispatched) {
   EXPECT_EQ(log.Calls(), Calls{"CallWindowProcA(0x3e9, 0x312, 4, 5)"});
 }
 
-TEST_F(WindowProcHookTest, ReportsAnIdentifierOutsideTheTableAndPassesTheMessageOn) {
+TEST_F(WindowProcHookTest, PassesIdentifiersThatNobodyRegisteredOnUndispatched) {
   EXPECT_EQ(PressHotKey(16), 77);
   PressHotKey(0);
+  PressHotKey(0xFFFFFFFFFFFFFFFF);
 
-  EXPECT_EQ(log.Calls(), (Calls{"uncaught 9", "CallWindowProcA(main, 0x312, 16, 5)", "uncaught 9",
-                                "CallWindowProcA(main, 0x312, 0, 5)"}));
+  EXPECT_EQ(log.Calls(),
+            (Calls{"CallWindowProcA(main, 0x312, 16, 5)", "CallWindowProcA(main, 0x312, 0, 5)",
+                   "CallWindowProcA(main, 0x312, 18446744073709551615, 5)"}));
 }
 
 TEST_F(WindowProcHookTest, ReportsAnErrorOfTheDispatcherAndPassesTheMessageOn) {
@@ -162,13 +164,13 @@ TEST_F(WindowProcHookTest, GivesTheDispatcherANameThatOutlivesTheTable) {
   EXPECT_EQ(seen, "HOTKEY_TOGGLE_HOTKEYS");
 }
 
-TEST_F(WindowProcHookTest, DispatchesTheEmptyNameOfAnEmptiedTable) {
+TEST_F(WindowProcHookTest, DispatchesNothingWhileNoHotKeyIsRegistered) {
   table.SetHotKeys("REMOVE");
   log.Clear();
 
   PressHotKey(1);
 
-  EXPECT_EQ(log.Calls(), (Calls{"process ", "CallWindowProcA(main, 0x312, 1, 5)"}));
+  EXPECT_EQ(log.Calls(), Calls{"CallWindowProcA(main, 0x312, 1, 5)"});
 }
 
 TEST_F(WindowProcHookTest, DispatchesAHotKeyThatArrivesDuringADispatch) {
@@ -236,6 +238,28 @@ TEST_F(WindowProcHookTest, ReceivesTheKeysThatTheUserPresses) {
   EXPECT_EQ(log.CallsOf("process"),
             (Calls{"process HOTKEY_PARENT3", "process HOTKEY_TOGGLE_HOTKEYS"}));
   EXPECT_EQ(log.CallsOf("CallWindowProcA").size(), 2U);
+}
+
+TEST_F(WindowProcHookTest, APressFromBeforeANewRegistrationTriggersNothing) {
+  EXPECT_TRUE(hotKeys.PressWhileBusy(win32::kModAlt, '3'));
+  options.Get().booHotKeyParent[0] = false;
+  table.SetHotKeys("REMOVE");
+  table.SetHotKeys("SET");
+
+  hotKeys.DeliverQueued();
+
+  EXPECT_TRUE(log.CallsOf("process").empty());
+  EXPECT_TRUE(log.CallsOf("uncaught").empty());
+}
+
+TEST_F(WindowProcHookTest, APressAfterANewRegistrationIsNotLost) {
+  table.SetHotKeys("REMOVE");
+  table.SetHotKeys("SET");
+  EXPECT_TRUE(hotKeys.PressWhileBusy(win32::kModAlt, '3'));
+
+  hotKeys.DeliverQueued();
+
+  EXPECT_EQ(log.CallsOf("process"), Calls{"process HOTKEY_PARENT3"});
 }
 
 TEST_F(WindowProcHookTest, ReceivesNothingOnceItIsRemoved) {
