@@ -6,24 +6,12 @@
 #include <string>
 
 #include "app/core/error_reporting.h"
+#include "app/core/identity.h"
 #include "platform/run_time_error.h"
 
 namespace korvale {
 
 namespace {
-
-/// What is known of the exception in whose catch block it is called; lets ProgramEnded pass.
-std::string DescribeCaught() {
-  try {
-    throw;
-  } catch (const ProgramEnded&) {
-    throw;
-  } catch (const std::exception& error) {
-    return error.what();
-  } catch (...) {
-    return "";
-  }
-}
 
 std::string HexText(std::uint64_t value) {
   std::ostringstream text;
@@ -56,6 +44,8 @@ Program::~Program() { platform_->system.SetUnhandledExceptionFilter({}); }
 
 bool Program::Start() {
   return Guarded([this] {
+    // Known before there is a window, so that also a failure to make it is told and recorded.
+    form_.Parts().identity = ReadProgramIdentity(platform_->system);
     form_.Show();
     // Windows does not activate what is shown minimized, so its user is asked and recorded here.
     if (form_.WindowState() == ShowState::kMinimized) startUp_.FirstActivation(form_);

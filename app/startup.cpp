@@ -70,9 +70,7 @@ void StartUp::EndIfUnloaded(frmMain& form) {
 }
 
 void StartUp::FixIdentity(frmMain& form) {
-  MainParts& parts = form.Parts();
-  parts.identity = ReadProgramIdentity(platform_->system);
-  form.SetCaption(parts.identity.mainCaption);
+  form.SetCaption(form.Parts().identity.mainCaption);
 }
 
 void StartUp::RunInstallation(frmMain& form) {

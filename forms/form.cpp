@@ -112,6 +112,7 @@ void Form::Load() {
   if (std::exchange(used_, true)) BuildFromDesign();
   state_.place = RealPlace();
   handle_ = forms_->Host().CreateWindowExW(state_, *this);
+  if (handle_ == 0) throw RunTimeError(RunTimeError::kOutOfMemory, "no window for " + Name());
   forms_->Add(*this);
   if (!state_.enabled) forms_->Host().EnableWindow(handle_, false);
   for (const Control& control : controls_) {

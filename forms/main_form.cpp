@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "app/core/error_reports.h"
 #include "desktop/tag_list_restore.h"
 #include "forms/main_form_design.h"
 #include "hotkeys/hot_key_names.h"
@@ -45,7 +46,14 @@ frmMain::frmMain(Platform& platform, FormCollection& forms, ProgramLifetime& lif
 void frmMain::Form_Load() {
   // Present in the menu, but nothing fills it.
   Menu("mnuWindowChildList").visible = false;
-  lifetime_->Initialise(*this);
+  try {
+    lifetime_->Initialise(*this);
+  } catch (...) {
+    // Told while the window still exists: shutting down takes hot keys and hook from it.
+    const std::string description = DescribeCaught();
+    parts_.errors.udmFatalError(ErrorPlace::kProgramEntry, CurrentErrorNumber(),
+                                {description, "", ""});
+  }
 }
 
 void frmMain::Form_Activate() { lifetime_->FirstActivation(*this); }

@@ -88,8 +88,8 @@ class FormHost {
  public:
   virtual ~FormHost() = default;
 
-  /// Makes the hidden window of a form with all its controls. Both references stay valid until
-  /// DestroyWindow.
+  /// Makes the hidden window of a form with all its controls; 0 when Windows refuses one of them.
+  /// Both references stay valid until DestroyWindow.
   virtual WindowHandle CreateWindowExW(const FormState& form, FormEvents& events) = 0;
   virtual void DestroyWindow(WindowHandle hwnd) = 0;
 

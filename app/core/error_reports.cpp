@@ -1,5 +1,6 @@
 #include "app/core/error_reports.h"
 
+#include <exception>
 #include <utility>
 
 #include "platform/run_time_error.h"
@@ -52,6 +53,18 @@ void ErrorReports::udmFatalError(ErrorPlace intErrorNumber, std::int16_t intVB_E
 void ErrorReports::Show(const std::string& text) {
   messages_->ShowMessageBox(text, win32::kMbOk | win32::kMbSetForeground,
                             identity_->messageTitle + " - ERROR");
+}
+
+std::string DescribeCaught() {
+  try {
+    throw;
+  } catch (const ProgramEnded&) {
+    throw;
+  } catch (const std::exception& error) {
+    return error.what();
+  } catch (...) {
+    return "";
+  }
 }
 
 }  // namespace korvale

@@ -43,4 +43,7 @@ class ErrorReports : public ErrorReporters {
   std::function<void()> shutDown_;
 };
 
+/// What is known of the exception in whose catch block it is called; lets ProgramEnded pass.
+std::string DescribeCaught();
+
 }  // namespace korvale

@@ -120,6 +120,10 @@ void HeadlessFormHost::Tell(WindowHandle hwnd, const std::function<void(FormEven
 }
 
 WindowHandle HeadlessFormHost::CreateWindowExW(const FormState& form, FormEvents& events) {
+  if (refused_ == form.name) {
+    refused_.clear();
+    return 0;
+  }
   auto window = std::make_unique<HeadlessWindow>();
   window->form = &form;
   window->events = &events;

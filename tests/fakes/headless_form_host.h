@@ -48,6 +48,8 @@ class HeadlessFormHost : public FormHost, private DesktopListener {
   MousePointer Pointer() const { return pointer_; }
   /// Gets the keys that the program sends by itself.
   void SetKeyboard(Keyboard keyboard) { keyboard_ = std::move(keyboard); }
+  /// Windows refuses the next window of this form, or one of its controls.
+  void RefuseNextWindow(std::string formName) { refused_ = std::move(formName); }
   /// Called when a message loop waits and nothing is queued: lets something happen, such as time
   /// pass, and returns true; false when there is nothing left, which fails the test.
   void SetIdle(std::function<bool()> idle) { idle_ = std::move(idle); }
@@ -158,6 +160,7 @@ class HeadlessFormHost : public FormHost, private DesktopListener {
       {kButtonFaceColor, 0xF0F0F0}, {kButtonTextColor, 0x000000}, {kWindowColor, 0xFFFFFF},
       {kWindowTextColor, 0x000000}, {kHighlightColor, 0xD77800},  {kHighlightTextColor, 0xFFFFFF}};
   bool highContrast_ = false;
+  std::string refused_;
   bool quit_ = false;
 };
 

@@ -43,6 +43,16 @@ class CrashTest : public StartTest {
     return korvale;
   }
 
+  /// The user was told once that a window could not be made, and can go on.
+  void ExpectToldAndUsable(KorvaleCopy& korvale, const std::string& form) {
+    ASSERT_EQ(messages_.size(), 1U);
+    EXPECT_TRUE(messages_[0].text.starts_with("VB ERROR 7 - Out of memory")) << messages_[0].text;
+    EXPECT_EQ(korvale.Form().Collection().Find(form), nullptr);
+    EXPECT_TRUE(korvale.host.Desktop().IsEnabled(korvale.Handle()));
+    EXPECT_FALSE(korvale.Form().Parts().suspension.DialogShown);
+    EXPECT_TRUE(korvale.Form().tmrWindow().Enabled());
+  }
+
   std::string Log() const { return FileContent(program_folder_ + "Error.log"); }
   /// The record of a start that failed so.
   std::string RecordOfFailedStart() const {
@@ -142,6 +152,53 @@ TEST_F(CrashTest, AnErrorAtTheStartSavesNothingAndLeavesNoHotKey) {
   for (const FakeHotKeys::Registration& left : hotKeys.Registered()) {
     EXPECT_FALSE(desktop.IsWindow(left.hwnd)) << left.id;
   }
+}
+
+TEST_F(CrashTest, AnErrorAtTheStartGivesHotKeysAndHookBackBeforeTheWindowGoes) {
+  KorvaleCopy& korvale = FailingAtStart();
+
+  korvale.Start();
+
+  EXPECT_EQ(
+      Order({"MessageBoxW(", "UnregisterHotKey(frmMain", "SetWindowLongPtrA(frmMain, previous)",
+             "DestroyWindow(frmMain)"}),
+      (std::vector<std::string>{"MessageBoxW(", "UnregisterHotKey(frmMain",
+                                "SetWindowLongPtrA(frmMain, previous)", "DestroyWindow(frmMain)"}));
+  EXPECT_TRUE(hotKeys.Registered().empty());
+}
+
+TEST_F(CrashTest, AMainWindowThatCannotBeMadeIsToldAndRecorded) {
+  KorvaleCopy& korvale = Prepared();
+  RecordNextMessage(korvale);
+  korvale.host.RefuseNextWindow("frmMain");
+
+  EXPECT_FALSE(korvale.Start());
+
+  ASSERT_EQ(messages_.size(), 1U);
+  EXPECT_EQ(messages_[0].text, "VB ERROR 7 - Out of memory\r\rKorvale Error #1\r");
+  EXPECT_NE(Log().find("Problem:  VB ERROR 7 - Out of memory"), std::string::npos) << Log();
+  EXPECT_TRUE(log.CallsOf("SaveSetting(Korvale - Work").empty());
+}
+
+TEST_F(CrashTest, AnAddWindowDialogThatCannotBeMadeIsToldAndBlocksNothing) {
+  KorvaleCopy& korvale = Running();
+  korvale.host.RefuseNextWindow("frmGetWindow");
+  korvale.user.ChooseMenu(korvale.Handle(), {"Window", "Add  Korvale  to Window menu..."});
+  ExpectToldAndUsable(korvale, "frmGetWindow");
+}
+
+TEST_F(CrashTest, AnOptionsDialogThatCannotBeMadeIsToldAndBlocksNothing) {
+  KorvaleCopy& korvale = Running();
+  korvale.host.RefuseNextWindow("frmOptions");
+  hotKeys.Press(win32::kModWin, 'O');
+  ExpectToldAndUsable(korvale, "frmOptions");
+}
+
+TEST_F(CrashTest, AWaitWindowThatCannotBeMadeIsToldAndBlocksNothing) {
+  KorvaleCopy& korvale = Running();
+  korvale.host.RefuseNextWindow("frmWaitWindow");
+  hotKeys.Press(0, win32::kVkPause);
+  ExpectToldAndUsable(korvale, "frmWaitWindow");
 }
 
 TEST_F(CrashTest, AnErrorOfTheMessageLoopEndsTheProgramWithoutSaving) {
