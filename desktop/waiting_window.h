@@ -6,7 +6,7 @@
 
 namespace korvale {
 
-/// Of the program that made `hwnd`, the topmost window that takes input: visible and enabled. Where
+/// Of the thread that made `hwnd`, the topmost window that takes input: visible and enabled. Where
 /// a box, tip or dialog waits for the user, it is that one. With a class name only windows of
 /// exactly this class count. 0 when there is none.
 WindowHandle FindWaitingWindow(WindowQueries& windows, WindowHandle hwnd,

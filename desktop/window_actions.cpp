@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "desktop/show_window.h"
 #include "desktop/timer_pause.h"
 #include "desktop/title_match.h"
 #include "desktop/window_readers.h"
@@ -21,12 +20,12 @@ bool CanBeSized(WindowQueries& windows, WindowHandle hwnd, std::int32_t box) {
 
 }  // namespace
 
-WindowActions::WindowActions(WindowQueries& windows, WindowCommands& commands,
+WindowActions::WindowActions(WindowQueries& windows, WindowRequests& requests,
                              const WindowFilter& filter, WindowEnumeration& enumeration,
                              MainWindow& mainWindow, PreviousWindow& previous,
                              MessageBoxes& messages, std::string messageTitle)
     : windows_(&windows),
-      commands_(&commands),
+      requests_(&requests),
       filter_(&filter),
       enumeration_(&enumeration),
       mainWindow_(&mainWindow),
@@ -54,7 +53,8 @@ ActivationResult WindowActions::TryActivation(WindowHandle& hwnd, std::string& t
   if (hwnd == 0 || !windows_->IsWindow(hwnd)) return kWindowNotOpen;
   if (!filter_->IsSelectableWindow(hwnd, false, false)) return kActivationFailed;
   if (GetWindowClass(*windows_, hwnd) != className) return kActivationFailed;
-  if (act && !RestoreIconicOwner(hwnd)) return kActivationFailed;
+  const ActivationResult restored = act ? RestoreIconicOwner(hwnd) : kActivationDone;
+  if (restored != kActivationDone) return restored;
   if (!windows_->IsWindowVisible(hwnd)) return kWindowNotOpen;
   RefreshRecordedTitle(hwnd, text);
   if (!TitleMatches(text, GetWindowTitle(*windows_, hwnd), false)) {
@@ -66,11 +66,15 @@ ActivationResult WindowActions::TryActivation(WindowHandle& hwnd, std::string& t
   return kActivationDone;
 }
 
-/// False only when an owner should have been restored and was not.
-bool WindowActions::RestoreIconicOwner(WindowHandle hwnd) {
+/// Done when there is no owner to restore, too.
+ActivationResult WindowActions::RestoreIconicOwner(WindowHandle hwnd) {
   const WindowHandle owner = GetRelatedWindow(*windows_, hwnd, 2);
-  if (owner == 0 || !windows_->IsIconic(owner)) return true;
-  return ShowDesktopWindow(owner, win32::kSwRestore);
+  if (owner == 0 || !windows_->IsIconic(owner)) return kActivationDone;
+  if (!requests_->Show(owner, win32::kSwRestore)) return kActivationFailed;
+  requests_->Await(owner,
+                   [&] { return !windows_->IsIconic(owner) && windows_->IsWindowVisible(hwnd); });
+  const bool stuck = windows_->IsIconic(owner) && !windows_->IsWindowVisible(hwnd);
+  return stuck ? kWindowNotAnswering : kActivationDone;
 }
 
 /// The recorded windows are known by their handles, so a new title never disqualifies them.
@@ -85,8 +89,11 @@ void WindowActions::RefreshRecordedTitle(WindowHandle hwnd, std::string& text) {
 bool WindowActions::BringForward(WindowHandle hwnd) {
   // What is in front now may be on its way to the back, when another selection came just before.
   const bool inFront = windows_->GetForegroundWindow() == hwnd && !previous_->menuSelection;
-  if (!inFront && !commands_->SetForegroundWindow(hwnd)) return false;
-  return !windows_->IsIconic(hwnd) || ShowDesktopWindow(hwnd, win32::kSwRestore);
+  if (!inFront && !requests_->SetForegroundWindow(hwnd)) return false;
+  if (!windows_->IsIconic(hwnd)) return true;
+  const bool restores = ShowDesktopWindow(hwnd, win32::kSwRestore);
+  requests_->Await(hwnd, [&] { return !windows_->IsIconic(hwnd); });
+  return restores;
 }
 
 WindowTriple WindowActions::MinimizeOrMaximizeForeground(std::string_view hotKeyName) {
@@ -102,7 +109,13 @@ WindowTriple WindowActions::MinimizeOrMaximizeForeground(std::string_view hotKey
 WindowTriple WindowActions::MinimizeForeground(WindowHandle hwnd) {
   if (!CanBeSized(*windows_, hwnd, win32::kWsMinimizeBox)) return {};
   const WindowHandle owner = GetRelatedWindow(*windows_, hwnd, 2);
-  ShowDesktopWindow(owner != 0 ? owner : hwnd, win32::kSwMinimize);
+  const WindowHandle target = owner != 0 ? owner : hwnd;
+  ShowDesktopWindow(target, win32::kSwMinimize);
+  // Windows itself brings some window forward then, which must not come after the next step.
+  requests_->Await(target, [&] {
+    const WindowHandle inFront = windows_->GetForegroundWindow();
+    return windows_->IsIconic(target) && inFront != hwnd && inFront != 0;
+  });
   WindowTriple& next = previous_->OfTagZero(mainWindow_->FocusTag() == kGotFocus);
   if (!windows_->IsWindowVisible(next.handle) || windows_->IsIconic(next.handle)) return {};
   return ActivateWindow(next, false, true) == kActivationDone ? next : WindowTriple{};
@@ -121,19 +134,15 @@ void WindowActions::MinimizeAll() {
 void WindowActions::RestoreAll() {
   const TimerPause pause(*mainWindow_);
   enumeration_->EnumWindows(kRestoreAll);
-  commands_->SetForegroundWindow(mainWindow_->MainHandle());
+  requests_->SetForegroundWindow(mainWindow_->MainHandle());
 }
 
 void WindowActions::SetTopmost(WindowHandle hwnd, bool topmost) {
-  std::uint32_t flags = win32::kSwpNoSize | win32::kSwpNoMove;
-  if (windows_->IsHungAppWindow(hwnd)) flags |= win32::kSwpAsyncWindowPos;
-  if (!windows_->IsWindowVisible(hwnd)) flags |= win32::kSwpNoActivate;
-  commands_->SetWindowPos(hwnd, topmost ? win32::kHwndTopmost : win32::kHwndNoTopmost, 0, 0, 0, 0,
-                          flags);
+  requests_->SetTopmost(hwnd, topmost);
 }
 
 bool WindowActions::ShowDesktopWindow(WindowHandle hwnd, int command) {
-  return korvale::ShowDesktopWindow(*windows_, *commands_, hwnd, command);
+  return requests_->Show(hwnd, command);
 }
 
 }  // namespace korvale

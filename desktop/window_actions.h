@@ -9,6 +9,7 @@
 #include "desktop/previous_window.h"
 #include "desktop/window_enumeration.h"
 #include "desktop/window_filter.h"
+#include "desktop/window_requests.h"
 #include "platform/types.h"
 #include "platform/window_api.h"
 
@@ -19,12 +20,14 @@ enum ActivationResult : std::int16_t {
   kActivationDone = 1,
   kWindowNotOpen = 2,
   kWindowNotEnabled = 3,
+  /// The window's program is busy and did not do in time what has to come first.
+  kWindowNotAnswering = 4,
 };
 
 /// Every change that the program makes to a window of the desktop.
 class WindowActions {
  public:
-  WindowActions(WindowQueries& windows, WindowCommands& commands, const WindowFilter& filter,
+  WindowActions(WindowQueries& windows, WindowRequests& requests, const WindowFilter& filter,
                 WindowEnumeration& enumeration, MainWindow& mainWindow, PreviousWindow& previous,
                 MessageBoxes& messages, std::string messageTitle);
 
@@ -45,24 +48,24 @@ class WindowActions {
   /// the timers stopped.
   void RestoreAll();
 
-  /// Makes a window topmost or not, without moving it or waiting for it when it hangs
-  /// (SetWindowPos). A hidden window is not activated.
+  /// Makes a window topmost or not, without moving it (SetWindowPos). A hidden window is not
+  /// activated.
   void SetTopmost(WindowHandle hwnd, bool topmost);
 
-  /// ShowWindow, without waiting for a window that hangs.
+  /// ShowWindow, without waiting for the window of another program.
   bool ShowDesktopWindow(WindowHandle hwnd, int command);
 
  private:
   ActivationResult TryActivation(WindowHandle& hwnd, std::string& text,
                                  const std::string& className, bool act);
-  bool RestoreIconicOwner(WindowHandle hwnd);
+  ActivationResult RestoreIconicOwner(WindowHandle hwnd);
   void RefreshRecordedTitle(WindowHandle hwnd, std::string& text);
   bool BringForward(WindowHandle hwnd);
   WindowTriple MinimizeForeground(WindowHandle hwnd);
   void MaximizeOrRestoreForeground(WindowHandle hwnd);
 
   WindowQueries* windows_;
-  WindowCommands* commands_;
+  WindowRequests* requests_;
   const WindowFilter* filter_;
   WindowEnumeration* enumeration_;
   MainWindow* mainWindow_;

@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "desktop/show_window.h"
 #include "desktop/title_match.h"
 #include "desktop/window_readers.h"
 #include "platform/run_time_error.h"
@@ -25,11 +24,11 @@ class FlagWhile {
 
 }  // namespace
 
-WindowEnumeration::WindowEnumeration(WindowQueries& windows, WindowCommands& commands,
+WindowEnumeration::WindowEnumeration(WindowQueries& windows, WindowRequests& requests,
                                      const WindowFilter& filter, const MainWindow& mainWindow,
                                      TagListPasses& tagPasses)
     : windows_(&windows),
-      commands_(&commands),
+      requests_(&requests),
       filter_(&filter),
       mainWindow_(&mainWindow),
       tagPasses_(&tagPasses) {}
@@ -56,14 +55,10 @@ bool WindowEnumeration::EnumWindowsProc(WindowHandle hwnd, std::int32_t mode) {
 void WindowEnumeration::HandleSelectable(WindowHandle hwnd, std::int32_t mode) {
   switch (mode) {
     case kMinimizeAll:
-      if (CanMinimizeOrRestore(hwnd, false)) {
-        ShowDesktopWindow(*windows_, *commands_, hwnd, win32::kSwMinimize);
-      }
+      if (CanMinimizeOrRestore(hwnd, false)) Minimize(hwnd);
       break;
     case kRestoreAll:
-      if (CanMinimizeOrRestore(hwnd, true)) {
-        ShowDesktopWindow(*windows_, *commands_, hwnd, win32::kSwRestore);
-      }
+      if (CanMinimizeOrRestore(hwnd, true)) Restore(hwnd);
       break;
     case kTagRefresh:
       tagPasses_->TagListPass(TagListMode::kMatch, 0, "", hwnd);
@@ -145,6 +140,18 @@ WindowHandle WindowEnumeration::FindTopWindow(std::function<bool(WindowHandle)> 
   fields_.topWindowResult = 0;
   EnumWindows(kTopWindow);
   return fields_.topWindowResult;
+}
+
+void WindowEnumeration::Minimize(WindowHandle hwnd) {
+  requests_->Show(hwnd, win32::kSwMinimize);
+  requests_->AwaitOneOfMany(hwnd, [&] { return windows_->IsIconic(hwnd); });
+}
+
+/// A restored window comes to the front, each above the one before.
+void WindowEnumeration::Restore(WindowHandle hwnd) {
+  requests_->Show(hwnd, win32::kSwRestore);
+  requests_->AwaitOneOfMany(
+      hwnd, [&] { return !windows_->IsIconic(hwnd) && windows_->GetForegroundWindow() == hwnd; });
 }
 
 bool WindowEnumeration::CanMinimizeOrRestore(WindowHandle hwnd, bool iconic) const {

@@ -7,6 +7,7 @@
 #include "desktop/main_window.h"
 #include "desktop/tag_list.h"
 #include "desktop/window_filter.h"
+#include "desktop/window_requests.h"
 #include "platform/types.h"
 #include "platform/window_api.h"
 
@@ -42,7 +43,7 @@ struct SearchFields {
 /// The one enumeration of the top-level windows through which every search over the desktop runs.
 class WindowEnumeration {
  public:
-  WindowEnumeration(WindowQueries& windows, WindowCommands& commands, const WindowFilter& filter,
+  WindowEnumeration(WindowQueries& windows, WindowRequests& requests, const WindowFilter& filter,
                     const MainWindow& mainWindow, TagListPasses& tagPasses);
 
   SearchFields& Fields() { return fields_; }
@@ -78,12 +79,14 @@ class WindowEnumeration {
   WindowHandle FindInstance(const std::string& className, const std::string& title, bool visible);
   void Enumerate(const std::function<bool(WindowHandle)>& visit);
   void HandleSelectable(WindowHandle hwnd, std::int32_t mode);
+  void Minimize(WindowHandle hwnd);
+  void Restore(WindowHandle hwnd);
   bool CanMinimizeOrRestore(WindowHandle hwnd, bool iconic) const;
   bool FitsTitle(WindowHandle hwnd, const std::string& text) const;
   void CountTopWindow(WindowHandle hwnd);
 
   WindowQueries* windows_;
-  WindowCommands* commands_;
+  WindowRequests* requests_;
   const WindowFilter* filter_;
   const MainWindow* mainWindow_;
   TagListPasses* tagPasses_;

@@ -16,6 +16,7 @@
 #include "desktop/window_actions.h"
 #include "desktop/window_enumeration.h"
 #include "desktop/window_filter.h"
+#include "desktop/window_requests.h"
 #include "forms/form_collection.h"
 #include "forms/form_display.h"
 #include "hotkeys/hot_key_dispatch.h"
@@ -58,6 +59,7 @@ struct MainParts {
   TagListPasses tagPasses;
   PreviousWindow previous;
   WindowFilter filter;
+  WindowRequests requests;
   WindowEnumeration enumeration;
 
   Suspension suspension;

@@ -110,12 +110,13 @@ ActivationResult WindowMenu::ActivateTag(MenuItem& entry, std::size_t slot, bool
 
 ActivationResult WindowMenu::ActivateOrSearch(MenuItem& entry, std::size_t slot) {
   ActivationResult result = ActivateTag(entry, slot, false, true);
-  if (result == kActivationDone || windowSearch) {
+  // A window that does not answer is the right one: no other is looked for.
+  if (result == kActivationDone || result == kWindowNotAnswering || windowSearch) {
     return result;
   }
   parts_.enumeration.RefreshTags();
   result = ActivateTag(entry, slot, false, true);
-  if (result == kActivationDone) {
+  if (result == kActivationDone || result == kWindowNotAnswering) {
     return result;
   }
   const WindowHandle found = parts_.enumeration.FindByTitle(IdentificationText(entry));
@@ -140,6 +141,7 @@ void WindowMenu::TellFailure(MenuItem& entry, std::size_t slot, ActivationResult
       parts_.messages.ShowMessageBox(window + "  is not open.", win32::kMbSetForeground,
                                      applicationTitle_);
       break;
+    case kWindowNotAnswering:
     case kActivationFailed:
       ActivateTag(entry, slot, true, false);
       break;

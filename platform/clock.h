@@ -24,6 +24,8 @@ class Clock {
   /// Milliseconds since some fixed moment; never goes back (GetTickCount64).
   virtual std::uint64_t GetTickCount64() = 0;
   virtual LocalTime GetLocalTime() = 0;
+  /// Lets other threads run for about this long; no message is taken meanwhile (Sleep).
+  virtual void Sleep(std::uint32_t milliseconds) = 0;
 };
 
 /// Repeating timers of our own windows; a tick arrives as FormEvents::OnTimer of that window.

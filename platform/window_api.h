@@ -33,10 +33,10 @@ class WindowQueries {
   virtual bool IsWindowEnabled(WindowHandle hwnd) = 0;
   virtual bool IsIconic(WindowHandle hwnd) = 0;
   virtual bool IsZoomed(WindowHandle hwnd) = 0;
+  /// The thread that the window belongs to; 0 when the window is gone.
+  virtual std::uint32_t GetWindowThreadProcessId(WindowHandle hwnd) = 0;
   /// True when the window's thread has not taken a message for about five seconds.
   virtual bool IsHungAppWindow(WindowHandle hwnd) = 0;
-  /// The identifier of the process that made the window, never 0 for a living one.
-  virtual std::uint32_t GetWindowThreadProcessId(WindowHandle hwnd) = 0;
   virtual WindowHandle GetForegroundWindow() = 0;
   /// The topmost top-level window with exactly this title, of any class; 0 when there is none.
   virtual WindowHandle FindWindowA(const std::string& title) = 0;

@@ -34,6 +34,8 @@ LocalTime WindowsClock::GetLocalTime() {
   return {now.wYear, now.wMonth, now.wDay, now.wHour, now.wMinute, now.wSecond, now.wDayOfWeek};
 }
 
+void WindowsClock::Sleep(std::uint32_t milliseconds) { ::Sleep(milliseconds); }
+
 void WindowsTimers::SetTimer(WindowHandle hwnd, int id, std::uint32_t milliseconds) {
   ::SetTimer(ToHwnd(hwnd), static_cast<UINT_PTR>(id), milliseconds, nullptr);
 }

@@ -8,6 +8,7 @@ class WindowsClock final : public Clock {
  public:
   std::uint64_t GetTickCount64() override;
   LocalTime GetLocalTime() override;
+  void Sleep(std::uint32_t milliseconds) override;
 };
 
 /// Timers of our own windows (SetTimer, KillTimer); ticks arrive as WM_TIMER.

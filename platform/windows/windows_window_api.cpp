@@ -82,14 +82,12 @@ bool WindowsWindowApi::IsIconic(WindowHandle hwnd) { return ::IsIconic(ToHwnd(hw
 
 bool WindowsWindowApi::IsZoomed(WindowHandle hwnd) { return ::IsZoomed(ToHwnd(hwnd)) != FALSE; }
 
-bool WindowsWindowApi::IsHungAppWindow(WindowHandle hwnd) {
-  return ::IsHungAppWindow(ToHwnd(hwnd)) != FALSE;
+std::uint32_t WindowsWindowApi::GetWindowThreadProcessId(WindowHandle hwnd) {
+  return ::GetWindowThreadProcessId(ToHwnd(hwnd), nullptr);
 }
 
-std::uint32_t WindowsWindowApi::GetWindowThreadProcessId(WindowHandle hwnd) {
-  DWORD process = 0;
-  ::GetWindowThreadProcessId(ToHwnd(hwnd), &process);
-  return process;
+bool WindowsWindowApi::IsHungAppWindow(WindowHandle hwnd) {
+  return ::IsHungAppWindow(ToHwnd(hwnd)) != FALSE;
 }
 
 WindowHandle WindowsWindowApi::GetForegroundWindow() {

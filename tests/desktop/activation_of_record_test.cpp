@@ -28,7 +28,8 @@ TEST_F(ActivationOfOwned, MinimizedOwnerIsRestoredFirst) {
   EXPECT_EQ(Activate(window), 1);
   EXPECT_FALSE(desktop.IsIconic(alpha));
   EXPECT_EQ(desktop.ForegroundTitle(), "Owned");
-  EXPECT_EQ(log.Take(), (Calls{"ShowWindow(Alpha, SW_RESTORE)", "SetForegroundWindow(Owned)"}));
+  EXPECT_EQ(log.Take(),
+            (Calls{"ShowWindowAsync(Alpha, SW_RESTORE)", "SetForegroundWindow(Owned)"}));
 }
 
 TEST_F(ActivationOfOwned, MinimizedOwnerStaysWhenNotToAct) {
@@ -56,13 +57,13 @@ TEST_F(ActivationOfOwned, RefusedRestoreOfTheOwnerFails) {
   desktop.Windows().Find(alpha)->visible = false;
   WindowTriple window = Triple(owned, "Owned");
   EXPECT_EQ(Activate(window), 0);
-  EXPECT_EQ(log.Take(), Calls{"ShowWindow(Alpha, SW_RESTORE)"});
+  EXPECT_EQ(log.Take(), Calls{"ShowWindowAsync(Alpha, SW_RESTORE)"});
 }
 
 TEST_F(ActivationOfOwned, HungOwnerIsNotWaitedFor) {
   desktop.SetHung(alpha, true);
   WindowTriple window = Triple(owned, "Owned");
-  Activate(window);
+  EXPECT_EQ(Activate(window), kWindowNotAnswering);
   EXPECT_EQ(log.Take(), Calls{"ShowWindowAsync(Alpha, SW_RESTORE)"});
   EXPECT_EQ(desktop.CallsThatWaited(), 0);
 }

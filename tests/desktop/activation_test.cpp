@@ -36,7 +36,8 @@ TEST_F(Activation, MinimizedWindowIsRestored) {
   WindowTriple window = Triple(alpha);
   EXPECT_EQ(Activate(window), 1);
   EXPECT_FALSE(desktop.IsIconic(alpha));
-  EXPECT_EQ(log.Take(), (Calls{"SetForegroundWindow(Alpha)", "ShowWindow(Alpha, SW_RESTORE)"}));
+  EXPECT_EQ(log.Take(),
+            (Calls{"SetForegroundWindow(Alpha)", "ShowWindowAsync(Alpha, SW_RESTORE)"}));
 }
 
 TEST_F(Activation, MinimizedWindowIsNotRestoredWhenNotToAct) {
@@ -144,7 +145,7 @@ TEST_F(Activation, RefusedForegroundFails) {
 
 TEST_F(Activation, RefusedRestoreFails) {
   desktop.UserMinimizes(alpha);
-  log.WhenCalled("ShowWindow(Alpha, SW_RESTORE)", [&] { desktop.Hide(alpha); });
+  log.WhenCalled("ShowWindowAsync(Alpha, SW_RESTORE)", [&] { desktop.Close(alpha); });
   WindowTriple window = Triple(alpha);
   EXPECT_EQ(Activate(window), 0);
 }
@@ -194,13 +195,28 @@ TEST_F(Activation, StepsComeInTheirOrder) {
   desktop.Open("Front");
   WindowTriple window = Triple(gamma, "Gamma");
   EXPECT_EQ(CallsOf([&] { EXPECT_EQ(Activate(window), 1); }),
-            (Calls{"IsWindow(Gamma)", "GetWindowTextLengthA(Gamma)", "GetWindowTextA(Gamma, 15)",
-                   "GetClassNameA(Gamma, 255)", "IsWindow(Gamma)", "GetWindow(Main, GW_OWNER)",
-                   "GetClassNameA(Gamma, 255)", "GetWindow(Gamma, GW_OWNER)",
-                   "GetWindowLongA(Alpha, GWL_STYLE)", "IsIconic(Alpha)", "IsWindowVisible(Gamma)",
-                   "GetWindowTextLengthA(Gamma)", "GetWindowTextA(Gamma, 15)",
-                   "IsWindowEnabled(Gamma)", "GetForegroundWindow()", "SetForegroundWindow(Gamma)",
-                   "IsIconic(Gamma)", "IsHungAppWindow(Gamma)", "ShowWindow(Gamma, SW_RESTORE)"}));
+            (Calls{"IsWindow(Gamma)",
+                   "GetWindowTextLengthA(Gamma)",
+                   "GetWindowTextA(Gamma, 15)",
+                   "GetClassNameA(Gamma, 255)",
+                   "IsWindow(Gamma)",
+                   "GetWindow(Main, GW_OWNER)",
+                   "GetClassNameA(Gamma, 255)",
+                   "GetWindow(Gamma, GW_OWNER)",
+                   "GetWindowLongA(Alpha, GWL_STYLE)",
+                   "IsIconic(Alpha)",
+                   "IsWindowVisible(Gamma)",
+                   "GetWindowTextLengthA(Gamma)",
+                   "GetWindowTextA(Gamma, 15)",
+                   "IsWindowEnabled(Gamma)",
+                   "GetForegroundWindow()",
+                   "SetForegroundWindow(Gamma)",
+                   "IsIconic(Gamma)",
+                   "GetWindowThreadProcessId(Main)",
+                   "GetWindowThreadProcessId(Gamma)",
+                   "IsWindowVisible(Gamma)",
+                   "ShowWindowAsync(Gamma, SW_RESTORE)",
+                   "IsIconic(Gamma)"}));
 }
 
 }  // namespace

@@ -15,6 +15,7 @@
 #include "desktop/window_filter.h"
 #include "platform/settings_store.h"
 #include "tests/fakes/call_log.h"
+#include "tests/fakes/fake_clock.h"
 #include "tests/fakes/fake_desktop.h"
 #include "tests/fakes/fake_loaded_forms.h"
 #include "tests/fakes/fake_main_window.h"
@@ -59,10 +60,12 @@ class DesktopCase : public testing::Test {
       : tags{MenuItemArray(menu, "mnuWindowParentList"), {}},
         passes(tags, desktop, store),
         filter(desktop, options, forms, mainWindow),
-        enumeration(desktop, desktop, filter, mainWindow, passes),
-        actions(desktop, desktop, filter, enumeration, mainWindow, previous, messages, "Korvale"),
+        requests(desktop, desktop, mainWindow, clock),
+        enumeration(desktop, requests, filter, mainWindow, passes),
+        actions(desktop, requests, filter, enumeration, mainWindow, previous, messages, "Korvale"),
         tracker(desktop, filter, actions, mainWindow, previous, tags) {
     options.Create();
+    desktop.UseClock(clock);
     NewWindow hidden;
     hidden.className = "Korvale.Owner";
     hidden.visible = false;
@@ -106,6 +109,7 @@ class DesktopCase : public testing::Test {
   }
 
   CallLog log;
+  FakeClock clock;
   FakeDesktop desktop{log};
   FakeMainWindow mainWindow;
   FakeLoadedForms forms;
@@ -117,6 +121,7 @@ class DesktopCase : public testing::Test {
   TagList tags;
   TagListPasses passes;
   WindowFilter filter;
+  WindowRequests requests;
   WindowEnumeration enumeration;
   WindowActions actions;
   ForegroundTracker tracker;

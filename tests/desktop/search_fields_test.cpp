@@ -35,7 +35,8 @@ TEST_P(SearchFieldsOfMode, AreTheOnlyOnesThatChange) {
   EXPECT_EQ(fields.topWindowResult, GetParam().top ? alpha : 0);
   EXPECT_EQ(HandleOfTag(1), GetParam().tag ? alpha : 0);
   EXPECT_EQ(fields.instanceResult, 0);
-  EXPECT_EQ(log.Take(), GetParam().mode == 1 ? Calls{"ShowWindow(Alpha, SW_MINIMIZE)"} : Calls{});
+  EXPECT_EQ(log.Take(),
+            GetParam().mode == 1 ? Calls{"ShowWindowAsync(Alpha, SW_MINIMIZE)"} : Calls{});
 }
 
 INSTANTIATE_TEST_SUITE_P(Modes, SearchFieldsOfMode,

@@ -45,7 +45,7 @@ TEST_F(ForegroundKeys, MinimizeKeyBringsTheAlternateForward) {
   desktop.Open("Gamma");
   desktop.UserActivates(alpha);
   EXPECT_EQ(Press(kMinimize),
-            (Calls{"ShowWindow(Alpha, SW_MINIMIZE)", "SetForegroundWindow(Beta)"}));
+            (Calls{"ShowWindowAsync(Alpha, SW_MINIMIZE)", "SetForegroundWindow(Beta)"}));
   EXPECT_TRUE(desktop.IsIconic(alpha));
   EXPECT_EQ(desktop.ForegroundTitle(), "Beta");
 }
@@ -62,14 +62,14 @@ TEST_F(ForegroundKeys, MinimizeKeyInTheMainWindowBringsTheCurrentForward) {
 
 TEST_F(ForegroundKeys, MinimizeKeyTakesTheMinimizableOwner) {
   const WindowHandle owned = desktop.Open("Owned", {.owner = alpha});
-  EXPECT_EQ(Press(kMinimize).front(), "ShowWindow(Alpha, SW_MINIMIZE)");
+  EXPECT_EQ(Press(kMinimize).front(), "ShowWindowAsync(Alpha, SW_MINIMIZE)");
   EXPECT_FALSE(desktop.IsIconic(owned));
 }
 
 TEST_F(ForegroundKeys, MinimizeKeyTakesTheWindowWhenItsOwnerHasNoMinimizeBox) {
   WithoutStyle(win32::kWsMinimizeBox);
   desktop.Open("Owned", {.owner = alpha});
-  EXPECT_EQ(Press(kMinimize).front(), "ShowWindow(Owned, SW_MINIMIZE)");
+  EXPECT_EQ(Press(kMinimize).front(), "ShowWindowAsync(Owned, SW_MINIMIZE)");
 }
 
 TEST_F(ForegroundKeys, MinimizeKeyLeavesAWindowWithoutMinimizeBoxAndAllOthersAlone) {
@@ -91,24 +91,24 @@ TEST_F(ForegroundKeys, MinimizeKeyLeavesAMinimizedWindowAlone) {
 
 TEST_F(ForegroundKeys, MinimizeKeyBringsNothingForwardThatIsHidden) {
   desktop.Hide(beta);
-  EXPECT_EQ(Press(kMinimize), Calls{"ShowWindow(Alpha, SW_MINIMIZE)"});
+  EXPECT_EQ(Press(kMinimize), Calls{"ShowWindowAsync(Alpha, SW_MINIMIZE)"});
 }
 
 TEST_F(ForegroundKeys, MinimizeKeyBringsNothingForwardThatIsMinimized) {
   desktop.UserMinimizes(beta);
-  EXPECT_EQ(Press(kMinimize), Calls{"ShowWindow(Alpha, SW_MINIMIZE)"});
+  EXPECT_EQ(Press(kMinimize), Calls{"ShowWindowAsync(Alpha, SW_MINIMIZE)"});
   EXPECT_TRUE(desktop.IsIconic(beta));
 }
 
 TEST_F(ForegroundKeys, MinimizeKeyWithoutAnAlternateOnlyMinimizes) {
   previous.alternate = {};
-  EXPECT_EQ(Press(kMinimize), Calls{"ShowWindow(Alpha, SW_MINIMIZE)"});
+  EXPECT_EQ(Press(kMinimize), Calls{"ShowWindowAsync(Alpha, SW_MINIMIZE)"});
 }
 
 TEST_F(ForegroundKeys, MinimizeKeyShowsNoMessageWhenTheAlternateCannotCome) {
   desktop.Open("Front");
   desktop.SetEnabled(beta, false);
-  EXPECT_EQ(Press(kMinimize), Calls{"ShowWindow(Front, SW_MINIMIZE)"});
+  EXPECT_EQ(Press(kMinimize), Calls{"ShowWindowAsync(Front, SW_MINIMIZE)"});
   EXPECT_TRUE(messages.shown.empty());
 }
 
@@ -119,11 +119,11 @@ TEST_F(ForegroundKeys, MinimizeKeyDoesNotWaitForAHungWindow) {
 }
 
 TEST_F(ForegroundKeys, MaximizeKeyTogglesBetweenMaximizedAndRestored) {
-  EXPECT_EQ(Press(kMaximize), Calls{"ShowWindow(Alpha, SW_MAXIMIZE)"});
+  EXPECT_EQ(Press(kMaximize), Calls{"ShowWindowAsync(Alpha, SW_MAXIMIZE)"});
   EXPECT_TRUE(desktop.IsZoomed(alpha));
-  EXPECT_EQ(Press(kMaximize), Calls{"ShowWindow(Alpha, SW_RESTORE)"});
+  EXPECT_EQ(Press(kMaximize), Calls{"ShowWindowAsync(Alpha, SW_RESTORE)"});
   EXPECT_FALSE(desktop.IsZoomed(alpha));
-  EXPECT_EQ(Press(kMaximize), Calls{"ShowWindow(Alpha, SW_MAXIMIZE)"});
+  EXPECT_EQ(Press(kMaximize), Calls{"ShowWindowAsync(Alpha, SW_MAXIMIZE)"});
 }
 
 TEST_F(ForegroundKeys, MaximizeKeyLeavesAWindowWithoutMaximizeBoxAlone) {
@@ -133,7 +133,7 @@ TEST_F(ForegroundKeys, MaximizeKeyLeavesAWindowWithoutMaximizeBoxAlone) {
 
 TEST_F(ForegroundKeys, MaximizeKeyNeedsNoMinimizeBox) {
   WithoutStyle(win32::kWsMinimizeBox);
-  EXPECT_EQ(Press(kMaximize), Calls{"ShowWindow(Alpha, SW_MAXIMIZE)"});
+  EXPECT_EQ(Press(kMaximize), Calls{"ShowWindowAsync(Alpha, SW_MAXIMIZE)"});
 }
 
 TEST_F(ForegroundKeys, MaximizeKeyLeavesAMinimizedWindowAlone) {
@@ -175,19 +175,22 @@ TEST_F(ForegroundKeys, TimersRunAgainAfterAnError) {
 
 TEST_F(ForegroundKeys, MinimizeKeyReadsInItsOrder) {
   Calls calls = CallsOf([&] { actions.MinimizeOrMaximizeForeground(kMinimize); });
-  calls.resize(10);
+  calls.resize(14);
   EXPECT_EQ(calls,
             (Calls{"udmTimersEnabled(false)", "GetForegroundWindow()", "IsWindowEnabled(Alpha)",
                    "IsIconic(Alpha)", "GetWindowLongA(Alpha, GWL_STYLE)",
-                   "GetWindow(Alpha, GW_OWNER)", "IsHungAppWindow(Alpha)",
-                   "ShowWindow(Alpha, SW_MINIMIZE)", "IsWindowVisible(Beta)", "IsIconic(Beta)"}));
+                   "GetWindow(Alpha, GW_OWNER)", "GetWindowThreadProcessId(Main)",
+                   "GetWindowThreadProcessId(Alpha)", "IsWindowVisible(Alpha)",
+                   "ShowWindowAsync(Alpha, SW_MINIMIZE)", "GetForegroundWindow()",
+                   "IsIconic(Alpha)", "IsWindowVisible(Beta)", "IsIconic(Beta)"}));
 }
 
 TEST_F(ForegroundKeys, MaximizeKeyReadsInItsOrder) {
   EXPECT_EQ(CallsOf([&] { actions.MinimizeOrMaximizeForeground(kMaximize); }),
             (Calls{"udmTimersEnabled(false)", "GetForegroundWindow()", "IsWindowEnabled(Alpha)",
                    "IsIconic(Alpha)", "GetWindowLongA(Alpha, GWL_STYLE)", "IsZoomed(Alpha)",
-                   "IsHungAppWindow(Alpha)", "ShowWindow(Alpha, SW_MAXIMIZE)",
+                   "GetWindowThreadProcessId(Main)", "GetWindowThreadProcessId(Alpha)",
+                   "IsWindowVisible(Alpha)", "ShowWindowAsync(Alpha, SW_MAXIMIZE)",
                    "udmTimersEnabled(true)"}));
 }
 
@@ -195,8 +198,8 @@ class AllWindows : public ForegroundKeys {};
 
 TEST_F(AllWindows, MinimizeAllMinimizesFromTheTopWithTheTimersStopped) {
   actions.MinimizeAll();
-  EXPECT_EQ(log.Take(), (Calls{"udmTimersEnabled(false)", "ShowWindow(Alpha, SW_MINIMIZE)",
-                               "ShowWindow(Beta, SW_MINIMIZE)", "udmTimersEnabled(true)"}));
+  EXPECT_EQ(log.Take(), (Calls{"udmTimersEnabled(false)", "ShowWindowAsync(Alpha, SW_MINIMIZE)",
+                               "ShowWindowAsync(Beta, SW_MINIMIZE)", "udmTimersEnabled(true)"}));
 }
 
 TEST_F(AllWindows, RestoreAllEndsInTheMainWindow) {
@@ -235,10 +238,10 @@ class Topmost : public ForegroundKeys {};
 
 TEST_F(Topmost, IsSetAndTakenBackWithoutMovingTheWindow) {
   actions.SetTopmost(beta, true);
-  EXPECT_EQ(log.Take(), Calls{"SetWindowPos(Beta, HWND_TOPMOST, 0, 0, 0, 0, 3)"});
+  EXPECT_EQ(log.Take(), Calls{"SetWindowPos(Beta, HWND_TOPMOST, 0, 0, 0, 0, 16387)"});
   EXPECT_EQ(desktop.GetWindowLongA(beta, win32::kGwlExStyle), win32::kWsExTopmost);
   actions.SetTopmost(beta, false);
-  EXPECT_EQ(log.Take(), Calls{"SetWindowPos(Beta, HWND_NOTOPMOST, 0, 0, 0, 0, 3)"});
+  EXPECT_EQ(log.Take(), Calls{"SetWindowPos(Beta, HWND_NOTOPMOST, 0, 0, 0, 0, 16387)"});
   EXPECT_EQ(desktop.GetWindowLongA(beta, win32::kGwlExStyle), 0);
 }
 
@@ -251,11 +254,11 @@ TEST_F(Topmost, DoesNotWaitForAHungWindow) {
 
 class ShowDesktopWindowTest : public ForegroundKeys {};
 
-TEST_F(ShowDesktopWindowTest, GivesTheAnswerOfTheCallMade) {
+TEST_F(ShowDesktopWindowTest, TellsWhetherTheWindowWasVisible) {
   EXPECT_TRUE(actions.ShowDesktopWindow(beta, win32::kSwRestore));
   desktop.Hide(beta);
   EXPECT_FALSE(actions.ShowDesktopWindow(beta, win32::kSwRestore));
-  desktop.Hide(beta);
+  EXPECT_TRUE(actions.ShowDesktopWindow(beta, win32::kSwRestore));
   desktop.SetHung(beta, true);
   EXPECT_TRUE(actions.ShowDesktopWindow(beta, win32::kSwRestore));
   EXPECT_FALSE(actions.ShowDesktopWindow(0x7777, win32::kSwRestore));

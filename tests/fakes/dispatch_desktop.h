@@ -2,6 +2,7 @@
 
 #include "hotkeys/hot_key_dispatch.h"
 #include "tests/fakes/call_log.h"
+#include "tests/fakes/fake_clock.h"
 #include "tests/fakes/fake_desktop.h"
 #include "tests/fakes/fake_hot_key_actions.h"
 #include "tests/fakes/fake_hot_keys.h"
@@ -14,7 +15,10 @@ namespace korvale {
 
 /// What the dispatcher of hot keys works with: a fake desktop and the real routines for it.
 struct DispatchDesktop {
-  DispatchDesktop() { options.Create(); }
+  DispatchDesktop() {
+    options.Create();
+    desktop.UseClock(clock);
+  }
 
   CallLog log;
   FakeDesktop desktop{log};
@@ -28,10 +32,12 @@ struct DispatchDesktop {
   TagListPasses tagPasses{tags, desktop, store};
   PreviousWindow previous;
   WindowFilter filter{desktop, options, forms, mainWindow};
-  WindowEnumeration enumeration{desktop, desktop, filter, mainWindow, tagPasses};
+  FakeClock clock;
+  WindowRequests requests{desktop, desktop, mainWindow, clock};
+  WindowEnumeration enumeration{desktop, requests, filter, mainWindow, tagPasses};
   Suspension suspension;
   FakeMessageBoxes messages;
-  WindowActions windowActions{desktop,    desktop,  filter,   enumeration,
+  WindowActions windowActions{desktop,    requests, filter,   enumeration,
                               mainWindow, previous, messages, "Title"};
   ForegroundTracker tracker{desktop, filter, windowActions, mainWindow, previous, tags};
 };

@@ -23,19 +23,28 @@ std::vector<FakeClock::Timer>::iterator FakeClock::Earliest() {
 }
 
 void FakeClock::Deliver(std::vector<Timer>::iterator timer) {
-  now_ = timer->due;
+  const std::uint64_t due = timer->due;
   timer->due += timer->interval;
   // The tick may stop this timer, so only copies are used from here on.
   const Timer ticking = *timer;
+  PassUntil(due);
   if (tick_) tick_(ticking.hwnd, ticking.id);
 }
+
+void FakeClock::PassUntil(std::uint64_t moment) {
+  now_ = std::max(now_, moment);
+  if (passed_) passed_();
+}
+
+/// Timers tick only when messages are taken again.
+void FakeClock::Sleep(std::uint32_t milliseconds) { PassUntil(now_ + milliseconds); }
 
 void FakeClock::Advance(std::uint64_t milliseconds) {
   const std::uint64_t end = now_ + milliseconds;
   for (auto next = Earliest(); next != timers_.end() && next->due <= end; next = Earliest()) {
     Deliver(next);
   }
-  now_ = std::max(now_, end);
+  PassUntil(end);
 }
 
 bool FakeClock::AdvanceToNextTick() {

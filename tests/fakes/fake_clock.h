@@ -24,6 +24,9 @@ class FakeClock : public Clock, public TimerApi {
 
   std::uint64_t GetTickCount64() override { return now_; }
   LocalTime GetLocalTime() override { return local_; }
+  void Sleep(std::uint32_t milliseconds) override;
+  /// Called after time has passed, before anything is due then.
+  void SetTimePassedHandler(std::function<void()> passed) { passed_ = std::move(passed); }
   void SetLocalTime(const LocalTime& local) { local_ = local; }
 
   void SetTimer(WindowHandle hwnd, int id, std::uint32_t milliseconds) override;
@@ -49,7 +52,10 @@ class FakeClock : public Clock, public TimerApi {
   void Deliver(std::vector<Timer>::iterator timer);
 
   CallLog* log_ = nullptr;
+  void PassUntil(std::uint64_t moment);
+
   Tick tick_;
+  std::function<void()> passed_;
   std::uint64_t now_ = 1'000'000;
   LocalTime local_;
   std::vector<Timer> timers_;

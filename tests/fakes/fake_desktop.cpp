@@ -95,9 +95,47 @@ void FakeDesktop::SetEnabled(WindowHandle hwnd, bool enabled) { Existing(hwnd).e
 void FakeDesktop::SetHung(WindowHandle hwnd, bool hung) {
   FakeWindow& window = Existing(hwnd);
   window.hung = hung;
-  if (hung) return;
-  for (const int command : std::exchange(window.waitingShowCommands, {})) {
-    windows_.Show(hwnd, command);
+  if (!hung) ServeFreeWindows();
+}
+
+void FakeDesktop::UseClock(FakeClock& clock) {
+  clock_ = &clock;
+  clock.SetTimePassedHandler([this] { ServeFreeWindows(); });
+}
+
+void FakeDesktop::SetBusy(WindowHandle hwnd, std::uint64_t milliseconds) {
+  if (clock_ == nullptr) throw std::logic_error("a busy window needs a clock");
+  Existing(hwnd).busyUntil = clock_->GetTickCount64() + milliseconds;
+}
+
+bool FakeDesktop::IsBusy(const FakeWindow& window) const {
+  return window.hung || (clock_ != nullptr && window.busyUntil > clock_->GetTickCount64());
+}
+
+bool FakeDesktop::WaitFor(WindowHandle hwnd) {
+  const FakeWindow& window = Existing(hwnd);
+  if (!IsBusy(window)) return true;
+  ++calls_that_waited_;
+  if (window.hung) return false;
+  clock_->Sleep(static_cast<std::uint32_t>(window.busyUntil - clock_->GetTickCount64()));
+  return windows_.Find(hwnd) != nullptr;
+}
+
+void FakeDesktop::DoWhenFree(WindowHandle hwnd, std::function<void()> action) {
+  FakeWindow& window = Existing(hwnd);
+  if (IsBusy(window)) {
+    window.waiting.push_back(std::move(action));
+  } else {
+    action();
+  }
+}
+
+void FakeDesktop::ServeFreeWindows() {
+  const std::vector<WindowHandle> all = windows_.TopLevel();
+  for (const WindowHandle hwnd : all) {
+    FakeWindow* const window = windows_.Find(hwnd);
+    if (window == nullptr || IsBusy(*window)) continue;
+    for (const auto& action : std::exchange(window->waiting, {})) action();
   }
 }
 

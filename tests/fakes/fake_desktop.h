@@ -9,6 +9,7 @@
 #include "platform/types.h"
 #include "platform/window_api.h"
 #include "tests/fakes/call_log.h"
+#include "tests/fakes/fake_clock.h"
 #include "tests/fakes/fake_window.h"
 #include "tests/fakes/fake_windows.h"
 
@@ -42,6 +43,11 @@ class FakeDesktop : public WindowQueries, public WindowCommands {
   void SetEnabled(WindowHandle hwnd, bool enabled);
   /// A hung window's thread takes no messages; what waited for it is done when it recovers.
   void SetHung(WindowHandle hwnd, bool hung);
+  /// The clock by which windows are busy; it must outlive the desktop.
+  void UseClock(FakeClock& clock);
+  /// A busy window's thread takes no messages for so many ms: who calls and waits, waits as long,
+  /// and what was asked for without waiting is done then. Windows does not call it hung yet.
+  void SetBusy(WindowHandle hwnd, std::uint64_t milliseconds);
   /// Nothing is in the foreground, as for a moment while Windows changes it.
   void LoseForeground();
   /// While locked SetForegroundWindow refuses, as Windows does to a program without the right.
@@ -91,10 +97,18 @@ class FakeDesktop : public WindowQueries, public WindowCommands {
   /// Logs a reading call on a window, then gives the window, null when it is gone.
   const FakeWindow* Read(const char* call, WindowHandle hwnd, const std::string& argument = "");
   FakeWindow& Existing(WindowHandle hwnd);
-  bool Waits(const FakeWindow& window);
+  /// Lets a call wait for the window's thread; false when that never takes it.
+  bool WaitFor(WindowHandle hwnd);
+  bool IsBusy(const FakeWindow& window) const;
+  /// Does something now, or as soon as the window's thread takes messages.
+  void DoWhenFree(WindowHandle hwnd, std::function<void()> action);
+  void ServeFreeWindows();
+  void Place(WindowHandle hwnd, WindowHandle insertAfter, const PixelRect& place,
+             std::uint32_t flags);
 
   CallLog& log_;
   FakeWindows windows_;
+  FakeClock* clock_ = nullptr;
   bool foreground_locked_ = false;
   bool foreground_delayed_ = false;
   std::vector<WindowHandle> coming_forward_;

@@ -34,11 +34,6 @@ const FakeWindow* FakeDesktop::Read(const char* call, WindowHandle hwnd,
   return windows_.Find(hwnd);
 }
 
-bool FakeDesktop::Waits(const FakeWindow& window) {
-  if (window.hung) ++calls_that_waited_;
-  return window.hung;
-}
-
 void FakeDesktop::EnumWindows(const std::function<bool(WindowHandle)>& visit) {
   log_.AddRead("EnumWindows()");
   const std::vector<WindowHandle> windows = windows_.TopLevel();
@@ -108,14 +103,15 @@ bool FakeDesktop::IsZoomed(WindowHandle hwnd) {
   return window != nullptr && window->zoomed;
 }
 
+std::uint32_t FakeDesktop::GetWindowThreadProcessId(WindowHandle hwnd) {
+  constexpr std::uint32_t kFirstThread = 100;
+  const FakeWindow* const window = Read("GetWindowThreadProcessId", hwnd);
+  return window == nullptr ? 0 : kFirstThread + static_cast<std::uint32_t>(window->process);
+}
+
 bool FakeDesktop::IsHungAppWindow(WindowHandle hwnd) {
   const FakeWindow* const window = Read("IsHungAppWindow", hwnd);
   return window != nullptr && window->hung;
-}
-
-std::uint32_t FakeDesktop::GetWindowThreadProcessId(WindowHandle hwnd) {
-  const FakeWindow* const window = Read("GetWindowThreadProcessId", hwnd);
-  return window == nullptr ? 0 : static_cast<std::uint32_t>(window->process) + 1;
 }
 
 WindowHandle FakeDesktop::GetForegroundWindow() {
@@ -136,19 +132,14 @@ bool FakeDesktop::ShowWindow(WindowHandle hwnd, int command) {
   const FakeWindow* const window = windows_.Find(hwnd);
   if (window == nullptr) return false;
   const bool was_visible = window->visible && !window->hiddenByOwner;
-  if (!Waits(*window)) windows_.Show(hwnd, command);
+  if (WaitFor(hwnd)) windows_.Show(hwnd, command);
   return was_visible;
 }
 
 bool FakeDesktop::ShowWindowAsync(WindowHandle hwnd, int command) {
   log_.Add("ShowWindowAsync(" + log_.Window(hwnd) + ", " + ShowCommandText(command) + ")");
-  FakeWindow* const window = windows_.Find(hwnd);
-  if (window == nullptr) return false;
-  if (window->hung) {
-    window->waitingShowCommands.push_back(command);
-  } else {
-    windows_.Show(hwnd, command);
-  }
+  if (windows_.Find(hwnd) == nullptr) return false;
+  DoWhenFree(hwnd, [this, hwnd, command] { windows_.Show(hwnd, command); });
   return true;
 }
 
@@ -157,28 +148,36 @@ bool FakeDesktop::SetWindowPos(WindowHandle hwnd, WindowHandle insertAfter, int 
   log_.Add("SetWindowPos(" + log_.Window(hwnd) + ", " + InsertAfterText(log_, insertAfter) + ", " +
            std::to_string(x) + ", " + std::to_string(y) + ", " + std::to_string(width) + ", " +
            std::to_string(height) + ", " + std::to_string(flags) + ")");
-  FakeWindow* const window = windows_.Find(hwnd);
-  if (window == nullptr) return false;
-  const bool async = (flags & win32::kSwpAsyncWindowPos) != 0;
-  if (async ? window->hung : Waits(*window)) return true;
+  if (windows_.Find(hwnd) == nullptr) return false;
+  const PixelRect place{x, y, width, height};
+  if ((flags & win32::kSwpAsyncWindowPos) != 0) {
+    DoWhenFree(hwnd, [=, this] { Place(hwnd, insertAfter, place, flags); });
+  } else if (WaitFor(hwnd)) {
+    Place(hwnd, insertAfter, place, flags);
+  }
+  return true;
+}
+
+void FakeDesktop::Place(WindowHandle hwnd, WindowHandle insertAfter, const PixelRect& place,
+                        std::uint32_t flags) {
+  FakeWindow& window = Existing(hwnd);
   if ((flags & win32::kSwpNoMove) == 0) {
-    window->place.x = x;
-    window->place.y = y;
+    window.place.x = place.x;
+    window.place.y = place.y;
   }
   if ((flags & win32::kSwpNoSize) == 0) {
-    window->place.width = width;
-    window->place.height = height;
+    window.place.width = place.width;
+    window.place.height = place.height;
   }
-  if (window->parent != 0) return true;
+  if (window.parent != 0) return;
   if ((flags & fakes::kSwpNoZOrder) == 0) {
     if (insertAfter == win32::kHwndTop) windows_.Raise(hwnd);
     if (insertAfter == win32::kHwndTopmost) windows_.SetTopmost(hwnd, true);
     if (insertAfter == win32::kHwndNoTopmost) windows_.SetTopmost(hwnd, false);
   }
   // A hidden window of the program that calls is activated as well.
-  const bool reachable = windows_.IsVisible(hwnd) || window->process != kOtherProcess;
+  const bool reachable = windows_.IsVisible(hwnd) || window.process != kOtherProcess;
   if ((flags & fakes::kSwpNoActivate) == 0 && reachable) windows_.Activate(hwnd);
-  return true;
 }
 
 bool FakeDesktop::SetForegroundWindow(WindowHandle hwnd) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -55,12 +56,13 @@ struct FakeWindow {
   bool restoresToZoomed = false;
   bool hiddenByOwner = false;  ///< Out of sight while its owner is minimized.
   bool hung = false;
+  std::uint64_t busyUntil = 0;  ///< A moment of the clock.
   bool atBottom = false;
   int process = kOtherProcess;
   int extraTextLength = 0;
   PixelRect place;
-  std::vector<WindowHandle> children;      ///< Topmost first.
-  std::vector<int> waitingShowCommands{};  ///< Of ShowWindowAsync while it hangs.
+  std::vector<WindowHandle> children;            ///< Topmost first.
+  std::vector<std::function<void()>> waiting{};  ///< What others asked for while it was busy.
 };
 
 }  // namespace korvale

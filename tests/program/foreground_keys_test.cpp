@@ -44,14 +44,14 @@ TEST_F(ForegroundKeysTest, MinimizeGoesBackToTheWindowBefore) {
   desktop.Open("", {.className = "Untitled"});
   WorkIn(gamma);
   EXPECT_EQ(PressMinimize(),
-            (Calls{"ShowWindow(Gamma, SW_MINIMIZE)", "SetForegroundWindow(Alpha)"}));
+            (Calls{"ShowWindowAsync(Gamma, SW_MINIMIZE)", "SetForegroundWindow(Alpha)"}));
   EXPECT_EQ(Front(), "Alpha");
   EXPECT_EQ(korvale->TargetWindow(), "Alpha");
   EXPECT_TRUE(korvale->Form().tmrWindow().Enabled());
 }
 
 TEST_F(ForegroundKeysTest, MinimizeSendsNoWindowForwardThatWindowsHasChosenItself) {
-  EXPECT_EQ(PressMinimize(), Calls{"ShowWindow(Beta, SW_MINIMIZE)"});
+  EXPECT_EQ(PressMinimize(), Calls{"ShowWindowAsync(Beta, SW_MINIMIZE)"});
   EXPECT_EQ(Front(), "Alpha");
 }
 
@@ -67,7 +67,7 @@ TEST_F(ForegroundKeysTest, MinimizeInKorvaleGoesBackToThePreviousWindow) {
 TEST_F(ForegroundKeysTest, MinimizeInADialogTakesItsProgramDown) {
   desktop.Open("Find", {.owner = beta, .style = kNoMaximizeBox});
   LetTick();
-  EXPECT_EQ(PressMinimize().front(), "ShowWindow(Beta, SW_MINIMIZE)");
+  EXPECT_EQ(PressMinimize().front(), "ShowWindowAsync(Beta, SW_MINIMIZE)");
   EXPECT_TRUE(desktop.IsIconic(beta));
   EXPECT_FALSE(desktop.IsWindowVisible(desktop.FindWindowA("Find")));
 }
@@ -86,13 +86,13 @@ TEST_F(ForegroundKeysTest, MinimizeLeavesADisabledWindowInFront) {
 
 TEST_F(ForegroundKeysTest, MinimizeDoesNotUnfoldAMinimizedWindowBefore) {
   desktop.UserMinimizes(alpha);
-  EXPECT_EQ(PressMinimize(), Calls{"ShowWindow(Beta, SW_MINIMIZE)"});
+  EXPECT_EQ(PressMinimize(), Calls{"ShowWindowAsync(Beta, SW_MINIMIZE)"});
   EXPECT_TRUE(desktop.IsIconic(alpha));
 }
 
 TEST_F(ForegroundKeysTest, MinimizeWithTheWindowBeforeClosedSaysNothing) {
   desktop.Close(alpha);
-  EXPECT_EQ(PressMinimize(), Calls{"ShowWindow(Beta, SW_MINIMIZE)"});
+  EXPECT_EQ(PressMinimize(), Calls{"ShowWindowAsync(Beta, SW_MINIMIZE)"});
   EXPECT_TRUE(korvale->host.Messages().empty());
 }
 
@@ -105,9 +105,9 @@ TEST_F(ForegroundKeysTest, KeysDoNotWaitForAHungWindow) {
 }
 
 TEST_F(ForegroundKeysTest, MaximizeTogglesTheWindowInFront) {
-  EXPECT_EQ(PressMaximize(), Calls{"ShowWindow(Beta, SW_MAXIMIZE)"});
+  EXPECT_EQ(PressMaximize(), Calls{"ShowWindowAsync(Beta, SW_MAXIMIZE)"});
   EXPECT_TRUE(desktop.IsZoomed(beta));
-  EXPECT_EQ(PressMaximize(), Calls{"ShowWindow(Beta, SW_RESTORE)"});
+  EXPECT_EQ(PressMaximize(), Calls{"ShowWindowAsync(Beta, SW_RESTORE)"});
   EXPECT_FALSE(desktop.IsZoomed(beta));
   EXPECT_EQ(Front(), "Beta");
 }
@@ -123,7 +123,7 @@ TEST_F(ForegroundKeysTest, MaximizeLeavesOtherWindowsAlone) {
 
 TEST_F(ForegroundKeysTest, TimersRestWhileAKeyWorks) {
   bool running = true;
-  log.WhenCalled("ShowWindow(Beta", [&] { running = korvale->Form().tmrWindow().Enabled(); });
+  log.WhenCalled("ShowWindowAsync(Beta", [&] { running = korvale->Form().tmrWindow().Enabled(); });
   PressMinimize();
   EXPECT_FALSE(running);
   EXPECT_TRUE(korvale->Form().tmrWindow().Enabled());

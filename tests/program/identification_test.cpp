@@ -172,7 +172,7 @@ TEST_F(IdentificationTest, AMinimizedOwnerIsRestoredBeforeItsWindow) {
   WorkIn(desktop.FindWindowA("Beta"));
   log.Clear();
   PressTag(1);
-  EXPECT_EQ(log.Take().front(), "ShowWindow(Editor, SW_RESTORE)");
+  EXPECT_EQ(log.Take().front(), "ShowWindowAsync(Editor, SW_RESTORE)");
   EXPECT_EQ(Front(), "Alpha");
 }
 

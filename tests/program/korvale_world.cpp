@@ -51,6 +51,7 @@ KorvaleWorld::KorvaleWorld()
       store(log),
       clock(log),
       session(std::make_shared<FakeSession>()) {
+  desktop.UseClock(clock);
   desktop.OpenShell();
 }
 

@@ -69,13 +69,13 @@ TEST_F(WindowMenuActionsTest, AlwaysOnTopOfThePreviousWindowComesBackToTheMainWi
   log.Clear();
   korvale.user.ChooseMenu(korvale.Handle(), {"Window", "[Alpha]  Always On Top"});
   EXPECT_EQ(log.CallsOf("SetWindowPos"),
-            std::vector<std::string>{"SetWindowPos(Alpha, HWND_TOPMOST, 0, 0, 0, 0, 3)"});
+            std::vector<std::string>{"SetWindowPos(Alpha, HWND_TOPMOST, 0, 0, 0, 0, 16387)"});
   EXPECT_EQ(Front(), "Korvale - Work");
   EXPECT_TRUE(korvale.WindowMenuItems()[1].checked);
   log.Clear();
   korvale.user.ChooseMenu(korvale.Handle(), {"Window", "[Alpha]  Always On Top"});
   EXPECT_EQ(DesktopCalls(), (Calls{"SetForegroundWindow(Alpha)",
-                                   "SetWindowPos(Alpha, HWND_NOTOPMOST, 0, 0, 0, 0, 3)",
+                                   "SetWindowPos(Alpha, HWND_NOTOPMOST, 0, 0, 0, 0, 16387)",
                                    "SetForegroundWindow(Korvale)"}));
   EXPECT_FALSE(korvale.WindowMenuItems()[1].checked);
 }
@@ -105,7 +105,7 @@ TEST_F(WindowMenuActionsTest, AlwaysOnTopOfThePreviousWindowStaysThereWithoutThe
   WorkIn(Open("Beta"));
   log.Clear();
   korvale.Form().TheWindowMenu().mnuWindowPreviousWindowAlwaysOnTop_Click();
-  EXPECT_EQ(DesktopCalls(), Calls{"SetWindowPos(Beta, HWND_TOPMOST, 0, 0, 0, 0, 3)"});
+  EXPECT_EQ(DesktopCalls(), Calls{"SetWindowPos(Beta, HWND_TOPMOST, 0, 0, 0, 0, 16387)"});
   EXPECT_EQ(Front(), "Beta");
   EXPECT_TRUE(Saved());
 }
@@ -114,11 +114,11 @@ TEST_F(WindowMenuActionsTest, MinimizeAllMinimizesFromTheTopWithTheTimersStopped
   Open("Lower");
   KorvaleCopy& korvale = StartedAfter(Open("Upper"));
   bool running = true;
-  log.WhenCalled("ShowWindow(Upper", [&] { running = korvale.Form().tmrWindow().Enabled(); });
+  log.WhenCalled("ShowWindowAsync(Upper", [&] { running = korvale.Form().tmrWindow().Enabled(); });
   korvale.Form().TheWindowMenu().mnuWindowMinimizeAll_Click();
   EXPECT_EQ(DesktopCalls(),
-            (Calls{"ShowWindow(Korvale, SW_MINIMIZE)", "ShowWindow(Upper, SW_MINIMIZE)",
-                   "ShowWindow(Lower, SW_MINIMIZE)"}));
+            (Calls{"ShowWindow(Korvale, SW_MINIMIZE)", "ShowWindowAsync(Upper, SW_MINIMIZE)",
+                   "ShowWindowAsync(Lower, SW_MINIMIZE)"}));
   EXPECT_FALSE(running);
   EXPECT_TRUE(korvale.Form().tmrWindow().Enabled());
   EXPECT_TRUE(Saved());
@@ -133,7 +133,7 @@ TEST_F(WindowMenuActionsTest, RestoreAllEndsInKorvaleBeforeTheTimersRunAgain) {
   log.WhenCalled("SetForegroundWindow", [&] { running = korvale.Form().tmrWindow().Enabled(); });
   korvale.Form().TheWindowMenu().mnuWindowRestoreAll_Click();
   EXPECT_EQ(DesktopCalls(),
-            (Calls{"ShowWindow(Alpha, SW_RESTORE)", "SetForegroundWindow(Korvale)"}));
+            (Calls{"ShowWindowAsync(Alpha, SW_RESTORE)", "SetForegroundWindow(Korvale)"}));
   EXPECT_FALSE(running);
   EXPECT_TRUE(korvale.Form().tmrWindow().Enabled());
   EXPECT_TRUE(Saved());

@@ -86,7 +86,8 @@ TEST_F(WindowMenuOpeningTest, TheMinimizedWindowInFrontIsRestoredAndNothingElse)
   PressTag(1);
 
   EXPECT_FALSE(desktop.IsIconic(alpha));
-  EXPECT_EQ(log.CallsOf("ShowWindow"), std::vector<std::string>{"ShowWindow(Alpha, SW_RESTORE)"});
+  EXPECT_EQ(log.CallsOf("ShowWindow"),
+            std::vector<std::string>{"ShowWindowAsync(Alpha, SW_RESTORE)"});
   EXPECT_TRUE(log.CallsOf("SetForegroundWindow").empty());
   EXPECT_EQ(korvale.Parts().previous.current, before.current);
   EXPECT_EQ(korvale.Parts().previous.alternate, before.alternate);

@@ -1,0 +1,74 @@
+#include "desktop/window_requests.h"
+
+#include <algorithm>
+
+#include "platform/win32_constants.h"
+
+namespace korvale {
+
+WindowRequests::WindowRequests(WindowQueries& windows, WindowCommands& commands,
+                               const MainWindow& mainWindow, Clock& clock)
+    : windows_(&windows), commands_(&commands), mainWindow_(&mainWindow), clock_(&clock) {}
+
+/// All our windows belong to the thread of the main window.
+bool WindowRequests::IsOurs(WindowHandle hwnd) {
+  const std::uint32_t thread = windows_->GetWindowThreadProcessId(mainWindow_->MainHandle());
+  return thread != 0 && windows_->GetWindowThreadProcessId(hwnd) == thread;
+}
+
+bool WindowRequests::Show(WindowHandle hwnd, int command) {
+  if (IsOurs(hwnd)) return commands_->ShowWindow(hwnd, command);
+  const bool wasVisible = windows_->IsWindowVisible(hwnd);
+  return commands_->ShowWindowAsync(hwnd, command) && wasVisible;
+}
+
+void WindowRequests::SetTopmost(WindowHandle hwnd, bool topmost) {
+  std::uint32_t flags = win32::kSwpNoSize | win32::kSwpNoMove;
+  if (!IsOurs(hwnd)) flags |= win32::kSwpAsyncWindowPos;
+  if (!windows_->IsWindowVisible(hwnd)) flags |= win32::kSwpNoActivate;
+  commands_->SetWindowPos(hwnd, topmost ? win32::kHwndTopmost : win32::kHwndNoTopmost, 0, 0, 0, 0,
+                          flags);
+  if ((flags & win32::kSwpAsyncWindowPos) == 0) return;
+  Await(hwnd, [&] {
+    const std::int32_t style = windows_->GetWindowLongA(hwnd, win32::kGwlExStyle);
+    return ((style & win32::kWsExTopmost) != 0) == topmost;
+  });
+}
+
+bool WindowRequests::SetForegroundWindow(WindowHandle hwnd) {
+  return commands_->SetForegroundWindow(hwnd);
+}
+
+bool WindowRequests::Await(WindowHandle hwnd, const std::function<bool()>& done) {
+  return AwaitFor(hwnd, PatienceLeft(), done);
+}
+
+bool WindowRequests::AwaitOneOfMany(WindowHandle hwnd, const std::function<bool()>& done) {
+  return AwaitFor(hwnd, PatienceLeft() / 2, done);
+}
+
+/// Time that passes without a wait gives patience back, so each command of the user has all of it.
+std::uint64_t WindowRequests::PatienceLeft() {
+  const std::uint64_t rested = clock_->GetTickCount64() - lastWait_;
+  spent_ -= std::min(spent_, rested);
+  return kPatience - std::min(spent_, kPatience);
+}
+
+bool WindowRequests::AwaitFor(WindowHandle hwnd, std::uint64_t milliseconds,
+                              const std::function<bool()>& done) {
+  constexpr std::uint32_t kStep = 1;
+  const std::uint64_t start = clock_->GetTickCount64();
+  std::uint64_t waited = 0;
+  bool came = done();
+  while (!came && waited < milliseconds && windows_->IsWindow(hwnd) &&
+         !windows_->IsHungAppWindow(hwnd)) {
+    clock_->Sleep(kStep);
+    waited = clock_->GetTickCount64() - start;
+    came = done();
+  }
+  lastWait_ = start + waited;
+  spent_ += waited;
+  return came;
+}
+
+}  // namespace korvale

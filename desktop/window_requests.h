@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+#include "desktop/main_window.h"
+#include "platform/clock.h"
+#include "platform/types.h"
+#include "platform/window_api.h"
+
+namespace korvale {
+
+/// Asks windows for changes. A window of another program does them when its thread comes to it, so
+/// none can hold up the program; what the next step needs is waited for, but only shortly.
+class WindowRequests {
+ public:
+  /// The longest that waits following each other may take together, in ms.
+  static constexpr std::uint64_t kPatience = 100;
+
+  WindowRequests(WindowQueries& windows, WindowCommands& commands, const MainWindow& mainWindow,
+                 Clock& clock);
+
+  /// ShowWindow for our own windows, ShowWindowAsync for others. `command` is one of the SW_
+  /// values; false when the window was hidden before or is gone.
+  bool Show(WindowHandle hwnd, int command);
+  /// Makes a window topmost or not, without moving it (SetWindowPos), and waits until it is. A
+  /// hidden window is not activated.
+  void SetTopmost(WindowHandle hwnd, bool topmost);
+  bool SetForegroundWindow(WindowHandle hwnd);
+
+  /// Waits for what was asked of the window. True as soon as `done` holds; false when it does not
+  /// although the patience is used up, or the window hangs or is gone.
+  bool Await(WindowHandle hwnd, const std::function<bool()>& done);
+  /// As Await, for one window of several: takes half of the patience that is left, so that a busy
+  /// one leaves some to the others.
+  bool AwaitOneOfMany(WindowHandle hwnd, const std::function<bool()>& done);
+
+ private:
+  bool IsOurs(WindowHandle hwnd);
+  std::uint64_t PatienceLeft();
+  bool AwaitFor(WindowHandle hwnd, std::uint64_t milliseconds, const std::function<bool()>& done);
+
+  WindowQueries* windows_;
+  WindowCommands* commands_;
+  const MainWindow* mainWindow_;
+  Clock* clock_;
+  std::uint64_t spent_ = 0;     // Patience that waits have used up and time has not given back.
+  std::uint64_t lastWait_ = 0;  // When the last wait ended.
+};
+
+}  // namespace korvale
