@@ -189,6 +189,8 @@ class Form : public FormEvents {
   Control* ButtonWithFlag(unsigned flag);
   std::vector<int> TabStops() const;
   int TabStopOf(int control) const;
+  /// True for the number of a control of a loaded form.
+  bool IsControl(int control) const;
   bool CanTakeInput(const ControlState& control) const;
   bool CanTakeFocus(const ControlState& control) const;
   ControlState& StateOf(int control);

@@ -55,8 +55,12 @@ void Form::StartOrStopTimer(const Control& timer) {
   }
 }
 
+bool Form::IsControl(int control) const {
+  return IsLoaded() && control > 0 && static_cast<std::size_t>(control) <= controls_.size();
+}
+
 void Form::OnClick(int control) {
-  if (!IsLoaded() || !CanTakeInput(StateOf(control))) return;
+  if (!IsControl(control) || !CanTakeInput(StateOf(control))) return;
   Control& clicked = ById(control);
   switch (clicked.State().kind) {
     case ControlKind::kCheckBox:
@@ -71,7 +75,7 @@ void Form::OnClick(int control) {
 }
 
 void Form::OnTextTyped(int control, const std::string& text) {
-  if (!IsLoaded()) return;
+  if (!IsControl(control)) return;
   ControlState& state = StateOf(control);
   if (state.text == text) return;
   state.text = text;
@@ -80,23 +84,23 @@ void Form::OnTextTyped(int control, const std::string& text) {
 }
 
 void Form::OnListPicked(int control, int listIndex) {
-  if (!IsLoaded()) return;
+  if (!IsControl(control)) return;
   Control& list = ById(control);
   list.TakeListIndex(listIndex);
   RaiseClick(list);
 }
 
 void Form::OnListDropDown(int control) {
-  if (!IsLoaded()) return;
+  if (!IsControl(control)) return;
   RaiseFor(droppedDown_, StateOf(control).name, StateOf(control).index);
 }
 
 void Form::OnListClosedUp(int control) {
-  if (IsLoaded()) RaiseFor(closedUp_, StateOf(control).name, StateOf(control).index);
+  if (IsControl(control)) RaiseFor(closedUp_, StateOf(control).name, StateOf(control).index);
 }
 
 bool Form::OnKeyDown(int control, int virtualKey, unsigned shift, bool repeated) {
-  if (!IsLoaded()) return false;
+  if (!IsLoaded() || (control != 0 && !IsControl(control))) return false;
   int key = virtualKey;
   keyRepeats_ = repeated;
   Form_KeyDown(key, shift);
@@ -105,7 +109,7 @@ bool Form::OnKeyDown(int control, int virtualKey, unsigned shift, bool repeated)
 }
 
 bool Form::OnKeyUp(int control, int virtualKey, unsigned shift) {
-  if (!IsLoaded()) return false;
+  if (!IsLoaded() || (control != 0 && !IsControl(control))) return false;
   int key = virtualKey;
   Form_KeyUp(control == 0 ? nullptr : &ById(control), key, shift);
   return key == 0;
@@ -113,16 +117,16 @@ bool Form::OnKeyUp(int control, int virtualKey, unsigned shift) {
 
 void Form::OnMouse(int control, const MouseInput& input) {
   if (!IsLoaded()) return;
-  if (control != 0) {
+  if (IsControl(control)) {
     Control_Mouse(ById(control), input);
-  } else if (input.event == MouseEvent::kMove) {
+  } else if (control == 0 && input.event == MouseEvent::kMove) {
     Form_MouseMove(input);
   }
 }
 
 void Form::OnFocusMoved(int control) {
   // Without a control the focus has left the form for a while and comes back to the same one.
-  if (!IsLoaded() || control == 0 || control == focused_) return;
+  if (!IsControl(control) || control == focused_) return;
   focused_ = control;
   MarkDefaultButton();
 }
@@ -182,7 +186,8 @@ void Form::OnSysColorChange() {
 void Form::OnCloseRequested(CloseReason reason) { Unload(reason); }
 
 void Form::OnTimer(int control) {
-  if (!IsLoaded()) return;
+  // Any program may post a tick.
+  if (!IsControl(control) || StateOf(control).kind != ControlKind::kTimer) return;
   Control& timer = ById(control);
   if (timer.Enabled()) RaiseClick(timer);
 }

@@ -190,6 +190,7 @@ bool Form::OnCharacter(int control, char32_t character, unsigned shift) {
   // Latin letters and digits have been dealt with as keys, whatever the keyboard layout.
   constexpr char32_t kFirstBeyondAscii = 0x80;
   if (!IsLoaded() || character < kFirstBeyondAscii) return false;
+  if (control != 0 && !IsControl(control)) return false;
   return PressAccessKey(control, character, (shift & kAlt) != 0);
 }
 

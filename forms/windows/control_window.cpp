@@ -99,6 +99,8 @@ bool ShowsAmpersands(const ControlState& control) {
 
 }  // namespace
 
+bool HasWindow(ControlKind kind) { return kind != ControlKind::kTimer; }
+
 bool IsButtonKind(ControlKind kind) {
   return kind == ControlKind::kButton || kind == ControlKind::kCheckBox ||
          kind == ControlKind::kOptionButton;
@@ -125,6 +127,7 @@ HWND CreateControlWindow(const ControlState& control, HWND parent, HINSTANCE ins
   HWND window = CreateWindowExW(
       kind.exStyle, kind.className, text ? WindowText(control).c_str() : L"", kind.style | WS_CHILD,
       0, 0, 0, 0, parent, static_cast<HMENU>(LongToHandle(control.id)), instance, nullptr);
+  if (window == nullptr) return nullptr;
   if (control.kind == ControlKind::kTextBox) SendMessageW(window, EM_SETLIMITTEXT, 0, 0);
   // An option button must not click itself when it gets the focus.
   if (control.kind == ControlKind::kOptionButton) SendMessageW(window, BM_SETDONTCLICK, TRUE, 0);

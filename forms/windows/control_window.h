@@ -8,10 +8,13 @@
 
 namespace korvale {
 
-/// Makes the window of a control, without place and font. Null for kinds that have none.
+/// Makes the window of a control, without place and font. Null for kinds that have none, and
+/// when Windows refuses it.
 HWND CreateControlWindow(const ControlState& control, HWND parent, HINSTANCE instance,
                          const wchar_t* pageClass);
 
+/// True for kinds that are a window.
+bool HasWindow(ControlKind kind);
 /// True for buttons, check boxes and option buttons.
 bool IsButtonKind(ControlKind kind);
 /// True for the two kinds of combo boxes.

@@ -31,25 +31,27 @@ void PlaceCombo(HWND window, const PixelPlace& place) {
 
 }  // namespace
 
-void FormControls::Create(HWND form, const std::wstring& pageClass) {
+bool FormControls::Create(HWND form, const std::wstring& pageClass) {
   formWindow_ = form;
   MakeFont();
   toolTips_.Create(form, instance_);
-  for (const ControlState& control : form_->controls) CreateOne(control, pageClass);
+  return std::ranges::all_of(
+      form_->controls, [&](const ControlState& control) { return CreateOne(control, pageClass); });
 }
 
-void FormControls::CreateOne(const ControlState& control, const std::wstring& pageClass) {
+bool FormControls::CreateOne(const ControlState& control, const std::wstring& pageClass) {
   POINT origin{};
   const HWND window =
       CreateControlWindow(control, Holder(control, origin), instance_, pageClass.c_str());
   windows_.push_back(window);
   icons_.emplace_back();
-  if (window == nullptr) return;
+  if (window == nullptr) return !HasWindow(control.kind);
   SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(font_.Get()), FALSE);
   using enum ControlProperty;
   for (const ControlProperty property : {kItems, kText, kPlace, kValue, kEnabled, kVisible}) {
     Apply(control, property);
   }
+  return true;
 }
 
 void FormControls::MakeFont() {
@@ -184,6 +186,11 @@ bool FormControls::IsEnabled(const ControlState& control) const {
 HWND FormControls::Window(int control) const {
   const auto index = static_cast<std::size_t>(control) - 1;
   return control > 0 && index < windows_.size() ? windows_[index] : nullptr;
+}
+
+int FormControls::Find(WPARAM number) const {
+  const bool known = number > 0 && number <= windows_.size();
+  return known && windows_[number - 1] != nullptr ? static_cast<int>(number) : 0;
 }
 
 int FormControls::IdOf(HWND window) const {

@@ -18,7 +18,8 @@ class FormControls {
   FormControls(const FormState& form, HINSTANCE instance) : form_(&form), instance_(instance) {}
 
   /// Makes the controls in the order of the model; `pageClass` is the window class of pages.
-  void Create(HWND form, const std::wstring& pageClass);
+  /// False when Windows refused one of them.
+  bool Create(HWND form, const std::wstring& pageClass);
   /// The form's window goes.
   void Drop() { toolTips_.Drop(); }
   /// Shows what has changed in the model.
@@ -30,6 +31,8 @@ class FormControls {
   HWND Window(int control) const;
   /// The control that this window is or belongs to; 0 = none.
   int IdOf(HWND window) const;
+  /// The control of this number, as messages carry it; 0 when it is none or has no window.
+  int Find(WPARAM number) const;
   const ControlState& State(int control) const;
   bool IsListDropped(int control) const;
   /// True while Update runs: what the windows then report is no doing of the user.
@@ -39,7 +42,7 @@ class FormControls {
  private:
   UINT Dpi() const { return GetDpiForWindow(formWindow_); }
   void MakeFont();
-  void CreateOne(const ControlState& control, const std::wstring& pageClass);
+  bool CreateOne(const ControlState& control, const std::wstring& pageClass);
   void Apply(const ControlState& control, ControlProperty property);
   void ApplyPlace(const ControlState& control);
   void ApplyVisible(const ControlState& control);

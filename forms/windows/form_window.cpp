@@ -4,6 +4,7 @@
 #include <commctrl.h>
 
 #include "forms/windows/control_window.h"
+#include "forms/windows/message_guard.h"
 #include "platform/windows/text.h"
 
 namespace korvale {
@@ -29,6 +30,24 @@ DWORD FormExStyle(const FormState& form) {
   return style;
 }
 
+namespace {
+
+/// The number of a control or timer; 0, which is none, for what cannot be one.
+int ToId(WPARAM id) {
+  constexpr WPARAM kHighest = 0xFFFF;
+  return id <= kHighest ? static_cast<int>(id) : 0;
+}
+
+/// The user is in menus of this thread, whatever messages say.
+bool IsInMenus() {
+  GUITHREADINFO info{};
+  info.cbSize = sizeof(info);
+  return GetGUIThreadInfo(GetCurrentThreadId(), &info) != FALSE &&
+         (info.flags & GUI_INMENUMODE) != 0;
+}
+
+}  // namespace
+
 FormWindow::FormWindow(const FormState& form, WindowClasses& classes, BrushCache& brushes,
                        const MousePointer& pointer)
     : form_(&form),
@@ -50,10 +69,14 @@ HWND FormWindow::Create(HWND owner, FormEvents& events) {
   if (hwnd_ == nullptr) return nullptr;
   // Underlines of access keys and focus frames appear once the keyboard is used.
   SendMessageW(hwnd_, WM_CHANGEUISTATE, MAKEWPARAM(UIS_INITIALIZE, 0), 0);
-  controls_.Create(hwnd_, pageClass);
+  if (!controls_.Create(hwnd_, pageClass)) {
+    Destroy();
+    return nullptr;
+  }
   for (const ControlState& control : form_->controls) {
     Watch(controls_.Window(control.id), control.id);
   }
+  watched_ = true;
   keys_.emplace(hwnd_, events_, controls_);
   ShowMenuBar();
   ShowPlace();
@@ -62,6 +85,7 @@ HWND FormWindow::Create(HWND owner, FormEvents& events) {
 }
 
 void FormWindow::Destroy() {
+  destroying_ = true;
   events_.Disconnect();
   controls_.Drop();
   if (hwnd_ != nullptr) ::DestroyWindow(hwnd_);
@@ -85,8 +109,8 @@ void FormWindow::ShowPlace() {
 }
 
 void FormWindow::ShowMenuBar() {
-  barOutdated_ = menuOpen_;  // A menu must not change under the user.
-  if (!menuOpen_) menu_.ShowBar(hwnd_);
+  barOutdated_ = menuOpen_ && IsInMenus();  // A menu must not change under the user.
+  if (!barOutdated_) menu_.ShowBar(hwnd_);
 }
 
 void FormWindow::Show(int command) {
@@ -119,22 +143,29 @@ bool FormWindow::Filter(const MSG& message) {
 }
 
 LRESULT CALLBACK FormWindow::FormProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_NCCREATE) {
+  auto* form = reinterpret_cast<FormWindow*>(GetWindowLongPtrW(hwnd, GWLP_USERDATA));
+  if (message == WM_NCCREATE && form == nullptr) {
     const auto* creation = reinterpret_cast<const CREATESTRUCTW*>(lParam);
     auto* const created = static_cast<FormWindow*>(creation->lpCreateParams);
     created->hwnd_ = hwnd;
     SetWindowLongPtrW(hwnd, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(created));
+    form = created;
   }
-  auto* const form = reinterpret_cast<FormWindow*>(GetWindowLongPtrW(hwnd, GWLP_USERDATA));
   if (form == nullptr) return DefWindowProcW(hwnd, message, wParam, lParam);
   // A handler may destroy the form.
   const std::shared_ptr<FormWindow> alive = form->shared_from_this();
+  if (form->IsForged(message, wParam)) return 0;
   const LRESULT result = form->Process(message, wParam, lParam);
   if (message == WM_NCDESTROY) {
     SetWindowLongPtrW(hwnd, GWLP_USERDATA, 0);
     form->hwnd_ = nullptr;
   }
   return result;
+}
+
+bool FormWindow::IsForged(UINT message, WPARAM wParam) const {
+  if (IsLifeMessage(message)) return watched_ && !destroying_ && IsSentByOthers();
+  return IsForgedActivation(hwnd_, message, wParam);
 }
 
 LRESULT FormWindow::Process(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -154,16 +185,17 @@ LRESULT FormWindow::Process(UINT message, WPARAM wParam, LPARAM lParam) {
       TellPlaced();
       break;
     case WM_GETMINMAXINFO:
-      LimitSize(*reinterpret_cast<MINMAXINFO*>(lParam));
+      if (lParam != 0) LimitSize(*reinterpret_cast<MINMAXINFO*>(lParam));
       break;
     case WM_SIZING:
+      if (lParam == 0) break;
       KeepHeight(wParam, *reinterpret_cast<RECT*>(lParam));
       return TRUE;
     case WM_TIMER:
-      events_.Tell([&](FormEvents& events) { events.OnTimer(static_cast<int>(wParam)); });
+      events_.Tell([&](FormEvents& events) { events.OnTimer(ToId(wParam)); });
       break;
     case WM_DPICHANGED:
-      OnDpiChanged(*reinterpret_cast<const RECT*>(lParam));
+      OnDpiChanged(LOWORD(wParam), lParam);
       break;
     case WM_SETTINGCHANGE:
       if (wParam == SPI_SETNONCLIENTMETRICS) OnMetricsChanged();
@@ -276,7 +308,10 @@ void FormWindow::KeepHeight(WPARAM edge, RECT& place) const {
   }
 }
 
-void FormWindow::OnDpiChanged(const RECT& place) {
+void FormWindow::OnDpiChanged(UINT dpi, LPARAM wanted) {
+  RECT place{};
+  const bool forged = IsSentByOthers() && dpi != GetDpiForWindow(hwnd_);
+  if (forged || !ReadParameter(wanted, place)) return;
   controls_.ChangeDpi();
   SetWindowPos(hwnd_, nullptr, place.left, place.top, place.right - place.left,
                place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);

@@ -50,6 +50,9 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   static LRESULT CALLBACK ControlProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam,
                                            UINT_PTR id, DWORD_PTR form);
 
+  /// True for a message that another program made up: the window's state does not bear it out.
+  bool IsForged(UINT message, WPARAM wParam) const;
+  bool IsForgedForControl(int control, UINT message, LPARAM lParam, bool focused) const;
   LRESULT Process(UINT message, WPARAM wParam, LPARAM lParam);
   /// Messages that controls and pages send; nothing for others.
   std::optional<LRESULT> HandleFromControls(UINT message, WPARAM wParam, LPARAM lParam);
@@ -57,7 +60,9 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   std::optional<LRESULT> HandleEnd(UINT message, WPARAM wParam);
   std::optional<LRESULT> HandleMouse(UINT message, WPARAM wParam, LPARAM lParam);
   void OnCommand(WPARAM wParam, LPARAM lParam);
-  void OnNotify(const NMHDR& notification);
+  void OnNotify(WPARAM wParam);
+  /// A list has closed: Esc may have brought the former choice back without a word.
+  void OnListClosed(int control);
   void OnControl(int control, UINT notification);
   void OnCombo(int control, UINT notification);
   std::optional<LRESULT> ControlColors(HDC dc, HWND window);
@@ -65,10 +70,12 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   void ClickPicture(int control);
   void TellTyped(int control);
   void TellListPicked(int control);
+  /// Tells the choice of a list or tab strip when it is not the model's.
+  void TellIfPicked(int control);
   void TellPlaced();
   void LimitSize(MINMAXINFO& limits) const;
   void KeepHeight(WPARAM edge, RECT& place) const;
-  void OnDpiChanged(const RECT& place);
+  void OnDpiChanged(UINT dpi, LPARAM wanted);
   void OnMetricsChanged();
   void OnColorsChanged();
   void Watch(HWND control, int id);
@@ -86,6 +93,8 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   POINT lastMouse_{};                  // Where the mouse was last told to be, on the screen.
   bool placing_ = false;               // The window is being placed by the model.
   std::optional<PixelPlace> refused_;  // Where Windows put it instead of where the model wanted.
+  bool watched_ = false;               // The window and its controls are complete.
+  bool destroying_ = false;            // The window goes by our own doing.
   bool menuOpen_ = false;              // The user is in the menus.
   bool barOutdated_ = false;           // The menu bar changed meanwhile.
 };

@@ -6,12 +6,16 @@
 #include "forms/windows/control_content.h"
 #include "forms/windows/control_window.h"
 #include "forms/windows/form_window.h"
+#include "forms/windows/message_guard.h"
 
 namespace korvale {
 namespace {
 
-/// Posted when a list has closed: Esc may have brought the former choice back without a word.
-constexpr UINT kListClosed = WM_APP;
+/// Posted to the form when one of its lists has closed, with the control's number.
+UINT ListClosed() {
+  static const UINT message = RegisterWindowMessageW(L"Korvale.ListClosed");
+  return message;
+}
 
 MouseButton HeldButton(WPARAM keys) {
   if ((keys & MK_LBUTTON) != 0) return MouseButton::kLeft;
@@ -82,6 +86,8 @@ LRESULT CALLBACK FormWindow::ControlProcedure(HWND hwnd, UINT message, WPARAM wP
                                               UINT_PTR id, DWORD_PTR form) {
   const auto alive = reinterpret_cast<FormWindow*>(form)->shared_from_this();
   const int control = static_cast<int>(id);
+  const bool focused = message == WM_SETFOCUS && GetFocus() == hwnd;
+  if (alive->IsForgedForControl(control, message, lParam, focused)) return 0;
   if (message == WM_NCDESTROY) {
     RemoveWindowSubclass(hwnd, ControlProcedure, id);
   }
@@ -96,10 +102,20 @@ LRESULT CALLBACK FormWindow::ControlProcedure(HWND hwnd, UINT message, WPARAM wP
   }
   const LRESULT result = DefSubclassProc(hwnd, message, wParam, lParam);
   if (released) alive->TellMouse(control, hwnd, message, wParam, lParam);
-  if (message == WM_SETFOCUS) {
+  if (focused) {
     alive->events_.Tell([&](FormEvents& events) { events.OnFocusMoved(control); });
   }
   return result;
+}
+
+bool FormWindow::IsForgedForControl(int control, UINT message, LPARAM lParam, bool focused) const {
+  if (destroying_ || !IsSentByOthers()) return false;
+  if (IsLifeMessage(message) || message == WM_ACTIVATE) return true;
+  if (message == WM_SETFOCUS) return !focused;
+  // Others cannot know a place in our memory. The tab strip gets such messages from us as well,
+  // those without a place even while another program's message is being handled.
+  const bool tabs = controls_.State(control).kind == ControlKind::kTabStrip;
+  return IsPrivateMessage(message) && (!tabs || lParam != 0);
 }
 
 std::optional<LRESULT> FormWindow::HandleFromControls(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -108,36 +124,45 @@ std::optional<LRESULT> FormWindow::HandleFromControls(UINT message, WPARAM wPara
       OnCommand(wParam, lParam);
       return 0;
     case WM_NOTIFY:
-      OnNotify(*reinterpret_cast<const NMHDR*>(lParam));
+      OnNotify(wParam);
       return 0;
     case WM_CTLCOLORSTATIC:
     case WM_CTLCOLOREDIT:
     case WM_CTLCOLORBTN:
       return ControlColors(reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam));
-    case kListClosed: {
-      const auto control = static_cast<int>(wParam);
-      const HWND window = controls_.Window(control);
-      const int index = ReadListIndex(window, controls_.State(control).kind);
-      if (index >= 0 && index != controls_.State(control).listIndex) TellListPicked(control);
-      return 0;
-    }
     default:
-      return std::nullopt;
+      if (message != ListClosed()) return std::nullopt;
+      OnListClosed(controls_.Find(wParam));
+      return 0;
   }
 }
 
 void FormWindow::OnCommand(WPARAM wParam, LPARAM lParam) {
   if (lParam != 0) {
-    const int control = controls_.IdOf(reinterpret_cast<HWND>(lParam));
-    if (control != 0 && !controls_.Updating()) OnControl(control, HIWORD(wParam));
+    const int control = controls_.Find(LOWORD(wParam));
+    const bool ours = control != 0 && controls_.Window(control) == reinterpret_cast<HWND>(lParam);
+    if (ours && !controls_.Updating()) OnControl(control, HIWORD(wParam));
   } else if (MenuItem* const chosen = menu_.Chosen(LOWORD(wParam))) {
     events_.Tell([&](FormEvents& events) { events.OnMenuClicked(*chosen); });
   }
 }
 
-void FormWindow::OnNotify(const NMHDR& notification) {
-  const int control = controls_.IdOf(notification.hwndFrom);
-  if (control != 0 && notification.code == TCN_SELCHANGE) TellListPicked(control);
+void FormWindow::OnNotify(WPARAM wParam) {
+  // Where the notification lies is not looked at, since another program may have sent it: the tab
+  // strip itself tells whether the user has chosen.
+  const int control = controls_.Find(wParam);
+  if (control == 0 || controls_.State(control).kind != ControlKind::kTabStrip) return;
+  if (!controls_.Updating()) TellIfPicked(control);
+}
+
+void FormWindow::OnListClosed(int control) {
+  if (control != 0 && IsComboKind(controls_.State(control).kind)) TellIfPicked(control);
+}
+
+void FormWindow::TellIfPicked(int control) {
+  const ControlState& state = controls_.State(control);
+  const int index = ReadListIndex(controls_.Window(control), state.kind);
+  if (index >= 0 && index != state.listIndex) TellListPicked(control);
 }
 
 void FormWindow::OnControl(int control, UINT notification) {
@@ -165,7 +190,7 @@ void FormWindow::OnCombo(int control, UINT notification) {
       events_.Tell([&](FormEvents& events) { events.OnListDropDown(control); });
       break;
     case CBN_CLOSEUP:
-      PostMessageW(hwnd_, kListClosed, static_cast<WPARAM>(control), 0);
+      PostMessageW(hwnd_, ListClosed(), static_cast<WPARAM>(control), 0);
       events_.Tell([&](FormEvents& events) { events.OnListClosedUp(control); });
       break;
     default:

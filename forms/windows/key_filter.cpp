@@ -6,6 +6,9 @@ namespace {
 /// In a key message: the key was down before.
 constexpr LPARAM kWasDown = 1L << 30;
 
+/// Keys and characters are no greater, whatever another program posts.
+constexpr WPARAM kHighestUnit = 0xFFFF;
+
 bool IsSurrogate(WPARAM unit) { return unit >= 0xD800 && unit <= 0xDFFF; }
 
 /// Characters that a one-line text box has no use for and would beep at.
@@ -25,6 +28,7 @@ unsigned HeldShiftState() {
 }
 
 bool KeyFilter::Filter(const MSG& message) {
+  if (message.wParam > kHighestUnit) return false;
   const int control = controls_->IdOf(message.hwnd);
   switch (message.message) {
     case WM_KEYDOWN:

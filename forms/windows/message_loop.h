@@ -5,6 +5,8 @@
 #include <functional>
 #include <memory>
 
+#include "forms/windows/message_guard.h"
+
 namespace korvale {
 
 class FormWindow;
@@ -36,6 +38,7 @@ class MessageLoop {
   void TakeQuit();
 
   FindForm findForm_;
+  MessageGuard guard_;
   bool quitPosted_ = false;
 };
 

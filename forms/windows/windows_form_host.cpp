@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "forms/windows/control_content.h"
+#include "forms/windows/message_guard.h"
 #include "platform/windows/text.h"
 
 namespace korvale {
@@ -29,6 +30,11 @@ TwipsRect WorkAreaOf(HMONITOR monitor) {
   info.cbSize = sizeof(info);
   ::GetMonitorInfoW(monitor, &info);
   return ToScreenTwips(info.rcWork, GetDpiForSystem());
+}
+
+LRESULT CALLBACK OwnerProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (IsForgedActivation(hwnd, message, wParam)) return 0;
+  return DefWindowProcW(hwnd, message, wParam, lParam);
 }
 
 }  // namespace

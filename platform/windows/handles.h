@@ -20,6 +20,7 @@ struct Closer {
   void operator()(HICON icon) const { DestroyIcon(icon); }
   void operator()(HMENU menu) const { DestroyMenu(menu); }
   void operator()(HWND window) const { DestroyWindow(window); }
+  void operator()(HHOOK hook) const { UnhookWindowsHookEx(hook); }
 };
 
 /// Owns one Windows object and gives it back when it goes.
@@ -62,5 +63,6 @@ using UniqueFont = UniqueHandle<HFONT>;
 using UniqueIcon = UniqueHandle<HICON>;
 using UniqueMenu = UniqueHandle<HMENU>;
 using UniqueWindow = UniqueHandle<HWND>;
+using UniqueHook = UniqueHandle<HHOOK>;
 
 }  // namespace korvale

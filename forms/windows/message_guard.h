@@ -1,0 +1,35 @@
+#pragma once
+
+#include <windows.h>
+
+#include "platform/windows/handles.h"
+
+namespace korvale {
+
+/// Any program may put any message into the queue of our windows. While this stands, those that
+/// Windows itself never queues, and those that would make a window follow a pointer, arrive as
+/// WM_NULL, in every message loop of the thread that made it (WH_GETMESSAGE).
+class MessageGuard {
+ public:
+  MessageGuard();
+
+ private:
+  UniqueHook hook_;
+};
+
+/// True while the message being handled was sent by another thread (InSendMessage).
+bool IsSentByOthers();
+
+/// True for the messages that make and end a window.
+bool IsLifeMessage(UINT message);
+
+/// True for messages whose meaning is each window class's own, which may be pointers.
+bool IsPrivateMessage(UINT message);
+
+/// True for a WM_ACTIVATE that tells a window of its activation when it is not the active one.
+bool IsForgedActivation(HWND window, UINT message, WPARAM wParam);
+
+/// Copies a structure that a message points to; false when there is none to read.
+bool ReadParameter(LPARAM address, RECT& value);
+
+}  // namespace korvale

@@ -1,0 +1,211 @@
+#include <windows.h>
+// After windows.h, which it needs.
+#include <commctrl.h>
+
+#include <cstdint>
+#include <map>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "tests/endtoend/korvale_test.h"
+
+namespace korvale::endtoend {
+namespace {
+
+constexpr char kClass[] = "Test.Window";
+
+struct Rude {
+  UINT message;
+  WPARAM wparam;
+  LPARAM lparam;
+};
+
+/// What other programs have no business to send. Left out is what they may: asking a window to
+/// close, to paint, to take a text or a key, ending the session, and messages that stand for the
+/// user's own hot key or menu entry.
+std::vector<UINT> Queued() {
+  std::vector<UINT> messages = {
+      WM_CREATE,        WM_DESTROY,        WM_MOVE,          WM_SIZE,
+      WM_ACTIVATE,      WM_SETFOCUS,       WM_GETMINMAXINFO, WM_DRAWITEM,
+      WM_MEASUREITEM,   WM_DELETEITEM,     WM_COMPAREITEM,   WM_WINDOWPOSCHANGING,
+      WM_COPYDATA,      WM_NOTIFY,         WM_HELP,          WM_NCCREATE,
+      WM_NCDESTROY,     WM_COMMAND,        WM_TIMER,         WM_HOTKEY,
+      WM_INITMENUPOPUP, WM_MENUSELECT,     WM_ENTERMENULOOP, WM_CTLCOLOREDIT,
+      WM_CTLCOLORBTN,   WM_CTLCOLORSTATIC, WM_SIZING,        WM_DPICHANGED,
+      WM_SETCURSOR,     WM_SYSCOLORCHANGE, WM_APP,           WM_APP + 1,
+      TTM_ADDTOOLW,     TTM_RELAYEVENT,    TCM_INSERTITEMW,  TCM_SETITEMW,
+      BCM_GETIDEALSIZE, EM_SETCUEBANNER,   CB_SETCUEBANNER};
+  messages.push_back(RegisterWindowMessageW(L"Korvale.ListClosed"));
+  return messages;
+}
+
+/// Those whose parameters the system hands on as they are.
+std::vector<UINT> Sent() {
+  std::vector<UINT> messages = {WM_DESTROY,       WM_NCDESTROY,    WM_ACTIVATE,       WM_SETFOCUS,
+                                WM_COMMAND,       WM_TIMER,        WM_HOTKEY,         WM_MENUSELECT,
+                                WM_ENTERMENULOOP, WM_CTLCOLOREDIT, WM_CTLCOLORSTATIC, WM_DPICHANGED,
+                                WM_APP,           WM_APP + 1,      TCM_INSERTITEMW,   TCM_SETITEMW,
+                                BCM_GETIDEALSIZE, EM_SETCUEBANNER};
+  messages.push_back(RegisterWindowMessageW(L"Korvale.ListClosed"));
+  return messages;
+}
+
+/// A message that is as good as the user's own doing.
+bool MayBeMeant(const Rude& rude) {
+  const bool menuEntry = rude.message == WM_COMMAND && rude.lparam == 0 &&
+                         LOWORD(rude.wparam) >= 0x1000 && LOWORD(rude.wparam) < 0xE000;
+  const bool hotKey = rude.message == WM_HOTKEY && rude.wparam >= 1 && rude.wparam <= 15;
+  return menuEntry || hotKey;
+}
+
+/// Controls get fewer values than the windows that hold them: there are many.
+std::vector<Rude> WithEachValue(const std::vector<UINT>& messages, bool control) {
+  std::vector<std::uint64_t> values = {64, ~std::uint64_t{0}};
+  if (!control) {
+    std::mt19937_64 dice(20);
+    for (const std::uint64_t more : {0ULL, 1ULL, 19ULL, 0x7FFFFFFFULL, dice() >> 32U, dice()}) {
+      values.push_back(more);
+    }
+  }
+  std::vector<Rude> all;
+  for (const UINT message : messages) {
+    for (const std::uint64_t first : values) {
+      for (const std::uint64_t second : values) {
+        const Rude rude{message, first, static_cast<LPARAM>(second)};
+        if (!MayBeMeant(rude)) all.push_back(rude);
+      }
+    }
+  }
+  return all;
+}
+
+bool IsControl(Window window) { return (window.Style() & WS_CHILD) != 0; }
+
+BOOL CALLBACK CollectChild(HWND child, LPARAM windows) {
+  reinterpret_cast<std::vector<Window>*>(windows)->emplace_back(child);
+  return TRUE;
+}
+
+class RudePrograms : public KorvaleTest {
+ protected:
+  /// Every window of the program, those that are never shown and all controls too.
+  std::vector<Window> AllWindows() {
+    std::vector<Window> all;
+    for (const Window window : TopLevelWindows()) {
+      const bool ours =
+          window.ProcessId() == main().ProcessId() &&
+          (window.ClassName().starts_with("Korvale.") || window.ClassName() == "tooltips_class32");
+      if (!ours) continue;
+      all.push_back(window);
+      EnumChildWindows(window.handle(), CollectChild, reinterpret_cast<LPARAM>(&all));
+    }
+    return all;
+  }
+
+  void Post() {
+    for (const Window window : AllWindows()) {
+      for (const Rude& rude : WithEachValue(Queued(), IsControl(window))) {
+        PostMessageW(window.handle(), rude.message, rude.wparam, rude.lparam);
+      }
+      ASSERT_TRUE(window.Responds()) << Describe(window);
+    }
+  }
+
+  void Send() {
+    for (const Window window : AllWindows()) {
+      if (window.ClassName() == "tooltips_class32") continue;
+      for (const Rude& rude : WithEachValue(Sent(), IsControl(window))) {
+        window.Send(rude.message, rude.wparam, rude.lparam);
+        ASSERT_TRUE(window.Exists()) << rude.message;
+      }
+    }
+  }
+
+  void PostAndSend() {
+    Post();
+    Send();
+    EXPECT_TRUE(main().Responds());
+    EXPECT_FALSE(korvale_->HasMessageBox());
+  }
+
+  /// Two tagged windows, the first of them in front.
+  void StartWithTags() {
+    installation_.StoreTag(1, "Alpha", kClass);
+    installation_.StoreTag(2, "Beta", kClass);
+    Start();
+    beta_ = Open("Beta");
+    ASSERT_TRUE(WorkIn(beta_));
+    alpha_ = Open("Alpha");
+    ASSERT_TRUE(WorkIn(alpha_));
+    options_ = installation_.settings().Section("Options");
+    ASSERT_FALSE(options_.empty());
+  }
+
+  void ExpectAllToWork() {
+    ASSERT_TRUE(korvale_->process().Running());
+    Press(TagKey(2));
+    EXPECT_TRUE(InFront(beta_));
+    Press(TagKey(1));
+    EXPECT_TRUE(InFront(alpha_));
+    Press(TagKey(0));
+    EXPECT_TRUE(InFront(beta_));
+    ASSERT_TRUE(OpenWindowMenu());
+    Press({0, VK_ESCAPE});
+    Press({0, VK_ESCAPE});
+    EXPECT_TRUE(WaitFor([&] { return !korvale_->HasMenu(); }));
+    EXPECT_TRUE(Exit());
+    EXPECT_EQ(installation_.settings().Section("Options"), options_);
+  }
+
+  Window alpha_;
+  Window beta_;
+  std::map<std::string, std::string> options_;
+};
+
+TEST_F(RudePrograms, ChangeNothingInTheMainWindow) {
+  StartWithTags();
+  PostAndSend();
+  EXPECT_TRUE(InFront(alpha_));
+  ExpectAllToWork();
+}
+
+TEST_F(RudePrograms, ChangeNothingInTheOptionsDialog) {
+  StartWithTags();
+  Press(kOptionsKey);
+  const Window options = korvale_->Form("frmOptions");
+  ASSERT_TRUE(options);
+  ASSERT_TRUE(InFront(options));
+  PostAndSend();
+  EXPECT_TRUE(InFront(options));
+  Press({0, VK_RETURN});
+  EXPECT_TRUE(WaitFor([&] { return !korvale_->HasForm("frmOptions"); }));
+  ASSERT_TRUE(WorkIn(alpha_));
+  ExpectAllToWork();
+}
+
+TEST_F(RudePrograms, ChangeNothingInTheAddWindowDialog) {
+  StartWithTags();
+  const AddWindowDialog dialog = OpenAddWindow();
+  const std::string tag = dialog.SelectedTag();
+  PostAndSend();
+  EXPECT_EQ(dialog.SelectedTag(), tag);
+  EXPECT_TRUE(dialog.Cancel());
+  ASSERT_TRUE(WorkIn(alpha_));
+  ExpectAllToWork();
+}
+
+TEST_F(RudePrograms, LeaveAMessageToTheUser) {
+  installation_.StoreTag(3, "Nowhere", kClass);
+  StartWithTags();
+  Press(TagKey(3));
+  const Window message = korvale_->MessageBox();
+  ASSERT_TRUE(message);
+  Post();
+  EXPECT_TRUE(Says("Window:  [Nowhere]  is not open."));
+  ASSERT_TRUE(WorkIn(alpha_));
+  ExpectAllToWork();
+}
+
+}  // namespace
+}  // namespace korvale::endtoend
