@@ -64,12 +64,10 @@ constexpr UINT kNeverQueued[] = {WM_CREATE,
 
 bool IsOurs(HWND window) {
   constexpr std::wstring_view kOurClasses = L"Korvale.";
-  constexpr std::wstring_view kToolTips = L"tooltips_class32";
   std::array<wchar_t, 64> name{};
   const int length =
       GetClassNameW(GetAncestor(window, GA_ROOT), name.data(), static_cast<int>(name.size()));
-  const std::wstring_view root(name.data(), static_cast<std::size_t>(length));
-  return root.starts_with(kOurClasses) || root == kToolTips;
+  return std::wstring_view(name.data(), static_cast<std::size_t>(length)).starts_with(kOurClasses);
 }
 
 bool CanOnlyBeForged(const MSG& message) {

@@ -11,7 +11,7 @@ bool Crash(Window window) {
     return candidate.ProcessId() == window.ProcessId() &&
            candidate.ClassName() == "tooltips_class32";
   });
-  return SendNotifyMessageW(tips.handle(), TTM_ADDTOOLW, 0, kNoPlaceInMemory) != 0;
+  return PostMessageW(tips.handle(), TTM_ADDTOOLW, 0, kNoPlaceInMemory) != 0;
 }
 
 }  // namespace korvale::endtoend
