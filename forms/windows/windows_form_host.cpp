@@ -32,11 +32,6 @@ TwipsRect WorkAreaOf(HMONITOR monitor) {
   return ToScreenTwips(info.rcWork, GetDpiForSystem());
 }
 
-LRESULT CALLBACK OwnerProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (IsForgedActivation(hwnd, message, wParam)) return 0;
-  return DefWindowProcW(hwnd, message, wParam, lParam);
-}
-
 }  // namespace
 
 WindowsFormHost::WindowsFormHost(HINSTANCE instance)
@@ -70,6 +65,7 @@ HWND WindowsFormHost::OwnerOf(const FormState& form) const {
 
 LRESULT CALLBACK WindowsFormHost::OwnerProcedure(HWND hwnd, UINT message, WPARAM wParam,
                                                  LPARAM lParam) {
+  if (IsForgedActivation(hwnd, message, wParam)) return 0;
   // Destroyed, it would take all forms with it, and nobody would know.
   if (message != WM_CLOSE) return DefWindowProcW(hwnd, message, wParam, lParam);
   const auto* const host =
@@ -185,7 +181,7 @@ Twips WindowsFormHost::GetTextExtentPoint32W(WindowHandle hwnd, const std::strin
   NONCLIENTMETRICSW metrics{};
   metrics.cbSize = sizeof(metrics);
   SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof(metrics), &metrics, 0,
-                             GetDpiForWindow(ToHwnd(hwnd)));
+                             ::GetDpiForWindow(ToHwnd(hwnd)));
   const UniqueFont font(CreateFontIndirectW(&metrics.lfMenuFont));
   const HDC screen = GetDC(nullptr);
   const HGDIOBJ before = SelectObject(screen, font.Get());

@@ -11,7 +11,7 @@ void TellAll(Form& form, int control) {
   form.OnListPicked(control, 0);
   form.OnListDropDown(control);
   form.OnListClosedUp(control);
-  form.OnKeyDown(control, 'A', kNoShift);
+  form.OnKeyDown(control, 'A', kNoShift, false);
   form.OnKeyUp(control, 'A', kNoShift);
   form.OnCharacter(control, U'\u00E4', kNoShift);
   form.OnMouse(control, {});
