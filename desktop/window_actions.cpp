@@ -111,11 +111,10 @@ WindowTriple WindowActions::MinimizeForeground(WindowHandle hwnd) {
   const WindowHandle owner = GetRelatedWindow(*windows_, hwnd, 2);
   const WindowHandle target = owner != 0 ? owner : hwnd;
   ShowDesktopWindow(target, win32::kSwMinimize);
-  // Windows itself brings some window forward then, which must not come after the next step.
-  requests_->Await(target, [&] {
-    const WindowHandle inFront = windows_->GetForegroundWindow();
-    return windows_->IsIconic(target) && inFront != hwnd && inFront != 0;
-  });
+  // Windows itself may bring some window forward then, which must not come after the next step.
+  if (requests_->Await(target, [&] { return windows_->IsIconic(target); })) {
+    requests_->AwaitAnswer(target);
+  }
   WindowTriple& next = previous_->OfTagZero(mainWindow_->FocusTag() == kGotFocus);
   if (!windows_->IsWindowVisible(next.handle) || windows_->IsIconic(next.handle)) return {};
   return ActivateWindow(next, false, true) == kActivationDone ? next : WindowTriple{};

@@ -150,8 +150,9 @@ void WindowEnumeration::Minimize(WindowHandle hwnd) {
 /// A restored window comes to the front, each above the one before.
 void WindowEnumeration::Restore(WindowHandle hwnd) {
   requests_->Show(hwnd, win32::kSwRestore);
-  requests_->AwaitOneOfMany(
-      hwnd, [&] { return !windows_->IsIconic(hwnd) && windows_->GetForegroundWindow() == hwnd; });
+  if (requests_->AwaitOneOfMany(hwnd, [&] { return !windows_->IsIconic(hwnd); })) {
+    requests_->AwaitAnswer(hwnd);
+  }
 }
 
 bool WindowEnumeration::CanMinimizeOrRestore(WindowHandle hwnd, bool iconic) const {

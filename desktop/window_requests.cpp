@@ -43,6 +43,17 @@ bool WindowRequests::Await(WindowHandle hwnd, const std::function<bool()>& done)
   return AwaitFor(hwnd, PatienceLeft(), done);
 }
 
+bool WindowRequests::AwaitAnswer(WindowHandle hwnd) {
+  const std::uint64_t left = PatienceLeft() / 2;
+  if (IsOurs(hwnd)) return true;
+  if (left == 0 || windows_->IsHungAppWindow(hwnd)) return false;
+  const std::uint64_t start = clock_->GetTickCount64();
+  const bool answered =
+      commands_->SendMessageTimeoutW(hwnd, win32::kWmNull, static_cast<std::uint32_t>(left));
+  Spend(start);
+  return answered;
+}
+
 bool WindowRequests::AwaitOneOfMany(WindowHandle hwnd, const std::function<bool()>& done) {
   return AwaitFor(hwnd, PatienceLeft() / 2, done);
 }
@@ -58,17 +69,20 @@ bool WindowRequests::AwaitFor(WindowHandle hwnd, std::uint64_t milliseconds,
                               const std::function<bool()>& done) {
   constexpr std::uint32_t kStep = 1;
   const std::uint64_t start = clock_->GetTickCount64();
-  std::uint64_t waited = 0;
   bool came = done();
-  while (!came && waited < milliseconds && windows_->IsWindow(hwnd) &&
+  while (!came && clock_->GetTickCount64() - start < milliseconds && windows_->IsWindow(hwnd) &&
          !windows_->IsHungAppWindow(hwnd)) {
     clock_->Sleep(kStep);
-    waited = clock_->GetTickCount64() - start;
     came = done();
   }
-  lastWait_ = start + waited;
-  spent_ += waited;
+  Spend(start);
   return came;
+}
+
+/// Takes the time since then from the patience.
+void WindowRequests::Spend(std::uint64_t start) {
+  lastWait_ = clock_->GetTickCount64();
+  spent_ += lastWait_ - start;
 }
 
 }  // namespace korvale

@@ -14,8 +14,9 @@ namespace korvale {
 /// none can hold up the program; what the next step needs is waited for, but only shortly.
 class WindowRequests {
  public:
-  /// The longest that waits following each other may take together, in ms.
-  static constexpr std::uint64_t kPatience = 100;
+  /// The longest that waits following each other may take together, in ms; each may end a tick of
+  /// the system's timer (16 ms) late.
+  static constexpr std::uint64_t kPatience = 80;
 
   WindowRequests(WindowQueries& windows, WindowCommands& commands, const MainWindow& mainWindow,
                  Clock& clock);
@@ -31,6 +32,9 @@ class WindowRequests {
   /// Waits for what was asked of the window. True as soon as `done` holds; false when it does not
   /// although the patience is used up, or the window hangs or is gone.
   bool Await(WindowHandle hwnd, const std::function<bool()>& done);
+  /// Waits until the window's thread has finished what it is doing (SendMessageTimeoutW), for half
+  /// of the patience that is left. False when it has not by then, or the window hangs or is gone.
+  bool AwaitAnswer(WindowHandle hwnd);
   /// As Await, for one window of several: takes half of the patience that is left, so that a busy
   /// one leaves some to the others.
   bool AwaitOneOfMany(WindowHandle hwnd, const std::function<bool()>& done);
@@ -38,6 +42,7 @@ class WindowRequests {
  private:
   bool IsOurs(WindowHandle hwnd);
   std::uint64_t PatienceLeft();
+  void Spend(std::uint64_t start);
   bool AwaitFor(WindowHandle hwnd, std::uint64_t milliseconds, const std::function<bool()>& done);
 
   WindowQueries* windows_;

@@ -115,6 +115,12 @@ bool WindowsWindowApi::SetForegroundWindow(WindowHandle hwnd) {
   return ::SetForegroundWindow(ToHwnd(hwnd)) != FALSE;
 }
 
+bool WindowsWindowApi::SendMessageTimeoutW(WindowHandle hwnd, std::uint32_t message,
+                                           std::uint32_t milliseconds) {
+  return ::SendMessageTimeoutW(ToHwnd(hwnd), message, 0, 0, SMTO_ABORTIFHUNG | SMTO_BLOCK,
+                               milliseconds, nullptr) != 0;
+}
+
 bool WindowsWindowApi::PostMessageW(WindowHandle hwnd, std::uint32_t message) {
   return ::PostMessageW(ToHwnd(hwnd), message, 0, 0) != FALSE;
 }

@@ -96,6 +96,15 @@ TEST_F(BusyWindows, TheMinimizeKeyWaitsUntilWindowsHasBroughtTheNextOne) {
   EXPECT_EQ(desktop.ForegroundTitle(), "Alpha");
 }
 
+TEST_F(BusyWindows, TheMinimizeKeyDoesNotWaitWhereNothingComesForward) {
+  desktop.UserMinimizes(alpha);
+  desktop.UserMinimizes(mainWindow.handle);
+  desktop.UserActivates(beta);
+  actions.MinimizeOrMaximizeForeground("HOTKEY_MINIMIZE_PARENT");
+  EXPECT_TRUE(desktop.IsIconic(beta));
+  EXPECT_EQ(Waited(), 0U);
+}
+
 TEST_F(BusyWindows, TheMaximizeKeyDoesNotWait) {
   desktop.SetBusy(beta, kLong);
   actions.MinimizeOrMaximizeForeground("HOTKEY_RESTORE/MAXIMIZE_PARENT");

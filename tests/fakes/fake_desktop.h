@@ -91,6 +91,8 @@ class FakeDesktop : public WindowQueries, public WindowCommands {
   bool SetWindowPos(WindowHandle hwnd, WindowHandle insertAfter, int x, int y, int width,
                     int height, std::uint32_t flags) override;
   bool SetForegroundWindow(WindowHandle hwnd) override;
+  bool SendMessageTimeoutW(WindowHandle hwnd, std::uint32_t message,
+                           std::uint32_t milliseconds) override;
   bool PostMessageW(WindowHandle hwnd, std::uint32_t message) override;
 
  private:

@@ -192,6 +192,17 @@ bool FakeDesktop::SetForegroundWindow(WindowHandle hwnd) {
   return true;
 }
 
+bool FakeDesktop::SendMessageTimeoutW(WindowHandle hwnd, std::uint32_t message,
+                                      std::uint32_t milliseconds) {
+  log_.AddRead("SendMessageTimeoutW(" + log_.Window(hwnd) + ", " + HexText(message) + ")");
+  const FakeWindow* const window = windows_.Find(hwnd);
+  if (window == nullptr || window->hung) return false;
+  if (!IsBusy(*window)) return true;
+  const std::uint64_t busy = window->busyUntil - clock_->GetTickCount64();
+  clock_->Sleep(static_cast<std::uint32_t>(std::min<std::uint64_t>(busy, milliseconds)));
+  return busy <= milliseconds && windows_.Find(hwnd) != nullptr;
+}
+
 bool FakeDesktop::PostMessageW(WindowHandle hwnd, std::uint32_t message) {
   log_.Add("PostMessageW(" + log_.Window(hwnd) + ", " + HexText(message) + ")");
   if (windows_.Find(hwnd) == nullptr) return false;
