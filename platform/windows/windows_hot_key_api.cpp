@@ -60,6 +60,8 @@ bool WindowsHotKeyApi::UnregisterHotKey(WindowHandle hwnd, int id) {
 }
 
 bool WindowsHotKeyApi::PeekMessageW(WindowHandle hwnd, std::uint32_t message) {
+  // Taking a message lets messages that other threads send come in, which nothing here awaits.
+  if (message == WM_HOTKEY && (HIWORD(GetQueueStatus(QS_HOTKEY)) & QS_HOTKEY) == 0) return false;
   constexpr UINT kPosted = PM_REMOVE | PM_QS_POSTMESSAGE;
   MSG taken;
   if (::PeekMessageW(&taken, ToHwnd(hwnd), message, message, kPosted) == FALSE) return false;
