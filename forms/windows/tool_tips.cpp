@@ -10,8 +10,6 @@ namespace {
 
 constexpr Twips kWidestTip = 6000;
 constexpr int kMillisecondsToRead = 20000;
-/// The room beside a text that the blanks around it stand for.
-constexpr Twips kBlank = 45;
 
 std::wstring WithoutBlanks(const std::wstring& text) {
   const std::size_t start = text.find_first_not_of(L' ');
@@ -38,10 +36,6 @@ void ToolTips::Create(HWND form, HINSTANCE instance) {
                                 CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, form, nullptr,
                                 instance, nullptr));
   SendMessageW(window_.Get(), TTM_SETMAXTIPWIDTH, 0, ToPixels(kWidestTip, GetDpiForWindow(form)));
-  // Blanks in the text itself would stand before the first of several lines only.
-  const int blank = ToPixels(kBlank, GetDpiForWindow(form));
-  const RECT margin{blank, 0, blank, 0};
-  SendMessageW(window_.Get(), TTM_SETMARGIN, 0, reinterpret_cast<LPARAM>(&margin));
   SendMessageW(window_.Get(), TTM_SETDELAYTIME, TTDT_AUTOPOP, kMillisecondsToRead);
 }
 
@@ -78,12 +72,24 @@ void ToolTips::Relay(const MSG& message) {
 
 void ToolTips::Add(HWND window, UINT_PTR id, UINT flags, const RECT& area,
                    const std::wstring& text) {
-  std::wstring copy = WithoutBlanks(text);
+  // Of several lines only the first would begin with the blank.
+  std::wstring copy = FitsOneLine(text) ? text : WithoutBlanks(text);
   TTTOOLINFOW tool = Tool(window, id);
   tool.uFlags = flags;
   tool.rect = area;
   tool.lpszText = copy.data();
   SendMessageW(window_.Get(), TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+bool ToolTips::FitsOneLine(const std::wstring& text) const {
+  const HDC dc = GetDC(window_.Get());
+  const auto font = reinterpret_cast<HGDIOBJ>(SendMessageW(window_.Get(), WM_GETFONT, 0, 0));
+  const HGDIOBJ before = font == nullptr ? nullptr : SelectObject(dc, font);
+  SIZE size{};
+  GetTextExtentPoint32W(dc, text.c_str(), static_cast<int>(text.size()), &size);
+  if (before != nullptr) SelectObject(dc, before);
+  ReleaseDC(window_.Get(), dc);
+  return size.cx <= SendMessageW(window_.Get(), TTM_GETMAXTIPWIDTH, 0, 0);
 }
 
 void ToolTips::Remove(HWND window, UINT_PTR id) {

@@ -23,6 +23,7 @@ class ToolTips {
  private:
   void Add(HWND window, UINT_PTR id, UINT flags, const RECT& area, const std::wstring& text);
   void Remove(HWND window, UINT_PTR id);
+  bool FitsOneLine(const std::wstring& text) const;
 
   HWND form_ = nullptr;
   UniqueWindow window_;

@@ -42,7 +42,14 @@ inline constexpr std::array kContractControls = {
                "",
                -1,
                kDefaultButton},
-    ControlRow{ControlKind::kButton, "cmdStay", -1, "&Stay", "", {4500, 600, 1200, 375}},
+    ControlRow{
+        ControlKind::kButton,
+        "cmdStay",
+        -1,
+        "&Stay",
+        " a text that is so long that no tool tip has room for all of it in one line, so that "
+        "the words at its end stand below the first ones ",
+        {4500, 600, 1200, 375}},
     ControlRow{ControlKind::kButton,
                "cmdClose",
                -1,
