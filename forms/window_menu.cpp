@@ -218,6 +218,7 @@ void WindowMenu::mnuWindowMinimizeAll_Click() {
 void WindowMenu::mnuWindowRestoreAll_Click() {
   if (!windowSearch) {
     parts_.actions.RestoreAll();
+    selected = parts_.mainWindow.MainHandle();
   }
   parts_.refreshMenus();
 }

@@ -66,8 +66,12 @@ TEST_F(WindowMenuPopUpTest, ItsSwitchesLeaveTheUserWhereHeWorks) {
   KorvaleCopy& korvale = StartedInBeta();
   PopUpAndChoose(korvale, "Korvale  Always On Top");
   EXPECT_EQ(Front(), "Beta");
+}
+
+TEST_F(WindowMenuPopUpTest, RestoreAllEndsInTheMainWindow) {
+  KorvaleCopy& korvale = StartedInBeta();
   PopUpAndChoose(korvale, "Restore All");
-  EXPECT_EQ(Front(), "Beta");
+  EXPECT_EQ(Front(), "Korvale - Work");
 }
 
 TEST_F(WindowMenuPopUpTest, TheAddWindowDialogLeadsBackToWhereTheUserCameFrom) {
