@@ -69,9 +69,7 @@ void StartUp::EndIfUnloaded(frmMain& form) {
   }
 }
 
-void StartUp::FixIdentity(frmMain& form) {
-  form.SetCaption(form.Parts().identity.mainCaption);
-}
+void StartUp::FixIdentity(frmMain& form) { form.SetCaption(form.Parts().identity.mainCaption); }
 
 void StartUp::RunInstallation(frmMain& form) {
   MainParts& parts = form.Parts();

@@ -109,8 +109,8 @@ void FormWindow::ShowPlace() {
 }
 
 void FormWindow::ShowMenuBar() {
-  barOutdated_ = menuOpen_ && IsInMenus();  // A menu must not change under the user.
-  if (!barOutdated_) menu_.ShowBar(hwnd_);
+  barOutdated_ = menuOpen_;  // A menu must not change under the user.
+  if (!menuOpen_) menu_.ShowBar(hwnd_);
 }
 
 void FormWindow::Show(int command) {
@@ -241,7 +241,8 @@ std::optional<LRESULT> FormWindow::HandleMenu(UINT message, WPARAM wParam, LPARA
       return 0;
     }
     case WM_ENTERMENULOOP:
-      menuOpen_ = true;
+      // Another program's word counts only where it holds: it would keep the bar as it is for good.
+      menuOpen_ = !IsSentByOthers() || IsInMenus();
       return std::nullopt;
     case WM_EXITMENULOOP:
       menuOpen_ = false;
