@@ -4,8 +4,8 @@
 
 namespace korvale::endtoend {
 
-/// Lets the program of that window crash: its tool tips get a message with a bad pointer, which no
-/// program looks at before the system's own code follows it. False when there are no tool tips.
+/// Lets the program of that window crash: the next message that its message loop takes leads
+/// it to a place where no memory is. False when that cannot be arranged.
 bool Crash(Window window);
 
 }  // namespace korvale::endtoend
