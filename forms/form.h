@@ -141,7 +141,7 @@ class Form : public FormEvents {
   virtual void Form_Resize() {}
   /// The system's colours have changed; those that the form chose by them must follow.
   virtual void Form_SysColorChange() {}
-  /// The user, or Windows for him, has put the form to another place without resizing it.
+  /// The user, or Windows for them, has put the form to another place without resizing it.
   virtual void Form_Move() {}
   virtual void Form_MouseMove(const MouseInput& input);
   virtual void Control_Mouse(Control& control, const MouseInput& input);

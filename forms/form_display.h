@@ -13,7 +13,7 @@ namespace korvale {
 /// What the callers of ShowFormModal pass as its milliseconds.
 inline constexpr std::int32_t kForegroundWait = 1000;
 
-/// Where a form shall come up, in twips of the screen; -1 = no wish.
+/// Where a form is to come up, in twips of the screen; -1 = no wish.
 struct PlaceHints {
   Twips left = -1;
   Twips top = -1;

@@ -30,7 +30,7 @@ void FillHotKeyLists(Form& form);
 /// while Shift, Ctrl or Alt is held, or with the arrow keys of an open list.
 class KeyListKeys {
  public:
-  /// A key went down in a key list; `repeated` as it is held. Sets `key` to 0 when the list shall
+  /// A key went down in a key list; `repeated` as it is held. Sets `key` to 0 when the list must
   /// not see it: a closed list takes keys for its entries in another way, and opens with F4.
   void Down(const Control& list, int& key, unsigned shift, bool repeated);
   /// A key came up in a key list: selects its entry and sets `key` to 0 when the list saw it

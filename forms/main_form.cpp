@@ -82,7 +82,7 @@ void frmMain::udmLoadOptions() { parts_.settings.LoadOptions(parts_.options.Get(
 void frmMain::udmSaveOptions() { parts_.settings.SaveOptions(parts_.options.Get()); }
 
 void frmMain::udmDeleteOptions() {
-  // A failed deletion stops nothing, but the user shall not take old values for defaults.
+  // A failed deletion stops nothing, but the user must not take old values for defaults.
   SaveOrTell([this] { parts_.settings.DeleteOptions(); });
 }
 

@@ -32,7 +32,7 @@ class ProgramLifetime {
  public:
   virtual ~ProgramLifetime() = default;
 
-  /// The body of the load handler; leaves with ProgramEnded when the program shall not run.
+  /// The body of the load handler; leaves with ProgramEnded when the program must not run.
   virtual void Initialise(frmMain& form) = 0;
   virtual void FirstActivation(frmMain& form) = 0;
   /// The one way down; `booNormalShutDown` saves the settings first.

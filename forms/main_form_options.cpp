@@ -13,7 +13,7 @@ void frmMain::udmOptions(const std::string& strMode) {
     return;
   }
   if (!optionsForm_.IsLoaded()) {
-    // Where the user is now they shall be again when the dialog closes.
+    // When the dialog closes, the user must be back where they are now.
     parts_.tracker.LookAtForeground();
     optionsForm_.Load();
     optionsForm_.SetCaption(parts_.identity.productName + " - Options");

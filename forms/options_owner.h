@@ -29,7 +29,7 @@ class OptionsDialogOwner {
 
   virtual HotKeyTable& HotKeys() = 0;
   virtual MessageBoxes& Messages() = 0;
-  /// Lets the user choose a colour, starting with `initial`; nothing when he cancels.
+  /// Lets the user choose a colour, starting with `initial`; nothing when they cancel.
   virtual std::optional<Color> udmShowColorPalette(Color initial) = 0;
   virtual void SetMousePointer(MousePointer pointer) = 0;
 

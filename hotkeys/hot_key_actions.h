@@ -20,7 +20,7 @@ class HotKeyActions {
   virtual void BringOptionsToFront() = 0;
   virtual void udmOptions(const std::string& strMode) = 0;
   /// Pops the Window menu up at the mouse position and carries out what the user chooses. Returns
-  /// the window that he has gone to by one of its entries, 0 = none.
+  /// the window that they have gone to by one of its entries, 0 = none.
   virtual WindowHandle PopUpWindowMenu() = 0;
   virtual void SetWindowMenuTag(const std::string& tag) = 0;
   /// The hot keys were registered anew: what shows refused ones is out of date.

@@ -54,12 +54,12 @@ class FormEvents {
   virtual void OnListDropDown(int control) = 0;
   virtual void OnListClosedUp(int control) = 0;
   /// A key went down or up while `control` had the focus, before the control sees it; true when it
-  /// has been dealt with and the control shall not see it.
+  /// has been dealt with and the control must not see it.
   /// `repeated`: Windows repeats a key that was down already.
   virtual bool OnKeyDown(int control, int virtualKey, unsigned shift, bool repeated) = 0;
   virtual bool OnKeyUp(int control, int virtualKey, unsigned shift) = 0;
   /// A character came from the keyboard (WM_CHAR, WM_SYSCHAR) out of a key that OnKeyDown did not
-  /// deal with, before the control sees it; true when the control shall not see it.
+  /// deal with, before the control sees it; true when the control must not see it.
   virtual bool OnCharacter(int control, char32_t character, unsigned shift) = 0;
   virtual void OnMouse(int control, const MouseInput& input) = 0;
   virtual void OnFocusMoved(int control) = 0;
@@ -153,7 +153,7 @@ class FormHost {
   /// nothing while it is not in front (SendInput).
   virtual void SendInput(WindowHandle hwnd, int virtualKey, unsigned shift) = 0;
 
-  /// Dispatches messages until `done` is true or the program shall end (GetMessageW).
+  /// Dispatches messages until `done` is true or the program is to end (GetMessageW).
   virtual void RunMessageLoop(const std::function<bool()>& done) = 0;
   /// Dispatches the messages that are waiting (PeekMessageW).
   virtual void DoEvents() = 0;

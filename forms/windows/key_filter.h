@@ -16,7 +16,7 @@ class KeyFilter {
   KeyFilter(HWND form, EventSink& events, FormControls& controls)
       : form_(form), events_(&events), controls_(&controls) {}
 
-  /// True when the message has been dealt with and shall not be dispatched.
+  /// True when the message has been dealt with and must not be dispatched.
   bool Filter(const MSG& message);
 
  private:

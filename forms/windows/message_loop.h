@@ -22,7 +22,7 @@ class MessageLoop {
   MessageLoop(const MessageLoop&) = delete;
   MessageLoop& operator=(const MessageLoop&) = delete;
 
-  /// Dispatches messages until `done` is true or the program shall end.
+  /// Dispatches messages until `done` is true or the program is to end.
   void Run(const std::function<bool()>& done);
   /// Dispatches the messages that are waiting.
   void DoEvents();
@@ -30,7 +30,7 @@ class MessageLoop {
   void Wake() const;
   void PostQuit();
   bool IsOurs(HWND window) const { return findForm_(window) != nullptr; }
-  /// True when the program shall end, also when no loop has met the order yet.
+  /// True when the program is to end, also when no loop has met the order yet.
   bool QuitPosted() const;
 
  private:

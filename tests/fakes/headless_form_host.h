@@ -37,7 +37,7 @@ class HeadlessFormHost : public FormHost, private DesktopListener {
 
   /// Queues what the user does when this form is shown modally.
   void WhenModal(std::string formName, std::function<void(Form&)> action);
-  /// Queues what the user does when a message loop waits for him.
+  /// Queues what the user does when a message loop waits for them.
   void WhenWaiting(std::function<void()> action);
   void WhenMessageBox(Answer answer);
   /// Presses this button of the next message box.
@@ -121,7 +121,7 @@ class HeadlessFormHost : public FormHost, private DesktopListener {
   bool QuitPosted() override { return quit_; }
 
  private:
-  /// What the user does next, and the form that he expects to see then ("" = any).
+  /// What the user does next, and the form that they expect to see then ("" = any).
   struct Step {
     std::string formName;
     std::function<void()> action;

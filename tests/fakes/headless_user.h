@@ -13,7 +13,7 @@
 namespace korvale {
 
 /// The user before the headless host: does what Windows' controls do by themselves, and fails the
-/// test when he is asked for something that he could not do.
+/// test when they are asked for something that they could not do.
 class HeadlessUser : public UserHands {
  public:
   /// Both must outlive the user. `clock` gives its ticks to the host from now on.

@@ -11,8 +11,8 @@ class CustomizeColorsEndTest : public CustomizeColorsTest {
  protected:
   using Path = std::vector<std::string>;
 
-  /// A started copy whose user has silenced the tips about colours and hot keys; he has come from
-  /// Alpha, and Beta has Tag 1.
+  /// A started copy whose user has silenced the tips about colours and hot keys; they have come
+  /// from Alpha, and Beta has Tag 1.
   KorvaleCopy& StartedAmongWindows() {
     Store("Tips", "01111111111110");
     const WindowHandle alpha = Open("Alpha");

@@ -42,7 +42,7 @@ class KorvaleCopy {
   /// The loaded form of this name; fails the test when it is not loaded.
   class Form& Loaded(const std::string& name);
   int Id(class Form& form, const std::string& control, int index = -1);
-  /// Captions of the Window menu as the user sees them when he opens it.
+  /// Captions of the Window menu as the user sees them when they open it.
   std::vector<ShownMenuItem> WindowMenuItems() { return user.MenuItems(Handle(), {"Window"}); }
   /// Texts in the two fields of the strip.
   std::string TargetWindow() { return Form().Find("txtWindow").Text(); }
@@ -59,7 +59,7 @@ class KorvaleCopy {
   Program program;
 };
 
-/// The desktop of a user: his windows, his settings, his keyboard, and the copies of Korvale.
+/// The desktop of a user: the windows, the settings, the keyboard, and the copies of Korvale.
 class KorvaleWorld : public testing::Test {
  protected:
   KorvaleWorld();

@@ -101,7 +101,7 @@ std::int16_t SimulatedLife::AnswerBox(const ShownMessage& box) {
   }
 }
 
-/// One thing that the user does while a modal form waits for him, or a notice for its time.
+/// One thing that the user does while a modal form waits for them, or a notice for its time.
 bool SimulatedLife::LiveInDialog() {
   Form* form = korvale_->program.Forms().TopModal();
   if (form == nullptr) form = korvale_->program.Forms().Find("frmWaitWindow");

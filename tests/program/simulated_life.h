@@ -17,7 +17,7 @@
 namespace korvale {
 
 /// A user who does anything at any time, with Korvale and with the programs around it. After each
-/// of his steps everything is checked that must always hold.
+/// of their steps everything is checked that must always hold.
 class SimulatedLife : public KorvaleWorld {
  protected:
   /// Lives through `steps` steps, until the first check fails; then tells the last of them.

@@ -156,7 +156,7 @@ class StoredSettingsFuzzTest : public KorvaleWorld {
     korvale.Form().udmOptions("UPDATE_OPTIONS");
     EXPECT_EQ(korvale.Parts().options.Get(), before);
     korvale.Form().udmSaveOptions();
-    // A user can bring it to where he can use it.
+    // A user can bring it to where they can use it.
     desktop.UserActivates(korvale.Handle());
     if (!startup.Menu) {
       korvale.user.PressKey(korvale.Handle(), 'V', kAlt);
