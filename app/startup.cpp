@@ -2,8 +2,6 @@
 
 #include "app/core/error_reporting.h"
 #include "app/core/installation.h"
-#include "desktop/foreground_return.h"
-#include "desktop/waiting_window.h"
 #include "desktop/window_readers.h"
 #include "forms/hot_key_lists.h"
 #include "forms/main_form_design.h"
@@ -13,12 +11,6 @@
 namespace korvale {
 
 namespace {
-
-/// How long a copy that is just starting may take to show its main window, in ms.
-constexpr std::uint32_t kCopyPatience = 5000;
-/// How long one without any window may take to let the next one run, in ms.
-constexpr std::uint32_t kEndPatience = 200;
-constexpr std::uint32_t kCopyPoll = 50;
 
 /// How often the foreground window is looked at, in ms.
 constexpr std::uint32_t kTrackingInterval = 100;
@@ -34,11 +26,11 @@ constexpr std::int16_t kHotKeysTab = 2;
 
 void StartUp::Initialise(frmMain& form) {
   FixIdentity(form);
-  WaitForOtherCopy(form);
+  otherCopy_.WaitFor(form);
   RunInstallation(form);
   form.LoadStartupSettings();
   form.udmLoadOptions();
-  RefuseSecondCopy(form);
+  otherCopy_.RefuseToRunBeside(form);
   MentionOtherInstallation(form);
   EndIfUnloaded(form);
   MentionCommandLine(form);
@@ -56,7 +48,7 @@ void StartUp::Initialise(frmMain& form) {
       form.udmSaveOptions();
     });
   }
-  // Before the main window comes up and takes the user where he wants to be.
+  // Before the main window comes up and takes the user where they want to be.
   MentionRefusedHotKeys(form);
   EndIfUnloaded(form);
 }
@@ -75,7 +67,7 @@ void StartUp::RunInstallation(frmMain& form) {
   MainParts& parts = form.Parts();
   parts.options.Create();
   parts.settings.SetAppName(parts.identity.mainCaption);
-  if (!alone_) {
+  if (!otherCopy_.Alone()) {
     // The rule is for the copy that runs; this one is about to be refused.
     return;
   }
@@ -92,66 +84,6 @@ void StartUp::RunInstallation(frmMain& form) {
     form.udmUnload(false);
     throw ProgramEnded{};
   }
-}
-
-/// Also a copy whose main window is still hidden while a box or tip of its start-up is shown.
-WindowHandle StartUp::FindOtherCopy(frmMain& form) {
-  const std::string className = GetWindowClass(platform_->windows, form.Handle());
-  const WindowHandle shown = form.Parts().enumeration.FindInstance(className, form.Caption());
-  if (shown != 0 || alone_) return shown;
-  WindowQueries& windows = platform_->windows;
-  WindowHandle hidden = 0;
-  windows.EnumWindows([&](WindowHandle hwnd) {
-    if (hwnd != form.Handle() && GetWindowClass(windows, hwnd) == className &&
-        GetWindowTitle(windows, hwnd) == form.Caption() && FindWaitingWindow(windows, hwnd) != 0) {
-      hidden = hwnd;
-    }
-    return hidden == 0;
-  });
-  return hidden;
-}
-
-void StartUp::BringForward(frmMain& form, WindowHandle other) {
-  WindowQueries& windows = platform_->windows;
-  if (!windows.IsWindowVisible(other) || !windows.IsWindowEnabled(other)) {
-    // Something of its own waits for the user's answer first.
-    ReturnForegroundTo(windows, platform_->commands, FindWaitingWindow(windows, other));
-    return;
-  }
-  WindowTriple copy{other, form.Caption(), GetWindowClass(windows, other)};
-  form.Parts().actions.ActivateWindow(copy, false, true);
-}
-
-std::uint32_t StartUp::PatienceWithOtherCopy(frmMain& form) {
-  const WindowHandle hidden = form.Parts().enumeration.FindHiddenInstance(
-      GetWindowClass(platform_->windows, form.Handle()), form.Caption());
-  return hidden != 0 ? kCopyPatience : kEndPatience;
-}
-
-/// A copy that was started in the same instant holds the lock but its window is still hidden, one
-/// that is just ending has none any more: wait until it is seen or gone.
-void StartUp::WaitForOtherCopy(frmMain& form) {
-  instanceLock_ =
-      std::make_unique<InstanceLock>(platform_->system, form.Parts().identity.installation);
-  alone_ = instanceLock_->TryHold(0);
-  for (std::uint32_t waited = 0;
-       !alone_ && FindOtherCopy(form) == 0 && waited < PatienceWithOtherCopy(form);
-       waited += kCopyPoll) {
-    alone_ = instanceLock_->TryHold(kCopyPoll);
-  }
-}
-
-void StartUp::RefuseSecondCopy(frmMain& form) {
-  MainParts& parts = form.Parts();
-  if (FindOtherCopy(form) == 0 && alone_) {
-    return;
-  }
-  platform_->host.DoEvents();
-  parts.messages.ShowMessageBox("'" + form.Caption() + "' is already open.", win32::kMbOk,
-                                parts.identity.messageTitle);
-  BringForward(form, FindOtherCopy(form));
-  form.udmUnload(false);
-  throw ProgramEnded{};
 }
 
 void StartUp::MentionOtherInstallation(frmMain& form) {

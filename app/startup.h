@@ -1,9 +1,6 @@
 #pragma once
 
-#include <memory>
-#include <string>
-
-#include "app/core/instance_lock.h"
+#include "app/other_copy.h"
 #include "forms/main_form.h"
 #include "platform/platform.h"
 
@@ -12,7 +9,7 @@ namespace korvale {
 /// Start-up, first activation and shutdown of the program.
 class StartUp : public ProgramLifetime {
  public:
-  explicit StartUp(Platform& platform) : platform_(&platform) {}
+  explicit StartUp(Platform& platform) : platform_(&platform), otherCopy_(platform) {}
 
   void Initialise(frmMain& form) override;
   void FirstActivation(frmMain& form) override;
@@ -22,11 +19,6 @@ class StartUp : public ProgramLifetime {
   void EndIfUnloaded(frmMain& form);
   void FixIdentity(frmMain& form);
   void RunInstallation(frmMain& form);
-  void RefuseSecondCopy(frmMain& form);
-  WindowHandle FindOtherCopy(frmMain& form);
-  std::uint32_t PatienceWithOtherCopy(frmMain& form);
-  void BringForward(frmMain& form, WindowHandle other);
-  void WaitForOtherCopy(frmMain& form);
   void MentionOtherInstallation(frmMain& form);
   void MentionCommandLine(frmMain& form);
   void ShowSplash(frmMain& form);
@@ -39,9 +31,7 @@ class StartUp : public ProgramLifetime {
   void AskToReviewHotKeys(frmMain& form);
 
   Platform* platform_;
-  std::unique_ptr<InstanceLock> instanceLock_;
-  /// No other copy of this installation runs or is about to.
-  bool alone_ = false;
+  OtherCopy otherCopy_;
   /// The first activation shows a question, during which the form is activated again.
   bool firstActivationRuns_ = false;
 };

@@ -87,7 +87,8 @@ bool WindowEnumeration::EnumInstanceProc(WindowHandle hwnd, std::int32_t mode) {
   if (mode == kSearchTitleAndClass && windows_->IsWindowVisible(hwnd) == fields_.instanceVisible &&
       GetWindowClass(*windows_, hwnd) == fields_.instanceClass &&
       EqualsIgnoreCase(GetWindowTitle(*windows_, hwnd), fields_.instanceTitle) &&
-      hwnd != mainWindow_->MainHandle()) {
+      hwnd != mainWindow_->MainHandle() &&
+      (!fields_.instanceQualifies || fields_.instanceQualifies(hwnd))) {
     fields_.instanceResult = hwnd;
   }
   return true;
@@ -116,19 +117,23 @@ WindowHandle WindowEnumeration::FindByTitleAndClass(const std::string& title,
 
 WindowHandle WindowEnumeration::FindInstance(const std::string& className,
                                              const std::string& title) {
-  return FindInstance(className, title, true);
+  fields_.instanceVisible = true;
+  fields_.instanceQualifies = {};
+  return SearchInstance(className, title);
 }
 
 WindowHandle WindowEnumeration::FindHiddenInstance(const std::string& className,
-                                                   const std::string& title) {
-  return FindInstance(className, title, false);
+                                                   const std::string& title,
+                                                   std::function<bool(WindowHandle)> qualifies) {
+  fields_.instanceVisible = false;
+  fields_.instanceQualifies = std::move(qualifies);
+  return SearchInstance(className, title);
 }
 
-WindowHandle WindowEnumeration::FindInstance(const std::string& className, const std::string& title,
-                                             bool visible) {
+WindowHandle WindowEnumeration::SearchInstance(const std::string& className,
+                                               const std::string& title) {
   fields_.instanceClass = className;
   fields_.instanceTitle = title;
-  fields_.instanceVisible = visible;
   fields_.instanceResult = 0;
   EnumInstances();
   return fields_.instanceResult;

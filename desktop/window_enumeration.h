@@ -37,6 +37,8 @@ struct SearchFields {
   std::string instanceClass;  ///< Instance search.
   std::string instanceTitle;
   bool instanceVisible = true;
+  /// A further condition of the instance search; empty = none.
+  std::function<bool(WindowHandle)> instanceQualifies;
   WindowHandle instanceResult = 0;
 };
 
@@ -70,13 +72,14 @@ class WindowEnumeration {
   WindowHandle FindByTitleAndClass(const std::string& title, const std::string& className);
   /// The instance search; 0 = no other copy.
   WindowHandle FindInstance(const std::string& className, const std::string& title);
-  /// The same for a copy whose window is not shown yet.
-  WindowHandle FindHiddenInstance(const std::string& className, const std::string& title);
+  /// The same for a copy whose window is not shown yet and that `qualifies`.
+  WindowHandle FindHiddenInstance(const std::string& className, const std::string& title,
+                                  std::function<bool(WindowHandle)> qualifies = {});
   /// Mode 6: the topmost window below the program's own that `qualifies`, 0 = none.
   WindowHandle FindTopWindow(std::function<bool(WindowHandle)> qualifies = {});
 
  private:
-  WindowHandle FindInstance(const std::string& className, const std::string& title, bool visible);
+  WindowHandle SearchInstance(const std::string& className, const std::string& title);
   void Enumerate(const std::function<bool(WindowHandle)>& visit);
   void HandleSelectable(WindowHandle hwnd, std::int32_t mode);
   void Minimize(WindowHandle hwnd);

@@ -1,0 +1,71 @@
+#include "app/other_copy.h"
+
+#include "desktop/foreground_return.h"
+#include "desktop/waiting_window.h"
+#include "desktop/window_readers.h"
+#include "platform/run_time_error.h"
+#include "platform/win32_constants.h"
+
+namespace korvale {
+namespace {
+
+/// How long a copy that is just starting may take to show its main window, in ms.
+constexpr std::uint32_t kCopyPatience = 5000;
+/// How long one without any window may take to let the next one run, in ms.
+constexpr std::uint32_t kEndPatience = 200;
+constexpr std::uint32_t kCopyPoll = 50;
+
+}  // namespace
+
+void OtherCopy::WaitFor(frmMain& form) {
+  lock_ = std::make_unique<InstanceLock>(platform_->system, form.Parts().identity.installation);
+  alone_ = lock_->TryHold(0);
+  for (std::uint32_t waited = 0; !alone_ && Find(form) == 0 && waited < Patience(form);
+       waited += kCopyPoll) {
+    alone_ = lock_->TryHold(kCopyPoll);
+  }
+}
+
+void OtherCopy::RefuseToRunBeside(frmMain& form) {
+  MainParts& parts = form.Parts();
+  if (Find(form) == 0 && alone_) {
+    return;
+  }
+  platform_->host.DoEvents();
+  parts.messages.ShowMessageBox("'" + form.Caption() + "' is already open.", win32::kMbOk,
+                                parts.identity.messageTitle);
+  BringForward(form, Find(form));
+  form.udmUnload(false);
+  throw ProgramEnded{};
+}
+
+/// Also a copy whose main window is still hidden while a box or tip of its start-up is shown.
+WindowHandle OtherCopy::Find(frmMain& form) {
+  WindowQueries& windows = platform_->windows;
+  WindowEnumeration& enumeration = form.Parts().enumeration;
+  const std::string className = GetWindowClass(windows, form.Handle());
+  const WindowHandle shown = enumeration.FindInstance(className, form.Caption());
+  if (shown != 0 || alone_) return shown;
+  return enumeration.FindHiddenInstance(className, form.Caption(), [&](WindowHandle hwnd) {
+    return FindWaitingWindow(windows, hwnd) != 0;
+  });
+}
+
+std::uint32_t OtherCopy::Patience(frmMain& form) {
+  const WindowHandle hidden = form.Parts().enumeration.FindHiddenInstance(
+      GetWindowClass(platform_->windows, form.Handle()), form.Caption());
+  return hidden != 0 ? kCopyPatience : kEndPatience;
+}
+
+void OtherCopy::BringForward(frmMain& form, WindowHandle copy) {
+  WindowQueries& windows = platform_->windows;
+  if (!windows.IsWindowVisible(copy) || !windows.IsWindowEnabled(copy)) {
+    // Something of its own waits for the user's answer first.
+    ReturnForegroundTo(windows, platform_->commands, FindWaitingWindow(windows, copy));
+    return;
+  }
+  WindowTriple window{copy, form.Caption(), GetWindowClass(windows, copy)};
+  form.Parts().actions.ActivateWindow(window, false, true);
+}
+
+}  // namespace korvale
