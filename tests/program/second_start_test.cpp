@@ -62,5 +62,37 @@ TEST_F(SecondStartTest, AStartUnderAnotherPathIsTheSameInstallation) {
   }
 }
 
+TEST_F(SecondStartTest, TheMessageThatWaitsInTheFirstCopyComesForward) {
+  KorvaleCopy& first = StartedCopy();
+  const WindowHandle alpha = Open("Alpha");
+  first.host.WhenMessageBox([&](const ShownMessage&) {
+    const WindowHandle message = desktop.GetForegroundWindow();
+    WorkIn(alpha);
+    KorvaleCopy& second = NewCopy();
+    second.host.AnswerNext(win32::kIdOk);
+    EXPECT_FALSE(second.Start());
+    EXPECT_EQ(desktop.GetForegroundWindow(), message);
+    return win32::kIdOk;
+  });
+  first.Parts().messages.ShowMessageBox("Question", win32::kMbOk, "Korvale");
+}
+
+TEST_F(SecondStartTest, TheTipThatWaitsBeforeTheMainWindowIsShownComesForwardAtOnce) {
+  KorvaleCopy& first = UsedCopy();
+  first.system.commandLine = "/anything";
+  const WindowHandle alpha = Open("Alpha");
+  first.host.WhenModal("frmMsgTip", [&](class Form& tip) {
+    WorkIn(alpha);
+    const std::uint64_t before = clock.GetTickCount64();
+    KorvaleCopy& second = NewCopy();
+    second.host.AnswerNext(win32::kIdOk);
+    EXPECT_FALSE(second.Start());
+    EXPECT_EQ(desktop.GetForegroundWindow(), tip.Handle());
+    EXPECT_EQ(clock.GetTickCount64(), before);
+    first.user.PressKey(tip.Handle(), win32::kVkEscape);
+  });
+  EXPECT_TRUE(first.Start());
+}
+
 }  // namespace
 }  // namespace korvale
