@@ -14,9 +14,8 @@ namespace {
 constexpr Twips kClassicFrameWidth = 90;
 constexpr Twips kClassicFrameHeight = 400;
 
-int ShowCommand(const FormState& form) {
-  if (form.aside) return win32::kSwShowNoActivate;
-  switch (form.windowState) {
+int ShowCommand(ShowState state) {
+  switch (state) {
     case ShowState::kMinimized:
       return win32::kSwShowMinNoActive;
     case ShowState::kMaximized:
@@ -166,7 +165,9 @@ void Form::ShowAs(bool active) {
     if (!IsLoaded()) return;
   }
   state_.visible = true;
-  forms_->Host().ShowWindow(handle_, active ? ShowCommand(state_) : win32::kSwShowNa);
+  const bool takesKeyboard = active && !state_.aside;
+  forms_->Host().ShowWindow(handle_,
+                            takesKeyboard ? ShowCommand(state_.windowState) : win32::kSwShowNa);
 }
 
 void Form::ShowModal() {
