@@ -4,6 +4,7 @@
 
 #include "forms/windows/control_content.h"
 #include "forms/windows/control_window.h"
+#include "forms/windows/system_fonts.h"
 #include "forms/windows/window_classes.h"
 #include "platform/windows/text.h"
 
@@ -12,14 +13,6 @@ namespace {
 
 constexpr int kDroppedEntries = 9;
 constexpr int kComboBorders = 6;
-
-/// The font of message boxes at these dots per inch.
-UniqueFont MakeMessageFont(UINT dpi) {
-  NONCLIENTMETRICSW metrics{};
-  metrics.cbSize = sizeof(metrics);
-  SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof(metrics), &metrics, 0, dpi);
-  return UniqueFont(CreateFontIndirectW(&metrics.lfMessageFont));
-}
 
 /// Gives a combo box the height of its text field; the window itself is as high as its open list.
 void PlaceCombo(HWND window, const PixelPlace& place) {
@@ -55,7 +48,7 @@ bool FormControls::CreateOne(const ControlState& control, const std::wstring& pa
 }
 
 void FormControls::MakeFont() {
-  UniqueFont font = MakeMessageFont(Dpi());
+  UniqueFont font = MakeSystemFont(&NONCLIENTMETRICSW::lfMessageFont, Dpi());
   for (const HWND window : windows_) {
     if (window != nullptr) {
       SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(font.Get()), FALSE);

@@ -4,6 +4,7 @@
 
 #include "forms/windows/control_content.h"
 #include "forms/windows/message_guard.h"
+#include "forms/windows/system_fonts.h"
 #include "platform/windows/text.h"
 
 namespace korvale {
@@ -85,7 +86,7 @@ WindowHandle WindowsFormHost::CreateWindowExW(const FormState& form, FormEvents&
 void WindowsFormHost::DestroyWindow(WindowHandle hwnd) {
   const auto found = forms_.find(hwnd);
   if (found == forms_.end()) return;
-  // Out of the list first: what runs while the window goes shall not find it.
+  // Out of the list first: what runs while the window goes must not find it.
   const std::shared_ptr<FormWindow> form = std::move(found->second);
   forms_.erase(found);
   form->Destroy();
@@ -177,19 +178,9 @@ TwipsRect WindowsFormHost::MonitorFromPoint() {
 }
 
 Twips WindowsFormHost::GetTextExtentPoint32W(WindowHandle hwnd, const std::string& text) {
-  const std::wstring wide = ToUtf16(text);
-  NONCLIENTMETRICSW metrics{};
-  metrics.cbSize = sizeof(metrics);
-  SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof(metrics), &metrics, 0,
-                             ::GetDpiForWindow(ToHwnd(hwnd)));
-  const UniqueFont font(CreateFontIndirectW(&metrics.lfMenuFont));
-  const HDC screen = GetDC(nullptr);
-  const HGDIOBJ before = SelectObject(screen, font.Get());
-  SIZE size{};
-  ::GetTextExtentPoint32W(screen, wide.c_str(), static_cast<int>(wide.size()), &size);
-  SelectObject(screen, before);
-  ReleaseDC(nullptr, screen);
-  return ToTwips(size.cx, GetDpiForSystem());
+  const UniqueFont font =
+      MakeSystemFont(&NONCLIENTMETRICSW::lfMenuFont, ::GetDpiForWindow(ToHwnd(hwnd)));
+  return ToTwips(TextWidth(font.Get(), ToUtf16(text)), GetDpiForSystem());
 }
 
 TwipsRect WindowsFormHost::GetWindowRect(WindowHandle hwnd) {
