@@ -41,7 +41,7 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   void SetFocus(int control);
   void TrackPopup(MenuItem& menu);
   void RequestClose(CloseReason reason);
-  /// Sees each message of the form's windows first; true when it shall not be dispatched.
+  /// Sees each message of the form's windows first; true when it must not be dispatched.
   bool Filter(const MSG& message);
 
  private:
@@ -52,7 +52,8 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
 
   /// True for a message that another program made up: the window's state does not bear it out.
   bool IsForged(UINT message, WPARAM wParam) const;
-  bool IsForgedForControl(int control, UINT message, LPARAM lParam, bool focused) const;
+  bool IsForgedForControl(int control, HWND window, UINT message, WPARAM wParam,
+                          LPARAM lParam) const;
   LRESULT Process(UINT message, WPARAM wParam, LPARAM lParam);
   /// Messages that controls and pages send; nothing for others.
   std::optional<LRESULT> HandleFromControls(UINT message, WPARAM wParam, LPARAM lParam);

@@ -86,8 +86,8 @@ LRESULT CALLBACK FormWindow::ControlProcedure(HWND hwnd, UINT message, WPARAM wP
                                               UINT_PTR id, DWORD_PTR form) {
   const auto alive = reinterpret_cast<FormWindow*>(form)->shared_from_this();
   const int control = static_cast<int>(id);
+  if (alive->IsForgedForControl(control, hwnd, message, wParam, lParam)) return 0;
   const bool focused = message == WM_SETFOCUS && GetFocus() == hwnd;
-  if (alive->IsForgedForControl(control, message, lParam, focused)) return 0;
   if (message == WM_NCDESTROY) {
     RemoveWindowSubclass(hwnd, ControlProcedure, id);
   }
@@ -108,14 +108,13 @@ LRESULT CALLBACK FormWindow::ControlProcedure(HWND hwnd, UINT message, WPARAM wP
   return result;
 }
 
-bool FormWindow::IsForgedForControl(int control, UINT message, LPARAM lParam, bool focused) const {
-  if (destroying_ || !IsSentByOthers()) return false;
-  if (IsLifeMessage(message) || message == WM_ACTIVATE) return true;
-  if (message == WM_SETFOCUS) return !focused;
-  // Others cannot know a place in our memory. The tab strip gets such messages from us as well,
+bool FormWindow::IsForgedForControl(int control, HWND window, UINT message, WPARAM wParam,
+                                    LPARAM lParam) const {
+  if (destroying_) return false;
+  // Others cannot know a place in our memory. The tab strip gets private messages from us as well,
   // those without a place even while another program's message is being handled.
   const bool tabs = controls_.State(control).kind == ControlKind::kTabStrip;
-  return IsPrivateMessage(message) && (!tabs || lParam != 0);
+  return IsForgedForClass(window, message, wParam, !tabs || lParam != 0);
 }
 
 std::optional<LRESULT> FormWindow::HandleFromControls(UINT message, WPARAM wParam, LPARAM lParam) {

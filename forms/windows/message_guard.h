@@ -6,15 +6,18 @@
 
 namespace korvale {
 
-/// Any program may put any message into the queue of our windows. While this stands, those that
-/// Windows itself never queues, and those that would make a window follow a pointer, arrive as
-/// WM_NULL, in every message loop of the thread that made it (WH_GETMESSAGE).
+/// Any program may put any message into the queue of our windows, and send any to them. While this
+/// stands, queued ones that Windows itself never queues, and those that would make a window follow
+/// a pointer, arrive as WM_NULL, in every message loop of the thread that made it (WH_GETMESSAGE).
+/// Sent ones of these kinds do not reach the message boxes and dialogs of Windows, nor the lists of
+/// combo boxes (WH_CBT); the windows that we make ourselves ask IsForgedForClass.
 class MessageGuard {
  public:
   MessageGuard();
 
  private:
-  UniqueHook hook_;
+  UniqueHook queued_;
+  UniqueHook windows_;
 };
 
 /// True while the message being handled was sent by another thread (InSendMessage).
@@ -28,6 +31,10 @@ bool IsPrivateMessage(UINT message);
 
 /// True for a WM_ACTIVATE that tells a window of its activation when it is not the active one.
 bool IsForgedActivation(HWND window, UINT message, WPARAM wParam);
+
+/// True for a message that another program has sent to a window of one of Windows' own classes and
+/// that only Windows may send. `privateToo` = private messages are among these.
+bool IsForgedForClass(HWND window, UINT message, WPARAM wParam, bool privateToo);
 
 /// Copies a structure that a message points to; false when there is none to read.
 bool ReadParameter(LPARAM address, RECT& value);

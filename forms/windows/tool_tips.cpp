@@ -3,6 +3,9 @@
 // After windows.h, which it needs.
 #include <commctrl.h>
 
+#include <utility>
+
+#include "forms/windows/message_guard.h"
 #include "forms/windows/units.h"
 
 namespace korvale {
@@ -10,6 +13,8 @@ namespace {
 
 constexpr Twips kWidestTip = 6000;
 constexpr int kMillisecondsToRead = 20000;
+/// The room beside a text that the blanks around it stand for.
+constexpr Twips kBlank = 45;
 
 std::wstring WithoutBlanks(const std::wstring& text) {
   const std::size_t start = text.find_first_not_of(L' ');
@@ -35,14 +40,35 @@ void ToolTips::Create(HWND form, HINSTANCE instance) {
                                 WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT,
                                 CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, form, nullptr,
                                 instance, nullptr));
-  SendMessageW(window_.Get(), TTM_SETMAXTIPWIDTH, 0, ToPixels(kWidestTip, GetDpiForWindow(form)));
-  SendMessageW(window_.Get(), TTM_SETDELAYTIME, TTDT_AUTOPOP, kMillisecondsToRead);
+  SetWindowSubclass(window_.Get(), Guard, 0, reinterpret_cast<DWORD_PTR>(this));
+  Send(TTM_SETMAXTIPWIDTH, 0, ToPixels(kWidestTip, GetDpiForWindow(form)));
+  // Blanks in the text itself would stand before the first of several lines only.
+  const int blank = ToPixels(kBlank, GetDpiForWindow(form));
+  const RECT margin{blank, 0, blank, 0};
+  Send(TTM_SETMARGIN, 0, reinterpret_cast<LPARAM>(&margin));
+  Send(TTM_SETDELAYTIME, TTDT_AUTOPOP, kMillisecondsToRead);
 }
 
 void ToolTips::Drop() {
   // Windows destroys it together with a form that it destroys by itself.
   if (IsWindow(window_.Get()) == FALSE) window_.Release();
+  ours_ = true;
   window_.Reset();
+}
+
+/// Also what we tell it ourselves counts as sent by others while such a message is being handled.
+LRESULT CALLBACK ToolTips::Guard(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                 DWORD_PTR tips) {
+  const bool ours = reinterpret_cast<const ToolTips*>(tips)->ours_;
+  if (!ours && IsForgedForClass(hwnd, message, wParam, true)) return 0;
+  if (message == WM_NCDESTROY) RemoveWindowSubclass(hwnd, Guard, id);
+  return DefSubclassProc(hwnd, message, wParam, lParam);
+}
+
+void ToolTips::Send(UINT message, WPARAM wParam, LPARAM lParam) {
+  const bool outer = std::exchange(ours_, true);
+  SendMessageW(window_.Get(), message, wParam, lParam);
+  ours_ = outer;
 }
 
 void ToolTips::Show(HWND control, const std::wstring& text, bool shown) {
@@ -67,34 +93,22 @@ void ToolTips::Show(HWND control, const std::wstring& text, bool shown) {
 void ToolTips::Relay(const MSG& message) {
   if (message.message < WM_MOUSEFIRST || message.message > WM_MOUSELAST) return;
   MSG copy = message;
-  SendMessageW(window_.Get(), TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&copy));
+  Send(TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&copy));
 }
 
 void ToolTips::Add(HWND window, UINT_PTR id, UINT flags, const RECT& area,
                    const std::wstring& text) {
-  // Of several lines only the first would begin with the blank.
-  std::wstring copy = FitsOneLine(text) ? text : WithoutBlanks(text);
+  std::wstring copy = WithoutBlanks(text);
   TTTOOLINFOW tool = Tool(window, id);
   tool.uFlags = flags;
   tool.rect = area;
   tool.lpszText = copy.data();
-  SendMessageW(window_.Get(), TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
-}
-
-bool ToolTips::FitsOneLine(const std::wstring& text) const {
-  const HDC dc = GetDC(window_.Get());
-  const auto font = reinterpret_cast<HGDIOBJ>(SendMessageW(window_.Get(), WM_GETFONT, 0, 0));
-  const HGDIOBJ before = font == nullptr ? nullptr : SelectObject(dc, font);
-  SIZE size{};
-  GetTextExtentPoint32W(dc, text.c_str(), static_cast<int>(text.size()), &size);
-  if (before != nullptr) SelectObject(dc, before);
-  ReleaseDC(window_.Get(), dc);
-  return size.cx <= SendMessageW(window_.Get(), TTM_GETMAXTIPWIDTH, 0, 0);
+  Send(TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
 void ToolTips::Remove(HWND window, UINT_PTR id) {
   TTTOOLINFOW tool = Tool(window, id);
-  SendMessageW(window_.Get(), TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+  Send(TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
 }  // namespace korvale

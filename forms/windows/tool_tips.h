@@ -11,6 +11,10 @@ namespace korvale {
 /// The tool tips of a form.
 class ToolTips {
  public:
+  ToolTips() = default;
+  ToolTips(const ToolTips&) = delete;
+  ToolTips& operator=(const ToolTips&) = delete;
+
   void Create(HWND form, HINSTANCE instance);
   /// The form's window goes.
   void Drop();
@@ -21,12 +25,15 @@ class ToolTips {
   void Relay(const MSG& message);
 
  private:
+  static LRESULT CALLBACK Guard(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                DWORD_PTR tips);
+  void Send(UINT message, WPARAM wParam, LPARAM lParam);
   void Add(HWND window, UINT_PTR id, UINT flags, const RECT& area, const std::wstring& text);
   void Remove(HWND window, UINT_PTR id);
-  bool FitsOneLine(const std::wstring& text) const;
 
   HWND form_ = nullptr;
   UniqueWindow window_;
+  bool ours_ = false;  // What the window is told now comes from here.
 };
 
 }  // namespace korvale

@@ -31,25 +31,6 @@ class MainWindowBoxes : public KorvaleTest {
     const auto found = std::find(controls.begin(), controls.end(), box);
     return found == controls.begin() || found == controls.end() ? "" : std::prev(found)->Text();
   }
-
-  /// Moves the mouse over the box until that tool tip is shown.
-  bool ShowsOver(Window box, const std::string& tip) {
-    for (int place = 20; place < 25; ++place) {
-      MoveMouse(box, {place, 8});
-      const auto shown = [&] { return ToolTip() == tip; };
-      if (WaitFor(shown, std::chrono::milliseconds(2000))) return true;
-    }
-    return false;
-  }
-
-  /// The tool tip on the screen.
-  std::string ToolTip() {
-    const Window tip = FindTopLevel([this](Window candidate) {
-      return candidate.Visible() && candidate.ProcessId() == korvale_->process().id() &&
-             candidate.ClassName() == "tooltips_class32";
-    });
-    return tip ? tip.Text() : "";
-  }
 };
 
 TEST_F(MainWindowBoxes, GiveTheirTextToTheClipboardAndTakeNone) {
@@ -70,8 +51,8 @@ TEST_F(MainWindowBoxes, HaveNamesAndToolTips) {
   Start();
   EXPECT_EQ(NameOf(window().TitleBox()), "Target Window");
   EXPECT_EQ(NameOf(window().ClassBox()), "Class of Target Window");
-  EXPECT_TRUE(ShowsOver(window().TitleBox(), " Target Window "));
-  EXPECT_TRUE(ShowsOver(window().ClassBox(), " Class of Target Window "));
+  EXPECT_TRUE(korvale_->ShowsToolTip(window().TitleBox(), " Target Window "));
+  EXPECT_TRUE(korvale_->ShowsToolTip(window().ClassBox(), " Class of Target Window "));
 }
 
 TEST_F(MainWindowBoxes, ShareTheWidth) {

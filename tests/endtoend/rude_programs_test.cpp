@@ -8,12 +8,15 @@
 #include <string>
 #include <vector>
 
+#include "tests/endtoend/harness/color_dialog.h"
+#include "tests/endtoend/harness/main_window.h"
 #include "tests/endtoend/korvale_test.h"
 
 namespace korvale::endtoend {
 namespace {
 
 constexpr char kClass[] = "Test.Window";
+constexpr char kToolTips[] = "tooltips_class32";
 
 struct Rude {
   UINT message;
@@ -23,7 +26,7 @@ struct Rude {
 
 /// What other programs have no business to send. Left out is what they may: asking a window to
 /// close, to paint, to take a text or a key, ending the session, and messages that stand for the
-/// user's own hot key or menu entry.
+/// user's own hot key, menu entry or button.
 std::vector<UINT> Queued() {
   std::vector<UINT> messages = {
       WM_CREATE,        WM_DESTROY,        WM_MOVE,          WM_SIZE,
@@ -35,7 +38,7 @@ std::vector<UINT> Queued() {
       WM_CTLCOLORBTN,   WM_CTLCOLORSTATIC, WM_SIZING,        WM_DPICHANGED,
       WM_SETCURSOR,     WM_SYSCOLORCHANGE, WM_APP,           WM_APP + 1,
       TTM_ADDTOOLW,     TTM_RELAYEVENT,    TCM_INSERTITEMW,  TCM_SETITEMW,
-      BCM_GETIDEALSIZE, EM_SETCUEBANNER,   CB_SETCUEBANNER};
+      BCM_GETIDEALSIZE, EM_SETCUEBANNER,   CB_SETCUEBANNER,  WM_INITDIALOG};
   messages.push_back(RegisterWindowMessageW(L"Korvale.ListClosed"));
   return messages;
 }
@@ -46,17 +49,20 @@ std::vector<UINT> Sent() {
                                 WM_COMMAND,       WM_TIMER,        WM_HOTKEY,         WM_MENUSELECT,
                                 WM_ENTERMENULOOP, WM_CTLCOLOREDIT, WM_CTLCOLORSTATIC, WM_DPICHANGED,
                                 WM_APP,           WM_APP + 1,      TCM_INSERTITEMW,   TCM_SETITEMW,
-                                BCM_GETIDEALSIZE, EM_SETCUEBANNER};
+                                BCM_GETIDEALSIZE, EM_SETCUEBANNER, TTM_ADDTOOLW,      TTM_GETTEXTW,
+                                WM_INITDIALOG};
   messages.push_back(RegisterWindowMessageW(L"Korvale.ListClosed"));
   return messages;
 }
 
 /// A message that is as good as the user's own doing.
 bool MayBeMeant(const Rude& rude) {
+  const bool button = rude.message == WM_COMMAND && LOWORD(rude.wparam) >= IDOK &&
+                      LOWORD(rude.wparam) <= IDCONTINUE;
   const bool menuEntry = rude.message == WM_COMMAND && rude.lparam == 0 &&
                          LOWORD(rude.wparam) >= 0x1000 && LOWORD(rude.wparam) < 0xE000;
   const bool hotKey = rude.message == WM_HOTKEY && rude.wparam >= 1 && rude.wparam <= 15;
-  return menuEntry || hotKey;
+  return button || menuEntry || hotKey;
 }
 
 /// Controls get fewer values than the windows that hold them: there are many.
@@ -80,6 +86,13 @@ std::vector<Rude> WithEachValue(const std::vector<UINT>& messages, bool control)
   return all;
 }
 
+/// What the program shows; the system keeps windows of its own in every program as well.
+bool IsShownByProgram(Window window) {
+  const std::string name = window.ClassName();
+  return name.starts_with("Korvale.") || name == kToolTips || name == "ComboLBox" ||
+         name == "#32770";
+}
+
 bool IsControl(Window window) { return (window.Style() & WS_CHILD) != 0; }
 
 BOOL CALLBACK CollectChild(HWND child, LPARAM windows) {
@@ -93,9 +106,7 @@ class RudePrograms : public KorvaleTest {
   std::vector<Window> AllWindows() {
     std::vector<Window> all;
     for (const Window window : TopLevelWindows()) {
-      const bool ours =
-          window.ProcessId() == main().ProcessId() && window.ClassName().starts_with("Korvale.");
-      if (!ours) continue;
+      if (window.ProcessId() != main().ProcessId() || !IsShownByProgram(window)) continue;
       all.push_back(window);
       EnumChildWindows(window.handle(), CollectChild, reinterpret_cast<LPARAM>(&all));
     }
@@ -117,6 +128,7 @@ class RudePrograms : public KorvaleTest {
         window.Send(rude.message, rude.wparam, rude.lparam);
         ASSERT_TRUE(window.Exists()) << rude.message;
       }
+      ASSERT_TRUE(window.Responds()) << Describe(window);
     }
   }
 
@@ -200,9 +212,39 @@ TEST_F(RudePrograms, LeaveAMessageToTheUser) {
   const Window message = korvale_->MessageBox();
   ASSERT_TRUE(message);
   Post();
+  Send();
   EXPECT_TRUE(Says("Window:  [Nowhere]  is not open."));
   ASSERT_TRUE(WorkIn(alpha_));
   ExpectAllToWork();
+}
+
+TEST_F(RudePrograms, LeaveTheColorDialogToTheUser) {
+  installation_.settings().Set("Startup", "Tips", "0");
+  StartWithTags();
+  ASSERT_TRUE(BringToFront(main()));
+  ASSERT_TRUE(Choose('V', {'C'}));
+  ClickAt(MainWindow(main()).TitleBox(), {20, 6});
+  const ColorDialog dialog(*korvale_);
+  ASSERT_TRUE(dialog.window());
+  const Rgb color = dialog.Shown();
+  Post();
+  Send();
+  EXPECT_EQ(dialog.Shown(), color);
+  EXPECT_TRUE(dialog.Cancel());
+  ASSERT_TRUE(Choose('V', {'C'}));
+  ASSERT_TRUE(WorkIn(alpha_));
+  ExpectAllToWork();
+}
+
+TEST_F(RudePrograms, DoNotSwitchToolTipsOff) {
+  Start();
+  for (const Window window : AllWindows()) {
+    if (window.ClassName() != kToolTips) continue;
+    PostMessageW(window.handle(), TTM_ACTIVATE, FALSE, 0);
+    window.Send(TTM_ACTIVATE, FALSE);
+    window.Send(TTM_SETDELAYTIME, TTDT_INITIAL, 30000);
+  }
+  EXPECT_TRUE(korvale_->ShowsToolTip(MainWindow(main()).TitleBox(), " Target Window "));
 }
 
 }  // namespace

@@ -67,6 +67,18 @@ std::string RunningKorvale::TargetClass() const {
   return boxes.size() < 2 ? "" : boxes[1].Text();
 }
 
+bool RunningKorvale::ShowsToolTip(Window control, const std::string& text) const {
+  const auto shown = [&] {
+    const Window tip = Find("tooltips_class32");
+    return tip && tip.Text() == text;
+  };
+  for (int place = 20; place < 25; ++place) {
+    MoveMouse(control, {place, 8});
+    if (WaitFor(shown, std::chrono::milliseconds(2000))) return true;
+  }
+  return false;
+}
+
 Window RunningKorvale::OpenMenu() const { return Wait(kMenuClass); }
 
 bool RunningKorvale::HasMenu() const { return static_cast<bool>(Find(kMenuClass)); }

@@ -40,6 +40,9 @@ class RunningKorvale {
   std::string TargetTitle() const;
   std::string TargetClass() const;
 
+  /// Moves the mouse over the control until that tool tip is shown; false when it never is.
+  bool ShowsToolTip(Window control, const std::string& text) const;
+
   /// The menu on the screen, waited for.
   Window OpenMenu() const;
   bool HasMenu() const;
