@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "forms/windows/message_guard.h"
+#include "forms/windows/system_fonts.h"
 #include "forms/windows/units.h"
 
 namespace korvale {
@@ -13,8 +14,6 @@ namespace {
 
 constexpr Twips kWidestTip = 6000;
 constexpr int kMillisecondsToRead = 20000;
-/// The room beside a text that the blanks around it stand for.
-constexpr Twips kBlank = 45;
 
 std::wstring WithoutBlanks(const std::wstring& text) {
   const std::size_t start = text.find_first_not_of(L' ');
@@ -42,10 +41,6 @@ void ToolTips::Create(HWND form, HINSTANCE instance) {
                                 instance, nullptr));
   SetWindowSubclass(window_.Get(), Guard, 0, reinterpret_cast<DWORD_PTR>(this));
   Send(TTM_SETMAXTIPWIDTH, 0, ToPixels(kWidestTip, GetDpiForWindow(form)));
-  // Blanks in the text itself would stand before the first of several lines only.
-  const int blank = ToPixels(kBlank, GetDpiForWindow(form));
-  const RECT margin{blank, 0, blank, 0};
-  Send(TTM_SETMARGIN, 0, reinterpret_cast<LPARAM>(&margin));
   Send(TTM_SETDELAYTIME, TTDT_AUTOPOP, kMillisecondsToRead);
 }
 
@@ -96,9 +91,15 @@ void ToolTips::Relay(const MSG& message) {
   Send(TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&copy));
 }
 
+bool ToolTips::FitsOneLine(const std::wstring& text) const {
+  const auto font = reinterpret_cast<HFONT>(SendMessageW(window_.Get(), WM_GETFONT, 0, 0));
+  return TextWidth(font, text) <= ToPixels(kWidestTip, GetDpiForWindow(form_));
+}
+
 void ToolTips::Add(HWND window, UINT_PTR id, UINT flags, const RECT& area,
                    const std::wstring& text) {
-  std::wstring copy = WithoutBlanks(text);
+  // The blanks around a text would stand before the first of several lines only.
+  std::wstring copy = FitsOneLine(text) ? text : WithoutBlanks(text);
   TTTOOLINFOW tool = Tool(window, id);
   tool.uFlags = flags;
   tool.rect = area;

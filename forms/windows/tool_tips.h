@@ -28,6 +28,7 @@ class ToolTips {
   static LRESULT CALLBACK Guard(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
                                 DWORD_PTR tips);
   void Send(UINT message, WPARAM wParam, LPARAM lParam);
+  bool FitsOneLine(const std::wstring& text) const;
   void Add(HWND window, UINT_PTR id, UINT flags, const RECT& area, const std::wstring& text);
   void Remove(HWND window, UINT_PTR id);
 

@@ -14,15 +14,17 @@ namespace korvale {
 inline constexpr std::array kContractControls = {
     ControlRow{ControlKind::kLabel, "lblName", -1, "&Name", "", {100, 100, 900, 255}},
     ControlRow{ControlKind::kTextBox, "txtName", -1, "", " the name ", {1100, 100, 3000, 315}},
-    ControlRow{ControlKind::kTextBox,
-               "txtFixed",
-               -1,
-               "fixed",
-               "",
-               {1100, 500, 3000, 315},
-               "",
-               -1,
-               kReadOnly},
+    ControlRow{
+        ControlKind::kTextBox,
+        "txtFixed",
+        -1,
+        "fixed",
+        " a text that no user can change, explained at such a length that it takes more than "
+        "one line of a tool tip to tell ",
+        {1100, 500, 3000, 315},
+        "",
+        -1,
+        kReadOnly},
     ControlRow{ControlKind::kCheckBox, "chkDaily", -1, "Dail&y", "", {100, 900, 2000, 255}},
     ControlRow{ControlKind::kFrame, "fraColor", -1, "&Colour", "", {100, 1200, 2500, 1300}},
     ControlRow{
@@ -42,14 +44,7 @@ inline constexpr std::array kContractControls = {
                "",
                -1,
                kDefaultButton},
-    ControlRow{
-        ControlKind::kButton,
-        "cmdStay",
-        -1,
-        "&Stay",
-        " a text that is so long that no tool tip has room for all of it in one line, so that "
-        "the words at its end stand below the first ones ",
-        {4500, 600, 1200, 375}},
+    ControlRow{ControlKind::kButton, "cmdStay", -1, "&Stay", "", {4500, 600, 1200, 375}},
     ControlRow{ControlKind::kButton,
                "cmdClose",
                -1,

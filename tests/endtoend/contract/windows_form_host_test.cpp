@@ -6,8 +6,7 @@
 #include "platform/windows/handles.h"
 #include "platform/windows/text.h"
 #include "platform/windows/windows_hot_key_api.h"
-#include "tests/contract/contract_fixture.h"
-#include "tests/endtoend/contract/windows_user.h"
+#include "tests/endtoend/contract/real_form.h"
 
 namespace korvale {
 namespace {
@@ -38,26 +37,14 @@ struct TypedTexts final : FormEvents {
 };
 
 /// What only real windows have.
-class WindowsFormHostTest : public FormHostContract {
+class WindowsFormHostTest : public RealForm {
  protected:
-  HWND Hwnd() const { return ToHwnd(Window()); }
-  HWND Control(std::string_view name, int index = -1) {
-    return FindControl(Window(), Id(name, index));
-  }
   static bool HasStyle(HWND window, int index, LONG_PTR bits) {
     return (GetWindowLongPtrW(window, index) & bits) == bits;
   }
   static std::string ClassName(HWND window) {
     wchar_t name[64];
     return ToUtf8({name, static_cast<std::size_t>(GetClassNameW(window, name, 64))});
-  }
-  /// The colour of a control's first pixel.
-  COLORREF ColorOf(HWND window) {
-    User().LetPass(50);
-    const HDC dc = GetDC(window);
-    const COLORREF color = GetPixel(dc, 1, 1);
-    ReleaseDC(window, dc);
-    return color;
   }
 };
 
