@@ -19,6 +19,16 @@ class StartUp : public KorvaleTest {
     });
     return question;
   }
+
+  /// Starts the installation once more, which tells that it is open already and ends.
+  void StartSecondCopy() {
+    RunningKorvale second(installation_);
+    const Window box = second.MessageBox();
+    ASSERT_TRUE(box);
+    EXPECT_EQ(LabelText(box), "'Korvale - Probe' is already open.");
+    EXPECT_TRUE(AnswerBox(box, IDOK));
+    EXPECT_EQ(second.process().WaitForExit(), 0U);
+  }
 };
 
 TEST_F(StartUp, TheMainWindowIsNamedAfterTheFolder) {
@@ -67,12 +77,7 @@ TEST_F(StartUp, ASecondCopyFromTheSameFolderBringsTheFirstForwardAndEnds) {
   const Window first_main = main();
   ASSERT_TRUE(WorkIn(Open("Alpha")));
   const std::map<std::string, std::string> before = installation_.settings().Section("Options");
-  RunningKorvale second(installation_);
-  const Window box = second.MessageBox();
-  ASSERT_TRUE(box);
-  EXPECT_EQ(LabelText(box), "'Korvale - Probe' is already open.");
-  EXPECT_TRUE(AnswerBox(box, IDOK) || AnswerBox(box, IDCANCEL));
-  EXPECT_EQ(second.process().WaitForExit(), 0U);
+  StartSecondCopy();
   EXPECT_TRUE(InFront(first_main));
   EXPECT_EQ(installation_.settings().Section("Options"), before);
   EXPECT_FALSE(HotKeyIsFree(TagKey(1)));
@@ -87,11 +92,7 @@ TEST_F(StartUp, ASecondCopyBringsTheMessageForwardThatWaitsForTheUser) {
   const Window message = korvale_->MessageBox();
   ASSERT_TRUE(InFront(message));
   ASSERT_TRUE(BringToFront(alpha));
-  RunningKorvale second(installation_);
-  const Window box = second.MessageBox();
-  ASSERT_TRUE(box);
-  EXPECT_TRUE(AnswerBox(box, IDOK));
-  EXPECT_EQ(second.process().WaitForExit(), 0U);
+  StartSecondCopy();
   EXPECT_TRUE(InFront(message));
 }
 
@@ -102,11 +103,7 @@ TEST_F(StartUp, ASecondCopyBringsTheTipForwardThatWaitsForTheUser) {
   const Window tip = korvale_->Form("frmMsgTip");
   ASSERT_TRUE(InFront(tip));
   ASSERT_TRUE(BringToFront(alpha));
-  RunningKorvale second(installation_);
-  const Window box = second.MessageBox();
-  ASSERT_TRUE(box);
-  EXPECT_TRUE(AnswerBox(box, IDOK));
-  EXPECT_EQ(second.process().WaitForExit(), 0U);
+  StartSecondCopy();
   EXPECT_TRUE(InFront(tip));
 }
 
