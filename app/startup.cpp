@@ -205,7 +205,7 @@ void StartUp::SelectPreviousWindow(frmMain& form) {
   MainParts& parts = form.Parts();
   parts.tracker.LookAtForeground();
   WindowTriple previous = parts.previous.current;
-  if (parts.actions.ActivateWindow(previous, false, true) == kActivationDone) {
+  if (parts.actions.ActivatePreviousWindow(previous) == kActivationDone) {
     parts.tracker.RecordSelection(previous);
   }
 }

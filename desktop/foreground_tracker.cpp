@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "desktop/title_match.h"
+#include "desktop/waiting_window.h"
 #include "desktop/window_readers.h"
 #include "platform/win32_constants.h"
 #include "util/text.h"
@@ -11,6 +12,9 @@ namespace korvale {
 namespace {
 
 constexpr std::uint32_t kTickMilliseconds = 100;
+
+/// More dialogs in front of each other than any program shows.
+constexpr int kMostDialogs = 16;
 
 constexpr const char* kTaskbarClass = "Shell_TrayWnd";
 
@@ -49,8 +53,32 @@ void ForegroundTracker::LookAtForeground() {
     return;
   }
   mainWindow_->tmrWindow().SetInterval(kTickMilliseconds);
-  if (!AcceptForeground(foreground, title)) return;
-  MoveRecordTo({foreground, title, GetWindowClass(*windows_, foreground)});
+  if (AcceptForeground(foreground, title)) {
+    MoveRecordTo({foreground, title, GetWindowClass(*windows_, foreground)});
+    ValidatePreviousWindow();
+  } else {
+    LookBehindDialog(foreground);
+  }
+}
+
+/// A dialog that is not followed itself, and disables the window that owns it, is that window to
+/// the user.
+void ForegroundTracker::LookBehindDialog(WindowHandle dialog) {
+  WindowHandle behind = windows_->GetWindow(dialog, win32::kGwOwner);
+  for (int i = 0; i < kMostDialogs && behind != 0 && !windows_->IsWindowEnabled(behind); ++i) {
+    const std::string title = GetWindowTitle(*windows_, behind);
+    const bool followed =
+        behind != mainWindow_->MainHandle() && windows_->IsWindowVisible(behind) &&
+        filter_->IsSelectableWindow(behind, false, false) && AcceptForeground(behind, title);
+    if (followed) return MoveRecordBehindDialog({behind, title, GetWindowClass(*windows_, behind)});
+    behind = windows_->GetWindow(behind, win32::kGwOwner);
+  }
+}
+
+void ForegroundTracker::MoveRecordBehindDialog(const WindowTriple& window) {
+  const bool known = window.handle == lastSeen_;
+  if (known && window.handle == previous_->current.handle) return;
+  if (!known) MoveRecordTo(window);
   ValidatePreviousWindow();
 }
 
@@ -63,7 +91,7 @@ WindowHandle ForegroundTracker::WindowInFront() {
   const WindowHandle foreground = windows_->GetForegroundWindow();
   const bool forItsMenu =
       foreground == mainWindow_->MainHandle() && mainWindow_->WindowMenuPoppedUp();
-  const bool onItsWayBack = previous_->menuSelection && foreground == leftBySelection_;
+  const bool onItsWayBack = previous_->menuSelection && foreground == previous_->leaving;
   return forItsMenu || onItsWayBack ? 0 : foreground;
 }
 
@@ -74,12 +102,14 @@ void ForegroundTracker::NoteInFront(WindowHandle foreground) {
 
 WindowHandle ForegroundTracker::WindowBehind(WindowHandle closing) {
   if (windows_->GetForegroundWindow() != closing) return 0;
-  const WindowHandle before = inFront_ == closing ? inFrontBefore_ : inFront_;
-  if (before != closing && CanComeBack(before)) return before;
+  const WindowHandle last = inFront_ == closing ? inFrontBefore_ : inFront_;
+  const WindowHandle before = FindInputWindow(*windows_, last);
+  if (last != closing && CanComeBack(before)) return before;
   const WindowTriple* const worked = worked_.First([&](const WindowTriple& window) {
-    return window.handle != closing && !IsGone(window) && CanComeBack(window.handle);
+    return window.handle != closing && !IsGone(window) &&
+           CanComeBack(FindInputWindow(*windows_, window.handle));
   });
-  return worked == nullptr ? 0 : worked->handle;
+  return worked == nullptr ? 0 : FindInputWindow(*windows_, worked->handle);
 }
 
 bool ForegroundTracker::CanComeBack(WindowHandle hwnd) {
@@ -122,15 +152,17 @@ void ForegroundTracker::MoveRecordTo(const WindowTriple& window) {
 }
 
 void ForegroundTracker::RecordSelection(const WindowTriple& window) {
-  leftBySelection_ = windows_->GetForegroundWindow();
-  previous_->menuSelection = leftBySelection_ != window.handle;
+  previous_->leaving = windows_->GetForegroundWindow();
+  previous_->coming = FindInputWindow(*windows_, window.handle);
+  previous_->menuSelection = previous_->leaving != previous_->coming;
   MoveRecordTo(window);
 }
 
 void ForegroundTracker::PopUpClosed() {
   const WindowHandle main = mainWindow_->MainHandle();
   if (mainWindow_->FocusTag() == kGotFocus || windows_->GetForegroundWindow() != main) return;
-  leftBySelection_ = main;
+  if (!previous_->menuSelection) previous_->coming = inFront_;
+  previous_->leaving = main;
   previous_->menuSelection = true;
 }
 
@@ -140,9 +172,27 @@ bool ForegroundTracker::IsGone(const WindowTriple& window) {
                                 GetWindowClass(*windows_, window.handle) != window.className);
 }
 
-bool ForegroundTracker::CanBeActivated(const WindowTriple& window) {
+/// True also for a window behind a dialog of its own, and for one that is out of sight because its
+/// owner is minimized: Tag 0 brings the dialog forward and restores the owner.
+bool ForegroundTracker::CanBeReached(const WindowTriple& window) {
   WindowTriple live = Recorded(&window);
-  return actions_->ActivateWindow(live, false, false) == kActivationDone;
+  switch (actions_->ActivateWindow(live, false, false)) {
+    case kActivationDone:
+      return true;
+    case kWindowNotEnabled: {
+      const WindowHandle dialog = FindInputWindow(*windows_, window.handle);
+      // A dialog that the user was followed into stands for itself.
+      return dialog != 0 && worked_.First([&](const WindowTriple& other) {
+        return other.handle == dialog;
+      }) == nullptr;
+    }
+    case kWindowNotOpen: {
+      const WindowHandle owner = GetRelatedWindow(*windows_, window.handle, 2);
+      return owner != 0 && windows_->IsIconic(owner);
+    }
+    default:
+      return false;
+  }
 }
 
 /// The window under its title of now.
@@ -159,13 +209,13 @@ void ForegroundTracker::UpdateRecord() {
   });
   const WindowHandle main = mainWindow_->MainHandle();
   previous_->current = Recorded(worked_.First(
-      [&](const WindowTriple& window) { return window.handle != main && CanBeActivated(window); }));
+      [&](const WindowTriple& window) { return window.handle != main && CanBeReached(window); }));
   const WindowHandle current = previous_->current.handle;
   previous_->alternate = Recorded(worked_.First([&](const WindowTriple& window) {
-    return window.handle != current && CanBeActivated(window);
+    return window.handle != current && CanBeReached(window);
   }));
   const WindowTriple* const next = worked_.First([&](const WindowTriple& window) {
-    return window.handle != lastSeen_ && CanBeActivated(window);
+    return window.handle != lastSeen_ && CanBeReached(window);
   });
   previous_->tagZeroIsAlternate = next == nullptr || next->handle != current;
   if (previous_->alternate.handle == main) previous_->alternate.text = mainWindow_->MainCaption();

@@ -39,7 +39,7 @@ class ForegroundTracker {
   /// before it, else the one last worked in. 0 when `closing` is not in front, or nothing is left.
   WindowHandle WindowBehind(WindowHandle closing);
 
-  /// Fills the record with the windows last worked in that can be activated now.
+  /// Fills the record with the windows last worked in that Tag 0 can lead to now.
   void UpdateRecord();
 
   /// Updates the record, then shows it in the main window.
@@ -64,9 +64,11 @@ class ForegroundTracker {
   void PopUpClosed();
 
  private:
+  void LookBehindDialog(WindowHandle dialog);
+  void MoveRecordBehindDialog(const WindowTriple& window);
   void NoteInFront(WindowHandle foreground);
   bool IsGone(const WindowTriple& window);
-  bool CanBeActivated(const WindowTriple& window);
+  bool CanBeReached(const WindowTriple& window);
   bool CanComeBack(WindowHandle hwnd);
   WindowTriple Recorded(const WindowTriple* window);
   void ShowRecord();
@@ -81,8 +83,6 @@ class ForegroundTracker {
   /// The window that the user was seen in last.
   WindowHandle lastSeen_ = 0;
   bool firstTick_ = true;
-  /// The window in front when the record was moved by a selection.
-  WindowHandle leftBySelection_ = 0;
   /// What was in front last and before that, followed or not.
   WindowHandle inFront_ = 0;
   WindowHandle inFrontBefore_ = 0;

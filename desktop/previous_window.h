@@ -27,6 +27,9 @@ struct PreviousWindow {
   /// A selection has moved the record already, or the main window was in front for its menu alone:
   /// the next tick may still find the window in front that is on its way to the back.
   bool menuSelection = false;
+  /// With menuSelection: the window on its way to the back, and the one that takes its place.
+  WindowHandle leaving = 0;
+  WindowHandle coming = 0;
   /// Outside the main window Tag 0 stands for the alternate, as the user is in the current window;
   /// not when the window that they were in is gone.
   bool tagZeroIsAlternate = true;

@@ -3,8 +3,40 @@
 #include <cstdint>
 
 #include "desktop/window_readers.h"
+#include "platform/win32_constants.h"
 
 namespace korvale {
+namespace {
+
+/// More owners behind each other than any program has.
+constexpr int kMostOwners = 16;
+
+bool IsOwnedBy(WindowQueries& windows, WindowHandle hwnd, WindowHandle owner) {
+  for (int i = 0; i < kMostOwners && hwnd != 0; ++i) {
+    hwnd = windows.GetWindow(hwnd, win32::kGwOwner);
+    if (hwnd == owner) return true;
+  }
+  return false;
+}
+
+bool TakesInput(WindowQueries& windows, WindowHandle hwnd) {
+  return windows.IsWindowVisible(hwnd) && windows.IsWindowEnabled(hwnd);
+}
+
+}  // namespace
+
+WindowHandle FindInputWindow(WindowQueries& windows, WindowHandle hwnd) {
+  if (hwnd == 0 || windows.IsWindowEnabled(hwnd)) return hwnd;
+  const WindowHandle last = windows.GetLastActivePopup(hwnd);
+  const bool folded = windows.IsIconic(hwnd) && windows.IsWindowEnabled(last);
+  if (last != 0 && last != hwnd && (folded || TakesInput(windows, last))) return last;
+  WindowHandle found = 0;
+  windows.EnumWindows([&](WindowHandle candidate) {
+    if (TakesInput(windows, candidate) && IsOwnedBy(windows, candidate, hwnd)) found = candidate;
+    return found == 0;
+  });
+  return found;
+}
 
 WindowHandle FindWaitingWindow(WindowQueries& windows, WindowHandle hwnd,
                                const std::string& className) {
@@ -13,7 +45,7 @@ WindowHandle FindWaitingWindow(WindowQueries& windows, WindowHandle hwnd,
   WindowHandle found = 0;
   windows.EnumWindows([&](WindowHandle candidate) {
     const bool waits = windows.GetWindowThreadProcessId(candidate) == thread &&
-                       windows.IsWindowVisible(candidate) && windows.IsWindowEnabled(candidate) &&
+                       TakesInput(windows, candidate) &&
                        (className.empty() || GetWindowClass(windows, candidate) == className);
     if (waits) found = candidate;
     return !waits;

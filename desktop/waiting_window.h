@@ -12,4 +12,10 @@ namespace korvale {
 WindowHandle FindWaitingWindow(WindowQueries& windows, WindowHandle hwnd,
                                const std::string& className = "");
 
+/// The window that takes the user's input for `hwnd`: itself while it is enabled; otherwise, of the
+/// windows that it owns, the one that was active last, or else the topmost that is visible and
+/// enabled, so the dialog that disables it. In front of a minimized window it is out of sight, too.
+/// 0 when nothing takes input.
+WindowHandle FindInputWindow(WindowQueries& windows, WindowHandle hwnd);
+
 }  // namespace korvale

@@ -4,6 +4,7 @@
 
 #include "desktop/timer_pause.h"
 #include "desktop/title_match.h"
+#include "desktop/waiting_window.h"
 #include "desktop/window_readers.h"
 #include "platform/win32_constants.h"
 
@@ -46,6 +47,19 @@ ActivationResult WindowActions::ActivateWindow(WindowHandle& hwnd, std::string& 
 
 ActivationResult WindowActions::ActivateWindow(WindowTriple& window, bool reportFailure, bool act) {
   return ActivateWindow(window.handle, window.text, window.className, reportFailure, act);
+}
+
+ActivationResult WindowActions::ActivatePreviousWindow(WindowTriple& window) {
+  const ActivationResult result = ActivateWindow(window, false, true);
+  const WindowHandle dialog =
+      result == kWindowNotEnabled ? FindInputWindow(*windows_, window.handle) : 0;
+  if (dialog == 0) return result;
+  if (windows_->IsIconic(window.handle) && ShowDesktopWindow(window.handle, win32::kSwRestore)) {
+    requests_->Await(dialog, [&] { return windows_->IsWindowVisible(dialog); });
+  }
+  WindowTriple inFrontOfIt{dialog, GetWindowTitle(*windows_, dialog),
+                           GetWindowClass(*windows_, dialog)};
+  return ActivateWindow(inFrontOfIt, false, true);
 }
 
 ActivationResult WindowActions::TryActivation(WindowHandle& hwnd, std::string& text,
@@ -117,7 +131,7 @@ WindowTriple WindowActions::MinimizeForeground(WindowHandle hwnd) {
   }
   WindowTriple& next = previous_->OfTagZero(mainWindow_->FocusTag() == kGotFocus);
   if (!windows_->IsWindowVisible(next.handle) || windows_->IsIconic(next.handle)) return {};
-  return ActivateWindow(next, false, true) == kActivationDone ? next : WindowTriple{};
+  return ActivatePreviousWindow(next) == kActivationDone ? next : WindowTriple{};
 }
 
 void WindowActions::MaximizeOrRestoreForeground(WindowHandle hwnd) {

@@ -38,6 +38,10 @@ class WindowActions {
                                   const std::string& className, bool reportFailure, bool act);
   ActivationResult ActivateWindow(WindowTriple& window, bool reportFailure, bool act);
 
+  /// Brings the window of Tag 0 to the front, or the dialog that disables it, in which the user
+  /// was.
+  ActivationResult ActivatePreviousWindow(WindowTriple& window);
+
   /// `hotKeyName` is HOTKEY_MINIMIZE_PARENT or HOTKEY_RESTORE/MAXIMIZE_PARENT; others do nothing.
   /// Returns the window that came forward in the place of a minimized one, all empty without one.
   WindowTriple MinimizeOrMaximizeForeground(std::string_view hotKeyName);

@@ -78,7 +78,7 @@ void WindowMenu::mnuWindowParentList_Click(std::int16_t Index) {
 void WindowMenu::SelectPrevious() {
   parts_.tracker.UpdateRecord();
   WindowTriple window = parts_.previous.OfTagZero(parts_.mainWindow.FocusTag() == kGotFocus);
-  if (parts_.actions.ActivateWindow(window, false, true) == kActivationDone) {
+  if (parts_.actions.ActivatePreviousWindow(window) == kActivationDone) {
     selected = window.handle;
     parts_.tracker.RecordSelection(window);
   }

@@ -20,6 +20,9 @@ class WindowQueries {
   /// `command` is one of the GW_ values; 0 when there is no such window.
   virtual WindowHandle GetWindow(WindowHandle hwnd, std::uint32_t command) = 0;
   virtual WindowHandle GetParent(WindowHandle hwnd) = 0;
+  /// Of the window and those that it owns, the one that was active last. A window that has an owner
+  /// itself is always its own answer; one that is gone has none, or itself.
+  virtual WindowHandle GetLastActivePopup(WindowHandle hwnd) = 0;
   /// `index` is GWL_STYLE or GWL_EXSTYLE.
   virtual std::int32_t GetWindowLongA(WindowHandle hwnd, int index) = 0;
   /// Length of the title in bytes; may be more than the title needs, never less.

@@ -45,6 +45,10 @@ WindowHandle WindowsWindowApi::GetParent(WindowHandle hwnd) {
   return ToWindowHandle(::GetParent(ToHwnd(hwnd)));
 }
 
+WindowHandle WindowsWindowApi::GetLastActivePopup(WindowHandle hwnd) {
+  return ToWindowHandle(::GetLastActivePopup(ToHwnd(hwnd)));
+}
+
 std::int32_t WindowsWindowApi::GetWindowLongA(WindowHandle hwnd, int index) {
   return ::GetWindowLongA(ToHwnd(hwnd), index);
 }

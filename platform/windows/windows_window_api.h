@@ -11,6 +11,7 @@ class WindowsWindowApi final : public WindowQueries, public WindowCommands {
   void EnumWindows(const std::function<bool(WindowHandle)>& visit) override;
   WindowHandle GetWindow(WindowHandle hwnd, std::uint32_t command) override;
   WindowHandle GetParent(WindowHandle hwnd) override;
+  WindowHandle GetLastActivePopup(WindowHandle hwnd) override;
   std::int32_t GetWindowLongA(WindowHandle hwnd, int index) override;
   int GetWindowTextLengthA(WindowHandle hwnd) override;
   int GetWindowTextA(WindowHandle hwnd, std::span<char> buffer) override;

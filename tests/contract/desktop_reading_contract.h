@@ -138,6 +138,21 @@ TEST_F(DesktopContract, GivesTheOwnerAsParentOfAPopupOnly) {
   EXPECT_EQ(queries_.GetParent(owner), 0);
 }
 
+TEST_F(DesktopContract, KnowsWhichWindowOfAnOwnerWasActiveLast) {
+  const WindowHandle owner = OpenPlain("Contract Alpha");
+  EXPECT_EQ(queries_.GetLastActivePopup(owner), owner);
+  const WindowHandle popup = Open({.title = "Contract Popup", .owner = owner, .popup = true});
+  const WindowHandle inner = Open({.title = "Contract Inner", .owner = popup, .popup = true});
+  OpenPlain("Contract Beta");
+
+  EXPECT_EQ(queries_.GetLastActivePopup(owner), inner);
+  Close(inner);
+  SetForeground(popup);
+  EXPECT_EQ(queries_.GetLastActivePopup(owner), popup);
+  SetForeground(owner);
+  EXPECT_EQ(queries_.GetLastActivePopup(owner), owner);
+}
+
 TEST_F(DesktopContract, ClosesOwnedWindowsWithTheirOwner) {
   const WindowHandle owner = OpenPlain("Contract Alpha");
   const WindowHandle owned = Open({.title = "Contract Popup", .owner = owner, .popup = true});

@@ -55,14 +55,36 @@ TEST_F(PreviousWindowValidation, FallsBackWhenTheWindowIsDisabledOrHidden) {
 TEST_F(PreviousWindowValidation, TakesADisabledWindowBackOnceTheUserIsInItAgain) {
   WorkIn(alpha);
   WorkIn(beta);
+  desktop.SetEnabled(beta, false);
+  tracker.ValidatePreviousWindow();
+  EXPECT_EQ(previous.current, Triple(alpha));
+  desktop.SetEnabled(beta, true);
+  WorkIn(beta);
+  EXPECT_EQ(previous.current, Triple(beta));
+  EXPECT_EQ(previous.alternate, Triple(alpha));
+}
+
+TEST_F(PreviousWindowValidation, KeepsAWindowBehindADialogOfItsOwn) {
+  WorkIn(alpha);
+  WorkIn(beta);
   const WindowHandle dialog = desktop.OpenModalDialog(beta, "Save As");
   WorkIn(dialog);
   tracker.ValidatePreviousWindow();
-  EXPECT_EQ(previous.current, Triple(alpha));
+  EXPECT_EQ(previous.current, Triple(beta));
+  EXPECT_EQ(previous.alternate, Triple(alpha));
+  EXPECT_TRUE(mainWindow.previousWindowItems);
   desktop.CloseModalDialog(dialog);
   WorkIn(beta);
   EXPECT_EQ(previous.current, Triple(beta));
   EXPECT_EQ(previous.alternate, Triple(alpha));
+}
+
+TEST_F(PreviousWindowValidation, KeepsAWindowOutOfSightWithItsMinimizedOwner) {
+  const WindowHandle owned = desktop.Open("Owned", {.owner = alpha});
+  WorkIn(owned);
+  desktop.UserMinimizes(alpha);
+  tracker.ValidatePreviousWindow();
+  EXPECT_EQ(previous.current, Triple(owned));
 }
 
 TEST_F(PreviousWindowValidation, GoesBackBehindTheMainWindow) {

@@ -43,5 +43,44 @@ TEST_F(WaitingWindowTest, IsNoneForAWindowThatIsGone) {
   EXPECT_EQ(FindWaitingWindow(desktop_, 0), 0);
 }
 
+TEST_F(WaitingWindowTest, ForTheInputIsTheWindowItselfWhileItIsEnabled) {
+  const WindowHandle main = Open("Main", kOtherProcess);
+  desktop_.Open("Find", {.owner = main});
+  EXPECT_EQ(FindInputWindow(desktop_, main), main);
+  EXPECT_EQ(FindInputWindow(desktop_, 0), 0);
+}
+
+TEST_F(WaitingWindowTest, ForTheInputIsTheInnermostDialogThatTakesIt) {
+  const WindowHandle main = Open("Main", kOtherProcess);
+  const WindowHandle outer = desktop_.OpenModalDialog(main, "Outer");
+  const WindowHandle inner = desktop_.OpenModalDialog(outer, "Inner");
+  EXPECT_EQ(FindInputWindow(desktop_, main), inner);
+  EXPECT_EQ(FindInputWindow(desktop_, outer), inner);
+  desktop_.CloseModalDialog(inner);
+  EXPECT_EQ(FindInputWindow(desktop_, main), outer);
+}
+
+TEST_F(WaitingWindowTest, ForTheInputIsNoWindowThatOnlyHoversAboveTheDialog) {
+  const WindowHandle main = Open("Main", kOtherProcess);
+  const WindowHandle dialog = desktop_.OpenModalDialog(main, "Dialog");
+  desktop_.Open("Hint", {.owner = main, .activate = false});
+  EXPECT_EQ(FindInputWindow(desktop_, main), dialog);
+}
+
+TEST_F(WaitingWindowTest, ForTheInputIsNoneWhenNothingTakesIt) {
+  const WindowHandle main = Open("Main", kOtherProcess);
+  desktop_.Hide(desktop_.Open("Helper", {.owner = main}));
+  Open("Another", kOtherProcess);
+  desktop_.SetEnabled(main, false);
+  EXPECT_EQ(FindInputWindow(desktop_, main), 0);
+}
+
+TEST_F(WaitingWindowTest, ForTheInputIsTheHiddenDialogOfAMinimizedWindow) {
+  const WindowHandle main = Open("Main", kOtherProcess);
+  const WindowHandle dialog = desktop_.OpenModalDialog(main, "Dialog");
+  desktop_.UserMinimizes(main);
+  EXPECT_EQ(FindInputWindow(desktop_, main), dialog);
+}
+
 }  // namespace
 }  // namespace korvale

@@ -22,6 +22,16 @@ class WayBack : public KorvaleTest {
     ASSERT_TRUE(WorkIn(alpha_));
   }
 
+  /// A dialog of the window, which it disables.
+  Window OpenDialog(Window window) {
+    EnableWindow(window.handle(), FALSE);
+    const Window dialog =
+        Open({.title = "Dialog", .style = WS_POPUP | WS_CAPTION | DS_MODALFRAME, .owner = window});
+    EXPECT_TRUE(InFront(dialog));
+    EXPECT_TRUE(StaysInFront(dialog));
+    return dialog;
+  }
+
   /// Alt+0 brings the window forward, which stays there.
   ::testing::AssertionResult LeadsTo(Window window) {
     Press(TagKey(0));
@@ -91,6 +101,32 @@ TEST_F(WayBack, IsKeptWhenTheWindowInFrontCloses) {
   ASSERT_TRUE(StaysInFront(beta_));
   EXPECT_TRUE(LeadsTo(gamma_));
   EXPECT_TRUE(LeadsTo(beta_));
+}
+
+TEST_F(WayBack, IsTheDialogInWhichTheUserWas) {
+  StartInAlpha();
+  const Window dialog = OpenDialog(alpha_);
+  EXPECT_TRUE(LeadsTo(beta_));
+  EXPECT_TRUE(LeadsTo(dialog));
+  ASSERT_TRUE(BringToFront(main()));
+  ASSERT_TRUE(StaysInFront(main()));
+  EXPECT_EQ(korvale_->TargetTitle(), "Alpha");
+  EXPECT_TRUE(LeadsTo(dialog));
+  EnableWindow(alpha_.handle(), TRUE);
+  ASSERT_TRUE(dialog.Close());
+  ASSERT_TRUE(WorkIn(alpha_));
+  EXPECT_TRUE(LeadsTo(main()));
+  EXPECT_TRUE(LeadsTo(alpha_));
+}
+
+TEST_F(WayBack, IsTheDialogOfAMinimizedWindow) {
+  StartInAlpha();
+  const Window dialog = OpenDialog(alpha_);
+  ShowWindow(alpha_.handle(), SW_MINIMIZE);
+  ASSERT_TRUE(WaitFor([&] { return alpha_.Minimized(); }));
+  ASSERT_TRUE(WorkIn(beta_));
+  EXPECT_TRUE(LeadsTo(dialog));
+  EXPECT_FALSE(alpha_.Minimized());
 }
 
 TEST_F(WayBack, IsNotTheMainWindowAfterThePopUp) {

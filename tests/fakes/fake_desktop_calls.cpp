@@ -58,6 +58,12 @@ WindowHandle FakeDesktop::GetParent(WindowHandle hwnd) {
   return (window->style & fakes::kWsPopup) != 0 ? window->owner : 0;
 }
 
+WindowHandle FakeDesktop::GetLastActivePopup(WindowHandle hwnd) {
+  const FakeWindow* const window = Read("GetLastActivePopup", hwnd);
+  if (window == nullptr) return 0;
+  return windows_.LastActivePopupOf(hwnd);
+}
+
 std::int32_t FakeDesktop::GetWindowLongA(WindowHandle hwnd, int index) {
   const bool extended = index == win32::kGwlExStyle;
   const FakeWindow* const window =

@@ -56,7 +56,8 @@ struct FakeWindow {
   bool restoresToZoomed = false;
   bool hiddenByOwner = false;  ///< Out of sight while its owner is minimized.
   bool hung = false;
-  std::uint64_t busyUntil = 0;  ///< A moment of the clock.
+  std::uint64_t busyUntil = 0;       ///< A moment of the clock.
+  WindowHandle lastActivePopup = 0;  ///< Of those that it owns and itself; kept without an owner.
   bool atBottom = false;
   int process = kOtherProcess;
   int extraTextLength = 0;

@@ -126,6 +126,7 @@ void FakeWindows::Activate(WindowHandle hwnd) {
   if (hwnd != 0) order_.Raise(hwnd);
   if (foreground_ == hwnd) return;
   foreground_ = hwnd;
+  if (hwnd != 0) windows_.at(order_.WithOwners(hwnd).back()).lastActivePopup = hwnd;
   Notify([&](DesktopObserver& observer) { observer.OnForegroundChanged(hwnd); });
 }
 
@@ -149,6 +150,13 @@ WindowHandle FakeWindows::EnabledPopupOf(WindowHandle hwnd) const {
     if (owned != hwnd && IsVisible(owned) && Find(owned)->enabled) return owned;
   }
   return 0;
+}
+
+WindowHandle FakeWindows::LastActivePopupOf(WindowHandle hwnd) const {
+  const FakeWindow& window = windows_.at(hwnd);
+  const std::vector<WindowHandle> group = order_.WithOwned(hwnd);
+  const bool owned = std::ranges::find(group, window.lastActivePopup) != group.end();
+  return window.owner == 0 && owned ? window.lastActivePopup : hwnd;
 }
 
 void FakeWindows::AddObserver(DesktopObserver& observer) { observers_.push_back(&observer); }

@@ -60,6 +60,9 @@ class FakeWindows {
   /// enabled one that it owns; 0 when there is none.
   WindowHandle EnabledPopupOf(WindowHandle hwnd) const;
 
+  /// The window, or that of its group which was active last; only for windows without an owner.
+  WindowHandle LastActivePopupOf(WindowHandle hwnd) const;
+
   void AddObserver(DesktopObserver& observer);
   void RemoveObserver(DesktopObserver& observer);
   void NotifyPosted(WindowHandle hwnd, std::uint32_t message);

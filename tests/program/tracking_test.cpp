@@ -126,13 +126,26 @@ TEST_F(TrackingTest, AToolWindowIsFollowedOnceItIsTagged) {
   EXPECT_EQ(TagHandle(korvale.Form().Menu("mnuWindowParentList", 4)), tagged);
 }
 
-TEST_F(TrackingTest, AModalDialogOfAnotherProgramIsNotFollowed) {
+TEST_F(TrackingTest, AModalDialogOfAnotherProgramIsAVisitToItsWindow) {
   KorvaleCopy& korvale = StartedCopy();
   WorkIn(alpha);
   WorkIn(beta);
   const WindowHandle dialog = desktop.OpenModalDialog(alpha, "Save As");
   WorkIn(dialog);
   EXPECT_EQ(Front(), "Save As");
+  ExpectPrevious(korvale, "Alpha");
+  PressTag(0);
+  EXPECT_EQ(Front(), "Beta");
+}
+
+TEST_F(TrackingTest, ADialogThatDisablesNoWindowIsNotFollowed) {
+  KorvaleCopy& korvale = StartedCopy();
+  WorkIn(alpha);
+  WorkIn(beta);
+  const WindowHandle dialog =
+      desktop.Open("Find", {.className = "#32770", .owner = alpha, .style = win32::kDsModalFrame});
+  WorkIn(dialog);
+  EXPECT_EQ(Front(), "Find");
   ExpectPrevious(korvale, "Beta");
 }
 

@@ -1,0 +1,149 @@
+#include "platform/win32_constants.h"
+#include "tests/program/korvale_world.h"
+
+namespace korvale {
+namespace {
+
+/// Alt+0 among windows that stand disabled behind a dialog of their own.
+class DialogWayBackTest : public KorvaleWorld {
+ protected:
+  void SetUp() override {
+    gamma = Open("Gamma", {.className = "G"});
+    beta = Open("Beta", {.className = "B"});
+    alpha = Open("Alpha", {.className = "A"});
+    korvale = &StartedCopy();
+    for (const WindowHandle hwnd : {gamma, beta, alpha}) WorkIn(hwnd);
+  }
+
+  /// The user opens a dialog in the window.
+  WindowHandle OpenDialog(WindowHandle window, const std::string& title) {
+    const WindowHandle dialog = desktop.OpenModalDialog(window, title);
+    LetTick();
+    return dialog;
+  }
+
+  void ExpectWayBack(const std::string& title) {
+    PressTag(0);
+    EXPECT_EQ(Front(), title);
+  }
+
+  WindowHandle alpha = 0;
+  WindowHandle beta = 0;
+  WindowHandle gamma = 0;
+  KorvaleCopy* korvale = nullptr;
+};
+
+TEST_F(DialogWayBackTest, LeadsToTheDialogAndBack) {
+  OpenDialog(alpha, "Save As");
+  WorkIn(beta);
+  for (int i = 0; i < 2; ++i) {
+    ExpectWayBack("Save As");
+    ExpectWayBack("Beta");
+  }
+  EXPECT_TRUE(korvale->host.Messages().empty());
+}
+
+TEST_F(DialogWayBackTest, LeadsToTheInnermostDialog) {
+  OpenDialog(OpenDialog(alpha, "Save As"), "Replace it?");
+  WorkIn(beta);
+  ExpectWayBack("Replace it?");
+  ExpectWayBack("Beta");
+}
+
+TEST_F(DialogWayBackTest, LeadsFromTheDialogToTheWindowBefore) {
+  OpenDialog(alpha, "Save As");
+  ExpectWayBack("Beta");
+  ExpectWayBack("Save As");
+}
+
+TEST_F(DialogWayBackTest, LeadsFromTheMainWindowToWhereTheUserWas) {
+  const WindowHandle dialog = OpenDialog(alpha, "Save As");
+  WorkIn(korvale->Handle());
+  EXPECT_EQ(korvale->TargetWindow(), "Alpha");
+  ExpectWayBack("Save As");
+  ExpectWayBack("Korvale - Work");
+  WorkIn(alpha);
+  desktop.CloseModalDialog(dialog);
+  LetTick();
+  EXPECT_EQ(Front(), "Alpha");
+  EXPECT_EQ(korvale->TargetWindow(), "Alpha");
+  ExpectWayBack("Korvale - Work");
+  ExpectWayBack("Alpha");
+}
+
+TEST_F(DialogWayBackTest, CountsAVisitToTheDialogAsOneToItsWindow) {
+  OpenDialog(alpha, "Save As");
+  WorkIn(gamma);
+  WorkIn(beta);
+  WorkIn(alpha);
+  ASSERT_EQ(Front(), "Save As");
+  EXPECT_EQ(korvale->TargetWindow(), "Alpha");
+  ExpectWayBack("Beta");
+  ExpectWayBack("Save As");
+}
+
+TEST_F(DialogWayBackTest, KnowsTheWindowOfADialogThatWasThereFirst) {
+  const WindowHandle late = desktop.Open("Late", {.className = "L", .activate = false});
+  OpenDialog(late, "Welcome");
+  WorkIn(beta);
+  ExpectWayBack("Welcome");
+  ExpectWayBack("Beta");
+}
+
+TEST_F(DialogWayBackTest, TakesADialogThatIsFollowedItselfForAWindowOfItsOwn) {
+  desktop.SetEnabled(alpha, false);
+  const WindowHandle dialog = desktop.Open("Wizard", {.owner = alpha});
+  LetTick();
+  EXPECT_EQ(korvale->TargetWindow(), "Wizard");
+  ExpectWayBack("Beta");
+  ExpectWayBack("Wizard");
+  desktop.CloseModalDialog(dialog);
+  LetTick();
+  EXPECT_EQ(Front(), "Alpha");
+  ExpectWayBack("Beta");
+}
+
+TEST_F(DialogWayBackTest, UnfoldsAWindowThatWasMinimizedWithItsDialog) {
+  OpenDialog(alpha, "Save As");
+  desktop.UserMinimizes(alpha);
+  WorkIn(beta);
+  ExpectWayBack("Save As");
+  EXPECT_FALSE(desktop.IsIconic(alpha));
+}
+
+TEST_F(DialogWayBackTest, PassesOverAWindowThatNothingMakesUsable) {
+  desktop.SetEnabled(beta, false);
+  ExpectWayBack("Gamma");
+  ExpectWayBack("Alpha");
+}
+
+TEST_F(DialogWayBackTest, MinimizingBringsTheDialogForward) {
+  OpenDialog(alpha, "Save As");
+  WorkIn(beta);
+  PressHotKey(win32::kModAlt, win32::kVkDown);
+  EXPECT_EQ(Front(), "Save As");
+  EXPECT_TRUE(desktop.IsIconic(beta));
+  ExpectWayBack("Beta");
+}
+
+TEST_F(DialogWayBackTest, ClosingTheOptionsGivesTheDialogTheForegroundBack) {
+  OpenDialog(alpha, "Save As");
+  PressHotKey(win32::kModWin, 'O');
+  class Form& options = korvale->Loaded("frmOptions");
+  korvale->user.Click(options.Handle(), korvale->Id(options, "cmdCancel"));
+  EXPECT_EQ(Front(), "Save As");
+  ExpectWayBack("Beta");
+}
+
+TEST_F(DialogWayBackTest, UnfoldsTheOwnerOfTheWindowBefore) {
+  const WindowHandle owned = Open("Owned", {.owner = alpha});
+  LetTick();
+  desktop.UserMinimizes(alpha);
+  WorkIn(beta);
+  ExpectWayBack("Owned");
+  EXPECT_FALSE(desktop.IsIconic(alpha));
+  EXPECT_TRUE(desktop.IsWindowVisible(owned));
+}
+
+}  // namespace
+}  // namespace korvale
