@@ -34,6 +34,12 @@ struct PreviousWindow {
   /// not when the window that they were in is gone.
   bool tagZeroIsAlternate = true;
 
+  /// The window that the user has in front as soon as a selection has taken effect; `foreground` is
+  /// what GetForegroundWindow says.
+  WindowHandle InFront(WindowHandle foreground) const {
+    return menuSelection && (foreground == leaving || foreground == 0) ? coming : foreground;
+  }
+
   /// The window of Tag 0; `mainInFront` = the main window has the focus.
   WindowTriple& OfTagZero(bool mainInFront) {
     return mainInFront || !tagZeroIsAlternate ? current : alternate;

@@ -133,6 +133,46 @@ TEST_F(WayBackTest, MinimizingAndAQuickTagLoseNothing) {
   ExpectWayBack("Beta");
 }
 
+TEST_F(WayBackTest, MinimizingRightAfterASelectionMinimizesTheSelectedWindow) {
+  InAlpha();
+  desktop.DelayForeground(true);
+  PressQuickly(2);
+  EXPECT_TRUE(hotKeys.Press(win32::kModAlt, win32::kVkDown));
+  desktop.DelayForeground(false);
+  LetTick();
+  EXPECT_TRUE(desktop.IsIconic(beta));
+  EXPECT_FALSE(desktop.IsIconic(alpha));
+  EXPECT_EQ(Front(), "Alpha");
+  ExpectWayBack("Beta");
+}
+
+TEST_F(WayBackTest, MaximizingRightAfterASelectionMaximizesTheSelectedWindow) {
+  InAlpha();
+  desktop.DelayForeground(true);
+  PressQuickly(2);
+  EXPECT_TRUE(hotKeys.Press(win32::kModAlt, win32::kVkUp));
+  desktop.DelayForeground(false);
+  LetTick();
+  EXPECT_TRUE(desktop.IsZoomed(beta));
+  EXPECT_FALSE(desktop.IsZoomed(alpha));
+  EXPECT_EQ(Front(), "Beta");
+}
+
+TEST_F(WayBackTest, MinimizingRightAfterThePopUpClosedMinimizesTheWindowInFrontBefore) {
+  KorvaleCopy& korvale = InAlpha();
+  korvale.host.WhenPopupMenu([this](const std::vector<ShownMenuItem>& /*items*/) {
+    desktop.DelayForeground(true);
+    return std::string();
+  });
+  EXPECT_TRUE(hotKeys.Press(win32::kModWin, 'W'));
+  EXPECT_TRUE(hotKeys.Press(win32::kModAlt, win32::kVkDown));
+  desktop.DelayForeground(false);
+  LetTick();
+  EXPECT_TRUE(desktop.IsIconic(alpha));
+  EXPECT_FALSE(desktop.IsIconic(korvale.Handle()));
+  EXPECT_EQ(Front(), "Beta");
+}
+
 TEST_F(WayBackTest, WhenTheWindowInFrontClosesTheOneBeforeItsSuccessorIsNext) {
   InAlpha();
   desktop.Close(alpha);
