@@ -100,9 +100,13 @@ void frmMain::ApplyPlacement() {
     place.top = startup.Top;
   }
   place.width = std::max(startup.Width, kMinimumWidth);
-  place.height = startup.Height;
+  // What is stored may be another height than the one that the window is going to have.
+  place.height = HeightForContent(Collection().Host().AdjustWindowRectEx(State()));
   SetPlace(place);
   parts_.display.BringOntoMonitor(*this);
+  place = Place();
+  place.height = startup.Height;
+  SetPlace(place);
   SetWindowState(static_cast<ShowState>(startup.WindowState));
 }
 

@@ -131,5 +131,24 @@ TEST_F(MainWindowStateTest, ItKeepsItsSizeUntilTheStartHasFinished) {
   EXPECT_EQ(korvale.Parts().startup.Height, 1100);
 }
 
+TEST_F(MainWindowStateTest, AnUnreachablePlaceIsLeftForOneThatShowsTheWholeWindow) {
+  for (const char* const state : {"0", "1", "2"}) {
+    for (const char* const height : {"0", "1100", "9000"}) {
+      Store("WindowState", state);
+      Store("Top", "100000");
+      Store("Height", height);
+      KorvaleCopy& korvale = UnstartedCopy();
+      korvale.host.SetWorkArea({0, 0, 20000, 12000});
+      ASSERT_TRUE(korvale.Start());
+      desktop.UserRestores(korvale.Handle());
+      EXPECT_EQ(Height(korvale), 1100);
+      EXPECT_GE(Place(korvale).top, 0);
+      EXPECT_LE(Place(korvale).top + Place(korvale).height, 12000) << state << " " << height;
+      korvale.Exit();
+      EndCopy(korvale);
+    }
+  }
+}
+
 }  // namespace
 }  // namespace korvale
