@@ -251,6 +251,8 @@ std::optional<LRESULT> FormWindow::HandleMouse(UINT message, WPARAM wParam, LPAR
     ::SetCursor(LoadPointer(classes_->Instance(), *pointer_));
     return TRUE;
   }
+  // A click, also one on its title bar, shall not take the keyboard either.
+  if (message == WM_MOUSEACTIVATE && form_->aside) return MA_NOACTIVATEANDEAT;
   if (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) {
     TellMouse(0, hwnd_, message, wParam, lParam);
   }

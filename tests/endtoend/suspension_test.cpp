@@ -164,6 +164,20 @@ TEST_F(Toggle, ItsNoticeLeavesTheKeyboardToTheUsersWindow) {
   EXPECT_TRUE(InFront(notepad.window()));
 }
 
+TEST_F(Toggle, ItsNoticeLeavesTheKeyboardAlsoToTheUserWhoClicksOnIt) {
+  Start();
+  const Window beta = Open("Beta");
+  ASSERT_TRUE(WorkIn(beta));
+  for (const LONG from_top : {10L, 60L}) {
+    Press(kToggleKey);
+    const Window notice = korvale_->Form("frmWaitWindow");
+    ASSERT_TRUE(notice);
+    ClickAt(notice, {100, from_top});
+    EXPECT_TRUE(WaitFor([&] { return !korvale_->HasForm("frmWaitWindow"); }));
+    EXPECT_TRUE(StaysInFront(beta));
+  }
+}
+
 TEST_F(Toggle, ItsNoticeGoesByItselfUnderTheSuspensionNotice) {
   Start();
   const Window beta = Open("Beta");
