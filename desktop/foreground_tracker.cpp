@@ -17,6 +17,7 @@ constexpr std::uint32_t kTickMilliseconds = 100;
 constexpr int kMostDialogs = 16;
 
 constexpr const char* kTaskbarClass = "Shell_TrayWnd";
+constexpr const char* kBareDesktopClass = "Progman";
 
 }  // namespace
 
@@ -103,6 +104,8 @@ void ForegroundTracker::NoteInFront(WindowHandle foreground) {
 WindowHandle ForegroundTracker::WindowBehind(WindowHandle closing) {
   if (windows_->GetForegroundWindow() != closing) return 0;
   const WindowHandle last = inFront_ == closing ? inFrontBefore_ : inFront_;
+  // The bare desktop is no window to select, yet the user may have been there.
+  if (GetWindowClass(*windows_, last) == kBareDesktopClass) return last;
   const WindowHandle before = FindInputWindow(*windows_, last);
   if (last != closing && CanComeBack(before)) return before;
   const WindowTriple* const worked = worked_.First([&](const WindowTriple& window) {

@@ -133,5 +133,18 @@ TEST_F(OptionsWayBackTest, IsOneKeyAwayWhileItIsOpen) {
   EXPECT_EQ(Front(), "Alpha");
 }
 
+TEST_F(OptionsWayBackTest, FromTheBareDesktopEndsThere) {
+  KorvaleCopy& korvale = InAlpha();
+  const WindowHandle shell = desktop.FindWindowA("Program Manager");
+  for (const Close& close : WaysToClose()) {
+    WorkIn(shell);
+    OpenByHotKey();
+    close(korvale);
+    EXPECT_EQ(Front(), "Program Manager");
+    LetTick();
+    EXPECT_EQ(korvale.TargetWindow(), "Alpha");
+  }
+}
+
 }  // namespace
 }  // namespace korvale
