@@ -11,6 +11,9 @@ namespace korvale {
 namespace {
 
 constexpr std::int16_t kDigitZeroKey = 0x30;
+/// The modifiers that a press can tell of; any other bit of a stored value is a flag.
+constexpr std::uint32_t kModifierKeys =
+    win32::kModAlt | win32::kModControl | win32::kModShift | win32::kModWin;
 
 }  // namespace
 
@@ -82,6 +85,14 @@ void HotKeyTable::Remove() {
   }
   hotKeyNames_.assign(1, "");
   registered_.clear();
+}
+
+bool HotKeyTable::IsPress(std::uintptr_t wParam, std::intptr_t lParam) const {
+  if (wParam < 1 || wParam > registered_.size()) return false;
+  const RegisteredHotKey& hotKey = registered_[wParam - 1];
+  const auto words = static_cast<std::uint32_t>(lParam);
+  return (words & 0xFFFFU) == (static_cast<std::uint32_t>(hotKey.modifiers) & kModifierKeys) &&
+         words >> 16U == static_cast<std::uint16_t>(hotKey.key);
 }
 
 const std::string& HotKeyTable::NameOf(std::uintptr_t identifier) const {

@@ -38,10 +38,9 @@ class HotKeyTable {
   /// Error 6 when the identifiers run out.
   void AddHotKey(std::string_view name, std::int16_t modifiers, std::int16_t key);
 
-  /// True for the identifier of a hot key of the last registration, taken or refused.
-  bool Has(std::uintptr_t identifier) const {
-    return identifier >= 1 && identifier <= registered_.size();
-  }
+  /// True when the parameters of a WM_HOTKEY are those of a hot key of the last registration: its
+  /// identifier, and the modifiers (low word) and key (high word) that it was registered with.
+  bool IsPress(std::uintptr_t wParam, std::intptr_t lParam) const;
   /// The name behind an identifier; error 9 when it is outside the table.
   const std::string& NameOf(std::uintptr_t identifier) const;
 

@@ -36,8 +36,8 @@ std::intptr_t WindowProcHook::HotKeyWindowProc(WindowHandle hWnd, std::uint32_t 
 }
 
 void WindowProcHook::Dispatch(std::uintptr_t identifier, std::intptr_t lParam) {
-  // Any program may post whatever number it likes.
-  if (!table_->Has(identifier)) return;
+  // Any program may post whatever numbers it likes.
+  if (!table_->IsPress(identifier, lParam)) return;
   try {
     // A copy: the toggle rebuilds the table while the name is in use.
     const std::string name = table_->NameOf(identifier);

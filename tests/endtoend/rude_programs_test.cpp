@@ -26,7 +26,7 @@ struct Rude {
 
 /// What other programs have no business to send. Left out is what they may: asking a window to
 /// close, to paint, to take a text or a key, ending the session, and messages that stand for the
-/// user's own hot key, menu entry or button.
+/// user's own menu entry or button.
 std::vector<UINT> Queued() {
   std::vector<UINT> messages = {
       WM_CREATE,        WM_DESTROY,        WM_MOVE,          WM_SIZE,
@@ -61,8 +61,7 @@ bool MayBeMeant(const Rude& rude) {
                       LOWORD(rude.wparam) <= IDCONTINUE;
   const bool menuEntry = rude.message == WM_COMMAND && rude.lparam == 0 &&
                          LOWORD(rude.wparam) >= 0x1000 && LOWORD(rude.wparam) < 0xE000;
-  const bool hotKey = rude.message == WM_HOTKEY && rude.wparam >= 1 && rude.wparam <= 15;
-  return button || menuEntry || hotKey;
+  return button || menuEntry;
 }
 
 /// Controls get fewer values than the windows that hold them: there are many.

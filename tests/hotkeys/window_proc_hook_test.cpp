@@ -3,89 +3,21 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <exception>
-#include <functional>
 #include <stdexcept>
 #include <string>
-#include <utility>
-#include <vector>
 
 #include "app/core/error_reporting.h"
-#include "platform/run_time_error.h"
 #include "platform/win32_constants.h"
-#include "tests/fakes/call_log.h"
-#include "tests/fakes/fake_hot_keys.h"
-#include "tests/fakes/fake_main_window.h"
+#include "tests/hotkeys/window_proc_hook_fixture.h"
 
 namespace korvale {
 namespace {
 
-using Calls = std::vector<std::string>;
-constexpr WindowHandle kMain = 1000;
-
-class WindowProcHookTest : public testing::Test {
- protected:
-  WindowProcHookTest() {
-    mainWindow.handle = kMain;
-    log.NameWindow(kMain, "main");
-    options.Create();
-    table.SetHotKeys("SET");
-    hook.HookWindowProc("SET", kMain);
-    log.Clear();
-    hotKeys.answer = 77;
-  }
-
-  std::intptr_t PressHotKey(std::uintptr_t identifier) {
-    return hook.HotKeyWindowProc(kMain, win32::kWmHotKey, identifier, 5);
-  }
-
-  void Process(const std::string& name) {
-    log.Add("process " + name);
-    if (inDispatch) inDispatch(name);
-  }
-
-  void ReportUncaught() {
-    try {
-      throw;
-    } catch (const RunTimeError& error) {
-      log.Add("uncaught " + std::to_string(error.Number()));
-    } catch (const std::exception& error) {
-      log.Add(std::string("uncaught ") + error.what());
-    } catch (const ProgramEnded&) {
-      log.Add("uncaught ProgramEnded");
-    }
-  }
-
-  CallLog log;
-  FakeHotKeys hotKeys{log};
-  FakeMainWindow mainWindow;
-  OptionsHolder options;
-  HotKeyTable table{hotKeys, options, mainWindow};
-  std::function<void(const std::string&)> inDispatch;
-  bool menuOpen = false;
-  WindowProcHook hook{hotKeys,
-                      table,
-                      mainWindow,
-                      [this] { return std::exchange(menuOpen, false); },
-                      [this](const std::string& name) { Process(name); },
-                      [this] { ReportUncaught(); }};
-};
-
 TEST_F(WindowProcHookTest, HandsAHotKeyToTheDispatcherThenPassesItOn) {
-  EXPECT_EQ(PressHotKey(4), 77);
-
-  EXPECT_EQ(log.Calls(), (Calls{"process HOTKEY_PARENT3", "CallWindowProcA(main, 0x312, 4, 5)"}));
-}
-
-TEST_F(WindowProcHookTest, AHotKeyOverAnOpenMenuComesAgainWhenThatHasGone) {
-  menuOpen = true;
-  inDispatch = [this](const std::string&) { EXPECT_FALSE(menuOpen); };
-
-  hotKeys.Deliver(kMain, win32::kWmHotKey, 4, 5);
+  EXPECT_EQ(PressTag(3), 77);
 
   EXPECT_EQ(log.Calls(),
-            (Calls{"PostMessageW(main, 0x312, 4, 5)", "CallWindowProcA(main, 0x312, 4, 5)",
-                   "process HOTKEY_PARENT3", "CallWindowProcA(main, 0x312, 4, 5)"}));
+            (Calls{"process HOTKEY_PARENT3", "CallWindowProcA(main, 0x312, 4, 3342337)"}));
 }
 
 TEST_F(WindowProcHookTest, PassesOtherMessagesOnUnseen) {
@@ -95,37 +27,27 @@ TEST_F(WindowProcHookTest, PassesOtherMessagesOnUnseen) {
 }
 
 TEST_F(WindowProcHookTest, PassesAHotKeyOfAnotherWindowOnUndispatched) {
-  EXPECT_EQ(hook.HotKeyWindowProc(1001, win32::kWmHotKey, 4, 5), 77);
+  EXPECT_EQ(hook.HotKeyWindowProc(1001, win32::kWmHotKey, 4, AltAndDigit(3)), 77);
 
-  EXPECT_EQ(log.Calls(), Calls{"CallWindowProcA(0x3e9, 0x312, 4, 5)"});
-}
-
-TEST_F(WindowProcHookTest, PassesIdentifiersThatNobodyRegisteredOnUndispatched) {
-  EXPECT_EQ(PressHotKey(16), 77);
-  PressHotKey(0);
-  PressHotKey(0xFFFFFFFFFFFFFFFF);
-
-  EXPECT_EQ(log.Calls(),
-            (Calls{"CallWindowProcA(main, 0x312, 16, 5)", "CallWindowProcA(main, 0x312, 0, 5)",
-                   "CallWindowProcA(main, 0x312, 18446744073709551615, 5)"}));
+  EXPECT_EQ(log.Calls(), Calls{"CallWindowProcA(0x3e9, 0x312, 4, 3342337)"});
 }
 
 TEST_F(WindowProcHookTest, ReportsAnErrorOfTheDispatcherAndPassesTheMessageOn) {
   inDispatch = [](const std::string&) { throw std::runtime_error("broken"); };
 
-  EXPECT_EQ(PressHotKey(1), 77);
+  EXPECT_EQ(PressTag(0), 77);
 
   EXPECT_EQ(log.Calls(), (Calls{"process HOTKEY_PARENT0", "uncaught broken",
-                                "CallWindowProcA(main, 0x312, 1, 5)"}));
+                                "CallWindowProcA(main, 0x312, 1, 3145729)"}));
 }
 
 TEST_F(WindowProcHookTest, ReportsTheEndOfTheProgramAndPassesTheMessageOn) {
   inDispatch = [](const std::string&) { throw ProgramEnded{}; };
 
-  EXPECT_EQ(PressHotKey(1), 77);
+  EXPECT_EQ(PressTag(0), 77);
 
   EXPECT_EQ(log.Calls(), (Calls{"process HOTKEY_PARENT0", "uncaught ProgramEnded",
-                                "CallWindowProcA(main, 0x312, 1, 5)"}));
+                                "CallWindowProcA(main, 0x312, 1, 3145729)"}));
 }
 
 class FormerProcedure : public WindowProcedure {
@@ -147,9 +69,9 @@ TEST_F(WindowProcHookTest, PassesTheHotKeyThatRemovedTheHookToTheFormerProcedure
     log.Clear();
   };
 
-  EXPECT_EQ(PressHotKey(1), 88);
+  EXPECT_EQ(PressTag(0), 88);
 
-  EXPECT_EQ(log.Calls(), Calls{"CallWindowProcA(main, 0x312, 1, 5)"});
+  EXPECT_EQ(log.Calls(), Calls{"CallWindowProcA(main, 0x312, 1, 3145729)"});
 }
 
 TEST_F(WindowProcHookTest, GivesTheDispatcherANameThatOutlivesTheTable) {
@@ -159,30 +81,21 @@ TEST_F(WindowProcHookTest, GivesTheDispatcherANameThatOutlivesTheTable) {
     seen = name;
   };
 
-  PressHotKey(15);
+  hotKeys.Press(0, win32::kVkPause);
 
   EXPECT_EQ(seen, "HOTKEY_TOGGLE_HOTKEYS");
 }
 
-TEST_F(WindowProcHookTest, DispatchesNothingWhileNoHotKeyIsRegistered) {
-  table.SetHotKeys("REMOVE");
-  log.Clear();
-
-  PressHotKey(1);
-
-  EXPECT_EQ(log.Calls(), Calls{"CallWindowProcA(main, 0x312, 1, 5)"});
-}
-
 TEST_F(WindowProcHookTest, DispatchesAHotKeyThatArrivesDuringADispatch) {
   inDispatch = [this](const std::string& name) {
-    if (name == "HOTKEY_PARENT0") PressHotKey(2);
+    if (name == "HOTKEY_PARENT0") PressTag(1);
   };
 
-  PressHotKey(1);
+  PressTag(0);
 
-  EXPECT_EQ(log.Calls(),
-            (Calls{"process HOTKEY_PARENT0", "process HOTKEY_PARENT1",
-                   "CallWindowProcA(main, 0x312, 2, 5)", "CallWindowProcA(main, 0x312, 1, 5)"}));
+  EXPECT_EQ(log.Calls(), (Calls{"process HOTKEY_PARENT0", "process HOTKEY_PARENT1",
+                                "CallWindowProcA(main, 0x312, 2, 3211265)",
+                                "CallWindowProcA(main, 0x312, 1, 3145729)"}));
 }
 
 TEST_F(WindowProcHookTest, PutsTheFormerProcedureBack) {
@@ -204,7 +117,7 @@ TEST_F(WindowProcHookTest, DoesNotHookAHookedWindow) {
   hook.HookWindowProc("SET", kMain);
 
   EXPECT_TRUE(log.Calls().empty());
-  EXPECT_EQ(PressHotKey(1), 77);
+  EXPECT_EQ(PressTag(0), 77);
 }
 
 TEST_F(WindowProcHookTest, HooksAgainAfterARemoval) {
@@ -228,47 +141,6 @@ TEST_F(WindowProcHookTest, RemovesNothingThatWasNeverSet) {
 
   unused.HookWindowProc("REMOVE", kMain);
 
-  EXPECT_TRUE(log.Calls().empty());
-}
-
-TEST_F(WindowProcHookTest, ReceivesTheKeysThatTheUserPresses) {
-  EXPECT_TRUE(hotKeys.Press(win32::kModAlt, '3'));
-  EXPECT_TRUE(hotKeys.Press(0, win32::kVkPause));
-
-  EXPECT_EQ(log.CallsOf("process"),
-            (Calls{"process HOTKEY_PARENT3", "process HOTKEY_TOGGLE_HOTKEYS"}));
-  EXPECT_EQ(log.CallsOf("CallWindowProcA").size(), 2U);
-}
-
-TEST_F(WindowProcHookTest, APressFromBeforeANewRegistrationTriggersNothing) {
-  EXPECT_TRUE(hotKeys.PressWhileBusy(win32::kModAlt, '3'));
-  options.Get().booHotKeyParent[0] = false;
-  table.SetHotKeys("REMOVE");
-  table.SetHotKeys("SET");
-
-  hotKeys.DeliverQueued();
-
-  EXPECT_TRUE(log.CallsOf("process").empty());
-  EXPECT_TRUE(log.CallsOf("uncaught").empty());
-}
-
-TEST_F(WindowProcHookTest, APressAfterANewRegistrationIsNotLost) {
-  table.SetHotKeys("REMOVE");
-  table.SetHotKeys("SET");
-  EXPECT_TRUE(hotKeys.PressWhileBusy(win32::kModAlt, '3'));
-
-  hotKeys.DeliverQueued();
-
-  EXPECT_EQ(log.CallsOf("process"), Calls{"process HOTKEY_PARENT3"});
-}
-
-TEST_F(WindowProcHookTest, ReceivesNothingOnceItIsRemoved) {
-  hook.HookWindowProc("REMOVE", kMain);
-  log.Clear();
-
-  EXPECT_TRUE(hotKeys.Press(win32::kModAlt, '3'));
-
-  EXPECT_FALSE(hotKeys.IsHooked(kMain));
   EXPECT_TRUE(log.Calls().empty());
 }
 

@@ -1,0 +1,78 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <exception>
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "app/core/error_reporting.h"
+#include "hotkeys/window_proc_hook.h"
+#include "platform/run_time_error.h"
+#include "platform/win32_constants.h"
+#include "tests/fakes/call_log.h"
+#include "tests/fakes/fake_hot_keys.h"
+#include "tests/fakes/fake_main_window.h"
+
+namespace korvale {
+
+/// The hook in front of a window of number 1000, with the default hot keys registered.
+class WindowProcHookTest : public testing::Test {
+ protected:
+  using Calls = std::vector<std::string>;
+  static constexpr WindowHandle kMain = 1000;
+
+  WindowProcHookTest() {
+    mainWindow.handle = kMain;
+    log.NameWindow(kMain, "main");
+    options.Create();
+    table.SetHotKeys("SET");
+    hook.HookWindowProc("SET", kMain);
+    log.Clear();
+    hotKeys.answer = 77;
+  }
+
+  /// What Windows sends for Alt and a digit.
+  std::intptr_t PressTag(std::uintptr_t tag) {
+    return hook.HotKeyWindowProc(kMain, win32::kWmHotKey, tag + 1, AltAndDigit(tag));
+  }
+  static std::intptr_t AltAndDigit(std::uintptr_t digit) {
+    return static_cast<std::intptr_t>(0x00300001 + digit * 0x10000);
+  }
+
+  void Process(const std::string& name) {
+    log.Add("process " + name);
+    if (inDispatch) inDispatch(name);
+  }
+
+  void ReportUncaught() {
+    try {
+      throw;
+    } catch (const RunTimeError& error) {
+      log.Add("uncaught " + std::to_string(error.Number()));
+    } catch (const std::exception& error) {
+      log.Add(std::string("uncaught ") + error.what());
+    } catch (const ProgramEnded&) {
+      log.Add("uncaught ProgramEnded");
+    }
+  }
+
+  CallLog log;
+  FakeHotKeys hotKeys{log};
+  FakeMainWindow mainWindow;
+  OptionsHolder options;
+  HotKeyTable table{hotKeys, options, mainWindow};
+  std::function<void(const std::string&)> inDispatch;
+  bool menuOpen = false;
+  WindowProcHook hook{hotKeys,
+                      table,
+                      mainWindow,
+                      [this] { return std::exchange(menuOpen, false); },
+                      [this](const std::string& name) { Process(name); },
+                      [this] { ReportUncaught(); }};
+};
+
+}  // namespace korvale
