@@ -63,11 +63,12 @@ void HotKeyTable::AddHotKey(std::string_view name, std::int16_t modifiers, std::
   const auto count = static_cast<std::size_t>(hotKeyCount_);
   hotKeyNames_.resize(count);
   hotKeyNames_.back() = name;
+  // What follows the hot keys of this pass is left from a former one.
+  registered_.resize(count - 1);
   const bool chosenBefore = std::ranges::any_of(registered_, [&](const RegisteredHotKey& other) {
     return other.modifiers == modifiers && other.key == key;
   });
-  registered_.resize(count);
-  registered_.back() = {std::string(name), modifiers, key, false, chosenBefore};
+  registered_.push_back({std::string(name), modifiers, key, false, chosenBefore});
   registered_.back().accepted = hotKeys_->RegisterHotKey(mainWindow_->MainHandle(), hotKeyCount_,
                                                          static_cast<std::uint32_t>(modifiers),
                                                          static_cast<std::uint32_t>(key));

@@ -5,41 +5,12 @@
 #include <cstdint>
 #include <limits>
 #include <string>
-#include <vector>
 
 #include "platform/run_time_error.h"
-#include "tests/fakes/call_log.h"
-#include "tests/fakes/fake_hot_keys.h"
-#include "tests/fakes/fake_main_window.h"
+#include "tests/hotkeys/hot_key_table_fixture.h"
 
 namespace korvale {
 namespace {
-
-class HotKeyTableTest : public testing::Test {
- protected:
-  HotKeyTableTest() {
-    mainWindow.handle = 1000;
-    log.NameWindow(1000, "main");
-    options.Create();
-  }
-
-  clsOptions& Options() { return options.Get(); }
-
-  void DisableAll() {
-    Options().booHotKeyParent.fill(false);
-    Options().intHotKeyAction.fill(0);
-    Options().intHotKeyGeneral.fill(0);
-  }
-
-  CallLog log;
-  FakeHotKeys hotKeys{log};
-  FakeMainWindow mainWindow;
-  OptionsHolder options;
-  HotKeyTable table{hotKeys, options, mainWindow};
-};
-
-using Names = std::vector<std::string>;
-using Calls = std::vector<std::string>;
 
 TEST_F(HotKeyTableTest, StartsWithTheMarkOfATableThatWasNeverUsed) {
   EXPECT_EQ(table.HotKeyNames(), Names{"ARRAY_NOT_USED_YET"});
@@ -189,42 +160,6 @@ TEST_F(HotKeyTableTest, RemovesNothingWhenItSets) {
 
   EXPECT_EQ(log.Calls(), Calls{"RegisterHotKey(main, 1, 0, 19)"});
   EXPECT_EQ(table.HotKeyNames(), Names{"HOTKEY_TOGGLE_HOTKEYS"});
-}
-
-TEST_F(HotKeyTableTest, KeepsTheSlotOfAHotKeyThatWindowsRefused) {
-  hotKeys.RegisterForeign(1, 0x31);
-
-  table.SetHotKeys("SET");
-
-  ASSERT_EQ(table.Registered().size(), 15U);
-  EXPECT_EQ(table.NameOf(2), "HOTKEY_PARENT1");
-  EXPECT_EQ(table.NameOf(3), "HOTKEY_PARENT2");
-  for (const RegisteredHotKey& hotKey : table.Registered()) {
-    EXPECT_EQ(hotKey.accepted, hotKey.name != "HOTKEY_PARENT1") << hotKey.name;
-  }
-}
-
-TEST_F(HotKeyTableTest, TellsACombinationThatTheUserChoseTwiceFromOneThatSomebodyElseHas) {
-  hotKeys.StartShell();
-  Options().intHotKeyModAction = {0, 0};
-  Options().intHotKeyAction = {0x77, 0x77};
-  table.SetHotKeys("SET");
-  for (const RegisteredHotKey& hotKey : table.Registered()) {
-    const bool second = hotKey.name == "HOTKEY_RESTORE/MAXIMIZE_PARENT";
-    EXPECT_EQ(hotKey.accepted, hotKey.modifiers != 8 && !second) << hotKey.name;
-    EXPECT_EQ(hotKey.chosenBefore, second) << hotKey.name;
-  }
-}
-
-TEST_F(HotKeyTableTest, RegistersARefusedHotKeyOnceItIsFree) {
-  hotKeys.RegisterForeign(1, 0x31);
-  table.SetHotKeys("SET");
-  hotKeys.ReleaseForeign(1, 0x31);
-
-  table.SetHotKeys("REMOVE");
-  table.SetHotKeys("SET");
-
-  EXPECT_TRUE(table.Registered().at(1).accepted);
 }
 
 TEST_F(HotKeyTableTest, RemembersWhatWasAskedFor) {
