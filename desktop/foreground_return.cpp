@@ -10,11 +10,11 @@ bool IsOwnForm(const LoadedForms& forms, WindowHandle hwnd) {
                              [&](const LoadedForm& form) { return form.handle == hwnd; });
 }
 
-void ReturnForegroundTo(WindowQueries& windows, WindowCommands& commands, WindowHandle hwnd) {
-  if (windows.IsWindow(hwnd) && windows.IsWindowVisible(hwnd) && windows.IsWindowEnabled(hwnd) &&
-      !windows.IsIconic(hwnd)) {
-    commands.SetForegroundWindow(hwnd);
-  }
+bool ReturnForegroundTo(WindowQueries& windows, WindowCommands& commands, WindowHandle hwnd) {
+  const bool canBeInFront = windows.IsWindow(hwnd) && windows.IsWindowVisible(hwnd) &&
+                            windows.IsWindowEnabled(hwnd) && !windows.IsIconic(hwnd);
+  if (canBeInFront) commands.SetForegroundWindow(hwnd);
+  return canBeInFront;
 }
 
 }  // namespace korvale

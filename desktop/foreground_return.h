@@ -10,7 +10,7 @@ namespace korvale {
 bool IsOwnForm(const LoadedForms& forms, WindowHandle hwnd);
 
 /// Puts the window in front (SetForegroundWindow) when it still can be: it lives, is visible,
-/// enabled and not minimized. Does nothing otherwise.
-void ReturnForegroundTo(WindowQueries& windows, WindowCommands& commands, WindowHandle hwnd);
+/// enabled and not minimized. Does nothing and returns false otherwise.
+bool ReturnForegroundTo(WindowQueries& windows, WindowCommands& commands, WindowHandle hwnd);
 
 }  // namespace korvale

@@ -159,8 +159,11 @@ void HotKeyDispatch::PopUpWindowMenu() {
   parts_.actions.SetWindowMenuTag("");
   // Only the menu needed the main window in front. A user who has gone to a window meanwhile, by an
   // entry or by a click, keeps it.
-  if (selected == 0 && before != main && parts_.windows.GetForegroundWindow() == main) {
-    ReturnForegroundTo(parts_.windows, parts_.commands, before);
+  const bool leftBehind = parts_.windows.GetForegroundWindow() == main;
+  if (selected == 0 && before != main && leftBehind &&
+      !ReturnForegroundTo(parts_.windows, parts_.commands, before)) {
+    // It has gone while the menu was open.
+    ReturnForegroundTo(parts_.windows, parts_.commands, parts_.tracker.WindowBehind(main));
   }
 }
 

@@ -85,6 +85,19 @@ TEST_F(WindowMenu, PoppedUpAndLeftWithoutAChoiceGivesTheKeyboardBack) {
   EXPECT_TRUE(StaysInFront(beta));
 }
 
+TEST_F(WindowMenu, PoppedUpLeadsToTheWindowBeforeWhenTheUsersOneHasGone) {
+  Start();
+  const Window alpha = Open("Alpha");
+  ASSERT_TRUE(WorkIn(alpha));
+  const Window beta = Open("Beta");
+  ASSERT_TRUE(WorkIn(beta));
+  ASSERT_TRUE(PopUpWindowMenu());
+  ASSERT_TRUE(beta.Close());
+  Press({0, VK_ESCAPE});
+  EXPECT_TRUE(InFront(alpha));
+  EXPECT_TRUE(StaysInFront(alpha));
+}
+
 TEST_F(WindowMenu, PoppedUpFromAMinimizedStripLeavesItMinimized) {
   Start();
   const Window strip = main();

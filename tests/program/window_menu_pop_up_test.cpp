@@ -52,10 +52,17 @@ TEST_F(WindowMenuPopUpTest, LeavesTheUserInTheWindowThatHeClicksInto) {
   EXPECT_EQ(Front(), "Gamma");
 }
 
-TEST_F(WindowMenuPopUpTest, GivesTheForegroundToNoWindowThatHasGone) {
+TEST_F(WindowMenuPopUpTest, LeadsToTheWindowBeforeWhenTheUsersOneHasGone) {
   KorvaleCopy& korvale = StartedInBeta();
   korvale.host.WhenPopupMenu([&](const Items&) {
     desktop.Close(beta_);
+    return "";
+  });
+  PopUp();
+  EXPECT_EQ(Front(), "Alpha");
+
+  korvale.host.WhenPopupMenu([&](const Items&) {
+    desktop.Close(desktop.FindWindowA("Alpha"));
     return "";
   });
   PopUp();
