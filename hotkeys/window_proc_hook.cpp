@@ -1,6 +1,7 @@
 #include "hotkeys/window_proc_hook.h"
 
 #include <utility>
+#include <vector>
 
 #include "platform/win32_constants.h"
 
@@ -42,14 +43,24 @@ void WindowProcHook::Dispatch(std::uintptr_t identifier, std::intptr_t lParam) {
     // A copy: the toggle rebuilds the table while the name is in use.
     const std::string name = table_->NameOf(identifier);
     if (endMenu_()) {
-      // The menu's own loop is still running: Windows shows no second menu inside it, and what
-      // showed the first one must have ended before the next command begins.
-      hotKeys_->PostMessageW(mainWindow_->MainHandle(), win32::kWmHotKey, identifier, lParam);
+      Postpone({identifier, lParam});
     } else {
       process_(name);
     }
   } catch (...) {
     reportUncaught_();
+  }
+}
+
+/// The menu's own loop is still running: Windows shows no second menu inside it, and what showed
+/// the first one must have ended before the next command begins. Hot keys that were pressed after
+/// this one stay behind it.
+void WindowProcHook::Postpone(const QueuedMessage& hotKey) {
+  const WindowHandle main = mainWindow_->MainHandle();
+  std::vector<QueuedMessage> hotKeys = {hotKey};
+  while (const auto next = hotKeys_->PeekMessageW(main, win32::kWmHotKey)) hotKeys.push_back(*next);
+  for (const QueuedMessage& each : hotKeys) {
+    hotKeys_->PostMessageW(main, win32::kWmHotKey, each.wParam, each.lParam);
   }
 }
 

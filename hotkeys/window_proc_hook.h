@@ -28,7 +28,7 @@ class WindowProcHook : public WindowProcedure {
 
   /// Hands a WM_HOTKEY of the main window to the dispatcher, then passes every message on,
   /// also when the dispatcher failed (CallWindowProcA). One that comes while a menu is open closes
-  /// the menu and is posted anew, to be carried out when that has gone.
+  /// the menu and is posted anew, to be carried out when that has gone, as are those behind it.
   std::intptr_t HotKeyWindowProc(WindowHandle hWnd, std::uint32_t uMsg, std::uintptr_t wParam,
                                  std::intptr_t lParam);
 
@@ -38,6 +38,7 @@ class WindowProcHook : public WindowProcedure {
 
  private:
   void Dispatch(std::uintptr_t identifier, std::intptr_t lParam);
+  void Postpone(const QueuedMessage& hotKey);
 
   HotKeyApi* hotKeys_;
   const HotKeyTable* table_;

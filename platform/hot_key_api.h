@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include "platform/types.h"
 
@@ -20,6 +21,14 @@ class WindowProcedure {
   virtual void OnUncaught() noexcept = 0;
 };
 
+/// What came with a message that was taken out of a queue.
+struct QueuedMessage {
+  std::uintptr_t wParam = 0;
+  std::intptr_t lParam = 0;
+
+  friend bool operator==(const QueuedMessage&, const QueuedMessage&) = default;
+};
+
 /// Identifies a window's former procedure; only good for CallWindowProcA and for putting it back.
 using PreviousProcedure = std::intptr_t;
 
@@ -35,9 +44,9 @@ class HotKeyApi {
   /// False when no hot key of this id belongs to the window.
   virtual bool UnregisterHotKey(WindowHandle hwnd, int id) = 0;
 
-  /// Takes one message of this kind out of the window's queue; false when there is none
+  /// Takes the oldest message of this kind out of the window's queue; nothing when there is none
   /// (PeekMessageW with PM_REMOVE).
-  virtual bool PeekMessageW(WindowHandle hwnd, std::uint32_t message) = 0;
+  virtual std::optional<QueuedMessage> PeekMessageW(WindowHandle hwnd, std::uint32_t message) = 0;
 
   /// SetWindowLongPtrA with GWLP_WNDPROC: puts `procedure`, which must outlive the hook, in front.
   virtual PreviousProcedure SetWindowLongPtrA(WindowHandle hwnd, WindowProcedure& procedure) = 0;

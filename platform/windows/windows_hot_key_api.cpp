@@ -59,16 +59,18 @@ bool WindowsHotKeyApi::UnregisterHotKey(WindowHandle hwnd, int id) {
   return ::UnregisterHotKey(ToHwnd(hwnd), id) != FALSE;
 }
 
-bool WindowsHotKeyApi::PeekMessageW(WindowHandle hwnd, std::uint32_t message) {
+std::optional<QueuedMessage> WindowsHotKeyApi::PeekMessageW(WindowHandle hwnd,
+                                                             std::uint32_t message) {
   // Taking a message lets messages that other threads send come in, which nothing here awaits.
-  if (message == WM_HOTKEY && (HIWORD(GetQueueStatus(QS_HOTKEY)) & QS_HOTKEY) == 0) return false;
+  const bool awaited = message != WM_HOTKEY || (HIWORD(GetQueueStatus(QS_HOTKEY)) & QS_HOTKEY) != 0;
+  if (!awaited) return std::nullopt;
   constexpr UINT kPosted = PM_REMOVE | PM_QS_POSTMESSAGE;
   MSG taken;
-  if (::PeekMessageW(&taken, ToHwnd(hwnd), message, message, kPosted) == FALSE) return false;
-  if (taken.message != WM_QUIT) return true;
+  if (::PeekMessageW(&taken, ToHwnd(hwnd), message, message, kPosted) == FALSE) return std::nullopt;
+  if (taken.message != WM_QUIT) return QueuedMessage{taken.wParam, taken.lParam};
   // The end of the program passes every filter.
   PostQuitMessage(static_cast<int>(taken.wParam));
-  return false;
+  return std::nullopt;
 }
 
 PreviousProcedure WindowsHotKeyApi::SetWindowLongPtrA(WindowHandle hwnd,

@@ -17,7 +17,7 @@ class WindowsHotKeyApi final : public HotKeyApi {
   bool RegisterHotKey(WindowHandle hwnd, int id, std::uint32_t modifiers,
                       std::uint32_t key) override;
   bool UnregisterHotKey(WindowHandle hwnd, int id) override;
-  bool PeekMessageW(WindowHandle hwnd, std::uint32_t message) override;
+  std::optional<QueuedMessage> PeekMessageW(WindowHandle hwnd, std::uint32_t message) override;
   PreviousProcedure SetWindowLongPtrA(WindowHandle hwnd, WindowProcedure& procedure) override;
   void SetWindowLongPtrA(WindowHandle hwnd, PreviousProcedure previous) override;
   std::intptr_t CallWindowProcA(PreviousProcedure previous, WindowHandle hwnd,

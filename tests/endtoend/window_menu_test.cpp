@@ -166,6 +166,21 @@ TEST_F(WindowMenu, ATagKeyClosesThePopUpAndSelectsItsWindow) {
   EXPECT_TRUE(StaysInFront(alpha));
 }
 
+TEST_F(WindowMenu, TwoTagKeysOverThePopUpSelectInTheirOrder) {
+  installation_.StoreTag(3, "Alpha", kClass);
+  installation_.StoreTag(4, "Gamma", kClass);
+  Start();
+  Open("Alpha");
+  const Window gamma = Open("Gamma");
+  ASSERT_TRUE(WorkIn(Open("Beta")));
+  ASSERT_TRUE(PopUpWindowMenu());
+  Press(TagKey(3));
+  Press(TagKey(4));
+  EXPECT_TRUE(InFront(gamma));
+  EXPECT_TRUE(WaitFor([&] { return OpenMenus() == 0; }));
+  EXPECT_TRUE(StaysInFront(gamma));
+}
+
 TEST_F(WindowMenu, IsNeverWiderThanTheScreen) {
   installation_.StoreTag(3, std::string(900, 'M'), kClass);
   Start();

@@ -1,6 +1,7 @@
 #include "tests/fakes/fake_hot_keys.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -35,7 +36,8 @@ bool FakeHotKeys::PressWhileBusy(std::uint32_t modifiers, std::uint32_t key) {
 }
 
 void FakeHotKeys::DeliverQueued() {
-  while (!queue_.empty()) {
+  // A loop inside the handling of a message does not come to what was posted meanwhile.
+  for (std::size_t waiting = queue_.size(); waiting > 0 && !queue_.empty(); --waiting) {
     const Queued message = queue_.front();
     queue_.pop_front();
     Deliver(message.hwnd, message.message, message.wParam, message.lParam);
@@ -47,11 +49,7 @@ std::intptr_t FakeHotKeys::Deliver(WindowHandle hwnd, std::uint32_t message, std
   ++delivering_;
   const std::intptr_t result = Run(Current(hwnd), hwnd, message, wParam, lParam);
   --delivering_;
-  while (delivering_ == 0 && !posted_.empty()) {
-    const std::function<void()> next = std::move(posted_.front());
-    posted_.pop_front();
-    next();
-  }
+  if (delivering_ == 0) DeliverQueued();
   return result;
 }
 
@@ -98,14 +96,15 @@ bool FakeHotKeys::UnregisterHotKey(WindowHandle hwnd, int id) {
   return true;
 }
 
-bool FakeHotKeys::PeekMessageW(WindowHandle hwnd, std::uint32_t message) {
+std::optional<QueuedMessage> FakeHotKeys::PeekMessageW(WindowHandle hwnd, std::uint32_t message) {
   log_.AddRead("PeekMessageW(" + log_.Window(hwnd) + ", " + HexText(message) + ")");
   const auto found = std::ranges::find_if(queue_, [&](const Queued& queued) {
     return queued.hwnd == hwnd && queued.message == message;
   });
-  if (found == queue_.end()) return false;
+  if (found == queue_.end()) return std::nullopt;
+  const QueuedMessage taken{found->wParam, found->lParam};
   queue_.erase(found);
-  return true;
+  return taken;
 }
 
 PreviousProcedure FakeHotKeys::SetWindowLongPtrA(WindowHandle hwnd, WindowProcedure& procedure) {
@@ -136,7 +135,7 @@ bool FakeHotKeys::PostMessageW(WindowHandle hwnd, std::uint32_t message, std::ui
   log_.Add("PostMessageW(" + log_.Window(hwnd) + ", " + HexText(message) + ", " +
            std::to_string(wParam) + ", " + std::to_string(lParam) + ")");
   if (!Exists(hwnd)) return false;
-  posted_.emplace_back([=, this] { Deliver(hwnd, message, wParam, lParam); });
+  queue_.push_back({hwnd, message, wParam, lParam});
   return true;
 }
 

@@ -4,6 +4,7 @@
 #include <deque>
 #include <functional>
 #include <map>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -62,13 +63,14 @@ class FakeHotKeys : public HotKeyApi {
                       std::uint32_t key) override;
   /// Of several registrations of the identifier the latest one goes.
   bool UnregisterHotKey(WindowHandle hwnd, int id) override;
-  bool PeekMessageW(WindowHandle hwnd, std::uint32_t message) override;
+  std::optional<QueuedMessage> PeekMessageW(WindowHandle hwnd, std::uint32_t message) override;
   PreviousProcedure SetWindowLongPtrA(WindowHandle hwnd, WindowProcedure& procedure) override;
   void SetWindowLongPtrA(WindowHandle hwnd, PreviousProcedure previous) override;
   std::intptr_t CallWindowProcA(PreviousProcedure previous, WindowHandle hwnd,
                                 std::uint32_t message, std::uintptr_t wParam,
                                 std::intptr_t lParam) override;
-  /// Delivered once the message that is being handled has been dealt with.
+  /// Delivered behind what waits in the queue, once the message that is being handled has been
+  /// dealt with.
   bool PostMessageW(WindowHandle hwnd, std::uint32_t message, std::uintptr_t wParam,
                     std::intptr_t lParam) override;
 
@@ -95,7 +97,6 @@ class FakeHotKeys : public HotKeyApi {
   std::vector<std::pair<std::uint32_t, std::uint32_t>> foreign_;
   std::map<PreviousProcedure, WindowProcedure*> procedures_;
   std::map<WindowHandle, PreviousProcedure> current_;
-  std::deque<std::function<void()>> posted_;
   int delivering_ = 0;
 };
 

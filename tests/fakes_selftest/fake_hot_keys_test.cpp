@@ -144,6 +144,28 @@ TEST_F(FakeHotKeysTest, ProceduresFormAChainDownToTheWindowsOwn) {
             (Calls{"CallWindowProcA(0x100, 0x8, 9, 10)", "CallWindowProcA(0x100, 0xb, 12, 13)"}));
 }
 
+TEST_F(FakeHotKeysTest, APostedMessageComesBehindWhatWaits) {
+  hot_keys_.SetWindowLongPtrA(kMain, procedure_);
+  hot_keys_.RegisterHotKey(kMain, 1, win32::kModAlt, kDigit3);
+  hot_keys_.PressWhileBusy(win32::kModAlt, kDigit3);
+  hot_keys_.PostMessageW(kMain, 5, 6, 7);
+
+  hot_keys_.DeliverQueued();
+
+  ASSERT_EQ(procedure_.calls.size(), 2U);
+  EXPECT_EQ(procedure_.calls.back(), "256 5 6 7");
+}
+
+TEST_F(FakeHotKeysTest, AMessageTakenOutTellsWhatCameWithIt) {
+  hot_keys_.PostMessageW(kMain, 5, 6, 7);
+  hot_keys_.PostMessageW(kMain, 5, 8, 9);
+
+  EXPECT_EQ(hot_keys_.PeekMessageW(kMain, 4), std::nullopt);
+  EXPECT_EQ(hot_keys_.PeekMessageW(kMain, 5), (QueuedMessage{6, 7}));
+  EXPECT_EQ(hot_keys_.PeekMessageW(kMain, 5), (QueuedMessage{8, 9}));
+  EXPECT_EQ(hot_keys_.PeekMessageW(kMain, 5), std::nullopt);
+}
+
 TEST_F(FakeHotKeysTest, APutBackProcedureIsNotCalled) {
   const PreviousProcedure own = hot_keys_.SetWindowLongPtrA(kMain, procedure_);
   EXPECT_TRUE(hot_keys_.IsHooked(kMain));

@@ -20,6 +20,18 @@ TEST_F(WindowProcHookTest, HandsAHotKeyToTheDispatcherThenPassesItOn) {
             (Calls{"process HOTKEY_PARENT3", "CallWindowProcA(main, 0x312, 4, 3342337)"}));
 }
 
+TEST_F(WindowProcHookTest, HotKeysOverAnOpenMenuKeepTheirOrder) {
+  menuOpen = true;
+  hotKeys.PressWhileBusy(win32::kModAlt, '3');
+  hotKeys.PressWhileBusy(win32::kModAlt, '2');
+  hotKeys.PressWhileBusy(win32::kModAlt, '5');
+
+  hotKeys.DeliverQueued();
+
+  EXPECT_EQ(log.CallsOf("process"),
+            (Calls{"process HOTKEY_PARENT3", "process HOTKEY_PARENT2", "process HOTKEY_PARENT5"}));
+}
+
 TEST_F(WindowProcHookTest, PassesOtherMessagesOnUnseen) {
   EXPECT_EQ(hook.HotKeyWindowProc(kMain, win32::kWmNull, 4, 5), 77);
 

@@ -63,6 +63,15 @@ TEST_F(WindowsHotKeyApiTest, TakesACombinationOnce) {
   EXPECT_TRUE(api_.UnregisterHotKey(Window(), kId + 1));
 }
 
+TEST_F(WindowsHotKeyApiTest, AMessageTakenOutTellsWhatCameWithIt) {
+  EXPECT_TRUE(api_.PostMessageW(Window(), kMessage, 6, 7));
+  EXPECT_TRUE(api_.PostMessageW(Window(), kMessage, 8, 9));
+  EXPECT_EQ(api_.PeekMessageW(Window(), kMessage + 1), std::nullopt);
+  EXPECT_EQ(api_.PeekMessageW(Window(), kMessage), (QueuedMessage{6, 7}));
+  EXPECT_EQ(api_.PeekMessageW(Window(), kMessage), (QueuedMessage{8, 9}));
+  EXPECT_EQ(api_.PeekMessageW(Window(), kMessage), std::nullopt);
+}
+
 TEST_F(WindowsHotKeyApiTest, AHookSeesAMessageFirstAndMayPassItOn) {
   Hook();
   std::vector<std::uintptr_t> seen;
