@@ -151,7 +151,7 @@ void Form::MarkDefaultButton() {
 }
 
 bool Form::DialogKey(int control, int virtualKey, unsigned shift) {
-  if ((shift & kCtrl) != 0) return false;
+  if ((shift & (kCtrl | kWindows)) != 0) return false;
   const bool alt = (shift & kAlt) != 0;
   if (IsLetterOrDigit(virtualKey)) {
     return PressAccessKey(control, static_cast<char32_t>(virtualKey), alt);

@@ -81,6 +81,11 @@ void FillHotKeyLists(Form& form) {
 
 void KeyListKeys::Down(const Control& list, int& key, unsigned shift, bool repeated) {
   if (!repeated) Forget();
+  if ((shift & kWindows) != 0) {
+    // For Windows, which shall not come to the list as a character either.
+    if (EntryOf(list, key) >= 0) key = 0;
+    return;
+  }
   const bool open = list.Dropped();
   const bool moves = open && (key == win32::kVkDown || key == win32::kVkUp);
   if (shift != kNoShift || moves || EntryOf(list, key) < 0) return;

@@ -10,8 +10,8 @@
 
 namespace korvale {
 
-/// Shift, Ctrl and Alt as held during a key or mouse event.
-enum ShiftState : unsigned { kNoShift = 0, kShift = 1, kCtrl = 2, kAlt = 4 };
+/// Shift, Ctrl, Alt and the Windows key as held during a key or mouse event.
+enum ShiftState : unsigned { kNoShift = 0, kShift = 1, kCtrl = 2, kAlt = 4, kWindows = 8 };
 
 enum class MouseEvent { kDown, kUp, kMove };
 enum class MouseButton { kNone = 0, kLeft = 1, kRight = 2, kMiddle = 4 };

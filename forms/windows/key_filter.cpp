@@ -24,6 +24,7 @@ unsigned HeldShiftState() {
   if (GetKeyState(VK_SHIFT) < 0) shift |= kShift;
   if (GetKeyState(VK_CONTROL) < 0) shift |= kCtrl;
   if (GetKeyState(VK_MENU) < 0) shift |= kAlt;
+  if (GetKeyState(VK_LWIN) < 0 || GetKeyState(VK_RWIN) < 0) shift |= kWindows;
   return shift;
 }
 

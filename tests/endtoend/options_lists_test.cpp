@@ -117,6 +117,9 @@ TEST_F(OptionsLists, IgnoreAKeyPressedTogetherWithAnother) {
   ASSERT_TRUE(dialog.Focus(kToggleKey));
   Press({MOD_SHIFT, VK_F5});
   EXPECT_TRUE(HoldsFor([&] { return dialog.Chosen(kToggleKey) == "Pause"; }));
+  Press({MOD_WIN, 'K'});
+  Press({MOD_WIN, VK_SNAPSHOT});
+  EXPECT_TRUE(HoldsFor([&] { return dialog.Chosen(kToggleKey) == "Pause"; }));
   Press({0, VK_F5});
   EXPECT_TRUE(Shows(dialog, kToggleKey, "F5"));
 }

@@ -104,6 +104,15 @@ TEST_F(FormKeysTest, KeysWithCtrlAreNoDialogKeys) {
   EXPECT_EQ(form_.Take(), Lines{});
 }
 
+TEST_F(FormKeysTest, KeysWithTheWindowsKeyAreNoDialogKeys) {
+  form_.Find("cmdStay").SetFocus();
+  const int button = Id(form_, "cmdStay");
+  EXPECT_FALSE(form_.OnKeyDown(button, 'S', kWindows, false));
+  EXPECT_FALSE(form_.OnKeyDown(button, win32::kVkReturn, kWindows, false));
+  EXPECT_FALSE(form_.OnKeyDown(button, win32::kVkDown, kWindows, false));
+  EXPECT_EQ(form_.Take(), Lines{});
+}
+
 TEST_F(FormKeysTest, AltWithTabOrEnterIsLeftToWindows) {
   const int box = Id(form_, "txtName");
   EXPECT_FALSE(form_.OnKeyDown(box, win32::kVkTab, kAlt, false));

@@ -270,6 +270,12 @@ TEST_F(KeyListTest, PrintScrnOfWhichWindowsTellsOnlyTheReleaseIsChosen) {
   EXPECT_EQ(Chosen(), "PrintScrn");
 }
 
+TEST_F(KeyListTest, AKeyWithTheWindowsKeyIsForWindows) {
+  Press(dialog_, 'K', kWindows);
+  Press(dialog_, win32::kVkSnapshot, kWindows);
+  EXPECT_EQ(Chosen(), "DownArrow");
+}
+
 TEST_F(KeyListTest, ArrowsAreEntriesOfAClosedListAndMoveInAnOpenOne) {
   Press(dialog_, win32::kVkUp);
   EXPECT_EQ(Chosen(), "UpArrow");

@@ -23,6 +23,7 @@ class InputBatch {
     if ((shift & kCtrl) != 0) Key(VK_CONTROL, up);
     if ((shift & kShift) != 0) Key(VK_SHIFT, up);
     if ((shift & kAlt) != 0) Key(VK_MENU, up);
+    if ((shift & kWindows) != 0) Key(VK_LWIN, up);
   }
 
   void Mouse(DWORD flags) {
