@@ -86,6 +86,11 @@ void Form::OnTextTyped(int control, const std::string& text) {
 void Form::OnListPicked(int control, int listIndex) {
   if (!IsControl(control)) return;
   Control& list = ById(control);
+  if (listIndex >= static_cast<int>(list.Items().size())) {
+    // Another program has put an entry into the list.
+    list.Changed(ControlProperty::kItems);
+    return;
+  }
   list.TakeListIndex(listIndex);
   RaiseClick(list);
 }

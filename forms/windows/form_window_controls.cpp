@@ -110,6 +110,7 @@ LRESULT CALLBACK FormWindow::ControlProcedure(HWND hwnd, UINT message, WPARAM wP
 
 bool FormWindow::IsForgedForControl(int control, HWND window, UINT message, WPARAM wParam,
                                     LPARAM lParam) const {
+  if (NamesAnAddress(message)) return true;
   if (destroying_) return false;
   // Others cannot know a place in our memory. The tab strip gets private messages from us as well,
   // those without a place even while another program's message is being handled.

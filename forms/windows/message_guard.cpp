@@ -151,6 +151,10 @@ bool IsLifeMessage(UINT message) {
 
 bool IsPrivateMessage(UINT message) { return message >= WM_USER && message < kFirstRegistered; }
 
+bool NamesAnAddress(UINT message) {
+  return message == EM_SETWORDBREAKPROC || message == EM_SETHANDLE;
+}
+
 bool IsForgedActivation(HWND window, UINT message, WPARAM wParam) {
   return message == WM_ACTIVATE && LOWORD(wParam) != WA_INACTIVE && GetActiveWindow() != window;
 }

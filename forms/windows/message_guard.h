@@ -29,6 +29,10 @@ bool IsLifeMessage(UINT message);
 /// True for messages whose meaning is each window class's own, which may be pointers.
 bool IsPrivateMessage(UINT message);
 
+/// True for messages that give a text box an address to call or to keep its text at, which nobody
+/// here sends.
+bool NamesAnAddress(UINT message);
+
 /// True for a WM_ACTIVATE that tells a window of its activation when it is not the active one.
 bool IsForgedActivation(HWND window, UINT message, WPARAM wParam);
 

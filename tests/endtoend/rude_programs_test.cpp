@@ -38,19 +38,20 @@ std::vector<UINT> Queued() {
       WM_CTLCOLORBTN,   WM_CTLCOLORSTATIC, WM_SIZING,        WM_DPICHANGED,
       WM_SETCURSOR,     WM_SYSCOLORCHANGE, WM_APP,           WM_APP + 1,
       TTM_ADDTOOLW,     TTM_RELAYEVENT,    TCM_INSERTITEMW,  TCM_SETITEMW,
-      BCM_GETIDEALSIZE, EM_SETCUEBANNER,   CB_SETCUEBANNER,  WM_INITDIALOG};
+      BCM_GETIDEALSIZE, EM_SETCUEBANNER,   CB_SETCUEBANNER,  EM_SETWORDBREAKPROC,
+      WM_INITDIALOG};
   messages.push_back(RegisterWindowMessageW(L"Korvale.ListClosed"));
   return messages;
 }
 
 /// Those whose parameters the system hands on as they are.
 std::vector<UINT> Sent() {
-  std::vector<UINT> messages = {WM_DESTROY,       WM_NCDESTROY,    WM_ACTIVATE,       WM_SETFOCUS,
-                                WM_COMMAND,       WM_TIMER,        WM_HOTKEY,         WM_MENUSELECT,
-                                WM_ENTERMENULOOP, WM_CTLCOLOREDIT, WM_CTLCOLORSTATIC, WM_DPICHANGED,
-                                WM_APP,           WM_APP + 1,      TCM_INSERTITEMW,   TCM_SETITEMW,
-                                BCM_GETIDEALSIZE, EM_SETCUEBANNER, TTM_ADDTOOLW,      TTM_GETTEXTW,
-                                WM_INITDIALOG};
+  std::vector<UINT> messages = {
+      WM_DESTROY,        WM_NCDESTROY,       WM_ACTIVATE,     WM_SETFOCUS,      WM_COMMAND,
+      WM_TIMER,          WM_HOTKEY,          WM_MENUSELECT,   WM_ENTERMENULOOP, WM_CTLCOLOREDIT,
+      WM_CTLCOLORSTATIC, WM_DPICHANGED,      WM_APP,          WM_APP + 1,       TCM_INSERTITEMW,
+      TCM_SETITEMW,      BCM_GETIDEALSIZE,   EM_SETCUEBANNER, TTM_ADDTOOLW,     TTM_GETTEXTW,
+      WM_INITDIALOG,     EM_SETWORDBREAKPROC};
   messages.push_back(RegisterWindowMessageW(L"Korvale.ListClosed"));
   return messages;
 }
@@ -199,9 +200,28 @@ TEST_F(RudePrograms, ChangeNothingInTheAddWindowDialog) {
   const std::string tag = dialog.SelectedTag();
   PostAndSend();
   EXPECT_EQ(dialog.SelectedTag(), tag);
+  // The text box looks for the words of its title.
+  Press({MOD_ALT, 'P'});
+  Press({MOD_CONTROL, VK_LEFT});
+  EXPECT_TRUE(HoldsFor([&] { return !korvale_->HasMessageBox(); }));
   EXPECT_TRUE(dialog.Cancel());
   ASSERT_TRUE(WorkIn(alpha_));
   ExpectAllToWork();
+}
+
+TEST_F(RudePrograms, AddNothingToTheListOfTags) {
+  StartWithTags();
+  const AddWindowDialog dialog = OpenAddWindow();
+  const Window list = dialog.TagList();
+  list.Send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(L"Z"));
+  list.Send(CB_SETCURSEL, 9);
+  PostMessageW(dialog.form().handle(), WM_COMMAND,
+               MAKEWPARAM(GetDlgCtrlID(list.handle()), CBN_SELCHANGE),
+               reinterpret_cast<LPARAM>(list.handle()));
+  EXPECT_TRUE(WaitFor([&] { return dialog.SelectedTag() == "3"; }));
+  EXPECT_EQ(list.Send(CB_GETCOUNT), 9);
+  ASSERT_TRUE(dialog.Confirm());
+  EXPECT_FALSE(korvale_->HasMessageBox());
 }
 
 TEST_F(RudePrograms, LeaveAMessageToTheUser) {

@@ -30,6 +30,19 @@ TEST_F(FormStrayEventsTest, NumbersOfNoControlAreIgnored) {
   EXPECT_EQ(form_.FocusedControl(), focused);
 }
 
+TEST_F(FormStrayEventsTest, AnEntryThatTheListDoesNotHaveIsNotPicked) {
+  form_.Show();
+  Control& list = form_.Find("cboSize");
+  list.AddItem("one");
+  list.AddItem("two");
+  list.SetListIndex(1);
+  form_.Take();
+  form_.OnListPicked(list.Id(), 2);
+  form_.OnListPicked(list.Id(), 2147483647);
+  EXPECT_EQ(list.ListIndex(), 1);
+  EXPECT_EQ(form_.Take(), Lines{});
+}
+
 TEST_F(FormStrayEventsTest, ATickOfWhatIsNoTimerClicksNothing) {
   form_.Show();
   form_.Take();
