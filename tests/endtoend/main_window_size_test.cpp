@@ -110,6 +110,21 @@ TEST_F(MainWindowSize, HasRoomForAMenuOfAMoment) {
   }
 }
 
+TEST_F(MainWindowSize, HasRoomForAMenuOfAMomentAlsoWhereItIsNarrow) {
+  installation_.settings().Set("Startup", "Width", "2640");
+  StartWith("False", "True");
+  const int height = window().Height();
+  Press({MOD_ALT, 'V'});
+  ASSERT_TRUE(korvale_->OpenMenu());
+  EXPECT_GT(window().Height(), height + Pixels(kWithMenu - kBare));
+  EXPECT_TRUE(window().ShowsMenusWhole());
+  EXPECT_TRUE(window().ShowsTextWhole());
+  Press({0, 'C'});
+  const Window tip = korvale_->Form("frmMsgTip");
+  ASSERT_TRUE(tip.Close());
+  EXPECT_TRUE(HasHeight(height));
+}
+
 TEST_F(MainWindowSize, ShowsEveryMenuAndBothBoxesWhereItIsNarrow) {
   Start();
   const int height = window().Height();

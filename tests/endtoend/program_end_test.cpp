@@ -61,6 +61,17 @@ TEST_F(ProgramEnd, ByItsHiddenOwnerDuringATipOfTheStartLetsTheNextOneStart) {
   EXPECT_TRUE(StartsAgain());
 }
 
+TEST_F(ProgramEnd, ByAllItsWindowsAtOnceSavesAndLetsTheNextOneStart) {
+  StartWithTag();
+  ASSERT_TRUE(WorkIn(Open("Alpha")));
+  OpenAddWindow();
+  for (const Window window : TopLevelWindows()) {
+    const bool ours = window.ProcessId() == korvale_->process().id();
+    if (ours) PostMessageW(window.handle(), WM_CLOSE, 0, 0);
+  }
+  EXPECT_TRUE(HasEndedAndSaved());
+}
+
 TEST_F(ProgramEnd, ByItsThreadSavesAndLetsTheNextOneStart) {
   StartWithTag();
   PostThreadMessageW(GetWindowThreadProcessId(main().handle(), nullptr), WM_QUIT, 0, 0);

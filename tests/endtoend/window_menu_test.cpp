@@ -181,6 +181,18 @@ TEST_F(WindowMenu, TwoTagKeysOverThePopUpSelectInTheirOrder) {
   EXPECT_TRUE(StaysInFront(gamma));
 }
 
+TEST_F(WindowMenu, AKeyThatSelectsNothingClosesThePopUpAndLeavesTheUserWhereHeWorks) {
+  Start();
+  const Window beta = Open("Beta");
+  ASSERT_TRUE(WorkIn(beta));
+  ASSERT_TRUE(PopUpWindowMenu());
+  Press(kToggleKey);
+  EXPECT_TRUE(korvale_->Form("frmWaitWindow"));
+  EXPECT_EQ(OpenMenus(), 0U);
+  EXPECT_TRUE(WaitFor([&] { return !korvale_->HasForm("frmWaitWindow"); }));
+  EXPECT_TRUE(StaysInFront(beta));
+}
+
 TEST_F(WindowMenu, IsNeverWiderThanTheScreen) {
   installation_.StoreTag(3, std::string(900, 'M'), kClass);
   Start();
