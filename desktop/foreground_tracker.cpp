@@ -185,13 +185,13 @@ bool ForegroundTracker::CanBeReached(const WindowTriple& window) {
     case kWindowNotEnabled: {
       const WindowHandle dialog = FindInputWindow(*windows_, window.handle);
       // A dialog that the user was followed into stands for itself.
-      return dialog != 0 && worked_.First([&](const WindowTriple& other) {
-        return other.handle == dialog;
-      }) == nullptr;
+      return filter_->IsSelectableWindow(dialog, false, false) &&
+             worked_.First([&](const WindowTriple& other) { return other.handle == dialog; }) ==
+                 nullptr;
     }
     case kWindowNotOpen: {
       const WindowHandle owner = GetRelatedWindow(*windows_, window.handle, 2);
-      return owner != 0 && windows_->IsIconic(owner);
+      return windows_->IsIconic(owner) && windows_->IsWindowVisible(owner);
     }
     default:
       return false;

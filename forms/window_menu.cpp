@@ -76,11 +76,18 @@ void WindowMenu::mnuWindowParentList_Click(std::int16_t Index) {
 }
 
 void WindowMenu::SelectPrevious() {
-  parts_.tracker.UpdateRecord();
-  WindowTriple window = parts_.previous.OfTagZero(parts_.mainWindow.FocusTag() == kGotFocus);
-  if (parts_.actions.ActivatePreviousWindow(window) == kActivationDone) {
-    selected = window.handle;
-    parts_.tracker.RecordSelection(window);
+  // A window out of sight behind a minimized one proves only when that is restored to be no longer
+  // shown; then the one worked in before it is next.
+  for (WindowHandle tried = 0;;) {
+    parts_.tracker.UpdateRecord();
+    WindowTriple window = parts_.previous.OfTagZero(parts_.mainWindow.FocusTag() == kGotFocus);
+    if (window.handle == 0 || window.handle == tried) return;
+    tried = window.handle;
+    if (parts_.actions.ActivatePreviousWindow(window) == kActivationDone) {
+      selected = tried;
+      parts_.tracker.RecordSelection(window);
+      return;
+    }
   }
 }
 

@@ -145,5 +145,23 @@ TEST_F(DialogWayBackTest, UnfoldsTheOwnerOfTheWindowBefore) {
   EXPECT_TRUE(desktop.IsWindowVisible(owned));
 }
 
+TEST_F(DialogWayBackTest, PassesOverAWindowWhoseDialogStaysHiddenWhenItIsRestored) {
+  const WindowHandle dialog = OpenDialog(alpha, "Save As");
+  desktop.Hide(dialog);
+  desktop.UserMinimizes(alpha);
+  WorkIn(gamma);
+  WorkIn(beta);
+  desktop.Close(gamma);
+  ExpectWayBack("Korvale - Work");
+}
+
+TEST_F(DialogWayBackTest, PassesOverAWindowWhoseOwnerIsHidden) {
+  Open("Owned", {.owner = alpha});
+  desktop.UserMinimizes(alpha);
+  desktop.Hide(alpha);
+  WorkIn(beta);
+  ExpectWayBack("Gamma");
+}
+
 }  // namespace
 }  // namespace korvale
