@@ -14,7 +14,7 @@ namespace {
 constexpr const char* kApp = "Korvale - Work";
 constexpr const char* kRegister = "Korvale Installations";
 constexpr int kRounds = 300;
-constexpr std::int32_t kButtonsMask = 0xF;
+constexpr std::int32_t kBoxButtonsMask = 0xF;
 
 constexpr const char* kNumbers[] = {
     "",      "0",      "-1",          "1",          "3",           "32767",    "32768", "-32768",
@@ -119,7 +119,7 @@ class StoredSettingsFuzzTest : public KorvaleWorld {
       if (box.title.empty()) return std::int16_t{win32::kIdOk};
       Answer(korvale);
       EXPECT_EQ(box.text.find("VB ERROR"), std::string::npos) << box.text;
-      const bool asks = (box.style & kButtonsMask) == win32::kMbYesNo;
+      const bool asks = (box.style & kBoxButtonsMask) == win32::kMbYesNo;
       return static_cast<std::int16_t>(!asks            ? win32::kIdOk
                                        : dice_.OneIn(2) ? win32::kIdYes
                                                         : win32::kIdNo);
