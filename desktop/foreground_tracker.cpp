@@ -115,6 +115,14 @@ WindowHandle ForegroundTracker::WindowBehind(WindowHandle closing) {
   return worked == nullptr ? 0 : FindInputWindow(*windows_, worked->handle);
 }
 
+void ForegroundTracker::ForgetVisit(WindowHandle closing) {
+  worked_.Remove(closing);
+  if (lastSeen_ != closing) return;
+  const WindowTriple* const before = worked_.First([](const WindowTriple&) { return true; });
+  const bool unseen = before == nullptr || before->handle == mainWindow_->MainHandle();
+  lastSeen_ = unseen ? 0 : before->handle;
+}
+
 bool ForegroundTracker::CanComeBack(WindowHandle hwnd) {
   return filter_->IsSelectableWindow(hwnd, false, false) && windows_->IsWindowVisible(hwnd) &&
          windows_->IsWindowEnabled(hwnd) && !windows_->IsIconic(hwnd) &&
@@ -175,6 +183,15 @@ bool ForegroundTracker::IsGone(const WindowTriple& window) {
                                 GetWindowClass(*windows_, window.handle) != window.className);
 }
 
+/// A dialog that the user was followed into stands for itself.
+bool ForegroundTracker::IsBehindDialog(WindowHandle hwnd) {
+  const WindowHandle dialog = FindInputWindow(*windows_, hwnd);
+  const bool restores = windows_->IsWindowVisible(dialog) || !windows_->IsHungAppWindow(hwnd);
+  return restores && filter_->IsSelectableWindow(dialog, false, false) &&
+         worked_.First([&](const WindowTriple& other) { return other.handle == dialog; }) ==
+             nullptr;
+}
+
 /// True also for a window behind a dialog of its own, and for one that is out of sight because its
 /// owner is minimized: Tag 0 brings the dialog forward and restores the owner.
 bool ForegroundTracker::CanBeReached(const WindowTriple& window) {
@@ -182,16 +199,12 @@ bool ForegroundTracker::CanBeReached(const WindowTriple& window) {
   switch (actions_->ActivateWindow(live, false, false)) {
     case kActivationDone:
       return true;
-    case kWindowNotEnabled: {
-      const WindowHandle dialog = FindInputWindow(*windows_, window.handle);
-      // A dialog that the user was followed into stands for itself.
-      return filter_->IsSelectableWindow(dialog, false, false) &&
-             worked_.First([&](const WindowTriple& other) { return other.handle == dialog; }) ==
-                 nullptr;
-    }
+    case kWindowNotEnabled:
+      return IsBehindDialog(window.handle);
     case kWindowNotOpen: {
       const WindowHandle owner = GetRelatedWindow(*windows_, window.handle, 2);
-      return windows_->IsIconic(owner) && windows_->IsWindowVisible(owner);
+      return windows_->IsIconic(owner) && windows_->IsWindowVisible(owner) &&
+             !windows_->IsHungAppWindow(owner);
     }
     default:
       return false;

@@ -39,6 +39,9 @@ class ForegroundTracker {
   /// before it, else the one last worked in. 0 when `closing` is not in front, or nothing is left.
   WindowHandle WindowBehind(WindowHandle closing);
 
+  /// Makes the record as if `closing`, a window of ours, had never come forward.
+  void ForgetVisit(WindowHandle closing);
+
   /// Fills the record with the windows last worked in that Tag 0 can lead to now.
   void UpdateRecord();
 
@@ -68,6 +71,7 @@ class ForegroundTracker {
   void MoveRecordBehindDialog(const WindowTriple& window);
   void NoteInFront(WindowHandle foreground);
   bool IsGone(const WindowTriple& window);
+  bool IsBehindDialog(WindowHandle hwnd);
   bool CanBeReached(const WindowTriple& window);
   bool CanComeBack(WindowHandle hwnd);
   WindowTriple Recorded(const WindowTriple* window);

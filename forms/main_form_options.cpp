@@ -33,6 +33,7 @@ void frmMain::OptionsDialogClosed() {
   // Windows would bring the main window forward, which owns the dialog.
   ReturnForegroundTo(platform_->windows, platform_->commands,
                      parts_.tracker.WindowBehind(optionsForm_.Handle()));
+  parts_.tracker.ForgetVisit(optionsForm_.Handle());
 }
 
 void frmMain::HotKeysRegistered() {

@@ -119,7 +119,8 @@ void HotKeyDispatch::Perform(const std::string& name) {
 void HotKeyDispatch::MinimizeOrMaximize(const std::string& name) {
   parts_.tracker.LookAtForeground();
   const WindowTriple next = parts_.windowActions.MinimizeOrMaximizeForeground(name);
-  if (next.handle == 0) return;
+  // What Windows has brought forward by itself is where the user is, be it for a moment.
+  if (next.handle == 0) return parts_.tracker.LookAtForeground();
   parts_.tracker.RecordSelection(next);
   parts_.tracker.ValidatePreviousWindow();
 }

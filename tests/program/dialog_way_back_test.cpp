@@ -155,6 +155,14 @@ TEST_F(DialogWayBackTest, PassesOverAWindowWhoseDialogStaysHiddenWhenItIsRestore
   ExpectWayBack("Korvale - Work");
 }
 
+TEST_F(DialogWayBackTest, PassesOverAMinimizedWindowThatHangs) {
+  OpenDialog(alpha, "Save As");
+  desktop.UserMinimizes(alpha);
+  desktop.SetHung(alpha, true);
+  WorkIn(beta);
+  ExpectWayBack("Gamma");
+}
+
 TEST_F(DialogWayBackTest, PassesOverAWindowWhoseOwnerIsHidden) {
   Open("Owned", {.owner = alpha});
   desktop.UserMinimizes(alpha);

@@ -72,6 +72,20 @@ TEST_F(OptionsWayBackTest, ByHotKeyEndsWhereTheUserWorked) {
   }
 }
 
+TEST_F(OptionsWayBackTest, ByHotKeyFromAWindowThatIsNotFollowedLeavesTheWayBackAsItWas) {
+  const WindowHandle tool = Open("Tool", {.exStyle = win32::kWsExToolWindow});
+  KorvaleCopy& korvale = InAlpha();
+  for (const Close& close : WaysToClose()) {
+    WorkIn(tool);
+    OpenByHotKey();
+    close(korvale);
+    EXPECT_EQ(Front(), "Tool");
+    PressTag(0);
+    EXPECT_EQ(Front(), "Beta");
+    WorkIn(alpha);
+  }
+}
+
 TEST_F(OptionsWayBackTest, ByHotKeyLeavesTheMainWindowMinimized) {
   KorvaleCopy& korvale = InAlpha();
   desktop.UserMinimizes(korvale.Handle());

@@ -133,6 +133,17 @@ TEST_F(WayBackTest, MinimizingAndAQuickTagLoseNothing) {
   ExpectWayBack("Beta");
 }
 
+TEST_F(WayBackTest, AMomentInTheWindowThatMinimizingBroughtForwardCounts) {
+  InAlpha();
+  desktop.UserMinimizes(alpha);
+  LetTick();
+  ASSERT_EQ(Front(), "Beta");
+  EXPECT_TRUE(hotKeys.Press(win32::kModAlt, win32::kVkDown));
+  ASSERT_EQ(Front(), "Gamma");
+  WorkIn(alpha);
+  ExpectWayBack("Gamma");
+}
+
 TEST_F(WayBackTest, MinimizingRightAfterASelectionMinimizesTheSelectedWindow) {
   InAlpha();
   desktop.DelayForeground(true);
