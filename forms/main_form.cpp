@@ -94,8 +94,9 @@ void frmMain::udmSaveINI() {
 }
 
 void frmMain::SaveOrTell(const std::function<void()>& saves) {
-  refusalTold_ = false;
+  const bool told = std::exchange(refusalTold_, false);
   SaveOrTellOnce(saves);
+  refusalTold_ = refusalTold_ || told;
 }
 
 void frmMain::SaveOrTellOnce(const std::function<void()>& saves) {

@@ -101,61 +101,6 @@ TEST_F(ShutdownTest, TheCloseBoxAndAltF4AreExits) {
   }
 }
 
-TEST_F(ShutdownTest, ARefusedSaveIsToldAndTheHotKeysAreGivenBackAllTheSame) {
-  KorvaleCopy& korvale = StartedCopy();
-  store.RefuseWrites(true);
-  korvale.host.WhenMessageBox([](const ShownMessage& box) {
-    EXPECT_EQ(box.text, "VB ERROR 70 - Permission denied\r\rKorvale Error #5");
-    return win32::kIdOk;
-  });
-  korvale.Exit();
-  EXPECT_TRUE(hotKeys.Registered().empty());
-  EXPECT_FALSE(korvale.Form().IsLoaded());
-}
-
-TEST_F(ShutdownTest, ARefusedSaveHoldsUpNoSessionAndNoTaskKiller) {
-  for (const CloseReason reason : {CloseReason::kSession, CloseReason::kTaskManager}) {
-    store.RefuseWrites(false);
-    KorvaleCopy& korvale = StartedCopy();
-    store.RefuseWrites(true);
-    korvale.Form().OnCloseRequested(reason);
-    EXPECT_TRUE(korvale.host.Messages().empty());
-    EXPECT_TRUE(hotKeys.Registered().empty());
-    EXPECT_FALSE(korvale.Form().IsLoaded());
-    EndCopy(korvale);
-  }
-}
-
-TEST_F(ShutdownTest, ARefusalIsToldOnceARun) {
-  const WindowHandle alpha = Open("Alpha");
-  KorvaleCopy& korvale = StartedCopy();
-  WorkIn(alpha);
-  WorkIn(korvale.Handle());
-  korvale.TagPrevious();
-  store.RefuseWrites(true);
-  korvale.host.AnswerNext(win32::kIdOk);
-  for (int press = 0; press < 3; ++press) {
-    WorkIn(Open("Beta"));
-    PressTag(1);
-    EXPECT_EQ(Front(), "Alpha");
-  }
-  korvale.Exit();
-  EXPECT_EQ(korvale.host.Messages().size(), 1U);
-}
-
-TEST_F(ShutdownTest, ARefusalIsToldForEachSaveThatTheUserAsksFor) {
-  KorvaleCopy& korvale = StartedCopy();
-  korvale.Form().mnuToolsOptions_Click();
-  store.RefuseWrites(true);
-  class Form& options = korvale.Loaded("frmOptions");
-  for (int press = 0; press < 2; ++press) {
-    korvale.host.AnswerNext(win32::kIdOk);
-    korvale.user.Click(options.Handle(), korvale.Id(options, "cmdApply"));
-  }
-  korvale.Exit();
-  EXPECT_EQ(korvale.host.Messages().size(), 2U);
-}
-
 TEST_F(ShutdownTest, ClosingTheHiddenOwnerEndsTheProgramAsAnExitDoes) {
   KorvaleCopy& korvale = StartedCopy();
   korvale.user.CloseOwner(korvale.Handle());
