@@ -35,7 +35,7 @@ struct InstallationResult {
 };
 
 /// The rule that gives each installation folder its own settings; runs once before loading, in the
-/// only copy of the installation that is starting. First ends a save that a killed run began.
+/// only copy of the installation that is starting.
 ///
 /// Settings are taken over as one save: at any moment they stand under one of the two names. They
 /// are the ones of the first registered installation that has settings and whose folder no longer
