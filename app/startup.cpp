@@ -27,9 +27,10 @@ constexpr std::int16_t kHotKeysTab = 2;
 void StartUp::Initialise(frmMain& form) {
   FixIdentity(form);
   otherCopy_.WaitFor(form);
-  RunInstallation(form);
-  form.LoadStartupSettings();
-  form.udmLoadOptions();
+  if (!RunInstallation(form)) {
+    form.LoadStartupSettings();
+    form.udmLoadOptions();
+  }
   otherCopy_.RefuseToRunBeside(form);
   MentionOtherInstallation(form);
   EndIfUnloaded(form);
@@ -63,19 +64,22 @@ void StartUp::EndIfUnloaded(frmMain& form) {
 
 void StartUp::FixIdentity(frmMain& form) { form.SetCaption(form.Parts().identity.mainCaption); }
 
-void StartUp::RunInstallation(frmMain& form) {
+/// True when the settings are those of another installation, taken over and already in use: the
+/// store may have refused some of them.
+bool StartUp::RunInstallation(frmMain& form) {
   MainParts& parts = form.Parts();
   parts.options.Create();
   parts.settings.SetAppName(parts.identity.mainCaption);
   if (!otherCopy_.Alone()) {
     // The rule is for the copy that runs; this one is about to be refused.
-    return;
+    return false;
   }
   parts.settings.FinishInterruptedSave();
   const InstallationResult result = RunInstallationRule(
       parts.identity, parts.settings, platform_->system, parts.messages,
       {[&form] { form.udmLoadOptions(); }, [&form] { form.LoadStartupSettings(); },
-       [&form] { form.udmSaveOptions(); }, [&form] { form.udmSaveINI(); },
+       [&parts] { Settings::ForgetPlacement(parts.startup); }, [&form] { form.udmSaveOptions(); },
+       [&form] { form.udmSaveINI(); },
        [&form](const std::function<void()>& saves) { form.SaveOrTellOnce(saves); }});
   EndIfUnloaded(form);
   parts.state.firstRun = result.firstRun;
@@ -84,6 +88,7 @@ void StartUp::RunInstallation(frmMain& form) {
     form.udmUnload(false);
     throw ProgramEnded{};
   }
+  return result.takenOver;
 }
 
 void StartUp::MentionOtherInstallation(frmMain& form) {

@@ -18,7 +18,7 @@ class StartUp : public ProgramLifetime {
  private:
   void EndIfUnloaded(frmMain& form);
   void FixIdentity(frmMain& form);
-  void RunInstallation(frmMain& form);
+  bool RunInstallation(frmMain& form);
   void MentionOtherInstallation(frmMain& form);
   void MentionCommandLine(frmMain& form);
   void ShowSplash(frmMain& form);

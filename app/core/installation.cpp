@@ -49,7 +49,10 @@ class InstallationRule {
     const std::string other = FirstToTakeOver(installations);
     if (other.empty()) return result;
     result.lastAnswer = AskForImport(other);
-    if (result.lastAnswer == win32::kIdYes) Import(other, import);
+    if (result.lastAnswer == win32::kIdYes) {
+      Import(other, import);
+      result.takenOver = true;
+    }
     return result;
   }
 
@@ -117,6 +120,7 @@ class InstallationRule {
         const PointedAt from(settings_, other);
         mainForm.udmLoadOptions();
         mainForm.loadStartupSettings();
+        mainForm.forgetPlacement();
       }
       mainForm.udmSaveOptions();
       mainForm.udmSaveINI();

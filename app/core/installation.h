@@ -18,6 +18,8 @@ inline constexpr const char* kInstallationRegister = "Korvale Installations";
 struct InstallationImport {
   std::function<void()> udmLoadOptions;
   std::function<void()> loadStartupSettings;
+  /// Sets the settings that are not taken over back to their defaults.
+  std::function<void()> forgetPlacement;
   std::function<void()> udmSaveOptions;
   std::function<void()> udmSaveINI;
   /// Makes the whole import; a refusal of the store is no reason not to start.
@@ -30,6 +32,9 @@ struct InstallationResult {
   bool mustEnd = false;
   /// Nothing was stored under this installation's name.
   bool firstRun = false;
+  /// The settings of another installation have been loaded and are in use, also where the store
+  /// refused to save them.
+  bool takenOver = false;
   /// Result of the question about taking settings over, 0 when it was not asked.
   std::int16_t lastAnswer = 0;
 };

@@ -104,6 +104,33 @@ bool Supersedes(const StoreChange& newer, const StoreChange& older) {
          (older.kind != Kind::kDeleteSection && newer.key == older.key);
 }
 
+/// The last of the changes after which nothing is left of `older`; null when there is none.
+const StoreChange* Superseding(std::span<const StoreChange> changes, const StoreChange& older) {
+  const StoreChange* last = nullptr;
+  for (const StoreChange& change : changes) {
+    if (Supersedes(change, older)) last = &change;
+  }
+  return last;
+}
+
+/// True when a value of the older changes that the store has not taken will not be made any more.
+bool LosesAValue(SettingsStore& store, std::span<const StoreChange> older,
+                 std::span<const StoreChange> newer) {
+  while (!older.empty()) {
+    const StoreChange& change = older.front();
+    older = older.subspan(1);
+    if (change.kind != StoreChange::Kind::kSaveSetting || Superseding(older, change) != nullptr ||
+        store.GetSetting(change.appName, change.section, change.key) == change.value) {
+      continue;
+    }
+    const StoreChange* const instead = Superseding(newer, change);
+    if (instead != nullptr && (instead->kind != change.kind || instead->value != change.value)) {
+      return true;
+    }
+  }
+  return false;
+}
+
 /// True when the change deletes a section that nothing stands in by then.
 bool IsIdle(SettingsStore& store, std::span<const StoreChange> before, const StoreChange& change) {
   return change.kind == StoreChange::Kind::kDeleteSection &&
@@ -143,14 +170,15 @@ void SaveJournal::FinishInterrupted() {
 }
 
 /// What an earlier save was refused stays to be made, before the new changes and without what they
-/// make anew or delete.
+/// make anew or delete. What was to be deleted once all of it stands is not deleted any more when
+/// that cannot come true.
 std::vector<StoreChange> SaveJournal::BehindRefused(
     const std::vector<StoreChange>& newChanges) const {
   auto changes = CompleteChanges(store_->GetAllSettings(appName_, kJournalSection))
                      .value_or(std::vector<StoreChange>());
+  const bool keepsLast = !LosesAValue(*store_, changes, newChanges);
   std::erase_if(changes, [&](const StoreChange& refused) {
-    return std::ranges::any_of(
-        newChanges, [&](const StoreChange& change) { return Supersedes(change, refused); });
+    return refused.last ? !keepsLast : Superseding(newChanges, refused) != nullptr;
   });
   for (const StoreChange& change : newChanges) {
     if (!IsIdle(*store_, changes, change)) changes.push_back(change);

@@ -24,7 +24,8 @@ class SaveJournal {
   /// Makes the changes in their order, the last ones only when all others were made. Throws
   /// RunTimeError 70 (Permission denied) when the store refused one: with no change made when the
   /// journal could not be written, otherwise after all others; what was refused is tried again by
-  /// the next Commit or FinishInterrupted, and never undoes a newer change.
+  /// the next Commit or FinishInterrupted, and never undoes a newer change. The last changes are
+  /// dropped when a value that they wait for is replaced or deleted before the store has taken it.
   void Commit(const std::vector<StoreChange>& newChanges);
 
   /// Makes all changes of a complete journal that was left behind and removes it unless the store

@@ -107,6 +107,13 @@ void Settings::DeletePlacement() {
   });
 }
 
+void Settings::ForgetPlacement(StartupSettings& startup) {
+  StartupSettings defaults;
+  for (const auto& row : StartupRows()) {
+    if (row.onImport == OnImport::kDrop) CopySetting(row.field(defaults), row.field(startup));
+  }
+}
+
 bool Settings::NothingStored() const {
   return std::ranges::all_of(
       std::array{kStartupSection, kTagCaptions, kTagClasses, kOptionsSection},

@@ -52,6 +52,8 @@ class Settings {
   void DeleteINI();
   /// Deletes the settings that are not taken over from another installation.
   void DeletePlacement();
+  /// Sets these settings back to their defaults.
+  static void ForgetPlacement(StartupSettings& startup);
 
   /// True when no section of this installation holds anything.
   bool NothingStored() const;

@@ -15,6 +15,7 @@ struct FormOfSettings {
               startup = settings.LoadStartup();
               tags = settings.LoadTagList();
             },
+            [this] { Settings::ForgetPlacement(startup); },
             [this] { settings.SaveOptions(options); },
             [this] {
               settings.SaveINI(startup, [this](SettingsStore& store) {

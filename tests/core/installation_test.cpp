@@ -101,33 +101,21 @@ TEST_F(InstallationTest, SettingsOfTheOwnFolderUnderAnotherNameAreOffered) {
   EXPECT_EQ(Registered("Korvale - WORK~1"), std::nullopt);
 }
 
-/// Refuses the values of one key until it is told otherwise.
-class RefusingKey : public FakeSettingsStore {
- public:
-  explicit RefusingKey(const FakeSettingsStore& store) : FakeSettingsStore(store) {}
-  bool SaveSetting(const std::string& appName, const std::string& section, const std::string& key,
-                   const std::string& value) override {
-    if (refusing && appName == kWork && section == "Startup" && key == "Tips") return false;
-    return FakeSettingsStore::SaveSetting(appName, section, key, value);
-  }
-  bool refusing = true;
-};
-
 TEST_F(InstallationTest, ImportThatIsRefusedAValueLeavesTheOtherInstallationAsItIs) {
   StoreSettings(store_, kOld);
   Register(store_, kOld, "D:\\Tools\\Old");
   const StoredValues old = ValuesOf(store_, kOld);
-  RefusingKey store(store_);
+  store_.RefuseValue(kWork, "Startup", "Tips");
   messages_.answers = {kYes};
-  EXPECT_THROW(RunOn(store), RunTimeError);
-  EXPECT_EQ(ValuesOf(store, kOld), old);
-  EXPECT_EQ(store.GetSetting(kInstallationRegister, "0", kOld), "D:\\Tools\\Old");
+  EXPECT_THROW(Run(), RunTimeError);
+  EXPECT_EQ(ValuesOf(store_, kOld), old);
+  EXPECT_EQ(Registered(kOld), "D:\\Tools\\Old");
 
-  store.refusing = false;
-  Settings(store, kWork).FinishInterruptedSave();
-  EXPECT_EQ(store.GetSetting(kWork, "Startup", "Tips"), "11");
-  EXPECT_EQ(ValuesOf(store, kOld), StoredValues());
-  EXPECT_EQ(store.GetSetting(kInstallationRegister, "0", kOld), std::nullopt);
+  store_.RefuseNothing();
+  Settings(store_, kWork).FinishInterruptedSave();
+  EXPECT_EQ(store_.GetSetting(kWork, "Startup", "Tips"), "11");
+  EXPECT_EQ(ValuesOf(store_, kOld), StoredValues());
+  EXPECT_EQ(Registered(kOld), std::nullopt);
 }
 
 TEST_F(InstallationTest, RootOfADriveIsAnInstallation) {

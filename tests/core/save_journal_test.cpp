@@ -113,15 +113,6 @@ class RefusingStore : public FakeSettingsStore {
   std::string key_;
 };
 
-std::int16_t ErrorOf(const std::function<void()>& call) {
-  try {
-    call();
-  } catch (const RunTimeError& error) {
-    return error.Number();
-  }
-  return 0;
-}
-
 TEST(RefusedSaveTest, ChangesNothingWhenItCannotBePrepared) {
   for (const char* key : {"Tips", "Complete"}) {
     RefusingStore store(kJournalSection, key);
@@ -192,16 +183,6 @@ TEST(RefusedSaveTest, FailingDeletionDoesNotStopTheOthers) {
   EXPECT_EQ(store.GetSetting(kApp, "ParentWindowList", "3"), "&3  New\\Tag");
 }
 
-/// Saves the state with these Tags, as the program does.
-void SaveTags(SettingsStore& store, const std::vector<std::string>& tags) {
-  const auto save = [&](SettingsStore& list) {
-    for (const std::string& tag : tags) {
-      list.SaveSetting(kApp, "ParentWindowList", tag, "&" + tag + "  Mail");
-    }
-  };
-  Settings(store, kApp).SaveINI(StartupSettings(), save);
-}
-
 TEST(RefusedSaveTest, ATagThatWasRemovedMeanwhileDoesNotComeBack) {
   for (const std::vector<std::string>& left : {std::vector<std::string>{"1"}, {}}) {
     RefusingStore store("ParentWindowList", "");
@@ -226,25 +207,6 @@ TEST(RefusedSaveTest, TheLastTagWhoseRemovalIsRefusedIsRemovedLater) {
   store.refusing = false;
   Restart(store);
   EXPECT_EQ(store.GetSetting(kApp, "ParentWindowList", "2"), std::nullopt);
-}
-
-TEST(RefusedSaveTest, WhatIsDeletedLastStaysUntilAllElseStands) {
-  RefusingStore store("Startup", "Tips");
-  store.SaveSetting("Korvale - Old", "Options", "A", "1");
-  store.refusing = true;
-  Settings settings(store, kApp);
-  const auto saveHere = [&](SettingsStore& /*store*/) {
-    settings.SaveINI(StartupSettings(), SaveNewTags);
-  };
-  const auto deleteOld = [&](SettingsStore& old) { old.DeleteSection("Korvale - Old", "Options"); };
-  EXPECT_EQ(ErrorOf([&] { settings.SaveThenDelete(saveHere, deleteOld); }), 70);
-  EXPECT_EQ(store.GetSetting("Korvale - Old", "Options", "A"), "1");
-  EXPECT_EQ(ErrorOf([&] { SaveNewINI(store); }), 70);
-  EXPECT_EQ(store.GetSetting("Korvale - Old", "Options", "A"), "1");
-  store.refusing = false;
-  SaveNewINI(store);
-  EXPECT_EQ(store.GetSetting("Korvale - Old", "Options", "A"), std::nullopt);
-  EXPECT_TRUE(store.GetAllSettings(kApp, kJournalSection).empty());
 }
 
 TEST(SaveTogetherTest, MakesNothingWhenTheWorkThrows) {

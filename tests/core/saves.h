@@ -1,6 +1,12 @@
 #pragma once
 
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
 #include "app/core/settings.h"
+#include "platform/run_time_error.h"
 
 namespace korvale {
 
@@ -30,6 +36,26 @@ inline void SaveNewINI(SettingsStore& store) {
 }
 
 inline void DeleteTheOptions(SettingsStore& store) { Settings(store, kApp).DeleteOptions(); }
+
+/// Number of the run-time error that the call throws, 0 when it throws none.
+inline std::int16_t ErrorOf(const std::function<void()>& call) {
+  try {
+    call();
+  } catch (const RunTimeError& error) {
+    return error.Number();
+  }
+  return 0;
+}
+
+/// Saves the state with these Tags, as the program does.
+inline void SaveTags(SettingsStore& store, const std::vector<std::string>& tags) {
+  const auto save = [&](SettingsStore& list) {
+    for (const std::string& tag : tags) {
+      list.SaveSetting(kApp, "ParentWindowList", tag, "&" + tag + "  Mail");
+    }
+  };
+  Settings(store, kApp).SaveINI(StartupSettings(), save);
+}
 
 inline void Restart(SettingsStore& store) { Settings(store, kApp).FinishInterruptedSave(); }
 

@@ -24,6 +24,16 @@ void FakeSettingsStore::SetOtherType(const std::string& appName, const std::stri
   Write(appName, section, {key, std::nullopt});
 }
 
+void FakeSettingsStore::RefuseValue(const std::string& appName, const std::string& section,
+                                    const std::string& key) {
+  refused_values_.push_back({appName, section, {{key, std::nullopt}}});
+}
+
+void FakeSettingsStore::RefuseNothing() {
+  refuse_writes_ = false;
+  refused_values_.clear();
+}
+
 std::vector<std::string> FakeSettingsStore::Sections(const std::string& appName) const {
   std::vector<std::string> names;
   for (const Section& section : sections_) {
@@ -69,6 +79,7 @@ bool FakeSettingsStore::SaveSetting(const std::string& appName, const std::strin
   if (!BeginWrite(Call("SaveSetting", appName, section) + ", " + key + ", \"" + value + "\")")) {
     return false;
   }
+  if (IsRefused(appName, section, key)) return false;
   Write(appName, section, {key, value});
   return true;
 }
@@ -90,6 +101,14 @@ bool FakeSettingsStore::DeleteSection(const std::string& appName, const std::str
            return EqualsIgnoreCase(candidate.appName, appName) &&
                   EqualsIgnoreCase(candidate.name, section);
          }) > 0;
+}
+
+bool FakeSettingsStore::IsRefused(const std::string& appName, const std::string& section,
+                                  const std::string& key) const {
+  return std::ranges::any_of(refused_values_, [&](const Section& refused) {
+    return EqualsIgnoreCase(refused.appName, appName) && EqualsIgnoreCase(refused.name, section) &&
+           FindKey(refused.values, key) != refused.values.end();
+  });
 }
 
 FakeSettingsStore::Section* FakeSettingsStore::Find(const std::string& appName,

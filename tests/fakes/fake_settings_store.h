@@ -24,6 +24,10 @@ class FakeSettingsStore : public SettingsStore {
   void SetOtherType(const std::string& appName, const std::string& section, const std::string& key);
   /// Refuses every change from now on.
   void RefuseWrites(bool refuse) { refuse_writes_ = refuse; }
+  /// Refuses to save this value from now on, and no other.
+  void RefuseValue(const std::string& appName, const std::string& section, const std::string& key);
+  /// Refuses nothing any more.
+  void RefuseNothing();
   /// Lets this many changes through; the next one throws KilledBetweenWrites. -1 = all.
   void KillAfterWrites(int writes) { writes_left_ = writes; }
   /// Names of all sections of an application in the order of their making.
@@ -52,6 +56,8 @@ class FakeSettingsStore : public SettingsStore {
     std::vector<Value> values;
   };
 
+  bool IsRefused(const std::string& appName, const std::string& section,
+                 const std::string& key) const;
   Section* Find(const std::string& appName, const std::string& section);
   void Write(const std::string& appName, const std::string& section, const Value& value);
   /// Logs a change; false when it is refused.
@@ -61,6 +67,7 @@ class FakeSettingsStore : public SettingsStore {
   CallLog* log_ = nullptr;
   std::vector<Section> sections_;
   bool refuse_writes_ = false;
+  std::vector<Section> refused_values_;
   int writes_left_ = -1;
 };
 

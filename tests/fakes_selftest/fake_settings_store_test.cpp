@@ -90,6 +90,21 @@ TEST(FakeSettingsStoreTest, RefusedWritesChangeNothing) {
   EXPECT_EQ(store.GetSetting("App", "Options", "a"), "1");
 }
 
+TEST(FakeSettingsStoreTest, RefusesToSaveOneValueInAnyCaseAndNoOther) {
+  FakeSettingsStore store;
+  store.SaveSetting("App", "Options", "a", "1");
+  store.RefuseValue("App", "Options", "a");
+
+  EXPECT_FALSE(store.SaveSetting("APP", "options", "A", "2"));
+  EXPECT_TRUE(store.SaveSetting("App", "Options", "b", "2"));
+  EXPECT_TRUE(store.SaveSetting("App", "Startup", "a", "2"));
+  EXPECT_TRUE(store.SaveSetting("Other", "Options", "a", "2"));
+  EXPECT_EQ(store.GetSetting("App", "Options", "a"), "1");
+
+  store.RefuseNothing();
+  EXPECT_TRUE(store.SaveSetting("App", "Options", "a", "2"));
+}
+
 TEST(FakeSettingsStoreTest, KillsTheProgramBeforeTheNextWrite) {
   FakeSettingsStore store;
   store.KillAfterWrites(2);
