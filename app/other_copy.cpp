@@ -1,5 +1,9 @@
 #include "app/other_copy.h"
 
+#include <algorithm>
+#include <iterator>
+
+#include "app/core/installation.h"
 #include "desktop/foreground_return.h"
 #include "desktop/waiting_window.h"
 #include "desktop/window_readers.h"
@@ -20,6 +24,11 @@ constexpr std::uint32_t kCopyPoll = 50;
 void OtherCopy::WaitFor(frmMain& form) {
   lock_ = std::make_unique<InstanceLock>(platform_->system, form.Parts().identity.installation);
   alone_ = lock_->TryHold(0);
+  captions_ = {form.Caption()};
+  if (!alone_) {
+    std::ranges::copy(RegisteredNames(form.Parts().identity, platform_->store, platform_->system),
+                      std::back_inserter(captions_));
+  }
   for (std::uint32_t waited = 0; !alone_ && Find(form) == 0 && waited < Patience(form);
        waited += kCopyPoll) {
     alone_ = lock_->TryHold(kCopyPoll);
@@ -39,22 +48,38 @@ void OtherCopy::RefuseToRunBeside(frmMain& form) {
   throw ProgramEnded{};
 }
 
+WindowHandle OtherCopy::FindByCaption(frmMain& form, const InstanceSearch& search) {
+  WindowEnumeration& enumeration = form.Parts().enumeration;
+  const std::string className = GetWindowClass(platform_->windows, form.Handle());
+  for (const std::string& caption : captions_) {
+    const WindowHandle found = search(enumeration, className, caption);
+    if (found != 0) return found;
+  }
+  return 0;
+}
+
 /// Also a copy whose main window is still hidden while a box or tip of its start-up is shown.
 WindowHandle OtherCopy::Find(frmMain& form) {
-  WindowQueries& windows = platform_->windows;
-  WindowEnumeration& enumeration = form.Parts().enumeration;
-  const std::string className = GetWindowClass(windows, form.Handle());
-  const WindowHandle shown = enumeration.FindInstance(className, form.Caption());
+  const WindowHandle shown = FindByCaption(
+      form,
+      [](WindowEnumeration& enumeration, const std::string& className, const std::string& caption) {
+        return enumeration.FindInstance(className, caption);
+      });
   if (shown != 0 || alone_) return shown;
-  return enumeration.FindHiddenInstance(className, form.Caption(), [&](WindowHandle hwnd) {
-    return FindWaitingWindow(windows, hwnd) != 0;
+  return FindHidden(
+      form, [this](WindowHandle hwnd) { return FindWaitingWindow(platform_->windows, hwnd) != 0; });
+}
+
+WindowHandle OtherCopy::FindHidden(frmMain& form,
+                                   const std::function<bool(WindowHandle)>& qualifies) {
+  return FindByCaption(form, [&](WindowEnumeration& enumeration, const std::string& className,
+                                 const std::string& caption) {
+    return enumeration.FindHiddenInstance(className, caption, qualifies);
   });
 }
 
 std::uint32_t OtherCopy::Patience(frmMain& form) {
-  const WindowHandle hidden = form.Parts().enumeration.FindHiddenInstance(
-      GetWindowClass(platform_->windows, form.Handle()), form.Caption());
-  return hidden != 0 ? kCopyPatience : kEndPatience;
+  return FindHidden(form, {}) != 0 ? kCopyPatience : kEndPatience;
 }
 
 void OtherCopy::BringForward(frmMain& form, WindowHandle copy) {
@@ -64,7 +89,7 @@ void OtherCopy::BringForward(frmMain& form, WindowHandle copy) {
     ReturnForegroundTo(windows, platform_->commands, FindWaitingWindow(windows, copy));
     return;
   }
-  WindowTriple window{copy, form.Caption(), GetWindowClass(windows, copy)};
+  WindowTriple window{copy, GetWindowTitle(windows, copy), GetWindowClass(windows, copy)};
   form.Parts().actions.ActivateWindow(window, false, true);
 }
 

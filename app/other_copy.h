@@ -1,7 +1,10 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "app/core/instance_lock.h"
 #include "forms/main_form.h"
@@ -26,13 +29,20 @@ class OtherCopy {
   void RefuseToRunBeside(frmMain& form);
 
  private:
+  using InstanceSearch = std::function<WindowHandle(
+      WindowEnumeration&, const std::string& className, const std::string& caption)>;
+
   WindowHandle Find(frmMain& form);
+  WindowHandle FindHidden(frmMain& form, const std::function<bool(WindowHandle)>& qualifies);
+  WindowHandle FindByCaption(frmMain& form, const InstanceSearch& search);
   std::uint32_t Patience(frmMain& form);
   void BringForward(frmMain& form, WindowHandle copy);
 
   Platform* platform_;
   std::unique_ptr<InstanceLock> lock_;
   bool alone_ = false;
+  /// Captions that the main window of another copy may have.
+  std::vector<std::string> captions_;
 };
 
 }  // namespace korvale

@@ -149,4 +149,13 @@ InstallationResult RunInstallationRule(const ProgramIdentity& identity, Settings
   return InstallationRule(identity, settings, system, messages).Run(import);
 }
 
+std::vector<std::string> RegisteredNames(const ProgramIdentity& identity, SettingsStore& store,
+                                         SystemApi& system) {
+  std::vector<std::string> names;
+  for (const auto& [name, folder] : store.GetAllSettings(kInstallationRegister, kRegisterSection)) {
+    if (ReadFolderIdentity(system, folder).IsSameAs(identity.installation)) names.push_back(name);
+  }
+  return names;
+}
+
 }  // namespace korvale

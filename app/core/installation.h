@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "app/core/identity.h"
 #include "app/core/message_boxes.h"
@@ -50,5 +51,10 @@ struct InstallationResult {
 InstallationResult RunInstallationRule(const ProgramIdentity& identity, Settings& settings,
                                        SystemApi& system, MessageBoxes& messages,
                                        const InstallationImport& import);
+
+/// The settings application names, each also a main caption, under which this installation is
+/// registered: started through the root of a share it has another name.
+std::vector<std::string> RegisteredNames(const ProgramIdentity& identity, SettingsStore& store,
+                                         SystemApi& system);
 
 }  // namespace korvale

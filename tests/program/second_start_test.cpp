@@ -94,5 +94,56 @@ TEST_F(SecondStartTest, TheTipThatWaitsBeforeTheMainWindowIsShownComesForwardAtO
   EXPECT_TRUE(first.Start());
 }
 
+/// The folder has been renamed to other letters of the same name since the first copy started.
+KorvaleCopy& Renamed(KorvaleCopy& copy) {
+  copy.system.executablePath = "C:\\Programs\\WORK\\Korvale.exe";
+  copy.system.files = {copy.system.executablePath};
+  copy.host.AnswerNext(win32::kIdOk);
+  return copy;
+}
+
+TEST_F(SecondStartTest, ACopyWhoseNameDiffersOnlyInCaseIsRestored) {
+  KorvaleCopy& first = StartedCopy();
+  desktop.ShowWindow(first.Handle(), win32::kSwMinimize);
+  WorkIn(Open("Alpha"));
+  EXPECT_FALSE(Renamed(NewCopy()).Start());
+  EXPECT_FALSE(desktop.IsIconic(first.Handle()));
+  EXPECT_EQ(desktop.GetForegroundWindow(), first.Handle());
+}
+
+TEST_F(SecondStartTest, TheTipOfACopyWhoseNameDiffersOnlyInCaseComesForwardAtOnce) {
+  KorvaleCopy& first = UsedCopy();
+  first.system.commandLine = "/anything";
+  const WindowHandle alpha = Open("Alpha");
+  first.host.WhenModal("frmMsgTip", [&](class Form& tip) {
+    WorkIn(alpha);
+    const std::uint64_t before = clock.GetTickCount64();
+    EXPECT_FALSE(Renamed(NewCopy()).Start());
+    EXPECT_EQ(desktop.GetForegroundWindow(), tip.Handle());
+    EXPECT_EQ(clock.GetTickCount64(), before);
+    first.user.PressKey(tip.Handle(), win32::kVkEscape);
+  });
+  EXPECT_TRUE(first.Start());
+}
+
+TEST_F(SecondStartTest, AStartThroughTheRootOfAShareBringsTheRunningCopyForward) {
+  KorvaleCopy& first = StartedCopy();
+  desktop.ShowWindow(first.Handle(), win32::kSwMinimize);
+  WorkIn(Open("Alpha"));
+  KorvaleCopy& second = NewCopy();
+  second.system.shares = {{"\\\\server\\tool", "C:\\Programs\\Work"}};
+  second.system.executablePath = "\\\\server\\tool\\Korvale.exe";
+  int waits = 0;
+  session->WhenWaiting([&] { ++waits; });
+  second.host.WhenMessageBox([](const ShownMessage& box) {
+    EXPECT_EQ(box.text, "'Korvale - tool' is already open.");
+    return win32::kIdOk;
+  });
+  EXPECT_FALSE(second.Start());
+  EXPECT_EQ(waits, 0);
+  EXPECT_FALSE(desktop.IsIconic(first.Handle()));
+  EXPECT_EQ(desktop.GetForegroundWindow(), first.Handle());
+}
+
 }  // namespace
 }  // namespace korvale
