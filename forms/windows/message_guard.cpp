@@ -82,6 +82,14 @@ Recipient OfClass(HWND window) {
 /// A control counts as the window that it stands in.
 Recipient RecipientOf(HWND window) { return OfClass(GetAncestor(window, GA_ROOT)); }
 
+/// Messages to text boxes, lists and static controls are sent; many hold addresses or sizes.
+bool IsForAControl(UINT message) {
+  return (message >= EM_GETSEL && message <= EM_GETIMESTATUS) ||
+         (message >= CB_GETEDITSEL && message <= CB_GETCOMBOBOXINFO) ||
+         (message >= STM_SETICON && message <= STM_GETIMAGE) ||
+         (message >= LB_ADDSTRING && message <= LB_GETLISTBOXINFO);
+}
+
 bool CanOnlyBeForged(const MSG& message) {
   const Recipient recipient = RecipientOf(message.hwnd);
   if (recipient == Recipient::kOther) return false;
@@ -89,7 +97,7 @@ bool CanOnlyBeForged(const MSG& message) {
   if (message.message == WM_TIMER) return recipient == Recipient::kForm && message.lParam != 0;
   // Windows may tell its own dialogs something in this way, but leaves no place to be followed.
   const bool counts = recipient != Recipient::kDialogOfWindows || message.lParam != 0;
-  return (counts && IsPrivateMessage(message.message)) ||
+  return (counts && (IsPrivateMessage(message.message) || IsForAControl(message.message))) ||
          std::ranges::find(kNeverQueued, message.message) != std::end(kNeverQueued);
 }
 
