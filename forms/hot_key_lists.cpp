@@ -94,9 +94,7 @@ void KeyListKeys::Down(const Control& list, int& key, unsigned shift, bool repea
 }
 
 void KeyListKeys::Up(Control& list, int& key, unsigned shift) {
-  // Windows tells of this key only that it has come up.
-  const bool pressedHere = pressed_ == Press{list.Id(), key} || key == win32::kVkSnapshot;
-  if (!pressedHere) return;
+  if (pressed_ != Press{list.Id(), key}) return;
   Forget();
   const std::int16_t index = EntryOf(list, key);
   if (shift != kNoShift || index < 0) return;

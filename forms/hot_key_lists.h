@@ -27,7 +27,9 @@ void FillHotKeyLists(Form& form);
 
 /// Chooses in the key lists by the keys themselves: a key that is pressed and released in a list
 /// selects its entry, the space bar the blank one. Does nothing for a key that is not in the list,
-/// while Shift, Ctrl or Alt is held, or with the arrow keys of an open list.
+/// while Shift, Ctrl or Alt is held, or with the arrow keys of an open list. Nor with PrintScrn, of
+/// which Windows tells only the release: it takes a picture of the screen and is chosen with the
+/// mouse or the arrow keys.
 class KeyListKeys {
  public:
   /// A key went down in a key list; `repeated` as it is held. Sets `key` to 0 when the list must

@@ -87,7 +87,6 @@ inline constexpr int kVkLeft = 0x25;
 inline constexpr int kVkUp = 0x26;
 inline constexpr int kVkRight = 0x27;
 inline constexpr int kVkDown = 0x28;
-inline constexpr int kVkSnapshot = 0x2C;
 inline constexpr int kVkF1 = 0x70;
 inline constexpr int kVkF4 = 0x73;
 

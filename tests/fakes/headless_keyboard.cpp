@@ -108,7 +108,7 @@ bool HeadlessUser::GoDown(WindowHandle hwnd, const Key& key, bool repeated) {
     return true;
   }
   // Windows tells of this key only that it has come up.
-  if (key.virtualKey == win32::kVkSnapshot) return false;
+  if (key.virtualKey == fakes::kVkSnapshot) return false;
   const int control = window.focus;
   bool dealtWith = false;
   host_->Tell(hwnd, [&](FormEvents& events) {

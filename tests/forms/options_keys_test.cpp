@@ -5,6 +5,7 @@
 
 #include "forms/access_key.h"
 #include "platform/win32_constants.h"
+#include "tests/fakes/keys.h"
 #include "tests/forms/options_test.h"
 
 namespace korvale {
@@ -265,8 +266,15 @@ TEST_F(KeyListTest, F4OpensAModifierList) {
   EXPECT_TRUE(user_.IsListOpen(dialog_.Handle(), Id(dialog_, "cboHotKeyModAction", 0)));
 }
 
-TEST_F(KeyListTest, PrintScrnOfWhichWindowsTellsOnlyTheReleaseIsChosen) {
-  Press(dialog_, win32::kVkSnapshot);
+TEST_F(KeyListTest, APictureOfTheScreenChoosesNothing) {
+  for (const unsigned shift : {kNoShift, kAlt}) {
+    Press(dialog_, fakes::kVkSnapshot, shift);
+    EXPECT_EQ(Chosen(), "DownArrow");
+  }
+}
+
+TEST_F(KeyListTest, PrintScrnIsChosenFromTheList) {
+  user_.Pick(dialog_.Handle(), Id(dialog_, "cboHotKeyAction", 0), 13);
   EXPECT_EQ(Chosen(), "PrintScrn");
 }
 
