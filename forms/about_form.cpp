@@ -88,15 +88,21 @@ void frmMsgBox2::Prepare(std::string_view mode) {
   Find("lblFileDescription").SetText(identity_->fileDescription);
   Find("lblCopyright").SetText(identity_->legalNotice);
   Find("lblWebSite").SetText(webSite_);
-  Find("lblWebSite")
-      .SetForeColor(
-          MarkedTextColor(Collection().Host(), kLinkColor, {kButtonFaceColor, kButtonTextColor}));
   Find("lblWebSite").SetVisible(!webSite_.empty());
+  PaintLink();
   Find("cmdOK").SetVisible(!splash);
   Control& tmrUnload = Find("tmrUnload");
   tmrUnload.SetInterval(splash ? kSplashMilliseconds : kDialogMilliseconds);
   tmrUnload.SetEnabled(true);
 }
+
+void frmMsgBox2::PaintLink() {
+  Find("lblWebSite")
+      .SetForeColor(
+          LinkTextColor(Collection().Host(), kLinkColor, {kButtonFaceColor, kButtonTextColor}));
+}
+
+void frmMsgBox2::Form_SysColorChange() { PaintLink(); }
 
 void frmMsgBox2::Form_KeyDown(int& key, unsigned shift) {
   const bool escape = key == win32::kVkEscape && Find("tmrUnload").Enabled();

@@ -35,10 +35,12 @@ class frmMsgBox2 : public Form {
 
  protected:
   void Form_KeyDown(int& key, unsigned shift) override;
+  void Form_SysColorChange() override;
   void Form_Unload() override;
 
  private:
   void Prepare(std::string_view mode);
+  void PaintLink();
 
   Clock* clock_;
   const ProgramIdentity* identity_;

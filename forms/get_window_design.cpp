@@ -34,9 +34,7 @@ constexpr ControlRow Row(ControlKind kind, const char* name, int index, const ch
   ControlRow row{kind, name, index, caption, toolTip, place};
   row.flags = flags;
   row.backColor = backColor;
-  if (kind == kTextBox || kind == kDropDownList || kind == kComboBox) {
-    row.foreColor = kWindowTextColor;
-  }
+  row.foreColor = backColor == kWindowColor ? kWindowTextColor : kButtonTextColor;
   row.tabIndex = tabIndex;
   return row;
 }

@@ -18,6 +18,7 @@ class Rows {
   void Page(int index) {
     ControlRow page{kPage, "picOptions", index, "", "", {210, 495, 13575, 5775}};
     page.backColor = kWindowColor;
+    page.foreColor = kWindowTextColor;
     rows_.push_back(page);
     container_ = "picOptions";
     containerIndex_ = page_ = index;

@@ -8,6 +8,13 @@ namespace {
 
 /// Pure red on the grey of older Windows has 2.6; what has less is hard to find at all.
 constexpr double kLeastContrastOfMarks = 2.5;
+constexpr double kLeastContrastOfText = 4.5;
+
+Color ColoredText(FormHost& host, Color color, const TextColors& system, double leastContrast) {
+  const bool readable =
+      !host.HighContrast() && ContrastRatio(color, host.GetSysColor(system.back)) >= leastContrast;
+  return readable ? color : system.text;
+}
 
 }  // namespace
 
@@ -17,9 +24,11 @@ TextColors OnChosenColor(FormHost& host, Color chosen, const TextColors& system)
 }
 
 Color MarkedTextColor(FormHost& host, Color mark, const TextColors& system) {
-  const bool readable = !host.HighContrast() &&
-                        ContrastRatio(mark, host.GetSysColor(system.back)) >= kLeastContrastOfMarks;
-  return readable ? mark : system.text;
+  return ColoredText(host, mark, system, kLeastContrastOfMarks);
+}
+
+Color LinkTextColor(FormHost& host, Color link, const TextColors& system) {
+  return ColoredText(host, link, system, kLeastContrastOfText);
 }
 
 }  // namespace korvale

@@ -19,4 +19,8 @@ TextColors OnChosenColor(FormHost& host, Color chosen, const TextColors& system)
 /// could hardly be read or the user wants high contrast.
 Color MarkedTextColor(FormHost& host, Color mark, const TextColors& system);
 
+/// `link` as the colour of a link above `system.back`, or the system's text colour where it could
+/// not be read well or the user wants high contrast.
+Color LinkTextColor(FormHost& host, Color link, const TextColors& system);
+
 }  // namespace korvale

@@ -37,6 +37,19 @@ TEST_F(AboutTest, ShowsNameVersionAndLegalNotice) {
   EXPECT_EQ(Text(about_, "lblFileDescription"), "Moves you between windows");
 }
 
+TEST_F(AboutTest, TheLinkCanBeReadWhenTheSchemeChangesWhileItIsOpen) {
+  constexpr Color kBlueOfLinks = 0x00CC6600;
+  about_.SetWebSite("https://example.org/", [] {});
+  ShowAbout();
+  EXPECT_EQ(Look(about_, "lblWebSite").foreColor, kBlueOfLinks);
+  host_.ChangeSysColor(kButtonFaceColor, kBlueOfLinks);
+  EXPECT_EQ(Look(about_, "lblWebSite").foreColor, kButtonTextColor);
+  host_.ChangeSysColor(kButtonFaceColor, 0x00F0F0F0);
+  EXPECT_EQ(Look(about_, "lblWebSite").foreColor, kBlueOfLinks);
+  host_.ChangeHighContrast(true);
+  EXPECT_EQ(Look(about_, "lblWebSite").foreColor, kButtonTextColor);
+}
+
 TEST_F(AboutTest, StandsOverTheMainWindowWithoutBlockingIt) {
   ShowAbout();
   EXPECT_EQ(user_.Place(about_.Handle()).left, 6000 + (6000 - 5580) / 2);

@@ -1,4 +1,5 @@
 #include "tests/program/main_window_test.h"
+#include "util/contrast.h"
 
 namespace korvale {
 namespace {
@@ -14,6 +15,31 @@ class ReadableColorsTest : public MainWindowTest {
   }
   static Color BackColorOf(KorvaleCopy& copy, class Form& form, const char* name, int index = -1) {
     return copy.user.Look(form.Handle(), copy.Id(form, name, index)).backColor;
+  }
+
+  struct Scheme {
+    Color window;
+    Color windowText;
+    Color face;
+    Color faceText;
+  };
+
+  /// Documents and dialogs of a scheme need not look alike.
+  static void ExpectReadableInEveryScheme(KorvaleCopy& copy, class Form& form) {
+    for (const Scheme& scheme :
+         {Scheme{kWhite, kBlack, 0xF0F0F0, kBlack}, Scheme{0x202020, kWhite, 0xF0F0F0, kBlack},
+          Scheme{kWhite, kBlack, 0x202020, kWhite}, Scheme{kBlack, kWhite, kBlack, kWhite}}) {
+      copy.host.ChangeSysColor(kWindowColor, scheme.window);
+      copy.host.ChangeSysColor(kWindowTextColor, scheme.windowText);
+      copy.host.ChangeSysColor(kButtonFaceColor, scheme.face);
+      copy.host.ChangeSysColor(kButtonTextColor, scheme.faceText);
+      for (const Control& control : form.Controls()) {
+        const ControlState look = copy.user.Look(form.Handle(), control.Id());
+        const double contrast = ContrastRatio(copy.host.GetSysColor(look.foreColor),
+                                              copy.host.GetSysColor(look.backColor));
+        EXPECT_GE(contrast, 4.5) << look.name << " on " << scheme.window << " and " << scheme.face;
+      }
+    }
   }
 };
 
@@ -78,6 +104,20 @@ TEST_F(ReadableColorsTest, TheBlueOfAFreeTagGivesWayOnADarkDialog) {
     dialog.Unload();
   });
   Choose(korvale, {"Window", "Add  Korvale  to Window menu..."});
+}
+
+TEST_F(ReadableColorsTest, EveryTextCanBeReadWhenTheSchemeChangesBelowOpenWindows) {
+  KorvaleCopy& korvale = StartedCopy();
+  korvale.host.WhenModal("frmGetWindow", [&](class Form& dialog) {
+    ExpectReadableInEveryScheme(korvale, dialog);
+    dialog.Unload();
+  });
+  Choose(korvale, {"Window", "Add  Korvale  to Window menu..."});
+  korvale.Form().udmOptions("LOAD_AND_OR_REFRESH");
+  ExpectReadableInEveryScheme(korvale, korvale.Loaded("frmOptions"));
+  korvale.Loaded("frmOptions").Unload();
+  Choose(korvale, {"Help", "About Korvale"});
+  ExpectReadableInEveryScheme(korvale, korvale.Loaded("frmMsgBox2"));
 }
 
 }  // namespace
