@@ -172,9 +172,9 @@ void frmOptions::PaintLabel(std::string_view label, int index, bool enabled) {
 }
 
 void frmOptions::RefreshConflictLine() {
-  const std::vector<RegisteredHotKey>& registered = owner_->HotKeys().Registered();
-  const std::string refused = NotAvailableText(registered);
-  const std::string doubles = ChosenTwiceText(registered);
+  const std::vector<RegisteredHotKey>& wanted = owner_->HotKeys().LastSet();
+  const std::string refused = NotAvailableText(wanted);
+  const std::string doubles = ChosenTwiceText(wanted);
   std::string text;
   if (!refused.empty()) text = "Not available, in use by Windows or another program:  " + refused;
   if (!refused.empty() && !doubles.empty()) text += '\r';

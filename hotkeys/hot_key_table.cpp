@@ -56,6 +56,7 @@ void HotKeyTable::Set() {
   for (const Action& action : actions) {
     if (action.key != 0) AddHotKey(action.name, action.modifiers, action.key);
   }
+  lastSet_ = registered_;
 }
 
 void HotKeyTable::AddHotKey(std::string_view name, std::int16_t modifiers, std::int16_t key) {

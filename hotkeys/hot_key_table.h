@@ -55,6 +55,9 @@ class HotKeyTable {
 
   /// What the last registration asked for and what came of it.
   const std::vector<RegisteredHotKey>& Registered() const { return registered_; }
+  /// The same of the last time that all enabled hot keys were registered ("SET"): it stands while
+  /// they are switched off.
+  const std::vector<RegisteredHotKey>& LastSet() const { return lastSet_; }
 
  private:
   void Set();
@@ -65,6 +68,7 @@ class HotKeyTable {
   const MainWindow* mainWindow_;
   std::vector<std::string> hotKeyNames_;
   std::vector<RegisteredHotKey> registered_;
+  std::vector<RegisteredHotKey> lastSet_;
   std::int16_t hotKeyCount_ = 0;
   bool hotKeysActive_ = true;
 };

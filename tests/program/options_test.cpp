@@ -88,19 +88,30 @@ TEST_F(OptionsExchangeInProgram, PauseTogglesWithoutAModifier) {
 
 TEST_F(OptionsExchangeInProgram, TheToggleTellsAnewWhichHotKeysAreNotAvailable) {
   KorvaleCopy& korvale = StartedCopy();
-  korvale.Form().udmOptions("LOAD_AND_OR_REFRESH");
-  class Form& dialog = korvale.Loaded("frmOptions");
-  EXPECT_FALSE(dialog.Find("lblConflicts").Visible());
+  const auto open = [&] { korvale.Form().udmOptions("LOAD_AND_OR_REFRESH"); };
+  const auto line = [&]() -> std::string {
+    const Control& conflicts = korvale.Loaded("frmOptions").Find("lblConflicts");
+    return conflicts.Visible() ? conflicts.Text() : "(none)";
+  };
+  const std::string refused = "Not available, in use by Windows or another program:  Alt+3";
+  open();
+  EXPECT_EQ(line(), "(none)");
 
   PressHotKey(0, 19);
   hotKeys.RegisterForeign(1, 0x33);
+  EXPECT_EQ(line(), "(none)");
   PressHotKey(0, 19);
-  EXPECT_TRUE(dialog.Find("lblConflicts").Visible());
-  EXPECT_EQ(dialog.Find("lblConflicts").Text(),
-            "Not available, in use by Windows or another program:  Alt+3");
+  EXPECT_EQ(line(), refused);
 
   PressHotKey(0, 19);
-  EXPECT_FALSE(dialog.Find("lblConflicts").Visible());
+  EXPECT_EQ(line(), refused) << "switched off it is no more available than before";
+  korvale.Loaded("frmOptions").Unload();
+  open();
+  EXPECT_EQ(line(), refused);
+
+  hotKeys.ReleaseForeign(1, 0x33);
+  PressHotKey(0, 19);
+  EXPECT_EQ(line(), "(none)");
 }
 
 TEST_F(OptionsExchangeInProgram, TheHotKeyBringsTheDialogBackThatWentWithTheMinimizedStrip) {
