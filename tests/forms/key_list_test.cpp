@@ -1,0 +1,137 @@
+#include <string>
+
+#include "platform/win32_constants.h"
+#include "tests/forms/options_test.h"
+
+namespace korvale {
+namespace {
+
+/// Keys in a key list of the dialog: the one of Minimize, which shows "DownArrow" at first.
+class KeyListTest : public OptionsTest {
+ protected:
+  KeyListTest() {
+    OpenDialog(2);
+    FocusOn("cboHotKeyAction", 0);
+  }
+  void FocusOn(const char* list, int index) { dialog_.Find(list, index).SetFocus(); }
+  void Hold(int key, int repeats = 0) { user_.HoldKey(dialog_.Handle(), key, repeats); }
+  void Release(int key) { user_.ReleaseKey(dialog_.Handle(), key); }
+  bool IsOpen() { return user_.IsListOpen(dialog_.Handle(), Id(dialog_, "cboHotKeyAction", 0)); }
+  std::string Chosen(const char* list = "cboHotKeyAction", int index = 0) {
+    return Text(dialog_, list, index);
+  }
+};
+
+TEST_F(KeyListTest, AReleaseWithoutItsPressChoosesNothing) {
+  Release('O');
+  EXPECT_EQ(Chosen(), "DownArrow");
+}
+
+TEST_F(KeyListTest, AKeyThatIsHeldWhileTheDialogComesForwardChoosesNothing) {
+  Hold('M');
+  dialog_.OnActivated();
+  Hold('M', 0);
+  Release('M');
+  EXPECT_EQ(Chosen(), "M") << "pressed anew";
+  Hold('N');
+  dialog_.OnActivated();
+  // It goes on to repeat.
+  const int list = Id(dialog_, "cboHotKeyAction", 0);
+  EXPECT_TRUE(dialog_.OnKeyDown(list, 'N', kNoShift, true));
+  Release('N');
+  EXPECT_EQ(Chosen(), "M");
+}
+
+TEST_F(KeyListTest, AKeyThatWasPressedElsewhereChoosesNothing) {
+  Hold('O');
+  FocusOn("cboHotKeyGeneral", 1);
+  Release('O');
+  EXPECT_EQ(Chosen(), "DownArrow");
+  EXPECT_EQ(Chosen("cboHotKeyGeneral", 1), "W");
+  FocusOn("cboHotKeyModAction", 0);
+  Hold(0x76);
+  FocusOn("cboHotKeyAction", 0);
+  Release(0x76);
+  EXPECT_EQ(Chosen(), "DownArrow");
+}
+
+TEST_F(KeyListTest, AHeldKeyIsOnePress) {
+  Hold('Q', 5);
+  EXPECT_EQ(Chosen(), "DownArrow") << "it counts when it is released";
+  Release('Q');
+  EXPECT_EQ(Chosen(), "Q");
+  Release('Q');
+  EXPECT_EQ(Chosen(), "Q");
+}
+
+TEST_F(KeyListTest, OfTwoKeysTheLaterCounts) {
+  Hold('A');
+  Hold('B');
+  Release('A');
+  EXPECT_EQ(Chosen(), "DownArrow");
+  Release('B');
+  EXPECT_EQ(Chosen(), "B");
+}
+
+TEST_F(KeyListTest, F4IsChosenAndLeavesTheListClosed) {
+  Press(dialog_, win32::kVkF4);
+  EXPECT_EQ(Chosen(), "F4");
+  EXPECT_FALSE(IsOpen());
+  user_.OpenList(dialog_.Handle(), Id(dialog_, "cboHotKeyAction", 0));
+  Press(dialog_, win32::kVkUp);
+  Press(dialog_, win32::kVkF4);
+  EXPECT_EQ(Chosen(), "F4");
+  EXPECT_FALSE(IsOpen());
+}
+
+TEST_F(KeyListTest, F4OpensAModifierList) {
+  FocusOn("cboHotKeyModAction", 0);
+  Press(dialog_, win32::kVkF4);
+  EXPECT_TRUE(user_.IsListOpen(dialog_.Handle(), Id(dialog_, "cboHotKeyModAction", 0)));
+}
+
+TEST_F(KeyListTest, APictureOfTheScreenChoosesNothing) {
+  for (const unsigned shift : {kNoShift, kAlt}) {
+    Press(dialog_, fakes::kVkSnapshot, shift);
+    EXPECT_EQ(Chosen(), "DownArrow");
+  }
+}
+
+TEST_F(KeyListTest, PrintScrnIsChosenFromTheList) {
+  user_.Pick(dialog_.Handle(), Id(dialog_, "cboHotKeyAction", 0), 13);
+  EXPECT_EQ(Chosen(), "PrintScrn");
+}
+
+TEST_F(KeyListTest, AKeyWithTheWindowsKeyIsForWindows) {
+  Press(dialog_, 'K', kWindows);
+  Press(dialog_, win32::kVkSnapshot, kWindows);
+  EXPECT_EQ(Chosen(), "DownArrow");
+}
+
+TEST_F(KeyListTest, ArrowsAreEntriesOfAClosedListAndMoveInAnOpenOne) {
+  Press(dialog_, win32::kVkUp);
+  EXPECT_EQ(Chosen(), "UpArrow");
+  Press(dialog_, win32::kVkDown);
+  EXPECT_EQ(Chosen(), "DownArrow");
+  Press(dialog_, 'X');
+  Press(dialog_, win32::kVkDown, kAlt);
+  ASSERT_TRUE(IsOpen());
+  EXPECT_EQ(Chosen(), "X");
+  Press(dialog_, win32::kVkDown);
+  EXPECT_EQ(Chosen(), "Y");
+  EXPECT_TRUE(IsOpen());
+  Press(dialog_, win32::kVkReturn);
+  EXPECT_EQ(Chosen(), "Y");
+  EXPECT_FALSE(IsOpen());
+  EXPECT_TRUE(dialog_.IsLoaded());
+}
+
+TEST_F(KeyListTest, AltAndDownOpensItWhicheverIsReleasedFirst) {
+  Press(dialog_, 'X');
+  Press(dialog_, win32::kVkDown, kAlt);
+  Release(win32::kVkDown);
+  EXPECT_EQ(Chosen(), "X");
+}
+
+}  // namespace
+}  // namespace korvale
