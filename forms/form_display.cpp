@@ -40,10 +40,12 @@ bool CanBeCentredOn(const Form* owner) {
 }  // namespace
 
 FormDisplay::FormDisplay(FormCollection& forms, WindowQueries& windows, WindowCommands& commands,
-                         Suspension& suspension, const bool& alwaysOnTop)
+                         const PreviousWindow& previous, Suspension& suspension,
+                         const bool& alwaysOnTop)
     : forms_(&forms),
       windows_(&windows),
       commands_(&commands),
+      previous_(&previous),
       suspension_(&suspension),
       alwaysOnTop_(&alwaysOnTop) {}
 
@@ -55,7 +57,7 @@ std::string FormDisplay::ShowFormModal(Form& form, const DisplaySwitches& switch
     BringToFront(form, switches);
     return form.Tag();
   }
-  const WindowHandle before = windows_->GetForegroundWindow();
+  const WindowHandle before = previous_->InFront(windows_->GetForegroundWindow());
   {
     const RaisedFlag shown(suspension_->DialogShown);
     form.Load();

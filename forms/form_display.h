@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 
+#include "desktop/previous_window.h"
 #include "forms/form.h"
 #include "forms/form_collection.h"
 #include "hotkeys/suspension.h"
@@ -32,7 +33,7 @@ class FormDisplay {
  public:
   /// `alwaysOnTop` is the live state of the main window.
   FormDisplay(FormCollection& forms, WindowQueries& windows, WindowCommands& commands,
-              Suspension& suspension, const bool& alwaysOnTop);
+              const PreviousWindow& previous, Suspension& suspension, const bool& alwaysOnTop);
 
   /// Shows the form above its owner until it closes, and returns its result string (its tag then).
   /// Hot keys are suspended meanwhile. When no other window has taken the foreground by then, the
@@ -63,6 +64,7 @@ class FormDisplay {
   FormCollection* forms_;
   WindowQueries* windows_;
   WindowCommands* commands_;
+  const PreviousWindow* previous_;
   Suspension* suspension_;
   const bool* alwaysOnTop_;
 };

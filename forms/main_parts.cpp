@@ -28,8 +28,8 @@ MainParts::MainParts(Platform& platform, FormCollection& forms, MainWindow& main
       filter(platform.windows, options, forms, mainWindow),
       requests(platform.windows, platform.commands, mainWindow, platform.clock),
       enumeration(platform.windows, requests, filter, mainWindow, tagPasses),
-      messages(platform.host, platform.windows, platform.commands, mainWindow, forms, suspension,
-               [&forms] { return DialogOnTop(forms); }),
+      messages(platform.host, platform.windows, platform.commands, mainWindow, forms, previous,
+               suspension, [&forms] { return DialogOnTop(forms); }),
       errorLog(identity, platform.clock,
                [this] {
                  return ErrorLogState{state.firstActivation, startup.Menu, state.lastAnswer};
@@ -38,7 +38,8 @@ MainParts::MainParts(Platform& platform, FormCollection& forms, MainWindow& main
       actions(platform.windows, requests, filter, enumeration, mainWindow, previous, messages,
               identity.messageTitle),
       tracker(platform.windows, filter, actions, mainWindow, previous, tags),
-      display(forms, platform.windows, platform.commands, suspension, startup.AlwaysOnTop),
+      display(forms, platform.windows, platform.commands, previous, suspension,
+              startup.AlwaysOnTop),
       hotKeys(platform.hotKeys, options, mainWindow),
       toggle(hotKeys, options, hotKeyActions, identity.productName, identity.messageTitle),
       dispatch({platform.windows, platform.commands, mainWindow, forms, tagPasses, filter, actions,

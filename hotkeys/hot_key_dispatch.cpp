@@ -145,7 +145,7 @@ void HotKeyDispatch::ShowOptions() {
 
 void HotKeyDispatch::PopUpWindowMenu() {
   const WindowHandle main = parts_.mainWindow.MainHandle();
-  const WindowHandle before = parts_.windows.GetForegroundWindow();
+  const WindowHandle before = parts_.previous.InFront(parts_.windows.GetForegroundWindow());
   WindowHandle selected = 0;
   parts_.commands.SetForegroundWindow(main);
   parts_.actions.SetWindowMenuTag(kHotKeyWindowMenuPopup);

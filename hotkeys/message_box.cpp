@@ -28,13 +28,16 @@ class DepthCount {
 
 SuspendingMessageBoxes::SuspendingMessageBoxes(FormHost& host, WindowQueries& windows,
                                                WindowCommands& commands, MainWindow& mainWindow,
-                                               const LoadedForms& forms, Suspension& suspension,
+                                               const LoadedForms& forms,
+                                               const PreviousWindow& previous,
+                                               Suspension& suspension,
                                                std::function<WindowHandle()> dialogOnTop)
     : host_(&host),
       windows_(&windows),
       commands_(&commands),
       mainWindow_(&mainWindow),
       forms_(&forms),
+      previous_(&previous),
       suspension_(&suspension),
       dialogOnTop_(std::move(dialogOnTop)) {}
 
@@ -63,7 +66,7 @@ std::int16_t SuspendingMessageBoxes::ShowOutermost(const std::string& prompt, st
 
 SuspendingMessageBoxes::Remembered SuspendingMessageBoxes::Remember() {
   const TimerControl& timer = mainWindow_->tmrWindow();
-  return {timer.Enabled(), timer.Tag(), windows_->GetForegroundWindow()};
+  return {timer.Enabled(), timer.Tag(), previous_->InFront(windows_->GetForegroundWindow())};
 }
 
 void SuspendingMessageBoxes::Suspend() {

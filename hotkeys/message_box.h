@@ -6,6 +6,7 @@
 
 #include "app/core/message_boxes.h"
 #include "desktop/main_window.h"
+#include "desktop/previous_window.h"
 #include "hotkeys/suspension.h"
 #include "platform/form_host.h"
 #include "platform/window_api.h"
@@ -19,7 +20,8 @@ class SuspendingMessageBoxes : public MessageBoxes {
   /// `dialogOnTop` gives the window of the dialog that is shown on top of the main window, 0 when
   /// there is none.
   SuspendingMessageBoxes(FormHost& host, WindowQueries& windows, WindowCommands& commands,
-                         MainWindow& mainWindow, const LoadedForms& forms, Suspension& suspension,
+                         MainWindow& mainWindow, const LoadedForms& forms,
+                         const PreviousWindow& previous, Suspension& suspension,
                          std::function<WindowHandle()> dialogOnTop);
 
   /// Besides what every message box does: when the outermost box closes, Windows brings another
@@ -52,6 +54,7 @@ class SuspendingMessageBoxes : public MessageBoxes {
   WindowCommands* commands_;
   MainWindow* mainWindow_;
   const LoadedForms* forms_;
+  const PreviousWindow* previous_;
   Suspension* suspension_;
   std::function<WindowHandle()> dialogOnTop_;
 };

@@ -56,7 +56,8 @@ class DialogTest : public testing::Test {
   FormCollection forms_{host_, clock_};
   Suspension suspension_;
   bool alwaysOnTop_ = false;
-  FormDisplay display_{forms_, desktop_, desktop_, suspension_, alwaysOnTop_};
+  PreviousWindow previous_;
+  FormDisplay display_{forms_, desktop_, desktop_, previous_, suspension_, alwaysOnTop_};
 };
 
 }  // namespace korvale

@@ -114,7 +114,7 @@ class TwoMonitorsTest : public FormDisplayTest {
   FormCollection forms{host, clock_};
   Dialog dialog{kDialogDesign, forms};
   Dialog owner{kOwnerDesign, forms};
-  FormDisplay display{forms, desktop, desktop, suspension_, alwaysOnTop_};
+  FormDisplay display{forms, desktop, desktop, previous_, suspension_, alwaysOnTop_};
 };
 
 TEST_F(TwoMonitorsTest, AFormComesUpWhereTheUserWorksWithTheSizeThatItHasThere) {

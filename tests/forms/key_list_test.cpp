@@ -1,6 +1,7 @@
 #include <string>
 
 #include "platform/win32_constants.h"
+#include "tests/fakes/keys.h"
 #include "tests/forms/options_test.h"
 
 namespace korvale {
@@ -104,7 +105,7 @@ TEST_F(KeyListTest, PrintScrnIsChosenFromTheList) {
 
 TEST_F(KeyListTest, AKeyWithTheWindowsKeyIsForWindows) {
   Press(dialog_, 'K', kWindows);
-  Press(dialog_, win32::kVkSnapshot, kWindows);
+  Press(dialog_, fakes::kVkSnapshot, kWindows);
   EXPECT_EQ(Chosen(), "DownArrow");
 }
 

@@ -45,13 +45,14 @@ class MessageBoxTest : public testing::Test {
   FakeDesktop desktop{log};
   FakeMainWindow mainWindow;
   FakeLoadedForms forms;
+  PreviousWindow previous;
   Suspension suspension;
   MessageBoxHost host{log};
   WindowHandle modal = 0;
   WindowHandle other = 0;
   WindowHandle main = 0;
-  SuspendingMessageBoxes messages{
-      host, desktop, desktop, mainWindow, forms, suspension, [this] { return modal; }};
+  SuspendingMessageBoxes messages{host,  desktop,  desktop,    mainWindow,
+                                  forms, previous, suspension, [this] { return modal; }};
 };
 
 }  // namespace korvale

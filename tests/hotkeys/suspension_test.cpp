@@ -103,8 +103,8 @@ TEST_F(SuspendedHotKeyTest, ReportsAFailedNoticeAndLeavesTheTimersAlone) {
 class HotKeyDuringMessageBoxTest : public HotKeyDispatchTest {
  protected:
   MessageBoxHost host{log};
-  SuspendingMessageBoxes boxes{host,  desktop,    desktop,         mainWindow,
-                               forms, suspension, [] { return 0; }};
+  SuspendingMessageBoxes boxes{host,  desktop,  desktop,    mainWindow,
+                               forms, previous, suspension, [] { return 0; }};
   HotKeyDispatch live{{desktop, desktop, mainWindow, forms, tagPasses, filter, windowActions,
                        tracker, previous, suspension, boxes, actions, toggle, errors},
                       "Product",
