@@ -113,7 +113,7 @@ LRESULT CALLBACK SeeQueued(int code, WPARAM wParam, LPARAM lParam) {
 
 LRESULT CALLBACK GuardedProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam,
                                   UINT_PTR id, DWORD_PTR /*data*/) {
-  if (IsForgedForClass(hwnd, message, wParam, lParam != 0)) return 0;
+  if (NamesAnAddress(message) || IsForgedForClass(hwnd, message, wParam, lParam != 0)) return 0;
   if (message == WM_NCDESTROY) RemoveWindowSubclass(hwnd, GuardedProcedure, id);
   return DefSubclassProc(hwnd, message, wParam, lParam);
 }

@@ -250,6 +250,8 @@ TEST_F(RudePrograms, LeaveTheColorDialogToTheUser) {
   Post();
   Send();
   EXPECT_EQ(dialog.Shown(), color);
+  Click(dialog.window().Controls("Edit").front());
+  Press({MOD_CONTROL, VK_LEFT});
   EXPECT_TRUE(dialog.Cancel());
   ASSERT_TRUE(Choose('V', {'C'}));
   ASSERT_TRUE(WorkIn(alpha_));
