@@ -60,7 +60,7 @@ bool WindowsHotKeyApi::UnregisterHotKey(WindowHandle hwnd, int id) {
 }
 
 std::optional<QueuedMessage> WindowsHotKeyApi::PeekMessageW(WindowHandle hwnd,
-                                                             std::uint32_t message) {
+                                                            std::uint32_t message) {
   // Taking a message lets messages that other threads send come in, which nothing here awaits.
   const bool awaited = message != WM_HOTKEY || (HIWORD(GetQueueStatus(QS_HOTKEY)) & QS_HOTKEY) != 0;
   if (!awaited) return std::nullopt;

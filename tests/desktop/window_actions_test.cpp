@@ -176,15 +176,15 @@ TEST_F(ForegroundKeys, TimersRunAgainAfterAnError) {
 TEST_F(ForegroundKeys, MinimizeKeyReadsInItsOrder) {
   Calls calls = CallsOf([&] { actions.MinimizeOrMaximizeForeground(kMinimize); });
   calls.resize(17);
-  EXPECT_EQ(calls,
-            (Calls{"udmTimersEnabled(false)", "GetForegroundWindow()", "IsWindowEnabled(Alpha)",
-                   "IsIconic(Alpha)", "GetWindowLongA(Alpha, GWL_STYLE)",
-                   "GetWindow(Alpha, GW_OWNER)", "GetWindowThreadProcessId(Main)",
-                   "GetWindowThreadProcessId(Alpha)", "IsWindowVisible(Alpha)",
-                   "ShowWindowAsync(Alpha, SW_MINIMIZE)", "IsIconic(Alpha)",
-                   "GetWindowThreadProcessId(Main)", "GetWindowThreadProcessId(Alpha)",
-                   "IsHungAppWindow(Alpha)", "SendMessageTimeoutW(Alpha, 0x0)",
-                   "IsWindowVisible(Beta)", "IsIconic(Beta)"}));
+  EXPECT_EQ(
+      calls,
+      (Calls{"udmTimersEnabled(false)", "GetForegroundWindow()", "IsWindowEnabled(Alpha)",
+             "IsIconic(Alpha)", "GetWindowLongA(Alpha, GWL_STYLE)", "GetWindow(Alpha, GW_OWNER)",
+             "GetWindowThreadProcessId(Main)", "GetWindowThreadProcessId(Alpha)",
+             "IsWindowVisible(Alpha)", "ShowWindowAsync(Alpha, SW_MINIMIZE)", "IsIconic(Alpha)",
+             "GetWindowThreadProcessId(Main)", "GetWindowThreadProcessId(Alpha)",
+             "IsHungAppWindow(Alpha)", "SendMessageTimeoutW(Alpha, 0x0)", "IsWindowVisible(Beta)",
+             "IsIconic(Beta)"}));
 }
 
 TEST_F(ForegroundKeys, MaximizeKeyReadsInItsOrder) {
