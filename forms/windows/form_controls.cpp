@@ -59,6 +59,7 @@ void FormControls::MakeFont() {
 
 void FormControls::ChangeDpi() {
   MakeFont();
+  toolTips_.ChangeDpi();
   for (const ControlState& control : form_->controls) {
     if (Window(control.id) != nullptr) Apply(control, ControlProperty::kPlace);
   }

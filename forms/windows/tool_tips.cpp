@@ -40,8 +40,12 @@ void ToolTips::Create(HWND form, HINSTANCE instance) {
                                 CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, form, nullptr,
                                 instance, nullptr));
   SetWindowSubclass(window_.Get(), Guard, 0, reinterpret_cast<DWORD_PTR>(this));
-  Send(TTM_SETMAXTIPWIDTH, 0, ToPixels(kWidestTip, GetDpiForWindow(form)));
+  ChangeDpi();
   Send(TTM_SETDELAYTIME, TTDT_AUTOPOP, kMillisecondsToRead);
+}
+
+void ToolTips::ChangeDpi() {
+  Send(TTM_SETMAXTIPWIDTH, 0, ToPixels(kWidestTip, GetDpiForWindow(form_)));
 }
 
 void ToolTips::Drop() {

@@ -16,6 +16,8 @@ class ToolTips {
   ToolTips& operator=(const ToolTips&) = delete;
 
   void Create(HWND form, HINSTANCE instance);
+  /// The form's monitor has another number of dots per inch.
+  void ChangeDpi();
   /// The form's window goes.
   void Drop();
 

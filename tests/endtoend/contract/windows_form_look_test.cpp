@@ -67,5 +67,17 @@ TEST_F(WindowsFormLookTest, TheLinesOfALongToolTipBeginBelowEachOther) {
   EXPECT_TRUE(tip.ends_with(L"of a tool tip to tell")) << ToUtf8(tip);
 }
 
+TEST_F(WindowsFormLookTest, AMonitorOfOtherDotsRenewsTheWidthOfToolTips) {
+  ShowForm();
+  const HWND tips = FindTips();
+  const LRESULT width = SendMessageW(tips, TTM_GETMAXTIPWIDTH, 0, 0);
+  EXPECT_EQ(width, MulDiv(400, static_cast<int>(GetDpiForWindow(Hwnd())), 96));
+  SendMessageW(tips, TTM_SETMAXTIPWIDTH, 0, 1);
+  RECT same{};
+  GetWindowRect(Hwnd(), &same);
+  SendMessageW(Hwnd(), WM_DPICHANGED, MAKEWPARAM(96, 96), reinterpret_cast<LPARAM>(&same));
+  EXPECT_EQ(SendMessageW(tips, TTM_GETMAXTIPWIDTH, 0, 0), width);
+}
+
 }  // namespace
 }  // namespace korvale
