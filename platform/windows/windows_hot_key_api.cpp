@@ -62,8 +62,8 @@ bool WindowsHotKeyApi::UnregisterHotKey(WindowHandle hwnd, int id) {
 std::optional<QueuedMessage> WindowsHotKeyApi::PeekMessageW(WindowHandle hwnd,
                                                             std::uint32_t message) {
   // Taking a message lets messages that other threads send come in, which nothing here awaits.
-  const bool awaited = message != WM_HOTKEY || (HIWORD(GetQueueStatus(QS_HOTKEY)) & QS_HOTKEY) != 0;
-  if (!awaited) return std::nullopt;
+  constexpr UINT kAnyPosted = QS_POSTMESSAGE | QS_HOTKEY;
+  if ((HIWORD(GetQueueStatus(kAnyPosted)) & kAnyPosted) == 0) return std::nullopt;
   constexpr UINT kPosted = PM_REMOVE | PM_QS_POSTMESSAGE;
   MSG taken;
   if (::PeekMessageW(&taken, ToHwnd(hwnd), message, message, kPosted) == FALSE) return std::nullopt;

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <stdexcept>
 
 #include "tests/endtoend/korvale_test.h"
 
@@ -6,6 +7,25 @@ namespace korvale::endtoend {
 namespace {
 
 constexpr char kClass[] = "Test.Window";
+
+/// Keeps the thread of a window from its messages as long as it lives.
+class StoppedThread {
+ public:
+  explicit StoppedThread(Window window)
+      : thread_(OpenThread(THREAD_SUSPEND_RESUME, FALSE,
+                           GetWindowThreadProcessId(window.handle(), nullptr))) {
+    if (SuspendThread(thread_) == static_cast<DWORD>(-1)) throw std::runtime_error("no thread");
+  }
+  StoppedThread(const StoppedThread&) = delete;
+  StoppedThread& operator=(const StoppedThread&) = delete;
+  ~StoppedThread() {
+    ResumeThread(thread_);
+    CloseHandle(thread_);
+  }
+
+ private:
+  HANDLE thread_;
+};
 
 class HotKeys : public KorvaleTest {
  protected:
@@ -85,6 +105,25 @@ TEST_F(HotKeys, BringTheOpenOptionsDialogForward) {
   Press(kOptionsKey);
   EXPECT_TRUE(InFront(options));
   EXPECT_FALSE(korvale_->HasMessageBox());
+}
+
+TEST_F(HotKeys, PressedTwiceWhileTheProgramIsBusySwitchOnce) {
+  Start();
+  ASSERT_TRUE(WorkIn(Open("Alpha")));
+  {
+    const StoppedThread stopped(main());
+    Press(kToggleKey);
+    Press(kToggleKey);
+  }
+  EXPECT_EQ(korvale_->Form("frmWaitWindow").Title(), "Korvale - Hot Keys (OFF)");
+  EXPECT_TRUE(WaitFor([this] { return !korvale_->HasForm("frmWaitWindow"); }));
+  EXPECT_TRUE(HoldsFor([this] { return !korvale_->HasMessageBox(); }));
+  EXPECT_TRUE(HotKeyIsFree(TagKey(1)));
+  EXPECT_FALSE(HotKeyIsFree(kToggleKey));
+  Press(kToggleKey);
+  EXPECT_EQ(korvale_->Form("frmWaitWindow").Title(), "Korvale - Hot Keys (ON)");
+  EXPECT_TRUE(WaitFor([this] { return !korvale_->HasForm("frmWaitWindow"); }));
+  EXPECT_FALSE(HotKeyIsFree(TagKey(1)));
 }
 
 }  // namespace

@@ -2,6 +2,11 @@
 #include <windows.h>
 
 #include <functional>
+#include <iterator>
+#include <stdexcept>
+#include <string>
+#include <thread>
+#include <vector>
 
 #include "platform/windows/handles.h"
 #include "platform/windows/windows_hot_key_api.h"
@@ -45,6 +50,28 @@ class WindowsHotKeyApiTest : public testing::Test {
                      std::intptr_t lParam) {
     return api_.CallWindowProcA(previous_, hwnd, message, wParam, lParam);
   }
+  /// Presses Alt+Ctrl+F9 and waits for its message, which stays in the queue.
+  static void PressUntilQueued() {
+    constexpr WORD kKeys[] = {VK_CONTROL, VK_MENU, VK_F9};
+    std::vector<INPUT> inputs;
+    for (const WORD key : kKeys) inputs.push_back(KeyInput(key, 0));
+    for (auto key = std::rbegin(kKeys); key != std::rend(kKeys); ++key) {
+      inputs.push_back(KeyInput(*key, KEYEVENTF_KEYUP));
+    }
+    SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+    const ULONGLONG end = GetTickCount64() + 5000;
+    while ((HIWORD(GetQueueStatus(QS_HOTKEY)) & QS_HOTKEY) == 0) {
+      ASSERT_LT(GetTickCount64(), end) << "no press came";
+      MsgWaitForMultipleObjects(0, nullptr, FALSE, 20, QS_HOTKEY);
+    }
+  }
+  static INPUT KeyInput(WORD key, DWORD flags) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = key;
+    input.ki.dwFlags = flags;
+    return input;
+  }
   void Hook() { previous_ = api_.SetWindowLongPtrA(Window(), recorder_); }
 
   UniqueWindow hwnd_{
@@ -70,6 +97,39 @@ TEST_F(WindowsHotKeyApiTest, AMessageTakenOutTellsWhatCameWithIt) {
   EXPECT_EQ(api_.PeekMessageW(Window(), kMessage), (QueuedMessage{6, 7}));
   EXPECT_EQ(api_.PeekMessageW(Window(), kMessage), (QueuedMessage{8, 9}));
   EXPECT_EQ(api_.PeekMessageW(Window(), kMessage), std::nullopt);
+}
+
+TEST_F(WindowsHotKeyApiTest, APressIsTakenFromTheQueueOnceAfterItsKeyWasGivenBack) {
+  ASSERT_TRUE(api_.RegisterHotKey(Window(), kId, MOD_ALT | MOD_CONTROL, VK_F9));
+  EXPECT_FALSE(api_.PeekMessageW(Window(), WM_HOTKEY));
+  PressUntilQueued();
+  EXPECT_TRUE(api_.UnregisterHotKey(Window(), kId));
+  EXPECT_TRUE(api_.PeekMessageW(Window(), WM_HOTKEY));
+  EXPECT_FALSE(api_.PeekMessageW(Window(), WM_HOTKEY));
+}
+
+TEST_F(WindowsHotKeyApiTest, TheEndOfTheProgramIsNotTakenForAPress) {
+  PostQuitMessage(3);
+  EXPECT_FALSE(api_.PeekMessageW(Window(), WM_HOTKEY));
+  ASSERT_TRUE(api_.RegisterHotKey(Window(), kId, MOD_ALT | MOD_CONTROL, VK_F9));
+  PressUntilQueued();
+  EXPECT_TRUE(api_.UnregisterHotKey(Window(), kId));
+  while (api_.PeekMessageW(Window(), WM_HOTKEY)) {
+  }
+  MSG message;
+  ASSERT_TRUE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE) != FALSE);
+  EXPECT_EQ(message.message, static_cast<UINT>(WM_QUIT));
+  EXPECT_EQ(message.wParam, 3U);
+}
+
+TEST_F(WindowsHotKeyApiTest, AskingForAPressThatIsNotThereLetsNoSentMessageIn) {
+  std::thread other([this] { SendNotifyMessageW(hwnd_.Get(), kMessage, 1, 2); });
+  other.join();
+  EXPECT_FALSE(api_.PeekMessageW(Window(), WM_HOTKEY));
+  EXPECT_EQ(ownCalls, 0);
+  MSG message;
+  PeekMessageW(&message, hwnd_.Get(), 0, 0, PM_NOREMOVE);
+  EXPECT_EQ(ownCalls, 1);
 }
 
 TEST_F(WindowsHotKeyApiTest, AHookSeesAMessageFirstAndMayPassItOn) {
