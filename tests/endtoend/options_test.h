@@ -18,6 +18,10 @@ class OptionsTest : public StoreTest {
   /// Starts the installation and opens the dialog on that page.
   OptionsDialog StartWithOptions(Page page);
 
+  /// Turns to another page with the keyboard and back: what is typed waits until the dialog is
+  /// through with what it was told before. A sent message comes in earlier, and to try the hot keys
+  /// then gets in the way of their registration.
+  ::testing::AssertionResult TakesKeys(const OptionsDialog& dialog);
   /// Presses Alt+A and waits until everything has been saved and registered.
   ::testing::AssertionResult Apply(const OptionsDialog& dialog);
   /// Chooses an entry of a list by typing.
