@@ -92,7 +92,7 @@ WindowHandle ForegroundTracker::WindowInFront() {
   const WindowHandle foreground = windows_->GetForegroundWindow();
   const bool forItsMenu =
       foreground == mainWindow_->MainHandle() && mainWindow_->WindowMenuPoppedUp();
-  const bool onItsWayBack = previous_->menuSelection && foreground == previous_->leaving;
+  const bool onItsWayBack = foreground == previous_->leaving && previous_->IsPending(*windows_);
   return forItsMenu || onItsWayBack ? 0 : foreground;
 }
 

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "platform/types.h"
+#include "platform/window_api.h"
 
 namespace korvale {
 
@@ -34,10 +35,17 @@ struct PreviousWindow {
   /// not when the window that they were in is gone.
   bool tagZeroIsAlternate = true;
 
-  /// The window that the user has in front as soon as a selection has taken effect; `foreground` is
-  /// what GetForegroundWindow says.
-  WindowHandle InFront(WindowHandle foreground) const {
-    return menuSelection && (foreground == leaving || foreground == 0) ? coming : foreground;
+  /// A selection is still to take effect; not when the selected window has gone meanwhile.
+  bool IsPending(WindowQueries& windows) const {
+    return menuSelection && (coming == 0 || windows.IsWindow(coming));
+  }
+
+  /// The window that the user has in front (GetForegroundWindow) as soon as a selection has taken
+  /// effect.
+  WindowHandle InFront(WindowQueries& windows) const {
+    const WindowHandle foreground = windows.GetForegroundWindow();
+    const bool late = (foreground == leaving || foreground == 0) && IsPending(windows);
+    return late ? coming : foreground;
   }
 
   /// The window of Tag 0; `mainInFront` = the main window has the focus.

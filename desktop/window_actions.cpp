@@ -113,7 +113,7 @@ bool WindowActions::BringForward(WindowHandle hwnd) {
 WindowTriple WindowActions::MinimizeOrMaximizeForeground(std::string_view hotKeyName) {
   if (hotKeyName != kMinimizeHotKey && hotKeyName != kRestoreMaximizeHotKey) return {};
   const TimerPause pause(*mainWindow_);
-  const WindowHandle hwnd = previous_->InFront(windows_->GetForegroundWindow());
+  const WindowHandle hwnd = previous_->InFront(*windows_);
   if (hwnd == 0) return {};
   if (hotKeyName == kMinimizeHotKey) return MinimizeForeground(hwnd);
   MaximizeOrRestoreForeground(hwnd);

@@ -57,7 +57,7 @@ std::string FormDisplay::ShowFormModal(Form& form, const DisplaySwitches& switch
     BringToFront(form, switches);
     return form.Tag();
   }
-  const WindowHandle before = previous_->InFront(windows_->GetForegroundWindow());
+  const WindowHandle before = previous_->InFront(*windows_);
   {
     const RaisedFlag shown(suspension_->DialogShown);
     form.Load();

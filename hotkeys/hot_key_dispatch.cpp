@@ -145,7 +145,8 @@ void HotKeyDispatch::ShowOptions() {
 
 void HotKeyDispatch::PopUpWindowMenu() {
   const WindowHandle main = parts_.mainWindow.MainHandle();
-  const WindowHandle before = parts_.previous.InFront(parts_.windows.GetForegroundWindow());
+  const WindowHandle left = parts_.windows.GetForegroundWindow();
+  const WindowHandle before = parts_.previous.InFront(parts_.windows);
   WindowHandle selected = 0;
   parts_.commands.SetForegroundWindow(main);
   parts_.actions.SetWindowMenuTag(kHotKeyWindowMenuPopup);
@@ -158,10 +159,11 @@ void HotKeyDispatch::PopUpWindowMenu() {
     throw;
   }
   parts_.actions.SetWindowMenuTag("");
-  // Only the menu needed the main window in front. A user who has gone to a window meanwhile, by an
-  // entry or by a click, keeps it.
-  const bool leftBehind = parts_.windows.GetForegroundWindow() == main;
-  if (selected == 0 && before != main && leftBehind &&
+  // Only the menu needed the main window in front, or on its way there. A user who has gone to a
+  // window meanwhile, by an entry or by a click, keeps it.
+  const WindowHandle now = parts_.windows.GetForegroundWindow();
+  const bool stays = now != main && now != left;
+  if (selected == 0 && before != main && !stays &&
       !ReturnForegroundTo(parts_.windows, parts_.commands, before)) {
     // It has gone while the menu was open.
     ReturnForegroundTo(parts_.windows, parts_.commands, parts_.tracker.WindowBehind(main));

@@ -66,7 +66,7 @@ std::int16_t SuspendingMessageBoxes::ShowOutermost(const std::string& prompt, st
 
 SuspendingMessageBoxes::Remembered SuspendingMessageBoxes::Remember() {
   const TimerControl& timer = mainWindow_->tmrWindow();
-  return {timer.Enabled(), timer.Tag(), previous_->InFront(windows_->GetForegroundWindow())};
+  return {timer.Enabled(), timer.Tag(), previous_->InFront(*windows_)};
 }
 
 void SuspendingMessageBoxes::Suspend() {

@@ -157,29 +157,6 @@ TEST_F(WayBackTest, MinimizingRightAfterASelectionMinimizesTheSelectedWindow) {
   ExpectWayBack("Beta");
 }
 
-TEST_F(WayBackTest, AMessageRightAfterASelectionLeadsBackToTheSelectedWindow) {
-  StoreTag(3, "Delta", "D");
-  InAlpha().host.AnswerNext(win32::kIdOk);
-  desktop.DelayForeground(true);
-  PressQuickly(2);
-  PressQuickly(3);
-  desktop.DelayForeground(false);
-  LetTick();
-  EXPECT_EQ(Front(), "Beta");
-  ExpectWayBack("Alpha");
-}
-
-TEST_F(WayBackTest, EscInThePopUpRightAfterASelectionLeadsBackToTheSelectedWindow) {
-  InAlpha().host.WhenPopupMenu([](const auto& /*items*/) { return std::string(); });
-  desktop.DelayForeground(true);
-  PressQuickly(2);
-  EXPECT_TRUE(hotKeys.Press(win32::kModWin, 'W'));
-  desktop.DelayForeground(false);
-  LetTick();
-  EXPECT_EQ(Front(), "Beta");
-  ExpectWayBack("Alpha");
-}
-
 TEST_F(WayBackTest, MaximizingRightAfterASelectionMaximizesTheSelectedWindow) {
   InAlpha();
   desktop.DelayForeground(true);
