@@ -90,15 +90,22 @@ bool IsForAControl(UINT message) {
          (message >= LB_ADDSTRING && message <= LB_GETLISTBOXINFO);
 }
 
+bool IsNeverQueued(UINT message) {
+  return std::ranges::find(kNeverQueued, message) != std::end(kNeverQueued);
+}
+
 bool CanOnlyBeForged(const MSG& message) {
+  const bool timer = message.message == WM_TIMER;
+  const bool forControls = IsPrivateMessage(message.message) || IsForAControl(message.message);
+  // Most messages are neither, and need not be asked for their window.
+  if (!timer && !forControls && !IsNeverQueued(message.message)) return false;
   const Recipient recipient = RecipientOf(message.hwnd);
   if (recipient == Recipient::kOther) return false;
   // Our timers call no procedure; this one would be called at whatever address it names.
-  if (message.message == WM_TIMER) return recipient == Recipient::kForm && message.lParam != 0;
+  if (timer) return recipient == Recipient::kForm && message.lParam != 0;
   // Windows may tell its own dialogs something in this way, but leaves no place to be followed.
   const bool counts = recipient != Recipient::kDialogOfWindows || message.lParam != 0;
-  return (counts && (IsPrivateMessage(message.message) || IsForAControl(message.message))) ||
-         std::ranges::find(kNeverQueued, message.message) != std::end(kNeverQueued);
+  return !forControls || counts || IsNeverQueued(message.message);
 }
 
 LRESULT CALLBACK SeeQueued(int code, WPARAM wParam, LPARAM lParam) {
