@@ -4,12 +4,12 @@
 #include <objbase.h>
 
 #include "app/program.h"
-#include "forms/windows/windows_form_host.h"
 #include "platform/windows/windows_clock.h"
 #include "platform/windows/windows_hot_key_api.h"
 #include "platform/windows/windows_settings_store.h"
 #include "platform/windows/windows_system_api.h"
 #include "platform/windows/windows_window_api.h"
+#include "ui/windows/windows_form_host.h"
 
 namespace {
 

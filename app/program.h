@@ -3,9 +3,9 @@
 #include <functional>
 
 #include "app/startup.h"
-#include "forms/form_collection.h"
 #include "forms/main_form.h"
 #include "platform/platform.h"
+#include "ui/form_collection.h"
 
 namespace korvale {
 

@@ -2,9 +2,9 @@
 
 #include <utility>
 
-#include "forms/form_collection.h"
-#include "forms/readable_colors.h"
 #include "platform/win32_constants.h"
+#include "ui/form_collection.h"
+#include "ui/readable_colors.h"
 
 namespace korvale {
 namespace {
@@ -50,13 +50,13 @@ constexpr ControlRow kAboutControls[] = {
     {kTimer, "tmrUnload", -1, "", "", {}, "", -1, kDisabled},
 };
 
-constexpr FormDesign kDesign = {
+constexpr FormDesign kAboutDesign = {
     .name = "frmMsgBox2", .caption = "", .place = {0, 0, 5580, 3030}, .controls = kAboutControls};
 
 }  // namespace
 
 frmMsgBox2::frmMsgBox2(FormCollection& forms, Clock& clock, const ProgramIdentity& identity)
-    : Form(kDesign, forms), clock_(&clock), identity_(&identity) {
+    : Form(kAboutDesign, forms), clock_(&clock), identity_(&identity) {
   WhenClicked("cmdOK", [this](int) { CloseAbout(); });
   WhenClicked("tmrUnload", [this](int) { CloseAbout(); });
   WhenClicked("lblWebSite", [this](int) {

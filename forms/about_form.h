@@ -7,9 +7,9 @@
 #include <string_view>
 
 #include "app/core/identity.h"
-#include "forms/form.h"
 #include "forms/form_display.h"
 #include "platform/clock.h"
+#include "ui/form.h"
 
 namespace korvale {
 

@@ -5,10 +5,10 @@
 #include <string>
 
 #include "app/core/message_boxes.h"
-#include "forms/control.h"
 #include "platform/form_host.h"
 #include "platform/menu_model.h"
 #include "platform/system_api.h"
+#include "ui/control.h"
 
 namespace korvale {
 

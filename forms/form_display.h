@@ -4,10 +4,10 @@
 #include <string>
 
 #include "desktop/previous_window.h"
-#include "forms/form.h"
-#include "forms/form_collection.h"
 #include "hotkeys/suspension.h"
 #include "platform/window_api.h"
+#include "ui/form.h"
+#include "ui/form_collection.h"
 
 namespace korvale {
 

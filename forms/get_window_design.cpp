@@ -83,13 +83,13 @@ constexpr ControlRow kAddWindowControls[] = {
         kOrderLblAssignHotKey),
 };
 
-constexpr FormDesign kDesign = {.name = "frmGetWindow",
-                                .caption = "Add Window",
-                                .place = {0, 0, 7800, 4500},
-                                .controls = kAddWindowControls};
+constexpr FormDesign kGetWindowDesign = {.name = "frmGetWindow",
+                                         .caption = "Add Window",
+                                         .place = {0, 0, 7800, 4500},
+                                         .controls = kAddWindowControls};
 
 }  // namespace
 
-const FormDesign& GetWindowDesign() { return kDesign; }
+const FormDesign& GetWindowDesign() { return kGetWindowDesign; }
 
 }  // namespace korvale

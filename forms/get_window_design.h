@@ -1,6 +1,6 @@
 #pragma once
 
-#include "forms/form.h"
+#include "ui/form.h"
 
 namespace korvale {
 

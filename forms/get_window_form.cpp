@@ -3,11 +3,11 @@
 #include <utility>
 
 #include "desktop/window_readers.h"
-#include "forms/form_collection.h"
 #include "forms/get_window_design.h"
-#include "forms/readable_colors.h"
-#include "forms/shortened_text.h"
 #include "platform/win32_constants.h"
+#include "ui/form_collection.h"
+#include "ui/readable_colors.h"
+#include "ui/shortened_text.h"
 #include "util/text.h"
 
 namespace korvale {

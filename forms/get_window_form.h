@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "forms/add_window_context.h"
-#include "forms/form.h"
+#include "ui/form.h"
 
 namespace korvale {
 

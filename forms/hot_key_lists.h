@@ -4,8 +4,8 @@
 #include <span>
 #include <string>
 
-#include "forms/form.h"
 #include "hotkeys/hot_key_table.h"
+#include "ui/form.h"
 
 namespace korvale {
 

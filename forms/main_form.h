@@ -10,7 +10,6 @@
 #include "desktop/main_window.h"
 #include "forms/about_form.h"
 #include "forms/color_customizing.h"
-#include "forms/form.h"
 #include "forms/get_window_form.h"
 #include "forms/main_parts.h"
 #include "forms/msg_tip_form.h"
@@ -22,6 +21,7 @@
 #include "forms/window_menu.h"
 #include "hotkeys/hot_key_actions.h"
 #include "platform/platform.h"
+#include "ui/form.h"
 
 namespace korvale {
 

@@ -1,5 +1,5 @@
 #include "forms/main_form.h"
-#include "forms/readable_colors.h"
+#include "ui/readable_colors.h"
 
 namespace korvale {
 

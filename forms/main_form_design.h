@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "forms/form.h"
+#include "ui/form.h"
 
 namespace korvale {
 

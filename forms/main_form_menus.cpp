@@ -2,9 +2,9 @@
 
 #include "forms/main_form.h"
 #include "forms/main_form_design.h"
-#include "forms/menu_width.h"
 #include "forms/options_design.h"
 #include "platform/win32_constants.h"
+#include "ui/menu_width.h"
 #include "util/forms.h"
 #include "util/system.h"
 #include "util/text.h"

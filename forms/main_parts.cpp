@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "forms/form.h"
 #include "forms/options_design.h"
+#include "ui/form.h"
 #include "util/forms.h"
 
 namespace korvale {

@@ -17,7 +17,6 @@
 #include "desktop/window_enumeration.h"
 #include "desktop/window_filter.h"
 #include "desktop/window_requests.h"
-#include "forms/form_collection.h"
 #include "forms/form_display.h"
 #include "hotkeys/hot_key_dispatch.h"
 #include "hotkeys/hot_key_table.h"
@@ -26,6 +25,7 @@
 #include "hotkeys/suspension.h"
 #include "hotkeys/window_proc_hook.h"
 #include "platform/platform.h"
+#include "ui/form_collection.h"
 
 namespace korvale {
 

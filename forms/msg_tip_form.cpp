@@ -42,10 +42,10 @@ constexpr ControlRow kTipControls[] = {
      kWordWrap | kNoPrefix},
 };
 
-constexpr FormDesign kDesign = {.name = "frmMsgTip",
-                                .caption = "",
-                                .place = {0, 0, kWidth, kDesignHeight},
-                                .controls = kTipControls};
+constexpr FormDesign kMsgTipDesign = {.name = "frmMsgTip",
+                                      .caption = "",
+                                      .place = {0, 0, kWidth, kDesignHeight},
+                                      .controls = kTipControls};
 
 constexpr bool ClosesTip(int key, unsigned shift) {
   return (key == win32::kVkEscape && shift == kNoShift) || (key == win32::kVkF4 && shift == kAlt);
@@ -53,7 +53,7 @@ constexpr bool ClosesTip(int key, unsigned shift) {
 
 }  // namespace
 
-frmMsgTip::frmMsgTip(FormCollection& forms) : Form(kDesign, forms) {
+frmMsgTip::frmMsgTip(FormCollection& forms) : Form(kMsgTipDesign, forms) {
   WhenClicked("cmdOK", [this](int) { cmdOK_Click(); });
 }
 

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "forms/form.h"
+#include "ui/form.h"
 
 namespace korvale {
 

@@ -3,11 +3,11 @@
 #include <cstddef>
 #include <utility>
 
-#include "forms/form_collection.h"
 #include "forms/hot_key_lists.h"
 #include "forms/options_design.h"
-#include "forms/readable_colors.h"
 #include "platform/win32_constants.h"
+#include "ui/form_collection.h"
+#include "ui/readable_colors.h"
 
 namespace korvale {
 namespace {

@@ -5,9 +5,9 @@
 #include <string_view>
 
 #include "app/core/options.h"
-#include "forms/form.h"
 #include "forms/hot_key_lists.h"
 #include "forms/options_owner.h"
+#include "ui/form.h"
 
 namespace korvale {
 

@@ -18,16 +18,16 @@ constexpr ControlRow kWaitControls[] = {
     {kTimer, "tmrWait", -1, "", "", {}, "", -1, kDisabled},
 };
 
-constexpr FormDesign kDesign = {.name = "frmWaitWindow",
-                                .caption = "",
-                                .place = {0, 0, 4800, 1450},
-                                .aside = true,
-                                .controls = kWaitControls};
+constexpr FormDesign kWaitWindowDesign = {.name = "frmWaitWindow",
+                                          .caption = "",
+                                          .place = {0, 0, 4800, 1450},
+                                          .aside = true,
+                                          .controls = kWaitControls};
 
 }  // namespace
 
 frmWaitWindow::frmWaitWindow(FormCollection& forms, FormDisplay& display)
-    : Form(kDesign, forms), display_(&display) {
+    : Form(kWaitWindowDesign, forms), display_(&display) {
   WhenClicked("tmrWait", [this](int) { tmrWait_Timer(); });
 }
 

@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <string>
 
-#include "forms/form.h"
 #include "forms/form_display.h"
+#include "ui/form.h"
 
 namespace korvale {
 

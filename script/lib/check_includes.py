@@ -13,7 +13,7 @@ import sys
 WINDOWS_HEADERS = re.compile(
     r"<(windows|windowsx|winuser|commctrl|commdlg|shellapi|uxtheme|winreg|objbase)\.h>", re.I
 )
-WINDOWS_PLACES = ("platform/windows/", "forms/windows/", "tests/endtoend/")
+WINDOWS_PLACES = ("platform/windows/", "ui/windows/", "tests/endtoend/")
 INCLUDE = re.compile(r'^\s*#\s*include\s+([<"][^>"]+[>"])', re.M)
 
 

@@ -6,8 +6,8 @@
 #include <utility>
 #include <vector>
 
-#include "forms/form.h"
-#include "forms/form_collection.h"
+#include "ui/form.h"
+#include "ui/form_collection.h"
 
 namespace korvale {
 

@@ -4,8 +4,8 @@
 #include <string_view>
 #include <vector>
 
-#include "forms/form.h"
 #include "tests/contract/user_hands.h"
+#include "ui/form.h"
 
 namespace korvale {
 

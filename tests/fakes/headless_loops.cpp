@@ -2,10 +2,10 @@
 #include <array>
 #include <utility>
 
-#include "forms/form.h"
 #include "hotkeys/suspension.h"
 #include "platform/win32_constants.h"
 #include "tests/fakes/headless_form_host.h"
+#include "ui/form.h"
 
 namespace korvale {
 namespace {

@@ -1,8 +1,8 @@
 #include <algorithm>
 
-#include "forms/access_key.h"
 #include "platform/win32_constants.h"
 #include "tests/fakes/headless_user.h"
+#include "ui/access_key.h"
 #include "util/characters.h"
 
 namespace korvale {

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cstddef>
 
-#include "forms/access_key.h"
+#include "ui/access_key.h"
 
 namespace korvale {
 namespace {

@@ -5,8 +5,6 @@
 #include <string>
 #include <string_view>
 
-#include "forms/form.h"
-#include "forms/form_collection.h"
 #include "forms/form_display.h"
 #include "hotkeys/suspension.h"
 #include "tests/fakes/call_log.h"
@@ -15,6 +13,8 @@
 #include "tests/fakes/fake_desktop.h"
 #include "tests/fakes/headless_form_host.h"
 #include "tests/fakes/headless_user.h"
+#include "ui/form.h"
+#include "ui/form_collection.h"
 
 namespace korvale {
 

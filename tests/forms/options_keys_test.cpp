@@ -3,10 +3,10 @@
 #include <string>
 #include <vector>
 
-#include "forms/access_key.h"
 #include "platform/win32_constants.h"
 #include "tests/fakes/keys.h"
 #include "tests/forms/options_test.h"
+#include "ui/access_key.h"
 
 namespace korvale {
 namespace {

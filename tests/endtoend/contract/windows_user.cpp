@@ -3,9 +3,9 @@
 #include <commctrl.h>
 #include <gtest/gtest.h>
 
-#include "forms/windows/units.h"
 #include "platform/windows/text.h"
 #include "tests/endtoend/contract/input.h"
+#include "ui/windows/units.h"
 
 namespace korvale {
 namespace {

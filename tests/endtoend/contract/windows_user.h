@@ -2,9 +2,9 @@
 
 #include <deque>
 
-#include "forms/windows/windows_form_host.h"
 #include "tests/contract/user_hands.h"
 #include "tests/endtoend/contract/idle_watch.h"
+#include "ui/windows/windows_form_host.h"
 
 namespace korvale {
 

@@ -1,0 +1,294 @@
+#include "ui/form.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/run_time_error.h"
+#include "platform/win32_constants.h"
+#include "ui/form_collection.h"
+
+namespace korvale {
+namespace {
+
+// What the designs count as the frame: both side borders, and title bar with both borders.
+constexpr Twips kClassicFrameWidth = 90;
+constexpr Twips kClassicFrameHeight = 400;
+
+int ShowCommand(ShowState state) {
+  switch (state) {
+    case ShowState::kMinimized:
+      return win32::kSwShowMinNoActive;
+    case ShowState::kMaximized:
+      return win32::kSwMaximize;
+    case ShowState::kNormal:
+      break;
+  }
+  return win32::kSwShow;
+}
+
+std::vector<ControlRow> InWindowOrder(std::span<const ControlRow> table) {
+  std::vector<ControlRow> rows(table.begin(), table.end());
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    if (rows[i].tabIndex < 0) rows[i].tabIndex = static_cast<int>(i);
+  }
+  std::ranges::stable_sort(rows, {}, &ControlRow::tabIndex);
+  return rows;
+}
+
+ControlState StateFromRow(const ControlRow& row, int id, int container) {
+  ControlState state;
+  state.id = id;
+  state.kind = row.kind;
+  state.name = row.name;
+  state.index = row.index;
+  state.text = row.caption;
+  state.toolTip = row.toolTip;
+  state.place = row.place;
+  state.container = container;
+  state.flags = row.flags;
+  state.visible = (row.flags & kHidden) == 0;
+  state.enabled = (row.flags & kDisabled) == 0;
+  state.backColor = row.backColor;
+  state.foreColor = row.foreColor;
+  state.border = (row.flags & kSingleBorder) != 0;
+  return state;
+}
+
+/// Sets a flag for a scope, also when an error leaves it.
+class FlagGuard {
+ public:
+  explicit FlagGuard(bool& flag) : flag_(&flag) { flag = true; }
+  ~FlagGuard() { *flag_ = false; }
+  FlagGuard(const FlagGuard&) = delete;
+  FlagGuard& operator=(const FlagGuard&) = delete;
+
+ private:
+  bool* flag_;
+};
+
+}  // namespace
+
+Form::Form(const FormDesign& design, FormCollection& forms)
+    : design_(design), rows_(InWindowOrder(design.controls)), forms_(&forms) {
+  BuildFromDesign();
+}
+
+Form::~Form() { Destroy(); }
+
+void Form::BuildFromDesign() {
+  state_ = FormState();
+  state_.name = design_.name;
+  state_.caption = design_.caption;
+  state_.border = design_.border;
+  state_.minimizeBox = design_.minimizeBox;
+  state_.maximizeBox = design_.maximizeBox;
+  state_.modalFrame = design_.modalFrame;
+  state_.inTaskbar = design_.inTaskbar;
+  state_.aside = design_.aside;
+  state_.menu = MenuBar(design_.menu);
+  place_ = design_.place;
+  focused_ = 0;
+  shownBefore_ = false;
+  controls_.clear();
+  state_.controls.reserve(rows_.size());
+  for (const ControlRow& row : rows_) {
+    const int id = static_cast<int>(state_.controls.size()) + 1;
+    state_.controls.push_back(StateFromRow(row, id, ContainerId(row)));
+  }
+  for (ControlState& control : state_.controls) controls_.emplace_back(*this, control);
+}
+
+int Form::ContainerId(const ControlRow& row) const {
+  const auto found = std::ranges::find_if(state_.controls, [&](const ControlState& control) {
+    return control.name == row.container && control.index == row.containerIndex;
+  });
+  return found == state_.controls.end() ? 0 : found->id;
+}
+
+void Form::Load() {
+  if (IsLoaded()) return;
+  // What holds on to a menu or control from before the first loading keeps it.
+  if (std::exchange(used_, true)) BuildFromDesign();
+  state_.place = RealPlace();
+  handle_ = forms_->Host().CreateWindowExW(state_, *this);
+  if (handle_ == 0) throw RunTimeError(RunTimeError::kOutOfMemory, "no window for " + Name());
+  forms_->Add(*this);
+  if (!state_.enabled) forms_->Host().EnableWindow(handle_, false);
+  for (const Control& control : controls_) {
+    if (control.State().kind == ControlKind::kTimer) StartOrStopTimer(control);
+  }
+  try {
+    Form_Load();
+  } catch (...) {
+    Destroy();
+    throw;
+  }
+}
+
+bool Form::Unload(CloseReason reason) {
+  // A form that is on its way out may ask for it again, as a close handler does.
+  if (!IsLoaded() || unloading_) return true;
+  const FlagGuard unloading(unloading_);
+  if (!AgreesToUnload(reason)) return false;
+  Form_Unload();
+  Destroy();
+  return true;
+}
+
+bool Form::AgreesToUnload(CloseReason reason) {
+  bool cancel = false;
+  Form_QueryUnload(cancel, reason);
+  return !cancel;
+}
+
+void Form::Destroy() {
+  if (!IsLoaded()) return;
+  for (const ControlState& control : state_.controls) {
+    if (control.kind == ControlKind::kTimer) forms_->Timers().KillTimer(handle_, control.id);
+  }
+  state_.visible = false;
+  forms_->Remove(*this);
+  forms_->Host().DestroyWindow(std::exchange(handle_, 0));
+}
+
+void Form::Show() { ShowAs(true); }
+
+void Form::ShowInactive() { ShowAs(false); }
+
+void Form::ShowAs(bool active) {
+  Load();
+  if (!IsLoaded()) return;
+  if (!shownBefore_) {
+    shownBefore_ = true;
+    EnsureFocus();
+    Form_Resize();
+    if (!IsLoaded()) return;
+  }
+  state_.visible = true;
+  const bool takesKeyboard = active && !state_.aside;
+  forms_->Host().ShowWindow(handle_,
+                            takesKeyboard ? ShowCommand(state_.windowState) : win32::kSwShowNa);
+}
+
+void Form::ShowModal() {
+  Load();
+  if (IsLoaded()) forms_->RunModal(*this);
+}
+
+void Form::Hide() {
+  if (!state_.visible) return;
+  state_.visible = false;
+  forms_->EndModal(this);
+  forms_->Host().ShowWindow(handle_, win32::kSwHide);
+}
+
+void Form::SetCaption(std::string_view caption) {
+  if (state_.caption == caption) return;
+  state_.caption = caption;
+  if (IsLoaded()) forms_->Host().SetWindowTextW(handle_);
+}
+
+TwipsRect Form::FrameGrowth() const {
+  if (design_.exactHeight || state_.border == BorderStyle::kNone) return {};
+  const TwipsRect frame = forms_->Host().AdjustWindowRectEx(state_);
+  return {0, 0, frame.width - kClassicFrameWidth, frame.height - kClassicFrameHeight};
+}
+
+TwipsRect Form::RealPlace() const {
+  const TwipsRect growth = FrameGrowth();
+  return {place_.left, place_.top, place_.width + growth.width, place_.height + growth.height};
+}
+
+void Form::SetPlace(const TwipsRect& place) {
+  if (state_.windowState != ShowState::kNormal || place == place_) return;
+  const bool sized = place.width != place_.width || place.height != place_.height;
+  place_ = place;
+  if (!IsLoaded()) return;
+  state_.place = RealPlace();
+  forms_->Host().MoveWindow(handle_);
+  if (sized && IsLoaded()) Form_Resize();
+}
+
+void Form::SetSizeLimits(const SizeLimits& limits) {
+  if (state_.limits == limits) return;
+  state_.limits = limits;
+  if (!IsLoaded() || !state_.visible || state_.windowState != ShowState::kMaximized) return;
+  if (limits.height == 0 || limits.height == state_.place.height) return;
+  // Windows asks for the limits only when it maximizes.
+  state_.place.height = limits.height;
+  place_.height = limits.height - FrameGrowth().height;
+  forms_->Host().MoveWindow(handle_);
+}
+
+void Form::SetEnabled(bool enabled) {
+  if (state_.enabled == enabled) return;
+  state_.enabled = enabled;
+  if (IsLoaded()) {
+    forms_->Host().EnableWindow(handle_, enabled && !forms_->IsBlocked(*this));
+  }
+}
+
+void Form::SetWindowState(ShowState state) {
+  if (state_.windowState == state) return;
+  if (!state_.visible) {
+    state_.windowState = state;
+    return;
+  }
+  // The host tells back through OnPlaced what has become of it.
+  const int command = state == ShowState::kNormal      ? win32::kSwRestore
+                      : state == ShowState::kMinimized ? win32::kSwMinimize
+                                                       : win32::kSwMaximize;
+  forms_->Host().ShowWindow(handle_, command);
+}
+
+Control& Form::Find(std::string_view name, int index) {
+  for (Control& control : controls_) {
+    if (control.Name() == name && control.Index() == index) return control;
+  }
+  throw RunTimeError(RunTimeError::kNoSuchControlArrayElement, name);
+}
+
+const Control& Form::Find(std::string_view name, int index) const {
+  for (const Control& control : controls_) {
+    if (control.Name() == name && control.Index() == index) return control;
+  }
+  throw RunTimeError(RunTimeError::kNoSuchControlArrayElement, name);
+}
+
+bool Form::Has(std::string_view name, int index) const {
+  return std::ranges::any_of(state_.controls, [&](const ControlState& control) {
+    return control.name == name && control.index == index;
+  });
+}
+
+Control& Form::ById(int id) { return controls_.at(static_cast<std::size_t>(id) - 1); }
+
+ControlState& Form::StateOf(int control) {
+  return state_.controls.at(static_cast<std::size_t>(control) - 1);
+}
+
+const ControlState& Form::StateOf(int control) const {
+  return state_.controls.at(static_cast<std::size_t>(control) - 1);
+}
+
+MenuItem& Form::Menu(std::string_view name, int index) {
+  if (MenuItem* const item = state_.menu.Find(name, index)) return *item;
+  throw RunTimeError(RunTimeError::kNoSuchControlArrayElement, name);
+}
+
+void Form::RefreshMenuBar() {
+  if (IsLoaded()) forms_->Host().DrawMenuBar(handle_);
+}
+
+void Form::SetMenuShown(bool shown) {
+  if (state_.menuShown == shown) return;
+  state_.menuShown = shown;
+  if (!IsLoaded()) return;
+  forms_->Host().DrawMenuBar(handle_);
+  const TwipsRect place = RealPlace();
+  if (state_.windowState != ShowState::kNormal || place == state_.place) return;
+  state_.place = place;
+  forms_->Host().MoveWindow(handle_);
+}
+
+}  // namespace korvale

@@ -1,0 +1,220 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/clock.h"
+#include "platform/form_host.h"
+#include "platform/form_model.h"
+#include "ui/control.h"
+
+namespace korvale {
+
+class FormCollection;
+
+/// The fixed properties of a form.
+struct FormDesign {
+  const char* name;
+  const char* caption;
+  TwipsRect place;
+  BorderStyle border = BorderStyle::kFixedDialog;
+  bool minimizeBox = false;
+  bool maximizeBox = false;
+  bool modalFrame = true;
+  bool inTaskbar = false;
+  /// Seen above all windows without ever taking the keyboard.
+  bool aside = false;
+  /// The height counts the frame and menu that the window really has; otherwise it counts the
+  /// classic frame (400 twips) and the window grows with a higher one, so that no control is cut.
+  bool exactHeight = false;
+  std::span<const ControlRow> controls = {};
+  std::span<const MenuRow> menu = {};
+};
+
+/// A form: its model, and what the user's doings mean. A form is loaded (its window exists,
+/// hidden), shown, and unloaded; it can be loaded again afterwards.
+class Form : public FormEvents {
+ public:
+  Form(const FormDesign& design, FormCollection& forms);
+  ~Form() override;
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+
+  const std::string& Name() const { return state_.name; }
+  bool IsLoaded() const { return handle_ != 0; }
+  /// The form's window, 0 while it is not loaded.
+  WindowHandle Handle() const { return handle_; }
+  const FormState& State() const { return state_; }
+
+  /// Makes the window from the design and runs Form_Load; does nothing when it is loaded.
+  void Load();
+  /// Asks Form_QueryUnload, then runs Form_Unload and destroys the window; false when the form
+  /// refused. Does nothing when it is not loaded.
+  bool Unload(CloseReason reason = CloseReason::kCode);
+  /// Loads the form if need be and shows it.
+  void Show();
+  /// As Show, but the window that is active stays so.
+  void ShowInactive();
+  /// Shows the form and returns when it has been unloaded or hidden; no other form of the program
+  /// takes input meanwhile.
+  void ShowModal();
+  void Hide();
+
+  const std::string& Caption() const { return state_.caption; }
+  void SetCaption(std::string_view caption);
+  /// Place and size in twips. Without FormDesign::exactHeight the size counts the classic frame.
+  const TwipsRect& Place() const { return place_; }
+  void SetPlace(const TwipsRect& place);
+  /// Limits what the user can make of the form's size, frame included.
+  void SetSizeLimits(const SizeLimits& limits);
+  bool Enabled() const { return state_.enabled; }
+  void SetEnabled(bool enabled);
+  bool Visible() const { return state_.visible; }
+  ShowState WindowState() const { return state_.windowState; }
+  void SetWindowState(ShowState state);
+
+  /// A text that belongs to the program's routines ("GOTFOCUS", "NO_SHOW").
+  const std::string& Tag() const { return tag_; }
+  void SetTag(std::string_view tag) { tag_ = tag; }
+
+  /// The control of this name and array index; error 340 when there is none.
+  Control& Find(std::string_view name, int index = -1);
+  const Control& Find(std::string_view name, int index = -1) const;
+  bool Has(std::string_view name, int index = -1) const;
+  Control& ById(int id);
+  std::deque<Control>& Controls() { return controls_; }
+
+  /// The menu entry of this name; error 340 when there is none.
+  MenuItem& Menu(std::string_view name, int index = -1);
+  MenuBar& Menus() { return state_.menu; }
+  /// Shows changed captions and visibility of the menu bar.
+  void RefreshMenuBar();
+  void SetMenuShown(bool shown);
+
+  FormCollection& Collection() { return *forms_; }
+  /// The control that has the focus, 0 = none.
+  int FocusedControl() const { return focused_; }
+
+  // What the host tells (FormEvents).
+  void OnClick(int control) final;
+  void OnTextTyped(int control, const std::string& text) final;
+  void OnListPicked(int control, int listIndex) final;
+  void OnListDropDown(int control) final;
+  void OnListClosedUp(int control) final;
+  bool OnKeyDown(int control, int virtualKey, unsigned shift, bool repeated) final;
+  bool OnKeyUp(int control, int virtualKey, unsigned shift) final;
+  bool OnCharacter(int control, char32_t character, unsigned shift) final;
+  void OnMouse(int control, const MouseInput& input) final;
+  void OnFocusMoved(int control) final;
+  void OnMenuOpened(MenuItem& menu) final;
+  void OnMenuClicked(MenuItem& item) final;
+  void OnActivated() final;
+  void OnPlaced(ShowState state, const TwipsRect& place) final;
+  void OnDpiChanged() final;
+  void OnSysColorChange() final;
+  void OnCloseRequested(CloseReason reason) final;
+  void OnTimer(int control) final;
+  void OnUncaught() noexcept final;
+
+ protected:
+  using Handler = std::function<void(int index)>;
+  using Handlers = std::map<std::string, Handler, std::less<>>;
+
+  // What a form does; each is called by the shared code above.
+  /// An error here unloads the form again and goes on to the caller of Load.
+  virtual void Form_Load() {}
+  virtual void Form_Activate() {}
+  /// Sees each key before any control; set `key` to 0 to swallow it.
+  virtual void Form_KeyDown(int& key, unsigned shift);
+  /// During Form_KeyDown: the key was down already.
+  bool KeyRepeats() const { return keyRepeats_; }
+  virtual void Form_KeyUp(Control* focused, int& key, unsigned shift);
+  /// Set `cancel` to keep the form open.
+  virtual void Form_QueryUnload(bool& cancel, CloseReason reason);
+  virtual void Form_Unload() {}
+  /// The form is shown for the first time, or its size or state has changed.
+  virtual void Form_Resize() {}
+  /// The system's colours have changed; those that the form chose by them must follow.
+  virtual void Form_SysColorChange() {}
+  /// The user, or Windows for them, has put the form to another place without resizing it.
+  virtual void Form_Move() {}
+  virtual void Form_MouseMove(const MouseInput& input);
+  virtual void Control_Mouse(Control& control, const MouseInput& input);
+
+  /// Binds the click of a control (for lists: the choice; for timers: the tick; for text boxes: a
+  /// change by typing) or of a menu entry to its handler, which gets the array index (-1 = none).
+  void WhenClicked(std::string_view name, Handler handler);
+  void WhenDroppedDown(std::string_view name, Handler handler);
+  /// Binds the closing of a list, with or without a choice; may come before or after the choice.
+  void WhenClosedUp(std::string_view name, Handler handler);
+  void WhenMenuOpens(std::string_view name, Handler handler);
+  void WhenMenuClicked(std::string_view name, Handler handler);
+
+ private:
+  friend class Control;
+  friend class FormCollection;
+
+  // form.cpp: the life of a form.
+  void BuildFromDesign();
+  int ContainerId(const ControlRow& row) const;
+  TwipsRect FrameGrowth() const;
+  TwipsRect RealPlace() const;
+  void ShowAs(bool active);
+  bool AgreesToUnload(CloseReason reason);
+  void Destroy();
+
+  // form_events.cpp: what the user's doings mean.
+  static void RaiseFor(const Handlers& handlers, std::string_view name, int index);
+  void RaiseClick(Control& control);
+  void UnchooseNeighbours(const Control& chosen);
+  void StartOrStopTimer(const Control& timer);
+
+  // form_keys.cpp: keys of dialogs, access keys and the focus.
+  bool DialogKey(int control, int virtualKey, unsigned shift);
+  bool MoveFocus(int from, bool backwards);
+  bool MoveChoice(int from, bool backwards);
+  bool PressAccessKey(int focused, char32_t character, bool alt);
+  bool UseAccessKey(Control& control, char32_t character);
+  bool FocusBehind(int control);
+  void FocusOn(int control);
+  void EnsureFocus();
+  void KeepFocusReachable();
+  void MarkDefaultButton();
+  Control* DefaultButtonFor(int focused);
+  Control* ButtonWithFlag(unsigned flag);
+  std::vector<int> TabStops() const;
+  int TabStopOf(int control) const;
+  /// True for the number of a control of a loaded form.
+  bool IsControl(int control) const;
+  bool CanTakeInput(const ControlState& control) const;
+  bool CanTakeFocus(const ControlState& control) const;
+  ControlState& StateOf(int control);
+  const ControlState& StateOf(int control) const;
+
+  const FormDesign design_;
+  const std::vector<ControlRow> rows_;  ///< The design's controls in the order of the windows.
+  FormCollection* forms_;
+  FormState state_;
+  TwipsRect place_;
+  std::deque<Control> controls_;
+  WindowHandle handle_ = 0;
+  int focused_ = 0;
+  bool keyRepeats_ = false;
+  bool shownBefore_ = false;
+  bool unloading_ = false;
+  /// The model has been loaded once, so the next loading starts from the design.
+  bool used_ = false;
+  std::string tag_;
+  Handlers clicked_;
+  Handlers droppedDown_;
+  Handlers closedUp_;
+  Handlers menuOpens_;
+  Handlers menuClicked_;
+};
+
+}  // namespace korvale

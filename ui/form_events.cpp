@@ -1,0 +1,202 @@
+#include <utility>
+
+#include "ui/form.h"
+#include "ui/form_collection.h"
+
+namespace korvale {
+
+void Form::Form_KeyDown(int& /*key*/, unsigned /*shift*/) {}
+void Form::Form_KeyUp(Control* /*focused*/, int& /*key*/, unsigned /*shift*/) {}
+void Form::Form_QueryUnload(bool& /*cancel*/, CloseReason /*reason*/) {}
+void Form::Form_MouseMove(const MouseInput& /*input*/) {}
+void Form::Control_Mouse(Control& /*control*/, const MouseInput& /*input*/) {}
+
+void Form::WhenClicked(std::string_view name, Handler handler) {
+  clicked_.insert_or_assign(std::string(name), std::move(handler));
+}
+
+void Form::WhenDroppedDown(std::string_view name, Handler handler) {
+  droppedDown_.insert_or_assign(std::string(name), std::move(handler));
+}
+
+void Form::WhenClosedUp(std::string_view name, Handler handler) {
+  closedUp_.insert_or_assign(std::string(name), std::move(handler));
+}
+
+void Form::WhenMenuOpens(std::string_view name, Handler handler) {
+  menuOpens_.insert_or_assign(std::string(name), std::move(handler));
+}
+
+void Form::WhenMenuClicked(std::string_view name, Handler handler) {
+  menuClicked_.insert_or_assign(std::string(name), std::move(handler));
+}
+
+void Form::RaiseFor(const Handlers& handlers, std::string_view name, int index) {
+  if (const auto found = handlers.find(name); found != handlers.end()) found->second(index);
+}
+
+void Form::RaiseClick(Control& control) { RaiseFor(clicked_, control.Name(), control.Index()); }
+
+void Form::UnchooseNeighbours(const Control& chosen) {
+  for (Control& control : controls_) {
+    const ControlState& state = control.State();
+    const bool neighbour = state.kind == ControlKind::kOptionButton &&
+                           state.container == chosen.State().container && state.id != chosen.Id();
+    if (neighbour) control.SetValue(0);
+  }
+}
+
+void Form::StartOrStopTimer(const Control& timer) {
+  if (!IsLoaded()) return;
+  if (timer.Enabled() && timer.Interval() > 0) {
+    forms_->Timers().SetTimer(handle_, timer.Id(), timer.Interval());
+  } else {
+    forms_->Timers().KillTimer(handle_, timer.Id());
+  }
+}
+
+bool Form::IsControl(int control) const {
+  return IsLoaded() && control > 0 && static_cast<std::size_t>(control) <= controls_.size();
+}
+
+void Form::OnClick(int control) {
+  if (!IsControl(control) || !CanTakeInput(StateOf(control))) return;
+  Control& clicked = ById(control);
+  switch (clicked.State().kind) {
+    case ControlKind::kCheckBox:
+      clicked.SetValue(1 - clicked.Value());
+      break;
+    case ControlKind::kOptionButton:
+      clicked.SetValue(1);
+      break;
+    default:
+      RaiseClick(clicked);
+  }
+}
+
+void Form::OnTextTyped(int control, const std::string& text) {
+  if (!IsControl(control)) return;
+  ControlState& state = StateOf(control);
+  if (state.text == text) return;
+  state.text = text;
+  if (state.kind == ControlKind::kComboBox) state.listIndex = -1;
+  RaiseClick(ById(control));
+}
+
+void Form::OnListPicked(int control, int listIndex) {
+  if (!IsControl(control)) return;
+  Control& list = ById(control);
+  if (listIndex >= static_cast<int>(list.Items().size())) {
+    // Another program has put an entry into the list.
+    list.Changed(ControlProperty::kItems);
+    return;
+  }
+  list.TakeListIndex(listIndex);
+  RaiseClick(list);
+}
+
+void Form::OnListDropDown(int control) {
+  if (!IsControl(control)) return;
+  RaiseFor(droppedDown_, StateOf(control).name, StateOf(control).index);
+}
+
+void Form::OnListClosedUp(int control) {
+  if (IsControl(control)) RaiseFor(closedUp_, StateOf(control).name, StateOf(control).index);
+}
+
+bool Form::OnKeyDown(int control, int virtualKey, unsigned shift, bool repeated) {
+  if (!IsLoaded() || (control != 0 && !IsControl(control))) return false;
+  int key = virtualKey;
+  keyRepeats_ = repeated;
+  Form_KeyDown(key, shift);
+  if (key == 0 || !IsLoaded()) return true;
+  return DialogKey(control, key, shift);
+}
+
+bool Form::OnKeyUp(int control, int virtualKey, unsigned shift) {
+  if (!IsLoaded() || (control != 0 && !IsControl(control))) return false;
+  int key = virtualKey;
+  Form_KeyUp(control == 0 ? nullptr : &ById(control), key, shift);
+  return key == 0;
+}
+
+void Form::OnMouse(int control, const MouseInput& input) {
+  if (!IsLoaded()) return;
+  if (IsControl(control)) {
+    Control_Mouse(ById(control), input);
+  } else if (control == 0 && input.event == MouseEvent::kMove) {
+    Form_MouseMove(input);
+  }
+}
+
+void Form::OnFocusMoved(int control) {
+  // Without a control the focus has left the form for a while and comes back to the same one.
+  if (!IsControl(control) || control == focused_) return;
+  focused_ = control;
+  MarkDefaultButton();
+}
+
+void Form::OnMenuOpened(MenuItem& menu) {
+  if (IsLoaded()) RaiseFor(menuOpens_, menu.name, menu.index);
+}
+
+void Form::OnMenuClicked(MenuItem& item) {
+  if (!IsLoaded() || !item.enabled || !item.visible) return;
+  RaiseFor(menuClicked_, item.name, item.index);
+}
+
+void Form::OnActivated() {
+  if (!IsLoaded()) return;
+  EnsureFocus();
+  forms_->Host().SetFocus(handle_, focused_);
+  Form_Activate();
+}
+
+void Form::OnPlaced(ShowState state, const TwipsRect& place) {
+  if (!IsLoaded()) return;
+  // A hidden window is never minimized or maximized yet; the model says how it will be shown.
+  if (!state_.visible) state = state_.windowState;
+  bool changed = state != state_.windowState;
+  bool moved = false;
+  state_.windowState = state;
+  if (state != ShowState::kMinimized) {
+    moved = place.left != state_.place.left || place.top != state_.place.top;
+    changed = changed || place.width != state_.place.width || place.height != state_.place.height;
+    const TwipsRect growth = FrameGrowth();
+    state_.place = place;
+    place_ = {place.left, place.top, place.width - growth.width, place.height - growth.height};
+  }
+  if (!shownBefore_) return;
+  if (changed) {
+    Form_Resize();
+  } else if (moved) {
+    Form_Move();
+  }
+}
+
+void Form::OnDpiChanged() {
+  if (!IsLoaded()) return;
+  const TwipsRect place = RealPlace();
+  if (state_.windowState == ShowState::kNormal && place != state_.place) {
+    state_.place = place;
+    forms_->Host().MoveWindow(handle_);
+  }
+  if (shownBefore_) Form_Resize();
+}
+
+void Form::OnSysColorChange() {
+  if (IsLoaded()) Form_SysColorChange();
+}
+
+void Form::OnCloseRequested(CloseReason reason) { Unload(reason); }
+
+void Form::OnTimer(int control) {
+  // Any program may post a tick.
+  if (!IsControl(control) || StateOf(control).kind != ControlKind::kTimer) return;
+  Control& timer = ById(control);
+  if (timer.Enabled()) RaiseClick(timer);
+}
+
+void Form::OnUncaught() noexcept { forms_->ReportUncaught(); }
+
+}  // namespace korvale

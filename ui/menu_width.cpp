@@ -1,0 +1,50 @@
+#include "ui/menu_width.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "util/characters.h"
+
+namespace korvale {
+namespace {
+
+/// What check mark, margins and border take beside the text, also where they are large.
+constexpr Twips kBesideText = 2400;
+
+/// The longest beginning of the caption that fits with "..." behind it; the caption when all fits.
+std::string Fitting(FormHost& host, WindowHandle hwnd, const std::string& caption, Twips room) {
+  const auto fits = [&](const std::string& text) {
+    return host.GetTextExtentPoint32W(hwnd, text) <= room;
+  };
+  if (fits(caption)) return caption;
+  std::size_t shortest = 0;
+  std::size_t tooLong = SplitCharacters(caption).size();
+  const auto beginning = [&](std::size_t characters) {
+    std::string text;
+    for (const std::string_view character : SplitCharacters(caption)) {
+      if (characters-- == 0) break;
+      text += character;
+    }
+    return text + "...";
+  };
+  while (tooLong - shortest > 1) {
+    const std::size_t middle = (shortest + tooLong) / 2;
+    (fits(beginning(middle)) ? shortest : tooLong) = middle;
+  }
+  return beginning(shortest);
+}
+
+}  // namespace
+
+void FitMenuToScreen(FormHost& host, WindowHandle hwnd, MenuItem& menu) {
+  const Twips screen = std::min(host.GetMonitorInfoW(hwnd).width, host.MonitorFromPoint().width);
+  for (const auto& item : menu.items) {
+    const std::string text = Fitting(host, hwnd, item->caption, screen - kBesideText);
+    item->shown = text == item->caption ? "" : text;
+  }
+}
+
+}  // namespace korvale

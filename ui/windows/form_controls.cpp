@@ -1,0 +1,207 @@
+#include "ui/windows/form_controls.h"
+
+#include <algorithm>
+
+#include "platform/windows/text.h"
+#include "ui/windows/control_content.h"
+#include "ui/windows/control_window.h"
+#include "ui/windows/system_fonts.h"
+#include "ui/windows/window_classes.h"
+
+namespace korvale {
+namespace {
+
+constexpr int kDroppedEntries = 9;
+constexpr int kComboBorders = 6;
+
+/// Gives a combo box the height of its text field; the window itself is as high as its open list.
+void PlaceCombo(HWND window, const PixelPlace& place) {
+  SendMessageW(window, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), place.height - kComboBorders);
+  const auto entry = static_cast<int>(SendMessageW(window, CB_GETITEMHEIGHT, 0, 0));
+  MoveWindow(window, place.left, place.top, place.width,
+             place.height + entry * kDroppedEntries + kComboBorders, TRUE);
+}
+
+}  // namespace
+
+bool FormControls::Create(HWND form, const std::wstring& pageClass) {
+  formWindow_ = form;
+  MakeFont();
+  toolTips_.Create(form, instance_);
+  return std::ranges::all_of(
+      form_->controls, [&](const ControlState& control) { return CreateOne(control, pageClass); });
+}
+
+bool FormControls::CreateOne(const ControlState& control, const std::wstring& pageClass) {
+  POINT origin{};
+  const HWND window =
+      CreateControlWindow(control, Holder(control, origin), instance_, pageClass.c_str());
+  windows_.push_back(window);
+  icons_.emplace_back();
+  if (window == nullptr) return !HasWindow(control.kind);
+  SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(font_.Get()), FALSE);
+  using enum ControlProperty;
+  for (const ControlProperty property : {kItems, kText, kPlace, kValue, kEnabled, kVisible}) {
+    Apply(control, property);
+  }
+  return true;
+}
+
+void FormControls::MakeFont() {
+  UniqueFont font = MakeSystemFont(&NONCLIENTMETRICSW::lfMessageFont, Dpi());
+  for (const HWND window : windows_) {
+    if (window != nullptr) {
+      SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(font.Get()), FALSE);
+    }
+  }
+  font_ = std::move(font);
+}
+
+void FormControls::ChangeDpi() {
+  MakeFont();
+  toolTips_.ChangeDpi();
+  for (const ControlState& control : form_->controls) {
+    if (Window(control.id) != nullptr) Apply(control, ControlProperty::kPlace);
+  }
+  InvalidateRect(formWindow_, nullptr, TRUE);
+}
+
+void FormControls::Update(int control, ControlProperty property) {
+  if (Window(control) == nullptr) return;
+  const bool outer = std::exchange(updating_, true);
+  Apply(State(control), property);
+  // What stands in a frame is no child of the frame's window.
+  const bool inherited = property == ControlProperty::kPlace ||
+                         property == ControlProperty::kVisible ||
+                         property == ControlProperty::kEnabled;
+  if (inherited) {
+    for (const ControlState& held : form_->controls) {
+      if (held.container == control) Update(held.id, property);
+    }
+  }
+  updating_ = outer;
+}
+
+void FormControls::Apply(const ControlState& control, ControlProperty property) {
+  const HWND window = Window(control.id);
+  const bool list = IsComboKind(control.kind) || control.kind == ControlKind::kTabStrip;
+  switch (property) {
+    case ControlProperty::kText:
+      if (control.kind != ControlKind::kDropDownList) ShowText(window, control);
+      break;
+    case ControlProperty::kPlace:
+      ApplyPlace(control);
+      break;
+    case ControlProperty::kVisible:
+      ApplyVisible(control);
+      break;
+    case ControlProperty::kEnabled:
+      EnableWindow(window, IsEnabled(control));
+      break;
+    case ControlProperty::kValue:
+      if (IsButtonKind(control.kind)) {
+        SendMessageW(window, BM_SETCHECK, control.value != 0 ? BST_CHECKED : BST_UNCHECKED, 0);
+      }
+      break;
+    case ControlProperty::kColors:
+      InvalidateRect(window, nullptr, TRUE);
+      break;
+    case ControlProperty::kBorder:
+      ShowBorder(window, control);
+      break;
+    case ControlProperty::kItems:
+      if (list) ShowItems(window, control);
+      break;
+    case ControlProperty::kListIndex:
+      if (list) ShowListIndex(window, control);
+      break;
+    case ControlProperty::kToolTip:
+      ApplyTip(control);
+      break;
+    case ControlProperty::kDefault:
+      if (control.kind == ControlKind::kButton) ShowDefault(window, control);
+      break;
+  }
+}
+
+void FormControls::ApplyPlace(const ControlState& control) {
+  POINT origin{};
+  Holder(control, origin);
+  PixelPlace place = ToPixels(control.place, Dpi());
+  place.left += origin.x;
+  place.top += origin.y;
+  if (IsComboKind(control.kind)) {
+    PlaceCombo(Window(control.id), place);
+  } else {
+    // A line has no height of its own.
+    if (control.kind == ControlKind::kLine) {
+      place.width = std::max(place.width, 2);
+      place.height = std::max(place.height, 2);
+    }
+    MoveWindow(Window(control.id), place.left, place.top, place.width, place.height, TRUE);
+  }
+  if (control.kind == ControlKind::kImage) ApplyIcon(control);
+  ApplyTip(control);
+}
+
+void FormControls::ApplyVisible(const ControlState& control) {
+  ShowWindow(Window(control.id), IsVisible(control) ? SW_SHOWNA : SW_HIDE);
+  ApplyTip(control);
+}
+
+void FormControls::ApplyTip(const ControlState& control) {
+  toolTips_.Show(Window(control.id), ToUtf16(control.toolTip), IsVisible(control));
+}
+
+void FormControls::ApplyIcon(const ControlState& control) {
+  const PixelPlace place = ToPixels(control.place, Dpi());
+  UniqueIcon icon = LoadProgramIcon(instance_, std::min(place.width, place.height));
+  SendMessageW(Window(control.id), STM_SETICON, reinterpret_cast<WPARAM>(icon.Get()), 0);
+  icons_[static_cast<std::size_t>(control.id) - 1] = std::move(icon);
+}
+
+HWND FormControls::Holder(const ControlState& control, POINT& origin) const {
+  if (control.container == 0) return formWindow_;
+  const ControlState& container = State(control.container);
+  if (container.kind == ControlKind::kPage) return Window(container.id);
+  origin.x += ToPixels(container.place.left, Dpi());
+  origin.y += ToPixels(container.place.top, Dpi());
+  return Holder(container, origin);
+}
+
+bool FormControls::IsVisible(const ControlState& control) const {
+  return control.visible && (control.container == 0 || IsVisible(State(control.container)));
+}
+
+bool FormControls::IsEnabled(const ControlState& control) const {
+  return control.enabled && (control.container == 0 || IsEnabled(State(control.container)));
+}
+
+HWND FormControls::Window(int control) const {
+  const auto index = static_cast<std::size_t>(control) - 1;
+  return control > 0 && index < windows_.size() ? windows_[index] : nullptr;
+}
+
+int FormControls::Find(WPARAM number) const {
+  const bool known = number > 0 && number <= windows_.size();
+  return known && windows_[number - 1] != nullptr ? static_cast<int>(number) : 0;
+}
+
+int FormControls::IdOf(HWND window) const {
+  for (HWND each = window; each != nullptr && each != formWindow_; each = GetParent(each)) {
+    const auto found = std::ranges::find(windows_, each);
+    if (found != windows_.end()) return static_cast<int>(found - windows_.begin()) + 1;
+  }
+  return 0;
+}
+
+const ControlState& FormControls::State(int control) const {
+  return form_->controls[static_cast<std::size_t>(control) - 1];
+}
+
+bool FormControls::IsListDropped(int control) const {
+  return control != 0 && IsComboKind(State(control).kind) &&
+         SendMessageW(Window(control), CB_GETDROPPEDSTATE, 0, 0) != 0;
+}
+
+}  // namespace korvale

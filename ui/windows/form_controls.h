@@ -1,0 +1,66 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+#include "platform/form_model.h"
+#include "platform/windows/handles.h"
+#include "ui/windows/tool_tips.h"
+#include "ui/windows/units.h"
+
+namespace korvale {
+
+/// The windows of a form's controls, kept as the model says.
+class FormControls {
+ public:
+  FormControls(const FormState& form, HINSTANCE instance) : form_(&form), instance_(instance) {}
+
+  /// Makes the controls in the order of the model; `pageClass` is the window class of pages.
+  /// False when Windows refused one of them.
+  bool Create(HWND form, const std::wstring& pageClass);
+  /// The form's window goes.
+  void Drop() { toolTips_.Drop(); }
+  /// Shows what has changed in the model.
+  void Update(int control, ControlProperty property);
+  /// The form stands on a screen of other dots per inch.
+  void ChangeDpi();
+
+  /// The window of a control; null for a control without one.
+  HWND Window(int control) const;
+  /// The control that this window is or belongs to; 0 = none.
+  int IdOf(HWND window) const;
+  /// The control of this number, as messages carry it; 0 when it is none or has no window.
+  int Find(WPARAM number) const;
+  const ControlState& State(int control) const;
+  bool IsListDropped(int control) const;
+  /// True while Update runs: what the windows then report is no doing of the user.
+  bool Updating() const { return updating_; }
+  ToolTips& Tips() { return toolTips_; }
+
+ private:
+  UINT Dpi() const { return GetDpiForWindow(formWindow_); }
+  void MakeFont();
+  bool CreateOne(const ControlState& control, const std::wstring& pageClass);
+  void Apply(const ControlState& control, ControlProperty property);
+  void ApplyPlace(const ControlState& control);
+  void ApplyVisible(const ControlState& control);
+  void ApplyTip(const ControlState& control);
+  void ApplyIcon(const ControlState& control);
+  /// The window that holds the control, and where the place of the control counts from in it.
+  HWND Holder(const ControlState& control, POINT& origin) const;
+  bool IsVisible(const ControlState& control) const;
+  bool IsEnabled(const ControlState& control) const;
+
+  const FormState* form_;
+  HINSTANCE instance_;
+  HWND formWindow_ = nullptr;
+  std::vector<HWND> windows_;
+  std::vector<UniqueIcon> icons_;
+  UniqueFont font_;
+  ToolTips toolTips_;
+  bool updating_ = false;
+};
+
+}  // namespace korvale

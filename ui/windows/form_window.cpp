@@ -1,0 +1,268 @@
+#include "ui/windows/form_window.h"
+
+// After windows.h, which it needs.
+#include <commctrl.h>
+
+#include "platform/windows/text.h"
+#include "ui/windows/control_window.h"
+#include "ui/windows/message_guard.h"
+
+namespace korvale {
+
+DWORD FormStyle(const FormState& form) {
+  if (form.border == BorderStyle::kNone) return WS_POPUP;
+  DWORD style = WS_CAPTION | WS_SYSMENU;
+  // When a pop-up that was in front goes, Windows brings its owner forward.
+  if (!form.inTaskbar) style |= WS_POPUP;
+  if (form.border == BorderStyle::kSizable) style |= WS_THICKFRAME;
+  if (form.minimizeBox) style |= WS_MINIMIZEBOX;
+  if (form.maximizeBox) style |= WS_MAXIMIZEBOX;
+  if (form.modalFrame) style |= DS_MODALFRAME;
+  return style;
+}
+
+DWORD FormExStyle(const FormState& form) {
+  DWORD style = WS_EX_CONTROLPARENT;
+  if (form.modalFrame) style |= WS_EX_DLGMODALFRAME;
+  // An owned window has a place in the taskbar only when it asks for one.
+  if (form.inTaskbar) style |= WS_EX_APPWINDOW;
+  if (form.aside) style |= WS_EX_NOACTIVATE | WS_EX_TOPMOST;
+  return style;
+}
+
+namespace {
+
+/// The number of a control or timer; 0, which is none, for what cannot be one.
+int ToId(WPARAM id) {
+  constexpr WPARAM kHighest = 0xFFFF;
+  return id <= kHighest ? static_cast<int>(id) : 0;
+}
+
+/// The user is in menus of this thread, whatever messages say.
+bool IsInMenus() {
+  GUITHREADINFO info{};
+  info.cbSize = sizeof(info);
+  return GetGUIThreadInfo(GetCurrentThreadId(), &info) != FALSE &&
+         (info.flags & GUI_INMENUMODE) != 0;
+}
+
+}  // namespace
+
+FormWindow::FormWindow(const FormState& form, WindowClasses& classes, BrushCache& brushes,
+                       const MousePointer& pointer)
+    : form_(&form),
+      classes_(&classes),
+      brushes_(&brushes),
+      pointer_(&pointer),
+      controls_(form, classes.Instance()),
+      menu_(form) {}
+
+FormWindow::~FormWindow() { Destroy(); }
+
+HWND FormWindow::Create(HWND owner, FormEvents& events) {
+  const std::wstring className = classes_->Register(form_->name, FormProcedure);
+  const std::wstring pageClass = classes_->Register("Page", PageProcedure);
+  const PixelPlace place = ToScreenPixels(form_->place, GetDpiForSystem());
+  hwnd_ = ::CreateWindowExW(FormExStyle(*form_), className.c_str(), ToUtf16(form_->caption).c_str(),
+                            FormStyle(*form_), place.left, place.top, place.width, place.height,
+                            owner, nullptr, classes_->Instance(), this);
+  if (hwnd_ == nullptr) return nullptr;
+  // Underlines of access keys and focus frames appear once the keyboard is used.
+  SendMessageW(hwnd_, WM_CHANGEUISTATE, MAKEWPARAM(UIS_INITIALIZE, 0), 0);
+  if (!controls_.Create(hwnd_, pageClass)) {
+    Destroy();
+    return nullptr;
+  }
+  for (const ControlState& control : form_->controls) {
+    Watch(controls_.Window(control.id), control.id);
+  }
+  watched_ = true;
+  keys_.emplace(hwnd_, events_, controls_);
+  ShowMenuBar();
+  ShowPlace();
+  events_.Connect(events);
+  return hwnd_;
+}
+
+void FormWindow::Destroy() {
+  destroying_ = true;
+  events_.Disconnect();
+  controls_.Drop();
+  if (hwnd_ != nullptr) ::DestroyWindow(hwnd_);
+}
+
+void FormWindow::Watch(HWND control, int id) {
+  if (control == nullptr) return;
+  const auto form = reinterpret_cast<DWORD_PTR>(this);
+  SetWindowSubclass(control, ControlProcedure, static_cast<UINT_PTR>(id), form);
+  Watch(FindWindowExW(control, nullptr, WC_EDITW, nullptr), id);
+}
+
+void FormWindow::ShowCaption() { ::SetWindowTextW(hwnd_, ToUtf16(form_->caption).c_str()); }
+
+void FormWindow::ShowMenuBar() {
+  barOutdated_ = menuOpen_;  // A menu must not change under the user.
+  if (!menuOpen_) menu_.ShowBar(hwnd_);
+}
+
+void FormWindow::Show(int command) {
+  // A window that comes up under the mouse is no movement of the mouse.
+  GetCursorPos(&lastMouse_);
+  ::ShowWindow(hwnd_, command);
+}
+
+void FormWindow::SetFocus(int control) {
+  if (GetActiveWindow() != hwnd_ || IsIconic(hwnd_) != FALSE) return;
+  ::SetFocus(control == 0 ? hwnd_ : controls_.Window(control));
+}
+
+void FormWindow::TrackPopup(MenuItem& menu) {
+  const UniqueMenu popup = menu_.MakePopup(menu);
+  POINT at{};
+  GetCursorPos(&at);
+  const BOOL command = ::TrackPopupMenuEx(popup.Get(), TPM_RETURNCMD, at.x, at.y, hwnd_, nullptr);
+  MenuItem* const chosen = menu_.Chosen(static_cast<UINT>(command));
+  if (chosen != nullptr) events_.Tell([&](FormEvents& events) { events.OnMenuClicked(*chosen); });
+}
+
+void FormWindow::RequestClose(CloseReason reason) {
+  events_.Tell([&](FormEvents& events) { events.OnCloseRequested(reason); });
+}
+
+bool FormWindow::Filter(const MSG& message) {
+  controls_.Tips().Relay(message);
+  return keys_->Filter(message);
+}
+
+LRESULT CALLBACK FormWindow::FormProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+  auto* form = reinterpret_cast<FormWindow*>(GetWindowLongPtrW(hwnd, GWLP_USERDATA));
+  if (message == WM_NCCREATE && form == nullptr) {
+    const auto* creation = reinterpret_cast<const CREATESTRUCTW*>(lParam);
+    auto* const created = static_cast<FormWindow*>(creation->lpCreateParams);
+    created->hwnd_ = hwnd;
+    SetWindowLongPtrW(hwnd, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(created));
+    form = created;
+  }
+  if (form == nullptr) return DefWindowProcW(hwnd, message, wParam, lParam);
+  // A handler may destroy the form.
+  const std::shared_ptr<FormWindow> alive = form->shared_from_this();
+  if (form->IsForged(message, wParam)) return 0;
+  const LRESULT result = form->Process(message, wParam, lParam);
+  if (message == WM_NCDESTROY) {
+    SetWindowLongPtrW(hwnd, GWLP_USERDATA, 0);
+    form->hwnd_ = nullptr;
+  }
+  return result;
+}
+
+bool FormWindow::IsForged(UINT message, WPARAM wParam) const {
+  if (IsLifeMessage(message)) return watched_ && !destroying_ && IsSentByOthers();
+  return IsForgedActivation(hwnd_, message, wParam);
+}
+
+LRESULT FormWindow::Process(UINT message, WPARAM wParam, LPARAM lParam) {
+  const HWND hwnd = hwnd_;
+  if (const auto result = HandleFromControls(message, wParam, lParam)) return *result;
+  if (const auto result = HandleMenu(message, wParam, lParam)) return *result;
+  if (const auto result = HandleEnd(message, wParam)) return *result;
+  if (const auto result = HandleMouse(message, wParam, lParam)) return *result;
+  const LRESULT result = DefWindowProcW(hwnd, message, wParam, lParam);
+  switch (message) {
+    case WM_ACTIVATE:
+      if (LOWORD(wParam) != WA_INACTIVE) {
+        events_.Tell([](FormEvents& events) { events.OnActivated(); });
+      }
+      break;
+    case WM_WINDOWPOSCHANGED:
+      TellPlaced();
+      break;
+    case WM_GETMINMAXINFO:
+      if (lParam != 0) LimitSize(*reinterpret_cast<MINMAXINFO*>(lParam));
+      break;
+    case WM_SIZING:
+      if (lParam == 0) break;
+      KeepHeight(wParam, *reinterpret_cast<RECT*>(lParam));
+      return TRUE;
+    case WM_TIMER:
+      events_.Tell([&](FormEvents& events) { events.OnTimer(ToId(wParam)); });
+      break;
+    case WM_DPICHANGED:
+      OnDpiChanged(LOWORD(wParam), lParam);
+      break;
+    case WM_SETTINGCHANGE:
+      if (wParam == SPI_SETNONCLIENTMETRICS) OnMetricsChanged();
+      if (wParam == SPI_SETHIGHCONTRAST) OnColorsChanged();
+      break;
+    case WM_SYSCOLORCHANGE:
+      OnColorsChanged();
+      break;
+    default:
+      break;
+  }
+  return result;
+}
+
+std::optional<LRESULT> FormWindow::HandleEnd(UINT message, WPARAM wParam) {
+  switch (message) {
+    case WM_CLOSE:
+      RequestClose(CloseReason::kUser);
+      return 0;
+    case WM_QUERYENDSESSION:
+      return TRUE;
+    case WM_ENDSESSION:
+      if (wParam != FALSE && form_->inTaskbar) RequestClose(CloseReason::kSession);
+      return 0;
+    case WM_DESTROY:
+      events_.Disconnect();
+      menu_.DropBar(hwnd_);
+      controls_.Drop();
+      return 0;
+    default:
+      return std::nullopt;
+  }
+}
+
+std::optional<LRESULT> FormWindow::HandleMenu(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_INITMENUPOPUP: {
+      const auto opening = reinterpret_cast<HMENU>(wParam);
+      MenuItem* const menu = HIWORD(lParam) == FALSE ? menu_.Opening(opening) : nullptr;
+      if (menu == nullptr) return std::nullopt;
+      events_.Tell([&](FormEvents& events) { events.OnMenuOpened(*menu); });
+      if (events_.Connected() && menu_.Opening(opening) == menu) menu_.Refill(opening, *menu);
+      return 0;
+    }
+    case WM_ENTERMENULOOP:
+      // Another program's word counts only where it holds: it would keep the bar as it is for good.
+      menuOpen_ = !IsSentByOthers() || IsInMenus();
+      return std::nullopt;
+    case WM_EXITMENULOOP:
+      menuOpen_ = false;
+      if (barOutdated_) ShowMenuBar();
+      return std::nullopt;
+    default:
+      return std::nullopt;
+  }
+}
+
+std::optional<LRESULT> FormWindow::HandleMouse(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_SETCURSOR && LOWORD(lParam) == HTCLIENT &&
+      *pointer_ != MousePointer::kDefault) {
+    ::SetCursor(LoadPointer(classes_->Instance(), *pointer_));
+    return TRUE;
+  }
+  // A click, also one on its title bar, shall not take the keyboard either.
+  if (message == WM_MOUSEACTIVATE && form_->aside) return MA_NOACTIVATEANDEAT;
+  if (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) {
+    TellMouse(0, hwnd_, message, wParam, lParam);
+  }
+  return std::nullopt;
+}
+
+void FormWindow::OnColorsChanged() {
+  brushes_->Clear();
+  RedrawWindow(hwnd_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+  events_.Tell([](FormEvents& events) { events.OnSysColorChange(); });
+}
+
+}  // namespace korvale

@@ -1,0 +1,107 @@
+#pragma once
+
+#include <windows.h>
+
+#include <memory>
+#include <optional>
+
+#include "platform/form_host.h"
+#include "ui/windows/brush_cache.h"
+#include "ui/windows/event_sink.h"
+#include "ui/windows/form_controls.h"
+#include "ui/windows/form_menu.h"
+#include "ui/windows/key_filter.h"
+#include "ui/windows/window_classes.h"
+
+namespace korvale {
+
+/// The window of one form, with its controls and menus. Lives on while its window procedure runs.
+class FormWindow : public std::enable_shared_from_this<FormWindow> {
+ public:
+  /// `pointer` is the live mouse pointer over all forms.
+  FormWindow(const FormState& form, WindowClasses& classes, BrushCache& brushes,
+             const MousePointer& pointer);
+  ~FormWindow();
+  FormWindow(const FormWindow&) = delete;
+  FormWindow& operator=(const FormWindow&) = delete;
+
+  /// Makes the hidden window; 0 when Windows refused. Events are told from the return on.
+  HWND Create(HWND owner, FormEvents& events);
+  /// Destroys the window; no event is told any more.
+  void Destroy();
+
+  HWND Handle() const { return hwnd_; }
+  const FormState& Model() const { return *form_; }
+  FormControls& Controls() { return controls_; }
+
+  void ShowCaption();
+  void ShowPlace();
+  void ShowMenuBar();
+  void Show(int command);
+  void SetFocus(int control);
+  void TrackPopup(MenuItem& menu);
+  void RequestClose(CloseReason reason);
+  /// Sees each message of the form's windows first; true when it must not be dispatched.
+  bool Filter(const MSG& message);
+
+ private:
+  static LRESULT CALLBACK FormProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+  static LRESULT CALLBACK PageProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+  static LRESULT CALLBACK ControlProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam,
+                                           UINT_PTR id, DWORD_PTR form);
+
+  /// True for a message that another program made up: the window's state does not bear it out.
+  bool IsForged(UINT message, WPARAM wParam) const;
+  bool IsForgedForControl(int control, HWND window, UINT message, WPARAM wParam,
+                          LPARAM lParam) const;
+  LRESULT Process(UINT message, WPARAM wParam, LPARAM lParam);
+  /// Messages that controls and pages send; nothing for others.
+  std::optional<LRESULT> HandleFromControls(UINT message, WPARAM wParam, LPARAM lParam);
+  std::optional<LRESULT> HandleMenu(UINT message, WPARAM wParam, LPARAM lParam);
+  std::optional<LRESULT> HandleEnd(UINT message, WPARAM wParam);
+  std::optional<LRESULT> HandleMouse(UINT message, WPARAM wParam, LPARAM lParam);
+  void OnCommand(WPARAM wParam, LPARAM lParam);
+  void OnNotify(WPARAM wParam);
+  /// A list has closed: Esc may have brought the former choice back without a word.
+  void OnListClosed(int control);
+  void OnControl(int control, UINT notification);
+  void OnCombo(int control, UINT notification);
+  std::optional<LRESULT> ControlColors(HDC dc, HWND window);
+  void TellMouse(int control, HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  void ClickPicture(int control);
+  void TellTyped(int control);
+  void TellListPicked(int control);
+  /// Tells the choice of a list or tab strip when it is not the model's.
+  void TellIfPicked(int control);
+  void TellPlaced();
+  void LimitSize(MINMAXINFO& limits) const;
+  void KeepHeight(WPARAM edge, RECT& place) const;
+  void OnDpiChanged(UINT dpi, LPARAM wanted);
+  void OnMetricsChanged();
+  void OnColorsChanged();
+  void Watch(HWND control, int id);
+
+  const FormState* form_;
+  WindowClasses* classes_;
+  BrushCache* brushes_;
+  const MousePointer* pointer_;
+  EventSink events_;
+  FormControls controls_;
+  FormMenu menu_;
+  std::optional<KeyFilter> keys_;
+  HWND hwnd_ = nullptr;
+  int pressed_ = 0;                    // The label or image that the mouse button went down on.
+  POINT lastMouse_{};                  // Where the mouse was last told to be, on the screen.
+  bool placing_ = false;               // The window is being placed by the model.
+  std::optional<PixelPlace> refused_;  // Where Windows put it instead of where the model wanted.
+  bool watched_ = false;               // The window and its controls are complete.
+  bool destroying_ = false;            // The window goes by our own doing.
+  bool menuOpen_ = false;              // The user is in the menus.
+  bool barOutdated_ = false;           // The menu bar changed meanwhile.
+};
+
+/// The style bits and extended style bits of the form's window.
+DWORD FormStyle(const FormState& form);
+DWORD FormExStyle(const FormState& form);
+
+}  // namespace korvale

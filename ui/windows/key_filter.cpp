@@ -1,0 +1,92 @@
+#include "ui/windows/key_filter.h"
+
+namespace korvale {
+namespace {
+
+/// In a key message: the key was down before.
+constexpr LPARAM kWasDown = 1L << 30;
+
+/// Keys and characters are no greater, whatever another program posts.
+constexpr WPARAM kHighestUnit = 0xFFFF;
+
+bool IsSurrogate(WPARAM unit) { return unit >= 0xD800 && unit <= 0xDFFF; }
+
+/// Characters that a one-line text box has no use for and would beep at.
+bool MakesTextBoxBeep(WPARAM character) {
+  return character == VK_RETURN || character == VK_ESCAPE || character == VK_TAB ||
+         character == L'\n';
+}
+
+}  // namespace
+
+unsigned HeldShiftState() {
+  unsigned shift = kNoShift;
+  if (GetKeyState(VK_SHIFT) < 0) shift |= kShift;
+  if (GetKeyState(VK_CONTROL) < 0) shift |= kCtrl;
+  if (GetKeyState(VK_MENU) < 0) shift |= kAlt;
+  if (GetKeyState(VK_LWIN) < 0 || GetKeyState(VK_RWIN) < 0) shift |= kWindows;
+  return shift;
+}
+
+bool KeyFilter::Filter(const MSG& message) {
+  if (message.wParam > kHighestUnit) return false;
+  const int control = controls_->IdOf(message.hwnd);
+  switch (message.message) {
+    case WM_KEYDOWN:
+    case WM_SYSKEYDOWN:
+      return FilterDown(control, message);
+    case WM_KEYUP:
+    case WM_SYSKEYUP:
+      return FilterUp(control, message);
+    case WM_CHAR:
+    case WM_SYSCHAR:
+      return FilterCharacter(control, message);
+    default:
+      return false;
+  }
+}
+
+bool KeyFilter::FilterDown(int control, const MSG& message) {
+  const auto key = static_cast<int>(message.wParam);
+  if (key == VK_MENU) altUsed_ = false;
+  ShowCues(key);
+  const bool repeated = (message.lParam & kWasDown) != 0;
+  const bool taken = events_->Ask([&](FormEvents& events) {
+    return events.OnKeyDown(control, key, HeldShiftState(), repeated);
+  });
+  if (taken && message.message == WM_SYSKEYDOWN) altUsed_ = true;
+  return taken;
+}
+
+bool KeyFilter::FilterUp(int control, const MSG& message) {
+  const auto key = static_cast<int>(message.wParam);
+  const bool taken = events_->Ask(
+      [&](FormEvents& events) { return events.OnKeyUp(control, key, HeldShiftState()); });
+  // Windows has not seen the key pressed with Alt and would take Alt alone for the way to the menu.
+  if (key == VK_MENU && std::exchange(altUsed_, false)) return true;
+  return taken;
+}
+
+bool KeyFilter::FilterCharacter(int control, const MSG& message) {
+  if (!IsSurrogate(message.wParam)) {
+    const bool taken = events_->Ask([&](FormEvents& events) {
+      return events.OnCharacter(control, static_cast<char32_t>(message.wParam), HeldShiftState());
+    });
+    if (taken && message.message == WM_SYSCHAR) altUsed_ = true;
+    if (taken) return true;
+  }
+  return control != 0 && MakesTextBoxBeep(message.wParam) &&
+         (SendMessageW(message.hwnd, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) != 0 &&
+         (GetWindowLongPtrW(message.hwnd, GWL_STYLE) & ES_MULTILINE) == 0;
+}
+
+void KeyFilter::ShowCues(int virtualKey) const {
+  const bool keyboardWay = virtualKey == VK_MENU || virtualKey == VK_F10 || virtualKey == VK_TAB ||
+                           (virtualKey >= VK_LEFT && virtualKey <= VK_DOWN);
+  if (keyboardWay) {
+    SendMessageW(form_, WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEACCEL | UISF_HIDEFOCUS),
+                 0);
+  }
+}
+
+}  // namespace korvale

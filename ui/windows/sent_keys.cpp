@@ -1,0 +1,34 @@
+#include <utility>
+#include <vector>
+
+#include "ui/windows/windows_form_host.h"
+
+namespace korvale {
+namespace {
+
+INPUT KeyInput(int virtualKey, DWORD flags) {
+  INPUT input{};
+  input.type = INPUT_KEYBOARD;
+  input.ki.wVk = static_cast<WORD>(virtualKey);
+  input.ki.wScan =
+      static_cast<WORD>(MapVirtualKeyW(static_cast<UINT>(virtualKey), MAPVK_VK_TO_VSC));
+  input.ki.dwFlags = flags;
+  return input;
+}
+
+}  // namespace
+
+void WindowsFormHost::SendInput(WindowHandle hwnd, int virtualKey, unsigned shift) {
+  if (GetForegroundWindow() != ToHwnd(hwnd)) return;
+  constexpr std::pair<unsigned, int> kShiftKeys[] = {
+      {kShift, VK_SHIFT}, {kCtrl, VK_CONTROL}, {kAlt, VK_MENU}};
+  std::vector<INPUT> inputs = {KeyInput(virtualKey, 0), KeyInput(virtualKey, KEYEVENTF_KEYUP)};
+  for (const auto& [bit, key] : kShiftKeys) {
+    if ((shift & bit) == 0) continue;
+    inputs.insert(inputs.begin(), KeyInput(key, 0));
+    inputs.push_back(KeyInput(key, KEYEVENTF_KEYUP));
+  }
+  ::SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+}
+
+}  // namespace korvale

@@ -1,0 +1,119 @@
+#include "ui/windows/tool_tips.h"
+
+// After windows.h, which it needs.
+#include <commctrl.h>
+
+#include <utility>
+
+#include "ui/windows/message_guard.h"
+#include "ui/windows/system_fonts.h"
+#include "ui/windows/units.h"
+
+namespace korvale {
+namespace {
+
+constexpr Twips kWidestTip = 6000;
+constexpr int kMillisecondsToRead = 20000;
+
+std::wstring WithoutBlanks(const std::wstring& text) {
+  const std::size_t start = text.find_first_not_of(L' ');
+  return start == std::wstring::npos ? L""
+                                     : text.substr(start, text.find_last_not_of(L' ') + 1 - start);
+}
+
+TTTOOLINFOW Tool(HWND window, UINT_PTR id) {
+  TTTOOLINFOW tool{};
+  tool.cbSize = sizeof(tool);
+  tool.hwnd = window;
+  tool.uId = id;
+  return tool;
+}
+
+HWND TextField(HWND control) { return FindWindowExW(control, nullptr, WC_EDITW, nullptr); }
+
+}  // namespace
+
+void ToolTips::Create(HWND form, HINSTANCE instance) {
+  form_ = form;
+  window_.Reset(CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr,
+                                WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT,
+                                CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, form, nullptr,
+                                instance, nullptr));
+  SetWindowSubclass(window_.Get(), Guard, 0, reinterpret_cast<DWORD_PTR>(this));
+  ChangeDpi();
+  Send(TTM_SETDELAYTIME, TTDT_AUTOPOP, kMillisecondsToRead);
+}
+
+void ToolTips::ChangeDpi() {
+  Send(TTM_SETMAXTIPWIDTH, 0, ToPixels(kWidestTip, GetDpiForWindow(form_)));
+}
+
+void ToolTips::Drop() {
+  // Windows destroys it together with a form that it destroys by itself.
+  if (IsWindow(window_.Get()) == FALSE) window_.Release();
+  ours_ = true;
+  window_.Reset();
+}
+
+/// Also what we tell it ourselves counts as sent by others while such a message is being handled.
+LRESULT CALLBACK ToolTips::Guard(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                 DWORD_PTR tips) {
+  const bool ours = reinterpret_cast<const ToolTips*>(tips)->ours_;
+  if (!ours && IsForgedForClass(hwnd, message, wParam, true)) return 0;
+  if (message == WM_NCDESTROY) RemoveWindowSubclass(hwnd, Guard, id);
+  return DefSubclassProc(hwnd, message, wParam, lParam);
+}
+
+void ToolTips::Send(UINT message, WPARAM wParam, LPARAM lParam) {
+  const bool outer = std::exchange(ours_, true);
+  SendMessageW(window_.Get(), message, wParam, lParam);
+  ours_ = outer;
+}
+
+void ToolTips::Show(HWND control, const std::wstring& text, bool shown) {
+  const HWND parent = GetParent(control);
+  const HWND field = TextField(control);
+  const auto controlId = reinterpret_cast<UINT_PTR>(control);
+  const auto fieldId = reinterpret_cast<UINT_PTR>(field);
+  const auto areaId = static_cast<UINT_PTR>(GetDlgCtrlID(control));
+  Remove(form_, controlId);
+  Remove(parent, areaId);
+  if (field != nullptr) Remove(form_, fieldId);
+  if (text.empty() || !shown) return;
+  Add(form_, controlId, TTF_IDISHWND, RECT{}, text);
+  if (field != nullptr) Add(form_, fieldId, TTF_IDISHWND, RECT{}, text);
+  // Over disabled controls and plain labels the mouse belongs to the window below.
+  RECT area;
+  GetWindowRect(control, &area);
+  MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&area), 2);
+  Add(parent, areaId, 0, area, text);
+}
+
+void ToolTips::Relay(const MSG& message) {
+  if (message.message < WM_MOUSEFIRST || message.message > WM_MOUSELAST) return;
+  MSG copy = message;
+  Send(TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&copy));
+}
+
+bool ToolTips::FitsOneLine(const std::wstring& text) const {
+  const auto font = reinterpret_cast<HFONT>(SendMessageW(window_.Get(), WM_GETFONT, 0, 0));
+  return TextWidth(font, text) <= ToPixels(kWidestTip, GetDpiForWindow(form_));
+}
+
+void ToolTips::Add(HWND window, UINT_PTR id, UINT flags, const RECT& area,
+                   const std::wstring& text) {
+  // The blanks around a text would stand before the first of several lines only.
+  std::wstring copy = FitsOneLine(text) ? text : WithoutBlanks(text);
+  TTTOOLINFOW tool = Tool(window, id);
+  tool.uFlags = flags;
+  tool.rect = area;
+  tool.lpszText = copy.data();
+  Send(TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+void ToolTips::Remove(HWND window, UINT_PTR id) {
+  TTTOOLINFOW tool = Tool(window, id);
+  Send(TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+}  // namespace korvale

@@ -1,0 +1,52 @@
+#include "ui/windows/window_classes.h"
+
+#include <algorithm>
+
+#include "platform/windows/text.h"
+
+namespace korvale {
+
+UniqueIcon LoadProgramIcon(HINSTANCE instance, int size) {
+  return UniqueIcon(static_cast<HICON>(
+      LoadImageW(instance, MAKEINTRESOURCEW(kIconResource), IMAGE_ICON, size, size, 0)));
+}
+
+HCURSOR LoadPointer(HINSTANCE instance, MousePointer pointer) {
+  constexpr WORD kArrow = 32512;
+  constexpr WORD kWait = 32514;
+  switch (pointer) {
+    case MousePointer::kHourglass:
+      return LoadCursorW(nullptr, MAKEINTRESOURCEW(kWait));
+    case MousePointer::kCustom:
+      return LoadCursorW(instance, MAKEINTRESOURCEW(kPointerResource));
+    default:
+      return LoadCursorW(nullptr, MAKEINTRESOURCEW(kArrow));
+  }
+}
+
+WindowClasses::WindowClasses(HINSTANCE instance)
+    : instance_(instance),
+      large_(LoadProgramIcon(instance, GetSystemMetrics(SM_CXICON))),
+      small_(LoadProgramIcon(instance, GetSystemMetrics(SM_CXSMICON))) {}
+
+WindowClasses::~WindowClasses() {
+  for (const std::wstring& name : registered_) UnregisterClassW(name.c_str(), instance_);
+}
+
+std::wstring WindowClasses::Register(std::string_view name, WNDPROC procedure) {
+  const std::wstring fullName = L"Korvale." + ToUtf16(name);
+  if (std::ranges::find(registered_, fullName) != registered_.end()) return fullName;
+  WNDCLASSEXW description{};
+  description.cbSize = sizeof(description);
+  description.lpfnWndProc = procedure;
+  description.hInstance = instance_;
+  description.hIcon = large_.Get();
+  description.hIconSm = small_.Get();
+  description.hCursor = LoadPointer(nullptr, MousePointer::kDefault);
+  description.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
+  description.lpszClassName = fullName.c_str();
+  if (RegisterClassExW(&description) != 0) registered_.push_back(fullName);
+  return fullName;
+}
+
+}  // namespace korvale
