@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # What every script needs. Source it from the root of the checkout.
 
 say() { printf '\n== %s\n' "$*"; }
@@ -24,3 +25,23 @@ build() {
   cmake --build --preset "$preset" "${targets[@]}" >"build/$preset.log" 2>&1 ||
     { grep -vE '^\[[0-9]+/' "build/$preset.log" | tail -60; return 1; }
 }
+
+# count_tests WHAT...: sets good, bad and again to what count_tests.py says of WHAT.
+count_tests() {
+  local said
+  said=$(python3 script/lib/count_tests.py "$@") || said='0 1'
+  # shellcheck disable=SC2034 # for the caller
+  read -r good bad again <<<"$said"
+}
+
+# native_tests PRESET: all tests of this build, on all cores; sets good and bad.
+native_tests() {
+  local build=build/$1
+  rm -rf "$build/reports" "$build/results.xml"
+  ctest --test-dir "$build" -j"$(nproc)" --output-on-failure --output-junit results.xml \
+    >"$build-tests.log" 2>&1
+  count_tests ctest "$build/results.xml" "$build/reports"
+}
+
+# show_failures LOG: what tests of GoogleTest say when they do not pass.
+show_failures() { grep -vE '^\[( +OK |-+|=+| RUN +|==+)' "$1" | tail -60; }
