@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # Wine on a screen of its own. Source it, call wine_begin once, then wine_suite for each suite.
 # Everything that was started ends with the script that sources this file.
 
@@ -87,7 +88,11 @@ wine_suite() {
 wine_run() { "$WINE_LOADER" "$@"; }
 
 # The same path as Windows programs write it.
-wine_path() { printf 'Z:%s' "$(realpath "$1" | tr / '\\')"; }
+wine_path() {
+  local path
+  path=$(realpath "$1")
+  printf 'Z:%s' "${path//\//\\}"
+}
 
 # Takes the pictures that the programs under test ask for, until the script ends.
 wine_pictures() {
