@@ -49,7 +49,7 @@ void OtherCopy::RefuseToRunBeside(frmMain& form) {
 }
 
 WindowHandle OtherCopy::FindByCaption(frmMain& form, const InstanceSearch& search) {
-  WindowEnumeration& enumeration = form.Parts().enumeration;
+  WindowEnumeration& enumeration = form.Parts().desktop.enumeration;
   const std::string className = GetWindowClass(platform_->windows, form.Handle());
   for (const std::string& caption : captions_) {
     const WindowHandle found = search(enumeration, className, caption);
@@ -90,7 +90,7 @@ void OtherCopy::BringForward(frmMain& form, WindowHandle copy) {
     return;
   }
   WindowTriple window{copy, GetWindowTitle(windows, copy), GetWindowClass(windows, copy)};
-  form.Parts().actions.ActivateWindow(window, false, true);
+  form.Parts().desktop.actions.ActivateWindow(window, false, true);
 }
 
 }  // namespace korvale

@@ -94,7 +94,7 @@ bool StartUp::RunInstallation(frmMain& form) {
 void StartUp::MentionOtherInstallation(frmMain& form) {
   MainParts& parts = form.Parts();
   const std::string className = GetWindowClass(platform_->windows, form.Handle());
-  if (parts.enumeration.FindByTitleAndClass(parts.identity.productName, className) == 0) {
+  if (parts.desktop.enumeration.FindByTitleAndClass(parts.identity.productName, className) == 0) {
     return;
   }
   form.ShowTip(TipNumber::kOtherInstance,
@@ -135,7 +135,7 @@ void StartUp::LayOut(frmMain& form) {
   const bool onTop = form.Parts().startup.AlwaysOnTop;
   form.CheckAlwaysOnTop(onTop);
   if (onTop) {
-    form.Parts().actions.SetTopmost(form.Handle(), true);
+    form.Parts().desktop.actions.SetTopmost(form.Handle(), true);
   }
   form.ApplyColors();
 }
@@ -178,7 +178,7 @@ void StartUp::FirstActivation(frmMain& form) {
   const RaisedFlag runs(firstActivationRuns_);
   const bool minimized = form.WindowState() == ShowState::kMinimized;
   if (parts.startup.AlwaysOnTop && !minimized) {
-    parts.actions.SetTopmost(form.Handle(), true);
+    parts.desktop.actions.SetTopmost(form.Handle(), true);
   }
   RecordPreviousWindow(form);
   if (parts.state.firstRun) {
@@ -190,17 +190,17 @@ void StartUp::FirstActivation(frmMain& form) {
 
 void StartUp::RecordPreviousWindow(frmMain& form) {
   MainParts& parts = form.Parts();
-  const WindowHandle before = parts.enumeration.FindTopWindow([&](WindowHandle hwnd) {
-    return parts.tracker.AcceptForeground(hwnd, GetWindowTitle(platform_->windows, hwnd));
+  const WindowHandle before = parts.desktop.enumeration.FindTopWindow([&](WindowHandle hwnd) {
+    return parts.desktop.tracker.AcceptForeground(hwnd, GetWindowTitle(platform_->windows, hwnd));
   });
   if (before != 0) {
-    parts.tracker.MoveRecordTo({before, GetWindowTitle(platform_->windows, before),
-                                GetWindowClass(platform_->windows, before)});
-    parts.tracker.ValidatePreviousWindow();
+    parts.desktop.tracker.MoveRecordTo({before, GetWindowTitle(platform_->windows, before),
+                                        GetWindowClass(platform_->windows, before)});
+    parts.desktop.tracker.ValidatePreviousWindow();
   }
   // The user has come to the main window from another one, as they do by a click on it; to a
   // minimized one they have not come.
-  if (form.WindowState() != ShowState::kMinimized) parts.tracker.LookAnew();
+  if (form.WindowState() != ShowState::kMinimized) parts.desktop.tracker.LookAnew();
   if (before != 0 && parts.options.Get().booSelectPrevWinOnStart) {
     SelectPreviousWindow(form);
   }
@@ -208,10 +208,10 @@ void StartUp::RecordPreviousWindow(frmMain& form) {
 
 void StartUp::SelectPreviousWindow(frmMain& form) {
   MainParts& parts = form.Parts();
-  parts.tracker.LookAtForeground();
+  parts.desktop.tracker.LookAtForeground();
   WindowTriple previous = parts.previous.current;
-  if (parts.actions.ActivatePreviousWindow(previous) == kActivationDone) {
-    parts.tracker.RecordSelection(previous);
+  if (parts.desktop.actions.ActivatePreviousWindow(previous) == kActivationDone) {
+    parts.desktop.tracker.RecordSelection(previous);
   }
 }
 
@@ -234,7 +234,7 @@ void StartUp::Unload(frmMain& form, bool booNormalShutDown) {
     form.udmTimersEnabled(false);
     form.SaveOrTellOnce([&form] { form.udmSaveINI(); });
   }
-  parts.tagPasses.RemoveClosed();
+  parts.desktop.tagPasses.RemoveClosed();
   parts.hotKeys.SetHotKeys("REMOVE");
   parts.hook.HookWindowProc("REMOVE", form.Handle());
   form.Collection().UnloadAllExcept("frmMain");

@@ -12,30 +12,6 @@
 
 namespace korvale {
 
-/// Selects Tags as the Window menu does: by the stored handle, else by matching all windows anew.
-class BenchActions : public FakeHotKeyActions {
- public:
-  explicit BenchActions(DispatchDesktop& parts) : parts_(&parts) {}
-
-  bool HasTagCaption(std::int16_t) override { return true; }
-  void mnuWindowParentList_Click(std::int16_t Index) override {
-    MenuItem& entry = *parts_->tags.mnuWindowParentList.Find(Index);
-    if (Activate(entry) != kActivationDone) {
-      parts_->enumeration.RefreshTags();
-      Activate(entry);
-    }
-    parts_->tracker.ValidatePreviousWindow();
-  }
-
- private:
-  ActivationResult Activate(const MenuItem& entry) {
-    WindowTriple window{TagHandle(entry), IdentificationText(entry), TagClass(parts_->tags, entry)};
-    return parts_->windowActions.ActivateWindow(window, false, true);
-  }
-
-  DispatchDesktop* parts_;
-};
-
 struct BenchErrors : ErrorReporters {
   void udmNonFatalError(ErrorPlace, std::int16_t) override {}
 };
@@ -51,7 +27,7 @@ class BenchDesktop {
     }
     AddTag(1, "*** - Editor 1");
     AddTag(2, "*** - Editor " + DecimalText(windowCount));
-    parts_.enumeration.RefreshTags();
+    parts_.routines.enumeration.RefreshTags();
   }
 
   /// Presses the two hot keys in turn, so that each of them changes the foreground.
@@ -62,7 +38,7 @@ class BenchDesktop {
   }
 
   /// Makes the next press look for its window among all of them.
-  void ForgetHandles() { parts_.tagPasses.TagListPass(TagListMode::kUnresolve); }
+  void ForgetHandles() { parts_.routines.tagPasses.TagListPass(TagListMode::kUnresolve); }
 
   /// How many calls to Windows the next press makes.
   std::size_t CallsOfPress() {
@@ -81,16 +57,12 @@ class BenchDesktop {
   }
 
   DispatchDesktop parts_;
-  BenchActions actions_{parts_};
+  FakeHotKeyActions actions_;
   BenchErrors errors_;
   HotKeyTable table_{parts_.hotKeys, parts_.options, parts_.mainWindow};
   HotKeyToggle toggle_{table_, parts_.options, actions_, "Product", "Title"};
-  HotKeyDispatch dispatch_{
-      {parts_.desktop, parts_.desktop, parts_.mainWindow, parts_.forms, parts_.tagPasses,
-       parts_.filter, parts_.windowActions, parts_.tracker, parts_.previous, parts_.suspension,
-       parts_.messages, actions_, toggle_, errors_},
-      "Product",
-      "Title"};
+  HotKeyDispatch dispatch_{parts_.routines, parts_.suspension, actions_, toggle_,
+                           errors_,         "Product",         "Title"};
   bool odd_ = true;
 };
 

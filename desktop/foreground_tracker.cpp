@@ -21,14 +21,13 @@ constexpr const char* kBareDesktopClass = "Progman";
 
 }  // namespace
 
-ForegroundTracker::ForegroundTracker(WindowQueries& windows, const WindowFilter& filter,
-                                     WindowActions& actions, MainWindow& mainWindow,
-                                     PreviousWindow& previous, TagList& tags)
-    : windows_(&windows),
+ForegroundTracker::ForegroundTracker(const DesktopParts& parts, const WindowFilter& filter,
+                                     WindowActions& actions, TagList& tags)
+    : windows_(&parts.windows),
       filter_(&filter),
       actions_(&actions),
-      mainWindow_(&mainWindow),
-      previous_(&previous),
+      mainWindow_(&parts.mainWindow),
+      previous_(&parts.previous),
       tags_(&tags) {}
 
 void ForegroundTracker::tmrWindow_Timer() {

@@ -1,24 +1,21 @@
 #pragma once
 
-#include <array>
 #include <string>
 
-#include "desktop/main_window.h"
-#include "desktop/previous_window.h"
+#include "desktop/desktop_parts.h"
 #include "desktop/tag_list.h"
 #include "desktop/window_actions.h"
 #include "desktop/window_filter.h"
 #include "desktop/worked_windows.h"
 #include "platform/types.h"
-#include "platform/window_api.h"
 
 namespace korvale {
 
 /// Follows the foreground window and keeps the Previous Window record.
 class ForegroundTracker {
  public:
-  ForegroundTracker(WindowQueries& windows, const WindowFilter& filter, WindowActions& actions,
-                    MainWindow& mainWindow, PreviousWindow& previous, TagList& tags);
+  ForegroundTracker(const DesktopParts& parts, const WindowFilter& filter, WindowActions& actions,
+                    TagList& tags);
 
   /// The tick of tmrWindow; also called when the Window menu opens.
   void tmrWindow_Timer();

@@ -26,6 +26,11 @@ std::string IdentificationText(const MenuItem& entry) {
 
 WindowHandle TagHandle(const MenuItem& entry) { return ParseInt32(entry.tag).value_or(0); }
 
+bool HasTagCaption(const TagList& tags, int tag) {
+  const MenuItem* const entry = tags.mnuWindowParentList.Find(tag);
+  return entry != nullptr && entry->caption.starts_with('&');
+}
+
 std::string& TagClass(TagList& tags, const MenuItem& entry) {
   return tags.ParentWindowClass.at(static_cast<std::size_t>(entry.index - 1));
 }

@@ -30,6 +30,9 @@ std::string IdentificationText(const MenuItem& entry);
 /// The window handle in a Tag entry's tag; 0 when unresolved or not a number.
 WindowHandle TagHandle(const MenuItem& entry);
 
+/// Whether the Tag has an entry whose caption marks an access key; Tag 0 is the Previous Window's.
+bool HasTagCaption(const TagList& tags, int tag);
+
 /// The class stored for a Tag entry, whose index must be 1-9.
 std::string& TagClass(TagList& tags, const MenuItem& entry);
 

@@ -1,7 +1,6 @@
 #include "desktop/window_actions.h"
 
-#include <utility>
-
+#include "app/core/identity.h"
 #include "desktop/timer_pause.h"
 #include "desktop/title_match.h"
 #include "desktop/waiting_window.h"
@@ -21,18 +20,15 @@ bool CanBeSized(WindowQueries& windows, WindowHandle hwnd, std::int32_t box) {
 
 }  // namespace
 
-WindowActions::WindowActions(WindowQueries& windows, WindowRequests& requests,
-                             const WindowFilter& filter, WindowEnumeration& enumeration,
-                             MainWindow& mainWindow, PreviousWindow& previous,
-                             MessageBoxes& messages, std::string messageTitle)
-    : windows_(&windows),
+WindowActions::WindowActions(const DesktopParts& parts, WindowRequests& requests,
+                             const WindowFilter& filter, WindowEnumeration& enumeration)
+    : windows_(&parts.windows),
       requests_(&requests),
       filter_(&filter),
       enumeration_(&enumeration),
-      mainWindow_(&mainWindow),
-      previous_(&previous),
-      messages_(&messages),
-      messageTitle_(std::move(messageTitle)) {}
+      mainWindow_(&parts.mainWindow),
+      previous_(&parts.previous),
+      messages_(&parts.messages) {}
 
 ActivationResult WindowActions::ActivateWindow(WindowHandle& hwnd, std::string& text,
                                                const std::string& className, bool reportFailure,
@@ -40,7 +36,7 @@ ActivationResult WindowActions::ActivateWindow(WindowHandle& hwnd, std::string& 
   const ActivationResult result = TryActivation(hwnd, text, className, act);
   if (result != kActivationDone && reportFailure) {
     messages_->ShowMessageBox("The window operation was not successful.  Please try again.",
-                              win32::kMbSetForeground, messageTitle_);
+                              win32::kMbSetForeground, kProductName);
   }
   return result;
 }

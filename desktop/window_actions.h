@@ -4,14 +4,11 @@
 #include <string>
 #include <string_view>
 
-#include "app/core/message_boxes.h"
-#include "desktop/main_window.h"
-#include "desktop/previous_window.h"
+#include "desktop/desktop_parts.h"
 #include "desktop/window_enumeration.h"
 #include "desktop/window_filter.h"
 #include "desktop/window_requests.h"
 #include "platform/types.h"
-#include "platform/window_api.h"
 
 namespace korvale {
 
@@ -27,9 +24,8 @@ enum ActivationResult : std::int16_t {
 /// Every change that the program makes to a window of the desktop.
 class WindowActions {
  public:
-  WindowActions(WindowQueries& windows, WindowRequests& requests, const WindowFilter& filter,
-                WindowEnumeration& enumeration, MainWindow& mainWindow, PreviousWindow& previous,
-                MessageBoxes& messages, std::string messageTitle);
+  WindowActions(const DesktopParts& parts, WindowRequests& requests, const WindowFilter& filter,
+                WindowEnumeration& enumeration);
 
   /// Brings a window to the front, or with `act` false only tells whether that could be done.
   /// `text` is refreshed for the Previous Window and its alternate; `hwnd` becomes 0 when the title
@@ -75,7 +71,6 @@ class WindowActions {
   MainWindow* mainWindow_;
   PreviousWindow* previous_;
   MessageBoxes* messages_;
-  std::string messageTitle_;
 };
 
 }  // namespace korvale

@@ -28,19 +28,17 @@ frmMain::frmMain(Platform& platform, FormCollection& forms, ProgramLifetime& lif
       tipForm_(forms),
       waitForm_(forms, parts_.display),
       about_(forms, platform.clock, parts_.identity),
-      addWindow_(forms, AddWindowContext{platform.windows, *this, parts_.previous, parts_.tags,
-                                         addWindowMode_}),
+      addWindow_(forms, AddWindowContext{platform.windows, *this, parts_.previous,
+                                         parts_.desktop.tags, addWindowMode_}),
       optionsForm_(forms, *this),
       tips_(tipForm_, parts_.display, parts_.startup.DisplayTips, parts_.startup.Tips,
             parts_.identity.messageTitle),
-      windowMenu_({platform.windows, platform.commands, *this, parts_.enumeration, parts_.actions,
-                   parts_.tracker, parts_.tags, parts_.previous, parts_.messages, Menus(),
-                   parts_.startup.AlwaysOnTop, [this] { RefreshMenus("mnu"); },
-                   [this](AddWindowMode mode) { ShowAddWindow(mode); }},
-                  parts_.identity.productName) {
+      windowMenu_(
+          parts_.desktop, Menus(), parts_.startup.AlwaysOnTop, [this] { RefreshMenus("mnu"); },
+          [this](AddWindowMode mode) { ShowAddWindow(mode); }) {
   BindMenus();
   BindWindowMenu();
-  WhenClicked("tmrWindow", [this](int) { parts_.tracker.tmrWindow_Timer(); });
+  WhenClicked("tmrWindow", [this](int) { parts_.desktop.tracker.tmrWindow_Timer(); });
 }
 
 void frmMain::Form_Load() {
@@ -88,7 +86,7 @@ void frmMain::udmDeleteOptions() {
 
 void frmMain::udmSaveINI() {
   parts_.settings.SaveINI(parts_.startup, [this](SettingsStore& store) {
-    TagListPasses(parts_.tags, platform_->windows, store)
+    TagListPasses(parts_.desktop.tags, platform_->windows, store)
         .TagListPass(TagListMode::kSave, 0, parts_.settings.AppName());
   });
 }
@@ -113,17 +111,11 @@ void frmMain::SaveOrTellOnce(const std::function<void()>& saves) {
 void frmMain::LoadStartupSettings() {
   parts_.startup = parts_.settings.LoadStartup();
   const StoredTagList stored = parts_.settings.LoadTagList();
-  RestoreTagList(parts_.tags, stored.captions, stored.classes);
-}
-
-std::string frmMain::udmProcessHotKey(const std::string& name, bool booDoAction,
-                                      bool booReturnWindow,
-                                      const std::string& strSupplyWindowText) {
-  return parts_.dispatch.udmProcessHotKey(name, booDoAction, booReturnWindow, strSupplyWindowText);
+  RestoreTagList(parts_.desktop.tags, stored.captions, stored.classes);
 }
 
 void frmMain::udmRefreshAlwaysOnTopMenuChecked() {
-  parts_.tracker.udmRefreshAlwaysOnTopMenuChecked();
+  parts_.desktop.tracker.udmRefreshAlwaysOnTopMenuChecked();
 }
 
 void frmMain::udmNonFatalError(ErrorPlace intErrorNumber, std::int16_t intVB_ErrNumber) {
@@ -156,24 +148,15 @@ void frmMain::CheckPreviousWindowAlwaysOnTop(bool checked) {
   Menu("mnuWindowPreviousWindowAlwaysOnTop").checked = checked;
 }
 
-bool frmMain::HasTagCaption(std::int16_t tag) {
-  const MenuItem* item = Menus().Find("mnuWindowParentList", tag);
-  return item != nullptr && item->caption.starts_with('&');
-}
-
-void frmMain::mnuWindowParentList_Click(std::int16_t Index) {
-  windowMenu_.mnuWindowParentList_Click(Index);
-}
-
 WindowHandle frmMain::PopUpWindowMenu() {
-  windowMenu_.selected = 0;
+  parts_.desktop.selection.selected = 0;
   platform_->host.TrackPopupMenuEx(Handle(), Menu("mnuWindow"));
-  return windowMenu_.selected;
+  return parts_.desktop.selection.selected;
 }
 
 void frmMain::SetWindowMenuTag(const std::string& tag) {
   Menu("mnuWindow").tag = tag;
-  if (!WindowMenuPoppedUp()) parts_.tracker.PopUpClosed();
+  if (!WindowMenuPoppedUp()) parts_.desktop.tracker.PopUpClosed();
 }
 
 bool frmMain::WindowMenuPoppedUp() { return Menu("mnuWindow").tag == kHotKeyWindowMenuPopup; }

@@ -60,8 +60,6 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   void SaveOrTellOnce(const std::function<void()>& saves);
   /// Reads the main window's state and the Tag list from the store.
   void LoadStartupSettings();
-  std::string udmProcessHotKey(const std::string& name, bool booDoAction, bool booReturnWindow,
-                               const std::string& strSupplyWindowText);
   void udmRefreshAlwaysOnTopMenuChecked();
   void udmNonFatalError(ErrorPlace intErrorNumber, std::int16_t intVB_ErrNumber);
 
@@ -102,8 +100,7 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   void CheckPreviousWindowAlwaysOnTop(bool checked) override;
 
   // HotKeyActions
-  bool HasTagCaption(std::int16_t tag) override;
-  void mnuWindowParentList_Click(std::int16_t Index) override;
+  void TagSelected() override { RefreshMenus("mnu"); }
   void BringOptionsToFront() override;
   /// "LOAD_AND_OR_REFRESH" opens the Options dialog, or fills the open one anew, from the options
   /// record; "UPDATE_OPTIONS" takes its values into the record; other modes do nothing.

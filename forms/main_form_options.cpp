@@ -14,7 +14,7 @@ void frmMain::udmOptions(const std::string& strMode) {
   }
   if (!optionsForm_.IsLoaded()) {
     // When the dialog closes, the user must be back where they are now.
-    parts_.tracker.LookAtForeground();
+    parts_.desktop.tracker.LookAtForeground();
     optionsForm_.Load();
     optionsForm_.SetCaption(parts_.identity.productName + " - Options");
     openOptions_ = &optionsForm_;
@@ -24,7 +24,7 @@ void frmMain::udmOptions(const std::string& strMode) {
 }
 
 void frmMain::BringOptionsToFront() {
-  parts_.tracker.LookAtForeground();
+  parts_.desktop.tracker.LookAtForeground();
   parts_.display.ShowFormNonModal(*openOptions_, {}, this);
 }
 
@@ -32,8 +32,8 @@ void frmMain::OptionsDialogClosed() {
   openOptions_ = nullptr;
   // Windows would bring the main window forward, which owns the dialog.
   ReturnForegroundTo(platform_->windows, platform_->commands,
-                     parts_.tracker.WindowBehind(optionsForm_.Handle()));
-  parts_.tracker.ForgetVisit(optionsForm_.Handle());
+                     parts_.desktop.tracker.WindowBehind(optionsForm_.Handle()));
+  parts_.desktop.tracker.ForgetVisit(optionsForm_.Handle());
 }
 
 void frmMain::HotKeysRegistered() {

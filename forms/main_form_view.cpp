@@ -50,7 +50,7 @@ void frmMain::Form_Resize() {
     return;
   }
   if (parts_.startup.AlwaysOnTop && !IsTopmostBehindAnother()) {
-    parts_.actions.SetTopmost(Handle(), true);
+    parts_.desktop.actions.SetTopmost(Handle(), true);
   }
   const TwipsRect frame = Collection().Host().AdjustWindowRectEx(State());
   LayOutFields(frame);

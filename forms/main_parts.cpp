@@ -10,8 +10,6 @@ namespace korvale {
 
 namespace {
 
-MenuItem& WindowMenuItems(MenuBar& menus) { return *menus.Find("mnuWindow"); }
-
 /// The window of the dialog that a message box must not leave usable; 0 when none is open.
 WindowHandle DialogOnTop(const FormCollection& forms) {
   const Form* dialog = forms.TopModal();
@@ -23,11 +21,6 @@ WindowHandle DialogOnTop(const FormCollection& forms) {
 MainParts::MainParts(Platform& platform, FormCollection& forms, MainWindow& mainWindow,
                      MenuBar& menus, HotKeyActions& hotKeyActions, std::function<void()> shutDown)
     : settings(platform.store, ""),
-      tags{MenuItemArray(WindowMenuItems(menus), "mnuWindowParentList")},
-      tagPasses(tags, platform.windows, platform.store),
-      filter(platform.windows, options, forms, mainWindow),
-      requests(platform.windows, platform.commands, mainWindow, platform.clock),
-      enumeration(platform.windows, requests, filter, mainWindow, tagPasses),
       messages(platform.host, platform.windows, platform.commands, mainWindow, forms, previous,
                suspension, [&forms] { return DialogOnTop(forms); }),
       errorLog(identity, platform.clock,
@@ -35,19 +28,15 @@ MainParts::MainParts(Platform& platform, FormCollection& forms, MainWindow& main
                  return ErrorLogState{state.firstActivation, startup.Menu, state.lastAnswer};
                }),
       errors(identity, messages, errorLog, std::move(shutDown)),
-      actions(platform.windows, requests, filter, enumeration, mainWindow, previous, messages,
-              identity.messageTitle),
-      tracker(platform.windows, filter, actions, mainWindow, previous, tags),
+      desktop({platform.windows, platform.commands, mainWindow, forms, messages, previous},
+              platform.clock, options, platform.store, *menus.Find("mnuWindow")),
       display(forms, platform.windows, platform.commands, previous, suspension,
               startup.AlwaysOnTop),
       hotKeys(platform.hotKeys, options, mainWindow),
       toggle(hotKeys, options, hotKeyActions, identity.productName, identity.messageTitle),
-      dispatch({platform.windows, platform.commands, mainWindow, forms, tagPasses, filter, actions,
-                tracker, previous, suspension, messages, hotKeyActions, toggle, errors},
-               identity.productName, identity.messageTitle),
-      hook(
-          platform.hotKeys, hotKeys, mainWindow, [&platform] { return platform.host.EndMenu(); },
-          [this](const std::string& name) { dispatch.udmProcessHotKey(name, true, false, ""); },
-          [&forms] { forms.ReportUncaught(); }) {}
+      dispatch(desktop, suspension, hotKeyActions, toggle, errors, identity.productName,
+               identity.messageTitle),
+      hook(platform.hotKeys, platform.host, mainWindow, hotKeys, dispatch,
+           [&forms] { forms.ReportUncaught(); }) {}
 
 }  // namespace korvale

@@ -10,13 +10,8 @@
 #include "app/core/options.h"
 #include "app/core/settings.h"
 #include "app/core/startup_settings.h"
-#include "desktop/foreground_tracker.h"
+#include "desktop/desktop.h"
 #include "desktop/previous_window.h"
-#include "desktop/tag_list.h"
-#include "desktop/window_actions.h"
-#include "desktop/window_enumeration.h"
-#include "desktop/window_filter.h"
-#include "desktop/window_requests.h"
 #include "forms/form_display.h"
 #include "hotkeys/hot_key_dispatch.h"
 #include "hotkeys/hot_key_table.h"
@@ -54,21 +49,14 @@ struct MainParts {
   StartupSettings startup;
   OptionsHolder options;
   Settings settings;
-
-  TagList tags;
-  TagListPasses tagPasses;
   PreviousWindow previous;
-  WindowFilter filter;
-  WindowRequests requests;
-  WindowEnumeration enumeration;
 
   Suspension suspension;
   SuspendingMessageBoxes messages;
   ErrorLog errorLog;
   ErrorReports errors;
 
-  WindowActions actions;
-  ForegroundTracker tracker;
+  Desktop desktop;
   FormDisplay display;
 
   HotKeyTable hotKeys;

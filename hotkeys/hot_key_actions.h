@@ -13,9 +13,9 @@ class HotKeyActions {
  public:
   virtual ~HotKeyActions() = default;
 
-  /// True when entry `tag` of the Window menu's list exists and its caption begins with "&".
-  virtual bool HasTagCaption(std::int16_t tag) = 0;
-  virtual void mnuWindowParentList_Click(std::int16_t Index) = 0;
+  /// A Tag's window has been selected, or the user told why not: the menus follow as after a click
+  /// on the entry.
+  virtual void TagSelected() = 0;
   /// Brings the loaded Options dialog to the front and activates it.
   virtual void BringOptionsToFront() = 0;
   virtual void udmOptions(const std::string& strMode) = 0;

@@ -1,46 +1,22 @@
 #pragma once
 
-#include <functional>
 #include <string>
 
 #include "app/core/error_reporting.h"
-#include "app/core/message_boxes.h"
-#include "desktop/foreground_tracker.h"
-#include "desktop/main_window.h"
-#include "desktop/previous_window.h"
-#include "desktop/tag_list.h"
-#include "desktop/window_actions.h"
-#include "desktop/window_filter.h"
+#include "desktop/desktop.h"
 #include "hotkeys/hot_key_actions.h"
+#include "hotkeys/hot_key_processor.h"
 #include "hotkeys/hot_key_toggle.h"
 #include "hotkeys/suspension.h"
-#include "platform/window_api.h"
-#include "util/forms.h"
 
 namespace korvale {
 
-/// What the dispatcher works with.
-struct HotKeyDispatchParts {
-  WindowQueries& windows;
-  WindowCommands& commands;
-  MainWindow& mainWindow;
-  const LoadedForms& forms;
-  TagListPasses& tagPasses;
-  const WindowFilter& filter;
-  WindowActions& windowActions;
-  ForegroundTracker& tracker;
-  PreviousWindow& previous;
-  Suspension& suspension;
-  MessageBoxes& messages;
-  HotKeyActions& actions;
-  HotKeyToggle& toggle;
-  ErrorReporters& errors;
-};
-
 /// Carries out a hot key by its name.
-class HotKeyDispatch {
+class HotKeyDispatch : public HotKeyProcessor {
  public:
-  HotKeyDispatch(HotKeyDispatchParts parts, std::string productName, std::string programTitle);
+  HotKeyDispatch(Desktop& desktop, Suspension& suspension, HotKeyActions& actions,
+                 HotKeyToggle& toggle, ErrorReporters& errors, std::string productName,
+                 std::string programTitle);
 
   /// Returns the description of the hot key; performs its action only when `booDoAction` is true.
   /// While a message box or dialog of the program is shown it does neither and tells the user so.
@@ -49,7 +25,7 @@ class HotKeyDispatch {
   /// else of the target window. A name of no hot key makes the foreground window the target. An
   /// error is reported and gives ""; only ProgramEnded leaves this call.
   std::string udmProcessHotKey(const std::string& name, bool booDoAction, bool booReturnWindow,
-                               const std::string& strSupplyWindowText);
+                               const std::string& strSupplyWindowText) override;
 
  private:
   std::string Process(const std::string& name, bool doAction, bool returnWindow,
@@ -66,7 +42,11 @@ class HotKeyDispatch {
   void ShowOptions();
   void PopUpWindowMenu();
 
-  HotKeyDispatchParts parts_;
+  Desktop* desktop_;
+  Suspension* suspension_;
+  HotKeyActions* actions_;
+  HotKeyToggle* toggle_;
+  ErrorReporters* errors_;
   std::string productName_;
   std::string programTitle_;
 };

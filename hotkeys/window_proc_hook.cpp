@@ -1,5 +1,6 @@
 #include "hotkeys/window_proc_hook.h"
 
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -7,15 +8,14 @@
 
 namespace korvale {
 
-WindowProcHook::WindowProcHook(HotKeyApi& hotKeys, const HotKeyTable& table,
-                               const MainWindow& mainWindow, std::function<bool()> endMenu,
-                               std::function<void(const std::string&)> process,
+WindowProcHook::WindowProcHook(HotKeyApi& hotKeys, FormHost& host, const MainWindow& mainWindow,
+                               const HotKeyTable& table, HotKeyProcessor& processor,
                                std::function<void()> reportUncaught)
     : hotKeys_(&hotKeys),
-      table_(&table),
+      host_(&host),
       mainWindow_(&mainWindow),
-      endMenu_(std::move(endMenu)),
-      process_(std::move(process)),
+      table_(&table),
+      processor_(&processor),
       reportUncaught_(std::move(reportUncaught)) {}
 
 void WindowProcHook::HookWindowProc(std::string_view mode, WindowHandle hWnd) {
@@ -42,10 +42,10 @@ void WindowProcHook::Dispatch(std::uintptr_t identifier, std::intptr_t lParam) {
   try {
     // A copy: the toggle rebuilds the table while the name is in use.
     const std::string name = table_->NameOf(identifier);
-    if (endMenu_()) {
+    if (host_->EndMenu()) {
       Postpone({identifier, lParam});
     } else {
-      process_(name);
+      processor_->udmProcessHotKey(name, true, false, "");
     }
   } catch (...) {
     reportUncaught_();

@@ -2,11 +2,12 @@
 
 #include <cstdint>
 #include <functional>
-#include <string>
 #include <string_view>
 
 #include "desktop/main_window.h"
+#include "hotkeys/hot_key_processor.h"
 #include "hotkeys/hot_key_table.h"
+#include "platform/form_host.h"
 #include "platform/hot_key_api.h"
 
 namespace korvale {
@@ -14,11 +15,9 @@ namespace korvale {
 /// The hook on the main window's message procedure that receives the hot keys.
 class WindowProcHook : public WindowProcedure {
  public:
-  /// `endMenu` closes an open menu of the program and tells whether there was one; `process` is
-  /// given the name of each hot key; `reportUncaught` is called inside a catch block and must not
-  /// throw.
-  WindowProcHook(HotKeyApi& hotKeys, const HotKeyTable& table, const MainWindow& mainWindow,
-                 std::function<bool()> endMenu, std::function<void(const std::string&)> process,
+  /// `reportUncaught` is called inside a catch block and must not throw.
+  WindowProcHook(HotKeyApi& hotKeys, FormHost& host, const MainWindow& mainWindow,
+                 const HotKeyTable& table, HotKeyProcessor& processor,
                  std::function<void()> reportUncaught);
 
   /// "SET" installs the hot-key window procedure on the main window, "REMOVE" puts the former one
@@ -26,8 +25,8 @@ class WindowProcHook : public WindowProcedure {
   /// (SetWindowLongPtrA).
   void HookWindowProc(std::string_view mode, WindowHandle hWnd);
 
-  /// Hands a WM_HOTKEY of the main window to the dispatcher, then passes every message on,
-  /// also when the dispatcher failed (CallWindowProcA). One that comes while a menu is open closes
+  /// Hands a WM_HOTKEY of the main window to the processor, then passes every message on,
+  /// also when that failed (CallWindowProcA). One that comes while a menu is open closes
   /// the menu and is posted anew, to be carried out when that has gone, as are those behind it.
   std::intptr_t HotKeyWindowProc(WindowHandle hWnd, std::uint32_t uMsg, std::uintptr_t wParam,
                                  std::intptr_t lParam);
@@ -41,10 +40,10 @@ class WindowProcHook : public WindowProcedure {
   void Postpone(const QueuedMessage& hotKey);
 
   HotKeyApi* hotKeys_;
-  const HotKeyTable* table_;
+  FormHost* host_;
   const MainWindow* mainWindow_;
-  std::function<bool()> endMenu_;
-  std::function<void(const std::string&)> process_;
+  const HotKeyTable* table_;
+  HotKeyProcessor* processor_;
   std::function<void()> reportUncaught_;
   PreviousProcedure prevWindowProc_ = 0;
 };

@@ -7,12 +7,7 @@
 #include <vector>
 
 #include "app/core/options.h"
-#include "desktop/foreground_tracker.h"
-#include "desktop/previous_window.h"
-#include "desktop/tag_list.h"
-#include "desktop/window_actions.h"
-#include "desktop/window_enumeration.h"
-#include "desktop/window_filter.h"
+#include "desktop/desktop.h"
 #include "platform/settings_store.h"
 #include "tests/fakes/call_log.h"
 #include "tests/fakes/fake_clock.h"
@@ -56,14 +51,7 @@ class SavedLines : public SettingsStore {
 /// "Main" in the log, and the hidden window that owns it, called "Owner".
 class DesktopCase : public testing::Test {
  protected:
-  DesktopCase()
-      : tags{MenuItemArray(menu, "mnuWindowParentList"), {}},
-        passes(tags, desktop, store),
-        filter(desktop, options, forms, mainWindow),
-        requests(desktop, desktop, mainWindow, clock),
-        enumeration(desktop, requests, filter, mainWindow, passes),
-        actions(desktop, requests, filter, enumeration, mainWindow, previous, messages, "Korvale"),
-        tracker(desktop, filter, actions, mainWindow, previous, tags) {
+  DesktopCase() {
     options.Create();
     desktop.UseClock(clock);
     NewWindow hidden;
@@ -118,13 +106,14 @@ class DesktopCase : public testing::Test {
   SavedLines store;
   PreviousWindow previous;
   MenuItem menu;
-  TagList tags;
-  TagListPasses passes;
-  WindowFilter filter;
-  WindowRequests requests;
-  WindowEnumeration enumeration;
-  WindowActions actions;
-  ForegroundTracker tracker;
+  Desktop routines{
+      {desktop, desktop, mainWindow, forms, messages, previous}, clock, options, store, menu};
+  TagList& tags = routines.tags;
+  TagListPasses& passes = routines.tagPasses;
+  WindowFilter& filter = routines.filter;
+  WindowEnumeration& enumeration = routines.enumeration;
+  WindowActions& actions = routines.actions;
+  ForegroundTracker& tracker = routines.tracker;
   WindowHandle owner = 0;
 };
 

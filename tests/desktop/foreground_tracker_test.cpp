@@ -220,7 +220,7 @@ TEST_F(ForegroundTracking, LookingAnewTakesTheSameForegroundOnceMore) {
 }
 
 TEST_F(ForegroundTracking, LookingAnewBeforeTheFirstTickTakesTheForegroundAtOnce) {
-  ForegroundTracker fresh(desktop, filter, actions, mainWindow, previous, tags);
+  ForegroundTracker fresh(routines, filter, actions, tags);
   fresh.LookAnew();
   fresh.tmrWindow_Timer();
   EXPECT_EQ(mainWindow.focusTag, kGotFocus);

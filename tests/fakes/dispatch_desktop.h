@@ -18,6 +18,7 @@ struct DispatchDesktop {
   DispatchDesktop() {
     options.Create();
     desktop.UseClock(clock);
+    tags.mnuWindowParentList.Load(0).caption = "&0  Previous Window";
   }
 
   CallLog log;
@@ -28,18 +29,14 @@ struct DispatchDesktop {
   FakeLoadedForms forms;
   OptionsHolder options;
   MenuItem windowMenu;
-  TagList tags{MenuItemArray(windowMenu, "mnuWindowParentList")};
-  TagListPasses tagPasses{tags, desktop, store};
-  PreviousWindow previous;
-  WindowFilter filter{desktop, options, forms, mainWindow};
   FakeClock clock;
-  WindowRequests requests{desktop, desktop, mainWindow, clock};
-  WindowEnumeration enumeration{desktop, requests, filter, mainWindow, tagPasses};
+  PreviousWindow previous;
   Suspension suspension;
   FakeMessageBoxes messages;
-  WindowActions windowActions{desktop,    requests, filter,   enumeration,
-                              mainWindow, previous, messages, "Title"};
-  ForegroundTracker tracker{desktop, filter, windowActions, mainWindow, previous, tags};
+  Desktop routines{
+      {desktop, desktop, mainWindow, forms, messages, previous}, clock, options, store, windowMenu};
+  TagList& tags = routines.tags;
+  ForegroundTracker& tracker = routines.tracker;
 };
 
 }  // namespace korvale

@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <functional>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -31,10 +30,7 @@ struct ShownWaitWindow {
 /// Forms that do nothing but log what the hot keys ask of them.
 class FakeHotKeyActions : public HotKeyActions {
  public:
-  bool HasTagCaption(std::int16_t tag) override { return tagCaptions.contains(tag); }
-  void mnuWindowParentList_Click(std::int16_t Index) override {
-    Log("mnuWindowParentList_Click(" + DecimalText(Index) + ")");
-  }
+  void TagSelected() override { Log("TagSelected"); }
   void BringOptionsToFront() override { Log("BringOptionsToFront"); }
   void udmOptions(const std::string& strMode) override { Log("udmOptions(\"" + strMode + "\")"); }
   WindowHandle PopUpWindowMenu() override {
@@ -57,8 +53,6 @@ class FakeHotKeyActions : public HotKeyActions {
     Log("ShowWaitWindow(\"" + caption + "\")");
   }
 
-  /// The entries of the Window menu's list whose caption begins with "&".
-  std::set<std::int16_t> tagCaptions;
   /// What the user has gone to by the pop-up.
   WindowHandle selectedInMenu = 0;
   std::vector<ShownTip> tips;

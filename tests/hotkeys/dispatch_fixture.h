@@ -61,10 +61,11 @@ class HotKeyDispatchTest : public testing::Test, protected DispatchDesktop {
     return hwnd;
   }
 
-  void AddTag(int tag, const std::string& identification, const std::string& className = "") {
-    tags.mnuWindowParentList.Load(tag).caption = "&" + std::to_string(tag) + "  " + identification;
-    tags.ParentWindowClass.at(static_cast<std::size_t>(tag - 1)) = className;
-    actions.tagCaptions.insert(static_cast<std::int16_t>(tag));
+  void AddTag(int tag, const std::string& identification, WindowHandle hwnd) {
+    MenuItem& entry = tags.mnuWindowParentList.Load(tag);
+    entry.caption = "&" + std::to_string(tag) + "  " + identification;
+    entry.tag = std::to_string(hwnd);
+    TagClass(tags, entry) = desktop.Windows().Find(hwnd)->className;
   }
 
   std::string Press(const std::string& name) {
@@ -78,10 +79,7 @@ class HotKeyDispatchTest : public testing::Test, protected DispatchDesktop {
   HotKeyTable table{hotKeys, options, mainWindow};
   HotKeyToggle toggle{table, options, actions, "Product", "Title"};
   FakeErrorReporters errors{log};
-  HotKeyDispatch dispatch{{desktop, desktop, mainWindow, forms, tagPasses, filter, windowActions,
-                           tracker, previous, suspension, messages, actions, toggle, errors},
-                          "Product",
-                          "Title"};
+  HotKeyDispatch dispatch{routines, suspension, actions, toggle, errors, "Product", "Title"};
 
   WindowHandle other = 0;
   WindowHandle target = 0;

@@ -13,48 +13,54 @@ namespace {
 constexpr const char* kTimersOff = "udmTimersEnabled(false)";
 constexpr const char* kTimersOn = "udmTimersEnabled(true)";
 
-TEST_F(HotKeyDispatchTest, ClicksTheMenuEntryOfTheTag) {
-  AddTag(3, "Target");
+TEST_F(HotKeyDispatchTest, SelectsTheWindowOfTheTagThenTellsTheMenus) {
+  AddTag(3, "Other", other);
 
   EXPECT_EQ(Press("HOTKEY_PARENT3"), "Select Window 3");
 
-  EXPECT_EQ(log.Calls(), (Calls{kTimersOff, "mnuWindowParentList_Click(3)", kTimersOn}));
+  EXPECT_EQ(log.Calls(),
+            (Calls{kTimersOff, kTimersOff, "SetForegroundWindow(other)",
+                   "EnablePreviousWindowItems(true)", "ShowTargetWindow(\"Other\", \"Other\")",
+                   kTimersOn, "TagSelected", kTimersOn}));
 }
 
-TEST_F(HotKeyDispatchTest, ClicksTheEntryOfEachTag) {
-  actions.tagCaptions = {0};
-  for (int tag = 1; tag <= 9; ++tag) AddTag(tag, "Target");
+TEST_F(HotKeyDispatchTest, SelectsTheWindowOfEachTag) {
+  for (int tag = 1; tag <= 9; ++tag) AddTag(tag, "Other", other);
 
   for (int tag = 0; tag <= 9; ++tag) {
+    for (const WindowHandle worked : {other, target}) {
+      desktop.UserActivates(worked);
+      tracker.tmrWindow_Timer();
+    }
     Press(ParentHotKeyName(tag));
-    EXPECT_EQ(actions.log.back(), "mnuWindowParentList_Click(" + std::to_string(tag) + ")");
+    EXPECT_EQ(desktop.GetForegroundWindow(), other) << tag;
   }
-  EXPECT_EQ(actions.log.size(), 10U);
+  EXPECT_EQ(actions.log, Calls(10, "TagSelected"));
 }
 
 TEST_F(HotKeyDispatchTest, DoesNothingForATagWithoutAWindow) {
-  actions.tagCaptions = {4};
-
   EXPECT_EQ(Press("HOTKEY_PARENT4"), "Select Window 4");
 
   EXPECT_EQ(log.Calls(), (Calls{kTimersOff, kTimersOn}));
 }
 
 TEST_F(HotKeyDispatchTest, DoesNothingForAnEntryWithoutTheMark) {
-  AddTag(4, "Target");
-  actions.tagCaptions.clear();
+  AddTag(4, "Other", other);
+  tags.mnuWindowParentList.Find(4)->caption = "4  Other";
+  tags.mnuWindowParentList.Find(0)->caption = "0  Previous Window";
 
   EXPECT_EQ(Press("HOTKEY_PARENT4"), "Select Window 4");
+  EXPECT_EQ(Press("HOTKEY_PARENT0"), "Select Window 0");
 
-  EXPECT_TRUE(actions.log.empty());
+  EXPECT_EQ(log.Calls(), (Calls{kTimersOff, kTimersOn, kTimersOff, kTimersOn}));
 }
 
 TEST_F(HotKeyDispatchTest, TakesTheNameInAnyCase) {
-  AddTag(3, "Target");
+  AddTag(3, "Other", other);
 
   EXPECT_EQ(Press("HotKey_Parent3"), "Select Window 3");
 
-  EXPECT_EQ(actions.log, Calls{"mnuWindowParentList_Click(3)"});
+  EXPECT_EQ(desktop.GetForegroundWindow(), other);
 }
 
 TEST_F(HotKeyDispatchTest, MinimizesTheForegroundWindow) {
@@ -174,7 +180,7 @@ TEST_F(HotKeyDispatchTest, RecognisesReservedNamesWithoutDoingAnything) {
 }
 
 TEST_F(HotKeyDispatchTest, OnlyDescribesWithoutAction) {
-  AddTag(7, "Target");
+  AddTag(7, "Other", other);
 
   EXPECT_EQ(Describe("HOTKEY_PARENT7"), "Select Window 7");
   EXPECT_EQ(Describe("HOTKEY_MINIMIZE_PARENT"), "Minimize Parent Window");

@@ -21,8 +21,8 @@ TEST_F(HotKeyPress, ReceivesTheKeysThatTheUserPresses) {
 }
 
 TEST_F(HotKeyPress, AHotKeyOverAnOpenMenuComesAgainWhenThatHasGone) {
-  menuOpen = true;
-  inDispatch = [this](const std::string&) { EXPECT_FALSE(menuOpen); };
+  host.menuOpen = true;
+  inDispatch = [this](const std::string&) { EXPECT_FALSE(host.menuOpen); };
 
   EXPECT_TRUE(hotKeys.Press(win32::kModAlt, '3'));
 

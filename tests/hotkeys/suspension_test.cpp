@@ -25,7 +25,7 @@ class SuspendedHotKeyTest : public HotKeyDispatchTest {};
 
 TEST_F(SuspendedHotKeyTest, IsDroppedWithANoticeWhileADialogIsShown) {
   suspension.DialogShown = true;
-  AddTag(3, "Target");
+  AddTag(3, "Other", other);
 
   EXPECT_EQ(Press("HOTKEY_PARENT3"), "");
 
@@ -105,10 +105,9 @@ class HotKeyDuringMessageBoxTest : public HotKeyDispatchTest {
   MessageBoxHost host{log};
   SuspendingMessageBoxes boxes{host,  desktop,  desktop,    mainWindow,
                                forms, previous, suspension, [] { return 0; }};
-  HotKeyDispatch live{{desktop, desktop, mainWindow, forms, tagPasses, filter, windowActions,
-                       tracker, previous, suspension, boxes, actions, toggle, errors},
-                      "Product",
-                      "Title"};
+  Desktop withBoxes{
+      {desktop, desktop, mainWindow, forms, boxes, previous}, clock, options, store, windowMenu};
+  HotKeyDispatch live{withBoxes, suspension, actions, toggle, errors, "Product", "Title"};
 };
 
 TEST_F(HotKeyDuringMessageBoxTest, ShowsOneNoticeHoweverOftenTheKeyIsPressed) {

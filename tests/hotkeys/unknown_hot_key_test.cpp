@@ -119,7 +119,8 @@ TEST_F(UnknownHotKeyTest, TellsThatAnExcludedWindowIsNotRecognized) {
 
 TEST_F(UnknownHotKeyTest, RecognizesAnExcludedWindowThatTheUserTagged) {
   const WindowHandle tool = OpenToolWindow();
-  AddTag(5, "Palette", "Tool");
+  AddTag(5, "Palette", tool);
+  tags.mnuWindowParentList.Find(5)->tag = "0";
 
   Press("NO_HOT_KEY");
 

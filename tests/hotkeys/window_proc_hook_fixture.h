@@ -16,11 +16,22 @@
 #include "tests/fakes/call_log.h"
 #include "tests/fakes/fake_hot_keys.h"
 #include "tests/fakes/fake_main_window.h"
+#include "tests/fakes/headless_form_host.h"
+#include "tests/fakes/plain_desktop.h"
 
 namespace korvale {
 
+/// A host with a menu that is open when a test says so.
+class MenuHost : public HeadlessFormHost {
+ public:
+  using HeadlessFormHost::HeadlessFormHost;
+  bool EndMenu() override { return std::exchange(menuOpen, false); }
+
+  bool menuOpen = false;
+};
+
 /// The hook in front of a window of number 1000, with the default hot keys registered.
-class WindowProcHookTest : public testing::Test {
+class WindowProcHookTest : public testing::Test, protected HotKeyProcessor {
  protected:
   using Calls = std::vector<std::string>;
   static constexpr WindowHandle kMain = 1000;
@@ -43,9 +54,12 @@ class WindowProcHookTest : public testing::Test {
     return static_cast<std::intptr_t>(0x00300001 + digit * 0x10000);
   }
 
-  void Process(const std::string& name) {
+  std::string udmProcessHotKey(const std::string& name, bool booDoAction, bool booReturnWindow,
+                               const std::string& strSupplyWindowText) override {
+    EXPECT_TRUE(booDoAction && !booReturnWindow && strSupplyWindowText.empty());
     log.Add("process " + name);
     if (inDispatch) inDispatch(name);
+    return "";
   }
 
   void ReportUncaught() {
@@ -66,13 +80,9 @@ class WindowProcHookTest : public testing::Test {
   OptionsHolder options;
   HotKeyTable table{hotKeys, options, mainWindow};
   std::function<void(const std::string&)> inDispatch;
-  bool menuOpen = false;
-  WindowProcHook hook{hotKeys,
-                      table,
-                      mainWindow,
-                      [this] { return std::exchange(menuOpen, false); },
-                      [this](const std::string& name) { Process(name); },
-                      [this] { ReportUncaught(); }};
+  PlainDesktop screen;
+  MenuHost host{screen, log};
+  WindowProcHook hook{hotKeys, host, mainWindow, table, *this, [this] { ReportUncaught(); }};
 };
 
 }  // namespace korvale

@@ -21,7 +21,7 @@ TEST_F(WindowProcHookTest, HandsAHotKeyToTheDispatcherThenPassesItOn) {
 }
 
 TEST_F(WindowProcHookTest, HotKeysOverAnOpenMenuKeepTheirOrder) {
-  menuOpen = true;
+  host.menuOpen = true;
   hotKeys.PressWhileBusy(win32::kModAlt, '3');
   hotKeys.PressWhileBusy(win32::kModAlt, '2');
   hotKeys.PressWhileBusy(win32::kModAlt, '5');
@@ -148,8 +148,7 @@ TEST_F(WindowProcHookTest, DoesNothingInAnyOtherMode) {
 }
 
 TEST_F(WindowProcHookTest, RemovesNothingThatWasNeverSet) {
-  WindowProcHook unused(
-      hotKeys, table, mainWindow, [] { return false; }, [](const std::string&) {}, [] {});
+  WindowProcHook unused(hotKeys, host, mainWindow, table, *this, [] {});
 
   unused.HookWindowProc("REMOVE", kMain);
 

@@ -41,7 +41,7 @@ TEST_F(ImportTest, AnImportBringsTagsColoursAndTipsButNotThePlace) {
 
   EXPECT_EQ(korvale.WindowMenuItems()[7].caption, "1  Alpha");
   EXPECT_EQ(korvale.WindowMenuItems()[8].caption, "4  *** - Notes");
-  EXPECT_EQ(korvale.Parts().tags.ParentWindowClass[3], "NotesFrame");
+  EXPECT_EQ(korvale.Parts().desktop.tags.ParentWindowClass[3], "NotesFrame");
   EXPECT_EQ(Stored("ParentWindowList", "1"), "&1  Alpha");
   EXPECT_EQ(Stored("ParentWindowList", "4"), "&4  *** - Notes");
   EXPECT_EQ(Stored("ParentWindowClass", "4"), "NotesFrame");
@@ -126,7 +126,7 @@ class RefusedImportTest : public StartTest, public testing::WithParamInterface<T
   static void ExpectInUse(KorvaleCopy& korvale) {
     EXPECT_EQ(korvale.WindowMenuItems()[7].caption, "1  Alpha");
     EXPECT_EQ(korvale.WindowMenuItems()[8].caption, "4  *** - Notes");
-    EXPECT_EQ(korvale.Parts().tags.ParentWindowClass[3], "NotesFrame");
+    EXPECT_EQ(korvale.Parts().desktop.tags.ParentWindowClass[3], "NotesFrame");
     EXPECT_EQ(korvale.Parts().options.Get().intHotKeyModParent, 2);
     EXPECT_EQ(korvale.Parts().startup.Tips, "01");
     EXPECT_EQ(korvale.Form().Find("txtWindow").BackColor(), 255);

@@ -22,7 +22,7 @@ TEST_F(ShutdownTest, ShutdownKeepsItsOrder) {
   log.WhenCalled("SaveSetting", [&] { timerAtSave = clock.AnyTimerOf(korvale.Handle()); });
   bool tagAtUnregister = true;
   log.WhenCalled("UnregisterHotKey", [&] {
-    tagAtUnregister = korvale.Parts().tags.mnuWindowParentList.Find(1) != nullptr;
+    tagAtUnregister = korvale.Parts().desktop.tags.mnuWindowParentList.Find(1) != nullptr;
   });
   bool optionsAtDestroy = false;
   log.WhenCalled("DestroyWindow(frmOptions)",
@@ -71,7 +71,7 @@ TEST_F(ShutdownTest, AShutdownThatIsNotNormalSavesNothing) {
 
   EXPECT_TRUE(log.CallsOf("SaveSetting").empty());
   EXPECT_TRUE(log.CallsOf("DeleteSection").empty());
-  EXPECT_EQ(korvale.Parts().tags.mnuWindowParentList.Find(1), nullptr);
+  EXPECT_EQ(korvale.Parts().desktop.tags.mnuWindowParentList.Find(1), nullptr);
   EXPECT_TRUE(hotKeys.Registered().empty());
   EXPECT_FALSE(korvale.Parts().options.Exists());
 }
@@ -192,7 +192,7 @@ TEST_F(ShutdownTest, TagsOfClosedWindowsStayStoredButLeaveTheMenuAtShutdown) {
   korvale.Form().udmUnload(true);
 
   EXPECT_EQ(Stored("ParentWindowList", "1"), "&1  Alpha");
-  EXPECT_EQ(korvale.Parts().tags.mnuWindowParentList.Find(1), nullptr);
+  EXPECT_EQ(korvale.Parts().desktop.tags.mnuWindowParentList.Find(1), nullptr);
 }
 
 TEST_F(ShutdownTest, TheEndOfTheSessionUnloadsNormally) {

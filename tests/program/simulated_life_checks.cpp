@@ -26,7 +26,7 @@ SimulatedLife::Before SimulatedLife::LookBefore(int tag) {
 
 void SimulatedLife::CheckSelection(const Before& before) {
   if (before.tag == 0) return CheckPreviousSelected(before);
-  const MenuItem* const entry = korvale_->Parts().tags.mnuWindowParentList.Find(before.tag);
+  const MenuItem* const entry = korvale_->Parts().desktop.tags.mnuWindowParentList.Find(before.tag);
   if (entry == nullptr) {
     EXPECT_EQ(desktop.Windows().Foreground(), before.foreground);
     return;
@@ -50,8 +50,9 @@ void SimulatedLife::CheckSelectedTag(const Before& before, const MenuItem& entry
   if (selected == before.foreground) return;
   EXPECT_TRUE(desktop.Windows().IsVisible(selected));
   EXPECT_TRUE(window.enabled);
-  EXPECT_EQ(korvale_->Parts().tags.ParentWindowClass.at(static_cast<std::size_t>(before.tag) - 1),
-            window.className);
+  EXPECT_EQ(
+      korvale_->Parts().desktop.tags.ParentWindowClass.at(static_cast<std::size_t>(before.tag) - 1),
+      window.className);
   if (selected == korvale_->Handle()) return;
   EXPECT_EQ(record.current.handle, selected);
   EXPECT_EQ(record.current.text, window.title);
@@ -74,7 +75,7 @@ void SimulatedLife::CheckPreviousSelected(const Before& before) {
 
 /// Korvale follows the user into this window, tagged or not.
 bool SimulatedLife::IsFollowed(WindowHandle hwnd) {
-  const WindowFilter& filter = korvale_->Parts().filter;
+  const WindowFilter& filter = korvale_->Parts().desktop.filter;
   return filter.IsSelectableWindow(hwnd, false, false) &&
          filter.IsSelectableWindow(hwnd, true, true) && desktop.Windows().IsVisible(hwnd);
 }
@@ -82,7 +83,7 @@ bool SimulatedLife::IsFollowed(WindowHandle hwnd) {
 bool SimulatedLife::CanBeSelected(WindowHandle hwnd) {
   const FakeWindow* const window = desktop.Windows().Find(hwnd);
   return window != nullptr && window->enabled && desktop.Windows().IsVisible(hwnd) &&
-         korvale_->Parts().filter.IsSelectableWindow(hwnd, false, false);
+         korvale_->Parts().desktop.filter.IsSelectableWindow(hwnd, false, false);
 }
 
 /// Windows may refuse to bring this window to the front.
@@ -153,11 +154,11 @@ std::vector<RegisteredHotKey> SimulatedLife::WantedHotKeys() {
 SimulatedLife::Kept SimulatedLife::Keeps() {
   MainParts& parts = korvale_->Parts();
   Kept kept{parts.options.Get(), parts.startup, {}, {}};
-  parts.tags.mnuWindowParentList.ForEach([&](const MenuItem& entry) {
+  parts.desktop.tags.mnuWindowParentList.ForEach([&](const MenuItem& entry) {
     if (entry.index == 0) return;
     const std::string tag = DecimalText(entry.index);
     kept.captions.emplace_back(tag, entry.caption);
-    const std::string& className = TagClass(parts.tags, entry);
+    const std::string& className = TagClass(parts.desktop.tags, entry);
     if (!className.empty()) kept.classes.emplace_back(tag, className);
   });
   return kept;
@@ -176,7 +177,7 @@ void SimulatedLife::CheckSaving() {
     EXPECT_EQ(options, kept.options);
   }
   settings.SaveINI(kept.startup, [&](SettingsStore& target) {
-    TagListPasses(korvale_->Parts().tags, desktop, target)
+    TagListPasses(korvale_->Parts().desktop.tags, desktop, target)
         .TagListPass(TagListMode::kSave, 0, settings.AppName());
   });
   EXPECT_EQ(settings.LoadStartup(), kept.startup);

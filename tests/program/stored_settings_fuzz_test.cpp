@@ -144,7 +144,7 @@ class StoredSettingsFuzzTest : public KorvaleWorld {
     EXPECT_LE(startup.WindowState, 2);
     EXPECT_GE(startup.OptionsTab, 1);
     EXPECT_LE(startup.OptionsTab, 3);
-    korvale.Parts().tags.mnuWindowParentList.ForEach([&](const MenuItem& entry) {
+    korvale.Parts().desktop.tags.mnuWindowParentList.ForEach([&](const MenuItem& entry) {
       EXPECT_LE(entry.index, kTagCount);
       EXPECT_TRUE(entry.caption.starts_with("&" + DecimalText(entry.index) + "  "));
     });
@@ -167,10 +167,10 @@ class StoredSettingsFuzzTest : public KorvaleWorld {
   Kept Keeps(KorvaleCopy& korvale) {
     MainParts& parts = korvale.Parts();
     Kept kept{parts.options.Get(), parts.startup, {}, {}};
-    parts.tags.mnuWindowParentList.ForEach([&](const MenuItem& entry) {
+    parts.desktop.tags.mnuWindowParentList.ForEach([&](const MenuItem& entry) {
       if (entry.index == 0) return;
       kept.captions.emplace_back(DecimalText(entry.index), entry.caption);
-      const std::string& className = TagClass(parts.tags, entry);
+      const std::string& className = TagClass(parts.desktop.tags, entry);
       if (!className.empty()) kept.classes.emplace_back(DecimalText(entry.index), className);
     });
     return kept;

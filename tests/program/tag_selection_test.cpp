@@ -144,7 +144,7 @@ TEST_F(TagSelectionTest, AReopenedWindowIsFoundAgain) {
   WorkIn(Open("Gamma"));
   PressTag(1);
   EXPECT_EQ(Front(), "Alpha");
-  EXPECT_EQ(korvale.Parts().tags.mnuWindowParentList.Find(1)->tag, std::to_string(again));
+  EXPECT_EQ(korvale.Parts().desktop.tags.mnuWindowParentList.Find(1)->tag, std::to_string(again));
 }
 
 TEST_F(TagSelectionTest, AWindowOfAnotherClassIsFoundByItsTitleAloneAndTeachesItsClass) {
@@ -156,14 +156,14 @@ TEST_F(TagSelectionTest, AWindowOfAnotherClassIsFoundByItsTitleAloneAndTeachesIt
   WorkIn(Open("Beta"));
   PressTag(1);
   EXPECT_EQ(Front(), "Alpha");
-  EXPECT_EQ(korvale.Parts().tags.ParentWindowClass[0], "New");
+  EXPECT_EQ(korvale.Parts().desktop.tags.ParentWindowClass[0], "New");
 }
 
 TEST_F(TagSelectionTest, AWindowWithoutChildrenIsFoundByTitleAndTheLastMatchWins) {
   KorvaleCopy& korvale = StartedAfter(Open("Clock", {.children = 0}));
   korvale.TagPrevious();
-  EXPECT_EQ(korvale.Parts().tags.mnuWindowParentList.Find(1)->tag, "0");
-  EXPECT_EQ(korvale.Parts().tags.ParentWindowClass[0], "");
+  EXPECT_EQ(korvale.Parts().desktop.tags.mnuWindowParentList.Find(1)->tag, "0");
+  EXPECT_EQ(korvale.Parts().desktop.tags.ParentWindowClass[0], "");
   const WindowHandle upper = Open("Clock 2", {.className = "C2", .children = 0});
   WorkIn(Open("Beta"));
   PressTag(1);
@@ -179,11 +179,11 @@ TEST_F(TagSelectionTest, WhileASearchIsForbiddenATagIsTriedOnlyOnce) {
   desktop.Close(alpha);
   Open("Alpha");
   WorkIn(Open("Gamma"));
-  korvale.Form().TheWindowMenu().windowSearch = true;
+  korvale.Parts().desktop.selection.windowSearch = true;
   ExpectMessage(korvale, "Window:  [Alpha]  is not open.", win32::kMbSetForeground);
   log.IncludeReads(true);
   log.Clear();
-  korvale.Form().mnuWindowParentList_Click(1);
+  korvale.Form().TheWindowMenu().mnuWindowParentList_Click(1);
   EXPECT_TRUE(log.CallsOf("EnumWindows").empty());
 }
 

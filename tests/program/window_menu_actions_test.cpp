@@ -145,7 +145,7 @@ TEST_F(WindowMenuActionsTest, WhileASearchIsForbiddenNothingIsMinimizedOrRestore
   KorvaleCopy& korvale = StartedAfter(beta);
   desktop.UserMinimizes(alpha);
   WindowMenu& menu = korvale.Form().TheWindowMenu();
-  menu.windowSearch = true;
+  korvale.Parts().desktop.selection.windowSearch = true;
   log.Clear();
   menu.mnuWindowMinimizeAll_Click();
   EXPECT_TRUE(Saved());

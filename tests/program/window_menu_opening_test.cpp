@@ -139,7 +139,7 @@ TEST_F(WindowMenuOpeningTest, ASelectionShowsTheNewTargetAtOnce) {
 TEST_F(WindowMenuOpeningTest, AHotKeyLeavesAnEntryWithoutTheMarkOfAnAccessKeyAlone) {
   KorvaleCopy& korvale = StartedAfter(Open("Alpha"));
   korvale.TagPrevious();
-  korvale.Parts().tags.mnuWindowParentList.Find(1)->caption = "1  Alpha";
+  korvale.Parts().desktop.tags.mnuWindowParentList.Find(1)->caption = "1  Alpha";
   WorkIn(Open("Beta"));
   PressTag(1);
   EXPECT_EQ(Front(), "Beta");

@@ -1,0 +1,17 @@
+#include "desktop/desktop.h"
+
+namespace korvale {
+
+Desktop::Desktop(const DesktopParts& parts, Clock& clock, const OptionsHolder& options,
+                 SettingsStore& store, MenuItem& windowMenu)
+    : DesktopParts(parts),
+      tags{MenuItemArray(windowMenu, "mnuWindowParentList")},
+      tagPasses(tags, windows, store),
+      filter(windows, options, forms, mainWindow),
+      requests(windows, commands, mainWindow, clock),
+      enumeration(windows, requests, filter, mainWindow, tagPasses),
+      actions(parts, requests, filter, enumeration),
+      tracker(parts, filter, actions, tags),
+      selection(parts, enumeration, actions, tracker, tags) {}
+
+}  // namespace korvale

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "app/core/message_boxes.h"
+#include "desktop/main_window.h"
+#include "desktop/previous_window.h"
+#include "platform/window_api.h"
+#include "util/forms.h"
+
+namespace korvale {
+
+/// What the routines for the windows of the desktop work with; all of it is there before them.
+struct DesktopParts {
+  WindowQueries& windows;
+  WindowCommands& commands;
+  MainWindow& mainWindow;
+  const LoadedForms& forms;
+  MessageBoxes& messages;
+  PreviousWindow& previous;
+};
+
+}  // namespace korvale

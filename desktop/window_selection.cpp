@@ -1,0 +1,96 @@
+#include "desktop/window_selection.h"
+
+#include <string>
+
+#include "app/core/identity.h"
+#include "desktop/timer_pause.h"
+#include "desktop/window_readers.h"
+#include "platform/win32_constants.h"
+#include "util/text.h"
+
+namespace korvale {
+
+WindowSelection::WindowSelection(const DesktopParts& parts, WindowEnumeration& enumeration,
+                                 WindowActions& actions, ForegroundTracker& tracker, TagList& tags)
+    : parts_(parts),
+      enumeration_(&enumeration),
+      actions_(&actions),
+      tracker_(&tracker),
+      tags_(&tags) {}
+
+void WindowSelection::SelectTag(std::int16_t tag) {
+  const TimerPause pause(parts_.mainWindow);
+  if (tag == 0) {
+    SelectPrevious();
+  } else if (MenuItem* const entry = tags_->mnuWindowParentList.Find(tag); entry != nullptr) {
+    SelectEntry(*entry);
+  }
+  tracker_->ValidatePreviousWindow();
+}
+
+void WindowSelection::SelectPrevious() {
+  // A window out of sight behind a minimized one proves only when that is restored to be no longer
+  // shown; then the one worked in before it is next.
+  for (WindowHandle tried = 0;;) {
+    tracker_->UpdateRecord();
+    WindowTriple window = parts_.previous.OfTagZero(parts_.mainWindow.FocusTag() == kGotFocus);
+    if (window.handle == 0 || window.handle == tried) return;
+    tried = window.handle;
+    if (actions_->ActivatePreviousWindow(window) == kActivationDone) {
+      selected = tried;
+      tracker_->RecordSelection(window);
+      return;
+    }
+  }
+}
+
+void WindowSelection::SelectEntry(MenuItem& entry) {
+  const WindowHandle foreground = tracker_->WindowInFront();
+  if (TagHandle(entry) == foreground && foreground != 0) {
+    selected = foreground;
+    if (parts_.windows.IsIconic(foreground)) {
+      actions_->ShowDesktopWindow(foreground, win32::kSwRestore);
+    }
+    return;
+  }
+  const ActivationResult result = ActivateOrSearch(entry);
+  if (result != kActivationDone) return TellFailure(entry, result);
+  if (TagHandle(entry) == foreground) return;
+  selected = TagHandle(entry);
+  tracker_->RecordSelection({selected, GetWindowTitle(parts_.windows, selected),
+                             GetWindowClass(parts_.windows, selected)});
+}
+
+ActivationResult WindowSelection::Activate(const MenuItem& entry, bool reportFailure, bool act) {
+  WindowTriple window{TagHandle(entry), IdentificationText(entry), TagClass(*tags_, entry)};
+  return actions_->ActivateWindow(window, reportFailure, act);
+}
+
+ActivationResult WindowSelection::ActivateOrSearch(MenuItem& entry) {
+  ActivationResult result = Activate(entry, false, true);
+  // A window that does not answer is the right one: no other is looked for.
+  if (result == kActivationDone || result == kWindowNotAnswering || windowSearch) return result;
+  enumeration_->RefreshTags();
+  result = Activate(entry, false, true);
+  if (result == kActivationDone || result == kWindowNotAnswering) return result;
+  const WindowHandle found = enumeration_->FindByTitle(IdentificationText(entry));
+  if (found == 0) return result;
+  entry.tag = DecimalText(found);
+  TagClass(*tags_, entry) = GetWindowClass(parts_.windows, found);
+  return Activate(entry, false, true);
+}
+
+void WindowSelection::TellFailure(const MenuItem& entry, ActivationResult result) {
+  const std::string window = "Window:  [" + IdentificationText(entry) + "]";
+  if (result == kWindowNotEnabled) {
+    parts_.messages.ShowMessageBox(window + "  is not enabled, and currently cannot be selected.",
+                                   win32::kMbSetForeground, kProductName);
+  } else if (result == kWindowNotOpen) {
+    parts_.messages.ShowMessageBox(window + "  is not open.", win32::kMbSetForeground,
+                                   kProductName);
+  } else {
+    Activate(entry, true, false);
+  }
+}
+
+}  // namespace korvale

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <cstdint>
+
+#include "desktop/desktop_parts.h"
+#include "desktop/foreground_tracker.h"
+#include "desktop/tag_list.h"
+#include "desktop/window_actions.h"
+#include "desktop/window_enumeration.h"
+
+namespace korvale {
+
+/// Selects the windows of the Tags: looks for them, brings them to the front and moves the Previous
+/// Window record.
+class WindowSelection {
+ public:
+  WindowSelection(const DesktopParts& parts, WindowEnumeration& enumeration, WindowActions& actions,
+                  ForegroundTracker& tracker, TagList& tags);
+
+  /// Selects the window of Tag `tag` (0-9) with the timers stopped, and tells the user when that is
+  /// not possible. Does nothing for a Tag without an entry.
+  void SelectTag(std::int16_t tag);
+
+  /// True while a search over the windows must not be started.
+  bool windowSearch = false;
+  /// The window to which the user has last been led; 0 = none since this was cleared.
+  WindowHandle selected = 0;
+
+ private:
+  void SelectPrevious();
+  void SelectEntry(MenuItem& entry);
+  ActivationResult Activate(const MenuItem& entry, bool reportFailure, bool act);
+  ActivationResult ActivateOrSearch(MenuItem& entry);
+  void TellFailure(const MenuItem& entry, ActivationResult result);
+
+  DesktopParts parts_;
+  WindowEnumeration* enumeration_;
+  WindowActions* actions_;
+  ForegroundTracker* tracker_;
+  TagList* tags_;
+};
+
+}  // namespace korvale

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+
+namespace korvale {
+
+/// Carries out hot keys by their names.
+class HotKeyProcessor {
+ public:
+  virtual ~HotKeyProcessor() = default;
+
+  virtual std::string udmProcessHotKey(const std::string& name, bool booDoAction,
+                                       bool booReturnWindow,
+                                       const std::string& strSupplyWindowText) = 0;
+};
+
+}  // namespace korvale
