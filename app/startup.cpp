@@ -5,8 +5,8 @@
 #include "desktop/window_readers.h"
 #include "forms/hot_key_lists.h"
 #include "forms/main_form_design.h"
-#include "hotkeys/suspension.h"
 #include "platform/win32_constants.h"
+#include "util/raised_flag.h"
 
 namespace korvale {
 

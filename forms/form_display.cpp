@@ -4,6 +4,7 @@
 
 #include "desktop/foreground_return.h"
 #include "platform/win32_constants.h"
+#include "util/raised_flag.h"
 
 namespace korvale {
 namespace {

@@ -1,5 +1,6 @@
 #include "desktop/foreground_return.h"
 #include "forms/main_form.h"
+#include "util/raised_flag.h"
 
 namespace korvale {
 

@@ -6,6 +6,7 @@
 #include "platform/run_time_error.h"
 #include "platform/win32_constants.h"
 #include "ui/form_collection.h"
+#include "util/raised_flag.h"
 
 namespace korvale {
 namespace {
@@ -53,18 +54,6 @@ ControlState StateFromRow(const ControlRow& row, int id, int container) {
   state.border = (row.flags & kSingleBorder) != 0;
   return state;
 }
-
-/// Sets a flag for a scope, also when an error leaves it.
-class FlagGuard {
- public:
-  explicit FlagGuard(bool& flag) : flag_(&flag) { flag = true; }
-  ~FlagGuard() { *flag_ = false; }
-  FlagGuard(const FlagGuard&) = delete;
-  FlagGuard& operator=(const FlagGuard&) = delete;
-
- private:
-  bool* flag_;
-};
 
 }  // namespace
 
@@ -128,7 +117,7 @@ void Form::Load() {
 bool Form::Unload(CloseReason reason) {
   // A form that is on its way out may ask for it again, as a close handler does.
   if (!IsLoaded() || unloading_) return true;
-  const FlagGuard unloading(unloading_);
+  const RaisedFlag unloading(unloading_);
   if (!AgreesToUnload(reason)) return false;
   Form_Unload();
   Destroy();

@@ -2,10 +2,10 @@
 #include <array>
 #include <utility>
 
-#include "hotkeys/suspension.h"
 #include "platform/win32_constants.h"
 #include "tests/fakes/headless_form_host.h"
 #include "ui/form.h"
+#include "util/raised_flag.h"
 
 namespace korvale {
 namespace {
