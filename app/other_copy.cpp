@@ -70,8 +70,7 @@ WindowHandle OtherCopy::Find(frmMain& form) {
       form, [this](WindowHandle hwnd) { return FindWaitingWindow(platform_->windows, hwnd) != 0; });
 }
 
-WindowHandle OtherCopy::FindHidden(frmMain& form,
-                                   const std::function<bool(WindowHandle)>& qualifies) {
+WindowHandle OtherCopy::FindHidden(frmMain& form, const WindowEnumeration::Test& qualifies) {
   return FindByCaption(form, [&](WindowEnumeration& enumeration, const std::string& className,
                                  const std::string& caption) {
     return enumeration.FindHiddenInstance(className, caption, qualifies);
@@ -79,7 +78,7 @@ WindowHandle OtherCopy::FindHidden(frmMain& form,
 }
 
 std::uint32_t OtherCopy::Patience(frmMain& form) {
-  return FindHidden(form, {}) != 0 ? kCopyPatience : kEndPatience;
+  return FindHidden(form, WindowEnumeration::Any) != 0 ? kCopyPatience : kEndPatience;
 }
 
 void OtherCopy::BringForward(frmMain& form, WindowHandle copy) {

@@ -33,7 +33,7 @@ class OtherCopy {
       WindowEnumeration&, const std::string& className, const std::string& caption)>;
 
   WindowHandle Find(frmMain& form);
-  WindowHandle FindHidden(frmMain& form, const std::function<bool(WindowHandle)>& qualifies);
+  WindowHandle FindHidden(frmMain& form, const WindowEnumeration::Test& qualifies);
   WindowHandle FindByCaption(frmMain& form, const InstanceSearch& search);
   std::uint32_t Patience(frmMain& form);
   void BringForward(frmMain& form, WindowHandle copy);

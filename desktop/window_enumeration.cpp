@@ -1,28 +1,13 @@
 #include "desktop/window_enumeration.h"
 
-#include <utility>
-
 #include "desktop/title_match.h"
 #include "desktop/window_readers.h"
 #include "platform/run_time_error.h"
 #include "platform/win32_constants.h"
+#include "util/raised_flag.h"
 #include "util/text.h"
 
 namespace korvale {
-namespace {
-
-class FlagWhile {
- public:
-  explicit FlagWhile(bool& flag) : flag_(&flag) { *flag_ = true; }
-  ~FlagWhile() { *flag_ = false; }
-  FlagWhile(const FlagWhile&) = delete;
-  FlagWhile& operator=(const FlagWhile&) = delete;
-
- private:
-  bool* flag_;
-};
-
-}  // namespace
 
 WindowEnumeration::WindowEnumeration(WindowQueries& windows, WindowRequests& requests,
                                      const WindowFilter& filter, const MainWindow& mainWindow,
@@ -33,26 +18,22 @@ WindowEnumeration::WindowEnumeration(WindowQueries& windows, WindowRequests& req
       mainWindow_(&mainWindow),
       tagPasses_(&tagPasses) {}
 
-void WindowEnumeration::EnumWindows(std::int32_t mode) {
-  Enumerate([&](WindowHandle hwnd) { return EnumWindowsProc(hwnd, mode); });
+void WindowEnumeration::EnumWindows(std::int32_t mode, const Visit& visit) {
+  Enumerate([&](WindowHandle hwnd) { return EnumWindowsProc(hwnd, mode, visit); });
 }
 
-void WindowEnumeration::EnumInstances() {
-  Enumerate([&](WindowHandle hwnd) { return EnumInstanceProc(hwnd, kSearchTitleAndClass); });
-}
-
-void WindowEnumeration::Enumerate(const std::function<bool(WindowHandle)>& visit) {
+void WindowEnumeration::Enumerate(const Test& visit) {
   if (enumerating_) throw RunTimeError(RunTimeError::kInvalidCall);
-  const FlagWhile enumerating(enumerating_);
+  const RaisedFlag enumerating(enumerating_);
   windows_->EnumWindows(visit);
 }
 
-bool WindowEnumeration::EnumWindowsProc(WindowHandle hwnd, std::int32_t mode) {
-  if (filter_->IsSelectableWindow(hwnd, false, false)) HandleSelectable(hwnd, mode);
+bool WindowEnumeration::EnumWindowsProc(WindowHandle hwnd, std::int32_t mode, const Visit& visit) {
+  if (filter_->IsSelectableWindow(hwnd, false, false)) HandleSelectable(hwnd, mode, visit);
   return true;
 }
 
-void WindowEnumeration::HandleSelectable(WindowHandle hwnd, std::int32_t mode) {
+void WindowEnumeration::HandleSelectable(WindowHandle hwnd, std::int32_t mode, const Visit& visit) {
   switch (mode) {
     case kMinimizeAll:
       if (CanMinimizeOrRestore(hwnd, false)) Minimize(hwnd);
@@ -63,34 +44,20 @@ void WindowEnumeration::HandleSelectable(WindowHandle hwnd, std::int32_t mode) {
     case kTagRefresh:
       tagPasses_->TagListPass(TagListMode::kMatch, 0, "", hwnd);
       break;
-    case kSearchTitleAndClass:
-      if (windows_->IsWindowVisible(hwnd) &&
-          GetWindowClass(*windows_, hwnd) == fields_.searchClass &&
-          FitsTitle(hwnd, fields_.searchTitle)) {
-        fields_.searchResult = hwnd;
-      }
-      break;
     case kTopWindow:
-      CountTopWindow(hwnd);
+      if (CanBeTopWindow(hwnd)) visit(hwnd);
       break;
+    case kSearchTitleAndClass:
     case kSearchTitle:
-      if (windows_->IsWindowVisible(hwnd) && FitsTitle(hwnd, fields_.titleSearchText)) {
-        fields_.titleSearchResult = hwnd;
-      }
+      if (windows_->IsWindowVisible(hwnd)) visit(hwnd);
       break;
     default:
       break;
   }
 }
 
-bool WindowEnumeration::EnumInstanceProc(WindowHandle hwnd, std::int32_t mode) {
-  if (mode == kSearchTitleAndClass && windows_->IsWindowVisible(hwnd) == fields_.instanceVisible &&
-      GetWindowClass(*windows_, hwnd) == fields_.instanceClass &&
-      EqualsIgnoreCase(GetWindowTitle(*windows_, hwnd), fields_.instanceTitle) &&
-      hwnd != mainWindow_->MainHandle() &&
-      (!fields_.instanceQualifies || fields_.instanceQualifies(hwnd))) {
-    fields_.instanceResult = hwnd;
-  }
+bool WindowEnumeration::EnumInstanceProc(WindowHandle hwnd, std::int32_t mode, const Visit& visit) {
+  if (mode == kSearchTitleAndClass) visit(hwnd);
   return true;
 }
 
@@ -100,51 +67,59 @@ void WindowEnumeration::RefreshTags() {
 }
 
 WindowHandle WindowEnumeration::FindByTitle(const std::string& identificationText) {
-  fields_.titleSearchText = identificationText;
-  fields_.titleSearchResult = 0;
-  EnumWindows(kSearchTitle);
-  return fields_.titleSearchResult;
+  WindowHandle last = 0;
+  EnumWindows(kSearchTitle, [&](WindowHandle hwnd) {
+    if (FitsTitle(hwnd, identificationText)) last = hwnd;
+  });
+  return last;
 }
 
 WindowHandle WindowEnumeration::FindByTitleAndClass(const std::string& title,
                                                     const std::string& className) {
-  fields_.searchTitle = title;
-  fields_.searchClass = className;
-  fields_.searchResult = 0;
-  EnumWindows(kSearchTitleAndClass);
-  return fields_.searchResult;
+  WindowHandle last = 0;
+  EnumWindows(kSearchTitleAndClass, [&](WindowHandle hwnd) {
+    if (GetWindowClass(*windows_, hwnd) == className && FitsTitle(hwnd, title)) last = hwnd;
+  });
+  return last;
 }
 
 WindowHandle WindowEnumeration::FindInstance(const std::string& className,
                                              const std::string& title) {
-  fields_.instanceVisible = true;
-  fields_.instanceQualifies = {};
-  return SearchInstance(className, title);
+  return SearchInstance(className, title, true, Any);
 }
 
 WindowHandle WindowEnumeration::FindHiddenInstance(const std::string& className,
                                                    const std::string& title,
-                                                   std::function<bool(WindowHandle)> qualifies) {
-  fields_.instanceVisible = false;
-  fields_.instanceQualifies = std::move(qualifies);
-  return SearchInstance(className, title);
+                                                   const Test& qualifies) {
+  return SearchInstance(className, title, false, qualifies);
 }
 
 WindowHandle WindowEnumeration::SearchInstance(const std::string& className,
-                                               const std::string& title) {
-  fields_.instanceClass = className;
-  fields_.instanceTitle = title;
-  fields_.instanceResult = 0;
-  EnumInstances();
-  return fields_.instanceResult;
+                                               const std::string& title, bool visible,
+                                               const Test& qualifies) {
+  WindowHandle last = 0;
+  const Visit keepMatch = [&](WindowHandle hwnd) {
+    if (windows_->IsWindowVisible(hwnd) == visible &&
+        GetWindowClass(*windows_, hwnd) == className &&
+        EqualsIgnoreCase(GetWindowTitle(*windows_, hwnd), title) &&
+        hwnd != mainWindow_->MainHandle() && qualifies(hwnd)) {
+      last = hwnd;
+    }
+  };
+  Enumerate(
+      [&](WindowHandle hwnd) { return EnumInstanceProc(hwnd, kSearchTitleAndClass, keepMatch); });
+  return last;
 }
 
-WindowHandle WindowEnumeration::FindTopWindow(std::function<bool(WindowHandle)> qualifies) {
-  fields_.topWindowQualifies = std::move(qualifies);
-  fields_.topWindowCount = 0;
-  fields_.topWindowResult = 0;
-  EnumWindows(kTopWindow);
-  return fields_.topWindowResult;
+WindowHandle WindowEnumeration::FindTopWindow(const Test& qualifies) {
+  WindowHandle top = 0;
+  std::int16_t count = 0;
+  EnumWindows(kTopWindow, [&](WindowHandle hwnd) {
+    if (!qualifies(hwnd)) return;
+    count = AddInt16(count, 1);
+    if (count == 1) top = hwnd;
+  });
+  return top;
 }
 
 void WindowEnumeration::Minimize(WindowHandle hwnd) {
@@ -171,17 +146,13 @@ bool WindowEnumeration::FitsTitle(WindowHandle hwnd, const std::string& text) co
   return TitleMatches(text, GetWindowTitle(*windows_, hwnd), false);
 }
 
-void WindowEnumeration::CountTopWindow(WindowHandle hwnd) {
+bool WindowEnumeration::CanBeTopWindow(WindowHandle hwnd) const {
   if (!windows_->IsWindowVisible(hwnd) || !windows_->IsWindowEnabled(hwnd) ||
       windows_->IsIconic(hwnd) || hwnd == mainWindow_->MainHandle() ||
       GetWindowClass(*windows_, hwnd) == "Shell_TrayWnd") {
-    return;
+    return false;
   }
-  const std::int32_t exStyle = windows_->GetWindowLongA(hwnd, win32::kGwlExStyle);
-  if ((exStyle & win32::kWsExTopmost) != 0) return;
-  if (fields_.topWindowQualifies && !fields_.topWindowQualifies(hwnd)) return;
-  fields_.topWindowCount = AddInt16(fields_.topWindowCount, 1);
-  if (fields_.topWindowCount == 1) fields_.topWindowResult = hwnd;
+  return (windows_->GetWindowLongA(hwnd, win32::kGwlExStyle) & win32::kWsExTopmost) == 0;
 }
 
 }  // namespace korvale

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <limits>
 #include <string>
 #include <vector>
@@ -12,6 +13,16 @@
 namespace korvale {
 namespace {
 
+/// More windows than the counter can count, all of them one.
+class CrowdedDesktop : public FakeDesktop {
+ public:
+  using FakeDesktop::FakeDesktop;
+  void EnumWindows(const std::function<bool(WindowHandle)>& visit) override {
+    const WindowHandle hwnd = Windows().TopLevel().front();
+    for (int i = 0; i <= std::numeric_limits<std::int16_t>::max(); ++i) visit(hwnd);
+  }
+};
+
 class TopWindow : public DesktopCase {};
 
 TEST_F(TopWindow, IsTheFirstBelowTheProgram) {
@@ -20,7 +31,6 @@ TEST_F(TopWindow, IsTheFirstBelowTheProgram) {
   const WindowHandle upper = desktop.Open("Upper");
   desktop.UserActivates(mainWindow.handle);
   EXPECT_EQ(enumeration.FindTopWindow(), upper);
-  EXPECT_EQ(enumeration.Fields().topWindowCount, 2);
 }
 
 TEST_F(TopWindow, PassesOverWhatCannotBeInFront) {
@@ -31,7 +41,6 @@ TEST_F(TopWindow, PassesOverWhatCannotBeInFront) {
   desktop.Open("Topmost", {.exStyle = win32::kWsExTopmost});
   desktop.Open("Taskbar", {.className = "Shell_TrayWnd"});
   EXPECT_EQ(enumeration.FindTopWindow(), plain);
-  EXPECT_EQ(enumeration.Fields().topWindowCount, 1);
 }
 
 TEST_F(TopWindow, TakesAWindowWithOtherExtendedStyles) {
@@ -50,7 +59,6 @@ TEST_F(TopWindow, MeetsTheCallersConditionToo) {
   });
   EXPECT_EQ(found, lower);
   EXPECT_EQ(asked, (std::vector<std::string>{"Upper", "Lower"}));
-  EXPECT_EQ(enumeration.Fields().topWindowCount, 1);
 }
 
 TEST_F(TopWindow, ForgetsTheConditionOfTheLastSearch) {
@@ -60,17 +68,19 @@ TEST_F(TopWindow, ForgetsTheConditionOfTheLastSearch) {
 }
 
 TEST_F(TopWindow, IsNoneOnAnEmptyDesktop) {
-  enumeration.Fields().topWindowResult = 77;
-  enumeration.Fields().topWindowCount = 5;
+  const WindowHandle alpha = desktop.Open("Alpha");
+  EXPECT_EQ(enumeration.FindTopWindow(), alpha);
+  desktop.Close(alpha);
   EXPECT_EQ(enumeration.FindTopWindow(), 0);
-  EXPECT_EQ(enumeration.Fields().topWindowCount, 0);
 }
 
 TEST_F(TopWindow, CounterOverflowsInsteadOfWidening) {
-  desktop.Open("Alpha");
-  enumeration.Fields().topWindowCount = std::numeric_limits<std::int16_t>::max();
+  CrowdedDesktop crowded(log);
+  crowded.Open("Alpha");
+  const WindowFilter crowdedFilter(crowded, options, forms, mainWindow);
+  WindowEnumeration counting(crowded, requests, crowdedFilter, mainWindow, passes);
   try {
-    enumeration.EnumWindows(kTopWindow);
+    counting.FindTopWindow();
     ADD_FAILURE() << "no overflow";
   } catch (const RunTimeError& error) {
     EXPECT_EQ(error.Number(), RunTimeError::kOverflow);

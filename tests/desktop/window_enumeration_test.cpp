@@ -18,7 +18,7 @@ TEST_F(WindowEnumerationTest, CallbackAlwaysAsksForMore) {
   for (std::int32_t mode = -1; mode <= 9; ++mode) {
     EXPECT_TRUE(enumeration.EnumWindowsProc(hwnd, mode));
     EXPECT_TRUE(enumeration.EnumWindowsProc(0, mode));
-    EXPECT_TRUE(enumeration.EnumInstanceProc(hwnd, mode));
+    EXPECT_TRUE(WindowEnumeration::EnumInstanceProc(hwnd, mode, WindowEnumeration::PassOver));
   }
 }
 
@@ -157,9 +157,10 @@ TEST_F(WindowEnumerationTest, SearchByTitleUsesTheTextAsItIs) {
 }
 
 TEST_F(WindowEnumerationTest, SearchByTitleForgetsTheLastSearch) {
-  enumeration.Fields().titleSearchResult = 77;
+  const WindowHandle alpha = desktop.Open("Alpha");
+  EXPECT_EQ(enumeration.FindByTitle("Alpha"), alpha);
+  desktop.Close(alpha);
   EXPECT_EQ(enumeration.FindByTitle("Alpha"), 0);
-  EXPECT_EQ(enumeration.Fields().titleSearchText, "Alpha");
 }
 
 TEST_F(WindowEnumerationTest, SearchByTitleAndClassFindsTheLowestMatchOfBoth) {
@@ -177,10 +178,10 @@ TEST_F(WindowEnumerationTest, SearchByTitleAndClassPassesOverHiddenWindows) {
 }
 
 TEST_F(WindowEnumerationTest, SearchByTitleAndClassReadsInItsOrder) {
-  const WindowHandle alpha = desktop.Open("Alpha", {.extraTextLength = 9});
-  enumeration.Fields().searchClass = "Window";
-  Calls calls = CallsOf([&] { enumeration.EnumWindowsProc(alpha, kSearchTitleAndClass); });
-  calls.erase(calls.begin(), calls.begin() + 5);
+  desktop.Open("Alpha", {.extraTextLength = 9});
+  Calls calls = CallsOf([&] { enumeration.FindByTitleAndClass("Alpha", "Window"); });
+  calls.erase(calls.begin(), calls.begin() + 6);
+  calls.resize(4);
   EXPECT_EQ(calls, (Calls{"IsWindowVisible(Alpha)", "GetClassNameA(Alpha, 255)",
                           "GetWindowTextLengthA(Alpha)", "GetWindowTextA(Alpha, 15)"}));
 }
@@ -223,20 +224,18 @@ TEST_F(WindowEnumerationTest, InstanceSearchDoesNotApplyTheFilter) {
 }
 
 TEST_F(WindowEnumerationTest, InstanceSearchActsInMode4Only) {
-  const WindowHandle hwnd = desktop.Open("Other", {.className = "c"});
-  enumeration.Fields().instanceClass = "c";
-  enumeration.Fields().instanceTitle = "Other";
-  for (const std::int32_t mode : {0, 1, 2, 3, 5, 6, 7}) {
-    EXPECT_EQ(CallsOf([&] { enumeration.EnumInstanceProc(hwnd, mode); }), Calls{}) << mode;
+  for (std::int32_t mode = 0; mode <= 8; ++mode) {
+    WindowHandle handedOver = 0;
+    WindowEnumeration::EnumInstanceProc(17, mode, [&](WindowHandle hwnd) { handedOver = hwnd; });
+    EXPECT_EQ(handedOver, mode == 4 ? 17 : 0) << mode;
   }
-  EXPECT_EQ(enumeration.Fields().instanceResult, 0);
-  enumeration.EnumInstanceProc(hwnd, 4);
-  EXPECT_EQ(enumeration.Fields().instanceResult, hwnd);
 }
 
 TEST_F(WindowEnumerationTest, InstanceSearchForgetsTheLastSearch) {
-  enumeration.Fields().instanceResult = 77;
-  EXPECT_EQ(enumeration.FindInstance("c", "t"), 0);
+  const WindowHandle hwnd = desktop.Open("Main", {.className = "Korvale.frmMain"});
+  EXPECT_EQ(enumeration.FindInstance("Korvale.frmMain", "Main"), hwnd);
+  desktop.Close(hwnd);
+  EXPECT_EQ(enumeration.FindInstance("Korvale.frmMain", "Main"), 0);
 }
 
 }  // namespace

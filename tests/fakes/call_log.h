@@ -19,6 +19,8 @@ class CallLog {
   void Add(std::string call);
   /// A call that only reads; left out unless IncludeReads(true).
   void AddRead(std::string call);
+  /// Whether a read would be written or watched for; fakes that are read often ask first.
+  bool TakesReads() const { return include_reads_ || !actions_.empty(); }
 
   void IncludeReads(bool include) { include_reads_ = include; }
   /// Writes `name` for this window from now on; "" goes back to its number.

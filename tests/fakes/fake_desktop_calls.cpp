@@ -29,8 +29,10 @@ std::int32_t LiveStyle(const FakeWindow& window) {
 
 const FakeWindow* FakeDesktop::Read(const char* call, WindowHandle hwnd,
                                     const std::string& argument) {
-  const std::string rest = argument.empty() ? ")" : ", " + argument + ")";
-  log_.AddRead(std::string(call) + "(" + log_.Window(hwnd) + rest);
+  if (log_.TakesReads()) {
+    const std::string rest = argument.empty() ? ")" : ", " + argument + ")";
+    log_.AddRead(std::string(call) + "(" + log_.Window(hwnd) + rest);
+  }
   return windows_.Find(hwnd);
 }
 
