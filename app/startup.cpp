@@ -194,8 +194,8 @@ void StartUp::RecordPreviousWindow(frmMain& form) {
     return parts.desktop.tracker.AcceptForeground(hwnd, GetWindowTitle(platform_->windows, hwnd));
   });
   if (before != 0) {
-    parts.desktop.tracker.MoveRecordTo({before, GetWindowTitle(platform_->windows, before),
-                                        GetWindowClass(platform_->windows, before)});
+    parts.desktop.tracker.Follow({before, GetWindowTitle(platform_->windows, before),
+                                  GetWindowClass(platform_->windows, before)});
     parts.desktop.tracker.ValidatePreviousWindow();
   }
   // The user has come to the main window from another one, as they do by a click on it; to a

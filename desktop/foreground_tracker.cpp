@@ -19,6 +19,18 @@ constexpr int kMostDialogs = 16;
 constexpr const char* kTaskbarClass = "Shell_TrayWnd";
 constexpr const char* kBareDesktopClass = "Progman";
 
+/// The entry of the first Tag that has this class stored and fits this title; null when none does.
+MenuItem* IdentifyingEntry(TagList& tags, const std::string& title, const std::string& className) {
+  for (int tag = 1; tag <= kTagCount; ++tag) {
+    MenuItem* const entry = tags.mnuWindowParentList.Find(tag);
+    if (entry != nullptr && TagClass(tags, *entry) == className &&
+        TitleMatches(entry->caption, title, true)) {
+      return entry;
+    }
+  }
+  return nullptr;
+}
+
 }  // namespace
 
 ForegroundTracker::ForegroundTracker(const DesktopParts& parts, const WindowFilter& filter,
@@ -54,7 +66,7 @@ void ForegroundTracker::LookAtForeground() {
   }
   mainWindow_->tmrWindow().SetInterval(kTickMilliseconds);
   if (AcceptForeground(foreground, title)) {
-    MoveRecordTo({foreground, title, GetWindowClass(*windows_, foreground)});
+    Follow({foreground, title, GetWindowClass(*windows_, foreground)});
     ValidatePreviousWindow();
   } else {
     LookBehindDialog(foreground);
@@ -78,7 +90,7 @@ void ForegroundTracker::LookBehindDialog(WindowHandle dialog) {
 void ForegroundTracker::MoveRecordBehindDialog(const WindowTriple& window) {
   const bool known = window.handle == lastSeen_;
   if (known && window.handle == previous_->current.handle) return;
-  if (!known) MoveRecordTo(window);
+  if (!known) Follow(window);
   ValidatePreviousWindow();
 }
 
@@ -128,19 +140,17 @@ bool ForegroundTracker::CanComeBack(WindowHandle hwnd) {
          GetWindowClass(*windows_, hwnd) != kTaskbarClass;
 }
 
-/// A window that the options exclude is accepted all the same when the user has tagged it.
-bool ForegroundTracker::AcceptForeground(WindowHandle hwnd, const std::string& title) {
-  if (filter_->IsSelectableWindow(hwnd, true, true)) return true;
-  for (int tag = 1; tag <= kTagCount; ++tag) {
-    MenuItem* const entry = tags_->mnuWindowParentList.Find(tag);
-    if (entry == nullptr || TagClass(*tags_, *entry) != GetWindowClass(*windows_, hwnd) ||
-        !TitleMatches(entry->caption, title, true)) {
-      continue;
-    }
-    entry->tag = DecimalText(hwnd);
-    return true;
+bool ForegroundTracker::AcceptForeground(WindowHandle hwnd, const std::string& title) const {
+  return filter_->IsSelectableWindow(hwnd, true, true) ||
+         IdentifyingEntry(*tags_, title, GetWindowClass(*windows_, hwnd)) != nullptr;
+}
+
+void ForegroundTracker::Follow(const WindowTriple& window) {
+  MenuItem* const entry = IdentifyingEntry(*tags_, window.text, window.className);
+  if (entry != nullptr && !filter_->IsSelectableWindow(window.handle, true, true)) {
+    entry->tag = DecimalText(window.handle);
   }
-  return false;
+  MoveRecordTo(window);
 }
 
 void ForegroundTracker::MoveRecordTo(const WindowTriple& window) {

@@ -49,8 +49,12 @@ class ForegroundTracker {
   void udmRefreshAlwaysOnTopMenuChecked();
 
   /// Whether a window that passed the basic checks may become the Previous Window: the options
-  /// allow it, or else a Tag identifies it, which then takes its handle.
-  bool AcceptForeground(WindowHandle hwnd, const std::string& title);
+  /// allow it, or else a Tag identifies it.
+  bool AcceptForeground(WindowHandle hwnd, const std::string& title) const;
+
+  /// Moves the record to a window that AcceptForeground accepts. When the options exclude it, the
+  /// Tag that identifies it takes its handle.
+  void Follow(const WindowTriple& window);
 
   /// The user is in `window` now. Unless that is the main window, it becomes the Previous Window,
   /// and the window before it, or the main window when that had the focus, the alternate.

@@ -95,7 +95,7 @@ bool HotKeyDispatch::IsIdentified(const WindowTriple& window) {
 }
 
 void HotKeyDispatch::MakeTarget(const WindowTriple& window) {
-  desktop_->tracker.MoveRecordTo(window);
+  desktop_->tracker.Follow(window);
   desktop_->tracker.ValidatePreviousWindow();
 }
 

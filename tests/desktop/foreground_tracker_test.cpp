@@ -200,6 +200,13 @@ TEST_F(ForegroundTracking, OnlyTheFirstFittingTagTakesTheWindow) {
   EXPECT_EQ(HandleOfTag(7), 0);
 }
 
+TEST_F(ForegroundTracking, AskingWhetherAWindowIsAcceptedLeavesItsTagAlone) {
+  AddTag(3, "Tool", "Window");
+  const WindowHandle tool = desktop.Open("Tool", {.exStyle = win32::kWsExToolWindow});
+  EXPECT_TRUE(tracker.AcceptForeground(tool, "Tool"));
+  EXPECT_EQ(HandleOfTag(3), 0);
+}
+
 TEST_F(ForegroundTracking, TagWithoutAClassAcceptsNoWindow) {
   AddTag(3, "Tool");
   WorkIn(desktop.Open("Tool", {.exStyle = win32::kWsExToolWindow}));

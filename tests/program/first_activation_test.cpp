@@ -185,6 +185,36 @@ TEST_F(FirstActivationTest, AnUntitledWindowInFrontIsPassedOverAtTheStart) {
   EXPECT_EQ(korvale.TargetWindow(), "Below");
 }
 
+/// Two tool windows, which only Tag 3 makes windows to come back to.
+class TaggedToolsAtStart : public StartTest {
+ protected:
+  void SetUp() override {
+    store.SaveSetting("Korvale - Work", "ParentWindowList", "3", "&3  Tool");
+    store.SaveSetting("Korvale - Work", "ParentWindowClass", "3", "Window");
+    Open("Tool below", {.exStyle = win32::kWsExToolWindow});
+    tool = Open("Tool", {.exStyle = win32::kWsExToolWindow});
+  }
+
+  WindowHandle tool = 0;
+};
+
+TEST_F(TaggedToolsAtStart, TheTopmostOneIsThePreviousWindowAndHasTheTag) {
+  KorvaleCopy& korvale = StartedCopy();
+  EXPECT_EQ(korvale.TargetWindow(), "Tool");
+  EXPECT_EQ(TagHandle(korvale.Form().Menu("mnuWindowParentList", 3)), tool);
+  PressTag(3);
+  EXPECT_EQ(Front(), "Tool");
+}
+
+TEST_F(TaggedToolsAtStart, NoneOfThemHasTheTagWhenAnotherWindowWasInFront) {
+  Open("Alpha");
+  KorvaleCopy& korvale = StartedCopy();
+  EXPECT_EQ(korvale.TargetWindow(), "Alpha");
+  EXPECT_EQ(TagHandle(korvale.Form().Menu("mnuWindowParentList", 3)), 0);
+  PressTag(3);
+  EXPECT_EQ(Front(), "Tool");
+}
+
 TEST_F(FirstActivationTest, ThePreviousWindowIsSelectedWhenTheOptionSaysSo) {
   Open("Alpha");
   store.SaveSetting("Korvale - Work", "Options", "SelectPrevWinOnStart", "True");
