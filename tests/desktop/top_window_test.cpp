@@ -78,7 +78,7 @@ TEST_F(TopWindow, CounterOverflowsInsteadOfWidening) {
   CrowdedDesktop crowded(log);
   crowded.Open("Alpha");
   const WindowFilter crowdedFilter(crowded, options, forms, mainWindow);
-  WindowEnumeration counting(crowded, requests, crowdedFilter, mainWindow, passes);
+  WindowEnumeration counting(crowded, routines.requests, crowdedFilter, mainWindow, passes);
   try {
     counting.FindTopWindow();
     ADD_FAILURE() << "no overflow";
