@@ -9,7 +9,7 @@
 #include "platform/windows/windows_settings_store.h"
 #include "platform/windows/windows_system_api.h"
 #include "platform/windows/windows_window_api.h"
-#include "ui/windows/windows_form_host.h"
+#include "ui/windows/windows_ui.h"
 
 namespace {
 
@@ -41,7 +41,8 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, PWSTR /*commandL
   korvale::WindowsSystemApi system;
   korvale::WindowsClock clock;
   korvale::WindowsTimers timers;
-  korvale::WindowsFormHost host(instance);
-  korvale::Platform platform{windows, windows, hotKeys, store, system, clock, timers, host};
+  korvale::WindowsUi ui(instance);
+  korvale::Platform platform{windows, windows, hotKeys, store,     system,     clock,
+                             timers,  ui.host, ui.loop, ui.screen, ui.dialogs, ui.input};
   return korvale::RunProgram(platform);
 }

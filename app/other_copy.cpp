@@ -40,7 +40,7 @@ void OtherCopy::RefuseToRunBeside(frmMain& form) {
   if (Find(form) == 0 && alone_) {
     return;
   }
-  platform_->host.DoEvents();
+  platform_->loop.DoEvents();
   parts.messages.ShowMessageBox("'" + form.Caption() + "' is already open.", win32::kMbOk,
                                 parts.identity.messageTitle);
   BringForward(form, Find(form));

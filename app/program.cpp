@@ -33,7 +33,7 @@ std::string DescribeUncaught() {
 
 Program::Program(Platform& platform)
     : platform_(&platform),
-      forms_(platform.host, platform.timers),
+      forms_(platform.host, platform.loop, platform.screen, platform.timers),
       startUp_(platform),
       form_(platform, forms_, startUp_) {
   forms_.SetUncaughtHandler([this] { ReportUncaught(); });
@@ -54,7 +54,7 @@ bool Program::Start() {
 
 void Program::Run() {
   Guarded([this] {
-    platform_->host.RunMessageLoop([this] { return !form_.IsLoaded(); });
+    platform_->loop.RunMessageLoop([this] { return !form_.IsLoaded(); });
     // Another program may have told the thread to quit.
     form_.Unload(CloseReason::kTaskManager);
   });
@@ -88,7 +88,7 @@ void Program::ReportUncaught() {
       form_.udmNonFatalError(ErrorPlace::kEventHandler, CurrentErrorNumber());
     }
   } catch (const ProgramEnded&) {
-    platform_->host.PostQuitMessage();
+    platform_->loop.PostQuitMessage();
   }
 }
 

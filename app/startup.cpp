@@ -56,7 +56,7 @@ void StartUp::Initialise(frmMain& form) {
 
 /// The session may end while a message is shown, or another program may end this one.
 void StartUp::EndIfUnloaded(frmMain& form) {
-  if (platform_->host.QuitPosted()) form.Unload(CloseReason::kTaskManager);
+  if (platform_->loop.QuitPosted()) form.Unload(CloseReason::kTaskManager);
   if (!form.IsLoaded()) {
     throw ProgramEnded{};
   }

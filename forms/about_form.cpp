@@ -99,7 +99,7 @@ void frmMsgBox2::Prepare(std::string_view mode) {
 void frmMsgBox2::PaintLink() {
   Find("lblWebSite")
       .SetForeColor(
-          LinkTextColor(Collection().Host(), kLinkColor, {kButtonFaceColor, kButtonTextColor}));
+          LinkTextColor(Collection().Screen(), kLinkColor, {kButtonFaceColor, kButtonTextColor}));
 }
 
 void frmMsgBox2::Form_SysColorChange() { PaintLink(); }

@@ -5,7 +5,8 @@
 #include <string>
 
 #include "app/core/message_boxes.h"
-#include "platform/form_host.h"
+#include "platform/form_events.h"
+#include "platform/input_devices.h"
 #include "platform/menu_model.h"
 #include "platform/system_api.h"
 #include "ui/control.h"

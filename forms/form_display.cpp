@@ -79,7 +79,7 @@ void FormDisplay::ShowFormAside(Form& form) {
   form.Load();
   PlaceForm(form, {}, {}, nullptr);
   form.Show();
-  forms_->Host().RunMessageLoop([&form] { return !form.Visible(); });
+  forms_->Loop().RunMessageLoop([&form] { return !form.Visible(); });
 }
 
 void FormDisplay::ShowFormNonModal(Form& form, const DisplaySwitches& switches, Form* owner) {
@@ -104,30 +104,30 @@ void FormDisplay::ShowFormNonModal(Form& form, const DisplaySwitches& switches, 
 
 void FormDisplay::PlaceForm(Form& form, const DisplaySwitches& switches, const PlaceHints& hints,
                             Form* owner) {
-  FormHost& host = forms_->Host();
-  const TwipsRect area = host.GetMonitorInfoW(windows_->GetForegroundWindow());
+  ScreenQueries& screen = forms_->Screen();
+  const TwipsRect area = screen.GetMonitorInfoW(windows_->GetForegroundWindow());
   // The user may work on another monitor than the one where the owner is.
   const bool onOwner = switches.centerOnOwner != 0 && CanBeCentredOn(owner) &&
-                       host.GetMonitorInfoW(owner->Handle()) == area;
+                       screen.GetMonitorInfoW(owner->Handle()) == area;
   // Its size counts the dots of the monitor that it is on.
-  if (host.GetMonitorInfoW(form.Handle()) != area) MoveTo(form, area.left, area.top);
-  const TwipsRect room = onOwner ? host.GetWindowRect(owner->Handle()) : area;
-  const TwipsRect size = host.GetWindowRect(form.Handle());
+  if (screen.GetMonitorInfoW(form.Handle()) != area) MoveTo(form, area.left, area.top);
+  const TwipsRect room = onOwner ? screen.GetWindowRect(owner->Handle()) : area;
+  const TwipsRect size = screen.GetWindowRect(form.Handle());
   MoveTo(form, hints.left != -1 ? hints.left : Centred(room.left, room.width, size.width),
          hints.top != -1 ? hints.top : Centred(room.top, room.height, size.height));
   if (switches.keepInWorkArea != 0) KeepInWorkArea(form);
 }
 
 void FormDisplay::KeepInWorkArea(Form& form) {
-  const TwipsRect area = forms_->Host().GetMonitorInfoW(form.Handle());
-  const TwipsRect place = forms_->Host().GetWindowRect(form.Handle());
+  const TwipsRect area = forms_->Screen().GetMonitorInfoW(form.Handle());
+  const TwipsRect place = forms_->Screen().GetWindowRect(form.Handle());
   MoveTo(form, Inside(place.left, area.left, area.width, place.width),
          Inside(place.top, area.top, area.height, place.height));
 }
 
 void FormDisplay::BringOntoMonitor(Form& form) {
-  const TwipsRect area = forms_->Host().GetMonitorInfoW(form.Handle());
-  const TwipsRect place = forms_->Host().GetWindowRect(form.Handle());
+  const TwipsRect area = forms_->Screen().GetMonitorInfoW(form.Handle());
+  const TwipsRect place = forms_->Screen().GetWindowRect(form.Handle());
   if (Overlap(place.left, place.width, area.left, area.width) < kReachable ||
       Overlap(place.top, kTitleBar, area.top, area.height) < kReachable) {
     KeepInWorkArea(form);

@@ -110,7 +110,7 @@ void frmGetWindow::ShowTagState() {
   const std::string text = AssignedText(Find("cboWindow").SelectedText());
   Control& lblWindow = Find("lblWindow");
   lblWindow.SetText(text.empty() ? "Available" : ShortenedText(text, kLabelColumns));
-  lblWindow.SetForeColor(MarkedTextColor(Collection().Host(), text.empty() ? kBlue : kRed,
+  lblWindow.SetForeColor(MarkedTextColor(Collection().Screen(), text.empty() ? kBlue : kRed,
                                          {kButtonFaceColor, kButtonTextColor}));
   Find("cmdRemove").SetEnabled(!text.empty());
 }

@@ -65,7 +65,7 @@ void frmMain::Form_QueryUnload(bool& cancel, CloseReason reason) {
 void frmMain::Form_Unload() {
   // A start-up that the end of the session cuts short has nothing to save yet.
   udmUnload(parts_.state.startUpFinished);
-  platform_->host.PostQuitMessage();
+  platform_->loop.PostQuitMessage();
 }
 
 void frmMain::udmUnload(bool booNormalShutDown) {
@@ -150,7 +150,7 @@ void frmMain::CheckPreviousWindowAlwaysOnTop(bool checked) {
 
 WindowHandle frmMain::PopUpWindowMenu() {
   parts_.desktop.selection.selected = 0;
-  platform_->host.TrackPopupMenuEx(Handle(), Menu("mnuWindow"));
+  platform_->dialogs.TrackPopupMenuEx(Handle(), Menu("mnuWindow"));
   return parts_.desktop.selection.selected;
 }
 

@@ -34,7 +34,7 @@ ColorCustomizing::Parts frmMain::CustomizingParts() {
 void frmMain::ApplyColors() {
   const auto paint = [this](const char* name, Color chosen) {
     const TextColors colors =
-        OnChosenColor(Collection().Host(), chosen, {kWindowColor, kWindowTextColor});
+        OnChosenColor(Collection().Screen(), chosen, {kWindowColor, kWindowTextColor});
     Control& field = Find(name);
     field.SetBackColor(colors.back);
     field.SetForeColor(colors.text);
@@ -47,7 +47,7 @@ void frmMain::Form_SysColorChange() { ApplyColors(); }
 
 void frmMain::SetMousePointer(MousePointer pointer) {
   pointer_ = pointer;
-  platform_->host.SetCursor(pointer);
+  platform_->input.SetCursor(pointer);
 }
 
 void frmMain::mnuViewCustomizeColors_Click() {

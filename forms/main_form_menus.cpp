@@ -45,7 +45,7 @@ void frmMain::BindMenus() {
 void frmMain::BindWindowMenu() {
   WhenMenuOpens("mnuWindow", [this](int) {
     windowMenu_.mnuWindow_Click();
-    FitMenuToScreen(platform_->host, Handle(), Menu("mnuWindow"));
+    FitMenuToScreen(platform_->screen, Handle(), Menu("mnuWindow"));
   });
   WhenMenuClicked("mnuWindowAlwaysOnTop",
                   [this](int) { windowMenu_.mnuWindowAlwaysOnTop_Click(); });

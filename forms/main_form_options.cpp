@@ -49,7 +49,7 @@ std::optional<Color> frmMain::udmShowColorPalette(Color initial) {
   std::optional<Color> chosen;
   const RaisedFlag shown(parts_.suspension.DialogShown);
   Collection().RunSystemDialog(
-      *owner, [&] { chosen = platform_->host.ChooseColorW(owner->Handle(), initial); });
+      *owner, [&] { chosen = platform_->dialogs.ChooseColorW(owner->Handle(), initial); });
   if (chosen) {
     parts_.startup.LastColorSelected = *chosen;
   }

@@ -25,8 +25,9 @@ Twips AsStored(Twips length) { return std::clamp(length, -kFarthestPlace, kFarth
 Twips frmMain::HeightForContent(const TwipsRect& frame) {
   Twips height = kClassicFrameHeight + (State().menuShown ? kClassicMenuHeight : 0);
   const Twips higher = frame.height - height;
+  const int dpi = Collection().Screen().GetDpiForWindow(Handle());
   // Less than half a pixel comes from counting in twips.
-  if (2 * higher * Collection().Host().GetDpiForWindow(Handle()) > kTwipsPerInch) height += higher;
+  if (2 * higher * dpi > kTwipsPerInch) height += higher;
   if (parts_.startup.WindowInfo) {
     height += Find("txtWindow").Place().height + kRoomAroundFields;
   }
@@ -151,7 +152,7 @@ void frmMain::Form_KeyDown(int& key, unsigned shift) {
   const bool alt = shift == kAlt;
   if (key == win32::kVkF1 && shift == kNoShift) {
     key = 0;
-    Collection().Host().SendInput(Handle(), 'H', kAlt);
+    platform_->input.SendInput(Handle(), 'H', kAlt);
     return;
   }
   if (alt && key == win32::kVkF4) {

@@ -21,7 +21,7 @@ WindowHandle DialogOnTop(const FormCollection& forms) {
 MainParts::MainParts(Platform& platform, FormCollection& forms, MainWindow& mainWindow,
                      MenuBar& menus, HotKeyActions& hotKeyActions, std::function<void()> shutDown)
     : settings(platform.store, ""),
-      messages(platform.host, platform.windows, platform.commands, mainWindow, forms, previous,
+      messages(platform.dialogs, platform.windows, platform.commands, mainWindow, forms, previous,
                suspension, [&forms] { return DialogOnTop(forms); }),
       errorLog(identity, platform.clock,
                [this] {
@@ -36,7 +36,7 @@ MainParts::MainParts(Platform& platform, FormCollection& forms, MainWindow& main
       toggle(hotKeys, options, hotKeyActions, identity.productName, identity.messageTitle),
       dispatch(desktop, suspension, hotKeyActions, toggle, errors, identity.productName,
                identity.messageTitle),
-      hook(platform.hotKeys, platform.host, mainWindow, hotKeys, dispatch,
+      hook(platform.hotKeys, platform.dialogs, mainWindow, hotKeys, dispatch,
            [&forms] { forms.ReportUncaught(); }) {}
 
 }  // namespace korvale

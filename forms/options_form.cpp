@@ -162,7 +162,7 @@ void frmOptions::udmRefreshHotKeyLabels() {
 }
 
 void frmOptions::PaintLabel(std::string_view label, int index, bool enabled) {
-  const TextColors colors = enabled ? OnChosenColor(Collection().Host(), colHotKeyEnabled_,
+  const TextColors colors = enabled ? OnChosenColor(Collection().Screen(), colHotKeyEnabled_,
                                                     {kHighlightColor, kHighlightTextColor})
                                     : TextColors{kButtonFaceColor, kButtonTextColor};
   Control& control = Find(label, index);

@@ -7,7 +7,7 @@
 
 #include "app/core/message_boxes.h"
 #include "hotkeys/hot_key_table.h"
-#include "platform/form_host.h"
+#include "platform/input_devices.h"
 #include "platform/types.h"
 
 namespace korvale {

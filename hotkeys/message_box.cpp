@@ -26,13 +26,13 @@ class DepthCount {
 
 }  // namespace
 
-SuspendingMessageBoxes::SuspendingMessageBoxes(FormHost& host, WindowQueries& windows,
+SuspendingMessageBoxes::SuspendingMessageBoxes(SystemDialogs& dialogs, WindowQueries& windows,
                                                WindowCommands& commands, MainWindow& mainWindow,
                                                const LoadedForms& forms,
                                                const PreviousWindow& previous,
                                                Suspension& suspension,
                                                std::function<WindowHandle()> dialogOnTop)
-    : host_(&host),
+    : dialogs_(&dialogs),
       windows_(&windows),
       commands_(&commands),
       mainWindow_(&mainWindow),
@@ -88,7 +88,7 @@ void SuspendingMessageBoxes::Resume(const Remembered& before) {
 
 std::int16_t SuspendingMessageBoxes::Show(const std::string& prompt, std::int32_t buttons,
                                           const std::string& title) {
-  return host_->MessageBoxW(Owner(), prompt, title, buttons);
+  return dialogs_->MessageBoxW(Owner(), prompt, title, buttons);
 }
 
 /// Windows enables the owner of a closed box and brings it to the front, so the owner must be what

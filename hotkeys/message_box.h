@@ -8,7 +8,7 @@
 #include "desktop/main_window.h"
 #include "desktop/previous_window.h"
 #include "hotkeys/suspension.h"
-#include "platform/form_host.h"
+#include "platform/system_dialogs.h"
 #include "platform/window_api.h"
 #include "util/forms.h"
 
@@ -19,7 +19,7 @@ class SuspendingMessageBoxes : public MessageBoxes {
  public:
   /// `dialogOnTop` gives the window of the dialog that is shown on top of the main window, 0 when
   /// there is none.
-  SuspendingMessageBoxes(FormHost& host, WindowQueries& windows, WindowCommands& commands,
+  SuspendingMessageBoxes(SystemDialogs& dialogs, WindowQueries& windows, WindowCommands& commands,
                          MainWindow& mainWindow, const LoadedForms& forms,
                          const PreviousWindow& previous, Suspension& suspension,
                          std::function<WindowHandle()> dialogOnTop);
@@ -49,7 +49,7 @@ class SuspendingMessageBoxes : public MessageBoxes {
   WindowHandle Owner();
   void GiveForegroundBack(WindowHandle before);
 
-  FormHost* host_;
+  SystemDialogs* dialogs_;
   WindowQueries* windows_;
   WindowCommands* commands_;
   MainWindow* mainWindow_;

@@ -8,11 +8,11 @@
 
 namespace korvale {
 
-WindowProcHook::WindowProcHook(HotKeyApi& hotKeys, FormHost& host, const MainWindow& mainWindow,
-                               const HotKeyTable& table, HotKeyProcessor& processor,
-                               std::function<void()> reportUncaught)
+WindowProcHook::WindowProcHook(HotKeyApi& hotKeys, SystemDialogs& dialogs,
+                               const MainWindow& mainWindow, const HotKeyTable& table,
+                               HotKeyProcessor& processor, std::function<void()> reportUncaught)
     : hotKeys_(&hotKeys),
-      host_(&host),
+      dialogs_(&dialogs),
       mainWindow_(&mainWindow),
       table_(&table),
       processor_(&processor),
@@ -42,7 +42,7 @@ void WindowProcHook::Dispatch(std::uintptr_t identifier, std::intptr_t lParam) {
   try {
     // A copy: the toggle rebuilds the table while the name is in use.
     const std::string name = table_->NameOf(identifier);
-    if (host_->EndMenu()) {
+    if (dialogs_->EndMenu()) {
       Postpone({identifier, lParam});
     } else {
       processor_->udmProcessHotKey(name, true, false, "");

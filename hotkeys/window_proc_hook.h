@@ -7,8 +7,8 @@
 #include "desktop/main_window.h"
 #include "hotkeys/hot_key_processor.h"
 #include "hotkeys/hot_key_table.h"
-#include "platform/form_host.h"
 #include "platform/hot_key_api.h"
+#include "platform/system_dialogs.h"
 
 namespace korvale {
 
@@ -16,7 +16,7 @@ namespace korvale {
 class WindowProcHook : public WindowProcedure {
  public:
   /// `reportUncaught` is called inside a catch block and must not throw.
-  WindowProcHook(HotKeyApi& hotKeys, FormHost& host, const MainWindow& mainWindow,
+  WindowProcHook(HotKeyApi& hotKeys, SystemDialogs& dialogs, const MainWindow& mainWindow,
                  const HotKeyTable& table, HotKeyProcessor& processor,
                  std::function<void()> reportUncaught);
 
@@ -40,7 +40,7 @@ class WindowProcHook : public WindowProcedure {
   void Postpone(const QueuedMessage& hotKey);
 
   HotKeyApi* hotKeys_;
-  FormHost* host_;
+  SystemDialogs* dialogs_;
   const MainWindow* mainWindow_;
   const HotKeyTable* table_;
   HotKeyProcessor* processor_;

@@ -3,8 +3,12 @@
 #include "platform/clock.h"
 #include "platform/form_host.h"
 #include "platform/hot_key_api.h"
+#include "platform/input_devices.h"
+#include "platform/message_loop.h"
+#include "platform/screen_queries.h"
 #include "platform/settings_store.h"
 #include "platform/system_api.h"
+#include "platform/system_dialogs.h"
 #include "platform/window_api.h"
 
 namespace korvale {
@@ -19,6 +23,10 @@ struct Platform {
   Clock& clock;
   TimerApi& timers;
   FormHost& host;
+  MessageLoop& loop;
+  ScreenQueries& screen;
+  SystemDialogs& dialogs;
+  InputDevices& input;
 };
 
 }  // namespace korvale

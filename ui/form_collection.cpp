@@ -42,7 +42,7 @@ void FormCollection::RunModal(Form& form) {
   for (const Form* const other : blocked) host_->EnableWindow(other->Handle(), false);
   try {
     form.Show();
-    host_->RunMessageLoop([&] { return !IsModal(form); });
+    loop_->RunMessageLoop([&] { return !IsModal(form); });
   } catch (...) {
     EndModal(&form);
     throw;

@@ -6,19 +6,24 @@
 
 #include "platform/clock.h"
 #include "platform/form_host.h"
+#include "platform/message_loop.h"
+#include "platform/screen_queries.h"
 #include "util/forms.h"
 
 namespace korvale {
 
 class Form;
 
-/// The loaded forms of the program and what they share: the host that shows them, their timers
-/// and the place where an error of an event handler is reported.
+/// The loaded forms of the program and what they share: the host that shows them, the message
+/// loop, the screen, their timers and the place where an error of an event handler is reported.
 class FormCollection : public LoadedForms {
  public:
-  FormCollection(FormHost& host, TimerApi& timers) : host_(&host), timers_(&timers) {}
+  FormCollection(FormHost& host, MessageLoop& loop, ScreenQueries& screen, TimerApi& timers)
+      : host_(&host), loop_(&loop), screen_(&screen), timers_(&timers) {}
 
   FormHost& Host() { return *host_; }
+  MessageLoop& Loop() { return *loop_; }
+  ScreenQueries& Screen() { return *screen_; }
   TimerApi& Timers() { return *timers_; }
 
   /// The loaded forms in the order of their loading.
@@ -63,6 +68,8 @@ class FormCollection : public LoadedForms {
   std::vector<Form*> Block(Form* modal);
 
   FormHost* host_;
+  MessageLoop* loop_;
+  ScreenQueries* screen_;
   TimerApi* timers_;
   std::vector<Form*> loaded_;
   std::vector<Modal> modal_;

@@ -15,9 +15,10 @@ namespace {
 constexpr Twips kBesideText = 2400;
 
 /// The longest beginning of the caption that fits with "..." behind it; the caption when all fits.
-std::string Fitting(FormHost& host, WindowHandle hwnd, const std::string& caption, Twips room) {
+std::string Fitting(ScreenQueries& screen, WindowHandle hwnd, const std::string& caption,
+                    Twips room) {
   const auto fits = [&](const std::string& text) {
-    return host.GetTextExtentPoint32W(hwnd, text) <= room;
+    return screen.GetTextExtentPoint32W(hwnd, text) <= room;
   };
   if (fits(caption)) return caption;
   std::size_t shortest = 0;
@@ -39,10 +40,11 @@ std::string Fitting(FormHost& host, WindowHandle hwnd, const std::string& captio
 
 }  // namespace
 
-void FitMenuToScreen(FormHost& host, WindowHandle hwnd, MenuItem& menu) {
-  const Twips screen = std::min(host.GetMonitorInfoW(hwnd).width, host.MonitorFromPoint().width);
+void FitMenuToScreen(ScreenQueries& screen, WindowHandle hwnd, MenuItem& menu) {
+  const Twips narrowest =
+      std::min(screen.GetMonitorInfoW(hwnd).width, screen.MonitorFromPoint().width);
   for (const auto& item : menu.items) {
-    const std::string text = Fitting(host, hwnd, item->caption, screen - kBesideText);
+    const std::string text = Fitting(screen, hwnd, item->caption, narrowest - kBesideText);
     item->shown = text == item->caption ? "" : text;
   }
 }

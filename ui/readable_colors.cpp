@@ -10,25 +10,26 @@ namespace {
 constexpr double kLeastContrastOfMarks = 2.5;
 constexpr double kLeastContrastOfText = 4.5;
 
-Color ColoredText(FormHost& host, Color color, const TextColors& system, double leastContrast) {
-  const bool readable =
-      !host.HighContrast() && ContrastRatio(color, host.GetSysColor(system.back)) >= leastContrast;
+Color ColoredText(ScreenQueries& screen, Color color, const TextColors& system,
+                  double leastContrast) {
+  const bool readable = !screen.HighContrast() &&
+                        ContrastRatio(color, screen.GetSysColor(system.back)) >= leastContrast;
   return readable ? color : system.text;
 }
 
 }  // namespace
 
-TextColors OnChosenColor(FormHost& host, Color chosen, const TextColors& system) {
-  if (host.HighContrast()) return system;
-  return {chosen, ReadableTextColor(host.GetSysColor(chosen))};
+TextColors OnChosenColor(ScreenQueries& screen, Color chosen, const TextColors& system) {
+  if (screen.HighContrast()) return system;
+  return {chosen, ReadableTextColor(screen.GetSysColor(chosen))};
 }
 
-Color MarkedTextColor(FormHost& host, Color mark, const TextColors& system) {
-  return ColoredText(host, mark, system, kLeastContrastOfMarks);
+Color MarkedTextColor(ScreenQueries& screen, Color mark, const TextColors& system) {
+  return ColoredText(screen, mark, system, kLeastContrastOfMarks);
 }
 
-Color LinkTextColor(FormHost& host, Color link, const TextColors& system) {
-  return ColoredText(host, link, system, kLeastContrastOfText);
+Color LinkTextColor(ScreenQueries& screen, Color link, const TextColors& system) {
+  return ColoredText(screen, link, system, kLeastContrastOfText);
 }
 
 }  // namespace korvale

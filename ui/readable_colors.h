@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/form_host.h"
+#include "platform/screen_queries.h"
 #include "platform/types.h"
 
 namespace korvale {
@@ -13,14 +13,14 @@ struct TextColors {
 
 /// How text is shown on a colour that the user has chosen: black or white, whichever is easier to
 /// read. With high contrast the `system` colours take the place of both.
-TextColors OnChosenColor(FormHost& host, Color chosen, const TextColors& system);
+TextColors OnChosenColor(ScreenQueries& screen, Color chosen, const TextColors& system);
 
 /// `mark` as the colour of a text above `system.back`, or the system's text colour where the mark
 /// could hardly be read or the user wants high contrast.
-Color MarkedTextColor(FormHost& host, Color mark, const TextColors& system);
+Color MarkedTextColor(ScreenQueries& screen, Color mark, const TextColors& system);
 
 /// `link` as the colour of a link above `system.back`, or the system's text colour where it could
 /// not be read well or the user wants high contrast.
-Color LinkTextColor(FormHost& host, Color link, const TextColors& system);
+Color LinkTextColor(ScreenQueries& screen, Color link, const TextColors& system);
 
 }  // namespace korvale

@@ -20,6 +20,9 @@ class FormHostContract : public testing::Test {
   using Lines = std::vector<std::string>;
 
   FormHost& Host() { return under_->Host(); }
+  MessageLoop& Loop() { return under_->Loop(); }
+  ScreenQueries& Screen() { return under_->Screen(); }
+  SystemDialogs& Dialogs() { return under_->Dialogs(); }
   UserHands& User() { return under_->User(); }
   WindowHandle Window() const { return form_.Handle(); }
   int Id(std::string_view name, int index = -1) { return form_.Find(name, index).Id(); }
@@ -54,7 +57,7 @@ class FormHostContract : public testing::Test {
   void FocusOn(std::string_view name, int index = -1) { form_.Find(name, index).SetFocus(); }
 
   std::unique_ptr<HostUnderTest> under_ = MakeHostUnderTest();
-  FormCollection forms_{under_->Host(), under_->Timers()};
+  FormCollection forms_{Host(), Loop(), Screen(), under_->Timers()};
   RecordingForm form_{kContractDesign, forms_};
   RecordingForm dialog_{DialogDesign("frmDialog"), forms_};
   RecordingForm inner_{DialogDesign("frmInner"), forms_};

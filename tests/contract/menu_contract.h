@@ -92,7 +92,7 @@ TEST_F(FormHostContract, APopUpMenuShowsItsEntriesAndTellsTheChoice) {
     shown = items;
     return "Open";
   });
-  Host().TrackPopupMenuEx(Window(), form_.Menu("mnuFile"));
+  Dialogs().TrackPopupMenuEx(Window(), form_.Menu("mnuFile"));
   EXPECT_EQ(shown,
             (std::vector<ShownMenuItem>{{"Open", "O"}, {"-", ""}, {"More", "M"}, {"Exit", "x"}}));
   EXPECT_EQ(form_.Take(), Lines{"menu mnuFileOpen"});
@@ -103,7 +103,7 @@ TEST_F(FormHostContract, AClosedPopUpMenuTellsNothing) {
   int opened = 0;
   form_.WhenMenuOpens("mnuFile", [&](int) { ++opened; });
   User().WhenPopupMenu([](const std::vector<ShownMenuItem>&) { return ""; });
-  Host().TrackPopupMenuEx(Window(), form_.Menu("mnuFile"));
+  Dialogs().TrackPopupMenuEx(Window(), form_.Menu("mnuFile"));
   EXPECT_EQ(opened, 1);
   EXPECT_EQ(form_.Take(), Lines{});
 }

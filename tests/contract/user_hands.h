@@ -9,6 +9,9 @@
 
 #include "platform/clock.h"
 #include "platform/form_host.h"
+#include "platform/message_loop.h"
+#include "platform/screen_queries.h"
+#include "platform/system_dialogs.h"
 #include "platform/types.h"
 
 namespace korvale {
@@ -122,6 +125,9 @@ class HostUnderTest {
   virtual ~HostUnderTest() = default;
 
   virtual FormHost& Host() = 0;
+  virtual MessageLoop& Loop() = 0;
+  virtual ScreenQueries& Screen() = 0;
+  virtual SystemDialogs& Dialogs() = 0;
   virtual TimerApi& Timers() = 0;
   virtual UserHands& User() = 0;
 };

@@ -67,7 +67,7 @@ TEST_F(FormHostContract, AFormOfAFixedHeightChangesInWidthOnly) {
   EXPECT_EQ(strip_.Place(), (TwipsRect{1200, 1200, 3000, 1500}));
   strip_.SetWindowState(ShowState::kMaximized);
   EXPECT_EQ(strip_.WindowState(), ShowState::kMaximized);
-  EXPECT_GE(strip_.Place().width, Host().GetMonitorInfoW(strip_.Handle()).width);
+  EXPECT_GE(strip_.Place().width, Screen().GetMonitorInfoW(strip_.Handle()).width);
   EXPECT_EQ(strip_.Place().height, 1500);
 }
 
@@ -78,7 +78,7 @@ TEST_F(FormHostContract, AMaximizedFormStaysSoUnderAnotherHeight) {
   strip_.SetSizeLimits({.height = 1200});
   EXPECT_EQ(strip_.WindowState(), ShowState::kMaximized);
   EXPECT_EQ(User().Place(strip_.Handle()).height, 1200);
-  EXPECT_GE(User().Place(strip_.Handle()).width, Host().GetMonitorInfoW(strip_.Handle()).width);
+  EXPECT_GE(User().Place(strip_.Handle()).width, Screen().GetMonitorInfoW(strip_.Handle()).width);
   strip_.SetWindowState(ShowState::kNormal);
   EXPECT_EQ(User().Place(strip_.Handle()).width, kStripDesign.place.width);
 }
@@ -238,7 +238,7 @@ TEST_F(FormHostContract, AMessageBoxShowsWhatItWasToldAndGivesTheButton) {
   });
   const std::int32_t style = win32::kMbYesNo + win32::kMbDefButton2;
   const std::string text = "Ж?\r\rWindow:  [日本 & \U0001F600]";
-  const std::int16_t button = Host().MessageBoxW(Window(), text, "Korvale - CAUTION", style);
+  const std::int16_t button = Dialogs().MessageBoxW(Window(), text, "Korvale - CAUTION", style);
   EXPECT_EQ(button, win32::kIdNo);
   EXPECT_EQ(shown.text, text);
   EXPECT_EQ(shown.title, "Korvale - CAUTION");
@@ -249,30 +249,30 @@ TEST_F(FormHostContract, AMessageBoxShowsWhatItWasToldAndGivesTheButton) {
 
 TEST_F(FormHostContract, TheWorkAreaHoldsTheForm) {
   form_.Show();
-  const TwipsRect area = Host().GetMonitorInfoW(Window());
+  const TwipsRect area = Screen().GetMonitorInfoW(Window());
   EXPECT_GE(area.width, 6000);
   EXPECT_GE(area.height, 5000);
-  EXPECT_EQ(Host().GetMonitorInfoW(0), area);
-  EXPECT_EQ(Host().GetWindowRect(Window()), User().Place(Window()));
+  EXPECT_EQ(Screen().GetMonitorInfoW(0), area);
+  EXPECT_EQ(Screen().GetWindowRect(Window()), User().Place(Window()));
 }
 
 TEST_F(FormHostContract, AThreadThatIsToldToQuitEndsEveryMessageLoop) {
   form_.Show();
   User().WhenWaiting([&] {
     User().QuitThread();
-    EXPECT_TRUE(Host().QuitPosted());
+    EXPECT_TRUE(Loop().QuitPosted());
   });
   dialog_.ShowModal();
-  EXPECT_TRUE(Host().QuitPosted());
+  EXPECT_TRUE(Loop().QuitPosted());
   EXPECT_TRUE(form_.IsLoaded());
 }
 
 TEST_F(FormHostContract, QuittingEndsEveryMessageLoop) {
   form_.Show();
-  EXPECT_FALSE(Host().QuitPosted());
-  User().WhenWaiting([&] { Host().PostQuitMessage(); });
+  EXPECT_FALSE(Loop().QuitPosted());
+  User().WhenWaiting([&] { Loop().PostQuitMessage(); });
   dialog_.ShowModal();
-  EXPECT_TRUE(Host().QuitPosted());
+  EXPECT_TRUE(Loop().QuitPosted());
   EXPECT_TRUE(User().IsEnabled(Window()));
 }
 

@@ -12,6 +12,10 @@
 #include <vector>
 
 #include "platform/form_host.h"
+#include "platform/input_devices.h"
+#include "platform/message_loop.h"
+#include "platform/screen_queries.h"
+#include "platform/system_dialogs.h"
 #include "tests/contract/user_hands.h"
 #include "tests/fakes/call_log.h"
 #include "tests/fakes/desktop_windows.h"
@@ -21,10 +25,16 @@ namespace korvale {
 
 class Form;
 
-/// Shows forms on no screen. It keeps what it was told to show, so that a change that the program
-/// forgot to show is missing here as well. What waits for the user (a modal form, a message box, a
-/// pop-up menu) takes the next queued answer; without one the test fails instead of hanging.
-class HeadlessFormHost : public FormHost, private DesktopListener {
+/// Shows forms on no screen; all that a form meets there, since its user is one as well. It keeps
+/// what it was told to show, so that a change that the program forgot to show is missing here as
+/// well. What waits for the user (a modal form, a message box, a pop-up menu) takes the next queued
+/// answer; without one the test fails instead of hanging.
+class HeadlessFormHost : public FormHost,
+                         public MessageLoop,
+                         public ScreenQueries,
+                         public SystemDialogs,
+                         public InputDevices,
+                         private DesktopListener {
  public:
   using Answer = std::function<std::int16_t(const ShownMessage&)>;
   using Choose = std::function<std::string(const std::vector<ShownMenuItem>&)>;
@@ -94,7 +104,8 @@ class HeadlessFormHost : public FormHost, private DesktopListener {
   void EnableWindow(WindowHandle hwnd, bool enable) override;
   void ShowWindow(WindowHandle hwnd, int command) override;
   void SetFocus(WindowHandle hwnd, int control) override;
-  int GetFocus(WindowHandle hwnd) override;
+  /// The control of the form that has the focus, 0 = none.
+  int GetFocus(WindowHandle hwnd);
   bool GetDroppedState(WindowHandle hwnd, int control) override;
   TextSelection GetSelection(WindowHandle hwnd, int control) override;
   void SetSelection(WindowHandle hwnd, int control, TextSelection selection) override;

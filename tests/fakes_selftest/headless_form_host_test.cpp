@@ -26,7 +26,7 @@ class HeadlessFormHostTest : public testing::Test {
   FakeClock clock_;
   HeadlessFormHost host_{bridge_, log_};
   HeadlessUser user_{host_, clock_};
-  FormCollection forms_{host_, clock_};
+  FormCollection forms_{host_, host_, host_, clock_};
   RecordingForm form_{kContractDesign, forms_};
   RecordingForm dialog_{DialogDesign("frmDialog"), forms_};
   RecordingForm strip_{kStripDesign, forms_};

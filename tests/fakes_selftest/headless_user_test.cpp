@@ -45,7 +45,7 @@ class HeadlessUserTest : public testing::Test {
   FakeClock clock_;
   HeadlessFormHost host_{desktop_, log_};
   HeadlessUser hands_{host_, clock_};
-  FormCollection forms_{host_, clock_};
+  FormCollection forms_{host_, host_, host_, clock_};
   RecordingForm form_{kContractDesign, forms_};
   RecordingForm pages_{kPagesDesign, forms_};
   FormUser user_{hands_, form_};

@@ -53,7 +53,7 @@ class DialogTest : public testing::Test {
   DesktopBridge windows_{desktop_.Windows(), 1};
   HeadlessFormHost host_{windows_, log_};
   HeadlessUser user_{host_, clock_};
-  FormCollection forms_{host_, clock_};
+  FormCollection forms_{host_, host_, host_, clock_};
   Suspension suspension_;
   bool alwaysOnTop_ = false;
   PreviousWindow previous_;

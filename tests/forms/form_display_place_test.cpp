@@ -111,7 +111,7 @@ class TwoMonitorsTest : public FormDisplayTest {
   FakeDesktop desktop{log};
   DesktopBridge windows{desktop.Windows(), 1};
   TwoMonitors host{windows, log};
-  FormCollection forms{host, clock_};
+  FormCollection forms{host, host, host, clock_};
   Dialog dialog{kDialogDesign, forms};
   Dialog owner{kOwnerDesign, forms};
   FormDisplay display{forms, desktop, desktop, previous_, suspension_, alwaysOnTop_};

@@ -39,7 +39,7 @@ class FormTest : public testing::Test {
   FakeClock clock_;
   HeadlessFormHost host_{desktop_, log_};
   HeadlessUser user_{host_, clock_};
-  FormCollection forms_{host_, clock_};
+  FormCollection forms_{host_, host_, host_, clock_};
   RecordingForm form_{kContractDesign, forms_};
 };
 

@@ -8,6 +8,9 @@ namespace {
 class HeadlessUnderTest : public HostUnderTest {
  public:
   FormHost& Host() override { return host_; }
+  MessageLoop& Loop() override { return host_; }
+  ScreenQueries& Screen() override { return host_; }
+  SystemDialogs& Dialogs() override { return host_; }
   TimerApi& Timers() override { return clock_; }
   UserHands& User() override { return user_; }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/form_host.h"
+#include "platform/form_events.h"
 
 namespace korvale {
 

@@ -5,7 +5,8 @@
 #include <memory>
 #include <optional>
 
-#include "platform/form_host.h"
+#include "platform/form_events.h"
+#include "platform/input_devices.h"
 #include "ui/windows/brush_cache.h"
 #include "ui/windows/event_sink.h"
 #include "ui/windows/form_controls.h"

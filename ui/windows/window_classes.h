@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/form_host.h"
+#include "platform/input_devices.h"
 #include "platform/windows/handles.h"
 
 namespace korvale {

@@ -2,20 +2,25 @@
 
 #include "platform/windows/windows_clock.h"
 #include "tests/endtoend/contract/windows_user.h"
+#include "ui/windows/windows_ui.h"
 
 namespace korvale {
 namespace {
 
 class WindowsHostUnderTest final : public HostUnderTest {
  public:
-  FormHost& Host() override { return host_; }
+  FormHost& Host() override { return ui_.host; }
+  MessageLoop& Loop() override { return loop_; }
+  ScreenQueries& Screen() override { return ui_.screen; }
+  SystemDialogs& Dialogs() override { return ui_.dialogs; }
   TimerApi& Timers() override { return timers_; }
   UserHands& User() override { return user_; }
 
  private:
-  WatchedFormHost host_{GetModuleHandleW(nullptr)};
+  WindowsUi ui_{GetModuleHandleW(nullptr)};
+  WatchedMessageLoop loop_{ui_.loop};
   WindowsTimers timers_;
-  WindowsUser user_{host_};
+  WindowsUser user_{loop_};
 };
 
 }  // namespace

@@ -1,30 +1,41 @@
 #pragma once
 
-#include <deque>
+#include <windows.h>
 
+#include <deque>
+#include <functional>
+
+#include "platform/message_loop.h"
+#include "platform/windows/handles.h"
 #include "tests/contract/user_hands.h"
 #include "tests/endtoend/contract/idle_watch.h"
-#include "ui/windows/windows_form_host.h"
 
 namespace korvale {
 
-/// The host under test; counts its message loops.
-class WatchedFormHost : public WindowsFormHost {
+/// A message loop that counts how often it runs inside itself.
+class WatchedMessageLoop : public MessageLoop {
  public:
-  using WindowsFormHost::WindowsFormHost;
-  void RunMessageLoop(const std::function<bool()>& done) override {
-    ++loops;
-    WindowsFormHost::RunMessageLoop(done);
-    --loops;
-  }
+  explicit WatchedMessageLoop(MessageLoop& loop) : loop_(&loop) {}
 
-  int loops = 0;
+  void RunMessageLoop(const std::function<bool()>& done) override {
+    ++running;
+    loop_->RunMessageLoop(done);
+    --running;
+  }
+  void DoEvents() override { loop_->DoEvents(); }
+  void PostQuitMessage() override { loop_->PostQuitMessage(); }
+  bool QuitPosted() override { return loop_->QuitPosted(); }
+
+  int running = 0;
+
+ private:
+  MessageLoop* loop_;
 };
 
 /// A user with a real keyboard and mouse.
 class WindowsUser final : public UserHands {
  public:
-  explicit WindowsUser(WatchedFormHost& host) : host_(&host) {}
+  explicit WindowsUser(WatchedMessageLoop& loop) : loop_(&loop) {}
 
   bool IsShown(WindowHandle hwnd) override;
   bool IsEnabled(WindowHandle hwnd) override;
@@ -87,12 +98,12 @@ class WindowsUser final : public UserHands {
   /// Opens the menu at `path` with the mouse, then takes `last`, then runs until it has closed.
   void WalkMenu(WindowHandle hwnd, const std::vector<std::string>& path, const MenuStep& last);
 
-  WatchedFormHost* host_;
+  WatchedMessageLoop* loop_;
   std::deque<std::function<void()>> actions_;
   std::deque<std::function<std::int16_t(const ShownMessage&)>> answers_;
   std::deque<std::function<std::string(const std::vector<ShownMenuItem>&)>> choices_;
   std::deque<MenuStep> menuSteps_;
-  int settlingIn_ = -1;  // The host's loop that runs around Settle; no action waits for that one.
+  int settlingIn_ = -1;  // The loop that runs around Settle; no action waits for that one.
   HWND answered_ = nullptr;
   ULONGLONG lastClick_ = 0;
   int lostInMenu_ = 0;  // How often there was nothing to do in an open menu.

@@ -64,7 +64,7 @@ void WindowsUser::OnIdle() {
   lostInMenu_ = 0;
   if (IsMessageBox(active) && active != answered_) {
     AnswerMessageBox(active);
-  } else if (!actions_.empty() && host_->loops > 0 && host_->loops != settlingIn_) {
+  } else if (!actions_.empty() && loop_->running > 0 && loop_->running != settlingIn_) {
     const int outer = std::exchange(settlingIn_, -1);
     TakeFirst(actions_)();
     settlingIn_ = outer;
@@ -118,22 +118,22 @@ bool WindowsUser::ClickEntry(HWND window, const std::string& caption) {
 }
 
 void WindowsUser::Settle() {
-  const int outer = std::exchange(settlingIn_, host_->loops);
+  const int outer = std::exchange(settlingIn_, loop_->running);
   const ULONGLONG end = GetTickCount64() + kLongestMilliseconds;
   do {
-    host_->DoEvents();
-  } while (!host_->QuitPosted() && GetTickCount64() < end &&
+    loop_->DoEvents();
+  } while (!loop_->QuitPosted() && GetTickCount64() < end &&
            MsgWaitForMultipleObjects(0, nullptr, FALSE, kQuietMilliseconds,
                                      QS_ALLINPUT & ~QS_TIMER) == WAIT_OBJECT_0);
   settlingIn_ = outer;
 }
 
 void WindowsUser::LetPass(std::uint32_t milliseconds) {
-  const int outer = std::exchange(settlingIn_, host_->loops);
+  const int outer = std::exchange(settlingIn_, loop_->running);
   const ULONGLONG end = GetTickCount64() + milliseconds;
   for (ULONGLONG now = GetTickCount64(); now < end; now = GetTickCount64()) {
     MsgWaitForMultipleObjects(0, nullptr, FALSE, static_cast<DWORD>(end - now), QS_ALLINPUT);
-    host_->DoEvents();
+    loop_->DoEvents();
   }
   settlingIn_ = outer;
 }

@@ -1,57 +1,53 @@
-#include "ui/windows/message_loop.h"
+#include "ui/windows/windows_message_loop.h"
+
+#include <memory>
 
 #include "ui/windows/form_window.h"
 
 namespace korvale {
 
-MessageLoop::~MessageLoop() {
+WindowsMessageLoop::~WindowsMessageLoop() {
   MSG message;
   if (quitPosted_) PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
 }
 
-void MessageLoop::Run(const std::function<bool()>& done) {
+void WindowsMessageLoop::RunMessageLoop(const std::function<bool()>& done) {
   while (!quitPosted_ && !done()) {
     MSG message;
     if (GetMessageW(&message, nullptr, 0, 0) > 0) {
       Dispatch(message);
     } else {
-      TakeQuit();
+      PostQuitMessage();
     }
   }
 }
 
-void MessageLoop::DoEvents() {
+void WindowsMessageLoop::DoEvents() {
   MSG message;
   while (!quitPosted_ && PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {
     if (message.message == WM_QUIT) {
-      TakeQuit();
+      PostQuitMessage();
     } else {
       Dispatch(message);
     }
   }
 }
 
-bool MessageLoop::QuitPosted() const {
+bool WindowsMessageLoop::QuitPosted() {
   // A message box that is told to quit passes the order on.
   MSG message;
   return quitPosted_ || PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_NOREMOVE) != FALSE;
 }
 
-void MessageLoop::Wake() const { PostThreadMessageW(GetCurrentThreadId(), WM_NULL, 0, 0); }
-
-void MessageLoop::PostQuit() {
+void WindowsMessageLoop::PostQuitMessage() {
   quitPosted_ = true;
+  // Posted anew where a loop has met it: a loop of Windows' own, as that of a message box, may run
+  // around this one and has to end too.
   ::PostQuitMessage(0);
 }
 
-void MessageLoop::TakeQuit() {
-  quitPosted_ = true;
-  // A loop of Windows' own, as that of a message box, may run around this one and has to end too.
-  ::PostQuitMessage(0);
-}
-
-void MessageLoop::Dispatch(const MSG& message) {
-  const std::shared_ptr<FormWindow> form = findForm_(message.hwnd);
+void WindowsMessageLoop::Dispatch(const MSG& message) {
+  const std::shared_ptr<FormWindow> form = forms_->Around(message.hwnd);
   if (form != nullptr && form->Filter(message)) return;
   TranslateMessage(&message);
   DispatchMessageW(&message);

@@ -1,7 +1,11 @@
+#include "ui/windows/windows_input_devices.h"
+
 #include <utility>
 #include <vector>
 
-#include "ui/windows/windows_form_host.h"
+#include "platform/form_events.h"
+#include "platform/windows/handles.h"
+#include "ui/windows/window_classes.h"
 
 namespace korvale {
 namespace {
@@ -18,7 +22,17 @@ INPUT KeyInput(int virtualKey, DWORD flags) {
 
 }  // namespace
 
-void WindowsFormHost::SendInput(WindowHandle hwnd, int virtualKey, unsigned shift) {
+void WindowsInputDevices::SetCursor(MousePointer pointer) {
+  pointer_ = pointer;
+  // Windows asks again only when the mouse moves.
+  POINT at{};
+  GetCursorPos(&at);
+  if (forms_->Around(WindowFromPoint(at)) != nullptr) {
+    ::SetCursor(LoadPointer(instance_, pointer));
+  }
+}
+
+void WindowsInputDevices::SendInput(WindowHandle hwnd, int virtualKey, unsigned shift) {
   if (GetForegroundWindow() != ToHwnd(hwnd)) return;
   constexpr std::pair<unsigned, int> kShiftKeys[] = {
       {kShift, VK_SHIFT}, {kCtrl, VK_CONTROL}, {kAlt, VK_MENU}};

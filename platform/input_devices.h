@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstdint>
+
+#include "platform/types.h"
+
+namespace korvale {
+
+/// Mouse pointers over the program's windows.
+enum class MousePointer : std::int16_t { kDefault = 0, kHourglass = 11, kCustom = 99 };
+
+/// The user's mouse and keyboard, as far as the program acts on them.
+class InputDevices {
+ public:
+  virtual ~InputDevices() = default;
+
+  /// The pointer over all windows of the program; kDefault leaves it to each window.
+  virtual void SetCursor(MousePointer pointer) = 0;
+  /// Presses and releases a key with the `shift` keys held, as the user does in this window; does
+  /// nothing while it is not in front (SendInput).
+  virtual void SendInput(WindowHandle hwnd, int virtualKey, unsigned shift) = 0;
+};
+
+}  // namespace korvale

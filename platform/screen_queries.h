@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+
+#include "platform/types.h"
+
+namespace korvale {
+
+/// Reads the screen: its monitors, colours and measures, and where windows stand on it.
+class ScreenQueries {
+ public:
+  virtual ~ScreenQueries() = default;
+
+  /// The work area, in twips, of the monitor that shows the window or is nearest to it
+  /// (MonitorFromWindow, GetMonitorInfoW); of the primary monitor when there is no such window.
+  virtual TwipsRect GetMonitorInfoW(WindowHandle hwnd) = 0;
+  /// The work area, in twips, of the monitor under the mouse pointer (MonitorFromPoint).
+  virtual TwipsRect MonitorFromPoint() = 0;
+  /// Where the form really stands, place and size in twips of the system's dots per inch, as the
+  /// work areas count them (GetWindowRect).
+  virtual TwipsRect GetWindowRect(WindowHandle hwnd) = 0;
+  /// The dots per inch with which the window is shown (GetDpiForWindow).
+  virtual int GetDpiForWindow(WindowHandle hwnd) = 0;
+  /// The width of a text in the menus of a form, in twips of the system's dots per inch.
+  virtual Twips GetTextExtentPoint32W(WindowHandle hwnd, const std::string& text) = 0;
+  /// What a colour stands for on this screen, 0x00BBGGRR; other than system colours stay as they
+  /// are (GetSysColor).
+  virtual Color GetSysColor(Color color) = 0;
+  /// The user wants high contrast (SystemParametersInfoW with SPI_GETHIGHCONTRAST).
+  virtual bool HighContrast() = 0;
+};
+
+}  // namespace korvale

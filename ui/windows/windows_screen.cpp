@@ -1,0 +1,58 @@
+#include "ui/windows/windows_screen.h"
+
+#include <windows.h>
+
+#include "platform/windows/handles.h"
+#include "platform/windows/text.h"
+#include "ui/windows/brush_cache.h"
+#include "ui/windows/system_fonts.h"
+#include "ui/windows/units.h"
+
+namespace korvale {
+namespace {
+
+TwipsRect WorkAreaOf(HMONITOR monitor) {
+  MONITORINFO info{};
+  info.cbSize = sizeof(info);
+  ::GetMonitorInfoW(monitor, &info);
+  return ToScreenTwips(info.rcWork, GetDpiForSystem());
+}
+
+}  // namespace
+
+TwipsRect WindowsScreen::GetMonitorInfoW(WindowHandle hwnd) {
+  return WorkAreaOf(MonitorFromWindow(ToHwnd(hwnd), MONITOR_DEFAULTTONEAREST));
+}
+
+TwipsRect WindowsScreen::MonitorFromPoint() {
+  POINT mouse{};
+  GetCursorPos(&mouse);
+  return WorkAreaOf(::MonitorFromPoint(mouse, MONITOR_DEFAULTTONEAREST));
+}
+
+TwipsRect WindowsScreen::GetWindowRect(WindowHandle hwnd) {
+  RECT rect{};
+  ::GetWindowRect(ToHwnd(hwnd), &rect);
+  return ToScreenTwips(rect, GetDpiForSystem());
+}
+
+int WindowsScreen::GetDpiForWindow(WindowHandle hwnd) {
+  return static_cast<int>(::GetDpiForWindow(ToHwnd(hwnd)));
+}
+
+Twips WindowsScreen::GetTextExtentPoint32W(WindowHandle hwnd, const std::string& text) {
+  const UniqueFont font =
+      MakeSystemFont(&NONCLIENTMETRICSW::lfMenuFont, ::GetDpiForWindow(ToHwnd(hwnd)));
+  return ToTwips(TextWidth(font.Get(), ToUtf16(text)), GetDpiForSystem());
+}
+
+Color WindowsScreen::GetSysColor(Color color) { return static_cast<Color>(ToColorRef(color)); }
+
+bool WindowsScreen::HighContrast() {
+  HIGHCONTRASTW contrast{};
+  contrast.cbSize = sizeof(contrast);
+  return SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof(contrast), &contrast, 0) != FALSE &&
+         (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0;
+}
+
+}  // namespace korvale
