@@ -56,8 +56,6 @@ class TagListPasses {
   /// Removes the entries whose window no longer exists (IsWindow).
   void RemoveClosed();
 
-  TagList& Tags() { return *tags_; }
-
  private:
   void Match(MenuItem& entry, WindowHandle hwnd);
   void Save(const MenuItem& entry, const std::string& appName);

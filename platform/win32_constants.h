@@ -44,7 +44,6 @@ inline constexpr int kSwRestore = 9;
 // SetWindowPos
 inline constexpr WindowHandle kHwndTopmost = -1;
 inline constexpr WindowHandle kHwndNoTopmost = -2;
-inline constexpr WindowHandle kHwndTop = 0;
 inline constexpr std::uint32_t kSwpNoSize = 0x0001;
 inline constexpr std::uint32_t kSwpNoMove = 0x0002;
 inline constexpr std::uint32_t kSwpNoActivate = 0x0010;

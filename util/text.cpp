@@ -71,11 +71,6 @@ std::string MidCharacters(std::string_view text, std::int32_t from) {
   return std::string(text.substr(PrefixSize(text, from - 1)));
 }
 
-std::string RightCharacters(std::string_view text, std::int32_t count) {
-  RequireCall(count >= 0);
-  return std::string(text.substr(PrefixSize(text, CharacterCount(text) - count)));
-}
-
 std::string Trim(std::string_view text) {
   const std::size_t first = text.find_first_not_of(' ');
   if (first == std::string_view::npos) return "";

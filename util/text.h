@@ -21,10 +21,6 @@ std::string LeftCharacters(std::string_view text, std::int32_t count);
 /// throws RunTimeError 5.
 std::string MidCharacters(std::string_view text, std::int32_t from);
 
-/// The last `count` characters, the whole text if it has fewer. A negative `count` throws
-/// RunTimeError 5.
-std::string RightCharacters(std::string_view text, std::int32_t count);
-
 /// The text without leading and trailing blanks (U+0020 only; tabs and line ends stay).
 std::string Trim(std::string_view text);
 

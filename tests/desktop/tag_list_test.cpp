@@ -207,7 +207,5 @@ TEST_F(TagListTest, RemovingClosedKeepsTheEntriesOfLivingWindows) {
   EXPECT_EQ(Entries(), (std::vector<int>{0, 1}));
 }
 
-TEST_F(TagListTest, PassesTellTheirList) { EXPECT_EQ(&passes.Tags(), &tags); }
-
 }  // namespace
 }  // namespace korvale

@@ -86,7 +86,7 @@ std::string InsertAfterText(const CallLog& log, WindowHandle insertAfter) {
       return "HWND_TOPMOST";
     case win32::kHwndNoTopmost:
       return "HWND_NOTOPMOST";
-    case win32::kHwndTop:
+    case fakes::kHwndTop:
       return "HWND_TOP";
     default:
       return log.Window(insertAfter);

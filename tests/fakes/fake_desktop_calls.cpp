@@ -179,13 +179,13 @@ void FakeDesktop::Place(WindowHandle hwnd, WindowHandle insertAfter, const Pixel
   }
   if (window.parent != 0) return;
   if ((flags & fakes::kSwpNoZOrder) == 0) {
-    if (insertAfter == win32::kHwndTop) windows_.Raise(hwnd);
+    if (insertAfter == fakes::kHwndTop) windows_.Raise(hwnd);
     if (insertAfter == win32::kHwndTopmost) windows_.SetTopmost(hwnd, true);
     if (insertAfter == win32::kHwndNoTopmost) windows_.SetTopmost(hwnd, false);
   }
   // A hidden window of the program that calls is activated as well.
   const bool reachable = windows_.IsVisible(hwnd) || window.process != kOtherProcess;
-  if ((flags & fakes::kSwpNoActivate) == 0 && reachable) windows_.Activate(hwnd);
+  if ((flags & win32::kSwpNoActivate) == 0 && reachable) windows_.Activate(hwnd);
 }
 
 bool FakeDesktop::SetForegroundWindow(WindowHandle hwnd) {

@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+#include "platform/types.h"
+
 /// Numbers of the Windows API that only a desktop needs, not a program on it.
 namespace korvale::fakes {
 
@@ -16,7 +18,7 @@ inline constexpr std::int32_t kWsExNoActivate = 0x08000000;
 
 inline constexpr int kSwShowMinimized = 2;
 
+inline constexpr WindowHandle kHwndTop = 0;
 inline constexpr std::uint32_t kSwpNoZOrder = 0x0004;
-inline constexpr std::uint32_t kSwpNoActivate = 0x0010;
 
 }  // namespace korvale::fakes

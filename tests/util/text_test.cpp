@@ -51,14 +51,6 @@ TEST(MidCharactersTest, StartsAtTheCharacterCountedFromOne) {
   EXPECT_THROW(MidCharacters("ab", 0), RunTimeError);
 }
 
-TEST(RightCharactersTest, CutsByCharacterFromTheEnd) {
-  EXPECT_EQ(RightCharacters("Блокнот", 3), "нот");
-  EXPECT_EQ(RightCharacters("a😀", 1), "😀");
-  EXPECT_EQ(RightCharacters("ab", 0), "");
-  EXPECT_EQ(RightCharacters("ab", 5), "ab");
-  EXPECT_THROW(RightCharacters("ab", -1), RunTimeError);
-}
-
 TEST(TrimTest, RemovesBlanksAtBothEndsOnly) {
   EXPECT_EQ(Trim("  a  b "), "a  b");
   EXPECT_EQ(Trim("   "), "");
