@@ -12,9 +12,6 @@ namespace korvale {
 
 namespace {
 
-/// How often the foreground window is looked at, in ms.
-constexpr std::uint32_t kTrackingInterval = 100;
-
 constexpr const char* kWhitespace = " \t\r\n\v\f";
 
 constexpr std::int16_t kOtherInstanceTipHeight = 5400;

@@ -11,14 +11,6 @@
 namespace korvale {
 namespace {
 
-constexpr std::uint32_t kTickMilliseconds = 100;
-
-/// More dialogs in front of each other than any program shows.
-constexpr int kMostDialogs = 16;
-
-constexpr const char* kTaskbarClass = "Shell_TrayWnd";
-constexpr const char* kBareDesktopClass = "Progman";
-
 /// The entry of the first Tag that has this class stored and fits this title; null when none does.
 MenuItem* IdentifyingEntry(TagList& tags, const std::string& title, const std::string& className) {
   for (int tag = 1; tag <= kTagCount; ++tag) {
@@ -64,7 +56,7 @@ void ForegroundTracker::LookAtForeground() {
     if (!isMain && foreground != previous_->current.handle) ValidatePreviousWindow();
     return;
   }
-  mainWindow_->tmrWindow().SetInterval(kTickMilliseconds);
+  mainWindow_->tmrWindow().SetInterval(kTrackingInterval);
   if (AcceptForeground(foreground, title)) {
     Follow({foreground, title, GetWindowClass(*windows_, foreground)});
     ValidatePreviousWindow();
@@ -77,7 +69,7 @@ void ForegroundTracker::LookAtForeground() {
 /// the user.
 void ForegroundTracker::LookBehindDialog(WindowHandle dialog) {
   WindowHandle behind = windows_->GetWindow(dialog, win32::kGwOwner);
-  for (int i = 0; i < kMostDialogs && behind != 0 && !windows_->IsWindowEnabled(behind); ++i) {
+  for (int i = 0; i < kMostOwners && behind != 0 && !windows_->IsWindowEnabled(behind); ++i) {
     const std::string title = GetWindowTitle(*windows_, behind);
     const bool followed =
         behind != mainWindow_->MainHandle() && windows_->IsWindowVisible(behind) &&

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "desktop/desktop_parts.h"
@@ -10,6 +11,9 @@
 #include "platform/types.h"
 
 namespace korvale {
+
+/// How often tmrWindow ticks, in ms.
+inline constexpr std::uint32_t kTrackingInterval = 100;
 
 /// Follows the foreground window and keeps the Previous Window record.
 class ForegroundTracker {

@@ -8,31 +8,29 @@ namespace korvale {
 namespace {
 
 constexpr std::string_view kSeparator = " - ";
-constexpr std::string_view kLeftPartMark = " - ***";
-constexpr std::string_view kRightPartMark = "*** - ";
-
-std::string_view BeforeFirstSeparator(std::string_view title) {
-  return title.substr(0, title.find(kSeparator));
-}
-
-std::string_view AfterLastSeparator(std::string_view title) {
-  const std::size_t at = title.rfind(kSeparator);
-  return at == std::string_view::npos ? title : title.substr(at + kSeparator.size());
-}
 
 bool Matches(std::string_view text, std::string_view title) {
   if (text.ends_with(kLeftPartMark)) {
     text.remove_suffix(kLeftPartMark.size());
-    return BeforeFirstSeparator(title) == text;
+    return LeftTitlePart(title) == text;
   }
   if (text.starts_with(kRightPartMark)) {
     text.remove_prefix(kRightPartMark.size());
-    return AfterLastSeparator(title) == text;
+    return RightTitlePart(title) == text;
   }
   return title.find(text) != std::string_view::npos;
 }
 
 }  // namespace
+
+std::string_view LeftTitlePart(std::string_view title) {
+  return title.substr(0, title.find(kSeparator));
+}
+
+std::string_view RightTitlePart(std::string_view title) {
+  const std::size_t at = title.rfind(kSeparator);
+  return at == std::string_view::npos ? title : title.substr(at + kSeparator.size());
+}
 
 bool TitleMatches(std::string_view storedText, std::string_view liveTitle, bool stripPrefix) {
   if (!stripPrefix) return Matches(storedText, liveTitle);

@@ -4,6 +4,14 @@
 
 namespace korvale {
 
+/// End of an identification by the left part of the title, and beginning of one by the right part.
+inline constexpr std::string_view kLeftPartMark = " - ***";
+inline constexpr std::string_view kRightPartMark = "*** - ";
+
+/// The title before its first " - ", and behind its last; the whole title when it has none.
+std::string_view LeftTitlePart(std::string_view title);
+std::string_view RightTitlePart(std::string_view title);
+
 /// Whether a live title fits a stored identification: "<left> - ***" compares the text before the
 /// first " - " of the title, "*** - <right>" the text behind its last " - ", any other text must
 /// occur in the title. `stripPrefix` first cuts the two characters "&" + Tag digit off a menu

@@ -8,9 +8,6 @@
 namespace korvale {
 namespace {
 
-/// More owners behind each other than any program has.
-constexpr int kMostOwners = 16;
-
 bool IsOwnedBy(WindowQueries& windows, WindowHandle hwnd, WindowHandle owner) {
   for (int i = 0; i < kMostOwners && hwnd != 0; ++i) {
     hwnd = windows.GetWindow(hwnd, win32::kGwOwner);

@@ -6,6 +6,9 @@
 
 namespace korvale {
 
+/// More owners behind each other than any program has.
+inline constexpr int kMostOwners = 16;
+
 /// Of the thread that made `hwnd`, the topmost window that takes input: visible and enabled. Where
 /// a box, tip or dialog waits for the user, it is that one. With a class name only windows of
 /// exactly this class count. 0 when there is none.

@@ -149,7 +149,7 @@ bool WindowEnumeration::FitsTitle(WindowHandle hwnd, const std::string& text) co
 bool WindowEnumeration::CanBeTopWindow(WindowHandle hwnd) const {
   if (!windows_->IsWindowVisible(hwnd) || !windows_->IsWindowEnabled(hwnd) ||
       windows_->IsIconic(hwnd) || hwnd == mainWindow_->MainHandle() ||
-      GetWindowClass(*windows_, hwnd) == "Shell_TrayWnd") {
+      GetWindowClass(*windows_, hwnd) == kTaskbarClass) {
     return false;
   }
   return (windows_->GetWindowLongA(hwnd, win32::kGwlExStyle) & win32::kWsExTopmost) == 0;

@@ -23,7 +23,7 @@ bool WindowFilter::PassesBasicChecks(WindowHandle hwnd, const std::string& title
   if (hwnd == 0 || !windows_->IsWindow(hwnd)) return false;
   // The hidden window that owns the program's forms.
   if (hwnd == windows_->GetWindow(mainWindow_->MainHandle(), win32::kGwOwner)) return false;
-  if (title == "Program Manager" && className == "Progman") return false;
+  if (title == "Program Manager" && className == kBareDesktopClass) return false;
   if (title.empty() && className == "Static") return false;
   return hwnd != FormHandle(*forms_, "frmMsgBox2");
 }

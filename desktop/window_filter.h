@@ -8,6 +8,10 @@
 
 namespace korvale {
 
+/// Window classes of the taskbar and of the bare desktop.
+inline constexpr const char* kTaskbarClass = "Shell_TrayWnd";
+inline constexpr const char* kBareDesktopClass = "Progman";
+
 /// Decides which top-level windows count as a window at all.
 class WindowFilter {
  public:

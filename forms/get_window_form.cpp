@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "desktop/title_match.h"
 #include "desktop/window_readers.h"
 #include "forms/get_window_design.h"
 #include "platform/win32_constants.h"
@@ -12,10 +13,6 @@
 
 namespace korvale {
 namespace {
-
-constexpr const char* kSeparator = " - ";
-constexpr const char* kLeftTail = " - ***";
-constexpr const char* kRightHead = "*** - ";
 
 constexpr Color kRed = 255;
 constexpr Color kBlue = 0xC00000;
@@ -36,9 +33,8 @@ std::string AssignedText(std::string_view item) {
 std::string ShownChoice(int index, const std::string& identification) {
   if (index != 1) return ShortenedText(identification, kChoiceColumns);
   const std::string_view left =
-      std::string_view(identification)
-          .substr(0, identification.size() - std::string_view(kLeftTail).size());
-  return ShortenedText(left, kChoiceColumns, kLeftTail);
+      std::string_view(identification).substr(0, identification.size() - kLeftPartMark.size());
+  return ShortenedText(left, kChoiceColumns, kLeftPartMark);
 }
 
 }  // namespace
@@ -140,12 +136,8 @@ void frmGetWindow::LoadThisWindow() {
 }
 
 void frmGetWindow::OfferPortions(const std::string& title) {
-  const std::size_t first = title.find(kSeparator);
-  const std::size_t last = title.rfind(kSeparator);
-  const bool whole = first == std::string::npos;
-  SetChoice(1, title.substr(0, first) + kLeftTail);
-  SetChoice(
-      2, kRightHead + (whole ? title : title.substr(last + std::string_view(kSeparator).size())));
+  SetChoice(1, std::string(LeftTitlePart(title)).append(kLeftPartMark));
+  SetChoice(2, std::string(kRightPartMark).append(RightTitlePart(title)));
 }
 
 void frmGetWindow::HidePortions() {

@@ -12,13 +12,6 @@
 
 namespace korvale {
 
-namespace {
-
-/// How long a dialog may take to become the foreground window, in ms.
-constexpr std::int32_t kForegroundPatience = 1000;
-
-}  // namespace
-
 frmMain::frmMain(Platform& platform, FormCollection& forms, ProgramLifetime& lifetime)
     : Form(MainFormDesign(), forms),
       platform_(&platform),
@@ -175,7 +168,7 @@ void frmMain::ShowAddWindow(AddWindowMode mode) {
   addWindowMode_ = mode;
   addWindow_.Load();
   addWindow_.PrepareForWindowMenu(parts_.identity.productName);
-  parts_.display.ShowFormModal(addWindow_, {}, kForegroundPatience, {}, this);
+  parts_.display.ShowFormModal(addWindow_, {}, kForegroundWait, {}, this);
 }
 
 }  // namespace korvale

@@ -16,7 +16,6 @@ std::string AboutCaption(const std::string& applicationName);
 std::string HomePageCaption(const std::string& applicationName);
 
 /// What the height of the main window is made of, in twips.
-inline constexpr Twips kClassicFrameHeight = 400;
 inline constexpr Twips kClassicMenuHeight = 300;
 inline constexpr Twips kFieldHeight = 285;
 inline constexpr Twips kRoomAroundFields = 115;

@@ -11,10 +11,6 @@
 namespace korvale {
 namespace {
 
-// What the designs count as the frame: both side borders, and title bar with both borders.
-constexpr Twips kClassicFrameWidth = 90;
-constexpr Twips kClassicFrameHeight = 400;
-
 int ShowCommand(ShowState state) {
   switch (state) {
     case ShowState::kMinimized:

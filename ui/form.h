@@ -17,6 +17,10 @@ namespace korvale {
 
 class FormCollection;
 
+/// What the designs count as the frame: both side borders, and title bar with both borders.
+inline constexpr Twips kClassicFrameWidth = 90;
+inline constexpr Twips kClassicFrameHeight = 400;
+
 /// The fixed properties of a form.
 struct FormDesign {
   const char* name;
