@@ -22,6 +22,10 @@ void PlaceCombo(HWND window, const PixelPlace& place) {
              place.height + entry * kDroppedEntries + kComboBorders, TRUE);
 }
 
+void ShowValue(HWND button, const ControlState& control) {
+  SendMessageW(button, BM_SETCHECK, control.value != 0 ? BST_CHECKED : BST_UNCHECKED, 0);
+}
+
 }  // namespace
 
 bool FormControls::Create(HWND form, const std::wstring& pageClass) {
@@ -99,9 +103,7 @@ void FormControls::Apply(const ControlState& control, ControlProperty property) 
       EnableWindow(window, IsEnabled(control));
       break;
     case ControlProperty::kValue:
-      if (IsButtonKind(control.kind)) {
-        SendMessageW(window, BM_SETCHECK, control.value != 0 ? BST_CHECKED : BST_UNCHECKED, 0);
-      }
+      if (IsButtonKind(control.kind)) ShowValue(window, control);
       break;
     case ControlProperty::kColors:
       InvalidateRect(window, nullptr, TRUE);

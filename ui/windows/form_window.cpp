@@ -186,6 +186,15 @@ LRESULT FormWindow::Process(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_TIMER:
       events_.Tell([&](FormEvents& events) { events.OnTimer(ToId(wParam)); });
       break;
+    default:
+      HandleLook(message, wParam, lParam);
+      break;
+  }
+  return result;
+}
+
+void FormWindow::HandleLook(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
     case WM_DPICHANGED:
       OnDpiChanged(LOWORD(wParam), lParam);
       break;
@@ -199,7 +208,6 @@ LRESULT FormWindow::Process(UINT message, WPARAM wParam, LPARAM lParam) {
     default:
       break;
   }
-  return result;
 }
 
 std::optional<LRESULT> FormWindow::HandleEnd(UINT message, WPARAM wParam) {

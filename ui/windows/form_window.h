@@ -61,6 +61,8 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   std::optional<LRESULT> HandleMenu(UINT message, WPARAM wParam, LPARAM lParam);
   std::optional<LRESULT> HandleEnd(UINT message, WPARAM wParam);
   std::optional<LRESULT> HandleMouse(UINT message, WPARAM wParam, LPARAM lParam);
+  /// Messages about the dots per inch, sizes and colours of the screen.
+  void HandleLook(UINT message, WPARAM wParam, LPARAM lParam);
   void OnCommand(WPARAM wParam, LPARAM lParam);
   void OnNotify(WPARAM wParam);
   /// A list has closed: Esc may have brought the former choice back without a word.

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <string>
-#include <vector>
+#include <span>
 
 namespace korvale::endtoend {
 
@@ -15,6 +14,6 @@ struct DefaultSetting {
 };
 
 /// Every setting of an installation, written down a second time on purpose.
-const std::vector<DefaultSetting>& DefaultSettings();
+std::span<const DefaultSetting> DefaultSettings();
 
 }  // namespace korvale::endtoend
