@@ -2,22 +2,18 @@
 
 #include <cstdint>
 #include <exception>
-#include <sstream>
 #include <string>
 
 #include "app/core/error_reporting.h"
 #include "app/core/identity.h"
 #include "platform/run_time_error.h"
+#include "util/text.h"
 
 namespace korvale {
 
 namespace {
 
-std::string HexText(std::uint64_t value) {
-  std::ostringstream text;
-  text << "0x" << std::hex << std::uppercase << value;
-  return text.str();
-}
+std::string HexText(std::uint64_t value) { return "0x" + UpperCase(HexadecimalText(value)); }
 
 /// What is known of an exception that nobody caught; it is the current one.
 std::string DescribeUncaught() {

@@ -1,5 +1,6 @@
 #include "util/text.h"
 
+#include <array>
 #include <charconv>
 #include <cstddef>
 #include <system_error>
@@ -160,6 +161,12 @@ std::int16_t ReverseFind(std::string_view text, std::string_view sought, std::in
 }
 
 std::string DecimalText(std::int32_t value) { return std::to_string(value); }
+
+std::string HexadecimalText(std::uint64_t value) {
+  std::array<char, 16> digits;
+  const auto end = std::to_chars(digits.begin(), digits.end(), value, 16).ptr;
+  return {digits.begin(), end};
+}
 
 std::optional<std::int32_t> ParseInt32(std::string_view text) {
   return ParseInteger<std::int32_t>(text);

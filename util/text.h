@@ -51,6 +51,9 @@ std::int16_t ReverseFind(std::string_view text, std::string_view sought, std::in
 /// The number in decimal digits, with "-" when negative.
 std::string DecimalText(std::int32_t value);
 
+/// The number in small hexadecimal digits, without leading zeroes.
+std::string HexadecimalText(std::uint64_t value);
+
 /// The number that a text of decimal digits with an optional sign stands for, blanks around it
 /// allowed; nothing when it is anything else or does not fit.
 std::optional<std::int32_t> ParseInt32(std::string_view text);

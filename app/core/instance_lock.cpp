@@ -1,6 +1,5 @@
 #include "app/core/instance_lock.h"
 
-#include <cstddef>
 #include <string_view>
 #include <utility>
 
@@ -21,18 +20,15 @@ std::uint64_t Hash(std::string_view text) {
   return hash;
 }
 
-std::string HexText(std::uint64_t value) {
-  constexpr std::string_view kDigits = "0123456789abcdef";
-  std::string text(16, '0');
-  for (std::size_t i = text.size(); i-- > 0; value >>= 4) text[i] = kDigits[value & 0xf];
-  return text;
+std::string LockName(std::string_view text) {
+  return "Local\\Korvale." + PadText(HexadecimalText(Hash(text)), 16, "LEFT_ZEROES");
 }
 
 }  // namespace
 
 std::vector<std::string> InstanceLockNames(const FolderIdentity& folder) {
-  std::vector<std::string> names = {"Local\\Korvale." + HexText(Hash(UpperCase(folder.path)))};
-  if (!folder.fileId.empty()) names.push_back("Local\\Korvale." + HexText(Hash(folder.fileId)));
+  std::vector<std::string> names = {LockName(UpperCase(folder.path))};
+  if (!folder.fileId.empty()) names.push_back(LockName(folder.fileId));
   return names;
 }
 

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 #include <iterator>
-#include <sstream>
 #include <utility>
 
 #include "platform/win32_constants.h"
 #include "tests/fakes/windows_numbers.h"
+#include "util/text.h"
 
 namespace korvale {
 
@@ -57,11 +57,7 @@ std::string CallLog::Window(WindowHandle hwnd) const {
   return hwnd == 0 ? "0" : HexText(static_cast<std::uint32_t>(hwnd));
 }
 
-std::string HexText(std::uint32_t value) {
-  std::ostringstream text;
-  text << "0x" << std::hex << value;
-  return text.str();
-}
+std::string HexText(std::uint32_t value) { return "0x" + HexadecimalText(value); }
 
 std::string ShowCommandText(int command) {
   static const std::map<int, std::string> kNames = {

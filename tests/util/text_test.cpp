@@ -190,6 +190,12 @@ TEST(ReverseFindTest, OverflowsWhenThePositionNeedsMoreThanSixteenBits) {
   EXPECT_THROW(ReverseFind("|" + std::string(32767, 'a'), "|", 1, true), RunTimeError);
 }
 
+TEST(HexadecimalTextTest, WritesSmallDigitsWithoutLeadingZeroes) {
+  EXPECT_EQ(HexadecimalText(0), "0");
+  EXPECT_EQ(HexadecimalText(0xC0000005), "c0000005");
+  EXPECT_EQ(HexadecimalText(0xFFFFFFFFFFFFFFFF), "ffffffffffffffff");
+}
+
 TEST(DecimalTextTest, WritesSignAndDigits) {
   EXPECT_EQ(DecimalText(0), "0");
   EXPECT_EQ(DecimalText(-2147483647 - 1), "-2147483648");
