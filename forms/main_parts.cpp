@@ -23,7 +23,7 @@ MainParts::MainParts(Platform& platform, FormCollection& forms, MainWindow& main
     : settings(platform.store, ""),
       messages(platform.dialogs, platform.windows, platform.commands, mainWindow, forms, previous,
                suspension, [&forms] { return DialogOnTop(forms); }),
-      errorLog(identity, platform.clock,
+      errorLog(identity, platform.system, platform.clock,
                [this] {
                  return ErrorLogState{state.firstActivation, startup.Menu, state.lastAnswer};
                }),

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <span>
 #include <string>
 
 #include "platform/types.h"
@@ -56,7 +57,8 @@ class SystemMutex {
   virtual bool WaitForSingleObject(std::uint32_t milliseconds) = 0;
 };
 
-/// The shell and the operating system around the program.
+/// The shell and the operating system around the program. Texts are UTF-8, also where a method is
+/// named after the A form of its call.
 class SystemApi {
  public:
   virtual ~SystemApi() = default;
@@ -77,6 +79,10 @@ class SystemApi {
                              int showCommand) = 0;
   /// True when a file (not a folder) of this path exists (GetFileAttributesA).
   virtual bool FileExists(const std::string& path) = 0;
+  /// Opens a file at its end, making it when it is missing, and writes the pieces one after the
+  /// other; one that cannot be written stops no other. False when the file could not be opened
+  /// (CreateFileW, WriteFile).
+  virtual bool AppendToFile(const std::string& path, std::span<const std::string> pieces) = 0;
   /// Opens a folder, through links if need be, and reads what it really is (CreateFileW,
   /// GetFinalPathNameByHandleW, GetFileInformationByHandle).
   virtual FolderInfo GetFinalPathNameByHandleW(const std::string& folder) = 0;

@@ -2,10 +2,7 @@
 
 #include <array>
 #include <cstddef>
-#include <filesystem>
-#include <fstream>
 #include <string_view>
-#include <system_error>
 #include <utility>
 
 #include "platform/run_time_error.h"
@@ -14,15 +11,9 @@
 namespace korvale {
 namespace {
 
-namespace fs = std::filesystem;
-
 constexpr const char* kFileName = "Error.log";
 constexpr std::array<std::string_view, 7> kDayNames = {"Sun", "Mon", "Tue", "Wed",
                                                        "Thu", "Fri", "Sat"};
-
-fs::path PathOf(const std::string& utf8) {
-  return fs::path(std::u8string(utf8.begin(), utf8.end()));
-}
 
 std::string TwoDigits(int number) { return PadText(DecimalText(number), 2, "LEFT_ZEROES"); }
 
@@ -37,31 +28,16 @@ std::string DateLine(const LocalTime& time) {
 
 std::string BooleanText(bool value) { return value ? "True" : "False"; }
 
-[[noreturn]] void ThrowOpenError(const fs::path& folder, const fs::path& file) {
-  std::error_code ignored;
-  if (!fs::is_directory(folder, ignored)) throw RunTimeError(RunTimeError::kPathNotFound);
-  const fs::file_status status = fs::status(file, ignored);
-  const bool writable = (status.permissions() & fs::perms::owner_write) != fs::perms::none;
-  if (fs::exists(status) && (!fs::is_regular_file(status) || !writable)) {
-    throw RunTimeError(RunTimeError::kPathFileAccess);
-  }
-  throw RunTimeError(RunTimeError::kPermissionDenied);
-}
-
 }  // namespace
 
-ErrorLog::ErrorLog(const ProgramIdentity& identity, Clock& clock,
+ErrorLog::ErrorLog(const ProgramIdentity& identity, SystemApi& system, Clock& clock,
                    std::function<ErrorLogState()> state)
-    : identity_(&identity), clock_(&clock), state_(std::move(state)) {}
+    : identity_(&identity), system_(&system), clock_(&clock), state_(std::move(state)) {}
 
 void ErrorLog::Append(const std::string& errorNumber, const std::string& problem,
                       const std::string& locals) {
-  const fs::path folder = PathOf(identity_->programFolder);
-  const fs::path file = PathOf(identity_->programFolder + kFileName);
-  std::ofstream log(file, std::ios::binary | std::ios::app);
-  if (!log) ThrowOpenError(folder, file);
   const ErrorLogState state = state_();
-  const std::array<std::string, 10> lines = {
+  std::array<std::string, 10> lines = {
       "",
       DateLine(clock_->GetLocalTime()),
       "Error Code:  " + errorNumber,
@@ -73,9 +49,9 @@ void ErrorLog::Append(const std::string& errorNumber, const std::string& problem
       "0000004 = " + BooleanText(state.menuShown),
       "0000005 = " + DecimalText(state.lastAnswer),
   };
-  for (const std::string& line : lines) {
-    log.clear();
-    log << line << "\r\n" << std::flush;
+  for (std::string& line : lines) line += "\r\n";
+  if (!system_->AppendToFile(identity_->programFolder + kFileName, lines)) {
+    throw RunTimeError(RunTimeError::kPathFileAccess);
   }
 }
 

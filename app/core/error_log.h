@@ -6,6 +6,7 @@
 
 #include "app/core/identity.h"
 #include "platform/clock.h"
+#include "platform/system_api.h"
 
 namespace korvale {
 
@@ -23,16 +24,17 @@ struct ErrorLogState {
 class ErrorLog {
  public:
   /// `state` is asked once a record.
-  ErrorLog(const ProgramIdentity& identity, Clock& clock, std::function<ErrorLogState()> state);
+  ErrorLog(const ProgramIdentity& identity, SystemApi& system, Clock& clock,
+           std::function<ErrorLogState()> state);
 
-  /// Appends one record; the file is open only meanwhile. When it cannot be opened throws
-  /// RunTimeError 76 (no such folder), 75 (not a file that can be written) or 70 (refused); errors
-  /// while writing are ignored.
+  /// Appends one record; the file is open only meanwhile. Throws RunTimeError 75 (Path/File access
+  /// error) when it cannot be opened; errors while writing are ignored.
   void Append(const std::string& errorNumber, const std::string& problem,
               const std::string& locals);
 
  private:
   const ProgramIdentity* identity_;
+  SystemApi* system_;
   Clock* clock_;
   std::function<ErrorLogState()> state_;
 };

@@ -147,6 +147,19 @@ bool WindowsSystemApi::FileExists(const std::string& path) {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
 }
 
+bool WindowsSystemApi::AppendToFile(const std::string& path, std::span<const std::string> pieces) {
+  const HANDLE opened =
+      ::CreateFileW(ToUtf16(path).c_str(), FILE_APPEND_DATA, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                    nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (opened == INVALID_HANDLE_VALUE) return false;
+  const UniqueKernelHandle file(opened);
+  for (const std::string& piece : pieces) {
+    DWORD written = 0;
+    WriteFile(file.Get(), piece.data(), static_cast<DWORD>(piece.size()), &written, nullptr);
+  }
+  return true;
+}
+
 FolderInfo WindowsSystemApi::GetFinalPathNameByHandleW(const std::string& folder) {
   const std::wstring path = ToUtf16(folder);
   constexpr DWORD kShare = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;

@@ -16,6 +16,7 @@ class WindowsSystemApi final : public SystemApi {
   void ShellExecuteA(WindowHandle hwnd, const std::string& verb, const std::string& file,
                      int showCommand) override;
   bool FileExists(const std::string& path) override;
+  bool AppendToFile(const std::string& path, std::span<const std::string> pieces) override;
   FolderInfo GetFinalPathNameByHandleW(const std::string& folder) override;
   std::unique_ptr<SystemMutex> CreateMutexA(const std::string& name) override;
   void SetUnhandledExceptionFilter(std::function<void(const Crash&)> filter) override;

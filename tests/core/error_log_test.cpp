@@ -3,29 +3,31 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <filesystem>
 #include <string>
 
 #include "platform/run_time_error.h"
+#include "tests/fakes/call_log.h"
 #include "tests/fakes/fake_clock.h"
-#include "tests/fakes/temporary_folder.h"
+#include "tests/fakes/fake_system.h"
 
 namespace korvale {
 namespace {
 
-namespace fs = std::filesystem;
+constexpr const char* kPath = "D:\\Work\\Error.log";
 
-/// A folder of its own, gone after the test.
 class ErrorLogTest : public testing::Test {
  protected:
   ErrorLogTest() {
-    identity_.programFolder = folder_.Path() + "/";
+    StartFrom("D:\\Work\\");
     identity_.versionText = "1.10.0695";
     clock_.SetLocalTime({2001, 12, 15, 14, 3, 27, 6});
   }
 
-  std::string LogPath() const { return identity_.programFolder + "Error.log"; }
-  std::string Content() const { return FileContent(LogPath()); }
+  void StartFrom(const std::string& folder) {
+    identity_.programFolder = folder;
+    system_.files = {folder + "Korvale.exe"};
+  }
+  std::string Content() { return system_.Session().contents[kPath]; }
   std::int16_t AppendError() {
     try {
       log_.Append("1", "problem", "locals");
@@ -35,11 +37,12 @@ class ErrorLogTest : public testing::Test {
     return 0;
   }
 
-  TemporaryFolder folder_{"log"};
+  CallLog calls_;
+  FakeSystem system_{calls_};
   ProgramIdentity identity_;
   FakeClock clock_;
   ErrorLogState state_;
-  ErrorLog log_{identity_, clock_, [this] { return state_; }};
+  ErrorLog log_{identity_, system_, clock_, [this] { return state_; }};
 };
 
 TEST_F(ErrorLogTest, WritesEveryLineOfARecord) {
@@ -52,12 +55,10 @@ TEST_F(ErrorLogTest, WritesEveryLineOfARecord) {
             "Problem:  VB ERROR 6 - Overflow -- counting\r\n"
             "Locals:  i = 7\r\n"
             "0000001 = True\r\n"
-            "0000002 = " +
-                identity_.programFolder +
-                "\r\n"
-                "0000003 = 1.10.0695\r\n"
-                "0000004 = False\r\n"
-                "0000005 = 6\r\n");
+            "0000002 = D:\\Work\\\r\n"
+            "0000003 = 1.10.0695\r\n"
+            "0000004 = False\r\n"
+            "0000005 = 6\r\n");
 }
 
 TEST_F(ErrorLogTest, PadsDateAndTimeWithZeroes) {
@@ -69,7 +70,7 @@ TEST_F(ErrorLogTest, PadsDateAndTimeWithZeroes) {
 TEST_F(ErrorLogTest, NamesEveryDayOfTheWeek) {
   std::string names;
   for (int day = 0; day < 7; ++day) {
-    fs::remove(LogPath());
+    system_.Session().contents.clear();
     clock_.SetLocalTime({2026, 3, 1 + day, 12, 0, 0, day});
     log_.Append("1", "", "");
     names += Content().substr(5, 4);
@@ -86,31 +87,27 @@ TEST_F(ErrorLogTest, RecordsAccumulate) {
   EXPECT_NE(Content().find("Problem:  second\r\n"), std::string::npos);
 }
 
-TEST_F(ErrorLogTest, FolderWithLettersOfAnyLanguageIsFine) {
-  identity_.programFolder = folder_.Path() + "/\xd0\xa0\xd0\xb0\xd0\xb1\xd0\xbe\xd1\x82\xd0\xb0/";
-  fs::create_directories(identity_.programFolder);
+TEST_F(ErrorLogTest, StandsInTheFolderOfTheProgram) {
+  const std::string folder = "D:\\\xd0\xa0\xd0\xb0\xd0\xb1\xd0\xbe\xd1\x82\xd0\xb0\\";
+  StartFrom(folder);
   EXPECT_EQ(AppendError(), 0);
-  EXPECT_NE(Content().find("0000002 = " + identity_.programFolder), std::string::npos);
+  EXPECT_NE(system_.Session().contents[folder + "Error.log"].find("0000002 = " + folder),
+            std::string::npos);
 }
 
-TEST_F(ErrorLogTest, MissingFolderIsPathNotFound) {
-  identity_.programFolder = folder_.Path() + "/none/";
-  EXPECT_EQ(AppendError(), 76);
-}
-
-TEST_F(ErrorLogTest, FolderInPlaceOfTheFileIsAPathFileAccessError) {
-  fs::create_directory(LogPath());
+TEST_F(ErrorLogTest, ThatCannotBeOpenedIsAPathFileAccessError) {
+  identity_.programFolder = "D:\\None\\";
   EXPECT_EQ(AppendError(), 75);
-}
-
-TEST_F(ErrorLogTest, FolderThatTakesNoFilesIsPermissionDenied) {
-  identity_.programFolder = "/proc/";
-  EXPECT_EQ(AppendError(), 70);
+  StartFrom("D:\\Work\\");
+  system_.files.insert(std::string(kPath) + "\\Folder in its place");
+  EXPECT_EQ(AppendError(), 75);
+  EXPECT_EQ(Content(), "");
 }
 
 TEST_F(ErrorLogTest, ErrorsWhileWritingAreIgnored) {
-  fs::create_symlink("/dev/full", LogPath());
+  system_.Session().diskFull = true;
   EXPECT_EQ(AppendError(), 0);
+  EXPECT_TRUE(system_.files.contains(kPath));
 }
 
 }  // namespace

@@ -7,9 +7,10 @@
 #include <vector>
 
 #include "platform/run_time_error.h"
+#include "tests/fakes/call_log.h"
 #include "tests/fakes/fake_clock.h"
 #include "tests/fakes/fake_message_boxes.h"
-#include "tests/fakes/temporary_folder.h"
+#include "tests/fakes/fake_system.h"
 
 namespace korvale {
 namespace {
@@ -17,26 +18,28 @@ namespace {
 class ErrorReportsTest : public testing::Test {
  protected:
   ErrorReportsTest() {
-    identity_.programFolder = folder_.Path() + "/";
+    identity_.programFolder = "D:\\Work\\";
+    system_.files = {"D:\\Work\\Korvale.exe"};
     messages_.whileShown = [this](const ShownMessageBox& /*box*/) {
       EXPECT_EQ(Content(), "") << "logged before the user was told";
       EXPECT_EQ(shutDowns_, 0) << "shut down before the user was told";
     };
   }
 
-  std::string Content() const { return FileContent(identity_.programFolder + "Error.log"); }
+  std::string Content() { return system_.Session().contents["D:\\Work\\Error.log"]; }
   void Fatal(std::int16_t number) {
     reports_.udmFatalError(ErrorPlace::kProgramEntry, number,
                            {"description", "a = 1", "Please start Korvale again."});
   }
 
-  TemporaryFolder folder_{"reports"};
+  CallLog calls_;
+  FakeSystem system_{calls_};
   ProgramIdentity identity_;
   FakeMessageBoxes messages_;
   FakeClock clock_;
   int shutDowns_ = 0;
   bool shutDownFails_ = false;
-  ErrorLog log_{identity_, clock_, [] { return ErrorLogState(); }};
+  ErrorLog log_{identity_, system_, clock_, [] { return ErrorLogState(); }};
   ErrorReports reports_{identity_, messages_, log_, [this] {
                           EXPECT_TRUE(Content().ends_with("\r\n")) << "shut down before logging";
                           ++shutDowns_;
@@ -79,7 +82,7 @@ TEST_F(ErrorReportsTest, FatalErrorOfTheProgramsOwnHasNoRunTimeErrorText) {
 }
 
 TEST_F(ErrorReportsTest, ProgramEndsEvenWhenTheLogCannotBeWritten) {
-  identity_.programFolder = folder_.Path() + "/none/";
+  identity_.programFolder = "D:\\None\\";
   ErrorReports reports(identity_, messages_, log_, [this] { ++shutDowns_; });
   EXPECT_THROW(reports.udmFatalError(ErrorPlace::kEventHandler, 5, {}), ProgramEnded);
   EXPECT_EQ(messages_.shown.size(), 1U);

@@ -124,6 +124,18 @@ bool FakeSystem::FileExists(const std::string& path) {
                              [&](const std::string& file) { return EqualsIgnoreCase(file, real); });
 }
 
+bool FakeSystem::AppendToFile(const std::string& path, std::span<const std::string> pieces) {
+  log_.Add("AppendToFile(" + path + ")");
+  const std::string real = InPlaceOf(shares, RealPath(path));
+  const std::string folder = real.substr(0, real.find_last_of('\\'));
+  const bool isFolder = !Spelled(files, drives, real).empty();
+  if (Reach(real) != 0 || isFolder || Spelled(files, drives, folder).empty()) return false;
+  files.insert(real);
+  std::string& content = session_->contents[real];
+  for (const std::string& piece : pieces) content += session_->diskFull ? "" : piece;
+  return true;
+}
+
 FolderInfo FakeSystem::GetFinalPathNameByHandleW(const std::string& folder) {
   log_.AddRead("GetFinalPathNameByHandleW(" + folder + ")");
   const std::string path = RealPath(folder);

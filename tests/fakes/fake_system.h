@@ -5,6 +5,7 @@
 #include <map>
 #include <memory>
 #include <set>
+#include <span>
 #include <string>
 #include <utility>
 
@@ -13,13 +14,18 @@
 
 namespace korvale {
 
-/// The named mutexes of a Windows session, shared by all programs in it.
+/// What all programs of a Windows session share: named mutexes and what is written to files.
 class FakeSession {
  public:
   /// Called while a program waits for a mutex that another one holds, so that the holder can act.
   void WhenWaiting(std::function<void()> action) { when_waiting_ = std::move(action); }
   /// The number of programs that hold the mutex: 0 or 1.
   bool IsHeld(const std::string& name) const { return holders_.contains(name); }
+
+  /// Path -> what programs have written to the file.
+  std::map<std::string, std::string> contents;
+  /// Files can be made, but hold nothing.
+  bool diskFull = false;
 
  private:
   friend class FakeSystem;
@@ -62,6 +68,7 @@ class FakeSystem : public SystemApi {
   void ShellExecuteA(WindowHandle hwnd, const std::string& verb, const std::string& file,
                      int showCommand) override;
   bool FileExists(const std::string& path) override;
+  bool AppendToFile(const std::string& path, std::span<const std::string> pieces) override;
   FolderInfo GetFinalPathNameByHandleW(const std::string& folder) override;
   std::unique_ptr<SystemMutex> CreateMutexA(const std::string& name) override;
   void SetUnhandledExceptionFilter(std::function<void(const Crash&)> filter) override {

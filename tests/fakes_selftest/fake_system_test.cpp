@@ -37,6 +37,21 @@ TEST_F(FakeSystemTest, FindsFilesIgnoringCase) {
   EXPECT_FALSE(system_.FileExists("C:\\Programs"));
 }
 
+TEST_F(FakeSystemTest, AppendsToFilesOfFoldersThatAreThere) {
+  system_.files = {"C:\\Programs\\Readme.htm"};
+  const std::vector<std::string> pieces = {"a", "b"};
+
+  EXPECT_TRUE(system_.AppendToFile("C:\\Programs\\Log", pieces));
+  EXPECT_TRUE(FakeSystem(log_, session_).AppendToFile("C:\\Log", pieces));
+  EXPECT_TRUE(system_.AppendToFile("C:\\Log", pieces));
+  EXPECT_FALSE(system_.AppendToFile("C:\\None\\Log", pieces));
+  EXPECT_FALSE(system_.AppendToFile("C:\\Programs", pieces));
+  EXPECT_FALSE(system_.AppendToFile("E:\\Log", pieces));
+  EXPECT_TRUE(system_.FileExists("C:\\Programs\\Log"));
+  EXPECT_EQ(session_->contents,
+            (std::map<std::string, std::string>{{"C:\\Log", "abab"}, {"C:\\Programs\\Log", "ab"}}));
+}
+
 TEST_F(FakeSystemTest, LogsWhatItOpens) {
   system_.ShellExecuteA(0x10, "Open", "readme.htm", 1);
 

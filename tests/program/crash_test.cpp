@@ -3,20 +3,18 @@
 #include <vector>
 
 #include "platform/run_time_error.h"
-#include "tests/fakes/temporary_folder.h"
 #include "tests/program/start_test.h"
 
 namespace korvale {
 namespace {
 
+constexpr const char* kLog = "C:\\Programs\\Work\\Error.log";
 constexpr Crash kAccessViolation{0xC0000005, 0x7FF612AB};
 
-/// Copies of Korvale in a folder of this machine, where their Error.log is written.
 class CrashTest : public StartTest {
  protected:
   KorvaleCopy& Prepared() {
     KorvaleCopy& korvale = UsedCopy();
-    korvale.system.executablePath = program_folder_ + "Korvale.exe";
     clock.SetLocalTime({2026, 11, 21, 9, 5, 7, 6});
     return korvale;
   }
@@ -53,25 +51,21 @@ class CrashTest : public StartTest {
     EXPECT_TRUE(korvale.Form().tmrWindow().Enabled());
   }
 
-  std::string Log() const { return FileContent(program_folder_ + "Error.log"); }
+  std::string Log() { return session->contents[kLog]; }
   /// The record of a start that failed so.
-  std::string RecordOfFailedStart() const {
+  static std::string RecordOfFailedStart() {
     return "\r\n"
            "-- Sat 11/21/2026 09:05:07 --\r\n"
            "Error Code:  1\r\n"
            "Problem:  VB ERROR 6 - Overflow -- Overflow\r\n"
            "Locals:  \r\n"
            "0000001 = False\r\n"
-           "0000002 = " +
-           program_folder_ +
-           "\r\n"
+           "0000002 = C:\\Programs\\Work\\\r\n"
            "0000003 = 1.02.0003\r\n"
            "0000004 = True\r\n"
            "0000005 = 0\r\n";
   }
 
-  TemporaryFolder folder_{"crash"};
-  std::string program_folder_ = folder_.Path() + "/C:\\Work\\";
   std::vector<ShownMessage> messages_;
 };
 
@@ -92,12 +86,10 @@ TEST_F(CrashTest, AnAccessViolationIsToldAndRecorded) {
             "Problem:  VB ERROR 51 - Internal error -- exception 0xC0000005\r\n"
             "Locals:  address = 0x7FF612AB\r\n"
             "0000001 = True\r\n"
-            "0000002 = " +
-                program_folder_ +
-                "\r\n"
-                "0000003 = 1.02.0003\r\n"
-                "0000004 = True\r\n"
-                "0000005 = 0\r\n");
+            "0000002 = C:\\Programs\\Work\\\r\n"
+            "0000003 = 1.02.0003\r\n"
+            "0000004 = True\r\n"
+            "0000005 = 0\r\n");
 }
 
 TEST_F(CrashTest, TheHotKeysAreGivenBackAndNothingIsSaved) {

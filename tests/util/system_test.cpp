@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -31,6 +32,9 @@ class SystemOfTest : public SystemApi {
                       std::to_string(showCommand));
   }
   bool FileExists(const std::string& /*path*/) override { return false; }
+  bool AppendToFile(const std::string& /*path*/, std::span<const std::string> /*pieces*/) override {
+    return false;
+  }
   FolderInfo GetFinalPathNameByHandleW(const std::string& /*folder*/) override { return {}; }
   std::unique_ptr<SystemMutex> CreateMutexA(const std::string& /*name*/) override { return {}; }
 
