@@ -3,10 +3,10 @@
 namespace korvale {
 
 Desktop::Desktop(const DesktopParts& parts, Clock& clock, const OptionsHolder& options,
-                 SettingsStore& store, MenuItem& windowMenu)
+                 MenuItem& windowMenu)
     : DesktopParts(parts),
       tags{MenuItemArray(windowMenu, "mnuWindowParentList")},
-      tagPasses(tags, windows, store),
+      tagPasses(tags, windows),
       filter(windows, options, forms, mainWindow),
       requests(windows, commands, mainWindow, clock),
       enumeration(windows, requests, filter, mainWindow, tagPasses),

@@ -11,7 +11,6 @@
 #include "desktop/window_selection.h"
 #include "platform/clock.h"
 #include "platform/menu_model.h"
-#include "platform/settings_store.h"
 
 namespace korvale {
 
@@ -20,7 +19,7 @@ namespace korvale {
 struct Desktop : DesktopParts {
   /// `windowMenu` holds the items of the Tags.
   Desktop(const DesktopParts& parts, Clock& clock, const OptionsHolder& options,
-          SettingsStore& store, MenuItem& windowMenu);
+          MenuItem& windowMenu);
   Desktop(const Desktop&) = delete;
   Desktop& operator=(const Desktop&) = delete;
 

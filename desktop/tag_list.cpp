@@ -9,8 +9,6 @@
 namespace korvale {
 namespace {
 
-bool IsTag(int index) { return index >= 1 && index <= kTagCount; }
-
 template <typename Visit>
 void ForEachTag(const TagList& tags, Visit visit) {
   for (const int index : tags.mnuWindowParentList.Indexes()) {
@@ -21,7 +19,7 @@ void ForEachTag(const TagList& tags, Visit visit) {
 }  // namespace
 
 std::string IdentificationText(const MenuItem& entry) {
-  return Trim(MidCharacters(entry.caption, 3));
+  return Trim(MidCharacters(entry.caption, kTagPrefixLength + 1));
 }
 
 WindowHandle TagHandle(const MenuItem& entry) { return ParseInt32(entry.tag).value_or(0); }
@@ -35,11 +33,24 @@ std::string& TagClass(TagList& tags, const MenuItem& entry) {
   return tags.ParentWindowClass.at(static_cast<std::size_t>(entry.index - 1));
 }
 
-TagListPasses::TagListPasses(TagList& tags, WindowQueries& windows, SettingsStore& store)
-    : tags_(&tags), windows_(&windows), store_(&store) {}
+const std::string& TagClass(const TagList& tags, const MenuItem& entry) {
+  return tags.ParentWindowClass.at(static_cast<std::size_t>(entry.index - 1));
+}
+
+MenuItem& AddTagEntry(TagList& tags, int number, const std::string& caption) {
+  MenuItem& entry = tags.mnuWindowParentList.Load(number);
+  entry.caption = caption;
+  entry.literalFrom = kTagPrefixLength;
+  entry.tag = "0";
+  entry.visible = true;
+  return entry;
+}
+
+TagListPasses::TagListPasses(TagList& tags, WindowQueries& windows)
+    : tags_(&tags), windows_(&windows) {}
 
 std::int16_t TagListPasses::TagListPass(TagListMode mode, std::int16_t tagNumber,
-                                        const std::string& appName, WindowHandle hwnd) {
+                                        WindowHandle hwnd) {
   switch (mode) {
     case TagListMode::kExists:
       if (tagNumber == 0) return 1;
@@ -49,9 +60,6 @@ std::int16_t TagListPasses::TagListPass(TagListMode mode, std::int16_t tagNumber
       break;
     case TagListMode::kMatch:
       ForEachTag(*tags_, [&](MenuItem& entry) { Match(entry, hwnd); });
-      break;
-    case TagListMode::kSave:
-      ForEachTag(*tags_, [&](const MenuItem& entry) { Save(entry, appName); });
       break;
     case TagListMode::kUnload:
       ForEachTag(*tags_,
@@ -76,13 +84,6 @@ void TagListPasses::Match(MenuItem& entry, WindowHandle hwnd) {
   if (GetRelatedWindow(*windows_, hwnd, 1) == 0) return;
   entry.tag = DecimalText(hwnd);
   if (storedClass.empty()) storedClass = GetWindowClass(*windows_, hwnd);
-}
-
-void TagListPasses::Save(const MenuItem& entry, const std::string& appName) {
-  const std::string key = DecimalText(entry.index);
-  store_->SaveSetting(appName, "ParentWindowList", key, entry.caption);
-  const std::string& storedClass = TagClass(*tags_, entry);
-  if (!storedClass.empty()) store_->SaveSetting(appName, "ParentWindowClass", key, storedClass);
 }
 
 }  // namespace korvale

@@ -42,7 +42,7 @@ void WindowEnumeration::HandleSelectable(WindowHandle hwnd, std::int32_t mode, c
       if (CanMinimizeOrRestore(hwnd, true)) Restore(hwnd);
       break;
     case kTagRefresh:
-      tagPasses_->TagListPass(TagListMode::kMatch, 0, "", hwnd);
+      tagPasses_->TagListPass(TagListMode::kMatch, 0, hwnd);
       break;
     case kTopWindow:
       if (CanBeTopWindow(hwnd)) visit(hwnd);

@@ -86,7 +86,7 @@ void frmGetWindow::FillTags() {
   Control& tags = Find("cboWindow");
   for (int tag = 1; tag <= kTagCount; ++tag) tags.AddItem(DecimalText(tag), tag);
   context_.tags.mnuWindowParentList.ForEach([&](const MenuItem& entry) {
-    if (entry.index < 1 || entry.index > kTagCount) return;
+    if (!IsTag(entry.index)) return;
     std::string text = IdentificationText(entry);
     if (text.empty()) text = "(window without a title)";
     tags.SetItemText(entry.index - 1, DecimalText(entry.index) + "  " + text);
@@ -163,21 +163,18 @@ void frmGetWindow::cmdOK_Click() {
   if (tags.ListIndex() < 0) return;
   const int tag = tags.SelectedText().front() - '0';
   RemoveEntry(tags.SelectedItemData());
+  const std::string caption = TagCaption(tag, ChosenIdentification());
   const bool ofChild = Find("chkChildWindow").Value() == 1;
-  AddEntry(tag, (ofChild ? "" : "&") + DecimalText(tag) + "  " + ChosenIdentification());
+  AddEntry(tag, ofChild ? caption.substr(1) : caption);
   cmdClose_Click();
 }
 
 void frmGetWindow::AddEntry(int tag, const std::string& caption) {
-  MenuItem& entry = context_.tags.mnuWindowParentList.Load(tag);
-  entry.caption = caption;
-  entry.literalFrom = kTagPrefixLength;
+  MenuItem& entry = AddTagEntry(context_.tags, tag, caption);
   // Only a window with a child window is stored with its handle and class; kept so on purpose.
   const bool hasChild = GetRelatedWindow(context_.windows, window_, 1) != 0;
   entry.tag = hasChild ? DecimalText(window_) : "0";
-  context_.tags.ParentWindowClass.at(static_cast<std::size_t>(tag) - 1) =
-      hasChild ? GetWindowClass(context_.windows, window_) : "";
-  entry.visible = true;
+  TagClass(context_.tags, entry) = hasChild ? GetWindowClass(context_.windows, window_) : "";
 }
 
 void frmGetWindow::RemoveEntry(int tag) {

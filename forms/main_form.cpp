@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "app/core/error_reports.h"
-#include "desktop/tag_list_restore.h"
+#include "desktop/tag_list_storage.h"
 #include "forms/main_form_design.h"
 #include "hotkeys/hot_key_names.h"
 #include "platform/run_time_error.h"
@@ -78,10 +78,7 @@ void frmMain::udmDeleteOptions() {
 }
 
 void frmMain::udmSaveINI() {
-  parts_.settings.SaveINI(parts_.startup, [this](SettingsStore& store) {
-    TagListPasses(parts_.desktop.tags, platform_->windows, store)
-        .TagListPass(TagListMode::kSave, 0, parts_.settings.AppName());
-  });
+  parts_.settings.SaveINI(parts_.startup, TagsToStore(parts_.desktop.tags));
 }
 
 void frmMain::SaveOrTell(const std::function<void()>& saves) {
@@ -103,8 +100,7 @@ void frmMain::SaveOrTellOnce(const std::function<void()>& saves) {
 
 void frmMain::LoadStartupSettings() {
   parts_.startup = parts_.settings.LoadStartup();
-  const StoredTagList stored = parts_.settings.LoadTagList();
-  RestoreTagList(parts_.desktop.tags, stored.captions, stored.classes);
+  RestoreTagList(parts_.desktop.tags, parts_.settings.LoadTagList());
 }
 
 void frmMain::udmRefreshAlwaysOnTopMenuChecked() {

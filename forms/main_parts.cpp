@@ -29,7 +29,7 @@ MainParts::MainParts(Platform& platform, FormCollection& forms, MainWindow& main
                }),
       errors(identity, messages, errorLog, std::move(shutDown)),
       desktop({platform.windows, platform.commands, mainWindow, forms, messages, previous},
-              platform.clock, options, platform.store, *menus.Find("mnuWindow")),
+              platform.clock, options, *menus.Find("mnuWindow")),
       display(forms, platform.windows, platform.commands, previous, suspension,
               startup.AlwaysOnTop),
       hotKeys(platform.hotKeys, options, mainWindow),

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <array>
 #include <span>
-#include <string_view>
 
 #include "app/core/save_journal.h"
 #include "app/core/setting_rows.h"
 #include "app/core/store_changes.h"
+#include "util/text.h"
 
 namespace korvale {
 namespace {
@@ -38,20 +38,10 @@ void Save(SettingsStore& store, const std::string& appName,
   }
 }
 
-bool IsTagNumber(std::string_view key) {
-  return key.size() == 1 && key.front() >= '1' && key.front() <= '9';
-}
-
-bool IsTagCaption(const std::pair<std::string, std::string>& stored) {
-  return stored.second.starts_with("&" + stored.first + "  ");
-}
-
-SettingsStore::Pairs LoadTags(SettingsStore& store, const std::string& appName,
-                              const char* section) {
-  SettingsStore::Pairs pairs = store.GetAllSettings(appName, section);
-  std::erase_if(pairs, [](const auto& pair) { return !IsTagNumber(pair.first); });
-  std::ranges::sort(pairs);
-  return pairs;
+/// The value of the key, "" when there is none.
+std::string ValueOf(const SettingsStore::Pairs& pairs, const std::string& key) {
+  const auto found = std::ranges::find(pairs, key, &SettingsStore::Pairs::value_type::first);
+  return found == pairs.end() ? "" : found->second;
 }
 
 }  // namespace
@@ -78,18 +68,27 @@ StartupSettings Settings::LoadStartup() const {
 }
 
 StoredTagList Settings::LoadTagList() const {
-  StoredTagList tags{LoadTags(*store_, appName_, kTagCaptions),
-                     LoadTags(*store_, appName_, kTagClasses)};
-  std::erase_if(tags.captions, [](const auto& stored) { return !IsTagCaption(stored); });
+  const SettingsStore::Pairs captions = store_->GetAllSettings(appName_, kTagCaptions);
+  const SettingsStore::Pairs classes = store_->GetAllSettings(appName_, kTagClasses);
+  StoredTagList tags;
+  for (int number = 1; number <= kTagCount; ++number) {
+    const std::string key = DecimalText(number);
+    const std::string caption = ValueOf(captions, key);
+    if (!caption.starts_with(TagCaption(number, ""))) continue;
+    tags.push_back({number, caption, ValueOf(classes, key)});
+  }
   return tags;
 }
 
-void Settings::SaveINI(const StartupSettings& startup,
-                       const std::function<void(SettingsStore&)>& saveTagList) {
+void Settings::SaveINI(const StartupSettings& startup, const StoredTagList& tags) {
   SaveTogether([&](SettingsStore& store) {
     DeleteINI();
     Save(store, appName_, StartupRows(), startup);
-    saveTagList(store);
+    for (const StoredTag& tag : tags) {
+      const std::string key = DecimalText(tag.number);
+      store.SaveSetting(appName_, kTagCaptions, key, tag.caption);
+      if (!tag.className.empty()) store.SaveSetting(appName_, kTagClasses, key, tag.className);
+    }
   });
 }
 

@@ -6,17 +6,12 @@
 
 #include "app/core/options.h"
 #include "app/core/startup_settings.h"
+#include "app/core/stored_tags.h"
 #include "platform/settings_store.h"
 
 namespace korvale {
 
 class ChangeRecorder;
-
-/// The Tag list as it is stored: Tag number text -> caption, Tag number text -> class.
-struct StoredTagList {
-  SettingsStore::Pairs captions;
-  SettingsStore::Pairs classes;
-};
 
 /// Loads and saves everything that the program remembers between runs, one table row a setting.
 /// A value that is missing or cannot be converted yields the setting's default.
@@ -40,14 +35,12 @@ class Settings {
   void DeleteOptions();
 
   StartupSettings LoadStartup() const;
-  /// In ascending order of the Tags; without keys other than "1" to "9" and without captions that
-  /// do not begin with "&", the key and two blanks.
+  /// Without keys other than "1" to "9" and without captions that are not TagCaption's of their
+  /// key.
   StoredTagList LoadTagList() const;
   /// Deletes the sections of the main window's state, the old ones of earlier designs and the Tag
-  /// list, writes the state, then lets `saveTagList` write the Tag list under AppName() into the
-  /// store that it is given.
-  void SaveINI(const StartupSettings& startup,
-               const std::function<void(SettingsStore&)>& saveTagList);
+  /// list, then writes the state and the Tag list.
+  void SaveINI(const StartupSettings& startup, const StoredTagList& tags);
   /// Only the deletions of SaveINI.
   void DeleteINI();
   /// Deletes the settings that are not taken over from another installation.

@@ -26,7 +26,7 @@ void SaveBoth(SettingsStore& store) {
     clsOptions options;
     options.intHotKeyModParent = 2;
     settings.SaveOptions(options);
-    settings.SaveINI(StartupSettings(), SaveNewTags);
+    settings.SaveINI(StartupSettings(), NewTags());
   });
 }
 
@@ -117,7 +117,7 @@ TEST(FirstSaveTest, KilledBeforeItsEndLeavesAFirstRun) {
     ended = RunsToItsEnd(store, writes, SaveNewINI);
     Restart(store);
     Settings settings(store, kApp);
-    EXPECT_TRUE(settings.NothingStored() || settings.LoadTagList().captions.size() == 1U);
+    EXPECT_TRUE(settings.NothingStored() || settings.LoadTagList().size() == 1U);
   }
 }
 

@@ -19,10 +19,7 @@ class DeletedLastTest : public testing::Test {
     store_.RefuseValue(kApp, "ParentWindowList", "1");
     Settings settings(store_, kApp);
     const auto saveHere = [&](SettingsStore& /*store*/) {
-      settings.SaveINI(StartupSettings(), [](SettingsStore& list) {
-        list.SaveSetting(kApp, "ParentWindowList", "1", "&1  Mail");
-        list.SaveSetting(kApp, "ParentWindowList", "2", "&2  Mail");
-      });
+      settings.SaveINI(StartupSettings(), {{1, "&1  Mail", ""}, {2, "&2  Mail", ""}});
       settings.DeletePlacement();
     };
     const auto deleteOld = [&](SettingsStore& old) {
@@ -42,7 +39,7 @@ class DeletedLastTest : public testing::Test {
 
 TEST_F(DeletedLastTest, WaitsUntilAllElseStands) {
   EXPECT_TRUE(OldIsThere());
-  EXPECT_EQ(ErrorOf([&] { SaveTags(store_, {"1", "2"}); }), 70);
+  EXPECT_EQ(ErrorOf([&] { SaveTags(store_, {1, 2}); }), 70);
   EXPECT_TRUE(OldIsThere());
   store_.RefuseNothing();
   Restart(store_);
@@ -52,20 +49,18 @@ TEST_F(DeletedLastTest, WaitsUntilAllElseStands) {
 }
 
 TEST_F(DeletedLastTest, IsDroppedWhenAValueThatWasRefusedIsNotToBeSavedAnyMore) {
-  SaveTags(store_, {"2"});
+  SaveTags(store_, {2});
   EXPECT_TRUE(OldIsThere());
   EXPECT_TRUE(NothingIsPending());
   store_.RefuseNothing();
-  SaveTags(store_, {"2"});
+  SaveTags(store_, {2});
   Restart(store_);
   EXPECT_EQ(Tag("1"), std::nullopt);
   EXPECT_TRUE(OldIsThere());
 }
 
 TEST_F(DeletedLastTest, IsDroppedWhenAValueThatWasRefusedBecomesAnother) {
-  const auto other = [](SettingsStore& list) {
-    list.SaveSetting(kApp, "ParentWindowList", "1", "&1  Other");
-  };
+  const StoredTagList other = {{1, "&1  Other", ""}};
   EXPECT_EQ(ErrorOf([&] { Settings(store_, kApp).SaveINI(StartupSettings(), other); }), 70);
   store_.RefuseNothing();
   Restart(store_);
@@ -76,7 +71,7 @@ TEST_F(DeletedLastTest, IsDroppedWhenAValueThatWasRefusedBecomesAnother) {
 
 TEST_F(DeletedLastTest, StaysWhenAValueThatStandsBecomesAnother) {
   EXPECT_EQ(Tag("2"), "&2  Mail");
-  EXPECT_EQ(ErrorOf([&] { SaveTags(store_, {"1"}); }), 70);
+  EXPECT_EQ(ErrorOf([&] { SaveTags(store_, {1}); }), 70);
   store_.RefuseNothing();
   Restart(store_);
   EXPECT_EQ(Tag("1"), "&1  Mail");

@@ -16,17 +16,7 @@ struct FormOfSettings {
               tags = settings.LoadTagList();
             },
             [this] { Settings::ForgetPlacement(startup); },
-            [this] { settings.SaveOptions(options); },
-            [this] {
-              settings.SaveINI(startup, [this](SettingsStore& store) {
-                for (const auto& [tag, caption] : tags.captions) {
-                  store.SaveSetting(settings.AppName(), "ParentWindowList", tag, caption);
-                }
-                for (const auto& [tag, name] : tags.classes) {
-                  store.SaveSetting(settings.AppName(), "ParentWindowClass", tag, name);
-                }
-              });
-            }};
+            [this] { settings.SaveOptions(options); }, [this] { settings.SaveINI(startup, tags); }};
   }
 
   Settings& settings;

@@ -163,9 +163,8 @@ TEST_F(InstallationTest, YesTakesTheSettingsOverAndRemovesTheOtherInstallation) 
   clsOptions options;
   settings.LoadOptions(options);
   EXPECT_EQ(options.intHotKeyModParent, 2);
-  EXPECT_EQ(settings.LoadTagList().captions,
-            (SettingsStore::Pairs{{"1", "&1  Mail"}, {"4", "&4  *** - Notepad"}}));
-  EXPECT_EQ(settings.LoadTagList().classes, (SettingsStore::Pairs{{"4", "Notepad"}}));
+  EXPECT_EQ(settings.LoadTagList(),
+            (StoredTagList{{1, "&1  Mail", ""}, {4, "&4  *** - Notepad", "Notepad"}}));
   EXPECT_EQ(settings.LoadStartup().Tips, "11");
   EXPECT_FALSE(settings.LoadStartup().Menu);
 }

@@ -58,8 +58,7 @@ class InstallationTest : public testing::Test {
     form.startup.DisplayTips = false;
     form.startup.Tips = "11";
     form.startup.Menu = false;
-    form.tags.captions = {{"1", "&1  Mail"}, {"4", "&4  *** - Notepad"}};
-    form.tags.classes = {{"4", "Notepad"}};
+    form.tags = {{1, "&1  Mail", ""}, {4, "&4  *** - Notepad", "Notepad"}};
     form.Import().udmSaveOptions();
     form.Import().udmSaveINI();
     store.SaveSetting(appName, "ButtonTags", "1", "old");

@@ -184,10 +184,10 @@ TEST(RefusedSaveTest, FailingDeletionDoesNotStopTheOthers) {
 }
 
 TEST(RefusedSaveTest, ATagThatWasRemovedMeanwhileDoesNotComeBack) {
-  for (const std::vector<std::string>& left : {std::vector<std::string>{"1"}, {}}) {
+  for (const std::vector<int>& left : {std::vector<int>{1}, {}}) {
     RefusingStore store("ParentWindowList", "");
     store.refusing = true;
-    EXPECT_EQ(ErrorOf([&] { SaveTags(store, {"1", "2"}); }), 70);
+    EXPECT_EQ(ErrorOf([&] { SaveTags(store, {1, 2}); }), 70);
     EXPECT_EQ(ErrorOf([&] { SaveTags(store, left); }), left.empty() ? 0 : 70);
     store.refusing = false;
     Restart(store);
@@ -200,7 +200,7 @@ TEST(RefusedSaveTest, ATagThatWasRemovedMeanwhileDoesNotComeBack) {
 
 TEST(RefusedSaveTest, TheLastTagWhoseRemovalIsRefusedIsRemovedLater) {
   RefusingStore store("ParentWindowList", "");
-  SaveTags(store, {"2"});
+  SaveTags(store, {2});
   store.refusing = true;
   EXPECT_EQ(ErrorOf([&] { SaveTags(store, {}); }), 70);
   EXPECT_EQ(store.GetSetting(kApp, "ParentWindowList", "2"), "&2  Mail");

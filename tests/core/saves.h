@@ -12,19 +12,13 @@ namespace korvale {
 
 inline constexpr const char* kApp = "Korvale - Work";
 
-inline void SaveNewTags(SettingsStore& store) {
-  store.SaveSetting(kApp, "ParentWindowList", "3", "&3  New\\Tag");
-  store.SaveSetting(kApp, "ParentWindowClass", "3", "\\New\\");
-}
+inline StoredTagList NewTags() { return {{3, "&3  New\\Tag", "\\New\\"}}; }
 
 inline void SaveOld(SettingsStore& store) {
   Settings settings(store, kApp);
   settings.SaveOptions(clsOptions());
-  settings.SaveINI(StartupSettings(), [](SettingsStore& tags) {
-    tags.SaveSetting(kApp, "ParentWindowList", "1", "&1  Mail");
-    tags.SaveSetting(kApp, "ParentWindowList", "2", "&2  *** - \xd0\x9f\xd0\xb8");
-    tags.SaveSetting(kApp, "ParentWindowClass", "1", "MailFrame");
-  });
+  settings.SaveINI(StartupSettings(),
+                   {{1, "&1  Mail", "MailFrame"}, {2, "&2  *** - \xd0\x9f\xd0\xb8", ""}});
   store.SaveSetting(kApp, "ButtonTags", "1", "old");
 }
 
@@ -32,7 +26,7 @@ inline void SaveNewINI(SettingsStore& store) {
   StartupSettings startup;
   startup.Left = 100;
   startup.Tips = "10";
-  Settings(store, kApp).SaveINI(startup, SaveNewTags);
+  Settings(store, kApp).SaveINI(startup, NewTags());
 }
 
 inline void DeleteTheOptions(SettingsStore& store) { Settings(store, kApp).DeleteOptions(); }
@@ -48,13 +42,12 @@ inline std::int16_t ErrorOf(const std::function<void()>& call) {
 }
 
 /// Saves the state with these Tags, as the program does.
-inline void SaveTags(SettingsStore& store, const std::vector<std::string>& tags) {
-  const auto save = [&](SettingsStore& list) {
-    for (const std::string& tag : tags) {
-      list.SaveSetting(kApp, "ParentWindowList", tag, "&" + tag + "  Mail");
-    }
-  };
-  Settings(store, kApp).SaveINI(StartupSettings(), save);
+inline void SaveTags(SettingsStore& store, const std::vector<int>& numbers) {
+  StoredTagList tags;
+  for (const int number : numbers) {
+    tags.push_back({number, "&" + std::to_string(number) + "  Mail", ""});
+  }
+  Settings(store, kApp).SaveINI(StartupSettings(), tags);
 }
 
 inline void Restart(SettingsStore& store) { Settings(store, kApp).FinishInterruptedSave(); }

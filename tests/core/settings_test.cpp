@@ -18,8 +18,6 @@ namespace {
 
 using Pairs = SettingsStore::Pairs;
 
-void NoTags(SettingsStore& /*store*/) {}
-
 Pairs Sorted(Pairs pairs) {
   std::ranges::sort(pairs);
   return pairs;
@@ -85,8 +83,7 @@ StartupSettings UnusualStartup() {
 TEST_F(SettingsTest, EmptyStoreGivesTheDefaults) {
   EXPECT_EQ(LoadedOptions(), clsOptions());
   EXPECT_EQ(settings_.LoadStartup(), StartupSettings());
-  EXPECT_TRUE(settings_.LoadTagList().captions.empty());
-  EXPECT_TRUE(settings_.LoadTagList().classes.empty());
+  EXPECT_TRUE(settings_.LoadTagList().empty());
 }
 
 TEST_F(SettingsTest, LoadingPutsDefaultsInPlaceOfWhatTheRecordHeld) {
@@ -114,7 +111,7 @@ TEST_F(SettingsTest, OptionsStandInTheStoreAsTexts) {
 }
 
 TEST_F(SettingsTest, StartupSettingsStandInTheStoreAsTexts) {
-  settings_.SaveINI(StartupSettings(), NoTags);
+  settings_.SaveINI(StartupSettings(), {});
   const Pairs expected = {{"WindowState", "0"},
                           {"Left", "-1"},
                           {"Top", "-1"},
@@ -134,7 +131,7 @@ TEST_F(SettingsTest, StartupSettingsStandInTheStoreAsTexts) {
 
 TEST_F(SettingsTest, WhatWasSavedIsLoadedAgain) {
   settings_.SaveOptions(UnusualOptions());
-  settings_.SaveINI(UnusualStartup(), NoTags);
+  settings_.SaveINI(UnusualStartup(), {});
   EXPECT_EQ(LoadedOptions(), UnusualOptions());
   EXPECT_EQ(settings_.LoadStartup(), UnusualStartup());
 }
@@ -162,10 +159,7 @@ TEST_F(SettingsTest, SaveINIReplacesWhatStoodInItsSections) {
                               "ParentWindowClass", "ChildWindowList", "Options"}) {
     store_.SaveSetting(kApp, section, "9", "old");
   }
-  settings_.SaveINI(StartupSettings(), [](SettingsStore& store) {
-    store.SaveSetting(kApp, "ParentWindowList", "1", "&1  Mail");
-    store.SaveSetting(kApp, "ParentWindowClass", "1", "MailFrame");
-  });
+  settings_.SaveINI(StartupSettings(), {{1, "&1  Mail", "MailFrame"}});
   EXPECT_EQ(store_.GetSetting(kApp, "Startup", "9"), std::nullopt);
   EXPECT_TRUE(store_.GetAllSettings(kApp, "ButtonTags").empty());
   EXPECT_TRUE(store_.GetAllSettings(kApp, "ButtonColors").empty());
@@ -179,9 +173,7 @@ TEST_F(SettingsTest, SaveINIDeletesOnlyFullSectionsThenWritesInTheOrderOfTheTabl
   store_.SaveSetting(kApp, "ParentWindowClass", "1", "old");
   store_.SaveSetting(kApp, "Startup", "Gone", "old");
   log_.Clear();
-  settings_.SaveINI(StartupSettings(), [](SettingsStore& store) {
-    store.SaveSetting(kApp, "ParentWindowList", "1", "&1  Mail");
-  });
+  settings_.SaveINI(StartupSettings(), {{2, "&2  A&B", "Notepad"}, {9, "&9  \xd0\x9f - ***", ""}});
   const std::string save = "SaveSetting(Korvale - Work, ";
   const std::vector<std::string> expected = {"DeleteSection(Korvale - Work, Startup)",
                                              "DeleteSection(Korvale - Work, ParentWindowClass)",
@@ -199,7 +191,9 @@ TEST_F(SettingsTest, SaveINIDeletesOnlyFullSectionsThenWritesInTheOrderOfTheTabl
                                              save + "Startup, Menu, \"True\")",
                                              save + "Startup, OptionsTab, \"1\")",
                                              save + "Startup, WindowInfo, \"True\")",
-                                             save + "ParentWindowList, 1, \"&1  Mail\")"};
+                                             save + "ParentWindowList, 2, \"&2  A&B\")",
+                                             save + "ParentWindowClass, 2, \"Notepad\")",
+                                             save + "ParentWindowList, 9, \"&9  \xd0\x9f - ***\")"};
   EXPECT_EQ(Changes(), expected);
 }
 
@@ -238,7 +232,7 @@ TEST_F(SettingsTest, DeleteOptionsDoesNothingWhenNoneAreStored) {
 
 TEST_F(SettingsTest, DeleteOptionsLeavesTheRest) {
   settings_.SaveOptions(clsOptions());
-  settings_.SaveINI(StartupSettings(), NoTags);
+  settings_.SaveINI(StartupSettings(), {});
   settings_.DeleteOptions();
   EXPECT_TRUE(store_.GetAllSettings(kApp, "Options").empty());
   EXPECT_EQ(store_.GetAllSettings(kApp, "Startup").size(), 14U);
@@ -246,14 +240,14 @@ TEST_F(SettingsTest, DeleteOptionsLeavesTheRest) {
 
 TEST_F(SettingsTest, DeleteINILeavesTheOptions) {
   settings_.SaveOptions(clsOptions());
-  settings_.SaveINI(StartupSettings(), NoTags);
+  settings_.SaveINI(StartupSettings(), {});
   settings_.DeleteINI();
   EXPECT_TRUE(store_.GetAllSettings(kApp, "Startup").empty());
   EXPECT_EQ(store_.GetAllSettings(kApp, "Options").size(), 26U);
 }
 
 TEST_F(SettingsTest, DeletePlacementKeepsTheOtherStartupSettings) {
-  settings_.SaveINI(StartupSettings(), NoTags);
+  settings_.SaveINI(StartupSettings(), {});
   settings_.DeletePlacement();
   const Pairs left = Sorted(store_.GetAllSettings(kApp, "Startup"));
   std::vector<std::string> keys;

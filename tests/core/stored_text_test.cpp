@@ -10,8 +10,6 @@
 namespace korvale {
 namespace {
 
-using Pairs = SettingsStore::Pairs;
-
 class StoredTextTest : public testing::Test {
  protected:
   void StoreOption(const std::string& key, const std::string& value) {
@@ -120,19 +118,24 @@ TEST_F(StoredTextTest, TagListIsLoadedInTheOrderOfTheTags) {
   store_.SaveSetting(kApp, "ParentWindowList", "2", "&2  Mail");
   store_.SaveSetting(kApp, "ParentWindowClass", "7", "Notepad");
   store_.SaveSetting(kApp, "ParentWindowClass", "2", "MailFrame");
-  const StoredTagList tags = settings_.LoadTagList();
-  EXPECT_EQ(tags.captions, (Pairs{{"2", "&2  Mail"}, {"7", "&7  *** - Notepad"}}));
-  EXPECT_EQ(tags.classes, (Pairs{{"2", "MailFrame"}, {"7", "Notepad"}}));
+  store_.SaveSetting(kApp, "ParentWindowList", "4", "&4  ***");
+  EXPECT_EQ(settings_.LoadTagList(), (StoredTagList{{2, "&2  Mail", "MailFrame"},
+                                                    {4, "&4  ***", ""},
+                                                    {7, "&7  *** - Notepad", "Notepad"}}));
 }
 
 TEST_F(StoredTextTest, KeysThatAreNoTagRestoreNothing) {
-  for (const char* key : {"0", "10", "", "a", "01", " 1", ":"}) {
+  for (const char* key : {"0", "10", "", "a", "01", " 1", ":", "-1"}) {
     store_.SaveSetting(kApp, "ParentWindowList", key, "&" + std::string(key) + "  Mail");
     store_.SaveSetting(kApp, "ParentWindowClass", key, "MailFrame");
   }
-  const StoredTagList tags = settings_.LoadTagList();
-  EXPECT_TRUE(tags.captions.empty());
-  EXPECT_TRUE(tags.classes.empty());
+  EXPECT_TRUE(settings_.LoadTagList().empty());
+}
+
+TEST_F(StoredTextTest, AClassWithoutItsCaptionRestoresNothing) {
+  store_.SaveSetting(kApp, "ParentWindowList", "1", "&1  Mail");
+  store_.SaveSetting(kApp, "ParentWindowClass", "2", "MailFrame");
+  EXPECT_EQ(settings_.LoadTagList(), (StoredTagList{{1, "&1  Mail", ""}}));
 }
 
 TEST_F(StoredTextTest, CaptionsWithoutTheirOwnDigitRestoreNothing) {
@@ -140,10 +143,10 @@ TEST_F(StoredTextTest, CaptionsWithoutTheirOwnDigitRestoreNothing) {
                                              "1  Mail", "& 1 Mail", "&1",       "&1 \xff"};
   for (const std::string& caption : captions) {
     store_.SaveSetting(kApp, "ParentWindowList", "1", caption);
-    EXPECT_TRUE(settings_.LoadTagList().captions.empty()) << caption;
+    EXPECT_TRUE(settings_.LoadTagList().empty()) << caption;
   }
   store_.SaveSetting(kApp, "ParentWindowList", "1", "&1  ");
-  EXPECT_EQ(settings_.LoadTagList().captions.size(), 1U);
+  EXPECT_EQ(settings_.LoadTagList().size(), 1U);
 }
 
 }  // namespace

@@ -2,13 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include <optional>
 #include <string>
 #include <vector>
 
 #include "app/core/options.h"
 #include "desktop/desktop.h"
-#include "platform/settings_store.h"
 #include "tests/fakes/call_log.h"
 #include "tests/fakes/fake_clock.h"
 #include "tests/fakes/fake_desktop.h"
@@ -19,33 +17,6 @@
 namespace korvale {
 
 inline constexpr int kOurProcess = 1;
-
-/// Takes what is saved, one line a value, and holds nothing.
-class SavedLines : public SettingsStore {
- public:
-  std::optional<std::string> GetSetting(const std::string& /*appName*/,
-                                        const std::string& /*section*/,
-                                        const std::string& /*key*/) override {
-    return std::nullopt;
-  }
-  Pairs GetAllSettings(const std::string& /*appName*/, const std::string& /*section*/) override {
-    return {};
-  }
-  bool SaveSetting(const std::string& appName, const std::string& section, const std::string& key,
-                   const std::string& value) override {
-    lines.push_back(appName + "|" + section + "|" + key + "|" + value);
-    return true;
-  }
-  bool DeleteSetting(const std::string& /*appName*/, const std::string& /*section*/,
-                     const std::string& /*key*/) override {
-    return false;
-  }
-  bool DeleteSection(const std::string& /*appName*/, const std::string& /*section*/) override {
-    return false;
-  }
-
-  std::vector<std::string> lines;
-};
 
 /// The routines of desktop/ put together on a fake desktop that holds the main window, called
 /// "Main" in the log, and the hidden window that owns it, called "Owner".
@@ -103,11 +74,9 @@ class DesktopCase : public testing::Test {
   FakeLoadedForms forms;
   FakeMessageBoxes messages;
   OptionsHolder options;
-  SavedLines store;
   PreviousWindow previous;
   MenuItem menu;
-  Desktop routines{
-      {desktop, desktop, mainWindow, forms, messages, previous}, clock, options, store, menu};
+  Desktop routines{{desktop, desktop, mainWindow, forms, messages, previous}, clock, options, menu};
   TagList& tags = routines.tags;
   TagListPasses& passes = routines.tagPasses;
   WindowFilter& filter = routines.filter;

@@ -12,7 +12,7 @@ namespace {
 
 class TagListTest : public DesktopCase {
  protected:
-  void Match(WindowHandle hwnd) { passes.TagListPass(TagListMode::kMatch, 0, "", hwnd); }
+  void Match(WindowHandle hwnd) { passes.TagListPass(TagListMode::kMatch, 0, hwnd); }
   std::vector<int> Entries() { return tags.mnuWindowParentList.Indexes(); }
 };
 
@@ -68,9 +68,8 @@ TEST_F(TagListTest, UnresolvingClearsEveryTagButTheFirstEntry) {
 TEST_F(TagListTest, MatchingStoresTheHandleAsDecimalText) {
   AddTag(3, "*** - Notepad", "Notepad");
   const WindowHandle hwnd = desktop.Open("Untitled - Notepad", {.className = "Notepad"});
-  EXPECT_EQ(passes.TagListPass(TagListMode::kMatch, 0, "", hwnd), -1);
+  EXPECT_EQ(passes.TagListPass(TagListMode::kMatch, 0, hwnd), -1);
   EXPECT_EQ(tags.mnuWindowParentList.Find(3)->tag, std::to_string(hwnd));
-  EXPECT_TRUE(store.lines.empty());
 }
 
 TEST_F(TagListTest, MatchingKeepsAResolvedEntry) {
@@ -165,22 +164,6 @@ TEST_F(TagListTest, MatchingLooksForNoChildWhenTheTitleDiffers) {
   const WindowHandle hwnd = desktop.Open("Alpha", {.extraTextLength = 9});
   EXPECT_EQ(CallsOf([&] { Match(hwnd); }),
             (Calls{"GetWindowTextLengthA(Alpha)", "GetWindowTextA(Alpha, 15)"}));
-}
-
-TEST_F(TagListTest, SavingWritesTheCaptionOfEachEntryAndItsClassIfItHasOne) {
-  AddTag(9, "無題 - ***", "");
-  AddTag(2, "A&B", "Notepad");
-  EXPECT_EQ(passes.TagListPass(TagListMode::kSave, 0, "Korvale - Work"), -1);
-  EXPECT_EQ(store.lines,
-            (std::vector<std::string>{"Korvale - Work|ParentWindowList|2|&2  A&B",
-                                      "Korvale - Work|ParentWindowClass|2|Notepad",
-                                      "Korvale - Work|ParentWindowList|9|&9  無題 - ***"}));
-  EXPECT_EQ(Entries(), (std::vector<int>{0, 2, 9}));
-}
-
-TEST_F(TagListTest, SavingAnEmptyListWritesNothing) {
-  passes.TagListPass(TagListMode::kSave, 0, "Korvale - Work");
-  EXPECT_TRUE(store.lines.empty());
 }
 
 TEST_F(TagListTest, UnloadingLeavesTheFirstEntryAlone) {

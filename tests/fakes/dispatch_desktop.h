@@ -9,7 +9,6 @@
 #include "tests/fakes/fake_loaded_forms.h"
 #include "tests/fakes/fake_main_window.h"
 #include "tests/fakes/fake_message_boxes.h"
-#include "tests/fakes/fake_settings_store.h"
 
 namespace korvale {
 
@@ -24,7 +23,6 @@ struct DispatchDesktop {
   CallLog log;
   FakeDesktop desktop{log};
   FakeHotKeys hotKeys{log};
-  FakeSettingsStore store;
   FakeMainWindow mainWindow;
   FakeLoadedForms forms;
   OptionsHolder options;
@@ -34,7 +32,7 @@ struct DispatchDesktop {
   Suspension suspension;
   FakeMessageBoxes messages;
   Desktop routines{
-      {desktop, desktop, mainWindow, forms, messages, previous}, clock, options, store, windowMenu};
+      {desktop, desktop, mainWindow, forms, messages, previous}, clock, options, windowMenu};
   TagList& tags = routines.tags;
   ForegroundTracker& tracker = routines.tracker;
 };

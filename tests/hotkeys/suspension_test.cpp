@@ -106,7 +106,7 @@ class HotKeyDuringMessageBoxTest : public HotKeyDispatchTest {
   SuspendingMessageBoxes boxes{host,  desktop,  desktop,    mainWindow,
                                forms, previous, suspension, [] { return 0; }};
   Desktop withBoxes{
-      {desktop, desktop, mainWindow, forms, boxes, previous}, clock, options, store, windowMenu};
+      {desktop, desktop, mainWindow, forms, boxes, previous}, clock, options, windowMenu};
   HotKeyDispatch live{withBoxes, suspension, actions, toggle, errors, "Product", "Title"};
 };
 

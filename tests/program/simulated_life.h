@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "app/core/stored_tags.h"
 #include "desktop/previous_window.h"
 #include "tests/program/dice.h"
 #include "tests/program/korvale_world.h"
@@ -32,8 +33,7 @@ class SimulatedLife : public KorvaleWorld {
   struct Kept {
     clsOptions options;
     StartupSettings startup;
-    SettingsStore::Pairs captions;
-    SettingsStore::Pairs classes;
+    StoredTagList tags;
 
     friend bool operator==(const Kept&, const Kept&) = default;
   };

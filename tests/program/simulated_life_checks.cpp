@@ -2,6 +2,7 @@
 #include <utility>
 
 #include "desktop/tag_list.h"
+#include "desktop/tag_list_storage.h"
 #include "hotkeys/hot_key_names.h"
 #include "tests/program/simulated_life.h"
 #include "util/text.h"
@@ -153,13 +154,10 @@ std::vector<RegisteredHotKey> SimulatedLife::WantedHotKeys() {
 
 SimulatedLife::Kept SimulatedLife::Keeps() {
   MainParts& parts = korvale_->Parts();
-  Kept kept{parts.options.Get(), parts.startup, {}, {}};
+  Kept kept{parts.options.Get(), parts.startup, {}};
   parts.desktop.tags.mnuWindowParentList.ForEach([&](const MenuItem& entry) {
     if (entry.index == 0) return;
-    const std::string tag = DecimalText(entry.index);
-    kept.captions.emplace_back(tag, entry.caption);
-    const std::string& className = TagClass(parts.desktop.tags, entry);
-    if (!className.empty()) kept.classes.emplace_back(tag, className);
+    kept.tags.push_back({entry.index, entry.caption, TagClass(parts.desktop.tags, entry)});
   });
   return kept;
 }
@@ -176,13 +174,9 @@ void SimulatedLife::CheckSaving() {
     settings.LoadOptions(options);
     EXPECT_EQ(options, kept.options);
   }
-  settings.SaveINI(kept.startup, [&](SettingsStore& target) {
-    TagListPasses(korvale_->Parts().desktop.tags, desktop, target)
-        .TagListPass(TagListMode::kSave, 0, settings.AppName());
-  });
+  settings.SaveINI(kept.startup, TagsToStore(korvale_->Parts().desktop.tags));
   EXPECT_EQ(settings.LoadStartup(), kept.startup);
-  EXPECT_EQ(settings.LoadTagList().captions, kept.captions);
-  EXPECT_EQ(settings.LoadTagList().classes, kept.classes);
+  EXPECT_EQ(settings.LoadTagList(), kept.tags);
   saved_ = std::move(kept);
 }
 

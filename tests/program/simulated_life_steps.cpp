@@ -220,8 +220,7 @@ void SimulatedLife::Kill() {
 void SimulatedLife::ExpectKept(const Kept& before) {
   const Kept after = Keeps();
   EXPECT_EQ(after.options, before.options);
-  EXPECT_EQ(after.captions, before.captions);
-  EXPECT_EQ(after.classes, before.classes);
+  EXPECT_EQ(after.tags, before.tags);
 }
 
 }  // namespace korvale

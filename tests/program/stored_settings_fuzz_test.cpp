@@ -53,8 +53,7 @@ class StoredSettingsFuzzTest : public KorvaleWorld {
   struct Kept {
     clsOptions options;
     StartupSettings startup;
-    SettingsStore::Pairs captions;
-    SettingsStore::Pairs classes;
+    StoredTagList tags;
 
     friend bool operator==(const Kept&, const Kept&) = default;
   };
@@ -166,12 +165,10 @@ class StoredSettingsFuzzTest : public KorvaleWorld {
 
   Kept Keeps(KorvaleCopy& korvale) {
     MainParts& parts = korvale.Parts();
-    Kept kept{parts.options.Get(), parts.startup, {}, {}};
+    Kept kept{parts.options.Get(), parts.startup, {}};
     parts.desktop.tags.mnuWindowParentList.ForEach([&](const MenuItem& entry) {
       if (entry.index == 0) return;
-      kept.captions.emplace_back(DecimalText(entry.index), entry.caption);
-      const std::string& className = TagClass(parts.desktop.tags, entry);
-      if (!className.empty()) kept.classes.emplace_back(DecimalText(entry.index), className);
+      kept.tags.push_back({entry.index, entry.caption, TagClass(parts.desktop.tags, entry)});
     });
     return kept;
   }
@@ -180,9 +177,7 @@ class StoredSettingsFuzzTest : public KorvaleWorld {
     Kept kept;
     settings.LoadOptions(kept.options);
     kept.startup = settings.LoadStartup();
-    const StoredTagList tags = settings.LoadTagList();
-    kept.captions = tags.captions;
-    kept.classes = tags.classes;
+    kept.tags = settings.LoadTagList();
     return kept;
   }
 
