@@ -1,7 +1,10 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include <filesystem>
+#include <string>
 #include <thread>
+#include <vector>
 
 #include "platform/windows/windows_clock.h"
 #include "platform/windows/windows_system_api.h"
@@ -30,6 +33,20 @@ TEST(WindowsSystemApi, TakesNoFolderForAFile) {
   EXPECT_FALSE(system.FileExists(path.substr(0, path.rfind('\\'))));
   EXPECT_FALSE(system.FileExists(path + ".none"));
   EXPECT_FALSE(system.FileExists(""));
+}
+
+TEST(WindowsSystemApi, AppendsToAFile) {
+  WindowsSystemApi system;
+  const std::string program = system.GetModuleFileNameA();
+  const std::string path = program + ".Журнал";
+  const std::vector<std::string> pieces = {"a", "", "\r\n"};
+  EXPECT_TRUE(system.AppendToFile(path, pieces));
+  EXPECT_TRUE(system.AppendToFile(path, pieces));
+  const std::filesystem::path file(std::u8string(path.begin(), path.end()));
+  EXPECT_EQ(std::filesystem::file_size(file), 6U);
+  EXPECT_TRUE(std::filesystem::remove(file));
+  EXPECT_FALSE(system.AppendToFile(program.substr(0, program.rfind('\\')), pieces));
+  EXPECT_FALSE(system.AppendToFile(program + ".none\\Error.log", pieces));
 }
 
 TEST(WindowsSystemApi, KnowsAFolderByEveryPath) {
