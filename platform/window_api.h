@@ -9,8 +9,9 @@
 
 namespace korvale {
 
-/// Reads the windows of the desktop. Every method is the user32 call of its name; a window that is
-/// gone gives the call's own failure value (0 or false), never an exception.
+/// Reads the windows of the desktop. Every method is the user32 call of its name, but texts are
+/// UTF-8 also where that is an A call; a window that is gone gives the call's own failure value (0
+/// or false), never an exception.
 class WindowQueries {
  public:
   virtual ~WindowQueries() = default;
