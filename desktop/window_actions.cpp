@@ -1,6 +1,7 @@
 #include "desktop/window_actions.h"
 
 #include "app/core/identity.h"
+#include "app/core/operations.h"
 #include "desktop/timer_pause.h"
 #include "desktop/title_match.h"
 #include "desktop/waiting_window.h"
@@ -9,9 +10,6 @@
 
 namespace korvale {
 namespace {
-
-constexpr std::string_view kMinimizeHotKey = "HOTKEY_MINIMIZE_PARENT";
-constexpr std::string_view kRestoreMaximizeHotKey = "HOTKEY_RESTORE/MAXIMIZE_PARENT";
 
 bool CanBeSized(WindowQueries& windows, WindowHandle hwnd, std::int32_t box) {
   return windows.IsWindowEnabled(hwnd) && !windows.IsIconic(hwnd) &&
@@ -107,11 +105,12 @@ bool WindowActions::BringForward(WindowHandle hwnd) {
 }
 
 WindowTriple WindowActions::MinimizeOrMaximizeForeground(std::string_view hotKeyName) {
-  if (hotKeyName != kMinimizeHotKey && hotKeyName != kRestoreMaximizeHotKey) return {};
+  const bool minimize = hotKeyName == RowOf(Operation::kMinimize).name;
+  if (!minimize && hotKeyName != RowOf(Operation::kRestoreMaximize).name) return {};
   const TimerPause pause(*mainWindow_);
   const WindowHandle hwnd = previous_->InFront(*windows_);
   if (hwnd == 0) return {};
-  if (hotKeyName == kMinimizeHotKey) return MinimizeForeground(hwnd);
+  if (minimize) return MinimizeForeground(hwnd);
   MaximizeOrRestoreForeground(hwnd);
   return {};
 }

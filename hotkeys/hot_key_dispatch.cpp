@@ -109,17 +109,21 @@ void HotKeyDispatch::ShowNotRecognized(const std::string& title) {
 
 void HotKeyDispatch::Perform(const std::string& name) {
   const int tag = ParentHotKeyTag(name);
-  if (tag >= 0) {
-    SelectTag(tag);
-  } else if (name == kHotKeyMinimizeParent || name == kHotKeyRestoreMaximizeParent) {
-    MinimizeOrMaximize(name);
-  } else if (name == kHotKeyDisplayOptions) {
-    ShowOptions();
-  } else if (name == kHotKeyWindowMenuPopup) {
-    desktop_->tracker.LookAtForeground();
-    PopUpWindowMenu();
-  } else if (name == kHotKeyToggleHotKeys && !IsFormLoaded(desktop_->forms, "frmKeys2List")) {
-    toggle_->ToggleHotKeys(kToggleFromHotKey);
+  if (tag >= 0) return SelectTag(tag);
+  const OperationRow* const row = FindOperation(name);
+  if (row == nullptr) return;
+  switch (row->operation) {
+    case Operation::kMinimize:
+    case Operation::kRestoreMaximize:
+      return MinimizeOrMaximize(name);
+    case Operation::kDisplayOptions:
+      return ShowOptions();
+    case Operation::kWindowMenuPopup:
+      desktop_->tracker.LookAtForeground();
+      return PopUpWindowMenu();
+    case Operation::kToggleHotKeys:
+      if (IsFormLoaded(desktop_->forms, "frmKeys2List")) return;
+      return toggle_->ToggleHotKeys(kToggleFromHotKey);
   }
 }
 

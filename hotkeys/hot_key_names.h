@@ -1,25 +1,20 @@
 #pragma once
 
-#include <span>
 #include <string>
 #include <string_view>
 
+#include "app/core/operations.h"
+
 namespace korvale {
 
-inline constexpr const char* kHotKeyParentPrefix = "HOTKEY_PARENT";
-inline constexpr const char* kHotKeyMinimizeParent = "HOTKEY_MINIMIZE_PARENT";
-inline constexpr const char* kHotKeyRestoreMaximizeParent = "HOTKEY_RESTORE/MAXIMIZE_PARENT";
-inline constexpr const char* kHotKeyDisplayOptions = "HOTKEY_DISPLAY_OPTIONS";
-inline constexpr const char* kHotKeyWindowMenuPopup = "HOTKEY_WINDOW_MENU_POPUP";
-inline constexpr const char* kHotKeyToggleHotKeys = "HOTKEY_TOGGLE_HOTKEYS";
+/// Also the tag of the Window menu while it is popped up.
+inline constexpr const char* kHotKeyWindowMenuPopup = RowOf(Operation::kWindowMenuPopup).name;
 
 /// The first name in a table that was never filled.
 inline constexpr const char* kArrayNotUsedYet = "ARRAY_NOT_USED_YET";
 
-/// All names of hot-key operations: the 15 that are registered, then the reserved ones.
-std::span<const std::string_view> HotKeyNameSet();
-
-/// Exact and case-sensitive.
+/// Whether an operation has this name, one that is registered or a reserved one. Exact and
+/// case-sensitive.
 bool IsHotKeyName(std::string_view name);
 
 /// "HOTKEY_PARENT" + the digit of Tag 0-9.

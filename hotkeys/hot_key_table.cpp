@@ -40,23 +40,13 @@ void HotKeyTable::Set() {
       AddHotKey(ParentHotKeyName(tag), options.intHotKeyModParent, AddInt16(kDigitZeroKey, tag));
     }
   }
-
-  struct Action {
-    const char* name;
-    std::int16_t modifiers;
-    std::int16_t key;
-  };
-  const Action actions[] = {
-      {kHotKeyMinimizeParent, options.intHotKeyModAction[0], options.intHotKeyAction[0]},
-      {kHotKeyRestoreMaximizeParent, options.intHotKeyModAction[1], options.intHotKeyAction[1]},
-      {kHotKeyDisplayOptions, options.intHotKeyModGeneral[0], options.intHotKeyGeneral[0]},
-      {kHotKeyWindowMenuPopup, options.intHotKeyModGeneral[1], options.intHotKeyGeneral[1]},
-      {kHotKeyToggleHotKeys, options.intHotKeyModGeneral[2], options.intHotKeyGeneral[2]},
-  };
-  for (const Action& action : actions) {
-    if (action.key != 0) AddHotKey(action.name, action.modifiers, action.key);
-  }
+  for (const OperationRow& operation : kOperations) AddOperation(operation);
   lastSet_ = registered_;
+}
+
+void HotKeyTable::AddOperation(const OperationRow& operation) {
+  const auto [modifiers, key] = OperationFields(options_->Get(), operation);
+  if (key != 0) AddHotKey(operation.name, modifiers, key);
 }
 
 void HotKeyTable::AddHotKey(std::string_view name, std::int16_t modifiers, std::int16_t key) {

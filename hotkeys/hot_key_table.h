@@ -38,6 +38,9 @@ class HotKeyTable {
   /// Error 6 when the identifiers run out.
   void AddHotKey(std::string_view name, std::int16_t modifiers, std::int16_t key);
 
+  /// The same with the hot key that the options give an operation; nothing when they give none.
+  void AddOperation(const OperationRow& operation);
+
   /// True when the parameters of a WM_HOTKEY are those of a hot key of the last registration: its
   /// identifier, and the modifiers (low word) and key (high word) that it was registered with.
   bool IsPress(std::uintptr_t wParam, std::intptr_t lParam) const;

@@ -3,8 +3,6 @@
 #include <cstdint>
 #include <utility>
 
-#include "hotkeys/hot_key_names.h"
-
 namespace korvale {
 namespace {
 
@@ -45,11 +43,7 @@ void HotKeyToggle::SwitchOff(std::string_view caller) {
   table_->SetHotKeysActive(false);
   table_->SetHotKeys("REMOVE");
   table_->ResetHotKeyCount();
-  const clsOptions& options = options_->Get();
-  if (options.intHotKeyGeneral[2] != 0) {
-    table_->AddHotKey(kHotKeyToggleHotKeys, options.intHotKeyModGeneral[2],
-                      options.intHotKeyGeneral[2]);
-  }
+  table_->AddOperation(RowOf(Operation::kToggleHotKeys));
   actions_->HotKeysRegistered();
   actions_->ShowWaitWindow(programTitle_ + " - Hot Keys (OFF)", "Hot Keys are now Deactivated",
                            kNoticeMilliseconds);

@@ -1,9 +1,12 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <tuple>
 
+#include "app/core/operations.h"
 #include "platform/types.h"
 
 namespace korvale {
@@ -23,15 +26,26 @@ struct clsOptions {
   std::int16_t intHotKeyModParent = 1;
   std::array<bool, 10> booHotKeyParent = {true, true, true, true, true,
                                           true, true, true, true, true};
-  /// 0 = minimize, 1 = restore/maximize the foreground window: Alt+Down, Alt+Up.
-  std::array<std::int16_t, 2> intHotKeyModAction = {1, 1};
-  std::array<std::int16_t, 2> intHotKeyAction = {40, 38};
-  /// 0 = Options dialog, 1 = Window menu, 2 = toggle: Windows+O, Windows+W, Pause.
-  std::array<std::int16_t, 3> intHotKeyModGeneral = {8, 8, 0};
-  std::array<std::int16_t, 3> intHotKeyGeneral = {79, 87, 19};
+  OperationValues<OperationGroup::kAction> intHotKeyModAction =
+      OperationDefaults<OperationGroup::kAction>(&OperationRow::modifiers);
+  OperationValues<OperationGroup::kAction> intHotKeyAction =
+      OperationDefaults<OperationGroup::kAction>(&OperationRow::key);
+  OperationValues<OperationGroup::kGeneral> intHotKeyModGeneral =
+      OperationDefaults<OperationGroup::kGeneral>(&OperationRow::modifiers);
+  OperationValues<OperationGroup::kGeneral> intHotKeyGeneral =
+      OperationDefaults<OperationGroup::kGeneral>(&OperationRow::key);
 
   friend bool operator==(const clsOptions&, const clsOptions&) = default;
 };
+
+/// The fields of an operation: its modifiers, then its key.
+template <typename Options>
+constexpr auto OperationFields(Options& options, const OperationRow& row) {
+  const auto at = static_cast<std::size_t>(row.index);
+  return row.group == OperationGroup::kAction
+             ? std::tie(options.intHotKeyModAction.at(at), options.intHotKeyAction.at(at))
+             : std::tie(options.intHotKeyModGeneral.at(at), options.intHotKeyGeneral.at(at));
+}
 
 /// Holds the one options record of the run, from start-up to shutdown.
 class OptionsHolder {

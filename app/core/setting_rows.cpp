@@ -55,6 +55,7 @@ constexpr std::array kOptionRows = std::to_array<SettingRow<clsOptions>>({
     {kOptionsSection, "HotKeyGeneral1", OptionAt<&clsOptions::intHotKeyGeneral, 1>},
     {kOptionsSection, "HotKeyGeneral2", OptionAt<&clsOptions::intHotKeyGeneral, 2>},
 });
+static_assert(kOptionRows.size() == 16 + 2 * kOperations.size(), "an operation is not stored");
 
 constexpr SettingRow<StartupSettings> PlaceRow(const char* key,
                                                SettingField (*field)(StartupSettings&)) {

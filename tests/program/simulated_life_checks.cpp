@@ -140,14 +140,15 @@ std::vector<RegisteredHotKey> SimulatedLife::WantedHotKeys() {
     const auto add = [&](const char* name, std::int16_t modifiers, std::int16_t key) {
       if (key != 0) wanted.push_back({name, modifiers, key});
     };
-    add(kHotKeyMinimizeParent, options.intHotKeyModAction[0], options.intHotKeyAction[0]);
-    add(kHotKeyRestoreMaximizeParent, options.intHotKeyModAction[1], options.intHotKeyAction[1]);
-    add(kHotKeyDisplayOptions, options.intHotKeyModGeneral[0], options.intHotKeyGeneral[0]);
-    add(kHotKeyWindowMenuPopup, options.intHotKeyModGeneral[1], options.intHotKeyGeneral[1]);
+    add("HOTKEY_MINIMIZE_PARENT", options.intHotKeyModAction[0], options.intHotKeyAction[0]);
+    add("HOTKEY_RESTORE/MAXIMIZE_PARENT", options.intHotKeyModAction[1],
+        options.intHotKeyAction[1]);
+    add("HOTKEY_DISPLAY_OPTIONS", options.intHotKeyModGeneral[0], options.intHotKeyGeneral[0]);
+    add("HOTKEY_WINDOW_MENU_POPUP", options.intHotKeyModGeneral[1], options.intHotKeyGeneral[1]);
   }
   if (options.intHotKeyGeneral[2] != 0) {
     wanted.push_back(
-        {kHotKeyToggleHotKeys, options.intHotKeyModGeneral[2], options.intHotKeyGeneral[2]});
+        {"HOTKEY_TOGGLE_HOTKEYS", options.intHotKeyModGeneral[2], options.intHotKeyGeneral[2]});
   }
   return wanted;
 }

@@ -1,4 +1,3 @@
-#include "hotkeys/hot_key_names.h"
 #include "tests/program/simulated_life.h"
 
 namespace korvale {
@@ -28,7 +27,7 @@ void SimulatedLife::UseOptions() {
 }
 
 void SimulatedLife::OpenOptions() {
-  const RegisteredHotKey* const hotKey = Registered(kHotKeyDisplayOptions);
+  const RegisteredHotKey* const hotKey = Registered("HOTKEY_DISPLAY_OPTIONS");
   if (hotKey != nullptr && dice_->OneIn(2)) {
     Press(*hotKey);
   } else {

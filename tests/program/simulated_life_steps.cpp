@@ -89,17 +89,17 @@ void SimulatedLife::PressTagKey() {
 
 void SimulatedLife::PressActionKey() {
   const RegisteredHotKey* const hotKey =
-      Registered(dice_->OneIn(2) ? kHotKeyMinimizeParent : kHotKeyRestoreMaximizeParent);
+      Registered(dice_->OneIn(2) ? "HOTKEY_MINIMIZE_PARENT" : "HOTKEY_RESTORE/MAXIMIZE_PARENT");
   if (hotKey != nullptr) Press(*hotKey);
 }
 
 void SimulatedLife::PressToggleKey() {
-  const RegisteredHotKey* const hotKey = Registered(kHotKeyToggleHotKeys);
+  const RegisteredHotKey* const hotKey = Registered("HOTKEY_TOGGLE_HOTKEYS");
   if (hotKey != nullptr) Press(*hotKey);
 }
 
 void SimulatedLife::PopUpWindowMenu() {
-  const RegisteredHotKey* const hotKey = Registered(kHotKeyWindowMenuPopup);
+  const RegisteredHotKey* const hotKey = Registered("HOTKEY_WINDOW_MENU_POPUP");
   if (hotKey == nullptr) return;
   korvale_->host.WhenPopupMenu([this](const std::vector<ShownMenuItem>& items) {
     const std::string caption = dice_->OneIn(4) ? "" : SomeEntry(items);

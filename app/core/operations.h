@@ -1,0 +1,84 @@
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+#include "platform/win32_constants.h"
+
+namespace korvale {
+
+/// What hot keys do beside selecting the windows of the Tags.
+enum class Operation {
+  kMinimize,
+  kRestoreMaximize,
+  kDisplayOptions,
+  kWindowMenuPopup,
+  kToggleHotKeys,
+};
+
+/// The operations whose hot keys are chosen in one frame of the Options dialog.
+enum class OperationGroup { kAction, kGeneral };
+
+struct OperationRow {
+  Operation operation;
+  const char* name;         ///< Of its hot key.
+  const char* description;  ///< What the hot key does, in words.
+  OperationGroup group;
+  int index;               ///< Of its option fields, settings and controls among the group's.
+  std::int16_t modifiers;  ///< By default: a sum of MOD_ values.
+  std::int16_t key;        ///< By default: a virtual-key code.
+  const char* label;       ///< In the Options dialog.
+  const char* note;        ///< The explanation beside its lists, also in the tool tips.
+};
+
+/// In the order of registration and of the Options dialog.
+inline constexpr std::array kOperations = std::to_array<OperationRow>({
+    {Operation::kMinimize, "HOTKEY_MINIMIZE_PARENT", "Minimize Parent Window",
+     OperationGroup::kAction, 0, win32::kModAlt, win32::kVkDown, " Minimize Window",
+     " minimizes individual desktop windows "},
+    {Operation::kRestoreMaximize, "HOTKEY_RESTORE/MAXIMIZE_PARENT",
+     "Restore/Maximize Parent Window", OperationGroup::kAction, 1, win32::kModAlt, win32::kVkUp,
+     " Maximize/Restore Window", " alternately maximizes/restores individual desktop windows "},
+    {Operation::kDisplayOptions, "HOTKEY_DISPLAY_OPTIONS", "Display Options",
+     OperationGroup::kGeneral, 0, win32::kModWin, 'O', " Display Options",
+     " displays the Options dialog box (this dialog box) "},
+    {Operation::kWindowMenuPopup, "HOTKEY_WINDOW_MENU_POPUP", "Display Window Menu",
+     OperationGroup::kGeneral, 1, win32::kModWin, 'W', " Display Window Menu",
+     " displays the pop-up version of the Window menu anywhere on the desktop "},
+    {Operation::kToggleHotKeys, "HOTKEY_TOGGLE_HOTKEYS", "Toggle All Hot Keys ON/OFF",
+     OperationGroup::kGeneral, 2, 0, win32::kVkPause, " Activate/Deactivate Hot Keys",
+     " toggles all system-wide Hot Keys ON/OFF (except this one) "},
+});
+
+constexpr const OperationRow& RowOf(Operation operation) {
+  return *std::ranges::find(kOperations, operation, &OperationRow::operation);
+}
+
+/// The operation of a hot-key name, exact and case-sensitive; null for every other name.
+constexpr const OperationRow* FindOperation(std::string_view name) {
+  const auto row = std::ranges::find(kOperations, name, &OperationRow::name);
+  return row == kOperations.end() ? nullptr : &*row;
+}
+
+constexpr std::size_t OperationCount(OperationGroup group) {
+  return static_cast<std::size_t>(std::ranges::count(kOperations, group, &OperationRow::group));
+}
+
+/// One value of each operation of a group.
+template <OperationGroup Group>
+using OperationValues = std::array<std::int16_t, OperationCount(Group)>;
+
+/// The defaults that stand in a column of the table.
+template <OperationGroup Group>
+constexpr OperationValues<Group> OperationDefaults(std::int16_t OperationRow::*column) {
+  OperationValues<Group> values{};
+  for (const OperationRow& row : kOperations) {
+    if (row.group == Group) values.at(static_cast<std::size_t>(row.index)) = row.*column;
+  }
+  return values;
+}
+
+}  // namespace korvale
