@@ -10,6 +10,14 @@
 namespace korvale {
 namespace {
 
+/// One entry of a list: what the user reads, and the number that RegisterHotKey gets.
+struct HotKeyChoice {
+  const char* text;
+  std::int16_t value;
+};
+
+constexpr const char* kModifierList = "cboHotKeyMod";
+
 constexpr HotKeyChoice kModifiers[] = {
     {" ", 0}, {"Alt", 1}, {"Ctrl", 2}, {"Shift", 4}, {"Windows®", 8},
 };
@@ -46,6 +54,15 @@ std::string KeyText(std::int16_t key) {
   return choice == std::end(kKeys) ? "Key " + DecimalText(key) : choice->text;
 }
 
+/// A combination as the user reads it: "Alt+3", "Windows®+W", "Pause".
+std::string HotKeyText(std::int16_t modifiers, std::int16_t key) {
+  std::string text;
+  for (const HotKeyChoice& choice : kModifiers) {
+    if ((modifiers & choice.value) != 0) text.append(choice.text).append("+");
+  }
+  return text + KeyText(key);
+}
+
 /// The entry that a key stands for, -1 = none.
 std::int16_t EntryOf(const Control& list, int key) {
   return FindListIndex(list.Items(), key == win32::kVkSpace ? 0 : key, "ITEM_DATA");
@@ -67,15 +84,14 @@ std::string Listed(std::span<const RegisteredHotKey> registered, Choose chosen) 
 
 }  // namespace
 
-std::span<const HotKeyChoice> ModifierChoices() { return kModifiers; }
-
-std::span<const HotKeyChoice> KeyChoices() { return kKeys; }
+bool IsKeyList(const Control& control) {
+  return control.Name().starts_with("cboHotKey") && !control.Name().starts_with(kModifierList);
+}
 
 void FillHotKeyLists(Form& form) {
   for (Control& control : form.Controls()) {
-    if (!control.Name().starts_with("cboHotKey")) continue;
-    const bool modifiers = control.Name().starts_with("cboHotKeyMod");
-    Fill(control, modifiers ? ModifierChoices() : KeyChoices());
+    if (control.Name().starts_with(kModifierList)) Fill(control, kModifiers);
+    if (IsKeyList(control)) Fill(control, kKeys);
   }
 }
 
@@ -100,14 +116,6 @@ void KeyListKeys::Up(Control& list, int& key, unsigned shift) {
   if (shift != kNoShift || index < 0) return;
   list.SetListIndex(index);
   key = 0;
-}
-
-std::string HotKeyText(std::int16_t modifiers, std::int16_t key) {
-  std::string text;
-  for (const HotKeyChoice& choice : kModifiers) {
-    if ((modifiers & choice.value) != 0) text.append(choice.text).append("+");
-  }
-  return text + KeyText(key);
 }
 
 std::string NotAvailableText(std::span<const RegisteredHotKey> registered) {

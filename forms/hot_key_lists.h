@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <span>
 #include <string>
 
@@ -9,20 +8,13 @@
 
 namespace korvale {
 
-/// One entry of a list in which a hot key is chosen: what the user reads, and the number that
-/// RegisterHotKey gets.
-struct HotKeyChoice {
-  const char* text;
-  std::int16_t value;
-};
-
-/// The modifiers offered, in the order of the list.
-std::span<const HotKeyChoice> ModifierChoices();
-/// The keys offered, in the order of the list.
-std::span<const HotKeyChoice> KeyChoices();
+/// True for a list whose name begins with "cboHotKey", but not with "cboHotKeyMod": a key is chosen
+/// in it.
+bool IsKeyList(const Control& control);
 
 /// Fills every list of the form whose name begins with "cboHotKeyMod" with the modifiers and every
-/// other one whose name begins with "cboHotKey" with the keys.
+/// other one whose name begins with "cboHotKey" with the keys. The number of an entry is what
+/// RegisterHotKey gets.
 void FillHotKeyLists(Form& form);
 
 /// Chooses in the key lists by the keys themselves: a key that is pressed and released in a list
@@ -49,10 +41,6 @@ class KeyListKeys {
   };
   Press pressed_;
 };
-
-/// A combination as the user reads it: "Alt+3", "Windows®+W", "Pause". `modifiers` is a sum of MOD_
-/// values.
-std::string HotKeyText(std::int16_t modifiers, std::int16_t key);
 
 /// The combinations that Windows refused because it has them itself or another program does, each
 /// once, as the user reads them: "Alt+3, Windows®+W". "" when there is none.

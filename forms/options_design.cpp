@@ -1,7 +1,9 @@
 #include "forms/options_design.h"
 
 #include <array>
-#include <span>
+#include <cstddef>
+#include <iterator>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -11,21 +13,20 @@ namespace {
 using enum ControlKind;
 
 constexpr Twips kRowHeight = 360;
+/// What stands below the frames of the hot keys is counted from the foot of the pages.
+constexpr Twips kPageHeight = 3975 + kRowHeight * static_cast<Twips>(kOperations.size());
 
 /// Collects the rows of the form; every row goes into the container that was opened last.
 class Rows {
  public:
   void Page(int index) {
-    ControlRow page{kPage, "picOptions", index, "", "", {210, 495, 13575, 5775}};
-    page.backColor = kWindowColor;
-    page.foreColor = kWindowTextColor;
-    rows_.push_back(page);
-    container_ = "picOptions";
-    containerIndex_ = page_ = index;
+    ClosePages();
+    Add(kPage, "picOptions", index, "", "", {210, 495, 13575, kPageHeight});
+    page_ = index;
+    CloseFrame();
   }
   void Frame(const char* name, const char* caption, Twips top, Twips height) {
-    container_ = "picOptions";
-    containerIndex_ = page_;
+    CloseFrame();
     Add(kFrame, name, -1, caption, "", {105, top, 13365, height});
     container_ = name;
     containerIndex_ = -1;
@@ -42,7 +43,7 @@ class Rows {
            TwipsRect place, unsigned flags = kNoFlags) {
     ControlRow row{kind, name, index, caption, toolTip, place, container_, containerIndex_, flags};
     // Windows paints the body of a tab strip in the colour of a document.
-    if (*container_ != '\0') {
+    if (kind == kPage || *container_ != '\0') {
       row.backColor = kWindowColor;
       row.foreColor = kWindowTextColor;
     }
@@ -60,31 +61,22 @@ class Rows {
   int page_ = 0;
 };
 
+/// The digit of a Tag, and what its hot key does.
 struct TagText {
-  const char* caption;
-  const char* explanation;
+  char digit[2] = "0";
+  char note[57] = " selects the window that has been assigned Tag number 0 ";
 };
 
-constexpr std::array<TagText, 10> kTags = {{
-    {"0", " selects the Previous Window "},
-    {"1", " selects the window that has been assigned Tag number 1 "},
-    {"2", " selects the window that has been assigned Tag number 2 "},
-    {"3", " selects the window that has been assigned Tag number 3 "},
-    {"4", " selects the window that has been assigned Tag number 4 "},
-    {"5", " selects the window that has been assigned Tag number 5 "},
-    {"6", " selects the window that has been assigned Tag number 6 "},
-    {"7", " selects the window that has been assigned Tag number 7 "},
-    {"8", " selects the window that has been assigned Tag number 8 "},
-    {"9", " selects the window that has been assigned Tag number 9 "},
-}};
-
-constexpr const char* kActionNotes[] = {" minimizes individual desktop windows ",
-                                        " alternately maximizes/restores individual desktop "
-                                        "windows "};
-constexpr const char* kGeneralNotes[] = {
-    " displays the Options dialog box (this dialog box) ",
-    " displays the pop-up version of the Window menu anywhere on the desktop ",
-    " toggles all system-wide Hot Keys ON/OFF (except this one) "};
+constexpr std::array kTags = [] {
+  std::array<TagText, 10> tags;
+  for (std::size_t tag = 0; tag < tags.size(); ++tag) {
+    TagText& text = tags[tag];
+    text.digit[0] = text.note[std::size(text.note) - 3] = static_cast<char>('0' + tag);
+  }
+  return tags;
+}();
+static_assert(kTags[7].note ==
+              std::string_view{" selects the window that has been assigned Tag number 7 "});
 
 constexpr const char* kModifierTip = " key to hold down ";
 constexpr const char* kKeyTip =
@@ -103,50 +95,45 @@ void AddTag(Rows& rows, int tag) {
   const Twips left = tag < 5 ? 1800 : 7560;
   const Twips top = 285 + kTagRowHeight * (tag % 5);
   const TagText& text = kTags.at(static_cast<std::size_t>(tag));
-  rows.Add(kLabel, "lblTagParent", tag, text.explanation, text.explanation,
-           {left + 480, top + 22, 5190, 240}, kNoPrefix);
-  rows.Add(kCheckBox, "chkHotKeyParent", tag, text.caption, text.explanation,
-           {left, top, 450, 285});
+  const char* const note = tag == 0 ? " selects the Previous Window " : text.note;
+  rows.Add(kLabel, "lblTagParent", tag, note, note, {left + 480, top + 22, 5190, 240}, kNoPrefix);
+  rows.Add(kCheckBox, "chkHotKeyParent", tag, text.digit, note, {left, top, 450, 285});
 }
 
-/// The names of the controls of one kind of hot key, and what is said of it.
-struct HotKeyGroup {
-  const char* label;
-  const char* modifier;
-  const char* plus;
-  const char* keyName;
-  const char* key;
-  const char* note;
-  std::span<const char* const> notes;
-  const char* firstModifierTip;
-};
-
-void AddHotKeys(Rows& rows, const HotKeyGroup& group) {
+/// The frame of a group of hot keys; returns where the next one goes.
+Twips AddHotKeys(Rows& rows, const HotKeyControls& controls, Twips frameTop) {
+  const Twips height = 300 + kRowHeight * static_cast<Twips>(OperationCount(controls.group));
+  rows.Frame(controls.frame, controls.caption, frameTop, height);
+  const char* modifierTip = controls.firstTip;
   Twips top = 270;
-  for (int i = 0; i < static_cast<int>(group.notes.size()); ++i, top += kRowHeight) {
-    const char* const note = group.notes[static_cast<std::size_t>(i)];
-    rows.Add(kLabel, group.label, i, "", note, {180, top + 38, 2625, 240}, kNoPrefix);
-    rows.Add(kDropDownList, group.modifier, i, "", i == 0 ? group.firstModifierTip : kModifierTip,
-             {2880, top, 1380, 315});
-    rows.Add(kLabel, group.plus, i, "+", "", {4260, top + 38, 270, 240}, kCentered);
+  for (const OperationRow& row : kOperations) {
+    if (row.group != controls.group) continue;
+    const int i = row.index;
+    rows.Add(kLabel, controls.label, i, row.label, row.note, {180, top + 38, 2625, 240}, kNoPrefix);
+    rows.Add(kDropDownList, controls.modifiers, i, "", modifierTip, {2880, top, 1380, 315});
+    rows.Add(kLabel, controls.plus, i, "+", "", {4260, top + 38, 270, 240}, kCentered);
     // A screen reader calls the list by the label before it; nobody sees this one.
-    rows.Add(kLabel, group.keyName, i, note, "", {}, kNoPrefix | kHidden);
-    rows.Add(kDropDownList, group.key, i, "", kKeyTip, {4530, top, 1500, 315});
-    rows.Add(kLabel, group.note, i, note, note, {6195, top + 38, 7080, 240}, kNoPrefix);
+    rows.Add(kLabel, controls.keyName, i, row.note, "", {}, kNoPrefix | kHidden);
+    rows.Add(kDropDownList, controls.key, i, "", kKeyTip, {4530, top, 1500, 315});
+    rows.Add(kLabel, controls.note, i, row.note, row.note, {6195, top + 38, 7080, 240}, kNoPrefix);
+    modifierTip = kModifierTip;
+    top += kRowHeight;
   }
+  return frameTop + height + 60;
 }
 
 void AddLegend(Rows& rows) {
-  rows.Add(kLabel, "lblLegendTitle", -1, "Legend:", "", {180, 4725, 750, 240});
+  rows.Add(kLabel, "lblLegendTitle", -1, "Legend:", "", {180, kPageHeight - 1050, 750, 240});
   constexpr const char* kEnabled =
       " indicates Hot Key is Enabled -- Click to change this color -- use Shift+Click to reset to "
       "default ";
   constexpr const char* kDisabled = " indicates Hot Key is Disabled ";
-  rows.Add(kLabel, "lblLegend", 1, kEnabled, kEnabled, {990, 4710, 8700, 255},
+  rows.Add(kLabel, "lblLegend", 1, kEnabled, kEnabled, {990, kPageHeight - 1065, 8700, 255},
            kNoPrefix | kClickable | kSingleBorder);
-  rows.Add(kLabel, "lblLegend", 0, kDisabled, kDisabled, {9810, 4710, 3660, 255}, kNoPrefix);
+  rows.Add(kLabel, "lblLegend", 0, kDisabled, kDisabled, {9810, kPageHeight - 1065, 3660, 255},
+           kNoPrefix);
   // Room for three lines: a long list of refused hot keys, and what was chosen twice.
-  rows.Add(kLabel, "lblConflicts", -1, "", "", {180, 5010, 13200, 750},
+  rows.Add(kLabel, "lblConflicts", -1, "", "", {180, kPageHeight - 765, 13200, 750},
            kNoPrefix | kWordWrap | kHidden);
 }
 
@@ -160,14 +147,8 @@ void AddHotKeysPage(Rows& rows) {
   rows.Add(kLabel, "lblHotKeyTip", -1,
            "Tip: Alt+Tab and Alt+F4 are provided by the Windows® operating system.", "",
            {180, 1770, 12000, 240}, kNoPrefix);
-  rows.Frame("fraWindowActions", "Window Action&s", 2175, 1020);
-  AddHotKeys(rows,
-             {"lblAction", "cboHotKeyModAction", "lblPlusAction", "lblKeyAction", "cboHotKeyAction",
-              "lblActionNote", kActionNotes, " key to hold down  (Alt+S) "});
-  rows.Frame("fraGeneral", "&General", 3255, 1380);
-  AddHotKeys(rows,
-             {"lblGeneral", "cboHotKeyModGeneral", "lblPlusGeneral", "lblKeyGeneral",
-              "cboHotKeyGeneral", "lblGeneralNote", kGeneralNotes, " key to hold down  (Alt+G) "});
+  Twips top = 2175;
+  for (const HotKeyControls& controls : kHotKeyControls) top = AddHotKeys(rows, controls, top);
   rows.CloseFrame();
   AddLegend(rows);
 }
@@ -183,7 +164,7 @@ void AddWindowIdentificationPage(Rows& rows) {
 
 void AddButtons(Rows& rows) {
   rows.ClosePages();
-  constexpr Twips kTop = 6465;
+  constexpr Twips kTop = kPageHeight + 690;
   rows.Add(kButton, "cmdOK", -1, "OK", " Save and close  (Enter) ", {10110, kTop, 1215, 345},
            kDefaultButton);
   rows.Add(kButton, "cmdCancel", -1, "Cancel", " Close without saving  (Esc) ",
@@ -193,7 +174,7 @@ void AddButtons(Rows& rows) {
            " deletes the saved options and applies the default of every option ",
            {105, kTop, 3000, 345});
   rows.Add(kTabStrip, "tabOptions", -1, "", " page of the options  (Ctrl+Tab) ",
-           {105, 105, 13800, 6255});
+           {105, 105, 13800, kPageHeight + 480});
 }
 
 std::vector<ControlRow> MakeRows() {
@@ -209,8 +190,10 @@ std::vector<ControlRow> MakeRows() {
 
 const FormDesign& OptionsDesign() {
   static const std::vector<ControlRow> rows = MakeRows();
-  static const FormDesign design = {
-      .name = kOptionsForm, .caption = "Options", .place = {0, 0, 14100, 7335}, .controls = rows};
+  static const FormDesign design = {.name = kOptionsForm,
+                                    .caption = "Options",
+                                    .place = {0, 0, 14100, kPageHeight + 1560},
+                                    .controls = rows};
   return design;
 }
 

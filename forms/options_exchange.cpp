@@ -1,3 +1,4 @@
+#include "forms/options_design.h"
 #include "forms/options_form.h"
 #include "util/lists.h"
 
@@ -21,15 +22,10 @@ constexpr CheckBoxField kCheckBoxes[] = {
 template <typename Options, typename Visit>
 void ForEachList(Options& options, Visit visit) {
   visit("cboHotKeyModParent", -1, options.intHotKeyModParent);
-  for (int i = 0; i < 2; ++i) {
-    const auto at = static_cast<std::size_t>(i);
-    visit("cboHotKeyModAction", i, options.intHotKeyModAction[at]);
-    visit("cboHotKeyAction", i, options.intHotKeyAction[at]);
-  }
-  for (int i = 0; i < 3; ++i) {
-    const auto at = static_cast<std::size_t>(i);
-    visit("cboHotKeyModGeneral", i, options.intHotKeyModGeneral[at]);
-    visit("cboHotKeyGeneral", i, options.intHotKeyGeneral[at]);
+  for (const OperationRow& row : kOperations) {
+    const auto [modifiers, key] = OperationFields(options, row);
+    visit(ControlsOf(row).modifiers, row.index, modifiers);
+    visit(ControlsOf(row).key, row.index, key);
   }
 }
 

@@ -14,18 +14,11 @@ namespace {
 
 constexpr int kPages = 3;
 constexpr const char* kPageTitles[kPages] = {"General", "Hot Keys", "Window Identification"};
-constexpr const char* kActionLabels[] = {" Minimize Window", " Maximize/Restore Window"};
-constexpr const char* kGeneralLabels[] = {" Display Options", " Display Window Menu",
-                                          " Activate/Deactivate Hot Keys"};
 constexpr std::string_view kLegend = "lblLegend";
 constexpr int kEnabledLegend = 1;
 /// Where the focus goes on each page.
 constexpr const char* kFirstControls[kPages] = {"chkSplashScreen", "cboHotKeyModParent",
                                                 "chkAllowToolbarWindow"};
-
-bool IsKeyList(const Control& control) {
-  return control.Name() == "cboHotKeyAction" || control.Name() == "cboHotKeyGeneral";
-}
 
 /// Shows the hourglass for a scope.
 class Hourglass {
@@ -50,8 +43,9 @@ frmOptions::frmOptions(FormCollection& forms, OptionsDialogOwner& owner)
   WhenClicked("cmdApply", [this](int) { cmdApply_Click(); });
   WhenClicked("cmdReset", [this](int) { cmdReset_Click(); });
   WhenClicked("tabOptions", [this](int) { tabOptions_Click(); });
-  for (const char* const name : {"chkHotKeyParent", "cboHotKeyAction", "cboHotKeyGeneral"}) {
-    WhenClicked(name, [this](int) { HotKeyChanged(); });
+  WhenClicked("chkHotKeyParent", [this](int) { HotKeyChanged(); });
+  for (const HotKeyControls& controls : kHotKeyControls) {
+    WhenClicked(controls.key, [this](int) { HotKeyChanged(); });
   }
 }
 
@@ -61,10 +55,6 @@ void frmOptions::Form_Load() {
   tabs.Clear();
   for (const char* const title : kPageTitles) tabs.AddItem(title);
   FillHotKeyLists(*this);
-  int index = 0;
-  for (const char* const text : kActionLabels) Find("lblAction", index++).SetText(text);
-  index = 0;
-  for (const char* const text : kGeneralLabels) Find("lblGeneral", index++).SetText(text);
   ShowPage(owner_->OptionsTab());
   loading_ = false;
 }
@@ -151,13 +141,10 @@ void frmOptions::udmRefreshHotKeyLabels() {
     PaintLabel("lblTagParent", tag, Find("chkHotKeyParent", tag).Value() == 1);
   }
   // A stored key that the list does not have stays registered, so its label stays enabled.
-  for (int i = 0; i < 2; ++i) {
-    const std::int16_t stored = shown_.intHotKeyAction[static_cast<std::size_t>(i)];
-    PaintLabel("lblAction", i, Chosen("cboHotKeyAction", i, stored) != 0);
-  }
-  for (int i = 0; i < 3; ++i) {
-    const std::int16_t stored = shown_.intHotKeyGeneral[static_cast<std::size_t>(i)];
-    PaintLabel("lblGeneral", i, Chosen("cboHotKeyGeneral", i, stored) != 0);
+  for (const OperationRow& row : kOperations) {
+    const auto [modifiers, stored] = OperationFields(shown_, row);
+    PaintLabel(ControlsOf(row).label, row.index,
+               Chosen(ControlsOf(row).key, row.index, stored) != 0);
   }
 }
 

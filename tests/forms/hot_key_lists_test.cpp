@@ -11,54 +11,6 @@
 namespace korvale {
 namespace {
 
-std::vector<std::pair<std::string, int>> Pairs(std::span<const HotKeyChoice> choices) {
-  std::vector<std::pair<std::string, int>> pairs;
-  for (const HotKeyChoice& choice : choices) pairs.emplace_back(choice.text, choice.value);
-  return pairs;
-}
-
-TEST(HotKeyChoicesTest, OffersFiveModifiersOneAtATime) {
-  EXPECT_EQ(Pairs(ModifierChoices()),
-            (std::vector<std::pair<std::string, int>>{
-                {" ", 0}, {"Alt", 1}, {"Ctrl", 2}, {"Shift", 4}, {"Windows®", 8}}));
-}
-
-TEST(HotKeyChoicesTest, OffersSixtyKeysInTheirOrder) {
-  std::vector<std::pair<std::string, int>> expected = {{" ", 0}};
-  for (int n = 1; n <= 12; ++n) expected.emplace_back("F" + std::to_string(n), 0x6F + n);
-  expected.insert(expected.end(), {{"PrintScrn", 0x2C},
-                                   {"Pause", 0x13},
-                                   {"Numpad /", 0x6F},
-                                   {"Numpad *", 0x6A},
-                                   {"Numpad -", 0x6D},
-                                   {"Numpad +", 0x6B},
-                                   {"Numpad .", 0x6E}});
-  for (int n = 0; n <= 9; ++n) expected.emplace_back("Numpad " + std::to_string(n), 0x60 + n);
-  for (char letter = 'A'; letter <= 'Z'; ++letter) {
-    expected.emplace_back(std::string(1, letter), letter);
-  }
-  expected.insert(expected.end(),
-                  {{"Insert", 0x2D}, {"Delete", 0x2E}, {"DownArrow", 0x28}, {"UpArrow", 0x26}});
-  EXPECT_EQ(Pairs(KeyChoices()), expected);
-  EXPECT_EQ(KeyChoices().size(), 60U);
-}
-
-TEST(HotKeyTextTest, JoinsModifierAndKey) {
-  EXPECT_EQ(HotKeyText(1, '3'), "Alt+3");
-  EXPECT_EQ(HotKeyText(8, 'W'), "Windows®+W");
-  EXPECT_EQ(HotKeyText(2, 0x26), "Ctrl+UpArrow");
-  EXPECT_EQ(HotKeyText(4, '0'), "Shift+0");
-  EXPECT_EQ(HotKeyText(4, '9'), "Shift+9");
-}
-
-TEST(HotKeyTextTest, NamesAKeyAlone) { EXPECT_EQ(HotKeyText(0, 0x13), "Pause"); }
-
-TEST(HotKeyTextTest, NamesSeveralModifiers) { EXPECT_EQ(HotKeyText(3, 'A'), "Alt+Ctrl+A"); }
-
-TEST(HotKeyTextTest, NamesAKeyThatIsNotOfferedByItsNumber) {
-  EXPECT_EQ(HotKeyText(1, 0x0D), "Alt+Key 13");
-}
-
 constexpr ControlRow kControls[] = {
     {ControlKind::kDropDownList, "cboHotKeyAction", 0, "", "", {}},
     {ControlKind::kDropDownList, "cboHotKeyModAction", 0, "", "", {}},
@@ -66,6 +18,9 @@ constexpr ControlRow kControls[] = {
 };
 constexpr FormDesign kDesign = {
     .name = "frmLists", .caption = "Lists", .place = {0, 0, 3000, 2000}, .controls = kControls};
+
+/// What the user reads, and the number behind it.
+using Entry = std::pair<std::string, int>;
 
 class HotKeyListsTest : public DialogTest {
  protected:
@@ -82,21 +37,43 @@ class HotKeyListsTest : public DialogTest {
     return key == 0;
   }
   Control& Keys() { return form_.Find("cboHotKeyAction", 0); }
+  static std::vector<Entry> Entries(const Control& list) {
+    std::vector<Entry> entries;
+    for (const ListItem& item : list.Items()) entries.emplace_back(item.text, item.itemData);
+    return entries;
+  }
 
   Form form_{kDesign, forms_};
   KeyListKeys keys_;
 };
 
-TEST_F(HotKeyListsTest, FillsEachListByItsName) {
-  EXPECT_EQ(Keys().Items().size(), 60U);
-  EXPECT_EQ(form_.Find("cboHotKeyModAction", 0).Items().size(), 5U);
-  EXPECT_TRUE(form_.Find("cboHotKe").Items().empty());
+TEST_F(HotKeyListsTest, OffersFiveModifiersOneAtATime) {
+  EXPECT_EQ(Entries(form_.Find("cboHotKeyModAction", 0)),
+            (std::vector<Entry>{{" ", 0}, {"Alt", 1}, {"Ctrl", 2}, {"Shift", 4}, {"Windows®", 8}}));
 }
 
-TEST_F(HotKeyListsTest, StoresTheValueWithEachEntry) {
-  for (std::size_t i = 0; i < KeyChoices().size(); ++i) {
-    EXPECT_EQ(Keys().Items()[i].itemData, KeyChoices()[i].value);
+TEST_F(HotKeyListsTest, OffersSixtyKeysInTheirOrder) {
+  std::vector<Entry> expected = {{" ", 0}};
+  for (int n = 1; n <= 12; ++n) expected.emplace_back("F" + std::to_string(n), 0x6F + n);
+  expected.insert(expected.end(), {{"PrintScrn", 0x2C},
+                                   {"Pause", 0x13},
+                                   {"Numpad /", 0x6F},
+                                   {"Numpad *", 0x6A},
+                                   {"Numpad -", 0x6D},
+                                   {"Numpad +", 0x6B},
+                                   {"Numpad .", 0x6E}});
+  for (int n = 0; n <= 9; ++n) expected.emplace_back("Numpad " + std::to_string(n), 0x60 + n);
+  for (char letter = 'A'; letter <= 'Z'; ++letter) {
+    expected.emplace_back(std::string(1, letter), letter);
   }
+  expected.insert(expected.end(),
+                  {{"Insert", 0x2D}, {"Delete", 0x2E}, {"DownArrow", 0x28}, {"UpArrow", 0x26}});
+  EXPECT_EQ(expected.size(), 60U);
+  EXPECT_EQ(Entries(Keys()), expected);
+}
+
+TEST_F(HotKeyListsTest, LeavesOtherListsEmpty) {
+  EXPECT_TRUE(form_.Find("cboHotKe").Items().empty());
 }
 
 TEST_F(HotKeyListsTest, SelectsTheReleasedKeyAndSwallowsIt) {
@@ -125,6 +102,24 @@ TEST_F(HotKeyListsTest, AKeyThatIsNotOfferedChangesNothing) {
   EXPECT_FALSE(Release('5'));
   EXPECT_FALSE(Release(0x0D));
   EXPECT_EQ(Keys().SelectedText(), "Q");
+}
+
+std::string Refused(std::int16_t modifiers, std::int16_t key) {
+  return NotAvailableText(std::vector<RegisteredHotKey>{{"", modifiers, key, false, false}});
+}
+
+TEST(HotKeyTexts, NameACombinationAsTheUserReadsIt) {
+  EXPECT_EQ(Refused(1, '3'), "Alt+3");
+  EXPECT_EQ(Refused(8, 'W'), "Windows®+W");
+  EXPECT_EQ(Refused(2, 0x26), "Ctrl+UpArrow");
+  EXPECT_EQ(Refused(4, '0'), "Shift+0");
+  EXPECT_EQ(Refused(4, '9'), "Shift+9");
+  EXPECT_EQ(Refused(0, 0x13), "Pause");
+  EXPECT_EQ(Refused(3, 'A'), "Alt+Ctrl+A");
+}
+
+TEST(HotKeyTexts, NameAKeyThatIsNotOfferedByItsNumber) {
+  EXPECT_EQ(Refused(1, 0x0D), "Alt+Key 13");
 }
 
 TEST(HotKeyTexts, NameWhatIsNotAvailableAndWhatWasChosenTwiceOnceEach) {
