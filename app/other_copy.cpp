@@ -7,7 +7,6 @@
 #include "desktop/foreground_return.h"
 #include "desktop/waiting_window.h"
 #include "desktop/window_readers.h"
-#include "platform/run_time_error.h"
 #include "platform/win32_constants.h"
 
 namespace korvale {
@@ -21,67 +20,63 @@ constexpr std::uint32_t kCopyPoll = 50;
 
 }  // namespace
 
-void OtherCopy::WaitFor(frmMain& form) {
-  lock_ = std::make_unique<InstanceLock>(platform_->system, form.Parts().identity.installation);
+void OtherCopy::WaitFor(Desktop& desktop, const ProgramIdentity& identity) {
+  lock_ = std::make_unique<InstanceLock>(platform_->system, identity.installation);
   alone_ = lock_->TryHold(0);
-  captions_ = {form.Caption()};
+  captions_ = {desktop.mainWindow.MainCaption()};
   if (!alone_) {
-    std::ranges::copy(RegisteredNames(form.Parts().identity, platform_->store, platform_->system),
+    std::ranges::copy(RegisteredNames(identity, platform_->store, platform_->system),
                       std::back_inserter(captions_));
   }
-  for (std::uint32_t waited = 0; !alone_ && Find(form) == 0 && waited < Patience(form);
+  for (std::uint32_t waited = 0; !alone_ && Find(desktop) == 0 && waited < Patience(desktop);
        waited += kCopyPoll) {
     alone_ = lock_->TryHold(kCopyPoll);
   }
 }
 
-void OtherCopy::RefuseToRunBeside(frmMain& form) {
-  MainParts& parts = form.Parts();
-  if (Find(form) == 0 && alone_) {
-    return;
-  }
+bool OtherCopy::GiveWay(Desktop& desktop) {
+  if (Find(desktop) == 0 && alone_) return false;
   platform_->loop.DoEvents();
-  parts.messages.ShowMessageBox("'" + form.Caption() + "' is already open.", win32::kMbOk,
-                                parts.identity.messageTitle);
-  BringForward(form, Find(form));
-  form.udmUnload(false);
-  throw ProgramEnded{};
+  desktop.messages.ShowMessageBox("'" + desktop.mainWindow.MainCaption() + "' is already open.",
+                                  win32::kMbOk, kProductName);
+  BringForward(desktop, Find(desktop));
+  return true;
 }
 
-WindowHandle OtherCopy::FindByCaption(frmMain& form, const InstanceSearch& search) {
-  WindowEnumeration& enumeration = form.Parts().desktop.enumeration;
-  const std::string className = GetWindowClass(platform_->windows, form.Handle());
+WindowHandle OtherCopy::FindByCaption(Desktop& desktop, const InstanceSearch& search) {
+  const std::string className = GetWindowClass(platform_->windows, desktop.mainWindow.MainHandle());
   for (const std::string& caption : captions_) {
-    const WindowHandle found = search(enumeration, className, caption);
+    const WindowHandle found = search(desktop.enumeration, className, caption);
     if (found != 0) return found;
   }
   return 0;
 }
 
 /// Also a copy whose main window is still hidden while a box or tip of its start-up is shown.
-WindowHandle OtherCopy::Find(frmMain& form) {
+WindowHandle OtherCopy::Find(Desktop& desktop) {
   const WindowHandle shown = FindByCaption(
-      form,
+      desktop,
       [](WindowEnumeration& enumeration, const std::string& className, const std::string& caption) {
         return enumeration.FindInstance(className, caption);
       });
   if (shown != 0 || alone_) return shown;
-  return FindHidden(
-      form, [this](WindowHandle hwnd) { return FindWaitingWindow(platform_->windows, hwnd) != 0; });
+  return FindHidden(desktop, [this](WindowHandle hwnd) {
+    return FindWaitingWindow(platform_->windows, hwnd) != 0;
+  });
 }
 
-WindowHandle OtherCopy::FindHidden(frmMain& form, const WindowEnumeration::Test& qualifies) {
-  return FindByCaption(form, [&](WindowEnumeration& enumeration, const std::string& className,
-                                 const std::string& caption) {
+WindowHandle OtherCopy::FindHidden(Desktop& desktop, const WindowEnumeration::Test& qualifies) {
+  return FindByCaption(desktop, [&](WindowEnumeration& enumeration, const std::string& className,
+                                    const std::string& caption) {
     return enumeration.FindHiddenInstance(className, caption, qualifies);
   });
 }
 
-std::uint32_t OtherCopy::Patience(frmMain& form) {
-  return FindHidden(form, WindowEnumeration::Any) != 0 ? kCopyPatience : kEndPatience;
+std::uint32_t OtherCopy::Patience(Desktop& desktop) {
+  return FindHidden(desktop, WindowEnumeration::Any) != 0 ? kCopyPatience : kEndPatience;
 }
 
-void OtherCopy::BringForward(frmMain& form, WindowHandle copy) {
+void OtherCopy::BringForward(Desktop& desktop, WindowHandle copy) {
   WindowQueries& windows = platform_->windows;
   if (!windows.IsWindowVisible(copy) || !windows.IsWindowEnabled(copy)) {
     // Something of its own waits for the user's answer first.
@@ -89,7 +84,7 @@ void OtherCopy::BringForward(frmMain& form, WindowHandle copy) {
     return;
   }
   WindowTriple window{copy, GetWindowTitle(windows, copy), GetWindowClass(windows, copy)};
-  form.Parts().desktop.actions.ActivateWindow(window, false, true);
+  desktop.actions.ActivateWindow(window, false, true);
 }
 
 }  // namespace korvale

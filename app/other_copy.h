@@ -6,8 +6,9 @@
 #include <string>
 #include <vector>
 
+#include "app/core/identity.h"
 #include "app/core/instance_lock.h"
-#include "forms/main_form.h"
+#include "desktop/desktop.h"
 #include "platform/platform.h"
 
 namespace korvale {
@@ -20,23 +21,23 @@ class OtherCopy {
   /// Takes the installation's lock. A copy that was started in the same instant holds it while its
   /// window is still hidden, one that is just ending while it has none any more: waits until that
   /// one is seen or gone.
-  void WaitFor(frmMain& form);
+  void WaitFor(Desktop& desktop, const ProgramIdentity& identity);
 
   /// No other copy of this installation runs or is about to.
   bool Alone() const { return alone_; }
 
-  /// When another copy runs: tells the user, brings that one forward, and leaves with ProgramEnded.
-  void RefuseToRunBeside(frmMain& form);
+  /// When another copy runs, tells the user and brings that one forward: true, this one must end.
+  bool GiveWay(Desktop& desktop);
 
  private:
   using InstanceSearch = std::function<WindowHandle(
       WindowEnumeration&, const std::string& className, const std::string& caption)>;
 
-  WindowHandle Find(frmMain& form);
-  WindowHandle FindHidden(frmMain& form, const WindowEnumeration::Test& qualifies);
-  WindowHandle FindByCaption(frmMain& form, const InstanceSearch& search);
-  std::uint32_t Patience(frmMain& form);
-  void BringForward(frmMain& form, WindowHandle copy);
+  WindowHandle Find(Desktop& desktop);
+  WindowHandle FindHidden(Desktop& desktop, const WindowEnumeration::Test& qualifies);
+  WindowHandle FindByCaption(Desktop& desktop, const InstanceSearch& search);
+  std::uint32_t Patience(Desktop& desktop);
+  void BringForward(Desktop& desktop, WindowHandle copy);
 
   Platform* platform_;
   std::unique_ptr<InstanceLock> lock_;

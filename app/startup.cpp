@@ -1,6 +1,7 @@
 #include "app/startup.h"
 
 #include "app/core/error_reporting.h"
+#include "app/core/identity.h"
 #include "app/core/installation.h"
 #include "desktop/window_readers.h"
 #include "forms/hot_key_lists.h"
@@ -21,33 +22,34 @@ constexpr std::int16_t kHotKeysTab = 2;
 
 }  // namespace
 
-void StartUp::Initialise(frmMain& form) {
-  FixIdentity(form);
-  otherCopy_.WaitFor(form);
-  if (!RunInstallation(form)) {
+void StartUp::Initialise(frmMain& form, MainParts& parts) {
+  form.SetCaption(parts.identity.mainCaption);
+  otherCopy_.WaitFor(parts.desktop, parts.identity);
+  if (!RunInstallation(form, parts)) {
     form.LoadStartupSettings();
     form.udmLoadOptions();
   }
-  otherCopy_.RefuseToRunBeside(form);
-  MentionOtherInstallation(form);
+  if (otherCopy_.GiveWay(parts.desktop)) EndBeforeStart(form);
+  MentionOtherInstallation(form, parts.desktop.enumeration);
   EndIfUnloaded(form);
   MentionCommandLine(form);
   EndIfUnloaded(form);
-  ShowSplash(form);
-  LayOut(form);
+  ShowSplash(form, parts);
+  LayOut(form, parts);
   PrepareMenusAndTimers(form);
-  InstallHotKeys(form);
+  parts.hook.HookWindowProc("SET", form.Handle());
+  parts.hotKeys.SetHotKeys("SET");
   form.RefreshMenus("Form_Load");
-  form.Parts().state.startUpFinished = true;
+  parts.state.startUpFinished = true;
   form.Form_Resize();
-  if (form.Parts().state.firstRun) {
+  if (parts.state.firstRun) {
     form.SaveOrTellOnce([&form] {
       form.udmSaveINI();
       form.udmSaveOptions();
     });
   }
   // Before the main window comes up and takes the user where they want to be.
-  MentionRefusedHotKeys(form);
+  MentionRefusedHotKeys(form, parts.hotKeys);
   EndIfUnloaded(form);
 }
 
@@ -59,12 +61,14 @@ void StartUp::EndIfUnloaded(frmMain& form) {
   }
 }
 
-void StartUp::FixIdentity(frmMain& form) { form.SetCaption(form.Parts().identity.mainCaption); }
+void StartUp::EndBeforeStart(frmMain& form) {
+  form.udmUnload(false);
+  throw ProgramEnded{};
+}
 
 /// True when the settings are those of another installation, taken over and already in use: the
 /// store may have refused some of them.
-bool StartUp::RunInstallation(frmMain& form) {
-  MainParts& parts = form.Parts();
+bool StartUp::RunInstallation(frmMain& form, MainParts& parts) {
   parts.options.Create();
   parts.settings.SetAppName(parts.identity.mainCaption);
   if (!otherCopy_.Alone()) {
@@ -81,17 +85,13 @@ bool StartUp::RunInstallation(frmMain& form) {
   EndIfUnloaded(form);
   parts.state.firstRun = result.firstRun;
   parts.state.lastAnswer = result.lastAnswer;
-  if (result.mustEnd) {
-    form.udmUnload(false);
-    throw ProgramEnded{};
-  }
+  if (result.mustEnd) EndBeforeStart(form);
   return result.takenOver;
 }
 
-void StartUp::MentionOtherInstallation(frmMain& form) {
-  MainParts& parts = form.Parts();
+void StartUp::MentionOtherInstallation(frmMain& form, WindowEnumeration& enumeration) {
   const std::string className = GetWindowClass(platform_->windows, form.Handle());
-  if (parts.desktop.enumeration.FindByTitleAndClass(parts.identity.productName, className) == 0) {
+  if (enumeration.FindByTitleAndClass(kProductName, className) == 0) {
     return;
   }
   form.ShowTip(TipNumber::kOtherInstance,
@@ -120,42 +120,35 @@ void StartUp::MentionCommandLine(frmMain& form) {
                kCommandLineTipHeight);
 }
 
-void StartUp::ShowSplash(frmMain& form) {
-  MainParts& parts = form.Parts();
+void StartUp::ShowSplash(frmMain& form, MainParts& parts) {
   if (!parts.state.firstRun && parts.options.Get().booSplashScreen) {
     form.About().ShowSplash(parts.display);
   }
 }
 
-void StartUp::LayOut(frmMain& form) {
+void StartUp::LayOut(frmMain& form, MainParts& parts) {
   form.ApplyPlacement();
-  const bool onTop = form.Parts().startup.AlwaysOnTop;
+  const bool onTop = parts.startup.AlwaysOnTop;
   form.CheckAlwaysOnTop(onTop);
   if (onTop) {
-    form.Parts().desktop.actions.SetTopmost(form.Handle(), true);
+    parts.desktop.actions.SetTopmost(form.Handle(), true);
   }
   form.ApplyColors();
 }
 
 void StartUp::PrepareMenusAndTimers(frmMain& form) {
-  const std::string& product = form.Parts().identity.productName;
-  form.Menu("mnuHelpAbout").caption = AboutCaption(product);
-  form.Menu("mnuWindowAlwaysOnTop").caption = AlwaysOnTopCaption(product);
-  form.Menu("mnuWindowAddToList", 1).caption = AddThisWindowCaption(product);
-  form.Menu("mnuHelpHomePage").caption = HomePageCaption(product);
+  form.Menu("mnuHelpAbout").caption = AboutCaption(kProductName);
+  form.Menu("mnuWindowAlwaysOnTop").caption = AlwaysOnTopCaption(kProductName);
+  form.Menu("mnuWindowAddToList", 1).caption = AddThisWindowCaption(kProductName);
+  form.Menu("mnuHelpHomePage").caption = HomePageCaption(kProductName);
   form.EnablePreviousWindowItems(false);
   form.tmrWindow().SetInterval(kTrackingInterval);
   form.tmrWindow().SetEnabled(true);
   form.tmrWindow().SetTag("ON");
 }
 
-void StartUp::InstallHotKeys(frmMain& form) {
-  form.Parts().hook.HookWindowProc("SET", form.Handle());
-  form.Parts().hotKeys.SetHotKeys("SET");
-}
-
-void StartUp::MentionRefusedHotKeys(frmMain& form) {
-  const std::string refused = NotAvailableText(form.Parts().hotKeys.Registered());
+void StartUp::MentionRefusedHotKeys(frmMain& form, const HotKeyTable& hotKeys) {
+  const std::string refused = NotAvailableText(hotKeys.Registered());
   if (refused.empty()) {
     return;
   }
@@ -167,8 +160,7 @@ void StartUp::MentionRefusedHotKeys(frmMain& form) {
       "TIP", kRefusedHotKeysTipHeight);
 }
 
-void StartUp::FirstActivation(frmMain& form) {
-  MainParts& parts = form.Parts();
+void StartUp::FirstActivation(frmMain& form, MainParts& parts) {
   if (parts.state.firstActivation || firstActivationRuns_ || !form.Visible()) {
     return;
   }
@@ -177,16 +169,15 @@ void StartUp::FirstActivation(frmMain& form) {
   if (parts.startup.AlwaysOnTop && !minimized) {
     parts.desktop.actions.SetTopmost(form.Handle(), true);
   }
-  RecordPreviousWindow(form);
+  RecordPreviousWindow(form, parts);
   if (parts.state.firstRun) {
-    AskToReviewHotKeys(form);
+    AskToReviewHotKeys(form, parts);
     if (!form.IsLoaded()) return;
   }
   parts.state.firstActivation = true;
 }
 
-void StartUp::RecordPreviousWindow(frmMain& form) {
-  MainParts& parts = form.Parts();
+void StartUp::RecordPreviousWindow(frmMain& form, MainParts& parts) {
   const WindowHandle before = parts.desktop.enumeration.FindTopWindow([&](WindowHandle hwnd) {
     return parts.desktop.tracker.AcceptForeground(hwnd, GetWindowTitle(platform_->windows, hwnd));
   });
@@ -199,21 +190,19 @@ void StartUp::RecordPreviousWindow(frmMain& form) {
   // minimized one they have not come.
   if (form.WindowState() != ShowState::kMinimized) parts.desktop.tracker.LookAnew();
   if (before != 0 && parts.options.Get().booSelectPrevWinOnStart) {
-    SelectPreviousWindow(form);
+    SelectPreviousWindow(parts.desktop);
   }
 }
 
-void StartUp::SelectPreviousWindow(frmMain& form) {
-  MainParts& parts = form.Parts();
-  parts.desktop.tracker.LookAtForeground();
-  WindowTriple previous = parts.previous.current;
-  if (parts.desktop.actions.ActivatePreviousWindow(previous) == kActivationDone) {
-    parts.desktop.tracker.RecordSelection(previous);
+void StartUp::SelectPreviousWindow(Desktop& desktop) {
+  desktop.tracker.LookAtForeground();
+  WindowTriple previous = desktop.previous.current;
+  if (desktop.actions.ActivatePreviousWindow(previous) == kActivationDone) {
+    desktop.tracker.RecordSelection(previous);
   }
 }
 
-void StartUp::AskToReviewHotKeys(frmMain& form) {
-  MainParts& parts = form.Parts();
+void StartUp::AskToReviewHotKeys(frmMain& form, MainParts& parts) {
   parts.state.lastAnswer = parts.messages.ShowMessageBox(
       "Korvale is installed with Hot Keys active.  It is recommended that you review the Hot Keys "
       "before getting started.\r\rDo you want to review the Hot Keys now ?",
@@ -225,8 +214,7 @@ void StartUp::AskToReviewHotKeys(frmMain& form) {
   }
 }
 
-void StartUp::Unload(frmMain& form, bool booNormalShutDown) {
-  MainParts& parts = form.Parts();
+void StartUp::Unload(frmMain& form, MainParts& parts, bool booNormalShutDown) {
   if (booNormalShutDown) {
     form.udmTimersEnabled(false);
     form.SaveOrTellOnce([&form] { form.udmSaveINI(); });

@@ -11,24 +11,23 @@ class StartUp : public ProgramLifetime {
  public:
   explicit StartUp(Platform& platform) : platform_(&platform), otherCopy_(platform) {}
 
-  void Initialise(frmMain& form) override;
-  void FirstActivation(frmMain& form) override;
-  void Unload(frmMain& form, bool booNormalShutDown) override;
+  void Initialise(frmMain& form, MainParts& parts) override;
+  void FirstActivation(frmMain& form, MainParts& parts) override;
+  void Unload(frmMain& form, MainParts& parts, bool booNormalShutDown) override;
 
  private:
   void EndIfUnloaded(frmMain& form);
-  void FixIdentity(frmMain& form);
-  bool RunInstallation(frmMain& form);
-  void MentionOtherInstallation(frmMain& form);
+  [[noreturn]] static void EndBeforeStart(frmMain& form);
+  bool RunInstallation(frmMain& form, MainParts& parts);
+  void MentionOtherInstallation(frmMain& form, WindowEnumeration& enumeration);
   void MentionCommandLine(frmMain& form);
-  void ShowSplash(frmMain& form);
-  void LayOut(frmMain& form);
+  void ShowSplash(frmMain& form, MainParts& parts);
+  void LayOut(frmMain& form, MainParts& parts);
   void PrepareMenusAndTimers(frmMain& form);
-  void InstallHotKeys(frmMain& form);
-  static void MentionRefusedHotKeys(frmMain& form);
-  void RecordPreviousWindow(frmMain& form);
-  void SelectPreviousWindow(frmMain& form);
-  void AskToReviewHotKeys(frmMain& form);
+  static void MentionRefusedHotKeys(frmMain& form, const HotKeyTable& hotKeys);
+  void RecordPreviousWindow(frmMain& form, MainParts& parts);
+  static void SelectPreviousWindow(Desktop& desktop);
+  void AskToReviewHotKeys(frmMain& form, MainParts& parts);
 
   Platform* platform_;
   OtherCopy otherCopy_;

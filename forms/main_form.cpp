@@ -38,7 +38,7 @@ void frmMain::Form_Load() {
   // Present in the menu, but nothing fills it.
   Menu("mnuWindowChildList").visible = false;
   try {
-    lifetime_->Initialise(*this);
+    lifetime_->Initialise(*this, parts_);
   } catch (...) {
     // Told while the window still exists: shutting down takes hot keys and hook from it.
     const std::string description = DescribeCaught();
@@ -47,7 +47,7 @@ void frmMain::Form_Load() {
   }
 }
 
-void frmMain::Form_Activate() { lifetime_->FirstActivation(*this); }
+void frmMain::Form_Activate() { lifetime_->FirstActivation(*this, parts_); }
 
 void frmMain::Form_QueryUnload(bool& cancel, CloseReason reason) {
   // A modal dialog must be answered first; only what ends the whole program overrides it.
@@ -65,7 +65,7 @@ void frmMain::udmUnload(bool booNormalShutDown) {
   if (std::exchange(unloaded_, true)) {
     return;
   }
-  lifetime_->Unload(*this, booNormalShutDown);
+  lifetime_->Unload(*this, parts_, booNormalShutDown);
 }
 
 void frmMain::udmLoadOptions() { parts_.settings.LoadOptions(parts_.options.Get()); }

@@ -33,10 +33,10 @@ class ProgramLifetime {
   virtual ~ProgramLifetime() = default;
 
   /// The body of the load handler; leaves with ProgramEnded when the program must not run.
-  virtual void Initialise(frmMain& form) = 0;
-  virtual void FirstActivation(frmMain& form) = 0;
+  virtual void Initialise(frmMain& form, MainParts& parts) = 0;
+  virtual void FirstActivation(frmMain& form, MainParts& parts) = 0;
   /// The one way down; `booNormalShutDown` saves the settings first.
-  virtual void Unload(frmMain& form, bool booNormalShutDown) = 0;
+  virtual void Unload(frmMain& form, MainParts& parts, bool booNormalShutDown) = 0;
 };
 
 /// The main window: a strip with the target window's title and class under a menu bar. It owns
