@@ -47,7 +47,7 @@ class CrashTest : public StartTest {
     EXPECT_TRUE(messages_[0].text.starts_with("VB ERROR 7 - Out of memory")) << messages_[0].text;
     EXPECT_EQ(korvale.Form().Collection().Find(form), nullptr);
     EXPECT_TRUE(korvale.host.Desktop().IsEnabled(korvale.Handle()));
-    EXPECT_FALSE(korvale.Form().Parts().suspension.DialogShown);
+    EXPECT_FALSE(korvale.Suspended());
     EXPECT_TRUE(korvale.Form().tmrWindow().Enabled());
   }
 

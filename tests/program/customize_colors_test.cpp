@@ -85,7 +85,7 @@ TEST_F(CustomizeColorsTest, CancelInTheDialogKeepsTheColor) {
   ChooseNext(korvale, std::nullopt);
   ClickAt(korvale, "txtWindow", 10, 10);
   EXPECT_EQ(ColorOf(korvale, "txtWindow"), 0x9FFFFF);
-  EXPECT_EQ(korvale.Parts().startup.LastColorSelected, 0xFFFFFF);
+  EXPECT_EQ(korvale.Startup().LastColorSelected, 0xFFFFFF);
 }
 
 TEST_F(CustomizeColorsTest, AltClickGivesTheSecondFieldTheSameColor) {
@@ -215,7 +215,7 @@ TEST_F(CustomizeColorsTest, GoesOnOverRefreshesThatAreNoOtherMenuCommand) {
 
 TEST_F(CustomizeColorsTest, OnlyMenuCommandsSave) {
   KorvaleCopy& korvale = Started();
-  korvale.Parts().startup.Width = 5000;
+  korvale.Startup().Width = 5000;
   korvale.Form().RefreshMenus("Form_KeyDown");
   korvale.Form().RefreshMenus("Form_Load");
   EXPECT_NE(Stored("Width"), "5000");

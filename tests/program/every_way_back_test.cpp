@@ -191,7 +191,7 @@ class EveryWayBackTest : public KorvaleWorld, public testing::WithParamInterface
   void PopUpAndSelect() { PopUp("2  "); }
   void PopUpAndAdd() {
     PopUp("Add  [", [this] {
-      if (!desktop.IsWindowEnabled(korvale->Parts().previous.current.handle)) return;
+      if (!desktop.IsWindowEnabled(korvale->Record().current.handle)) return;
       korvale->host.WhenModal("frmGetWindow", [this](class Form& form) {
         korvale->user.Click(form.Handle(), korvale->Id(form, "cmdClose"));
       });

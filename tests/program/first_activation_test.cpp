@@ -33,7 +33,7 @@ TEST_F(FirstActivationTest, TheFirstRunStoresAllDefaultsBeforeItAsks) {
   EXPECT_EQ(korvale.program.Forms().Find("frmOptions"), nullptr);
   EXPECT_EQ(log.CallsOf("SaveSetting(Korvale - Work, Saving, Complete").size(), 1U)
       << "all defaults are one save";
-  EXPECT_EQ(korvale.Parts().state.lastAnswer, win32::kIdNo);
+  EXPECT_EQ(korvale.State().lastAnswer, win32::kIdNo);
 }
 
 TEST_F(FirstActivationTest, YesToTheFirstQuestionOpensTheOptionsOnTheHotKeysTab) {
@@ -45,7 +45,7 @@ TEST_F(FirstActivationTest, YesToTheFirstQuestionOpensTheOptionsOnTheHotKeysTab)
   class Form& options = korvale.Loaded("frmOptions");
   EXPECT_EQ(options.Caption(), "Korvale - Options");
   EXPECT_EQ(korvale.user.ListIndex(options.Handle(), korvale.Id(options, "tabOptions")), 1);
-  EXPECT_EQ(korvale.Parts().startup.OptionsTab, 2);
+  EXPECT_EQ(korvale.Startup().OptionsTab, 2);
 }
 
 TEST_F(FirstActivationTest, TheFirstRunShowsNoSplash) {
@@ -61,7 +61,7 @@ TEST_F(FirstActivationTest, TheFirstRunKeepsItsOrder) {
   bool finishedAtQuestion = true;
   std::string targetAtQuestion;
   korvale.host.WhenMessageBox([&](const ShownMessage&) {
-    finishedAtQuestion = korvale.Parts().state.firstActivation;
+    finishedAtQuestion = korvale.State().firstActivation;
     targetAtQuestion = korvale.TargetWindow();
     return win32::kIdYes;
   });
@@ -84,7 +84,7 @@ TEST_F(FirstActivationTest, TheFirstRunKeepsItsOrder) {
   EXPECT_EQ(std::vector<std::string>(seen.end() - std::ssize(order), seen.end()), order);
   EXPECT_FALSE(finishedAtQuestion);
   EXPECT_EQ(targetAtQuestion, "Alpha");
-  EXPECT_TRUE(korvale.Parts().state.firstActivation);
+  EXPECT_TRUE(korvale.State().firstActivation);
 }
 
 TEST_F(FirstActivationTest, AnActivationBeforeTheWindowIsShownDoesNotCount) {
@@ -92,11 +92,11 @@ TEST_F(FirstActivationTest, AnActivationBeforeTheWindowIsShownDoesNotCount) {
   korvale.system.commandLine = "/x";
   korvale.host.WhenModal("frmMsgTip", [&](class Form& tip) {
     korvale.Form().OnActivated();
-    EXPECT_FALSE(korvale.Parts().state.firstActivation);
+    EXPECT_FALSE(korvale.State().firstActivation);
     tip.Unload();
   });
   EXPECT_TRUE(korvale.Start());
-  EXPECT_TRUE(korvale.Parts().state.firstActivation);
+  EXPECT_TRUE(korvale.State().firstActivation);
 }
 
 TEST_F(FirstActivationTest, LaterActivationsDoNothingOfIt) {
@@ -152,7 +152,7 @@ TEST_F(FirstActivationTest, AlwaysOnTopUsesUpNothingOfTheFirstActivation) {
   Open("Alpha");
   KorvaleCopy& korvale = UsedCopy();
   EXPECT_TRUE(korvale.Start());
-  EXPECT_TRUE(korvale.Parts().state.firstActivation);
+  EXPECT_TRUE(korvale.State().firstActivation);
   EXPECT_EQ(korvale.TargetWindow(), "Alpha");
   PressTag(0);
   EXPECT_EQ(Front(), "Alpha");

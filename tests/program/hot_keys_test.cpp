@@ -159,7 +159,7 @@ TEST_F(HotKeysTest, AKeyOfAnotherProgramIsLeftToItAndTakenOnceItIsGivenBack) {
   store.SaveSetting("Korvale - Work", "Startup", "DisplayTips", "False");
   KorvaleCopy& korvale = StartedWithTag(Open("Alpha"));
   EXPECT_EQ(hotKeys.Registered().size(), 14U);
-  EXPECT_FALSE(korvale.Parts().hotKeys.Registered()[1].accepted);
+  EXPECT_FALSE(korvale.HotKeys().Registered()[1].accepted);
   EXPECT_FALSE(hotKeys.Press(win32::kModAlt, '1'));
   EXPECT_TRUE(korvale.host.Messages().empty());
 
@@ -167,7 +167,7 @@ TEST_F(HotKeysTest, AKeyOfAnotherProgramIsLeftToItAndTakenOnceItIsGivenBack) {
   SwitchOff(korvale);
   SwitchOn(korvale);
 
-  EXPECT_TRUE(korvale.Parts().hotKeys.Registered()[1].accepted);
+  EXPECT_TRUE(korvale.HotKeys().Registered()[1].accepted);
   PressTag(1);
   EXPECT_EQ(Front(), "Alpha");
 }

@@ -41,17 +41,17 @@ TEST_F(ImportTest, AnImportBringsTagsColoursAndTipsButNotThePlace) {
 
   EXPECT_EQ(korvale.WindowMenuItems()[7].caption, "1  Alpha");
   EXPECT_EQ(korvale.WindowMenuItems()[8].caption, "4  *** - Notes");
-  EXPECT_EQ(korvale.Parts().desktop.tags.ParentWindowClass[3], "NotesFrame");
+  EXPECT_EQ(korvale.Tags().ParentWindowClass[3], "NotesFrame");
   EXPECT_EQ(Stored("ParentWindowList", "1"), "&1  Alpha");
   EXPECT_EQ(Stored("ParentWindowList", "4"), "&4  *** - Notes");
   EXPECT_EQ(Stored("ParentWindowClass", "4"), "NotesFrame");
   EXPECT_EQ(korvale.Form().Find("txtWindow").BackColor(), 255);
   EXPECT_EQ(korvale.Form().Find("txtWindowClass").BackColor(), 65280);
-  EXPECT_EQ(korvale.Parts().startup.Tips, "01");
-  EXPECT_EQ(korvale.Parts().options.Get().intHotKeyModParent, 2);
+  EXPECT_EQ(korvale.Startup().Tips, "01");
+  EXPECT_EQ(korvale.Options().intHotKeyModParent, 2);
   EXPECT_EQ(korvale.user.Place(korvale.Handle()), (TwipsRect{3000, 1500, 4500, 1100}));
   EXPECT_EQ(korvale.Form().WindowState(), ShowState::kNormal);
-  EXPECT_TRUE(korvale.Parts().startup.DisplayTips);
+  EXPECT_TRUE(korvale.Startup().DisplayTips);
   EXPECT_TRUE(korvale.Form().Menu("mnuHelpDisplayTips").checked);
   EXPECT_EQ(Stored("Startup", "DisplayTips"), "True");
   EXPECT_EQ(Stored("Startup", "Left"), "3000");
@@ -69,8 +69,8 @@ TEST_F(ImportTest, AnImportOfAlwaysOnTopStillAsksAboutTheHotKeys) {
     return win32::kIdNo;
   });
   EXPECT_TRUE(korvale.Start());
-  EXPECT_TRUE(korvale.Parts().startup.AlwaysOnTop);
-  EXPECT_TRUE(korvale.Parts().state.firstActivation);
+  EXPECT_TRUE(korvale.Startup().AlwaysOnTop);
+  EXPECT_TRUE(korvale.State().firstActivation);
 }
 
 /// A value of the other installation that is taken over.
@@ -126,12 +126,12 @@ class RefusedImportTest : public StartTest, public testing::WithParamInterface<T
   static void ExpectInUse(KorvaleCopy& korvale) {
     EXPECT_EQ(korvale.WindowMenuItems()[7].caption, "1  Alpha");
     EXPECT_EQ(korvale.WindowMenuItems()[8].caption, "4  *** - Notes");
-    EXPECT_EQ(korvale.Parts().desktop.tags.ParentWindowClass[3], "NotesFrame");
-    EXPECT_EQ(korvale.Parts().options.Get().intHotKeyModParent, 2);
-    EXPECT_EQ(korvale.Parts().startup.Tips, "01");
+    EXPECT_EQ(korvale.Tags().ParentWindowClass[3], "NotesFrame");
+    EXPECT_EQ(korvale.Options().intHotKeyModParent, 2);
+    EXPECT_EQ(korvale.Startup().Tips, "01");
     EXPECT_EQ(korvale.Form().Find("txtWindow").BackColor(), 255);
     EXPECT_EQ(korvale.user.Place(korvale.Handle()).width, 4500);
-    EXPECT_TRUE(korvale.Parts().startup.DisplayTips);
+    EXPECT_TRUE(korvale.Startup().DisplayTips);
   }
   void ExpectTakenOver() {
     for (const Taken& taken : kTaken) EXPECT_EQ(Stored(taken.section, taken.key), taken.value);

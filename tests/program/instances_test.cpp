@@ -132,7 +132,7 @@ TEST_F(InstancesTest, ACopyThatAsksAboutImportingIsNotAskedAnewByTheSecondOne) {
   });
   first.host.AnswerNext(win32::kIdNo);
   std::int16_t answerAfterImport = 0;
-  log.WhenCalled("RegisterHotKey", [&] { answerAfterImport = first.Parts().state.lastAnswer; });
+  log.WhenCalled("RegisterHotKey", [&] { answerAfterImport = first.State().lastAnswer; });
 
   EXPECT_TRUE(first.Start());
 
@@ -158,8 +158,8 @@ TEST_F(InstancesTest, ACopyInAnotherFolderExplainsAndRunsWithItsOwnSettings) {
       "These hot keys are not available, because Windows or another program has them:  "
       "Alt+DownArrow, Alt+UpArrow, Windows®+O, Windows®+W, Pause."))
       << refused;
-  EXPECT_EQ(home.Parts().hotKeys.Registered().front().modifiers, 2);
-  EXPECT_TRUE(home.Parts().hotKeys.Registered().front().accepted);
+  EXPECT_EQ(home.HotKeys().Registered().front().modifiers, 2);
+  EXPECT_TRUE(home.HotKeys().Registered().front().accepted);
   EXPECT_TRUE(work.Form().IsLoaded());
 }
 

@@ -37,7 +37,18 @@ class KorvaleCopy {
   void Exit() { user.ChooseMenu(Handle(), {"File", "Exit"}); }
 
   frmMain& Form() { return program.MainForm(); }
-  MainParts& Parts() { return Form().Parts(); }
+  TagList& Tags() { return Parts().desktop.tags; }
+  /// The entry of this Tag in the Window menu, null when there is none.
+  MenuItem* TagEntry(int tag) { return Tags().mnuWindowParentList.Find(tag); }
+  PreviousWindow& Record() { return Parts().previous; }
+  const WindowFilter& Filter() { return Parts().desktop.filter; }
+  WindowSelection& Selection() { return Parts().desktop.selection; }
+  const HotKeyTable& HotKeys() { return Parts().hotKeys; }
+  bool Suspended() { return Parts().suspension.Active(); }
+  bool HasOptions() { return Parts().options.Exists(); }
+  clsOptions& Options() { return Parts().options.Get(); }
+  StartupSettings& Startup() { return Parts().startup; }
+  const MainState& State() { return Parts().state; }
   WindowHandle Handle() { return Form().Handle(); }
   /// The loaded form of this name; fails the test when it is not loaded.
   class Form& Loaded(const std::string& name);
@@ -57,6 +68,9 @@ class KorvaleCopy {
   HeadlessUser user;
   Platform platform;
   Program program;
+
+ private:
+  MainParts& Parts() { return Form().Parts(); }
 };
 
 /// The desktop of a user: the windows, the settings, the keyboard, and the copies of Korvale.

@@ -146,7 +146,7 @@ TEST_F(MainWindowKeysTest, TurningTipsOnAsksWhetherToShowAllOfThem) {
   Choose(korvale, {"Help", "Display Tip Messages"});
   EXPECT_EQ(Stored("Tips"), "");
   EXPECT_EQ(Stored("DisplayTips"), "True");
-  EXPECT_EQ(korvale.Parts().state.lastAnswer, 6);
+  EXPECT_EQ(korvale.State().lastAnswer, 6);
 }
 
 TEST_F(MainWindowKeysTest, NoKeepsTheSilencedTips) {
@@ -157,7 +157,7 @@ TEST_F(MainWindowKeysTest, NoKeepsTheSilencedTips) {
   Choose(korvale, {"Help", "Display Tip Messages"});
   EXPECT_EQ(Stored("Tips"), "0110");
   EXPECT_EQ(Stored("DisplayTips"), "True");
-  EXPECT_EQ(korvale.Parts().state.lastAnswer, 7);
+  EXPECT_EQ(korvale.State().lastAnswer, 7);
 }
 
 TEST_F(MainWindowKeysTest, WebPagesOpenFromTheFolderOfTheProgram) {

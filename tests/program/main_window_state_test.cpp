@@ -122,13 +122,13 @@ TEST_F(MainWindowStateTest, ItKeepsItsSizeUntilTheStartHasFinished) {
     korvale.Form().Form_Resize();
     EXPECT_TRUE(log.Calls().empty());
     EXPECT_EQ(korvale.Form().Place().height, 3000);
-    EXPECT_EQ(korvale.Parts().startup.Height, 3000);
+    EXPECT_EQ(korvale.Startup().Height, 3000);
   });
 
   EXPECT_TRUE(korvale.Start());
 
   EXPECT_EQ(Height(korvale), 1100);
-  EXPECT_EQ(korvale.Parts().startup.Height, 1100);
+  EXPECT_EQ(korvale.Startup().Height, 1100);
 }
 
 TEST_F(MainWindowStateTest, AnUnreachablePlaceIsLeftForOneThatShowsTheWholeWindow) {

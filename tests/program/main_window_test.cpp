@@ -141,9 +141,9 @@ TEST_F(MainWindowTest, MaximizedItRemembersTheSizeThatItHadBefore) {
   KorvaleCopy& korvale = StartedCopy();
   Resize(korvale, 6000, 1100);
   desktop.ShowWindow(korvale.Handle(), win32::kSwMaximize);
-  EXPECT_EQ(korvale.Parts().startup.WindowState, 2);
-  EXPECT_EQ(korvale.Parts().startup.Width, 6000);
-  EXPECT_EQ(korvale.Parts().startup.Height, 1100);
+  EXPECT_EQ(korvale.Startup().WindowState, 2);
+  EXPECT_EQ(korvale.Startup().Width, 6000);
+  EXPECT_EQ(korvale.Startup().Height, 1100);
 }
 
 TEST_F(MainWindowTest, MaximizedItIsAsWideAsTheMonitorAndNoHigher) {
@@ -182,7 +182,7 @@ TEST_F(MainWindowTest, MinimizingIsNoResize) {
   KorvaleCopy& korvale = StartedCopy();
   desktop.ShowWindow(korvale.Handle(), win32::kSwMinimize);
   EXPECT_TRUE(log.CallsOf("SetWindowPos").empty());
-  EXPECT_EQ(korvale.Parts().startup.Height, 1100);
+  EXPECT_EQ(korvale.Startup().Height, 1100);
 }
 
 TEST_F(MainWindowTest, HidingTheMenuAsksFirst) {

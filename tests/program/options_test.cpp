@@ -24,8 +24,8 @@ using OptionsExchangeInProgram = StartTest;
 
 TEST_F(OptionsExchangeInProgram, TheDialogShowsTheRecordOnTheRememberedTab) {
   KorvaleCopy& korvale = StartedCopy();
-  korvale.Parts().options.Get() = EverythingChanged();
-  korvale.Parts().startup.OptionsTab = 3;
+  korvale.Options() = EverythingChanged();
+  korvale.Startup().OptionsTab = 3;
 
   korvale.Form().udmOptions("LOAD_AND_OR_REFRESH");
 
@@ -38,7 +38,7 @@ TEST_F(OptionsExchangeInProgram, TheDialogShowsTheRecordOnTheRememberedTab) {
 
 TEST_F(OptionsExchangeInProgram, TheRecordTakesEveryFieldOfTheDialog) {
   KorvaleCopy& korvale = StartedCopy();
-  clsOptions& record = korvale.Parts().options.Get();
+  clsOptions& record = korvale.Options();
   record = EverythingChanged();
   korvale.Form().udmOptions("LOAD_AND_OR_REFRESH");
   record = clsOptions();
@@ -52,14 +52,14 @@ TEST_F(OptionsExchangeInProgram, AnOpenDialogIsFilledAnew) {
   KorvaleCopy& korvale = StartedCopy();
   korvale.Form().udmOptions("LOAD_AND_OR_REFRESH");
   const WindowHandle before = korvale.Loaded("frmOptions").Handle();
-  korvale.Parts().options.Get() = EverythingChanged();
+  korvale.Options() = EverythingChanged();
 
   korvale.Form().udmOptions("LOAD_AND_OR_REFRESH");
-  korvale.Parts().options.Get() = clsOptions();
+  korvale.Options() = clsOptions();
   korvale.Form().udmOptions("UPDATE_OPTIONS");
 
   EXPECT_EQ(korvale.Loaded("frmOptions").Handle(), before);
-  EXPECT_EQ(korvale.Parts().options.Get(), EverythingChanged());
+  EXPECT_EQ(korvale.Options(), EverythingChanged());
 }
 
 TEST_F(OptionsExchangeInProgram, AnyOtherModeDoesNothing) {

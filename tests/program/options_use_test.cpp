@@ -56,7 +56,7 @@ TEST_F(OptionsUseTest, ResetEmptiesTheStoredOptionsAndNothingElse) {
   ASSERT_EQ(hotKeys.Registered().size(), 15U);
   EXPECT_EQ(hotKeys.Registered().at(3).modifiers, win32::kModAlt);
   EXPECT_EQ(hotKeys.Registered().at(3).key, static_cast<std::uint32_t>('3'));
-  EXPECT_EQ(korvale.Parts().options.Get(), clsOptions());
+  EXPECT_EQ(korvale.Options(), clsOptions());
   EXPECT_EQ(korvale.user.Text(dialog.Handle(), korvale.Id(dialog, "cboHotKeyModParent")), "Alt");
   EXPECT_EQ(korvale.host.Pointer(), MousePointer::kDefault);
 }
@@ -75,7 +75,7 @@ TEST_F(OptionsUseTest, ResetAnsweredWithCancelLeavesStoreHotKeysAndDialogAlone) 
   EXPECT_EQ(Pairs("Startup"), startup);
   EXPECT_TRUE(log.CallsOf("RegisterHotKey").empty());
   EXPECT_TRUE(log.CallsOf("UnregisterHotKey").empty());
-  EXPECT_EQ(korvale.Parts().options.Get().intHotKeyModParent, 2);
+  EXPECT_EQ(korvale.Options().intHotKeyModParent, 2);
   EXPECT_EQ(korvale.user.Text(dialog.Handle(), korvale.Id(dialog, "cboHotKeyModParent")), "Ctrl");
 }
 
@@ -149,7 +149,7 @@ TEST_F(OptionsUseTest, ChosenFromAMenuWhileItIsOpenItComesForwardAsItIs) {
     EXPECT_EQ(korvale.user.Value(window, box), 0) << menu;
     EXPECT_TRUE(log.CallsOf("CreateWindowExW").empty()) << menu;
   }
-  EXPECT_TRUE(korvale.Parts().options.Get().booHotKeyParent[3]);
+  EXPECT_TRUE(korvale.Options().booHotKeyParent[3]);
 }
 
 }  // namespace

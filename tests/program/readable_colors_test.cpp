@@ -76,7 +76,7 @@ TEST_F(ReadableColorsTest, HighContrastShowsTheSystemsColorsAndKeepsTheStoredOne
 
 TEST_F(ReadableColorsTest, LabelsOfHotKeysCanBeReadOnEveryLegendColor) {
   KorvaleCopy& korvale = StartedCopy();
-  korvale.Parts().options.Get().colHotKeyEnabled = 0x400000;
+  korvale.Options().colHotKeyEnabled = 0x400000;
   korvale.Form().udmOptions("LOAD_AND_OR_REFRESH");
   class Form& options = korvale.Loaded("frmOptions");
   for (const char* const label : {"lblTagParent", "lblLegend"}) {
@@ -88,7 +88,7 @@ TEST_F(ReadableColorsTest, LabelsOfHotKeysCanBeReadOnEveryLegendColor) {
   EXPECT_EQ(BackColorOf(korvale, options, "lblTagParent", 1), kHighlightColor);
   EXPECT_EQ(TextColorOf(korvale, options, "lblTagParent", 1), kHighlightTextColor);
   korvale.Form().udmOptions("UPDATE_OPTIONS");
-  EXPECT_EQ(korvale.Parts().options.Get().colHotKeyEnabled, 0x400000);
+  EXPECT_EQ(korvale.Options().colHotKeyEnabled, 0x400000);
 }
 
 TEST_F(ReadableColorsTest, TheBlueOfAFreeTagGivesWayOnADarkDialog) {

@@ -74,7 +74,7 @@ TEST_F(SecondStartTest, TheMessageThatWaitsInTheFirstCopyComesForward) {
     EXPECT_EQ(desktop.GetForegroundWindow(), message);
     return win32::kIdOk;
   });
-  first.Parts().messages.ShowMessageBox("Question", win32::kMbOk, "Korvale");
+  first.Form().Messages().ShowMessageBox("Question", win32::kMbOk, "Korvale");
 }
 
 TEST_F(SecondStartTest, TheTipThatWaitsBeforeTheMainWindowIsShownComesForwardAtOnce) {

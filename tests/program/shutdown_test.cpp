@@ -21,12 +21,9 @@ TEST_F(ShutdownTest, ShutdownKeepsItsOrder) {
   bool timerAtSave = true;
   log.WhenCalled("SaveSetting", [&] { timerAtSave = clock.AnyTimerOf(korvale.Handle()); });
   bool tagAtUnregister = true;
-  log.WhenCalled("UnregisterHotKey", [&] {
-    tagAtUnregister = korvale.Parts().desktop.tags.mnuWindowParentList.Find(1) != nullptr;
-  });
+  log.WhenCalled("UnregisterHotKey", [&] { tagAtUnregister = korvale.TagEntry(1) != nullptr; });
   bool optionsAtDestroy = false;
-  log.WhenCalled("DestroyWindow(frmOptions)",
-                 [&] { optionsAtDestroy = korvale.Parts().options.Exists(); });
+  log.WhenCalled("DestroyWindow(frmOptions)", [&] { optionsAtDestroy = korvale.HasOptions(); });
 
   korvale.Form().mnuFileExit_Click();
 
@@ -44,7 +41,7 @@ TEST_F(ShutdownTest, ShutdownKeepsItsOrder) {
   EXPECT_FALSE(timerAtSave);
   EXPECT_FALSE(tagAtUnregister);
   EXPECT_TRUE(optionsAtDestroy);
-  EXPECT_FALSE(korvale.Parts().options.Exists());
+  EXPECT_FALSE(korvale.HasOptions());
 }
 
 TEST_F(ShutdownTest, EveryHotKeyIsGivenBackAndNoOptionStored) {
@@ -71,9 +68,9 @@ TEST_F(ShutdownTest, AShutdownThatIsNotNormalSavesNothing) {
 
   EXPECT_TRUE(log.CallsOf("SaveSetting").empty());
   EXPECT_TRUE(log.CallsOf("DeleteSection").empty());
-  EXPECT_EQ(korvale.Parts().desktop.tags.mnuWindowParentList.Find(1), nullptr);
+  EXPECT_EQ(korvale.TagEntry(1), nullptr);
   EXPECT_TRUE(hotKeys.Registered().empty());
-  EXPECT_FALSE(korvale.Parts().options.Exists());
+  EXPECT_FALSE(korvale.HasOptions());
 }
 
 TEST_F(ShutdownTest, ItHappensOnce) {
@@ -192,7 +189,7 @@ TEST_F(ShutdownTest, TagsOfClosedWindowsStayStoredButLeaveTheMenuAtShutdown) {
   korvale.Form().udmUnload(true);
 
   EXPECT_EQ(Stored("ParentWindowList", "1"), "&1  Alpha");
-  EXPECT_EQ(korvale.Parts().desktop.tags.mnuWindowParentList.Find(1), nullptr);
+  EXPECT_EQ(korvale.TagEntry(1), nullptr);
 }
 
 TEST_F(ShutdownTest, TheEndOfTheSessionUnloadsNormally) {

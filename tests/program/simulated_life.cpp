@@ -164,10 +164,10 @@ void SimulatedLife::Meanwhile() {
     case 1:
       return PassTime();
     case 2: {
-      const std::vector<RegisteredHotKey> table = korvale_->Parts().hotKeys.Registered();
+      const std::vector<RegisteredHotKey> table = korvale_->HotKeys().Registered();
       if (table.empty()) return;
       const RegisteredHotKey& hotKey = dice_->Pick(table);
-      if (hotKey.accepted && korvale_->Parts().suspension.Active()) Press(hotKey);
+      if (hotKey.accepted && korvale_->Suspended()) Press(hotKey);
       return;
     }
     default:

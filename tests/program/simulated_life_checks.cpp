@@ -27,7 +27,7 @@ SimulatedLife::Before SimulatedLife::LookBefore(int tag) {
 
 void SimulatedLife::CheckSelection(const Before& before) {
   if (before.tag == 0) return CheckPreviousSelected(before);
-  const MenuItem* const entry = korvale_->Parts().desktop.tags.mnuWindowParentList.Find(before.tag);
+  const MenuItem* const entry = korvale_->TagEntry(before.tag);
   if (entry == nullptr) {
     EXPECT_EQ(desktop.Windows().Foreground(), before.foreground);
     return;
@@ -46,14 +46,13 @@ void SimulatedLife::CheckSelection(const Before& before) {
 void SimulatedLife::CheckSelectedTag(const Before& before, const MenuItem& entry) {
   const WindowHandle selected = TagHandle(entry);
   const FakeWindow& window = *desktop.Windows().Find(selected);
-  const PreviousWindow& record = korvale_->Parts().previous;
+  const PreviousWindow& record = korvale_->Record();
   EXPECT_TRUE(!window.iconic || window.hung);
   if (selected == before.foreground) return;
   EXPECT_TRUE(desktop.Windows().IsVisible(selected));
   EXPECT_TRUE(window.enabled);
-  EXPECT_EQ(
-      korvale_->Parts().desktop.tags.ParentWindowClass.at(static_cast<std::size_t>(before.tag) - 1),
-      window.className);
+  EXPECT_EQ(korvale_->Tags().ParentWindowClass.at(static_cast<std::size_t>(before.tag) - 1),
+            window.className);
   if (selected == korvale_->Handle()) return;
   EXPECT_EQ(record.current.handle, selected);
   EXPECT_EQ(record.current.text, window.title);
@@ -76,7 +75,7 @@ void SimulatedLife::CheckPreviousSelected(const Before& before) {
 
 /// Korvale follows the user into this window, tagged or not.
 bool SimulatedLife::IsFollowed(WindowHandle hwnd) {
-  const WindowFilter& filter = korvale_->Parts().desktop.filter;
+  const WindowFilter& filter = korvale_->Filter();
   return filter.IsSelectableWindow(hwnd, false, false) &&
          filter.IsSelectableWindow(hwnd, true, true) && desktop.Windows().IsVisible(hwnd);
 }
@@ -84,7 +83,7 @@ bool SimulatedLife::IsFollowed(WindowHandle hwnd) {
 bool SimulatedLife::CanBeSelected(WindowHandle hwnd) {
   const FakeWindow* const window = desktop.Windows().Find(hwnd);
   return window != nullptr && window->enabled && desktop.Windows().IsVisible(hwnd) &&
-         korvale_->Parts().desktop.filter.IsSelectableWindow(hwnd, false, false);
+         korvale_->Filter().IsSelectableWindow(hwnd, false, false);
 }
 
 /// Windows may refuse to bring this window to the front.
@@ -97,20 +96,20 @@ bool SimulatedLife::IsExcused(const Before& before, WindowHandle hwnd) {
 void SimulatedLife::CheckAlways() {
   frmMain& form = korvale_->Form();
   ASSERT_TRUE(form.IsLoaded());
-  const PreviousWindow& record = korvale_->Parts().previous;
+  const PreviousWindow& record = korvale_->Record();
   EXPECT_NE(record.current.handle, form.Handle());
   EXPECT_TRUE(record.current.handle == 0 || record.current.handle != record.alternate.handle);
   EXPECT_TRUE(form.tmrWindow().Enabled());
   EXPECT_EQ(form.tmrWindow().Tag(), "ON");
   EXPECT_EQ(clock.IntervalOf(form.Handle(), form.Find("tmrWindow").Id()), 100U);
   EXPECT_TRUE(desktop.Windows().Find(form.Handle())->enabled);
-  EXPECT_FALSE(korvale_->Parts().suspension.Active());
+  EXPECT_FALSE(korvale_->Suspended());
   CheckHotKeys();
   CheckSaving();
 }
 
 void SimulatedLife::CheckHotKeys() {
-  const std::vector<RegisteredHotKey>& table = korvale_->Parts().hotKeys.Registered();
+  const std::vector<RegisteredHotKey>& table = korvale_->HotKeys().Registered();
   std::vector<FakeHotKeys::Registration> expected;
   for (std::size_t i = 0; i < table.size(); ++i) {
     if (!table[i].accepted) continue;
@@ -129,9 +128,9 @@ void SimulatedLife::CheckHotKeys() {
 
 /// What the options ask for.
 std::vector<RegisteredHotKey> SimulatedLife::WantedHotKeys() {
-  const clsOptions& options = korvale_->Parts().options.Get();
+  const clsOptions& options = korvale_->Options();
   std::vector<RegisteredHotKey> wanted;
-  if (korvale_->Parts().hotKeys.HotKeysActive()) {
+  if (korvale_->HotKeys().HotKeysActive()) {
     for (std::int16_t tag = 0; tag <= 9; ++tag) {
       if (!options.booHotKeyParent[static_cast<std::size_t>(tag)]) continue;
       wanted.push_back({ParentHotKeyName(tag), options.intHotKeyModParent,
@@ -154,11 +153,11 @@ std::vector<RegisteredHotKey> SimulatedLife::WantedHotKeys() {
 }
 
 SimulatedLife::Kept SimulatedLife::Keeps() {
-  MainParts& parts = korvale_->Parts();
-  Kept kept{parts.options.Get(), parts.startup, {}};
-  parts.desktop.tags.mnuWindowParentList.ForEach([&](const MenuItem& entry) {
+  TagList& tags = korvale_->Tags();
+  Kept kept{korvale_->Options(), korvale_->Startup(), {}};
+  tags.mnuWindowParentList.ForEach([&](const MenuItem& entry) {
     if (entry.index == 0) return;
-    kept.tags.push_back({entry.index, entry.caption, TagClass(parts.desktop.tags, entry)});
+    kept.tags.push_back({entry.index, entry.caption, TagClass(tags, entry)});
   });
   return kept;
 }
@@ -175,7 +174,7 @@ void SimulatedLife::CheckSaving() {
     settings.LoadOptions(options);
     EXPECT_EQ(options, kept.options);
   }
-  settings.SaveINI(kept.startup, TagsToStore(korvale_->Parts().desktop.tags));
+  settings.SaveINI(kept.startup, TagsToStore(korvale_->Tags()));
   EXPECT_EQ(settings.LoadStartup(), kept.startup);
   EXPECT_EQ(settings.LoadTagList(), kept.tags);
   saved_ = std::move(kept);

@@ -66,7 +66,7 @@ void SimulatedLife::TakeCombination() {
 }
 
 const RegisteredHotKey* SimulatedLife::Registered(const std::string& name) {
-  const auto& table = korvale_->Parts().hotKeys.Registered();
+  const auto& table = korvale_->HotKeys().Registered();
   const auto found = std::ranges::find(table, name, &RegisteredHotKey::name);
   return found != table.end() && found->accepted ? &*found : nullptr;
 }
@@ -160,8 +160,8 @@ void SimulatedLife::UseOtherMenu() {
     case 3:
       return UseMenu({"Help", "Display Tip Messages"});
     default:
-      return UseMenu({"Tools", korvale_->Parts().hotKeys.HotKeysActive() ? "Deactivate Hot Keys"
-                                                                         : "Activate Hot Keys"});
+      return UseMenu({"Tools", korvale_->HotKeys().HotKeysActive() ? "Deactivate Hot Keys"
+                                                                   : "Activate Hot Keys"});
   }
 }
 
@@ -185,7 +185,7 @@ void SimulatedLife::Restart() {
   Kept before = Keeps();
   const TwipsRect place = korvale_->user.Place(korvale_->Handle());
   // A hidden menu bar that the keyboard has just brought up makes the strip higher for a moment.
-  const bool barAsChosen = korvale_->Form().State().menuShown == korvale_->Parts().startup.Menu;
+  const bool barAsChosen = korvale_->Form().State().menuShown == korvale_->Startup().Menu;
   const bool normal = korvale_->Form().WindowState() == ShowState::kNormal && barAsChosen;
   if (dice_->OneIn(2)) {
     desktop.UserActivates(korvale_->Handle());
@@ -193,7 +193,7 @@ void SimulatedLife::Restart() {
   } else {
     UseMenu({"File", "Exit"});
   }
-  before.startup = korvale_->Parts().startup;
+  before.startup = korvale_->Startup();
   EXPECT_FALSE(korvale_->Form().IsLoaded());
   EXPECT_TRUE(hotKeys.Registered().empty());
   ForgetKorvale();
@@ -203,10 +203,10 @@ void SimulatedLife::Restart() {
     EXPECT_EQ(korvale_->user.Place(korvale_->Handle()), place);
   }
   // The height follows from what the window shows.
-  before.startup.Height = korvale_->Parts().startup.Height;
+  before.startup.Height = korvale_->Startup().Height;
   // The tip about refused hot keys may have been silenced.
-  before.startup.Tips = korvale_->Parts().startup.Tips;
-  EXPECT_EQ(korvale_->Parts().startup, before.startup);
+  before.startup.Tips = korvale_->Startup().Tips;
+  EXPECT_EQ(korvale_->Startup(), before.startup);
 }
 
 void SimulatedLife::Kill() {

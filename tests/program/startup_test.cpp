@@ -197,7 +197,7 @@ TEST_F(StartUpTest, AStoredPlaceOnNoMonitorIsBroughtBackOntoOne) {
 
 TEST_F(StartUpTest, TheModalFrameOptionIsOffAfterEveryStart) {
   KorvaleCopy& first = StartedCopy();
-  first.Parts().options.Get().booAllowModalFrameWindow = true;
+  first.Options().booAllowModalFrameWindow = true;
   first.Form().udmSaveOptions();
   first.Exit();
   EndCopy(first);
@@ -205,14 +205,14 @@ TEST_F(StartUpTest, TheModalFrameOptionIsOffAfterEveryStart) {
   KorvaleCopy& second = NewCopy();
   EXPECT_TRUE(second.Start());
 
-  EXPECT_FALSE(second.Parts().options.Get().booAllowModalFrameWindow);
+  EXPECT_FALSE(second.Options().booAllowModalFrameWindow);
 }
 
 TEST_F(StartUpTest, AnEmptyStoreGivesTheDefaultOptions) {
   KorvaleCopy& korvale = NewCopy();
   korvale.host.AnswerNext(win32::kIdNo);
   EXPECT_TRUE(korvale.Start());
-  EXPECT_EQ(korvale.Parts().options.Get(), clsOptions());
+  EXPECT_EQ(korvale.Options(), clsOptions());
 }
 
 TEST_F(StartUpTest, ASaveThatWasInterruptedIsFinishedByTheNextStart) {

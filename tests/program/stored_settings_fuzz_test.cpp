@@ -138,22 +138,22 @@ class StoredSettingsFuzzTest : public KorvaleWorld {
   }
 
   void CheckRanges(KorvaleCopy& korvale) {
-    const StartupSettings& startup = korvale.Parts().startup;
+    const StartupSettings& startup = korvale.Startup();
     EXPECT_GE(startup.WindowState, 0);
     EXPECT_LE(startup.WindowState, 2);
     EXPECT_GE(startup.OptionsTab, 1);
     EXPECT_LE(startup.OptionsTab, 3);
-    korvale.Parts().desktop.tags.mnuWindowParentList.ForEach([&](const MenuItem& entry) {
+    korvale.Tags().mnuWindowParentList.ForEach([&](const MenuItem& entry) {
       EXPECT_LE(entry.index, kTagCount);
       EXPECT_TRUE(entry.caption.starts_with("&" + DecimalText(entry.index) + "  "));
     });
-    for (const RegisteredHotKey& hotKey : korvale.Parts().hotKeys.Registered()) {
+    for (const RegisteredHotKey& hotKey : korvale.HotKeys().Registered()) {
       EXPECT_NE(hotKey.key, 0);
     }
     korvale.Form().udmOptions("LOAD_AND_OR_REFRESH");
-    const clsOptions before = korvale.Parts().options.Get();
+    const clsOptions before = korvale.Options();
     korvale.Form().udmOptions("UPDATE_OPTIONS");
-    EXPECT_EQ(korvale.Parts().options.Get(), before);
+    EXPECT_EQ(korvale.Options(), before);
     korvale.Form().udmSaveOptions();
     // A user can bring it to where they can use it.
     desktop.UserActivates(korvale.Handle());
@@ -164,11 +164,11 @@ class StoredSettingsFuzzTest : public KorvaleWorld {
   }
 
   Kept Keeps(KorvaleCopy& korvale) {
-    MainParts& parts = korvale.Parts();
-    Kept kept{parts.options.Get(), parts.startup, {}};
-    parts.desktop.tags.mnuWindowParentList.ForEach([&](const MenuItem& entry) {
+    TagList& tags = korvale.Tags();
+    Kept kept{korvale.Options(), korvale.Startup(), {}};
+    tags.mnuWindowParentList.ForEach([&](const MenuItem& entry) {
       if (entry.index == 0) return;
-      kept.tags.push_back({entry.index, entry.caption, TagClass(parts.desktop.tags, entry)});
+      kept.tags.push_back({entry.index, entry.caption, TagClass(tags, entry)});
     });
     return kept;
   }

@@ -66,7 +66,7 @@ TEST_F(SuspensionTest, AMessageBoxHoldsTheHotKeysWithASingleNotice) {
 
   EXPECT_EQ(korvale.host.Messages().size(), 3U);
   EXPECT_FALSE(desktop.IsIconic(beta));
-  EXPECT_TRUE(korvale.Parts().hotKeys.HotKeysActive());
+  EXPECT_TRUE(korvale.HotKeys().HotKeysActive());
   EXPECT_TRUE(korvale.user.IsEnabled(korvale.Handle()));
   EXPECT_TRUE(korvale.Form().tmrWindow().Enabled());
   desktop.SetEnabled(alpha_, true);
@@ -153,7 +153,7 @@ TEST_F(SuspensionTest, TheNoticeOutlastsTheWaitWindowThatCausedIt) {
   });
   PressHotKey(0, win32::kVkPause);
   EXPECT_EQ(korvale.program.Forms().Find("frmWaitWindow"), nullptr);
-  EXPECT_FALSE(korvale.Parts().hotKeys.HotKeysActive());
+  EXPECT_FALSE(korvale.HotKeys().HotKeysActive());
   EXPECT_EQ(Front(), "Beta");
 }
 

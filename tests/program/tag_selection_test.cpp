@@ -12,9 +12,9 @@ TEST_F(TagSelectionTest, ASelectedTagMovesThePreviousWindowOn) {
   korvale.TagPrevious();
   WorkIn(Open("Beta", {.className = "B"}));
   PressTag(1);
-  EXPECT_EQ(korvale.Parts().previous.current, (WindowTriple{alpha, "Alpha", "A"}));
-  EXPECT_EQ(korvale.Parts().previous.alternate.text, "Beta");
-  EXPECT_EQ(korvale.Parts().previous.alternate.className, "B");
+  EXPECT_EQ(korvale.Record().current, (WindowTriple{alpha, "Alpha", "A"}));
+  EXPECT_EQ(korvale.Record().alternate.text, "Beta");
+  EXPECT_EQ(korvale.Record().alternate.className, "B");
 }
 
 TEST_F(TagSelectionTest, Alt0AfterATagGoesBackAndThereAgain) {
@@ -36,8 +36,8 @@ TEST_F(TagSelectionTest, SelectingFromTheMainWindowMakesItTheAlternate) {
   WorkIn(Open("Beta"));
   WorkIn(korvale.Handle());
   PressTag(1);
-  EXPECT_EQ(korvale.Parts().previous.current.handle, alpha);
-  EXPECT_EQ(korvale.Parts().previous.alternate.handle, korvale.Handle());
+  EXPECT_EQ(korvale.Record().current.handle, alpha);
+  EXPECT_EQ(korvale.Record().alternate.handle, korvale.Handle());
   EXPECT_EQ(korvale.Form().FocusTag(), "");
 }
 
@@ -47,12 +47,12 @@ TEST_F(TagSelectionTest, TheWindowInFrontIsOnlyRestored) {
   korvale.TagPrevious();
   WorkIn(Open("Beta"));
   WorkIn(alpha);
-  const WindowTriple alternate = korvale.Parts().previous.alternate;
+  const WindowTriple alternate = korvale.Record().alternate;
   log.Clear();
   PressTag(1);
   EXPECT_TRUE(log.CallsOf("SetForegroundWindow").empty());
   EXPECT_TRUE(log.CallsOf("ShowWindow").empty());
-  EXPECT_EQ(korvale.Parts().previous.alternate, alternate);
+  EXPECT_EQ(korvale.Record().alternate, alternate);
 }
 
 TEST_F(TagSelectionTest, AMinimizedWindowIsRestored) {
@@ -82,12 +82,12 @@ TEST_F(TagSelectionTest, AClosedTagWindowIsReportedAsNotOpen) {
   WorkIn(beta);
   desktop.Close(alpha);
   WorkIn(beta);
-  const PreviousWindow before = korvale.Parts().previous;
+  const PreviousWindow before = korvale.Record();
   ExpectMessage(korvale, "Window:  [Alpha]  is not open.", win32::kMbSetForeground);
   PressTag(1);
   EXPECT_EQ(korvale.host.Messages().size(), 1U);
   EXPECT_EQ(Front(), "Beta");
-  EXPECT_EQ(korvale.Parts().previous.current, before.current);
+  EXPECT_EQ(korvale.Record().current, before.current);
   EXPECT_TRUE(korvale.Form().tmrWindow().Enabled());
 }
 
@@ -144,7 +144,7 @@ TEST_F(TagSelectionTest, AReopenedWindowIsFoundAgain) {
   WorkIn(Open("Gamma"));
   PressTag(1);
   EXPECT_EQ(Front(), "Alpha");
-  EXPECT_EQ(korvale.Parts().desktop.tags.mnuWindowParentList.Find(1)->tag, std::to_string(again));
+  EXPECT_EQ(korvale.TagEntry(1)->tag, std::to_string(again));
 }
 
 TEST_F(TagSelectionTest, AWindowOfAnotherClassIsFoundByItsTitleAloneAndTeachesItsClass) {
@@ -156,14 +156,14 @@ TEST_F(TagSelectionTest, AWindowOfAnotherClassIsFoundByItsTitleAloneAndTeachesIt
   WorkIn(Open("Beta"));
   PressTag(1);
   EXPECT_EQ(Front(), "Alpha");
-  EXPECT_EQ(korvale.Parts().desktop.tags.ParentWindowClass[0], "New");
+  EXPECT_EQ(korvale.Tags().ParentWindowClass[0], "New");
 }
 
 TEST_F(TagSelectionTest, AWindowWithoutChildrenIsFoundByTitleAndTheLastMatchWins) {
   KorvaleCopy& korvale = StartedAfter(Open("Clock", {.children = 0}));
   korvale.TagPrevious();
-  EXPECT_EQ(korvale.Parts().desktop.tags.mnuWindowParentList.Find(1)->tag, "0");
-  EXPECT_EQ(korvale.Parts().desktop.tags.ParentWindowClass[0], "");
+  EXPECT_EQ(korvale.TagEntry(1)->tag, "0");
+  EXPECT_EQ(korvale.Tags().ParentWindowClass[0], "");
   const WindowHandle upper = Open("Clock 2", {.className = "C2", .children = 0});
   WorkIn(Open("Beta"));
   PressTag(1);
@@ -179,7 +179,7 @@ TEST_F(TagSelectionTest, WhileASearchIsForbiddenATagIsTriedOnlyOnce) {
   desktop.Close(alpha);
   Open("Alpha");
   WorkIn(Open("Gamma"));
-  korvale.Parts().desktop.selection.windowSearch = true;
+  korvale.Selection().windowSearch = true;
   ExpectMessage(korvale, "Window:  [Alpha]  is not open.", win32::kMbSetForeground);
   log.IncludeReads(true);
   log.Clear();

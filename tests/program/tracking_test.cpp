@@ -47,7 +47,7 @@ TEST_F(TrackingTest, KorvaleInBetweenLeavesTheWindowThePreviousOne) {
   WorkIn(beta);
   WorkIn(alpha);
   WorkIn(korvale.Handle());
-  EXPECT_EQ(korvale.Parts().previous.alternate, (WindowTriple{beta, "Beta", "B"}));
+  EXPECT_EQ(korvale.Record().alternate, (WindowTriple{beta, "Beta", "B"}));
   WorkIn(alpha);
   ExpectPrevious(korvale, "Alpha");
   EXPECT_EQ(korvale.Form().FocusTag(), "");
@@ -62,7 +62,7 @@ TEST_F(TrackingTest, Alt0InAWindowThatTheUserReachedFromKorvaleGoesBackToKorvale
   WorkIn(alpha);
   WorkIn(korvale.Handle());
   WorkIn(beta);
-  EXPECT_EQ(korvale.Parts().previous.alternate,
+  EXPECT_EQ(korvale.Record().alternate,
             (WindowTriple{korvale.Handle(), "Korvale - Work", "Korvale.frmMain"}));
 
   PressTag(0);
@@ -93,7 +93,7 @@ TEST_F(TrackingTest, AnUntitledWindowIsNotFollowedUnlessTheOptionAllowsIt) {
   WorkIn(untitled);
   ExpectPrevious(korvale, "Alpha");
 
-  korvale.Parts().options.Get().booAllowNoTextWindow = true;
+  korvale.Options().booAllowNoTextWindow = true;
   LetTick();
 
   ExpectPrevious(korvale, "(window without a title)");
@@ -181,7 +181,7 @@ TEST_F(TrackingTest, TaskbarDesktopAndHiddenOwnerAreNotFollowed) {
     WorkIn(hwnd);
     EXPECT_EQ(desktop.GetForegroundWindow(), hwnd);
     ExpectPrevious(korvale, "Alpha");
-    EXPECT_EQ(korvale.Parts().previous.alternate.handle, beta);
+    EXPECT_EQ(korvale.Record().alternate.handle, beta);
   }
 }
 
@@ -213,7 +213,7 @@ TEST_F(TrackingTest, WhenOnlyKorvaleIsLeftThereIsNoPreviousWindow) {
   desktop.Close(alpha);
   LetTick();
   ExpectPrevious(korvale, "", false);
-  EXPECT_EQ(korvale.Parts().previous.alternate, WindowTriple{});
+  EXPECT_EQ(korvale.Record().alternate, WindowTriple{});
 }
 
 TEST_F(TrackingTest, ARenamedPreviousWindowStaysThePreviousWindow) {

@@ -145,7 +145,7 @@ TEST_F(WindowMenuActionsTest, WhileASearchIsForbiddenNothingIsMinimizedOrRestore
   KorvaleCopy& korvale = StartedAfter(beta);
   desktop.UserMinimizes(alpha);
   WindowMenu& menu = korvale.Form().TheWindowMenu();
-  korvale.Parts().desktop.selection.windowSearch = true;
+  korvale.Selection().windowSearch = true;
   log.Clear();
   menu.mnuWindowMinimizeAll_Click();
   EXPECT_TRUE(Saved());

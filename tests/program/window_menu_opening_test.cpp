@@ -78,7 +78,7 @@ TEST_F(WindowMenuOpeningTest, TheMinimizedWindowInFrontIsRestoredAndNothingElse)
   korvale.TagPrevious();
   WorkIn(Open("Beta"));
   WorkIn(alpha);
-  const PreviousWindow before = korvale.Parts().previous;
+  const PreviousWindow before = korvale.Record();
   desktop.UserMinimizes(alpha);
   desktop.SetForegroundWindow(alpha);
   log.Clear();
@@ -89,8 +89,8 @@ TEST_F(WindowMenuOpeningTest, TheMinimizedWindowInFrontIsRestoredAndNothingElse)
   EXPECT_EQ(log.CallsOf("ShowWindow"),
             std::vector<std::string>{"ShowWindowAsync(Alpha, SW_RESTORE)"});
   EXPECT_TRUE(log.CallsOf("SetForegroundWindow").empty());
-  EXPECT_EQ(korvale.Parts().previous.current, before.current);
-  EXPECT_EQ(korvale.Parts().previous.alternate, before.alternate);
+  EXPECT_EQ(korvale.Record().current, before.current);
+  EXPECT_EQ(korvale.Record().alternate, before.alternate);
 }
 
 TEST_F(WindowMenuOpeningTest, AnUnresolvedTagIsSearchedForEvenWhenNothingIsInFront) {
@@ -139,7 +139,7 @@ TEST_F(WindowMenuOpeningTest, ASelectionShowsTheNewTargetAtOnce) {
 TEST_F(WindowMenuOpeningTest, AHotKeyLeavesAnEntryWithoutTheMarkOfAnAccessKeyAlone) {
   KorvaleCopy& korvale = StartedAfter(Open("Alpha"));
   korvale.TagPrevious();
-  korvale.Parts().desktop.tags.mnuWindowParentList.Find(1)->caption = "1  Alpha";
+  korvale.TagEntry(1)->caption = "1  Alpha";
   WorkIn(Open("Beta"));
   PressTag(1);
   EXPECT_EQ(Front(), "Beta");

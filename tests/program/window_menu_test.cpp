@@ -126,7 +126,7 @@ TEST_F(WindowMenuTest, AddingAClosedPreviousWindowIsRefused) {
 TEST_F(WindowMenuTest, AddingAPreviousWindowThatChangedItsClassShowsTheFailure) {
   const WindowHandle alpha = Open("Alpha");
   KorvaleCopy& korvale = StartedAfter(alpha);
-  korvale.Parts().previous.current.className = "Another";
+  korvale.Record().current.className = "Another";
   ExpectMessage(korvale, "The window operation was not successful.  Please try again.",
                 win32::kMbSetForeground);
   korvale.Form().TheWindowMenu().mnuWindowAddToList_Click(2);
@@ -144,10 +144,10 @@ TEST_F(WindowMenuTest, TheMainWindowItselfCanBeTagged) {
   });
   korvale.user.ChooseMenu(korvale.Handle(), {"Window", "Add  Korvale  to Window menu..."});
   WorkIn(Open("Beta"));
-  const PreviousWindow before = korvale.Parts().previous;
+  const PreviousWindow before = korvale.Record();
   PressTag(1);
   EXPECT_EQ(Front(), "Korvale - Work");
-  EXPECT_EQ(korvale.Parts().previous.current, before.current);
+  EXPECT_EQ(korvale.Record().current, before.current);
 }
 
 TEST_F(WindowMenuTest, EveryCommandIsStoredAtOnce) {
