@@ -44,7 +44,9 @@ bool Program::Start() {
     form_.Parts().identity = ReadProgramIdentity(platform_->system);
     form_.Show();
     // Windows does not activate what is shown minimized, so its user is asked and recorded here.
-    if (form_.WindowState() == ShowState::kMinimized) startUp_.FirstActivation(form_, form_.Parts());
+    if (form_.WindowState() == ShowState::kMinimized) {
+      startUp_.FirstActivation(form_, form_.Parts());
+    }
   });
 }
 

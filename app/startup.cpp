@@ -131,7 +131,7 @@ void StartUp::LayOut(frmMain& form, MainParts& parts) {
   const bool onTop = parts.startup.AlwaysOnTop;
   form.CheckAlwaysOnTop(onTop);
   if (onTop) {
-    parts.desktop.actions.SetTopmost(form.Handle(), true);
+    parts.desktop.requests.SetTopmost(form.Handle(), true);
   }
   form.ApplyColors();
 }
@@ -167,7 +167,7 @@ void StartUp::FirstActivation(frmMain& form, MainParts& parts) {
   const RaisedFlag runs(firstActivationRuns_);
   const bool minimized = form.WindowState() == ShowState::kMinimized;
   if (parts.startup.AlwaysOnTop && !minimized) {
-    parts.desktop.actions.SetTopmost(form.Handle(), true);
+    parts.desktop.requests.SetTopmost(form.Handle(), true);
   }
   RecordPreviousWindow(form, parts);
   if (parts.state.firstRun) {

@@ -12,6 +12,6 @@ Desktop::Desktop(const DesktopParts& parts, Clock& clock, const OptionsHolder& o
       enumeration(windows, requests, filter, mainWindow, tagPasses),
       actions(parts, requests, filter, enumeration),
       tracker(parts, filter, actions, tags),
-      selection(parts, enumeration, actions, tracker, tags) {}
+      selection(parts, requests, enumeration, actions, tracker, tags) {}
 
 }  // namespace korvale

@@ -28,10 +28,8 @@ WindowActions::WindowActions(const DesktopParts& parts, WindowRequests& requests
       previous_(&parts.previous),
       messages_(&parts.messages) {}
 
-ActivationResult WindowActions::ActivateWindow(WindowHandle& hwnd, std::string& text,
-                                               const std::string& className, bool reportFailure,
-                                               bool act) {
-  const ActivationResult result = TryActivation(hwnd, text, className, act);
+ActivationResult WindowActions::ActivateWindow(WindowTriple& window, bool reportFailure, bool act) {
+  const ActivationResult result = TryActivation(window, act);
   if (result != kActivationDone && reportFailure) {
     messages_->ShowMessageBox("The window operation was not successful.  Please try again.",
                               win32::kMbSetForeground, kProductName);
@@ -39,16 +37,12 @@ ActivationResult WindowActions::ActivateWindow(WindowHandle& hwnd, std::string& 
   return result;
 }
 
-ActivationResult WindowActions::ActivateWindow(WindowTriple& window, bool reportFailure, bool act) {
-  return ActivateWindow(window.handle, window.text, window.className, reportFailure, act);
-}
-
 ActivationResult WindowActions::ActivatePreviousWindow(WindowTriple& window) {
   const ActivationResult result = ActivateWindow(window, false, true);
   const WindowHandle dialog =
       result == kWindowNotEnabled ? FindInputWindow(*windows_, window.handle) : 0;
   if (dialog == 0) return result;
-  if (windows_->IsIconic(window.handle) && ShowDesktopWindow(window.handle, win32::kSwRestore)) {
+  if (windows_->IsIconic(window.handle) && requests_->Show(window.handle, win32::kSwRestore)) {
     requests_->Await(dialog, [&] { return windows_->IsWindowVisible(dialog); });
   }
   WindowTriple inFrontOfIt{dialog, GetWindowTitle(*windows_, dialog),
@@ -56,17 +50,17 @@ ActivationResult WindowActions::ActivatePreviousWindow(WindowTriple& window) {
   return ActivateWindow(inFrontOfIt, false, true);
 }
 
-ActivationResult WindowActions::TryActivation(WindowHandle& hwnd, std::string& text,
-                                              const std::string& className, bool act) {
+ActivationResult WindowActions::TryActivation(WindowTriple& window, bool act) {
+  const WindowHandle hwnd = window.handle;
   if (hwnd == 0 || !windows_->IsWindow(hwnd)) return kWindowNotOpen;
   if (!filter_->IsSelectableWindow(hwnd, false, false)) return kActivationFailed;
-  if (GetWindowClass(*windows_, hwnd) != className) return kActivationFailed;
+  if (GetWindowClass(*windows_, hwnd) != window.className) return kActivationFailed;
   const ActivationResult restored = act ? RestoreIconicOwner(hwnd) : kActivationDone;
   if (restored != kActivationDone) return restored;
   if (!windows_->IsWindowVisible(hwnd)) return kWindowNotOpen;
-  RefreshRecordedTitle(hwnd, text);
-  if (!TitleMatches(text, GetWindowTitle(*windows_, hwnd), false)) {
-    hwnd = 0;
+  RefreshRecordedTitle(window);
+  if (!TitleMatches(window.text, GetWindowTitle(*windows_, hwnd), false)) {
+    window.handle = 0;
     return kActivationFailed;
   }
   if (!windows_->IsWindowEnabled(hwnd)) return kWindowNotEnabled;
@@ -86,11 +80,11 @@ ActivationResult WindowActions::RestoreIconicOwner(WindowHandle hwnd) {
 }
 
 /// The recorded windows are known by their handles, so a new title never disqualifies them.
-void WindowActions::RefreshRecordedTitle(WindowHandle hwnd, std::string& text) {
+void WindowActions::RefreshRecordedTitle(WindowTriple& window) {
   for (WindowTriple* const recorded : {&previous_->current, &previous_->alternate}) {
-    if (recorded->handle != hwnd) continue;
-    recorded->text = GetWindowTitle(*windows_, hwnd);
-    text = recorded->text;
+    if (recorded->handle != window.handle) continue;
+    recorded->text = GetWindowTitle(*windows_, window.handle);
+    window.text = recorded->text;
   }
 }
 
@@ -99,7 +93,7 @@ bool WindowActions::BringForward(WindowHandle hwnd) {
   const bool inFront = windows_->GetForegroundWindow() == hwnd && !previous_->menuSelection;
   if (!inFront && !requests_->SetForegroundWindow(hwnd)) return false;
   if (!windows_->IsIconic(hwnd)) return true;
-  const bool restores = ShowDesktopWindow(hwnd, win32::kSwRestore);
+  const bool restores = requests_->Show(hwnd, win32::kSwRestore);
   requests_->Await(hwnd, [&] { return !windows_->IsIconic(hwnd); });
   return restores;
 }
@@ -119,7 +113,7 @@ WindowTriple WindowActions::MinimizeForeground(WindowHandle hwnd) {
   if (!CanBeSized(*windows_, hwnd, win32::kWsMinimizeBox)) return {};
   const WindowHandle owner = GetRelatedWindow(*windows_, hwnd, 2);
   const WindowHandle target = owner != 0 ? owner : hwnd;
-  ShowDesktopWindow(target, win32::kSwMinimize);
+  requests_->Show(target, win32::kSwMinimize);
   // Windows itself may bring some window forward then, which must not come after the next step.
   if (requests_->Await(target, [&] { return windows_->IsIconic(target); })) {
     requests_->AwaitAnswer(target);
@@ -131,7 +125,7 @@ WindowTriple WindowActions::MinimizeForeground(WindowHandle hwnd) {
 
 void WindowActions::MaximizeOrRestoreForeground(WindowHandle hwnd) {
   if (!CanBeSized(*windows_, hwnd, win32::kWsMaximizeBox)) return;
-  ShowDesktopWindow(hwnd, windows_->IsZoomed(hwnd) ? win32::kSwRestore : win32::kSwMaximize);
+  requests_->Show(hwnd, windows_->IsZoomed(hwnd) ? win32::kSwRestore : win32::kSwMaximize);
 }
 
 void WindowActions::MinimizeAll() {
@@ -143,14 +137,6 @@ void WindowActions::RestoreAll() {
   const TimerPause pause(*mainWindow_);
   enumeration_->EnumWindows(kRestoreAll);
   requests_->SetForegroundWindow(mainWindow_->MainHandle());
-}
-
-void WindowActions::SetTopmost(WindowHandle hwnd, bool topmost) {
-  requests_->SetTopmost(hwnd, topmost);
-}
-
-bool WindowActions::ShowDesktopWindow(WindowHandle hwnd, int command) {
-  return requests_->Show(hwnd, command);
 }
 
 }  // namespace korvale

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 #include <string_view>
 
 #include "desktop/desktop_parts.h"
@@ -21,17 +20,15 @@ enum ActivationResult : std::int16_t {
   kWindowNotAnswering = 4,
 };
 
-/// Every change that the program makes to a window of the desktop.
+/// What hot keys and menus do with the windows of the desktop.
 class WindowActions {
  public:
   WindowActions(const DesktopParts& parts, WindowRequests& requests, const WindowFilter& filter,
                 WindowEnumeration& enumeration);
 
-  /// Brings a window to the front, or with `act` false only tells whether that could be done.
-  /// `text` is refreshed for the Previous Window and its alternate; `hwnd` becomes 0 when the title
-  /// no longer fits. With `reportFailure` a failure is shown to the user.
-  ActivationResult ActivateWindow(WindowHandle& hwnd, std::string& text,
-                                  const std::string& className, bool reportFailure, bool act);
+  /// Brings a window to the front, or with `act` false only tells whether that could be done. Its
+  /// text is refreshed for the Previous Window and its alternate; its handle becomes 0 when the
+  /// title no longer fits. With `reportFailure` a failure is shown to the user.
   ActivationResult ActivateWindow(WindowTriple& window, bool reportFailure, bool act);
 
   /// Brings the window of Tag 0 to the front, or the dialog that disables it, in which the user
@@ -48,18 +45,10 @@ class WindowActions {
   /// the timers stopped.
   void RestoreAll();
 
-  /// Makes a window topmost or not, without moving it (SetWindowPos). A hidden window is not
-  /// activated.
-  void SetTopmost(WindowHandle hwnd, bool topmost);
-
-  /// ShowWindow, without waiting for the window of another program.
-  bool ShowDesktopWindow(WindowHandle hwnd, int command);
-
  private:
-  ActivationResult TryActivation(WindowHandle& hwnd, std::string& text,
-                                 const std::string& className, bool act);
+  ActivationResult TryActivation(WindowTriple& window, bool act);
   ActivationResult RestoreIconicOwner(WindowHandle hwnd);
-  void RefreshRecordedTitle(WindowHandle hwnd, std::string& text);
+  void RefreshRecordedTitle(WindowTriple& window);
   bool BringForward(WindowHandle hwnd);
   WindowTriple MinimizeForeground(WindowHandle hwnd);
   void MaximizeOrRestoreForeground(WindowHandle hwnd);

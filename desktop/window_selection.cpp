@@ -10,9 +10,11 @@
 
 namespace korvale {
 
-WindowSelection::WindowSelection(const DesktopParts& parts, WindowEnumeration& enumeration,
-                                 WindowActions& actions, ForegroundTracker& tracker, TagList& tags)
+WindowSelection::WindowSelection(const DesktopParts& parts, WindowRequests& requests,
+                                 WindowEnumeration& enumeration, WindowActions& actions,
+                                 ForegroundTracker& tracker, TagList& tags)
     : parts_(parts),
+      requests_(&requests),
       enumeration_(&enumeration),
       actions_(&actions),
       tracker_(&tracker),
@@ -49,7 +51,7 @@ void WindowSelection::SelectEntry(MenuItem& entry) {
   if (TagHandle(entry) == foreground && foreground != 0) {
     selected = foreground;
     if (parts_.windows.IsIconic(foreground)) {
-      actions_->ShowDesktopWindow(foreground, win32::kSwRestore);
+      requests_->Show(foreground, win32::kSwRestore);
     }
     return;
   }

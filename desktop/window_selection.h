@@ -14,7 +14,8 @@ namespace korvale {
 /// Window record.
 class WindowSelection {
  public:
-  WindowSelection(const DesktopParts& parts, WindowEnumeration& enumeration, WindowActions& actions,
+  WindowSelection(const DesktopParts& parts, WindowRequests& requests,
+                  WindowEnumeration& enumeration, WindowActions& actions,
                   ForegroundTracker& tracker, TagList& tags);
 
   /// Selects the window of Tag `tag` (0-9) with the timers stopped, and tells the user when that is
@@ -34,6 +35,7 @@ class WindowSelection {
   void TellFailure(const MenuItem& entry, ActivationResult result);
 
   DesktopParts parts_;
+  WindowRequests* requests_;
   WindowEnumeration* enumeration_;
   WindowActions* actions_;
   ForegroundTracker* tracker_;

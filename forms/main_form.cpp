@@ -103,10 +103,6 @@ void frmMain::LoadStartupSettings() {
   RestoreTagList(parts_.desktop.tags, parts_.settings.LoadTagList());
 }
 
-void frmMain::udmRefreshAlwaysOnTopMenuChecked() {
-  parts_.desktop.tracker.udmRefreshAlwaysOnTopMenuChecked();
-}
-
 void frmMain::udmNonFatalError(ErrorPlace intErrorNumber, std::int16_t intVB_ErrNumber) {
   // A message would keep the session from ending.
   if (!endsUnattended_) parts_.errors.udmNonFatalError(intErrorNumber, intVB_ErrNumber);

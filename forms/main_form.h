@@ -60,7 +60,6 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   void SaveOrTellOnce(const std::function<void()>& saves);
   /// Reads the main window's state and the Tag list from the store.
   void LoadStartupSettings();
-  void udmRefreshAlwaysOnTopMenuChecked();
   void udmNonFatalError(ErrorPlace intErrorNumber, std::int16_t intVB_ErrNumber);
 
   /// Brings the menus up to date; `source` is "mnu" after a menu command, a menu item's name, or

@@ -51,7 +51,7 @@ void frmMain::Form_Resize() {
     return;
   }
   if (parts_.startup.AlwaysOnTop && !IsTopmostBehindAnother()) {
-    parts_.desktop.actions.SetTopmost(Handle(), true);
+    parts_.desktop.requests.SetTopmost(Handle(), true);
   }
   const TwipsRect frame = Collection().Host().AdjustWindowRectEx(State());
   LayOutFields(frame);

@@ -109,7 +109,7 @@ bool WindowMenu::PreviousCanBeAdded() {
 void WindowMenu::mnuWindowAlwaysOnTop_Click() {
   MenuItem& item = Item("mnuWindowAlwaysOnTop");
   item.checked = !item.checked;
-  desktop_->actions.SetTopmost(desktop_->mainWindow.MainHandle(), item.checked);
+  desktop_->requests.SetTopmost(desktop_->mainWindow.MainHandle(), item.checked);
   *alwaysOnTop_ = item.checked;
   refreshMenus_();
 }
@@ -119,7 +119,7 @@ void WindowMenu::mnuWindowPreviousWindowAlwaysOnTop_Click() {
   if (desktop_->actions.ActivateWindow(previous, true, true) == kActivationDone) {
     MenuItem& item = Item("mnuWindowPreviousWindowAlwaysOnTop");
     item.checked = !item.checked;
-    desktop_->actions.SetTopmost(previous.handle, item.checked);
+    desktop_->requests.SetTopmost(previous.handle, item.checked);
     if (desktop_->mainWindow.FocusTag() == kGotFocus) {
       desktop_->commands.SetForegroundWindow(desktop_->mainWindow.MainHandle());
     }

@@ -84,19 +84,13 @@ bool HotKeyDispatch::IdentifyForeground(WindowTriple& chosen) {
   if (foreground == chosen.handle) return true;
   chosen = {foreground, GetWindowTitle(desktop_->windows, foreground),
             GetWindowClass(desktop_->windows, foreground)};
-  if (!IsIdentified(chosen)) return false;
-  MakeTarget(chosen);
-  return true;
-}
-
-bool HotKeyDispatch::IsIdentified(const WindowTriple& window) {
-  return desktop_->filter.IsSelectableWindow(window.handle, false, false) &&
-         desktop_->tracker.AcceptForeground(window.handle, window.text);
-}
-
-void HotKeyDispatch::MakeTarget(const WindowTriple& window) {
-  desktop_->tracker.Follow(window);
+  if (!desktop_->filter.IsSelectableWindow(foreground, false, false) ||
+      !desktop_->tracker.AcceptForeground(foreground, chosen.text)) {
+    return false;
+  }
+  desktop_->tracker.Follow(chosen);
   desktop_->tracker.ValidatePreviousWindow();
+  return true;
 }
 
 void HotKeyDispatch::ShowNotRecognized(const std::string& title) {

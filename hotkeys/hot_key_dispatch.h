@@ -33,8 +33,6 @@ class HotKeyDispatch : public HotKeyProcessor {
   void ShowSuspensionNotice();
   WindowTriple ChooseWindow(const std::string& suppliedText);
   bool IdentifyForeground(WindowTriple& chosen);
-  bool IsIdentified(const WindowTriple& window);
-  void MakeTarget(const WindowTriple& window);
   void ShowNotRecognized(const std::string& title);
   void Perform(const std::string& name);
   void MinimizeOrMaximize(const std::string& name);

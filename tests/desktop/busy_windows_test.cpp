@@ -147,7 +147,7 @@ TEST_F(BusyWindows, RestoreAllWaitsForALivingOneAfterABusyOne) {
 
 TEST_F(BusyWindows, GoOnTopWhenTheyComeToIt) {
   desktop.SetBusy(alpha, kLong);
-  actions.SetTopmost(alpha, true);
+  requests.SetTopmost(alpha, true);
   ExpectShortWait();
   clock.Advance(kLong);
   EXPECT_EQ(desktop.GetWindowLongA(alpha, win32::kGwlExStyle), win32::kWsExTopmost);
@@ -162,7 +162,7 @@ TEST_F(BusyWindows, AreWaitedForOnceInAllByOneCommand) {
   WindowTriple second = Triple(beta, "Beta");
   Activate(first);
   Activate(second);
-  actions.SetTopmost(alpha, true);
+  requests.SetTopmost(alpha, true);
   ExpectShortWait();
 }
 
@@ -181,8 +181,8 @@ TEST_F(BusyWindows, AreWaitedForAgainByTheNextCommand) {
 
 TEST_F(BusyWindows, OurOwnAreChangedAtOnce) {
   log.Clear();
-  actions.ShowDesktopWindow(mainWindow.handle, win32::kSwMinimize);
-  actions.SetTopmost(mainWindow.handle, true);
+  requests.Show(mainWindow.handle, win32::kSwMinimize);
+  requests.SetTopmost(mainWindow.handle, true);
   EXPECT_EQ(log.Take(), (Calls{"ShowWindow(Main, SW_MINIMIZE)",
                                "SetWindowPos(Main, HWND_TOPMOST, 0, 0, 0, 0, 3)"}));
 }

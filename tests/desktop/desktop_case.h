@@ -80,6 +80,7 @@ class DesktopCase : public testing::Test {
   TagList& tags = routines.tags;
   TagListPasses& passes = routines.tagPasses;
   WindowFilter& filter = routines.filter;
+  WindowRequests& requests = routines.requests;
   WindowEnumeration& enumeration = routines.enumeration;
   WindowActions& actions = routines.actions;
   ForegroundTracker& tracker = routines.tracker;

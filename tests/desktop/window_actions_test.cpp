@@ -239,17 +239,17 @@ TEST_F(AllWindows, TimersThatAreSwitchedOffStayOff) {
 class Topmost : public ForegroundKeys {};
 
 TEST_F(Topmost, IsSetAndTakenBackWithoutMovingTheWindow) {
-  actions.SetTopmost(beta, true);
+  requests.SetTopmost(beta, true);
   EXPECT_EQ(log.Take(), Calls{"SetWindowPos(Beta, HWND_TOPMOST, 0, 0, 0, 0, 16387)"});
   EXPECT_EQ(desktop.GetWindowLongA(beta, win32::kGwlExStyle), win32::kWsExTopmost);
-  actions.SetTopmost(beta, false);
+  requests.SetTopmost(beta, false);
   EXPECT_EQ(log.Take(), Calls{"SetWindowPos(Beta, HWND_NOTOPMOST, 0, 0, 0, 0, 16387)"});
   EXPECT_EQ(desktop.GetWindowLongA(beta, win32::kGwlExStyle), 0);
 }
 
 TEST_F(Topmost, DoesNotWaitForAHungWindow) {
   desktop.SetHung(beta, true);
-  actions.SetTopmost(beta, true);
+  requests.SetTopmost(beta, true);
   EXPECT_EQ(log.Take(), Calls{"SetWindowPos(Beta, HWND_TOPMOST, 0, 0, 0, 0, 16387)"});
   EXPECT_EQ(desktop.CallsThatWaited(), 0);
 }
@@ -257,13 +257,13 @@ TEST_F(Topmost, DoesNotWaitForAHungWindow) {
 class ShowDesktopWindowTest : public ForegroundKeys {};
 
 TEST_F(ShowDesktopWindowTest, TellsWhetherTheWindowWasVisible) {
-  EXPECT_TRUE(actions.ShowDesktopWindow(beta, win32::kSwRestore));
+  EXPECT_TRUE(requests.Show(beta, win32::kSwRestore));
   desktop.Hide(beta);
-  EXPECT_FALSE(actions.ShowDesktopWindow(beta, win32::kSwRestore));
-  EXPECT_TRUE(actions.ShowDesktopWindow(beta, win32::kSwRestore));
+  EXPECT_FALSE(requests.Show(beta, win32::kSwRestore));
+  EXPECT_TRUE(requests.Show(beta, win32::kSwRestore));
   desktop.SetHung(beta, true);
-  EXPECT_TRUE(actions.ShowDesktopWindow(beta, win32::kSwRestore));
-  EXPECT_FALSE(actions.ShowDesktopWindow(0x7777, win32::kSwRestore));
+  EXPECT_TRUE(requests.Show(beta, win32::kSwRestore));
+  EXPECT_FALSE(requests.Show(0x7777, win32::kSwRestore));
 }
 
 }  // namespace
