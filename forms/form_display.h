@@ -8,17 +8,12 @@
 #include "platform/window_api.h"
 #include "ui/form.h"
 #include "ui/form_collection.h"
+#include "ui/form_placement.h"
 
 namespace korvale {
 
 /// What the callers of ShowFormModal pass as its milliseconds.
 inline constexpr std::int32_t kForegroundWait = 1000;
-
-/// Where a form is to come up, in twips of the screen; -1 = no wish.
-struct PlaceHints {
-  Twips left = -1;
-  Twips top = -1;
-};
 
 /// How a form is placed and shown; 0 switches a rule off.
 struct DisplaySwitches {
@@ -50,13 +45,9 @@ class FormDisplay {
   /// already sees stays where it is, a minimized one is restored.
   void ShowFormNonModal(Form& form, const DisplaySwitches& switches, Form* owner);
 
-  /// Moves the form onto the monitor nearest to it, when too little of it lies on any to be seen
-  /// and dragged.
-  void BringOntoMonitor(Form& form);
-
  private:
-  void PlaceForm(Form& form, const DisplaySwitches& switches, const PlaceHints& hints, Form* owner);
-  void KeepInWorkArea(Form& form);
+  void Place(Form& form, const DisplaySwitches& switches, const PlaceHints& hints,
+             const Form* owner);
   void BringToFront(Form& form, const DisplaySwitches& switches);
   void FollowTopmost(WindowHandle hwnd);
   void GiveForegroundBack(WindowHandle before);

@@ -4,6 +4,7 @@
 #include "forms/main_form.h"
 #include "forms/main_form_design.h"
 #include "platform/win32_constants.h"
+#include "ui/form_placement.h"
 #include "util/forms.h"
 
 namespace korvale {
@@ -104,7 +105,7 @@ void frmMain::ApplyPlacement() {
   // What is stored may be another height than the one that the window is going to have.
   place.height = HeightForContent(Collection().Host().AdjustWindowRectEx(State()));
   SetPlace(place);
-  parts_.display.BringOntoMonitor(*this);
+  BringOntoMonitor(*this);
   place = Place();
   place.height = startup.Height;
   SetPlace(place);

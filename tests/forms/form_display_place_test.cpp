@@ -53,22 +53,6 @@ TEST_F(FormDisplayTest, LeavesTheFormOutsideWhenToldSo) {
             (TwipsRect{90000, 0, 3000, 2000}));
 }
 
-TEST_F(FormDisplayTest, BringsAFormThatIsOnNoMonitorOntoTheNearestOne) {
-  host_.SetWorkArea({0, 0, 10000, 8000});
-  owner_.Load();
-  const auto brought = [&](Twips left, Twips top) {
-    owner_.SetPlace({left, top, 3000, 2000});
-    display_.BringOntoMonitor(owner_);
-    return owner_.Place();
-  };
-  EXPECT_EQ(brought(30000, -20000), (TwipsRect{7000, 0, 3000, 2000}));
-  EXPECT_EQ(brought(-2800, 8000), (TwipsRect{0, 6000, 3000, 2000}));
-  EXPECT_EQ(brought(9700, 7700), (TwipsRect{9700, 7700, 3000, 2000}));
-  EXPECT_EQ(brought(9701, 7700), (TwipsRect{7000, 6000, 3000, 2000}));
-  EXPECT_EQ(brought(-2700, -100), (TwipsRect{-2700, -100, 3000, 2000}));
-  EXPECT_EQ(brought(4000, -101), (TwipsRect{4000, 0, 3000, 2000}));
-}
-
 /// A screen of two monitors side by side; the right one has twice as many dots per inch.
 class TwoMonitors : public HeadlessFormHost {
  public:

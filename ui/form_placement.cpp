@@ -1,0 +1,72 @@
+#include "ui/form_placement.h"
+
+#include <algorithm>
+
+#include "ui/form_collection.h"
+
+namespace korvale {
+namespace {
+
+/// What must be on a monitor of a form's title bar, in both directions, so that it can be dragged.
+constexpr Twips kReachable = 300;
+constexpr Twips kTitleBar = 400;
+
+void MoveTo(Form& form, Twips left, Twips top) {
+  TwipsRect place = form.Place();
+  place.left = left;
+  place.top = top;
+  form.SetPlace(place);
+}
+
+/// Where something of this length begins when it stands in the middle.
+Twips Centred(Twips start, Twips room, Twips length) { return start + (room - length) / 2; }
+
+/// The nearest beginning inside the room; what is longer than the room begins with it.
+Twips Inside(Twips wished, Twips start, Twips room, Twips length) {
+  return std::max(start, std::min(wished, start + room - length));
+}
+
+/// The length that two stretches have in common, negative when they lie apart.
+Twips Overlap(Twips start, Twips length, Twips otherStart, Twips otherLength) {
+  return std::min(start + length, otherStart + otherLength) - std::max(start, otherStart);
+}
+
+bool CanBeCentredOn(const Form* owner) {
+  return owner != nullptr && owner->IsLoaded() && owner->Visible() &&
+         owner->WindowState() != ShowState::kMinimized;
+}
+
+}  // namespace
+
+void PlaceForm(Form& form, WindowHandle workedIn, const PlaceHints& hints, const Form* owner) {
+  ScreenQueries& screen = form.Collection().Screen();
+  const TwipsRect area = screen.GetMonitorInfoW(workedIn);
+  // The user may work on another monitor than the one where the owner is.
+  const bool onOwner = CanBeCentredOn(owner) && screen.GetMonitorInfoW(owner->Handle()) == area;
+  // Its size counts the dots of the monitor that it is on.
+  if (screen.GetMonitorInfoW(form.Handle()) != area) MoveTo(form, area.left, area.top);
+  const TwipsRect room = onOwner ? screen.GetWindowRect(owner->Handle()) : area;
+  const TwipsRect size = screen.GetWindowRect(form.Handle());
+  MoveTo(form, hints.left != -1 ? hints.left : Centred(room.left, room.width, size.width),
+         hints.top != -1 ? hints.top : Centred(room.top, room.height, size.height));
+}
+
+void KeepInWorkArea(Form& form) {
+  ScreenQueries& screen = form.Collection().Screen();
+  const TwipsRect area = screen.GetMonitorInfoW(form.Handle());
+  const TwipsRect place = screen.GetWindowRect(form.Handle());
+  MoveTo(form, Inside(place.left, area.left, area.width, place.width),
+         Inside(place.top, area.top, area.height, place.height));
+}
+
+void BringOntoMonitor(Form& form) {
+  ScreenQueries& screen = form.Collection().Screen();
+  const TwipsRect area = screen.GetMonitorInfoW(form.Handle());
+  const TwipsRect place = screen.GetWindowRect(form.Handle());
+  if (Overlap(place.left, place.width, area.left, area.width) < kReachable ||
+      Overlap(place.top, kTitleBar, area.top, area.height) < kReachable) {
+    KeepInWorkArea(form);
+  }
+}
+
+}  // namespace korvale

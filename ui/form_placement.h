@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/types.h"
+#include "ui/form.h"
+
+namespace korvale {
+
+/// Where a form is to come up, in twips of the screen; -1 = unspecified.
+struct PlaceHints {
+  Twips left = -1;
+  Twips top = -1;
+};
+
+/// Moves a form to its hints, onto the monitor of the window that the user works in; without hints
+/// it stands in the middle of its owner, when that can be seen on this monitor, or else of the work
+/// area. `owner` may be null.
+void PlaceForm(Form& form, WindowHandle workedIn, const PlaceHints& hints, const Form* owner);
+
+/// Moves a form into the work area of its monitor; what is larger begins with the area.
+void KeepInWorkArea(Form& form);
+
+/// Moves a form onto the monitor nearest to it, when too little of it lies on any to be seen and
+/// dragged.
+void BringOntoMonitor(Form& form);
+
+}  // namespace korvale
