@@ -4,8 +4,6 @@
 
 #include <string>
 
-#include "util/text.h"
-
 namespace korvale {
 namespace {
 
@@ -14,6 +12,8 @@ struct Case {
   std::string stored;
   std::string title;
   bool matches;
+  /// Without the blanks at the ends, which a caption loses.
+  bool ofCaption = matches;
 };
 
 void PrintTo(const Case& matchCase, std::ostream* out) { *out << matchCase.name; }
@@ -26,8 +26,7 @@ TEST_P(TitleMatch, FollowsTheFormOfTheIdentification) {
 
 TEST_P(TitleMatch, TakesACaptionForItsTextWithoutBlanksAtTheEnds) {
   const Case& matchCase = GetParam();
-  EXPECT_EQ(TitleMatches("&3  " + matchCase.stored, matchCase.title, true),
-            TitleMatches(Trim(matchCase.stored), matchCase.title, false));
+  EXPECT_EQ(TitleMatches("&3  " + matchCase.stored, matchCase.title, true), matchCase.ofCaption);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -58,8 +57,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Case{"NoSeparatorWholeTitle", "Untitled - ***", "Untitled", true},
                     Case{"NoSeparatorPartOfTitle", "Untitled - ***", "Untitled 2", false},
                     Case{"OtherCase", "untitled - ***", "Untitled - Notepad", false},
-                    Case{"EmptyAgainstSeparatorFirst", " - ***", " - Notepad", true},
-                    Case{"EmptyAgainstEmpty", " - ***", "", true},
+                    Case{"EmptyAgainstSeparatorFirst", " - ***", " - Notepad", true, false},
+                    Case{"EmptyAgainstEmpty", " - ***", "", true, false},
                     Case{"EmptyAgainstTitle", " - ***", "a - b", false},
                     Case{"BothMarksAreALeftPart", "*** - x - ***", "*** - x", false},
                     Case{"BothMarksOverlapping", "*** - ***", "*** - Notepad", true},
@@ -81,8 +80,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Case{"NoSeparatorWholeTitle", "*** - Notepad", "Notepad", true},
                     Case{"NoSeparatorPartOfTitle", "*** - Notepad", "Notepad 2", false},
                     Case{"OtherCase", "*** - notepad", "Untitled - Notepad", false},
-                    Case{"EmptyAgainstSeparatorLast", "*** - ", "Untitled - ", true},
-                    Case{"EmptyAgainstEmpty", "*** - ", "", true},
+                    Case{"EmptyAgainstSeparatorLast", "*** - ", "Untitled - ", true, false},
+                    Case{"EmptyAgainstEmpty", "*** - ", "", true, false},
                     Case{"EmptyAgainstTitle", "*** - ", "Untitled - Notepad", false},
                     Case{"OverlappingSeparators", "*** - b", "a - - b", true},
                     Case{"Cyrillic", "*** - Блокнот", "Безымянный - Блокнот", true},

@@ -21,12 +21,73 @@ class WindowFilterTest : public DesktopCase {
   }
 };
 
-TEST_F(WindowFilterTest, OrdinaryWindowPassesAllChecks) {
-  const WindowHandle hwnd = desktop.Open("Alpha");
-  EXPECT_TRUE(Basic(hwnd));
+struct KindCase {
+  const char* name;
+  const char* title;
+  NewWindow window;
+  bool basic;
+  bool allowed;
+  /// What makes a window allowed that is not.
+  bool clsOptions::*option = nullptr;
+};
+
+void PrintTo(const KindCase& kind, std::ostream* out) { *out << kind.name; }
+
+class WindowKind : public WindowFilterTest, public testing::WithParamInterface<KindCase> {};
+
+TEST_P(WindowKind, PassesTheChecksThatItMay) {
+  const KindCase& kind = GetParam();
+  const WindowHandle hwnd = desktop.Open(kind.title, kind.window);
+  EXPECT_EQ(Basic(hwnd), kind.basic);
+  EXPECT_EQ(Allowed(hwnd), kind.allowed);
+  EXPECT_EQ(filter.IsSelectableWindow(hwnd, true, false), kind.basic && kind.allowed);
+  if (kind.option == nullptr) return;
+  options.Get().*kind.option = true;
   EXPECT_TRUE(Allowed(hwnd));
-  EXPECT_TRUE(filter.IsSelectableWindow(hwnd, true, false));
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    Windows, WindowKind,
+    testing::Values(
+        KindCase{"Ordinary", "Alpha", {}, true, true},
+        KindCase{"BareDesktop", "Program Manager", {.className = "Progman"}, false, true},
+        KindCase{"TitledLikeIt", "Program Manager", {.className = "Notepad"}, true, true},
+        KindCase{"ClassLikeIt", "Program Manager", {.className = "progman"}, true, true},
+        KindCase{"OfItsClass", "program manager", {.className = "Progman"}, true, true},
+        KindCase{"TitledStatic", "Alpha", {.className = "Static"}, true, true},
+        KindCase{"UntitledStatic", "", {.className = "Static"}, false, false},
+        KindCase{"UntitledLikeStatic", "", {.className = "static"}, true, false},
+        KindCase{"Untitled", "", {}, true, false, &clsOptions::booAllowNoTextWindow},
+        KindCase{"Hidden", "Alpha", {.visible = false}, true, true},
+        KindCase{"Disabled", "Alpha", {.enabled = false}, true, true},
+        KindCase{"Iconic", "Alpha", {.iconic = true}, true, true},
+        KindCase{"Tool",
+                 "Alpha",
+                 {.exStyle = win32::kWsExToolWindow},
+                 true,
+                 false,
+                 &clsOptions::booAllowToolbarWindow},
+        KindCase{"Topmost", "Alpha", {.exStyle = win32::kWsExTopmost}, true, true},
+        KindCase{"ModalFrame",
+                 "Alpha",
+                 {.style = win32::kDsModalFrame},
+                 true,
+                 false,
+                 &clsOptions::booAllowModalFrameWindow},
+        KindCase{"SystemModal",
+                 "Alpha",
+                 {.style = win32::kDsSysModal},
+                 true,
+                 false,
+                 &clsOptions::booAllowModalFrameWindow},
+        KindCase{
+            "AllOfThese",
+            "Alpha",
+            {.style = win32::kDsModalFrame | win32::kDsSysModal, .exStyle = win32::kWsExToolWindow},
+            true,
+            false},
+        KindCase{"WithoutAnyStyle", "Alpha", {.style = 0, .visible = false}, true, true}),
+    [](const auto& param) { return param.param.name; });
 
 TEST_F(WindowFilterTest, NoWindowFailsTheBasicChecks) {
   EXPECT_FALSE(Basic(0));
@@ -45,32 +106,6 @@ TEST_F(WindowFilterTest, HiddenOwnerOfTheMainWindowFailsTheBasicChecks) {
 
 TEST_F(WindowFilterTest, MainWindowPassesTheBasicChecks) { EXPECT_TRUE(Basic(mainWindow.handle)); }
 
-TEST_F(WindowFilterTest, DesktopWindowFailsTheBasicChecks) {
-  EXPECT_FALSE(Basic(desktop.Open("Program Manager", {.className = "Progman"})));
-}
-
-TEST_F(WindowFilterTest, ProgramManagerOfAnotherClassPasses) {
-  EXPECT_TRUE(Basic(desktop.Open("Program Manager", {.className = "Notepad"})));
-  EXPECT_TRUE(Basic(desktop.Open("Program Manager", {.className = "progman"})));
-}
-
-TEST_F(WindowFilterTest, ProgmanWithAnotherTitlePasses) {
-  EXPECT_TRUE(Basic(desktop.Open("program manager", {.className = "Progman"})));
-}
-
-TEST_F(WindowFilterTest, UntitledStaticFailsTheBasicChecks) {
-  EXPECT_FALSE(Basic(desktop.Open("", {.className = "Static"})));
-}
-
-TEST_F(WindowFilterTest, UntitledWindowOfAnotherClassPassesTheBasicChecks) {
-  EXPECT_TRUE(Basic(desktop.Open("", {.className = "Edit"})));
-  EXPECT_TRUE(Basic(desktop.Open("", {.className = "static"})));
-}
-
-TEST_F(WindowFilterTest, TitledStaticPassesTheBasicChecks) {
-  EXPECT_TRUE(Basic(desktop.Open("Alpha", {.className = "Static"})));
-}
-
 TEST_F(WindowFilterTest, AboutBoxFailsTheBasicChecksWhileItIsLoaded) {
   const WindowHandle about = desktop.Open("About");
   EXPECT_TRUE(Basic(about));
@@ -84,49 +119,6 @@ TEST_F(WindowFilterTest, AboutBoxWithoutAWindowExcludesNothing) {
   EXPECT_TRUE(Basic(desktop.Open("Alpha")));
 }
 
-TEST_F(WindowFilterTest, HiddenDisabledAndIconicWindowsPassTheBasicChecks) {
-  EXPECT_TRUE(Basic(desktop.Open("Hidden", {.visible = false})));
-  EXPECT_TRUE(Basic(desktop.Open("Disabled", {.enabled = false})));
-  EXPECT_TRUE(Basic(desktop.Open("Iconic", {.iconic = true})));
-}
-
-TEST_F(WindowFilterTest, BasicChecksIgnoreStylesAndOptions) {
-  EXPECT_TRUE(Basic(Styled(win32::kDsModalFrame | win32::kDsSysModal, win32::kWsExToolWindow)));
-}
-
-TEST_F(WindowFilterTest, UntitledWindowNeedsTheOption) {
-  const WindowHandle hwnd = desktop.Open("");
-  EXPECT_FALSE(Allowed(hwnd));
-  options.Get().booAllowNoTextWindow = true;
-  EXPECT_TRUE(Allowed(hwnd));
-}
-
-TEST_F(WindowFilterTest, ToolWindowNeedsTheOption) {
-  const WindowHandle hwnd = Styled(fakes::kWsOverlappedWindow, win32::kWsExToolWindow);
-  EXPECT_FALSE(Allowed(hwnd));
-  options.Get().booAllowToolbarWindow = true;
-  EXPECT_TRUE(Allowed(hwnd));
-}
-
-TEST_F(WindowFilterTest, OtherExtendedStylesNeedNoOption) {
-  EXPECT_TRUE(Allowed(Styled(fakes::kWsOverlappedWindow, 0)));
-  EXPECT_TRUE(Allowed(Styled(fakes::kWsOverlappedWindow, win32::kWsExTopmost)));
-}
-
-TEST_F(WindowFilterTest, ModalFrameNeedsTheOption) {
-  const WindowHandle hwnd = Styled(win32::kDsModalFrame, 0);
-  EXPECT_FALSE(Allowed(hwnd));
-  options.Get().booAllowModalFrameWindow = true;
-  EXPECT_TRUE(Allowed(hwnd));
-}
-
-TEST_F(WindowFilterTest, SystemModalNeedsTheOption) {
-  const WindowHandle hwnd = Styled(win32::kDsSysModal, 0);
-  EXPECT_FALSE(Allowed(hwnd));
-  options.Get().booAllowModalFrameWindow = true;
-  EXPECT_TRUE(Allowed(hwnd));
-}
-
 TEST_F(WindowFilterTest, OptionsDialogIsAllowedWithItsModalFrame) {
   const WindowHandle dialog = Styled(win32::kDsModalFrame, 0);
   forms.Load("FRMOPTIONS", dialog);
@@ -138,14 +130,6 @@ TEST_F(WindowFilterTest, OptionsDialogIsNotAllowedWhenSystemModal) {
   const WindowHandle dialog = Styled(win32::kDsModalFrame | win32::kDsSysModal, 0);
   forms.Load("frmOptions", dialog);
   EXPECT_FALSE(Allowed(dialog));
-}
-
-TEST_F(WindowFilterTest, WindowWithoutAnyStyleIsAllowed) {
-  EXPECT_TRUE(Allowed(desktop.Open("Alpha", {.style = 0, .visible = false})));
-}
-
-TEST_F(WindowFilterTest, OptionChecksAloneLetTheDesktopWindowPass) {
-  EXPECT_TRUE(Allowed(desktop.Open("Program Manager", {.className = "Progman"})));
 }
 
 TEST_F(WindowFilterTest, BothChecksTogetherNeedBoth) {

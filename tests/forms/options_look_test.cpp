@@ -175,6 +175,7 @@ TEST_F(OptionsLookTest, TheAccessKeysOfTheCheckBoxesSetThem) {
 
 TEST_F(OptionsLookTest, EveryControlStandsInsideWhatHoldsIt) {
   OpenDialog();
+  ASSERT_GT(dialog_.Controls().size(), 30U);
   for (const Control& control : dialog_.Controls()) {
     const ControlState& state = control.State();
     const TwipsRect room = state.container == 0 ? TwipsRect{0, 0, 14100 - 90, 7335 - 400}

@@ -33,6 +33,7 @@ class ReadableColorsTest : public MainWindowTest {
       copy.host.ChangeSysColor(kWindowTextColor, scheme.windowText);
       copy.host.ChangeSysColor(kButtonFaceColor, scheme.face);
       copy.host.ChangeSysColor(kButtonTextColor, scheme.faceText);
+      ASSERT_FALSE(form.Controls().empty());
       for (const Control& control : form.Controls()) {
         const ControlState look = copy.user.Look(form.Handle(), control.Id());
         const double contrast = ContrastRatio(copy.host.GetSysColor(look.foreColor),
