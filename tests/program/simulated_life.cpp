@@ -54,6 +54,7 @@ void SimulatedLife::Note(std::string what) {
 void SimulatedLife::StartKorvale() {
   korvale_ = &NewCopy();
   workedIn_.ForgetAll();
+  taskbarFollowed_ = false;
   korvale_->host.SetIdle([this] { return LiveInDialog(); });
   noMoreBoxes_ = false;
   WaitForBoxes();
@@ -164,11 +165,9 @@ void SimulatedLife::Meanwhile() {
     case 1:
       return PassTime();
     case 2: {
-      const std::vector<RegisteredHotKey> table = korvale_->HotKeys().Registered();
-      if (table.empty()) return;
-      const RegisteredHotKey& hotKey = dice_->Pick(table);
-      if (hotKey.accepted && korvale_->Suspended()) Press(hotKey);
-      return;
+      const std::vector<HotKey> working = WorkingHotKeys();
+      if (working.empty() || !korvale_->Suspended()) return;
+      return Press(HotKey(dice_->Pick(working)));
     }
     default:
       return;

@@ -6,6 +6,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "app/core/stored_tags.h"
@@ -44,8 +45,15 @@ class SimulatedLife : public KorvaleWorld {
     /// Where the user works, 0 when that is not certain.
     WindowHandle present = 0;
     std::size_t boxes = 0;
-    /// Windows that are out of sight, minimized or hung.
-    std::set<WindowHandle> folded = {};
+    /// The windows that the user has just been in.
+    std::set<WindowHandle> known = {};
+    std::set<WindowHandle> hidden = {};
+  };
+  /// Modifiers and key.
+  using Combination = std::pair<std::uint32_t, std::uint32_t>;
+  struct HotKey {
+    std::string name;
+    Combination combination;
   };
 
   // simulated_life.cpp
@@ -66,8 +74,8 @@ class SimulatedLife : public KorvaleWorld {
   void PassTime();
   void Wait(int milliseconds);
   void TakeCombination();
-  const RegisteredHotKey* Registered(const std::string& name);
-  void Press(const RegisteredHotKey& hotKey);
+  std::optional<HotKey> Working(const std::string& name);
+  void Press(const HotKey& hotKey);
   void PressTagKey();
   void PressActionKey();
   void PressToggleKey();
@@ -94,12 +102,15 @@ class SimulatedLife : public KorvaleWorld {
   void CheckSelection(const Before& before);
   void CheckSelectedTag(const Before& before, const MenuItem& entry);
   void CheckPreviousSelected(const Before& before);
+  bool IsOnDesktop(WindowHandle hwnd);
+  bool IsOptions(WindowHandle hwnd);
   bool IsFollowed(WindowHandle hwnd);
   bool CanBeSelected(WindowHandle hwnd);
   bool IsExcused(const Before& before, WindowHandle hwnd);
   void CheckAlways();
   void CheckHotKeys();
-  std::vector<RegisteredHotKey> WantedHotKeys();
+  std::vector<HotKey> WantedHotKeys();
+  std::vector<HotKey> WorkingHotKeys();
   Kept Keeps();
   void CheckSaving();
 
@@ -110,7 +121,11 @@ class SimulatedLife : public KorvaleWorld {
   std::deque<std::string> lastSteps_;
   /// A selection that was chosen from the pop-up menu.
   std::optional<Before> poppedUp_;
+  /// What another program has had for itself; Korvale may not have asked again since.
+  std::set<Combination> taken_;
   Kept saved_;
+  /// The taskbar is an untitled palette: who has asked for both kinds may get to it as well.
+  bool taskbarFollowed_ = false;
   bool noMoreBoxes_ = false;
 };
 

@@ -1,20 +1,31 @@
-#include <algorithm>
+#include <map>
 #include <utility>
 
 #include "desktop/tag_list.h"
 #include "desktop/tag_list_storage.h"
 #include "hotkeys/hot_key_names.h"
+#include "platform/win32_constants.h"
 #include "tests/program/simulated_life.h"
 #include "util/text.h"
 
 namespace korvale {
+namespace {
+
+/// The words by which the user told Korvale to know a window, as the Window menu shows them.
+std::string WordsOf(const MenuItem& entry) {
+  std::string words = entry.caption.substr(4);
+  if (words.ends_with(" - ***")) return words.substr(0, words.size() - 6);
+  return words.starts_with("*** - ") ? words.substr(6) : words;
+}
+
+}  // namespace
 
 SimulatedLife::Before SimulatedLife::LookBefore(int tag) {
-  std::set<WindowHandle> folded;
+  std::set<WindowHandle> hidden;
   for (const WindowHandle hwnd : desktop.Windows().TopLevel()) {
-    const FakeWindow& window = *desktop.Windows().Find(hwnd);
-    if (window.iconic || window.hung || !desktop.Windows().IsVisible(hwnd)) folded.insert(hwnd);
+    if (!desktop.Windows().IsVisible(hwnd)) hidden.insert(hwnd);
   }
+  const PreviousWindow& record = korvale_->Record();
   const WindowHandle foreground = desktop.Windows().Foreground();
   const bool sure = IsFollowed(foreground) && foreground != korvale_->Handle();
   if (sure) workedIn_.Work(foreground);
@@ -22,7 +33,8 @@ SimulatedLife::Before SimulatedLife::LookBefore(int tag) {
           .foreground = foreground,
           .present = sure ? foreground : 0,
           .boxes = korvale_->host.Messages().size(),
-          .folded = std::move(folded)};
+          .known = {foreground, record.current.handle, record.alternate.handle},
+          .hidden = std::move(hidden)};
 }
 
 void SimulatedLife::CheckSelection(const Before& before) {
@@ -30,6 +42,7 @@ void SimulatedLife::CheckSelection(const Before& before) {
   const MenuItem* const entry = korvale_->TagEntry(before.tag);
   if (entry == nullptr) {
     EXPECT_EQ(desktop.Windows().Foreground(), before.foreground);
+    EXPECT_EQ(korvale_->host.Messages().size(), before.boxes);
     return;
   }
   const bool told = korvale_->host.Messages().size() > before.boxes;
@@ -48,6 +61,11 @@ void SimulatedLife::CheckSelectedTag(const Before& before, const MenuItem& entry
   const FakeWindow& window = *desktop.Windows().Find(selected);
   const PreviousWindow& record = korvale_->Record();
   EXPECT_TRUE(!window.iconic || window.hung);
+  // A window that the user has just been in is known whatever its title says now.
+  if (!before.known.contains(selected)) {
+    EXPECT_NE(window.title.find(WordsOf(entry)), std::string::npos)
+        << "[" << entry.caption << "] led to [" << window.title << "]";
+  }
   if (selected == before.foreground) return;
   EXPECT_TRUE(desktop.Windows().IsVisible(selected));
   EXPECT_TRUE(window.enabled);
@@ -64,6 +82,7 @@ void SimulatedLife::CheckPreviousSelected(const Before& before) {
   EXPECT_EQ(korvale_->host.Messages().size(), before.boxes);
   if (before.present == 0) return;
   const WindowHandle reached = desktop.Windows().Foreground();
+  EXPECT_TRUE(reached == 0 || IsOnDesktop(reached) || taskbarFollowed_) << log.Window(reached);
   for (const WindowHandle later : workedIn_.LaterThan(reached == before.present ? 0 : reached)) {
     if (later == before.present || !CanBeSelected(later)) continue;
     EXPECT_TRUE(IsExcused(before, later))
@@ -73,24 +92,43 @@ void SimulatedLife::CheckPreviousSelected(const Before& before) {
   if (reached != before.present) workedIn_.Work(reached);
 }
 
-/// Korvale follows the user into this window, tagged or not.
+/// A window that a user would call one: neither the desktop nor the taskbar, and of Korvale only
+/// the main window and the Options dialog.
+bool SimulatedLife::IsOnDesktop(WindowHandle hwnd) {
+  const FakeWindow* const window = desktop.Windows().Find(hwnd);
+  if (window == nullptr || !desktop.Windows().IsVisible(hwnd)) return false;
+  if (window->process != kOtherProcess) return hwnd == korvale_->Handle() || IsOptions(hwnd);
+  const std::string& name = window->className;
+  return name != "Progman" && name != "Shell_TrayWnd" &&
+         (name != "Static" || !window->title.empty());
+}
+
+bool SimulatedLife::IsOptions(WindowHandle hwnd) {
+  const Form* const dialog = korvale_->program.Forms().Find("frmOptions");
+  return dialog != nullptr && dialog->Handle() == hwnd;
+}
+
+/// Korvale follows the user into this window, tagged or not: it is a window of the kinds that they
+/// ask for in the options.
 bool SimulatedLife::IsFollowed(WindowHandle hwnd) {
-  const WindowFilter& filter = korvale_->Filter();
-  return filter.IsSelectableWindow(hwnd, false, false) &&
-         filter.IsSelectableWindow(hwnd, true, true) && desktop.Windows().IsVisible(hwnd);
+  if (!IsOnDesktop(hwnd)) return false;
+  const FakeWindow& window = *desktop.Windows().Find(hwnd);
+  const clsOptions& options = korvale_->Options();
+  const bool palette = (window.exStyle & win32::kWsExToolWindow) != 0;
+  const bool dialog = (window.style & win32::kDsModalFrame) != 0;
+  return (options.booAllowNoTextWindow || !window.title.empty()) &&
+         (options.booAllowToolbarWindow || !palette) && (!dialog || IsOptions(hwnd));
 }
 
 bool SimulatedLife::CanBeSelected(WindowHandle hwnd) {
-  const FakeWindow* const window = desktop.Windows().Find(hwnd);
-  return window != nullptr && window->enabled && desktop.Windows().IsVisible(hwnd) &&
-         korvale_->Filter().IsSelectableWindow(hwnd, false, false);
+  return IsOnDesktop(hwnd) && desktop.Windows().Find(hwnd)->enabled;
 }
 
-/// Windows may refuse to bring this window to the front.
+/// Windows may refuse to bring this window to the front, or to show the window that owns it.
 bool SimulatedLife::IsExcused(const Before& before, WindowHandle hwnd) {
   const FakeWindow* const window = desktop.Windows().Find(hwnd);
   return programs_->ForegroundLocked() ||
-         (window != nullptr && before.folded.contains(window->owner));
+         (window != nullptr && before.hidden.contains(window->owner));
 }
 
 void SimulatedLife::CheckAlways() {
@@ -104,51 +142,49 @@ void SimulatedLife::CheckAlways() {
   EXPECT_EQ(clock.IntervalOf(form.Handle(), form.Find("tmrWindow").Id()), 100U);
   EXPECT_TRUE(desktop.Windows().Find(form.Handle())->enabled);
   EXPECT_FALSE(korvale_->Suspended());
+  const clsOptions& options = korvale_->Options();
+  if (options.booAllowNoTextWindow && options.booAllowToolbarWindow) taskbarFollowed_ = true;
   CheckHotKeys();
   CheckSaving();
 }
 
+/// Every combination that the user asks for works, and no other; of two that are the same the
+/// first.
 void SimulatedLife::CheckHotKeys() {
-  const std::vector<RegisteredHotKey>& table = korvale_->HotKeys().Registered();
-  std::vector<FakeHotKeys::Registration> expected;
-  for (std::size_t i = 0; i < table.size(); ++i) {
-    if (!table[i].accepted) continue;
-    expected.push_back({korvale_->Handle(), static_cast<int>(i) + 1,
-                        static_cast<std::uint32_t>(table[i].modifiers),
-                        static_cast<std::uint32_t>(table[i].key)});
+  std::map<Combination, std::string> wanted;
+  for (const auto& [name, combination] : WantedHotKeys()) wanted.emplace(combination, name);
+  for (const FakeHotKeys::Registration& registered : hotKeys.Registered()) {
+    EXPECT_EQ(registered.hwnd, korvale_->Handle());
+    const auto asked = wanted.extract({registered.modifiers, registered.key});
+    ASSERT_FALSE(asked.empty()) << registered.modifiers << "+" << registered.key;
+    EXPECT_EQ(korvale_->HotKeys().NameOf(static_cast<std::uintptr_t>(registered.id)),
+              asked.mapped());
   }
-  EXPECT_EQ(hotKeys.Registered() == expected, true) << "registered is another than the table";
-  const std::vector<RegisteredHotKey> wanted = WantedHotKeys();
-  EXPECT_TRUE(std::ranges::equal(
-      table, wanted, [](const RegisteredHotKey& left, const RegisteredHotKey& right) {
-        return left.name == right.name && left.modifiers == right.modifiers &&
-               left.key == right.key;
-      }));
+  for (const auto& [combination, name] : wanted) {
+    EXPECT_TRUE(taken_.contains(combination)) << name << " does not work";
+  }
 }
 
 /// What the options ask for.
-std::vector<RegisteredHotKey> SimulatedLife::WantedHotKeys() {
+std::vector<SimulatedLife::HotKey> SimulatedLife::WantedHotKeys() {
   const clsOptions& options = korvale_->Options();
-  std::vector<RegisteredHotKey> wanted;
+  std::vector<HotKey> wanted;
+  const auto add = [&](const std::string& name, std::int16_t modifiers, std::int16_t key) {
+    if (key == 0) return;
+    wanted.push_back(
+        {name, {static_cast<std::uint32_t>(modifiers), static_cast<std::uint32_t>(key)}});
+  };
   if (korvale_->HotKeys().HotKeysActive()) {
     for (std::int16_t tag = 0; tag <= 9; ++tag) {
       if (!options.booHotKeyParent[static_cast<std::size_t>(tag)]) continue;
-      wanted.push_back({ParentHotKeyName(tag), options.intHotKeyModParent,
-                        static_cast<std::int16_t>('0' + tag)});
+      add(ParentHotKeyName(tag), options.intHotKeyModParent, static_cast<std::int16_t>('0' + tag));
     }
-    const auto add = [&](const char* name, std::int16_t modifiers, std::int16_t key) {
-      if (key != 0) wanted.push_back({name, modifiers, key});
-    };
-    add("HOTKEY_MINIMIZE_PARENT", options.intHotKeyModAction[0], options.intHotKeyAction[0]);
-    add("HOTKEY_RESTORE/MAXIMIZE_PARENT", options.intHotKeyModAction[1],
-        options.intHotKeyAction[1]);
-    add("HOTKEY_DISPLAY_OPTIONS", options.intHotKeyModGeneral[0], options.intHotKeyGeneral[0]);
-    add("HOTKEY_WINDOW_MENU_POPUP", options.intHotKeyModGeneral[1], options.intHotKeyGeneral[1]);
+    add(kHotKeyMinimizeParent, options.intHotKeyModAction[0], options.intHotKeyAction[0]);
+    add(kHotKeyRestoreMaximizeParent, options.intHotKeyModAction[1], options.intHotKeyAction[1]);
+    add(kHotKeyDisplayOptions, options.intHotKeyModGeneral[0], options.intHotKeyGeneral[0]);
+    add(kHotKeyWindowMenuPopup, options.intHotKeyModGeneral[1], options.intHotKeyGeneral[1]);
   }
-  if (options.intHotKeyGeneral[2] != 0) {
-    wanted.push_back(
-        {"HOTKEY_TOGGLE_HOTKEYS", options.intHotKeyModGeneral[2], options.intHotKeyGeneral[2]});
-  }
+  add(kHotKeyToggleHotKeys, options.intHotKeyModGeneral[2], options.intHotKeyGeneral[2]);
   return wanted;
 }
 

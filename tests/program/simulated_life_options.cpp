@@ -27,8 +27,8 @@ void SimulatedLife::UseOptions() {
 }
 
 void SimulatedLife::OpenOptions() {
-  const RegisteredHotKey* const hotKey = Registered("HOTKEY_DISPLAY_OPTIONS");
-  if (hotKey != nullptr && dice_->OneIn(2)) {
+  const std::optional<HotKey> hotKey = Working(kHotKeyDisplayOptions);
+  if (hotKey && dice_->OneIn(2)) {
     Press(*hotKey);
   } else {
     UseMenu({"Tools", "Options..."});

@@ -60,47 +60,56 @@ void SimulatedLife::TakeCombination() {
   const std::uint32_t key = kDigitZeroKey + static_cast<std::uint32_t>(dice_->Below(10));
   if (dice_->OneIn(2) && hotKeys.RegisterForeign(modifiers, key)) {
     Note("a program takes a combination");
+    taken_.insert({modifiers, key});
   } else {
     hotKeys.ReleaseForeign(modifiers, key);
   }
 }
 
-const RegisteredHotKey* SimulatedLife::Registered(const std::string& name) {
-  const auto& table = korvale_->HotKeys().Registered();
-  const auto found = std::ranges::find(table, name, &RegisteredHotKey::name);
-  return found != table.end() && found->accepted ? &*found : nullptr;
+std::vector<SimulatedLife::HotKey> SimulatedLife::WorkingHotKeys() {
+  std::set<Combination> registered;
+  for (const auto& held : hotKeys.Registered()) registered.insert({held.modifiers, held.key});
+  std::vector<HotKey> working = WantedHotKeys();
+  std::erase_if(working,
+                [&](const HotKey& hotKey) { return registered.erase(hotKey.combination) == 0; });
+  return working;
 }
 
-void SimulatedLife::Press(const RegisteredHotKey& hotKey) {
+std::optional<SimulatedLife::HotKey> SimulatedLife::Working(const std::string& name) {
+  for (const HotKey& hotKey : WorkingHotKeys()) {
+    if (hotKey.name == name) return hotKey;
+  }
+  return std::nullopt;
+}
+
+void SimulatedLife::Press(const HotKey& hotKey) {
   Note("presses " + hotKey.name);
-  EXPECT_TRUE(hotKeys.Press(static_cast<std::uint32_t>(hotKey.modifiers),
-                            static_cast<std::uint32_t>(hotKey.key)));
+  EXPECT_TRUE(hotKeys.Press(hotKey.combination.first, hotKey.combination.second));
 }
 
 void SimulatedLife::PressTagKey() {
   const int tag = dice_->OneIn(3) ? 0 : dice_->Below(10);
-  const RegisteredHotKey* const hotKey =
-      Registered(ParentHotKeyName(static_cast<std::int16_t>(tag)));
-  if (hotKey == nullptr) return;
+  const std::optional<HotKey> hotKey = Working(ParentHotKeyName(static_cast<std::int16_t>(tag)));
+  if (!hotKey) return;
   const Before before = LookBefore(tag);
   Press(*hotKey);
   CheckSelection(before);
 }
 
 void SimulatedLife::PressActionKey() {
-  const RegisteredHotKey* const hotKey =
-      Registered(dice_->OneIn(2) ? "HOTKEY_MINIMIZE_PARENT" : "HOTKEY_RESTORE/MAXIMIZE_PARENT");
-  if (hotKey != nullptr) Press(*hotKey);
+  const std::optional<HotKey> hotKey =
+      Working(dice_->OneIn(2) ? kHotKeyMinimizeParent : kHotKeyRestoreMaximizeParent);
+  if (hotKey) Press(*hotKey);
 }
 
 void SimulatedLife::PressToggleKey() {
-  const RegisteredHotKey* const hotKey = Registered("HOTKEY_TOGGLE_HOTKEYS");
-  if (hotKey != nullptr) Press(*hotKey);
+  const std::optional<HotKey> hotKey = Working(kHotKeyToggleHotKeys);
+  if (hotKey) Press(*hotKey);
 }
 
 void SimulatedLife::PopUpWindowMenu() {
-  const RegisteredHotKey* const hotKey = Registered("HOTKEY_WINDOW_MENU_POPUP");
-  if (hotKey == nullptr) return;
+  const std::optional<HotKey> hotKey = Working(kHotKeyWindowMenuPopup);
+  if (!hotKey) return;
   korvale_->host.WhenPopupMenu([this](const std::vector<ShownMenuItem>& items) {
     const std::string caption = dice_->OneIn(4) ? "" : SomeEntry(items);
     Note("  chooses [" + caption + "]");
@@ -135,9 +144,7 @@ std::string SimulatedLife::SomeEntry(const std::vector<ShownMenuItem>& items) {
 
 void SimulatedLife::UseWindowMenu() {
   GoToKorvale();
-  std::vector<ShownMenuItem> items;
-  // Each opening looks at the foreground; after three nothing is new to it any more.
-  for (int i = 0; i < 3; ++i) items = korvale_->WindowMenuItems();
+  const std::vector<ShownMenuItem> items = korvale_->WindowMenuItems();
   const std::string caption = dice_->OneIn(3) ? items.back().caption : SomeEntry(items);
   Note("chooses [" + caption + "] from the Window menu");
   if (!items.back().enabled && caption == items.back().caption) return;

@@ -23,7 +23,7 @@ constexpr std::array kTitles = {"Alpha",
                                 "Korvale - Work",
                                 "&1  Alpha",
                                 "a title of more than thirty characters - Editor"};
-constexpr std::array kClasses = {"Editor", "Viewer", "#32770", "Shell_TrayWnd"};
+constexpr std::array kClasses = {"Editor", "Viewer", "#32770", "Static"};
 
 }  // namespace
 
@@ -35,7 +35,7 @@ std::string SimulatedPrograms::Act() {
   if (open_.size() < 2) return OpenWindow();
   if (locked_ && dice_->OneIn(3)) return LockForeground();
   const WindowHandle hwnd = dice_->Pick(open_);
-  switch (dice_->Below(14)) {
+  switch (dice_->Below(15)) {
     case 0:
     case 1:
       return open_.size() < kMostWindows ? OpenWindow() : CloseWindow(hwnd);
@@ -51,6 +51,8 @@ std::string SimulatedPrograms::Act() {
       return Bother(hwnd);
     case 8:
       return dice_->OneIn(4) ? LockForeground() : Show(hwnd);
+    case 9:
+      return VisitShell();
     default:
       if (!desktop_->Windows().IsVisible(hwnd)) return Show(hwnd);
       desktop_->UserActivates(hwnd);
@@ -142,6 +144,17 @@ std::string SimulatedPrograms::Bother(WindowHandle hwnd) {
   if (owner == 0) return ChangeWindow(hwnd);
   desktop_->SetEnabled(owner, true);
   return CloseWindow(hwnd);
+}
+
+/// A click into the taskbar or onto the bare desktop.
+std::string SimulatedPrograms::VisitShell() {
+  const char* const name = dice_->OneIn(2) ? "Shell_TrayWnd" : "Progman";
+  for (const WindowHandle hwnd : desktop_->Windows().TopLevel()) {
+    if (desktop_->Windows().Find(hwnd)->className != name) continue;
+    desktop_->UserActivates(hwnd);
+    break;
+  }
+  return "is left for " + std::string(name);
 }
 
 std::string SimulatedPrograms::LockForeground() {

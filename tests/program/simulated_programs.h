@@ -29,6 +29,7 @@ class SimulatedPrograms {
   std::string ChangeWindow(WindowHandle hwnd);
   std::string Show(WindowHandle hwnd);
   std::string Bother(WindowHandle hwnd);
+  std::string VisitShell();
   std::string LockForeground();
 
   FakeDesktop* desktop_;
