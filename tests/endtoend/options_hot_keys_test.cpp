@@ -4,9 +4,6 @@ namespace korvale::endtoend {
 namespace {
 
 constexpr char kClass[] = "Test.Window";
-constexpr char kReactivated[] =
-    "The hot keys are currently deactivated.  They will now be re-activated, for any changes (if "
-    "any) made to the hot keys on the Hot Keys tab of the Options dialog box can take effect.";
 constexpr char kResetQuestion[] = "Reset all Options to default ?";
 constexpr char kResetNote[] =
     "Note:  This operation will not effect any of the Settings changed from the View menu.";
@@ -18,15 +15,8 @@ class OptionsHotKeys : public OptionsTest {
     return WaitFor([&] { return HotKeyIsFree(chord); });
   }
 
-  void SwitchHotKeysOff() {
-    Press(kToggleKey);
-    ASSERT_TRUE(korvale_->Form("frmWaitWindow"));
-    ASSERT_TRUE(WaitFor([this] { return !korvale_->HasForm("frmWaitWindow"); }));
-    ASSERT_TRUE(HotKeyIsFree(TagKey(1)));
-  }
-
-  /// Presses Reset, and answers the question.
-  ::testing::AssertionResult Reset(const OptionsDialog& dialog, int answer) {
+  /// Presses Reset, and agrees.
+  ::testing::AssertionResult Reset(const OptionsDialog& dialog) {
     Click(dialog.Button("Reset All Options to Default"));
     const Window box = korvale_->MessageBox();
     if (!box) return ::testing::AssertionFailure() << "no question";
@@ -35,7 +25,7 @@ class OptionsHotKeys : public OptionsTest {
     EXPECT_TRUE(text.starts_with(kResetQuestion)) << text;
     EXPECT_NE(text.find("The default options will be Applied automatically."), std::string::npos);
     EXPECT_TRUE(text.ends_with(kResetNote)) << text;
-    if (!AnswerBox(box, answer)) return ::testing::AssertionFailure() << "the question stays";
+    if (!AnswerBox(box, IDOK)) return ::testing::AssertionFailure() << "the question stays";
     return TakesKeys(dialog);
   }
 };
@@ -74,38 +64,12 @@ TEST_F(OptionsHotKeys, AreRegisteredAsTheDialogSaysWhenItIsApplied) {
   EXPECT_EQ(settings().Get("Options", "HotKeyParent5"), "False");
 }
 
-TEST_F(OptionsHotKeys, AreSwitchedOnAgainByApply) {
-  Start();
-  SwitchHotKeysOff();
-  const OptionsDialog dialog = OpenOptionsByMenu();
-  Press({MOD_ALT, 'A'});
-  const Window box = korvale_->MessageBox();
-  ASSERT_TRUE(box);
-  EXPECT_EQ(box.Title(), "Korvale - Options (Save)");
-  ASSERT_TRUE(Says(kReactivated));
-  ASSERT_TRUE(TakesKeys(dialog));
-  EXPECT_FALSE(HotKeyIsFree(TagKey(1)));
-  EXPECT_TRUE(InFront(dialog.form()));
-  ASSERT_TRUE(Apply(dialog));
-  EXPECT_FALSE(korvale_->HasMessageBox());
-}
-
-TEST_F(OptionsHotKeys, StayAsTheyAreWhenResetIsCancelled) {
-  installation_.SetOption("HotKeyModParent", "2");
-  const OptionsDialog dialog = StartWithOptions(Page::kHotKeys);
-  const Pairs before = StoredOptions();
-  ASSERT_TRUE(Reset(dialog, IDCANCEL));
-  EXPECT_EQ(StoredOptions(), before);
-  EXPECT_EQ(dialog.Chosen(List::kTagModifier), "Ctrl");
-  EXPECT_FALSE(HotKeyIsFree(kCtrl1));
-}
-
 TEST_F(OptionsHotKeys, AreTheDefaultsAfterReset) {
   installation_.SetOption("HotKeyModParent", "2");
   installation_.SetOption("HotKeyGeneral2", "0");
   const OptionsDialog dialog = StartWithOptions(Page::kHotKeys);
   ASSERT_TRUE(HotKeyIsFree(TagKey(1)));
-  ASSERT_TRUE(Reset(dialog, IDOK));
+  ASSERT_TRUE(Reset(dialog));
   EXPECT_TRUE(HotKeyIsFree(kCtrl1));
   for (const Chord key : AllHotKeys()) EXPECT_FALSE(HotKeyIsFree(key)) << key.key;
   EXPECT_EQ(dialog.Chosen(List::kTagModifier), "Alt");
@@ -131,15 +95,6 @@ TEST_F(OptionsHotKeys, ThatAnotherProgramHasAreNamedUntilItGivesThemBack) {
   ASSERT_TRUE(WorkIn(Open("Beta")));
   Press(TagKey(5));
   EXPECT_TRUE(InFront(alpha));
-}
-
-TEST_F(OptionsHotKeys, ThatTheUserChoseTwiceAreToldApartFromThoseOfOtherPrograms) {
-  const OptionsDialog dialog = StartWithOptions(Page::kHotKeys);
-  ASSERT_TRUE(Pick(dialog, List::kMaximizeKey, VK_DOWN, "DownArrow"));
-  ASSERT_TRUE(Apply(dialog));
-  const Window line = dialog.Label("Chosen twice");
-  ASSERT_TRUE(line);
-  EXPECT_EQ(line.Text(), "Chosen twice:  Alt+DownArrow");
 }
 
 }  // namespace

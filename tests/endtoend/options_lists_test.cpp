@@ -3,62 +3,9 @@
 namespace korvale::endtoend {
 namespace {
 
-using Entries = OptionsDialog::Entries;
 using enum OptionsDialog::List;
 
-constexpr OptionsDialog::List kModifierLists[] = {kTagModifier,      kMinimizeModifier,
-                                                  kMaximizeModifier, kOptionsModifier,
-                                                  kMenuModifier,     kToggleModifier};
-constexpr OptionsDialog::List kKeyLists[] = {kMinimizeKey, kMaximizeKey, kOptionsKey, kMenuKey,
-                                             kToggleKey};
-
-const Entries kModifiers = {{" ", 0}, {"Alt", 1}, {"Ctrl", 2}, {"Shift", 4}, {"Windows®", 8}};
-
-Entries Keys() {
-  Entries keys = {{" ", 0}};
-  for (int number = 1; number <= 12; ++number) {
-    keys.emplace_back("F" + std::to_string(number), VK_F1 + number - 1);
-  }
-  keys.insert(keys.end(), {{"PrintScrn", VK_SNAPSHOT},
-                           {"Pause", VK_PAUSE},
-                           {"Numpad /", VK_DIVIDE},
-                           {"Numpad *", VK_MULTIPLY},
-                           {"Numpad -", VK_SUBTRACT},
-                           {"Numpad +", VK_ADD},
-                           {"Numpad .", VK_DECIMAL}});
-  for (int digit = 0; digit <= 9; ++digit) {
-    keys.emplace_back("Numpad " + std::to_string(digit), VK_NUMPAD0 + digit);
-  }
-  for (char letter = 'A'; letter <= 'Z'; ++letter)
-    keys.emplace_back(std::string(1, letter), letter);
-  keys.insert(
-      keys.end(),
-      {{"Insert", VK_INSERT}, {"Delete", VK_DELETE}, {"DownArrow", VK_DOWN}, {"UpArrow", VK_UP}});
-  return keys;
-}
-
 class OptionsLists : public OptionsTest {};
-
-TEST_F(OptionsLists, HoldTheirEntriesInOrderWithTheValuesThatAreStored) {
-  const OptionsDialog dialog = StartWithOptions(Page::kHotKeys);
-  ASSERT_EQ(Keys().size(), 60U);
-  for (const auto list : kModifierLists) EXPECT_EQ(dialog.EntriesOf(list), kModifiers);
-  for (const auto list : kKeyLists) EXPECT_EQ(dialog.EntriesOf(list), Keys());
-}
-
-TEST_F(OptionsLists, ShowTheStoredHotKeys) {
-  installation_.SetOption("HotKeyModParent", "4");
-  installation_.SetOption("HotKeyAction1", "0");
-  const OptionsDialog dialog = StartWithOptions(Page::kHotKeys);
-  EXPECT_EQ(dialog.Chosen(kTagModifier), "Shift");
-  EXPECT_EQ(dialog.Chosen(kMinimizeModifier), "Alt");
-  EXPECT_EQ(dialog.Chosen(kMinimizeKey), "DownArrow");
-  EXPECT_EQ(dialog.Chosen(kMaximizeKey), " ");
-  EXPECT_EQ(dialog.Chosen(kOptionsModifier), "Windows®");
-  EXPECT_EQ(dialog.Chosen(kMenuKey), "W");
-  EXPECT_EQ(dialog.Chosen(kToggleModifier), " ");
-  EXPECT_EQ(dialog.Chosen(kToggleKey), "Pause");
-}
 
 TEST_F(OptionsLists, TakeTheKeyThatIsPressedInThem) {
   const OptionsDialog dialog = StartWithOptions(Page::kHotKeys);
@@ -131,19 +78,6 @@ TEST_F(OptionsLists, OfModifiersTakeNoKeyThatIsPressedInThem) {
   Press({0, VK_BACK});
   Press({0, VK_F7});
   EXPECT_TRUE(HoldsFor([&] { return dialog.Chosen(kTagModifier) == "Alt"; }));
-}
-
-TEST_F(OptionsLists, WithoutTheStoredValueShowNothingAndLeaveItAsItIs) {
-  installation_.SetOption("HotKeyModParent", "6");
-  installation_.SetOption("HotKeyAction0", "55");
-  const OptionsDialog dialog = StartWithOptions(Page::kHotKeys);
-  EXPECT_TRUE(dialog.HasNoChoice(kTagModifier));
-  EXPECT_TRUE(dialog.HasNoChoice(kMinimizeKey));
-  EXPECT_FALSE(dialog.HasNoChoice(kMaximizeKey));
-  ASSERT_TRUE(dialog.Confirm());
-  EXPECT_TRUE(HoldsOption("HotKeyGeneral2", "19"));
-  EXPECT_EQ(settings().Get("Options", "HotKeyModParent"), "6");
-  EXPECT_EQ(settings().Get("Options", "HotKeyAction0"), "55");
 }
 
 }  // namespace

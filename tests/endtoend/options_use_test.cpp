@@ -55,19 +55,6 @@ class Options : public OptionsTest {
   }
 };
 
-TEST_F(Options, OpenOnTheTabThatWasUsedLast) {
-  const OptionsDialog first = StartWithOptions(Page::kGeneral);
-  EXPECT_EQ(first.form().Title(), "Korvale - Options");
-  EXPECT_EQ(first.CurrentPage(), Page::kGeneral);
-  ASSERT_TRUE(first.GoTo(Page::kWindowIdentification));
-  ASSERT_TRUE(first.Cancel());
-  EXPECT_EQ(OpenOptions().CurrentPage(), Page::kWindowIdentification);
-  ASSERT_TRUE(Exit());
-  EXPECT_EQ(settings().Get("Startup", "OptionsTab"), "3");
-  ASSERT_TRUE(StartAgain());
-  EXPECT_EQ(OpenOptions().CurrentPage(), Page::kWindowIdentification);
-}
-
 TEST_F(Options, OpenOnTheHotKeysForAUserWhoReviewsThem) {
   korvale_.emplace(installation_);
   ASSERT_TRUE(AnswerBox(ReviewQuestion(), IDYES));
@@ -105,19 +92,6 @@ TEST_F(Options, ObeyTheAccessKeysOfTheirCaptions) {
   EXPECT_EQ(settings().Get("Options", "SelectPrevWinOnStart"), "True");
   EXPECT_EQ(settings().Get("Options", "AllowToolbarWindow"), "True");
   EXPECT_EQ(settings().Get("Options", "AllowNoTextWindow"), "True");
-}
-
-TEST_F(Options, AreSavedByEnterAndByOk) {
-  const OptionsDialog dialog = StartWithOptions(Page::kGeneral);
-  ASSERT_TRUE(Toggles(dialog, 'W', kSelectPrevious));
-  ASSERT_TRUE(dialog.Confirm());
-  EXPECT_TRUE(HoldsOption("SelectPrevWinOnStart", "True"));
-  const OptionsDialog again = OpenOptions();
-  EXPECT_TRUE(IsChecked(again.Button(kSelectPrevious)));
-  ASSERT_TRUE(Toggles(again, 'W', kSelectPrevious));
-  Click(again.Button("OK"));
-  EXPECT_TRUE(again.IsGone());
-  EXPECT_TRUE(HoldsOption("SelectPrevWinOnStart", "False"));
 }
 
 TEST_F(Options, AreLeftUnchangedByEscCancelAndTheCloseBox) {

@@ -25,13 +25,6 @@ constexpr Frame kFrames[] = {{'G', OptionsDialog::List::kOptionsModifier},
                              {'S', OptionsDialog::List::kMinimizeModifier},
                              {'W', OptionsDialog::List::kTagModifier}};
 
-std::string EntryText(Window list, WPARAM index) {
-  std::wstring text(static_cast<size_t>(list.Send(CB_GETLBTEXTLEN, index)) + 1, L'\0');
-  text.resize(
-      static_cast<size_t>(list.Send(CB_GETLBTEXT, index, reinterpret_cast<LPARAM>(text.data()))));
-  return Utf8(text);
-}
-
 Window FirstWithText(const std::vector<Window>& controls,
                      const std::function<bool(const std::string&)>& fits) {
   const auto found =
@@ -81,20 +74,6 @@ Window OptionsDialog::ListBox(List list) const {
   const std::vector<Window> lists = VisiblePage().Controls("ComboBox");
   const auto index = static_cast<size_t>(list);
   return index < lists.size() ? lists[index] : Window();
-}
-
-OptionsDialog::Entries OptionsDialog::EntriesOf(List list) const {
-  const Window box = ListBox(list);
-  Entries entries;
-  const auto count = static_cast<WPARAM>(box.Send(CB_GETCOUNT));
-  for (WPARAM index = 0; index < count; ++index) {
-    entries.emplace_back(EntryText(box, index), static_cast<int>(box.Send(CB_GETITEMDATA, index)));
-  }
-  return entries;
-}
-
-bool OptionsDialog::HasNoChoice(List list) const {
-  return static_cast<int>(ListBox(list).Send(CB_GETCURSEL)) == CB_ERR;
 }
 
 bool OptionsDialog::Focus(List list) const {

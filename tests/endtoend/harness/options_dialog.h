@@ -2,8 +2,6 @@
 
 #include <optional>
 #include <string>
-#include <utility>
-#include <vector>
 
 #include "tests/endtoend/harness/window.h"
 
@@ -29,9 +27,6 @@ class OptionsDialog {
     kToggleKey,
   };
 
-  /// Text and value of each entry, from top to bottom.
-  using Entries = std::vector<std::pair<std::string, int>>;
-
   OptionsDialog() = default;
   explicit OptionsDialog(Window form) : form_(form) {}
 
@@ -43,11 +38,8 @@ class OptionsDialog {
   bool GoTo(Page page) const;
 
   Window ListBox(List list) const;
-  Entries EntriesOf(List list) const;
   /// The text of the chosen entry, "" when none is chosen.
   std::string Chosen(List list) const { return ListBox(list).Text(); }
-  /// True when no entry is chosen, not even the blank one.
-  bool HasNoChoice(List list) const;
   /// Gives the list the focus with its frame's access key and the Tab key.
   bool Focus(List list) const;
 
