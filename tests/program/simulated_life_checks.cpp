@@ -179,12 +179,13 @@ std::vector<SimulatedLife::HotKey> SimulatedLife::WantedHotKeys() {
       if (!options.booHotKeyParent[static_cast<std::size_t>(tag)]) continue;
       add(ParentHotKeyName(tag), options.intHotKeyModParent, static_cast<std::int16_t>('0' + tag));
     }
-    add(kHotKeyMinimizeParent, options.intHotKeyModAction[0], options.intHotKeyAction[0]);
-    add(kHotKeyRestoreMaximizeParent, options.intHotKeyModAction[1], options.intHotKeyAction[1]);
-    add(kHotKeyDisplayOptions, options.intHotKeyModGeneral[0], options.intHotKeyGeneral[0]);
-    add(kHotKeyWindowMenuPopup, options.intHotKeyModGeneral[1], options.intHotKeyGeneral[1]);
+    add("HOTKEY_MINIMIZE_PARENT", options.intHotKeyModAction[0], options.intHotKeyAction[0]);
+    add("HOTKEY_RESTORE/MAXIMIZE_PARENT", options.intHotKeyModAction[1],
+        options.intHotKeyAction[1]);
+    add("HOTKEY_DISPLAY_OPTIONS", options.intHotKeyModGeneral[0], options.intHotKeyGeneral[0]);
+    add("HOTKEY_WINDOW_MENU_POPUP", options.intHotKeyModGeneral[1], options.intHotKeyGeneral[1]);
   }
-  add(kHotKeyToggleHotKeys, options.intHotKeyModGeneral[2], options.intHotKeyGeneral[2]);
+  add("HOTKEY_TOGGLE_HOTKEYS", options.intHotKeyModGeneral[2], options.intHotKeyGeneral[2]);
   return wanted;
 }
 

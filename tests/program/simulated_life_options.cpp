@@ -27,7 +27,7 @@ void SimulatedLife::UseOptions() {
 }
 
 void SimulatedLife::OpenOptions() {
-  const std::optional<HotKey> hotKey = Working(kHotKeyDisplayOptions);
+  const std::optional<HotKey> hotKey = Working("HOTKEY_DISPLAY_OPTIONS");
   if (hotKey && dice_->OneIn(2)) {
     Press(*hotKey);
   } else {

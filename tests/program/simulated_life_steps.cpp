@@ -98,17 +98,17 @@ void SimulatedLife::PressTagKey() {
 
 void SimulatedLife::PressActionKey() {
   const std::optional<HotKey> hotKey =
-      Working(dice_->OneIn(2) ? kHotKeyMinimizeParent : kHotKeyRestoreMaximizeParent);
+      Working(dice_->OneIn(2) ? "HOTKEY_MINIMIZE_PARENT" : "HOTKEY_RESTORE/MAXIMIZE_PARENT");
   if (hotKey) Press(*hotKey);
 }
 
 void SimulatedLife::PressToggleKey() {
-  const std::optional<HotKey> hotKey = Working(kHotKeyToggleHotKeys);
+  const std::optional<HotKey> hotKey = Working("HOTKEY_TOGGLE_HOTKEYS");
   if (hotKey) Press(*hotKey);
 }
 
 void SimulatedLife::PopUpWindowMenu() {
-  const std::optional<HotKey> hotKey = Working(kHotKeyWindowMenuPopup);
+  const std::optional<HotKey> hotKey = Working("HOTKEY_WINDOW_MENU_POPUP");
   if (!hotKey) return;
   korvale_->host.WhenPopupMenu([this](const std::vector<ShownMenuItem>& items) {
     const std::string caption = dice_->OneIn(4) ? "" : SomeEntry(items);
