@@ -3,6 +3,7 @@
 #include "app/core/error_reporting.h"
 #include "app/core/identity.h"
 #include "app/core/installation.h"
+#include "app/core/save_scope.h"
 #include "desktop/window_readers.h"
 #include "forms/hot_key_lists.h"
 #include "forms/main_form_design.h"
@@ -43,10 +44,10 @@ void StartUp::Initialise(frmMain& form, MainParts& parts) {
   parts.state.startUpFinished = true;
   form.Form_Resize();
   if (parts.state.firstRun) {
-    form.SaveOrTellOnce([&form] {
-      form.udmSaveINI();
-      form.udmSaveOptions();
-    });
+    SaveScope save(parts.settings);
+    form.udmSaveINI();
+    form.udmSaveOptions();
+    form.CommitOrTellOnce(save);
   }
   // Before the main window comes up and takes the user where they want to be.
   MentionRefusedHotKeys(form, parts.hotKeys);
@@ -76,17 +77,19 @@ bool StartUp::RunInstallation(frmMain& form, MainParts& parts) {
     return false;
   }
   parts.settings.FinishInterruptedSave();
-  const InstallationResult result = RunInstallationRule(
-      parts.identity, parts.settings, platform_->system, parts.messages,
-      {[&form] { form.udmLoadOptions(); }, [&form] { form.LoadStartupSettings(); },
-       [&parts] { Settings::ForgetPlacement(parts.startup); }, [&form] { form.udmSaveOptions(); },
-       [&form] { form.udmSaveINI(); },
-       [&form](const std::function<void()>& saves) { form.SaveOrTellOnce(saves); }});
+  const InstallationResult result =
+      RunInstallationRule(parts.identity, parts.settings, platform_->system, parts.messages);
+  // The session may end while the question is shown.
+  if (!result.takeOverFrom.empty() && form.IsLoaded()) {
+    SaveScope save(parts.settings);
+    form.UseSettings(TakeOver(parts.settings, result.takeOverFrom, save));
+    form.CommitOrTellOnce(save);
+  }
   EndIfUnloaded(form);
   parts.state.firstRun = result.firstRun;
   parts.state.lastAnswer = result.lastAnswer;
   if (result.mustEnd) EndBeforeStart(form);
-  return result.takenOver;
+  return !result.takeOverFrom.empty();
 }
 
 void StartUp::MentionOtherInstallation(frmMain& form, WindowEnumeration& enumeration) {
@@ -217,7 +220,9 @@ void StartUp::AskToReviewHotKeys(frmMain& form, MainParts& parts) {
 void StartUp::Unload(frmMain& form, MainParts& parts, bool booNormalShutDown) {
   if (booNormalShutDown) {
     form.udmTimersEnabled(false);
-    form.SaveOrTellOnce([&form] { form.udmSaveINI(); });
+    SaveScope save(parts.settings);
+    form.udmSaveINI();
+    form.CommitOrTellOnce(save);
   }
   parts.desktop.tagPasses.RemoveClosed();
   parts.hotKeys.SetHotKeys("REMOVE");

@@ -74,24 +74,31 @@ void frmMain::udmSaveOptions() { parts_.settings.SaveOptions(parts_.options.Get(
 
 void frmMain::udmDeleteOptions() {
   // A failed deletion stops nothing, but the user must not take old values for defaults.
-  SaveOrTell([this] { parts_.settings.DeleteOptions(); });
+  SaveScope save(parts_.settings);
+  parts_.settings.DeleteOptions();
+  CommitOrTell(save);
 }
 
 void frmMain::udmSaveINI() {
   parts_.settings.SaveINI(parts_.startup, TagsToStore(parts_.desktop.tags));
 }
 
-void frmMain::SaveOrTell(const std::function<void()>& saves) {
+void frmMain::SaveOrTell() {
+  SaveScope save(parts_.settings);
+  udmSaveOptions();
+  udmSaveINI();
+  CommitOrTell(save);
+}
+
+void frmMain::CommitOrTell(SaveScope& save) {
   const bool told = std::exchange(refusalTold_, false);
-  SaveOrTellOnce(saves);
+  CommitOrTellOnce(save);
   refusalTold_ = refusalTold_ || told;
 }
 
-void frmMain::SaveOrTellOnce(const std::function<void()>& saves) {
+void frmMain::CommitOrTellOnce(SaveScope& save) {
   try {
-    parts_.settings.SaveTogether([&](SettingsStore& /*store*/) { saves(); });
-  } catch (const ProgramEnded&) {
-    throw;
+    save.Commit();
   } catch (...) {
     if (std::exchange(refusalTold_, true)) return;
     udmNonFatalError(ErrorPlace::kSaving, CurrentErrorNumber());
@@ -101,6 +108,12 @@ void frmMain::SaveOrTellOnce(const std::function<void()>& saves) {
 void frmMain::LoadStartupSettings() {
   parts_.startup = parts_.settings.LoadStartup();
   RestoreTagList(parts_.desktop.tags, parts_.settings.LoadTagList());
+}
+
+void frmMain::UseSettings(const InstallationSettings& settings) {
+  parts_.options.Get() = settings.options;
+  parts_.startup = settings.startup;
+  RestoreTagList(parts_.desktop.tags, settings.tags);
 }
 
 void frmMain::udmNonFatalError(ErrorPlace intErrorNumber, std::int16_t intVB_ErrNumber) {

@@ -1,12 +1,13 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 
 #include "app/core/identity.h"
+#include "app/core/installation.h"
+#include "app/core/save_scope.h"
 #include "desktop/main_window.h"
 #include "forms/about_form.h"
 #include "forms/color_customizing.h"
@@ -52,14 +53,17 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
 
   void udmUnload(bool booNormalShutDown);
   void udmLoadOptions() override;
-  void udmSaveOptions() override;
+  void udmSaveOptions();
   void udmDeleteOptions() override;
-  void udmSaveINI() override;
-  void SaveOrTell(const std::function<void()>& saves) override;
-  /// The same for a save that the program makes by itself: one message a run is enough.
-  void SaveOrTellOnce(const std::function<void()>& saves);
+  void udmSaveINI();
+  void SaveOrTell() override;
+  /// Commits a save that the program makes by itself; tells the user when the store refuses it, but
+  /// one message a run is enough.
+  void CommitOrTellOnce(SaveScope& save);
   /// Reads the main window's state and the Tag list from the store.
   void LoadStartupSettings();
+  /// Puts settings that were loaded elsewhere in the place of all present ones.
+  void UseSettings(const InstallationSettings& settings);
   void udmNonFatalError(ErrorPlace intErrorNumber, std::int16_t intVB_ErrNumber);
 
   /// Brings the menus up to date; `source` is "mnu" after a menu command, a menu item's name, or
@@ -151,6 +155,8 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
     const char* name_;
   };
 
+  /// Commits a save that the user asked for; tells them each time that the store refuses it.
+  void CommitOrTell(SaveScope& save);
   void BindMenus();
   void BindWindowMenu();
   void ShowAddWindow(AddWindowMode mode);

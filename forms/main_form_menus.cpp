@@ -76,7 +76,9 @@ void frmMain::RefreshMenus(std::string_view source) {
   ShowTopLevelMenus(fromKeyboard || parts_.startup.Menu);
   // A command can end while the program has already been taken down, with everything saved.
   if (fromMenu && !unloaded_) {
-    SaveOrTellOnce([this] { udmSaveINI(); });
+    SaveScope save(parts_.settings);
+    udmSaveINI();
+    CommitOrTellOnce(save);
   }
 }
 

@@ -90,10 +90,7 @@ void frmOptions::cmdApply_Click() {
 void frmOptions::Save() {
   const Hourglass hourglass(*owner_);
   owner_->udmOptions("UPDATE_OPTIONS");
-  owner_->SaveOrTell([this] {
-    owner_->udmSaveOptions();
-    owner_->udmSaveINI();
-  });
+  owner_->SaveOrTell();
   // The session may end while a message is shown.
   if (!IsLoaded()) return;
   if (!owner_->HotKeys().HotKeysActive()) {

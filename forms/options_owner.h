@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <string>
 
@@ -21,11 +20,9 @@ class OptionsDialogOwner {
   /// dialog's values into the record.
   virtual void udmOptions(const std::string& strMode) = 0;
   virtual void udmLoadOptions() = 0;
-  virtual void udmSaveOptions() = 0;
   virtual void udmDeleteOptions() = 0;
-  virtual void udmSaveINI() = 0;
-  /// Makes all saves of `saves` as one; tells the user when the store refuses them.
-  virtual void SaveOrTell(const std::function<void()>& saves) = 0;
+  /// Saves the options and the main window's state as one; tells the user when the store refuses.
+  virtual void SaveOrTell() = 0;
 
   virtual HotKeyTable& HotKeys() = 0;
   virtual MessageBoxes& Messages() = 0;

@@ -32,7 +32,7 @@ class InstallationRule {
                    MessageBoxes& messages)
       : identity_(identity), settings_(settings), system_(system), messages_(messages) {}
 
-  InstallationResult Run(const InstallationImport& import) {
+  InstallationResult Run() {
     InstallationResult result;
     result.firstRun = settings_.NothingStored();
     const auto installations =
@@ -49,10 +49,7 @@ class InstallationRule {
     const std::string other = FirstToTakeOver(installations);
     if (other.empty()) return result;
     result.lastAnswer = AskForImport(other);
-    if (result.lastAnswer == win32::kIdYes) {
-      Import(other, import);
-      result.takenOver = true;
-    }
+    if (result.lastAnswer == win32::kIdYes) result.takeOverFrom = other;
     return result;
   }
 
@@ -112,29 +109,6 @@ class InstallationRule {
                                     win32::kMbYesNo, identity_.messageTitle);
   }
 
-  /// All of it is one save: the other installation's settings are never gone before all of them
-  /// stand under this installation's name, also when the store refuses some.
-  void Import(const std::string& other, const InstallationImport& mainForm) {
-    const auto takeOver = [&](SettingsStore& /*store*/) {
-      {
-        const PointedAt from(settings_, other);
-        mainForm.udmLoadOptions();
-        mainForm.loadStartupSettings();
-        mainForm.forgetPlacement();
-      }
-      mainForm.udmSaveOptions();
-      mainForm.udmSaveINI();
-      settings_.DeletePlacement();
-    };
-    const auto removeOther = [&](SettingsStore& store) {
-      store.DeleteSetting(kInstallationRegister, kRegisterSection, other);
-      const PointedAt removed(settings_, other);
-      settings_.DeleteINI();
-      settings_.DeleteOptions();
-    };
-    mainForm.saveOrTell([&] { settings_.SaveThenDelete(takeOver, removeOther); });
-  }
-
   const ProgramIdentity& identity_;
   Settings& settings_;
   SystemApi& system_;
@@ -144,9 +118,28 @@ class InstallationRule {
 }  // namespace
 
 InstallationResult RunInstallationRule(const ProgramIdentity& identity, Settings& settings,
-                                       SystemApi& system, MessageBoxes& messages,
-                                       const InstallationImport& import) {
-  return InstallationRule(identity, settings, system, messages).Run(import);
+                                       SystemApi& system, MessageBoxes& messages) {
+  return InstallationRule(identity, settings, system, messages).Run();
+}
+
+InstallationSettings TakeOver(Settings& settings, const std::string& other, SaveScope& save) {
+  InstallationSettings taken;
+  {
+    const PointedAt from(settings, other);
+    settings.LoadOptions(taken.options);
+    taken.startup = settings.LoadStartup();
+    taken.tags = settings.LoadTagList();
+  }
+  Settings::ForgetPlacement(taken.startup);
+  settings.SaveOptions(taken.options);
+  settings.SaveINI(taken.startup, taken.tags);
+  settings.DeletePlacement();
+  save.DeleteLast();
+  save.DeleteSetting(kInstallationRegister, kRegisterSection, other);
+  const PointedAt removed(settings, other);
+  settings.DeleteINI();
+  settings.DeleteOptions();
+  return taken;
 }
 
 std::vector<std::string> RegisteredNames(const ProgramIdentity& identity, SettingsStore& store,

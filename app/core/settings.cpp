@@ -5,8 +5,8 @@
 #include <span>
 
 #include "app/core/save_journal.h"
+#include "app/core/save_scope.h"
 #include "app/core/setting_rows.h"
-#include "app/core/store_changes.h"
 #include "util/text.h"
 
 namespace korvale {
@@ -31,10 +31,10 @@ void Load(SettingsStore& store, const std::string& appName,
 }
 
 template <typename Record>
-void Save(SettingsStore& store, const std::string& appName,
-          std::span<const SettingRow<Record>> rows, Record record) {
+void Save(SaveScope& save, const std::string& appName, std::span<const SettingRow<Record>> rows,
+          Record record) {
   for (const SettingRow<Record>& row : rows) {
-    store.SaveSetting(appName, row.section, row.key, SettingText(row.field(record)));
+    save.SaveSetting(appName, row.section, row.key, SettingText(row.field(record)));
   }
 }
 
@@ -54,11 +54,15 @@ void Settings::LoadOptions(clsOptions& options) const {
 }
 
 void Settings::SaveOptions(const clsOptions& options) {
-  SaveTogether([&](SettingsStore& store) { Save(store, appName_, OptionRows(), options); });
+  SaveScope save(*this);
+  Save(save, appName_, OptionRows(), options);
+  save.Commit();
 }
 
 void Settings::DeleteOptions() {
-  SaveTogether([&](SettingsStore& store) { store.DeleteSection(appName_, kOptionsSection); });
+  SaveScope save(*this);
+  save.DeleteSection(appName_, kOptionsSection);
+  save.Commit();
 }
 
 StartupSettings Settings::LoadStartup() const {
@@ -81,29 +85,29 @@ StoredTagList Settings::LoadTagList() const {
 }
 
 void Settings::SaveINI(const StartupSettings& startup, const StoredTagList& tags) {
-  SaveTogether([&](SettingsStore& store) {
-    DeleteINI();
-    Save(store, appName_, StartupRows(), startup);
-    for (const StoredTag& tag : tags) {
-      const std::string key = DecimalText(tag.number);
-      store.SaveSetting(appName_, kTagCaptions, key, tag.caption);
-      if (!tag.className.empty()) store.SaveSetting(appName_, kTagClasses, key, tag.className);
-    }
-  });
+  SaveScope save(*this);
+  DeleteINI();
+  Save(save, appName_, StartupRows(), startup);
+  for (const StoredTag& tag : tags) {
+    const std::string key = DecimalText(tag.number);
+    save.SaveSetting(appName_, kTagCaptions, key, tag.caption);
+    if (!tag.className.empty()) save.SaveSetting(appName_, kTagClasses, key, tag.className);
+  }
+  save.Commit();
 }
 
 void Settings::DeleteINI() {
-  SaveTogether([&](SettingsStore& store) {
-    for (const char* section : kSectionsOfSaveINI) store.DeleteSection(appName_, section);
-  });
+  SaveScope save(*this);
+  for (const char* section : kSectionsOfSaveINI) save.DeleteSection(appName_, section);
+  save.Commit();
 }
 
 void Settings::DeletePlacement() {
-  SaveTogether([&](SettingsStore& store) {
-    for (const auto& row : StartupRows()) {
-      if (row.onImport == OnImport::kDrop) store.DeleteSetting(appName_, row.section, row.key);
-    }
-  });
+  SaveScope save(*this);
+  for (const auto& row : StartupRows()) {
+    if (row.onImport == OnImport::kDrop) save.DeleteSetting(appName_, row.section, row.key);
+  }
+  save.Commit();
 }
 
 void Settings::ForgetPlacement(StartupSettings& startup) {
@@ -117,31 +121,6 @@ bool Settings::NothingStored() const {
   return std::ranges::all_of(
       std::array{kStartupSection, kTagCaptions, kTagClasses, kOptionsSection},
       [&](const char* section) { return store_->GetAllSettings(appName_, section).empty(); });
-}
-
-void Settings::SaveTogether(const std::function<void(SettingsStore&)>& work) {
-  if (together_ != nullptr) return work(*together_);
-  SaveJournal journal(*store_, appName_);
-  ChangeRecorder recorder(*store_);
-  together_ = &recorder;
-  try {
-    work(recorder);
-  } catch (...) {
-    together_ = nullptr;
-    throw;
-  }
-  together_ = nullptr;
-  journal.Commit(recorder.Changes());
-}
-
-void Settings::SaveThenDelete(const std::function<void(SettingsStore&)>& work,
-                              const std::function<void(SettingsStore&)>& deletions) {
-  SaveTogether([&](SettingsStore& store) {
-    work(store);
-    together_->DeleteLast(true);
-    deletions(store);
-    together_->DeleteLast(false);
-  });
 }
 
 void Settings::FinishInterruptedSave() { SaveJournal(*store_, appName_).FinishInterrupted(); }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <string>
 #include <utility>
 
@@ -11,14 +10,15 @@
 
 namespace korvale {
 
-class ChangeRecorder;
+class SaveScope;
 
 /// Loads and saves everything that the program remembers between runs, one table row a setting.
 /// A value that is missing or cannot be converted yields the setting's default.
 ///
-/// A save is made as a whole or not at all, even when the program is killed in the middle of it;
-/// what was begun is ended by FinishInterruptedSave of the next run. Saving throws RunTimeError 70
-/// when the store refuses a value.
+/// A save is made as a whole or not at all, even when the program is killed in the middle of it:
+/// the next run's FinishInterruptedSave, or else the next save, ends what was begun. Every save and
+/// deletion belongs to the open SaveScope and is a save of its own when there is none; saving
+/// throws RunTimeError 70 when the store refuses a value.
 class Settings {
  public:
   Settings(SettingsStore& store, std::string appName);
@@ -51,15 +51,6 @@ class Settings {
   /// True when no section of this installation holds anything.
   bool NothingStored() const;
 
-  /// Everything that `work` saves and deletes, here and through the store that it is given, is made
-  /// as one when it has ended, and none of it when it throws. Until then reads see the store as it
-  /// was. Calls within `work` belong to it.
-  void SaveTogether(const std::function<void(SettingsStore&)>& work);
-  /// The same, followed by deletions that are made only once all of `work` stands: nothing that
-  /// the store refuses is lost under both names.
-  void SaveThenDelete(const std::function<void(SettingsStore&)>& work,
-                      const std::function<void(SettingsStore&)>& deletions);
-
   /// Ends a save under AppName() that a killed run began, or drops it when it had not got far
   /// enough. To be called before loading, and by the only running copy of the installation.
   void FinishInterruptedSave();
@@ -67,10 +58,12 @@ class Settings {
   SettingsStore& Store() { return *store_; }
 
  private:
+  friend class SaveScope;
+
   SettingsStore* store_;
   std::string appName_;
-  /// Collects what the running SaveTogether will make; null outside of one.
-  ChangeRecorder* together_ = nullptr;
+  /// The innermost one; null when there is none.
+  SaveScope* openScope_ = nullptr;
 };
 
 }  // namespace korvale

@@ -37,32 +37,4 @@ bool ApplyChange(SettingsStore& store, const StoreChange& change) {
   return !holdsAny();
 }
 
-std::optional<std::string> ChangeRecorder::GetSetting(const std::string& appName,
-                                                      const std::string& section,
-                                                      const std::string& key) {
-  return store_->GetSetting(appName, section, key);
-}
-
-SettingsStore::Pairs ChangeRecorder::GetAllSettings(const std::string& appName,
-                                                    const std::string& section) {
-  return store_->GetAllSettings(appName, section);
-}
-
-bool ChangeRecorder::SaveSetting(const std::string& appName, const std::string& section,
-                                 const std::string& key, const std::string& value) {
-  changes_.push_back({StoreChange::Kind::kSaveSetting, appName, section, key, value});
-  return true;
-}
-
-bool ChangeRecorder::DeleteSetting(const std::string& appName, const std::string& section,
-                                   const std::string& key) {
-  changes_.push_back({StoreChange::Kind::kDeleteSetting, appName, section, key, "", last_});
-  return true;
-}
-
-bool ChangeRecorder::DeleteSection(const std::string& appName, const std::string& section) {
-  changes_.push_back({StoreChange::Kind::kDeleteSection, appName, section, "", "", last_});
-  return true;
-}
-
 }  // namespace korvale

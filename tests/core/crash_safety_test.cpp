@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 
+#include "app/core/save_scope.h"
 #include "app/core/settings.h"
 #include "tests/core/saves.h"
 #include "tests/core/stored_values.h"
@@ -22,12 +23,12 @@ void SaveNewOptions(SettingsStore& store) {
 
 void SaveBoth(SettingsStore& store) {
   Settings settings(store, kApp);
-  settings.SaveTogether([&](SettingsStore& /*together*/) {
-    clsOptions options;
-    options.intHotKeyModParent = 2;
-    settings.SaveOptions(options);
-    settings.SaveINI(StartupSettings(), NewTags());
-  });
+  SaveScope save(settings);
+  clsOptions options;
+  options.intHotKeyModParent = 2;
+  settings.SaveOptions(options);
+  settings.SaveINI(StartupSettings(), NewTags());
+  save.Commit();
 }
 
 struct SaveCase {

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "app/core/save_journal.h"
+#include "app/core/save_scope.h"
 #include "app/core/settings.h"
 #include "tests/core/saves.h"
 #include "tests/fakes/fake_settings_store.h"
@@ -18,14 +19,12 @@ class DeletedLastTest : public testing::Test {
     store_.SaveSetting("Korvale - Old", "Options", "A", "1");
     store_.RefuseValue(kApp, "ParentWindowList", "1");
     Settings settings(store_, kApp);
-    const auto saveHere = [&](SettingsStore& /*store*/) {
-      settings.SaveINI(StartupSettings(), {{1, "&1  Mail", ""}, {2, "&2  Mail", ""}});
-      settings.DeletePlacement();
-    };
-    const auto deleteOld = [&](SettingsStore& old) {
-      old.DeleteSection("Korvale - Old", "Options");
-    };
-    EXPECT_EQ(ErrorOf([&] { settings.SaveThenDelete(saveHere, deleteOld); }), 70);
+    SaveScope save(settings);
+    settings.SaveINI(StartupSettings(), {{1, "&1  Mail", ""}, {2, "&2  Mail", ""}});
+    settings.DeletePlacement();
+    save.DeleteLast();
+    save.DeleteSection("Korvale - Old", "Options");
+    EXPECT_EQ(ErrorOf([&] { save.Commit(); }), 70);
   }
 
   bool OldIsThere() { return store_.GetSetting("Korvale - Old", "Options", "A") == "1"; }

@@ -136,6 +136,7 @@ TEST_F(InstallationTest, SettingsOfARenamedFolderAreOffered) {
                  "installation of Korvale ?",
                  4, "Korvale"}}));
   EXPECT_EQ(result.lastAnswer, kNo);
+  EXPECT_EQ(result.takeOverFrom, "");
   EXPECT_TRUE(result.firstRun);
 }
 
@@ -156,6 +157,7 @@ TEST_F(InstallationTest, YesTakesTheSettingsOverAndRemovesTheOtherInstallation) 
   const InstallationResult result = Run();
   EXPECT_TRUE(result.firstRun);
   EXPECT_EQ(result.lastAnswer, kYes);
+  EXPECT_EQ(result.takeOverFrom, kOld);
   EXPECT_EQ(Registered(kOld), std::nullopt);
   EXPECT_EQ(Registered(kWork), "D:\\Tools\\Work");
   EXPECT_EQ(ValuesOf(store_, kOld), StoredValues());
@@ -165,6 +167,8 @@ TEST_F(InstallationTest, YesTakesTheSettingsOverAndRemovesTheOtherInstallation) 
   EXPECT_EQ(options.intHotKeyModParent, 2);
   EXPECT_EQ(settings.LoadTagList(),
             (StoredTagList{{1, "&1  Mail", ""}, {4, "&4  *** - Notepad", "Notepad"}}));
+  EXPECT_EQ(taken_.options, options);
+  EXPECT_EQ(taken_.tags, settings.LoadTagList());
   EXPECT_EQ(settings.LoadStartup().Tips, "11");
   EXPECT_FALSE(settings.LoadStartup().Menu);
 }
@@ -178,6 +182,10 @@ TEST_F(InstallationTest, PlacementIsNotTakenOver) {
     EXPECT_EQ(store_.GetSetting(kWork, "Startup", key), std::nullopt) << key;
   }
   EXPECT_EQ(store_.GetAllSettings(kWork, "Startup").size(), 8U);
+  StartupSettings expected;
+  expected.Tips = "11";
+  expected.Menu = false;
+  EXPECT_EQ(taken_.startup, expected);
 }
 
 TEST_F(InstallationTest, LivingInstallationNeverLosesItsSettings) {

@@ -7,7 +7,6 @@
 #include <string>
 
 #include "app/core/installation.h"
-#include "tests/core/form_of_settings.h"
 #include "tests/fakes/call_log.h"
 #include "tests/fakes/fake_message_boxes.h"
 #include "tests/fakes/fake_settings_store.h"
@@ -32,9 +31,12 @@ class InstallationTest : public testing::Test {
   }
   InstallationResult RunOn(SettingsStore& store) {
     Settings settings(store, identity_.mainCaption);
-    FormOfSettings form(settings);
-    const InstallationResult result =
-        RunInstallationRule(identity_, settings, system_, messages_, form.Import());
+    const InstallationResult result = RunInstallationRule(identity_, settings, system_, messages_);
+    if (!result.takeOverFrom.empty()) {
+      SaveScope save(settings);
+      taken_ = TakeOver(settings, result.takeOverFrom, save);
+      save.Commit();
+    }
     EXPECT_EQ(settings.AppName(), identity_.mainCaption);
     return result;
   }
@@ -51,16 +53,16 @@ class InstallationTest : public testing::Test {
   /// A full set of settings, none of them the default.
   static void StoreSettings(SettingsStore& store, const std::string& appName) {
     Settings settings(store, appName);
-    FormOfSettings form(settings);
-    form.options.intHotKeyModParent = 2;
-    form.startup.Left = 100;
-    form.startup.Width = 5000;
-    form.startup.DisplayTips = false;
-    form.startup.Tips = "11";
-    form.startup.Menu = false;
-    form.tags = {{1, "&1  Mail", ""}, {4, "&4  *** - Notepad", "Notepad"}};
-    form.Import().udmSaveOptions();
-    form.Import().udmSaveINI();
+    clsOptions options;
+    options.intHotKeyModParent = 2;
+    StartupSettings startup;
+    startup.Left = 100;
+    startup.Width = 5000;
+    startup.DisplayTips = false;
+    startup.Tips = "11";
+    startup.Menu = false;
+    settings.SaveOptions(options);
+    settings.SaveINI(startup, {{1, "&1  Mail", ""}, {4, "&4  *** - Notepad", "Notepad"}});
     store.SaveSetting(appName, "ButtonTags", "1", "old");
   }
 
@@ -69,6 +71,8 @@ class InstallationTest : public testing::Test {
   FakeSettingsStore store_{log_};
   FakeMessageBoxes messages_;
   ProgramIdentity identity_;
+  /// The settings of the other installation, once they have been taken over.
+  InstallationSettings taken_;
 };
 
 }  // namespace korvale

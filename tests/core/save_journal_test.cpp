@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "app/core/save_scope.h"
 #include "app/core/settings.h"
 #include "platform/run_time_error.h"
 #include "tests/core/saves.h"
@@ -209,28 +210,57 @@ TEST(RefusedSaveTest, TheLastTagWhoseRemovalIsRefusedIsRemovedLater) {
   EXPECT_EQ(store.GetSetting(kApp, "ParentWindowList", "2"), std::nullopt);
 }
 
-TEST(SaveTogetherTest, MakesNothingWhenTheWorkThrows) {
-  FakeSettingsStore store;
-  Settings settings(store, kApp);
-  const auto failing = [&](SettingsStore& /*recorder*/) {
-    settings.SaveOptions(clsOptions());
-    throw RunTimeError(RunTimeError::kOverflow);
-  };
-  EXPECT_EQ(ErrorOf([&] { settings.SaveTogether(failing); }), 6);
-  EXPECT_TRUE(settings.NothingStored());
-  settings.SaveOptions(clsOptions());
-  EXPECT_FALSE(settings.NothingStored());
+/// An empty store.
+class SaveScopeTest : public testing::Test {
+ protected:
+  FakeSettingsStore store_;
+  Settings settings_{store_, kApp};
+};
+
+TEST_F(SaveScopeTest, MakesNothingUntilItIsCommitted) {
+  SaveScope save(settings_);
+  settings_.SaveOptions(clsOptions());
+  save.SaveSetting("Korvale - Home", "Options", "A", "1");
+  EXPECT_EQ(AllValues(store_), StoredValues());
+  EXPECT_TRUE(settings_.NothingStored());
+  save.Commit();
+  EXPECT_FALSE(settings_.NothingStored());
+  EXPECT_EQ(store_.GetSetting("Korvale - Home", "Options", "A"), "1");
 }
 
-TEST(SaveTogetherTest, ReadsSeeTheStoreAsItWasUntilTheEnd) {
-  FakeSettingsStore store;
-  Settings settings(store, kApp);
-  settings.SaveTogether([&](SettingsStore& together) {
-    EXPECT_TRUE(together.SaveSetting(kApp, "Options", "HotKeyAction0", "13"));
-    EXPECT_EQ(together.GetSetting(kApp, "Options", "HotKeyAction0"), std::nullopt);
-    EXPECT_TRUE(together.GetAllSettings(kApp, "Options").empty());
-  });
-  EXPECT_EQ(store.GetSetting(kApp, "Options", "HotKeyAction0"), "13");
+TEST_F(SaveScopeTest, MakesNothingWhenItIsLeftWithout) {
+  {
+    const SaveScope save(settings_);
+    settings_.SaveOptions(clsOptions());
+  }
+  EXPECT_TRUE(settings_.NothingStored());
+  settings_.SaveOptions(clsOptions());
+  EXPECT_FALSE(settings_.NothingStored());
+}
+
+TEST_F(SaveScopeTest, JoinsTheOneAroundIt) {
+  SaveScope save(settings_);
+  settings_.SaveINI(StartupSettings(), NewTags());
+  {
+    const SaveScope dropped(settings_);
+    settings_.SaveOptions(clsOptions());
+  }
+  SaveScope inner(settings_);
+  inner.SaveSetting(kApp, "Options", "A", "1");
+  inner.Commit();
+  EXPECT_EQ(AllValues(store_), StoredValues());
+  save.Commit();
+  EXPECT_EQ(settings_.LoadTagList(), NewTags());
+  EXPECT_EQ(store_.GetAllSettings(kApp, "Options"), (SettingsStore::Pairs{{"A", "1"}}));
+}
+
+TEST_F(SaveScopeTest, IsOverWhenTheStoreHasRefusedIt) {
+  store_.RefuseValue(kApp, "Options", "A");
+  SaveScope save(settings_);
+  save.SaveSetting(kApp, "Options", "A", "1");
+  EXPECT_EQ(ErrorOf([&] { save.Commit(); }), 70);
+  settings_.SaveINI(StartupSettings(), NewTags());
+  EXPECT_EQ(settings_.LoadTagList(), NewTags());
 }
 
 }  // namespace

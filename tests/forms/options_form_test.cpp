@@ -53,9 +53,8 @@ TEST_F(OptionsTest, ApplySavesRegistersAnewAndStaysOpen) {
   OpenDialog();
   PickEntry("cboHotKeyModParent", -1, 2);
   Click(dialog_, "cmdApply");
-  EXPECT_EQ(owner_.log,
-            (std::vector<std::string>{"hourglass", "udmOptions UPDATE_OPTIONS", "udmSaveOptions",
-                                      "udmSaveINI", "default pointer"}));
+  EXPECT_EQ(owner_.log, (std::vector<std::string>{"hourglass", "udmOptions UPDATE_OPTIONS",
+                                                  "SaveOrTell", "default pointer"}));
   EXPECT_EQ(Record().intHotKeyModParent, 2);
   EXPECT_TRUE(dialog_.IsLoaded());
   ASSERT_EQ(keys_.Registered().size(), 15U);
@@ -83,7 +82,7 @@ TEST_F(OptionsTest, EnterSavesAndCloses) {
   OpenDialog();
   Press(dialog_, win32::kVkReturn);
   EXPECT_FALSE(dialog_.IsLoaded());
-  EXPECT_EQ(owner_.log.at(2), "udmSaveOptions");
+  EXPECT_EQ(owner_.log.at(2), "SaveOrTell");
 }
 
 TEST_F(OptionsTest, ApplyWhileToggledOffSaysSoOnceAndSwitchesOn) {
@@ -113,8 +112,8 @@ TEST_F(OptionsTest, SaysThatItSwitchesOnBetweenSavingAndRegistering) {
     EXPECT_FALSE(Record().booHotKeyParent[3]);
   };
   Click(dialog_, "cmdApply");
-  EXPECT_EQ(logThen, (std::vector<std::string>{"hourglass", "udmOptions UPDATE_OPTIONS",
-                                               "udmSaveOptions", "udmSaveINI"}));
+  EXPECT_EQ(logThen,
+            (std::vector<std::string>{"hourglass", "udmOptions UPDATE_OPTIONS", "SaveOrTell"}));
   EXPECT_EQ(owner_.log.back(), "default pointer");
   EXPECT_EQ(keys_.Registered().size(), 14U);
 }

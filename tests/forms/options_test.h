@@ -33,10 +33,8 @@ class FakeOptionsOwner : public OptionsDialogOwner {
     Log("udmLoadOptions");
     options_->Get() = {};
   }
-  void udmSaveOptions() override { Log("udmSaveOptions"); }
   void udmDeleteOptions() override { Log("udmDeleteOptions"); }
-  void udmSaveINI() override { Log("udmSaveINI"); }
-  void SaveOrTell(const std::function<void()>& saves) override { saves(); }
+  void SaveOrTell() override { Log("SaveOrTell"); }
   HotKeyTable& HotKeys() override { return *hotKeys_; }
   MessageBoxes& Messages() override { return messages; }
   std::optional<Color> udmShowColorPalette(Color initial) override {

@@ -59,6 +59,20 @@ TEST_F(ImportTest, AnImportBringsTagsColoursAndTipsButNotThePlace) {
   EXPECT_TRUE(store.Sections(old).empty());
 }
 
+TEST_F(ImportTest, TheSessionCanEndWhileItAsks) {
+  StoreOldInstallation(store, "Korvale - Old");
+  const StoredValues before = ValuesOf(store, "Korvale - Old");
+  KorvaleCopy& korvale = NewCopy();
+  korvale.host.WhenMessageBox([&](const ShownMessage&) {
+    korvale.Form().OnCloseRequested(CloseReason::kSession);
+    return win32::kIdYes;
+  });
+  EXPECT_FALSE(korvale.Start());
+  EXPECT_EQ(korvale.host.Messages().size(), 1U);
+  EXPECT_EQ(ValuesOf(store, "Korvale - Old"), before);
+  EXPECT_TRUE(store.Sections("Korvale - Work").empty());
+}
+
 TEST_F(ImportTest, AnImportOfAlwaysOnTopStillAsksAboutTheHotKeys) {
   StoreOldInstallation(store, "Korvale - Old");
   store.SaveSetting("Korvale - Old", "Startup", "AlwaysOnTop", "True");

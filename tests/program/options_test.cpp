@@ -190,6 +190,20 @@ TEST_F(OptionsExchangeInProgram, TheSessionCanEndWhileItTellsOfARefusedSave) {
   EXPECT_TRUE(hotKeys.Registered().empty());
 }
 
+TEST_F(OptionsExchangeInProgram, ApplySavesTheOptionsAndThenTheStateAsOne) {
+  KorvaleCopy& korvale = StartedCopy();
+  PressHotKey(8, 79);
+  class Form& dialog = korvale.Loaded("frmOptions");
+  store.SaveSetting("Korvale - Work", "Startup", "Menu", "True");
+  log.Clear();
+  korvale.user.Click(dialog.Handle(), korvale.Id(dialog, "cmdApply"));
+  const std::vector<std::string> steps = {"SaveSetting(Korvale - Work, Options",
+                                          "DeleteSection(Korvale - Work, Startup",
+                                          "SaveSetting(Korvale - Work, Startup"};
+  EXPECT_EQ(Order(steps), steps);
+  EXPECT_EQ(log.CallsOf("SaveSetting(Korvale - Work, Saving, Complete").size(), 1U);
+}
+
 TEST_F(OptionsExchangeInProgram, AResetThatTheStoreRefusesIsTold) {
   KorvaleCopy& korvale = StartedCopy();
   store.SaveSetting("Korvale - Work", "Options", "HotKeyModParent", "2");

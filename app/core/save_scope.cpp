@@ -1,0 +1,38 @@
+#include "app/core/save_scope.h"
+
+#include <utility>
+
+namespace korvale {
+
+SaveScope::SaveScope(Settings& settings)
+    : settings_(&settings),
+      outer_(std::exchange(settings.openScope_, this)),
+      journal_(settings.Store(), settings.AppName()),
+      deletesLast_(outer_ != nullptr && outer_->deletesLast_) {}
+
+void SaveScope::SaveSetting(const std::string& appName, const std::string& section,
+                            const std::string& key, const std::string& value) {
+  changes_.push_back({StoreChange::Kind::kSaveSetting, appName, section, key, value});
+}
+
+void SaveScope::DeleteSetting(const std::string& appName, const std::string& section,
+                              const std::string& key) {
+  changes_.push_back({StoreChange::Kind::kDeleteSetting, appName, section, key, "", deletesLast_});
+}
+
+void SaveScope::DeleteSection(const std::string& appName, const std::string& section) {
+  changes_.push_back({StoreChange::Kind::kDeleteSection, appName, section, "", "", deletesLast_});
+}
+
+void SaveScope::Commit() {
+  // Closed first: what the program saves while it tells of a failure is a save of its own.
+  Close();
+  if (outer_ == nullptr) return journal_.Commit(changes_);
+  outer_->changes_.insert(outer_->changes_.end(), changes_.begin(), changes_.end());
+}
+
+void SaveScope::Close() {
+  if (settings_ != nullptr) std::exchange(settings_, nullptr)->openScope_ = outer_;
+}
+
+}  // namespace korvale
