@@ -64,6 +64,9 @@ struct ListItem {
   std::int32_t itemData = 0;
 };
 
+/// So many entries of an open list are seen without scrolling.
+inline constexpr int kDroppedEntries = 9;
+
 /// What a host needs to know of a control to show it. Changed by the shared form code only.
 struct ControlState {
   int id = 0;  ///< 1-based position in the order of the windows; also the Windows control id.
@@ -96,7 +99,6 @@ enum class ControlProperty {
   kBorder,
   kItems,
   kListIndex,
-  kToolTip,
   kDefault
 };
 
@@ -132,6 +134,9 @@ struct FormState {
   MenuBar menu;
   bool menuShown = true;  ///< The menu bar is visible.
   std::vector<ControlState> controls;
+
+  /// The window has a menu bar: one without menus is none.
+  bool ShowsMenuBar() const { return menuShown && menu.AnyVisible(); }
 };
 
 }  // namespace korvale

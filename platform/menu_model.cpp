@@ -36,6 +36,10 @@ MenuBar::MenuBar(std::span<const MenuRow> rows) {
   }
 }
 
+bool MenuBar::AnyVisible() const {
+  return std::ranges::any_of(root_.items, [](const auto& menu) { return menu->visible; });
+}
+
 MenuItem* MenuBar::Find(std::string_view name, int index) { return FindBelow(root_, name, index); }
 
 const MenuItem* MenuBar::Find(std::string_view name, int index) const {

@@ -49,7 +49,8 @@ class MenuBar {
 
   MenuItem& Root() { return root_; }
   const MenuItem& Root() const { return root_; }
-  bool Empty() const { return root_.items.empty(); }
+  /// The user sees at least one menu of it.
+  bool AnyVisible() const;
 
   /// The entry of this name and array index; null when there is none.
   MenuItem* Find(std::string_view name, int index = -1);

@@ -77,6 +77,7 @@ inline constexpr std::uint32_t kVerPlatformWin32Nt = 2;
 // Virtual-key codes
 inline constexpr int kVkTab = 0x09;
 inline constexpr int kVkReturn = 0x0D;
+inline constexpr int kVkMenu = 0x12;
 inline constexpr int kVkPause = 0x13;
 inline constexpr int kVkEscape = 0x1B;
 inline constexpr int kVkSpace = 0x20;

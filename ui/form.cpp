@@ -73,6 +73,9 @@ void Form::BuildFromDesign() {
   state_.menu = MenuBar(design_.menu);
   place_ = design_.place;
   focused_ = 0;
+  pressed_ = 0;
+  altUsed_ = false;
+  refused_.reset();
   shownBefore_ = false;
   controls_.clear();
   state_.controls.reserve(rows_.size());
@@ -238,12 +241,6 @@ const Control& Form::Find(std::string_view name, int index) const {
     if (control.Name() == name && control.Index() == index) return control;
   }
   throw RunTimeError(RunTimeError::kNoSuchControlArrayElement, name);
-}
-
-bool Form::Has(std::string_view name, int index) const {
-  return std::ranges::any_of(state_.controls, [&](const ControlState& control) {
-    return control.name == name && control.index == index;
-  });
 }
 
 Control& Form::ById(int id) { return controls_.at(static_cast<std::size_t>(id) - 1); }

@@ -3,6 +3,7 @@
 #include <deque>
 #include <functional>
 #include <map>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -89,7 +90,6 @@ class Form : public FormEvents {
   /// The control of this name and array index; error 340 when there is none.
   Control& Find(std::string_view name, int index = -1);
   const Control& Find(std::string_view name, int index = -1) const;
-  bool Has(std::string_view name, int index = -1) const;
   Control& ById(int id);
   std::deque<Control>& Controls() { return controls_; }
 
@@ -177,6 +177,8 @@ class Form : public FormEvents {
   void RaiseClick(Control& control);
   void UnchooseNeighbours(const Control& chosen);
   void StartOrStopTimer(const Control& timer);
+  bool IsNews(ShowState state, const TwipsRect& place);
+  void ClickPicture(int control, const MouseInput& input);
 
   // form_keys.cpp: keys of dialogs, access keys and the focus.
   bool DialogKey(int control, int virtualKey, unsigned shift);
@@ -184,7 +186,6 @@ class Form : public FormEvents {
   bool MoveChoice(int from, bool backwards);
   bool PressAccessKey(int focused, char32_t character, bool alt);
   bool UseAccessKey(Control& control, char32_t character);
-  bool FocusBehind(int control);
   void FocusOn(int control);
   void EnsureFocus();
   void KeepFocusReachable();
@@ -208,6 +209,9 @@ class Form : public FormEvents {
   std::deque<Control> controls_;
   WindowHandle handle_ = 0;
   int focused_ = 0;
+  int pressed_ = 0;                   ///< The control that the left button went down on.
+  bool altUsed_ = false;              ///< Alt is held, and a key pressed with it dealt with.
+  std::optional<TwipsRect> refused_;  ///< Where Windows put the window instead of where it should.
   bool keyRepeats_ = false;
   bool shownBefore_ = false;
   bool unloading_ = false;

@@ -1,9 +1,24 @@
 #include <utility>
 
+#include "platform/win32_constants.h"
 #include "ui/form.h"
 #include "ui/form_collection.h"
 
 namespace korvale {
+namespace {
+
+/// Held without Ctrl, which makes other keys of both.
+bool IsAltOnly(unsigned shift) { return (shift & (kAlt | kCtrl)) == kAlt; }
+
+/// Enter, Esc and Tab are nothing that a text of one line could hold; its box would beep at them.
+bool HasNoUseFor(const ControlState& control, char32_t character) {
+  const bool oneLine = control.kind == ControlKind::kComboBox ||
+                       (control.kind == ControlKind::kTextBox && (control.flags & kWordWrap) == 0);
+  return oneLine && (character == win32::kVkReturn || character == win32::kVkEscape ||
+                     character == win32::kVkTab || character == U'\n');
+}
+
+}  // namespace
 
 void Form::Form_KeyDown(int& /*key*/, unsigned /*shift*/) {}
 void Form::Form_KeyUp(Control* /*focused*/, int& /*key*/, unsigned /*shift*/) {}
@@ -106,18 +121,34 @@ void Form::OnListClosedUp(int control) {
 
 bool Form::OnKeyDown(int control, int virtualKey, unsigned shift, bool repeated) {
   if (!IsLoaded() || (control != 0 && !IsControl(control))) return false;
+  if (virtualKey == win32::kVkMenu) altUsed_ = false;
   int key = virtualKey;
   keyRepeats_ = repeated;
   Form_KeyDown(key, shift);
-  if (key == 0 || !IsLoaded()) return true;
-  return DialogKey(control, key, shift);
+  const bool taken = key == 0 || !IsLoaded() || DialogKey(control, key, shift);
+  if (taken && IsAltOnly(shift)) altUsed_ = true;
+  return taken;
+}
+
+bool Form::OnCharacter(int control, char32_t character, unsigned shift) {
+  if (!IsLoaded() || (control != 0 && !IsControl(control))) return false;
+  // Latin letters and digits have been dealt with as keys, whatever the keyboard layout.
+  constexpr char32_t kFirstBeyondAscii = 0x80;
+  if (character < kFirstBeyondAscii) {
+    return control != 0 && HasNoUseFor(StateOf(control), character);
+  }
+  const bool taken = PressAccessKey(control, character, (shift & kAlt) != 0);
+  if (taken && IsAltOnly(shift)) altUsed_ = true;
+  return taken;
 }
 
 bool Form::OnKeyUp(int control, int virtualKey, unsigned shift) {
   if (!IsLoaded() || (control != 0 && !IsControl(control))) return false;
+  // Windows has not seen the key pressed with Alt and would take Alt alone for the way to the menu.
+  const bool altUsed = virtualKey == win32::kVkMenu && std::exchange(altUsed_, false);
   int key = virtualKey;
   Form_KeyUp(control == 0 ? nullptr : &ById(control), key, shift);
-  return key == 0;
+  return altUsed || key == 0;
 }
 
 void Form::OnMouse(int control, const MouseInput& input) {
@@ -127,6 +158,16 @@ void Form::OnMouse(int control, const MouseInput& input) {
   } else if (control == 0 && input.event == MouseEvent::kMove) {
     Form_MouseMove(input);
   }
+  ClickPicture(control, input);
+}
+
+/// A label or image is clicked when the left button goes down and comes up on it.
+void Form::ClickPicture(int control, const MouseInput& input) {
+  if (input.button != MouseButton::kLeft || input.event == MouseEvent::kMove) return;
+  const int pressed = std::exchange(pressed_, input.event == MouseEvent::kDown ? control : 0);
+  if (input.event != MouseEvent::kUp || pressed != control || !IsControl(control)) return;
+  const ControlKind kind = StateOf(control).kind;
+  if (kind == ControlKind::kLabel || kind == ControlKind::kImage) OnClick(control);
 }
 
 void Form::OnFocusMoved(int control) {
@@ -152,8 +193,18 @@ void Form::OnActivated() {
   Form_Activate();
 }
 
+/// False for what is known already, and for a place that Windows gives once more instead of one
+/// that it has refused: a form that insists would hear of it without end.
+bool Form::IsNews(ShowState state, const TwipsRect& place) {
+  const bool asWanted = place == state_.place;
+  if (asWanted) refused_.reset();
+  if ((asWanted || refused_ == place) && state == state_.windowState) return false;
+  if (!asWanted) refused_ = place;
+  return true;
+}
+
 void Form::OnPlaced(ShowState state, const TwipsRect& place) {
-  if (!IsLoaded()) return;
+  if (!IsLoaded() || !IsNews(state, place)) return;
   // A hidden window is never minimized or maximized yet; the model says how it will be shown.
   if (!state_.visible) state = state_.windowState;
   bool changed = state != state_.windowState;

@@ -186,14 +186,6 @@ bool Form::MoveChoice(int from, bool backwards) {
   return true;
 }
 
-bool Form::OnCharacter(int control, char32_t character, unsigned shift) {
-  // Latin letters and digits have been dealt with as keys, whatever the keyboard layout.
-  constexpr char32_t kFirstBeyondAscii = 0x80;
-  if (!IsLoaded() || character < kFirstBeyondAscii) return false;
-  if (control != 0 && !IsControl(control)) return false;
-  return PressAccessKey(control, character, (shift & kAlt) != 0);
-}
-
 bool Form::PressAccessKey(int focused, char32_t character, bool alt) {
   if (!alt && focused != 0 && TakesCharacters(StateOf(focused).kind)) return false;
   const int count = static_cast<int>(state_.controls.size());

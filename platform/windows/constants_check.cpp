@@ -52,6 +52,7 @@ static_assert(kVerPlatformWin32Windows == VER_PLATFORM_WIN32_WINDOWS);
 static_assert(kVerPlatformWin32Nt == VER_PLATFORM_WIN32_NT);
 static_assert(kVkTab == VK_TAB);
 static_assert(kVkReturn == VK_RETURN);
+static_assert(kVkMenu == VK_MENU);
 static_assert(kVkPause == VK_PAUSE);
 static_assert(kVkEscape == VK_ESCAPE);
 static_assert(kVkSpace == VK_SPACE);

@@ -12,9 +12,8 @@
 namespace korvale {
 namespace {
 
-constexpr std::array kPropertyNames = {"kText",      "kPlace",   "kVisible", "kEnabled",
-                                       "kValue",     "kColors",  "kBorder",  "kItems",
-                                       "kListIndex", "kToolTip", "kDefault"};
+constexpr std::array kPropertyNames = {"kText",   "kPlace",  "kVisible", "kEnabled",   "kValue",
+                                       "kColors", "kBorder", "kItems",   "kListIndex", "kDefault"};
 
 bool IsWindowed(ControlKind kind) {
   return kind != ControlKind::kTimer && kind != ControlKind::kLine;
@@ -62,9 +61,6 @@ void CopyProperty(HeadlessControl& control, const ControlState& state, ControlPr
     case ControlProperty::kListIndex:
       shown.listIndex = state.listIndex;
       if (state.kind == ControlKind::kComboBox) CopyText(control, state);
-      return;
-    case ControlProperty::kToolTip:
-      shown.toolTip = state.toolTip;
       return;
     case ControlProperty::kDefault:
       shown.flags = state.flags;
@@ -166,11 +162,9 @@ void HeadlessFormHost::SetWindowTextW(WindowHandle hwnd) {
 void HeadlessFormHost::MoveWindow(WindowHandle hwnd) {
   HeadlessWindow& window = Window(hwnd);
   log_->Add("MoveWindow(" + log_->Window(hwnd) + ")");
-  const TwipsRect wanted = window.form->place;
-  Place(window, wanted);
+  Place(window, window.form->place);
   // A hidden window is in the normal state, whatever it will be shown as.
   const ShowState state = desktop_->State(hwnd);
-  if (window.place == wanted && state == window.form->windowState) return;
   const TwipsRect taken = window.place;
   Tell(hwnd, [&](FormEvents& events) { events.OnPlaced(state, taken); });
 }
@@ -259,9 +253,7 @@ void HeadlessFormHost::SetFrame(const TwipsRect& frame, Twips menuHeight) {
 
 TwipsRect HeadlessFormHost::AdjustWindowRectEx(const FormState& form) {
   TwipsRect frame = form.border == BorderStyle::kNone ? TwipsRect{} : frame_;
-  const bool anyMenu =
-      std::ranges::any_of(form.menu.Root().items, [](const auto& menu) { return menu->visible; });
-  if (form.menuShown && anyMenu) {
+  if (form.ShowsMenuBar()) {
     frame.top += menuHeight_;
     frame.height += menuHeight_;
   }

@@ -24,7 +24,7 @@ bool ReportsMouse(const ControlState& control) {
 
 bool ReportsClick(const ControlState& control) {
   return control.kind == ControlKind::kButton || control.kind == ControlKind::kCheckBox ||
-         control.kind == ControlKind::kOptionButton || (control.flags & kClickable) != 0;
+         control.kind == ControlKind::kOptionButton;
 }
 
 }  // namespace

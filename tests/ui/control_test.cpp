@@ -29,8 +29,8 @@ TEST_F(ControlTest, SettingWhatIsAlreadySetDoesNothing) {
   check.SetEnabled(true);
   check.SetValue(0);
   check.SetPlace(check.Place());
-  check.SetBackColor(check.BackColor());
-  check.SetForeColor(check.ForeColor());
+  check.SetBackColor(check.State().backColor);
+  check.SetForeColor(check.State().foreColor);
   check.SetBorder(false);
   list_.SetListIndex(-1);
   list_.Clear();
@@ -198,6 +198,21 @@ TEST_F(ControlTest, SelectionsOfAFormThatIsNotLoadedAreEmpty) {
 TEST_F(ControlTest, ATagBelongsToTheProgram) {
   form_.Find("tmrTick").SetTag("ON");
   EXPECT_EQ(form_.Find("tmrTick").Tag(), "ON");
+}
+
+TEST_F(ControlTest, ALabelIsClickedWhenTheLeftButtonGoesDownAndComesUpOnIt) {
+  const int label = Id(form_, "lblClick");
+  const auto press = [&](MouseButton button, int down, int up) {
+    form_.OnMouse(down, {MouseEvent::kDown, button});
+    form_.OnMouse(up, {MouseEvent::kUp, button});
+    return form_.Take();
+  };
+  EXPECT_EQ(press(MouseButton::kLeft, label, label), Lines{"click lblClick"});
+  EXPECT_EQ(press(MouseButton::kRight, label, label), Lines{});
+  EXPECT_EQ(press(MouseButton::kLeft, label, 0), Lines{});
+  EXPECT_EQ(press(MouseButton::kLeft, Id(form_, "lblName"), label), Lines{});
+  const int box = Id(form_, "txtName");
+  EXPECT_EQ(press(MouseButton::kLeft, box, box), Lines{});
 }
 
 }  // namespace

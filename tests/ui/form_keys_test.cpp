@@ -6,6 +6,11 @@
 namespace korvale {
 namespace {
 
+constexpr std::array kNotes = {
+    ControlRow{
+        ControlKind::kTextBox, "txtNotes", -1, "", "", {100, 100, 2000, 900}, "", -1, kWordWrap},
+};
+
 class FormKeysTest : public FormTest {
  protected:
   FormKeysTest() { form_.Show(); }
@@ -209,6 +214,37 @@ TEST_F(FormKeysTest, AReleasedKeyMayBeSwallowed) {
   form_.Find("cmdStay").SetFocus();
   Press(form_, win32::kVkSpace);
   EXPECT_EQ(form_.Take(), Lines{});
+}
+
+TEST_F(FormKeysTest, AltIsNoWayToTheMenuOnceAKeyWasTakenWithIt) {
+  form_.onKeyDown = [](int& key, unsigned) {
+    if (key == 'Z') key = 0;
+  };
+  const auto altAlone = [&](unsigned shift, int key) {
+    form_.OnKeyDown(0, win32::kVkMenu, kAlt, false);
+    form_.OnKeyDown(0, key, shift, false);
+    return !form_.OnKeyUp(0, win32::kVkMenu, kNoShift);
+  };
+  EXPECT_FALSE(altAlone(kAlt, 'Z'));
+  EXPECT_FALSE(form_.OnKeyUp(0, win32::kVkMenu, kNoShift));
+  EXPECT_TRUE(altAlone(kAlt, 'X'));
+  EXPECT_TRUE(altAlone(kAlt | kCtrl, 'Z'));
+}
+
+TEST_F(FormKeysTest, ATextOfOneLineSeesNoCharacterThatItsBoxWouldBeepAt) {
+  FormDesign withNotes = Bare("frmNotes");
+  withNotes.controls = kNotes;
+  RecordingForm notes(withNotes, forms_);
+  notes.Load();
+  for (const char32_t character : {U'\r', U'\n', U'\t', U'\x1B'}) {
+    EXPECT_TRUE(form_.OnCharacter(Id(form_, "txtName"), character, kNoShift));
+    EXPECT_TRUE(form_.OnCharacter(Id(form_, "cboPlace"), character, kNoShift));
+    EXPECT_FALSE(form_.OnCharacter(Id(form_, "cboSize"), character, kNoShift));
+    EXPECT_FALSE(form_.OnCharacter(Id(form_, "cmdGo"), character, kNoShift));
+    EXPECT_FALSE(form_.OnCharacter(0, character, kNoShift));
+    EXPECT_FALSE(notes.OnCharacter(Id(notes, "txtNotes"), character, kNoShift));
+  }
+  EXPECT_FALSE(form_.OnCharacter(Id(form_, "txtName"), U'a', kNoShift));
 }
 
 }  // namespace

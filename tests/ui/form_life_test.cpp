@@ -153,8 +153,6 @@ TEST_F(FormLifeTest, WhatTheDesignDoesNotHaveCannotBeFound) {
       EXPECT_EQ(error.Number(), 340);
     }
   }
-  EXPECT_TRUE(form.Has("optColor", 0));
-  EXPECT_FALSE(form.Has("optColor"));
 }
 
 TEST_F(FormLifeTest, WhatIsSetBeforeLoadingDoesNotReachTheHost) {

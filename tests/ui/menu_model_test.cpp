@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/form_model.h"
 #include "platform/run_time_error.h"
 
 namespace korvale {
@@ -49,8 +50,20 @@ TEST(MenuBarTest, RowsNestByTheirDepth) {
   EXPECT_EQ(NamesOf(*bar.Find("mnuView")),
             (std::vector<std::string>{"mnuViewMore", "mnuViewLine"}));
   EXPECT_EQ(NamesOf(*bar.Find("mnuViewMore")), std::vector<std::string>{"mnuViewMoreDeep"});
-  EXPECT_FALSE(bar.Empty());
-  EXPECT_TRUE(MenuBar().Empty());
+}
+
+TEST(MenuBarTest, AFormShowsItsMenuBarWhileOneOfTheMenusIsVisible) {
+  FormState form;
+  EXPECT_FALSE(form.ShowsMenuBar());
+  form.menu = MenuBar(kRows);
+  EXPECT_TRUE(form.ShowsMenuBar());
+  form.menuShown = false;
+  EXPECT_FALSE(form.ShowsMenuBar());
+  form.menuShown = true;
+  for (const char* const menu : {"mnuFile", "mnuView"}) form.menu.Find(menu)->visible = false;
+  EXPECT_TRUE(form.ShowsMenuBar());
+  form.menu.Find("mnuWindow")->visible = false;
+  EXPECT_FALSE(form.ShowsMenuBar());
 }
 
 TEST(MenuBarTest, EntriesAreFoundAtAnyDepthByNameAndIndex) {

@@ -11,7 +11,6 @@
 namespace korvale {
 namespace {
 
-constexpr int kDroppedEntries = 9;
 constexpr int kComboBorders = 6;
 
 /// Gives a combo box the height of its text field; the window itself is as high as its open list.
@@ -117,9 +116,6 @@ void FormControls::Apply(const ControlState& control, ControlProperty property) 
     case ControlProperty::kListIndex:
       if (list) ShowListIndex(window, control);
       break;
-    case ControlProperty::kToolTip:
-      ApplyTip(control);
-      break;
     case ControlProperty::kDefault:
       if (control.kind == ControlKind::kButton) ShowDefault(window, control);
       break;
@@ -152,7 +148,7 @@ void FormControls::ApplyVisible(const ControlState& control) {
 }
 
 void FormControls::ApplyTip(const ControlState& control) {
-  toolTips_.Show(Window(control.id), ToUtf16(control.toolTip), IsVisible(control));
+  toolTips_.Show(Window(control.id), control.toolTip, IsVisible(control));
 }
 
 void FormControls::ApplyIcon(const ControlState& control) {

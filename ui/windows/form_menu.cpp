@@ -36,15 +36,9 @@ void Empty(HMENU menu) {
 
 }  // namespace
 
-bool FormMenu::BarWanted() const {
-  const auto& menus = form_->menu.Root().items;
-  return form_->menuShown &&
-         std::ranges::any_of(menus, [](const auto& menu) { return menu->visible; });
-}
-
 void FormMenu::ShowBar(HWND window) {
   UniqueMenu bar;
-  if (BarWanted()) {
+  if (form_->ShowsMenuBar()) {
     bar.Reset(CreateMenu());
     Fill(bar.Get(), form_->menu.Root());
   }

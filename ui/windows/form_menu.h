@@ -15,8 +15,6 @@ class FormMenu {
  public:
   explicit FormMenu(const FormState& form) : form_(&form) {}
 
-  /// True when the model has a menu bar to show.
-  bool BarWanted() const;
   /// Makes the menu bar from the model and gives it to the window; null when none is wanted.
   void ShowBar(HWND window);
   /// Takes the menu bar from a window that goes.

@@ -215,9 +215,8 @@ std::optional<LRESULT> FormWindow::HandleEnd(UINT message, WPARAM wParam) {
     case WM_CLOSE:
       RequestClose(CloseReason::kUser);
       return 0;
-    case WM_QUERYENDSESSION:
-      return TRUE;
     case WM_ENDSESSION:
+      // All our windows are told of the same end; the main form stands for them.
       if (wParam != FALSE && form_->inTaskbar) RequestClose(CloseReason::kSession);
       return 0;
     case WM_DESTROY:
@@ -259,7 +258,7 @@ std::optional<LRESULT> FormWindow::HandleMouse(UINT message, WPARAM wParam, LPAR
     ::SetCursor(LoadPointer(classes_->Instance(), *pointer_));
     return TRUE;
   }
-  // A click, also one on its title bar, shall not take the keyboard either.
+  // A click, also one on its title bar, must not take the keyboard either.
   if (message == WM_MOUSEACTIVATE && form_->aside) return MA_NOACTIVATEANDEAT;
   if (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) {
     TellMouse(0, hwnd_, message, wParam, lParam);

@@ -71,10 +71,10 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   void OnCombo(int control, UINT notification);
   std::optional<LRESULT> ControlColors(HDC dc, HWND window);
   void TellMouse(int control, HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-  void ClickPicture(int control);
   void TellTyped(int control);
   void TellListPicked(int control);
-  /// Tells the choice of a list or tab strip when it is not the model's.
+  /// Tells the choice of a list or tab strip when it is not the model's: the message that leads
+  /// here may be another program's, the state of the control is not.
   void TellIfPicked(int control);
   void TellPlaced();
   void LimitSize(MINMAXINFO& limits) const;
@@ -93,14 +93,12 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   FormMenu menu_;
   std::optional<KeyFilter> keys_;
   HWND hwnd_ = nullptr;
-  int pressed_ = 0;                    // The label or image that the mouse button went down on.
-  POINT lastMouse_{};                  // Where the mouse was last told to be, on the screen.
-  bool placing_ = false;               // The window is being placed by the model.
-  std::optional<PixelPlace> refused_;  // Where Windows put it instead of where the model wanted.
-  bool watched_ = false;               // The window and its controls are complete.
-  bool destroying_ = false;            // The window goes by our own doing.
-  bool menuOpen_ = false;              // The user is in the menus.
-  bool barOutdated_ = false;           // The menu bar changed meanwhile.
+  POINT lastMouse_{};         // Where the mouse was last told to be, on the screen.
+  bool placing_ = false;      // The window is being placed by the model.
+  bool watched_ = false;      // The window and its controls are complete.
+  bool destroying_ = false;   // The window goes by our own doing.
+  bool menuOpen_ = false;     // The user is in the menus.
+  bool barOutdated_ = false;  // The menu bar changed meanwhile.
 };
 
 /// The style bits and extended style bits of the form's window.

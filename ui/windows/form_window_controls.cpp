@@ -225,23 +225,13 @@ void FormWindow::TellMouse(int control, HWND window, UINT message, WPARAM wParam
   input.y = ToTwips(at.y, dpi);
   input.shift = HeldShiftState();
   events_.Tell([&](FormEvents& events) { events.OnMouse(control, input); });
-  if (input.button != MouseButton::kLeft || input.event == MouseEvent::kMove) return;
-  const int pressed = std::exchange(pressed_, input.event == MouseEvent::kDown ? control : 0);
-  if (input.event == MouseEvent::kUp && pressed == control) ClickPicture(control);
-}
-
-void FormWindow::ClickPicture(int control) {
-  if (control == 0) return;
-  const ControlKind kind = controls_.State(control).kind;
-  if (kind == ControlKind::kLabel || kind == ControlKind::kImage) {
-    events_.Tell([&](FormEvents& events) { events.OnClick(control); });
-  }
 }
 
 std::optional<LRESULT> FormWindow::ControlColors(HDC dc, HWND window) {
   const int id = controls_.IdOf(window);
   if (id == 0) return std::nullopt;
   const ControlState& control = controls_.State(id);
+  // A combo box whose design leaves its colours alone keeps those of Windows.
   if (IsComboKind(control.kind) && IsDefaultColored(control)) return std::nullopt;
   SetTextColor(dc, ToColorRef(control.foreColor));
   SetBkColor(dc, ToColorRef(control.backColor));

@@ -13,24 +13,20 @@ void FormWindow::ShowPlace() {
 }
 
 void FormWindow::TellPlaced() {
+  // One placing by the model is one event, told when all of it is done.
   if (placing_ || !events_.Connected()) return;
   ShowState state = ShowState::kNormal;
   if (IsIconic(hwnd_) != FALSE) state = ShowState::kMinimized;
   if (IsZoomed(hwnd_) != FALSE) state = ShowState::kMaximized;
-  const UINT dpi = GetDpiForWindow(hwnd_);
+  // Where the pixels are the model's, its place is told without what rounding makes of it.
   TwipsRect place = form_->place;
-  const PixelPlace wanted = ToScreenPixels(place, dpi);
-  PixelPlace actual = wanted;
   if (state != ShowState::kMinimized) {
+    const UINT dpi = GetDpiForWindow(hwnd_);
     RECT rect{};
     GetWindowRect(hwnd_, &rect);
-    actual = {rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top};
-    if (actual != wanted) place = ToScreenTwips(rect, dpi);
+    const PixelPlace actual = {rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top};
+    if (actual != ToScreenPixels(place, dpi)) place = ToScreenTwips(rect, dpi);
   }
-  if (actual == wanted) refused_.reset();
-  const bool known = actual == wanted || refused_ == actual;
-  if (known && state == form_->windowState) return;
-  if (actual != wanted) refused_ = actual;
   events_.Tell([&](FormEvents& events) { events.OnPlaced(state, place); });
 }
 
@@ -48,7 +44,7 @@ void FormWindow::LimitSize(MINMAXINFO& limits) const {
 void FormWindow::KeepHeight(WPARAM edge, RECT& place) const {
   if (form_->limits.height == 0) return;
   const LONG height = ToPixels(form_->limits.height, GetDpiForWindow(hwnd_));
-  // The edge that is not dragged stays where it is.
+  // The model has one height only; the edge that is not dragged stays where it is.
   if (edge == WMSZ_TOP || edge == WMSZ_TOPLEFT || edge == WMSZ_TOPRIGHT) {
     place.top = place.bottom - height;
   } else {

@@ -11,12 +11,6 @@ constexpr WPARAM kHighestUnit = 0xFFFF;
 
 bool IsSurrogate(WPARAM unit) { return unit >= 0xD800 && unit <= 0xDFFF; }
 
-/// Characters that a one-line text box has no use for and would beep at.
-bool MakesTextBoxBeep(WPARAM character) {
-  return character == VK_RETURN || character == VK_ESCAPE || character == VK_TAB ||
-         character == L'\n';
-}
-
 }  // namespace
 
 unsigned HeldShiftState() {
@@ -48,38 +42,27 @@ bool KeyFilter::Filter(const MSG& message) {
 
 bool KeyFilter::FilterDown(int control, const MSG& message) {
   const auto key = static_cast<int>(message.wParam);
-  if (key == VK_MENU) altUsed_ = false;
   ShowCues(key);
   const bool repeated = (message.lParam & kWasDown) != 0;
-  const bool taken = events_->Ask([&](FormEvents& events) {
+  return events_->Ask([&](FormEvents& events) {
     return events.OnKeyDown(control, key, HeldShiftState(), repeated);
   });
-  if (taken && message.message == WM_SYSKEYDOWN) altUsed_ = true;
-  return taken;
 }
 
 bool KeyFilter::FilterUp(int control, const MSG& message) {
   const auto key = static_cast<int>(message.wParam);
-  const bool taken = events_->Ask(
+  return events_->Ask(
       [&](FormEvents& events) { return events.OnKeyUp(control, key, HeldShiftState()); });
-  // Windows has not seen the key pressed with Alt and would take Alt alone for the way to the menu.
-  if (key == VK_MENU && std::exchange(altUsed_, false)) return true;
-  return taken;
 }
 
 bool KeyFilter::FilterCharacter(int control, const MSG& message) {
-  if (!IsSurrogate(message.wParam)) {
-    const bool taken = events_->Ask([&](FormEvents& events) {
-      return events.OnCharacter(control, static_cast<char32_t>(message.wParam), HeldShiftState());
-    });
-    if (taken && message.message == WM_SYSCHAR) altUsed_ = true;
-    if (taken) return true;
-  }
-  return control != 0 && MakesTextBoxBeep(message.wParam) &&
-         (SendMessageW(message.hwnd, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) != 0 &&
-         (GetWindowLongPtrW(message.hwnd, GWL_STYLE) & ES_MULTILINE) == 0;
+  if (IsSurrogate(message.wParam)) return false;
+  return events_->Ask([&](FormEvents& events) {
+    return events.OnCharacter(control, static_cast<char32_t>(message.wParam), HeldShiftState());
+  });
 }
 
+/// As the dialogs of Windows do, whose place the filter takes: their keys show the underlines.
 void KeyFilter::ShowCues(int virtualKey) const {
   const bool keyboardWay = virtualKey == VK_MENU || virtualKey == VK_F10 || virtualKey == VK_TAB ||
                            (virtualKey >= VK_LEFT && virtualKey <= VK_DOWN);

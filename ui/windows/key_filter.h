@@ -28,7 +28,6 @@ class KeyFilter {
   HWND form_;
   EventSink* events_;
   FormControls* controls_;
-  bool altUsed_ = false;  // Alt is held, and the form took a key pressed with it.
 };
 
 }  // namespace korvale

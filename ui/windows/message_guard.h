@@ -10,7 +10,8 @@ namespace korvale {
 /// stands, queued ones that Windows itself never queues, and those that would make a window follow
 /// a pointer, arrive as WM_NULL, in every message loop of the thread that made it (WH_GETMESSAGE).
 /// Sent ones of these kinds do not reach the message boxes and dialogs of Windows, nor the lists of
-/// combo boxes (WH_CBT); the windows that we make ourselves ask IsForgedForClass.
+/// combo boxes (WH_CBT); the windows that we make ourselves ask IsForgedForClass. What is judged is
+/// only who a message comes from, never what it means.
 class MessageGuard {
  public:
   MessageGuard();

@@ -5,21 +5,14 @@
 
 #include <utility>
 
+#include "platform/windows/text.h"
+#include "ui/tool_tip.h"
 #include "ui/windows/message_guard.h"
 #include "ui/windows/system_fonts.h"
 #include "ui/windows/units.h"
 
 namespace korvale {
 namespace {
-
-constexpr Twips kWidestTip = 6000;
-constexpr int kMillisecondsToRead = 20000;
-
-std::wstring WithoutBlanks(const std::wstring& text) {
-  const std::size_t start = text.find_first_not_of(L' ');
-  return start == std::wstring::npos ? L""
-                                     : text.substr(start, text.find_last_not_of(L' ') + 1 - start);
-}
 
 TTTOOLINFOW Tool(HWND window, UINT_PTR id) {
   TTTOOLINFOW tool{};
@@ -41,11 +34,11 @@ void ToolTips::Create(HWND form, HINSTANCE instance) {
                                 instance, nullptr));
   SetWindowSubclass(window_.Get(), Guard, 0, reinterpret_cast<DWORD_PTR>(this));
   ChangeDpi();
-  Send(TTM_SETDELAYTIME, TTDT_AUTOPOP, kMillisecondsToRead);
+  Send(TTM_SETDELAYTIME, TTDT_AUTOPOP, kToolTipMilliseconds);
 }
 
 void ToolTips::ChangeDpi() {
-  Send(TTM_SETMAXTIPWIDTH, 0, ToPixels(kWidestTip, GetDpiForWindow(form_)));
+  Send(TTM_SETMAXTIPWIDTH, 0, ToPixels(kWidestToolTip, GetDpiForWindow(form_)));
 }
 
 void ToolTips::Drop() {
@@ -70,7 +63,7 @@ void ToolTips::Send(UINT message, WPARAM wParam, LPARAM lParam) {
   ours_ = outer;
 }
 
-void ToolTips::Show(HWND control, const std::wstring& text, bool shown) {
+void ToolTips::Show(HWND control, const std::string& text, bool shown) {
   const HWND parent = GetParent(control);
   const HWND field = TextField(control);
   const auto controlId = reinterpret_cast<UINT_PTR>(control);
@@ -95,15 +88,14 @@ void ToolTips::Relay(const MSG& message) {
   Send(TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&copy));
 }
 
-bool ToolTips::FitsOneLine(const std::wstring& text) const {
+Twips ToolTips::WidthOf(const std::string& text) const {
   const auto font = reinterpret_cast<HFONT>(SendMessageW(window_.Get(), WM_GETFONT, 0, 0));
-  return TextWidth(font, text) <= ToPixels(kWidestTip, GetDpiForWindow(form_));
+  return ToTwips(TextWidth(font, ToUtf16(text)), GetDpiForWindow(form_));
 }
 
 void ToolTips::Add(HWND window, UINT_PTR id, UINT flags, const RECT& area,
-                   const std::wstring& text) {
-  // The blanks around a text would stand before the first of several lines only.
-  std::wstring copy = FitsOneLine(text) ? text : WithoutBlanks(text);
+                   const std::string& text) {
+  std::wstring copy = ToUtf16(ShownToolTip(text, WidthOf(text)));
   TTTOOLINFOW tool = Tool(window, id);
   tool.uFlags = flags;
   tool.rect = area;

@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "platform/types.h"
 #include "platform/windows/handles.h"
 
 namespace korvale {
@@ -22,7 +23,7 @@ class ToolTips {
   void Drop();
 
   /// Sets the tip of a control, "" = none. `shown` tells whether the control is visible.
-  void Show(HWND control, const std::wstring& text, bool shown);
+  void Show(HWND control, const std::string& text, bool shown);
   /// Lets the tips follow the mouse; called with each message of the form before it is dispatched.
   void Relay(const MSG& message);
 
@@ -30,8 +31,8 @@ class ToolTips {
   static LRESULT CALLBACK Guard(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
                                 DWORD_PTR tips);
   void Send(UINT message, WPARAM wParam, LPARAM lParam);
-  bool FitsOneLine(const std::wstring& text) const;
-  void Add(HWND window, UINT_PTR id, UINT flags, const RECT& area, const std::wstring& text);
+  Twips WidthOf(const std::string& text) const;
+  void Add(HWND window, UINT_PTR id, UINT flags, const RECT& area, const std::string& text);
   void Remove(HWND window, UINT_PTR id);
 
   HWND form_ = nullptr;

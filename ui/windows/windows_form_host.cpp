@@ -125,7 +125,7 @@ void WindowsFormHost::SetSelection(WindowHandle hwnd, int control, TextSelection
 }
 
 TwipsRect WindowsFormHost::AdjustWindowRectEx(const FormState& form) {
-  const BOOL menu = FormMenu(form).BarWanted() ? TRUE : FALSE;
+  const BOOL menu = form.ShowsMenuBar() ? TRUE : FALSE;
   UINT dpi = GetDpiForSystem();
   int further = 0;
   for (const auto& [hwnd, other] : forms_->All()) {

@@ -36,6 +36,7 @@ class WindowsFormHost : public FormHost {
  private:
   static LRESULT CALLBACK OwnerProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
   /// The window that owns a new form: the main form's, or for the main form the hidden one.
+  /// Windows keeps a window above its owner and out of the taskbar.
   HWND OwnerOf(const FormState& form) const;
 
   OpenForms* forms_;
