@@ -15,15 +15,6 @@ std::string AccessKey(std::string_view caption) {
   return "";
 }
 
-std::string ShownCaption(std::string_view caption) {
-  std::string shown;
-  for (std::size_t i = 0; i < caption.size(); ++i) {
-    if (caption[i] == '&' && ++i == caption.size()) break;
-    shown += caption[i];
-  }
-  return shown;
-}
-
 bool HasAccessKey(std::string_view caption, char32_t character) {
   const std::string key = AccessKey(caption);
   return !key.empty() && UpperCase(FirstCharacter(key).codePoint) == UpperCase(character);

@@ -8,9 +8,6 @@ namespace korvale {
 /// The character that "&" marks in a caption, "" when there is none. "&&" marks nothing.
 std::string AccessKey(std::string_view caption);
 
-/// The caption as it is drawn: without the mark of the access key and with "&&" as "&".
-std::string ShownCaption(std::string_view caption);
-
 /// True when the access key of `caption` is this character, in either case.
 bool HasAccessKey(std::string_view caption, char32_t character);
 

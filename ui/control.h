@@ -46,11 +46,8 @@ class Control {
   int Value() const { return state_->value; }
   void SetValue(int value);
 
-  Color BackColor() const { return state_->backColor; }
   void SetBackColor(Color color);
-  Color ForeColor() const { return state_->foreColor; }
   void SetForeColor(Color color);
-  bool Border() const { return state_->border; }
   void SetBorder(bool border);
 
   std::span<const ListItem> Items() const { return state_->items; }

@@ -111,6 +111,15 @@ TwipsRect Limited(const TwipsRect& place, const SizeLimits& limits) {
   return taken;
 }
 
+std::string ShownCaption(std::string_view caption) {
+  std::string shown;
+  for (std::size_t i = 0; i < caption.size(); ++i) {
+    if (caption[i] == '&' && ++i == caption.size()) break;
+    shown += caption[i];
+  }
+  return shown;
+}
+
 ShownMenuItem DrawItem(const MenuItem& item) {
   if (item.IsSeparator()) return {"-", "", false, true};
   const std::string text = MenuText(item);

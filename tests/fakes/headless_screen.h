@@ -2,6 +2,7 @@
 
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/form_host.h"
@@ -65,6 +66,8 @@ struct HeadlessWindow {
 /// What Windows makes of a place that a window of these limits is given (WM_GETMINMAXINFO).
 TwipsRect Limited(const TwipsRect& place, const SizeLimits& limits);
 
+/// A caption as Windows draws it: without the mark of the access key and with "&&" as "&".
+std::string ShownCaption(std::string_view caption);
 /// The entry as it is drawn.
 ShownMenuItem DrawItem(const MenuItem& item);
 /// The visible entries of a menu as they are drawn.

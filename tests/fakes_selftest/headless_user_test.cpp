@@ -227,5 +227,13 @@ TEST_F(HeadlessUserTest, TheMouseMayBePressedWithShiftAndAnyButton) {
   EXPECT_EQ(form_.Take(), std::vector<std::string>{"click lblClick"});
 }
 
+TEST(ShownCaptionTest, MarksAreNotDrawnAndDoubledAmpersandsOnce) {
+  EXPECT_EQ(ShownCaption("&File"), "File");
+  EXPECT_EQ(ShownCaption("&3  R&&D - 日本"), "3  R&D - 日本");
+  EXPECT_EQ(ShownCaption("&&&&"), "&&");
+  EXPECT_EQ(ShownCaption("end&"), "end");
+  EXPECT_EQ(ShownCaption(""), "");
+}
+
 }  // namespace
 }  // namespace korvale

@@ -36,7 +36,7 @@ class AddWindowStory : public KorvaleWorld {
   }
   void ExpectState(class Form& dialog, const std::string& text, Color color) {
     EXPECT_EQ(dialog.Find("lblWindow").Text(), text);
-    EXPECT_EQ(dialog.Find("lblWindow").ForeColor(), color);
+    EXPECT_EQ(dialog.Find("lblWindow").State().foreColor, color);
     EXPECT_EQ(dialog.Find("cmdRemove").Enabled(), color == kRed);
   }
   void ExpectTagSelects(int tag, WindowHandle hwnd) {

@@ -45,8 +45,8 @@ TEST_F(ImportTest, AnImportBringsTagsColoursAndTipsButNotThePlace) {
   EXPECT_EQ(Stored("ParentWindowList", "1"), "&1  Alpha");
   EXPECT_EQ(Stored("ParentWindowList", "4"), "&4  *** - Notes");
   EXPECT_EQ(Stored("ParentWindowClass", "4"), "NotesFrame");
-  EXPECT_EQ(korvale.Form().Find("txtWindow").BackColor(), 255);
-  EXPECT_EQ(korvale.Form().Find("txtWindowClass").BackColor(), 65280);
+  EXPECT_EQ(korvale.Form().Find("txtWindow").State().backColor, 255);
+  EXPECT_EQ(korvale.Form().Find("txtWindowClass").State().backColor, 65280);
   EXPECT_EQ(korvale.Startup().Tips, "01");
   EXPECT_EQ(korvale.Options().intHotKeyModParent, 2);
   EXPECT_EQ(korvale.user.Place(korvale.Handle()), (TwipsRect{3000, 1500, 4500, 1100}));
@@ -143,7 +143,7 @@ class RefusedImportTest : public StartTest, public testing::WithParamInterface<T
     EXPECT_EQ(korvale.Tags().ParentWindowClass[3], "NotesFrame");
     EXPECT_EQ(korvale.Options().intHotKeyModParent, 2);
     EXPECT_EQ(korvale.Startup().Tips, "01");
-    EXPECT_EQ(korvale.Form().Find("txtWindow").BackColor(), 255);
+    EXPECT_EQ(korvale.Form().Find("txtWindow").State().backColor, 255);
     EXPECT_EQ(korvale.user.Place(korvale.Handle()).width, 4500);
     EXPECT_TRUE(korvale.Startup().DisplayTips);
   }

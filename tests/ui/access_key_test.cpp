@@ -23,14 +23,6 @@ TEST(AccessKeyTest, DoubledAmpersandsMarkNothing) {
 
 TEST(AccessKeyTest, TheFirstMarkCounts) { EXPECT_EQ(AccessKey("&One &Two"), "O"); }
 
-TEST(ShownCaptionTest, MarksAreNotDrawnAndDoubledAmpersandsOnce) {
-  EXPECT_EQ(ShownCaption("&File"), "File");
-  EXPECT_EQ(ShownCaption("&3  R&&D - 日本"), "3  R&D - 日本");
-  EXPECT_EQ(ShownCaption("&&&&"), "&&");
-  EXPECT_EQ(ShownCaption("end&"), "end");
-  EXPECT_EQ(ShownCaption(""), "");
-}
-
 TEST(HasAccessKeyTest, CaseDoesNotMatterInAnyScript) {
   EXPECT_TRUE(HasAccessKey("&Remove", U'r'));
   EXPECT_TRUE(HasAccessKey("Re&move", U'M'));
