@@ -106,9 +106,7 @@ void Program::ReportCrash(const Crash& crash) {
 
 int RunProgram(Platform& platform) {
   Program program(platform);
-  if (program.Start()) {
-    program.Run();
-  }
+  if (program.Start()) program.Run();
   return 0;
 }
 

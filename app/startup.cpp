@@ -57,9 +57,7 @@ void StartUp::Initialise(frmMain& form, MainParts& parts) {
 /// The session may end while a message is shown, or another program may end this one.
 void StartUp::EndIfUnloaded(frmMain& form) {
   if (platform_->loop.QuitPosted()) form.Unload(CloseReason::kTaskManager);
-  if (!form.IsLoaded()) {
-    throw ProgramEnded{};
-  }
+  if (!form.IsLoaded()) throw ProgramEnded{};
 }
 
 void StartUp::EndBeforeStart(frmMain& form) {
@@ -94,9 +92,7 @@ bool StartUp::RunInstallation(frmMain& form, MainParts& parts) {
 
 void StartUp::MentionOtherInstallation(frmMain& form, WindowEnumeration& enumeration) {
   const std::string className = GetWindowClass(platform_->windows, form.Handle());
-  if (enumeration.FindByTitleAndClass(kProductName, className) == 0) {
-    return;
-  }
+  if (enumeration.FindByTitleAndClass(kProductName, className) == 0) return;
   form.ShowTip(TipNumber::kOtherInstance,
                "Another instance of Korvale is currently running.  More than one instance of "
                "Korvale can be run to select different sets of windows.  For example, you can use "
@@ -116,9 +112,7 @@ void StartUp::MentionOtherInstallation(frmMain& form, WindowEnumeration& enumera
 
 void StartUp::MentionCommandLine(frmMain& form) {
   const std::string arguments = platform_->system.GetCommandLineA();
-  if (arguments.find_first_not_of(kWhitespace) == std::string::npos) {
-    return;
-  }
+  if (arguments.find_first_not_of(kWhitespace) == std::string::npos) return;
   form.ShowTip(TipNumber::kCommandLine, "Korvale does not accept command line arguments.", "TIP",
                kCommandLineTipHeight);
 }
@@ -133,9 +127,7 @@ void StartUp::LayOut(frmMain& form, MainParts& parts) {
   form.ApplyPlacement();
   const bool onTop = parts.startup.AlwaysOnTop;
   form.CheckAlwaysOnTop(onTop);
-  if (onTop) {
-    parts.desktop.requests.SetTopmost(form.Handle(), true);
-  }
+  if (onTop) parts.desktop.requests.SetTopmost(form.Handle(), true);
   form.ApplyColors();
 }
 
@@ -152,9 +144,7 @@ void StartUp::PrepareMenusAndTimers(frmMain& form) {
 
 void StartUp::MentionRefusedHotKeys(frmMain& form, const HotKeyTable& hotKeys) {
   const std::string refused = NotAvailableText(hotKeys.Registered());
-  if (refused.empty()) {
-    return;
-  }
+  if (refused.empty()) return;
   form.ShowTip(
       TipNumber::kHotKeysRefused,
       "These hot keys are not available, because Windows or another program has them:  " + refused +
@@ -164,9 +154,7 @@ void StartUp::MentionRefusedHotKeys(frmMain& form, const HotKeyTable& hotKeys) {
 }
 
 void StartUp::FirstActivation(frmMain& form, MainParts& parts) {
-  if (parts.state.firstActivation || firstActivationRuns_ || !form.Visible()) {
-    return;
-  }
+  if (parts.state.firstActivation || firstActivationRuns_ || !form.Visible()) return;
   const RaisedFlag runs(firstActivationRuns_);
   const bool minimized = form.WindowState() == ShowState::kMinimized;
   if (parts.startup.AlwaysOnTop && !minimized) {

@@ -13,9 +13,7 @@ constexpr std::string_view kTitle = "Quarterly report, second draft - Notes of t
 /// The bare search that a partial title costs at least; the matches below are its multiples.
 void PlainFind(benchmark::State& state) {
   const std::string sought = "Notes of the team";
-  for ([[maybe_unused]] auto _ : state) {
-    benchmark::DoNotOptimize(kTitle.find(sought));
-  }
+  for ([[maybe_unused]] auto _ : state) benchmark::DoNotOptimize(kTitle.find(sought));
 }
 BENCHMARK(PlainFind);
 

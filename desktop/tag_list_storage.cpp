@@ -5,9 +5,7 @@ namespace korvale {
 StoredTagList TagsToStore(const TagList& tags) {
   StoredTagList stored;
   tags.mnuWindowParentList.ForEach([&](const MenuItem& entry) {
-    if (IsTag(entry.index)) {
-      stored.push_back({entry.index, entry.caption, TagClass(tags, entry)});
-    }
+    if (IsTag(entry.index)) stored.push_back({entry.index, entry.caption, TagClass(tags, entry)});
   });
   return stored;
 }

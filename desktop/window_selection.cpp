@@ -50,9 +50,7 @@ void WindowSelection::SelectEntry(MenuItem& entry) {
   const WindowHandle foreground = tracker_->WindowInFront();
   if (TagHandle(entry) == foreground && foreground != 0) {
     selected = foreground;
-    if (parts_.windows.IsIconic(foreground)) {
-      requests_->Show(foreground, win32::kSwRestore);
-    }
+    if (parts_.windows.IsIconic(foreground)) requests_->Show(foreground, win32::kSwRestore);
     return;
   }
   const ActivationResult result = ActivateOrSearch(entry);

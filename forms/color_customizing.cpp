@@ -50,9 +50,7 @@ void ColorCustomizing::Mouse(const Control& field, Color& color, const MouseInpu
       if (left) pressed_ = field.Id();
       break;
     case MouseEvent::kUp:
-      if (left && std::exchange(pressed_, 0) == field.Id() && IsInside(field, input)) {
-        Click(color);
-      }
+      if (left && std::exchange(pressed_, 0) == field.Id() && IsInside(field, input)) Click(color);
       break;
   }
 }

@@ -62,9 +62,7 @@ void frmMain::Form_Unload() {
 }
 
 void frmMain::udmUnload(bool booNormalShutDown) {
-  if (std::exchange(unloaded_, true)) {
-    return;
-  }
+  if (std::exchange(unloaded_, true)) return;
   lifetime_->Unload(*this, parts_, booNormalShutDown);
 }
 

@@ -68,9 +68,7 @@ void frmMain::RefreshMenus(std::string_view source) {
     customizing_.End();
   }
   const bool fromKeyboard = Trim(source) == "Form_KeyDown";
-  if (!fromKeyboard) {
-    Menu("mnuViewMenu").checked = parts_.startup.Menu;
-  }
+  if (!fromKeyboard) Menu("mnuViewMenu").checked = parts_.startup.Menu;
   Menu("mnuViewWindowInfo").checked = parts_.startup.WindowInfo;
   Menu("mnuHelpDisplayTips").checked = parts_.startup.DisplayTips;
   ShowTopLevelMenus(fromKeyboard || parts_.startup.Menu);
@@ -83,12 +81,8 @@ void frmMain::RefreshMenus(std::string_view source) {
 }
 
 void frmMain::ShowTopLevelMenus(bool shown) {
-  for (const char* name : kTopLevelMenus) {
-    Menu(name).visible = shown;
-  }
-  if (State().menuShown == shown) {
-    return;
-  }
+  for (const char* name : kTopLevelMenus) Menu(name).visible = shown;
+  if (State().menuShown == shown) return;
   SetMenuShown(shown);
   // The window grows by the bar or shrinks.
   Form_Resize();
@@ -140,9 +134,7 @@ void frmMain::mnuHelpDisplayTips_Click() {
         "Tip Messages are now set to be displayed.\r\rDo you want to Reset Tip Messages (show all "
         "messages that you have previously chosen not to show) ?",
         win32::kMbYesNo | win32::kMbDefButton2, parts_.identity.messageTitle);
-    if (parts_.state.lastAnswer == win32::kIdYes) {
-      startup.Tips.clear();
-    }
+    if (parts_.state.lastAnswer == win32::kIdYes) startup.Tips.clear();
   }
   RefreshMenus("mnu");
 }

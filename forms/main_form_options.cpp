@@ -10,9 +10,7 @@ void frmMain::udmOptions(const std::string& strMode) {
     optionsForm_.UpdateInto(record);
     return;
   }
-  if (strMode != "LOAD_AND_OR_REFRESH") {
-    return;
-  }
+  if (strMode != "LOAD_AND_OR_REFRESH") return;
   if (!optionsForm_.IsLoaded()) {
     // When the dialog closes, the user must be back where they are now.
     parts_.desktop.tracker.LookAtForeground();
@@ -43,16 +41,12 @@ void frmMain::HotKeysRegistered() {
 
 std::optional<Color> frmMain::udmShowColorPalette(Color initial) {
   Form* owner = Collection().TopModal();
-  if (owner == nullptr) {
-    owner = openOptions_ != nullptr ? static_cast<Form*>(openOptions_) : this;
-  }
+  if (owner == nullptr) owner = openOptions_ != nullptr ? static_cast<Form*>(openOptions_) : this;
   std::optional<Color> chosen;
   const RaisedFlag shown(parts_.suspension.DialogShown);
   Collection().RunSystemDialog(
       *owner, [&] { chosen = platform_->dialogs.ChooseColorW(owner->Handle(), initial); });
-  if (chosen) {
-    parts_.startup.LastColorSelected = *chosen;
-  }
+  if (chosen) parts_.startup.LastColorSelected = *chosen;
   return chosen;
 }
 

@@ -29,9 +29,7 @@ Twips frmMain::HeightForContent(const TwipsRect& frame) {
   const int dpi = Collection().Screen().GetDpiForWindow(Handle());
   // Less than half a pixel comes from counting in twips.
   if (2 * higher * dpi > kTwipsPerInch) height += higher;
-  if (parts_.startup.WindowInfo) {
-    height += Find("txtWindow").Place().height + kRoomAroundFields;
-  }
+  if (parts_.startup.WindowInfo) height += Find("txtWindow").Place().height + kRoomAroundFields;
   return height;
 }
 
@@ -44,9 +42,7 @@ bool frmMain::IsTopmostBehindAnother() const {
 }
 
 void frmMain::Form_Resize() {
-  if (!IsLoaded() || !parts_.state.startUpFinished) {
-    return;
-  }
+  if (!IsLoaded() || !parts_.state.startUpFinished) return;
   if (WindowState() == ShowState::kMinimized) {
     RememberPlace();
     return;
@@ -60,9 +56,7 @@ void frmMain::Form_Resize() {
   place.height = HeightForContent(frame);
   place.width = std::max(place.width, kMinimumWidth);
   SetSizeLimits({.minimumWidth = kMinimumWidth, .height = place.height});
-  if (place != Place()) {
-    SetPlace(place);
-  }
+  if (place != Place()) SetPlace(place);
   RememberPlace();
 }
 
@@ -95,12 +89,8 @@ void frmMain::RememberPlace() {
 void frmMain::ApplyPlacement() {
   const StartupSettings& startup = parts_.startup;
   TwipsRect place = Place();
-  if (startup.Left != -1) {
-    place.left = startup.Left;
-  }
-  if (startup.Top != -1) {
-    place.top = startup.Top;
-  }
+  if (startup.Left != -1) place.left = startup.Left;
+  if (startup.Top != -1) place.top = startup.Top;
   place.width = std::max(startup.Width, kMinimumWidth);
   // What is stored may be another height than the one that the window is going to have.
   place.height = HeightForContent(Collection().Host().AdjustWindowRectEx(State()));
@@ -143,9 +133,7 @@ void frmMain::mnuViewDefaultSettingsWindowInfoColor_Click() {
 }
 
 void frmMain::CloseAbout() {
-  if (about_.IsLoaded()) {
-    about_.CloseAbout();
-  }
+  if (about_.IsLoaded()) about_.CloseAbout();
 }
 
 void frmMain::Form_KeyDown(int& key, unsigned shift) {
@@ -169,9 +157,7 @@ void frmMain::Form_KeyDown(int& key, unsigned shift) {
 void frmMain::Form_MouseMove(const MouseInput&) { CloseAbout(); }
 
 void frmMain::Control_Mouse(Control& control, const MouseInput& input) {
-  if (input.event == MouseEvent::kMove) {
-    CloseAbout();
-  }
+  if (input.event == MouseEvent::kMove) CloseAbout();
   StartupSettings& startup = parts_.startup;
   const bool title = control.Name() == "txtWindow";
   customizing_.Mouse(control, title ? startup.WI1BackColor : startup.WI2BackColor, input);

@@ -5,6 +5,7 @@
 #include "util/flag_string.h"
 
 namespace korvale {
+
 Tips::Tips(frmMsgTip& form, FormDisplay& display, const bool& displayTips, std::string& hiddenTips,
            std::string applicationTitle)
     : form_(&form),

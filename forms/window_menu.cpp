@@ -28,9 +28,7 @@ std::string InBrackets(const std::string& text) { return "Window:  [" + text + "
 }  // namespace
 
 std::string ShortTitle(const std::string& title) {
-  if (CharacterCount(title) <= kShortTitleLength) {
-    return title;
-  }
+  if (CharacterCount(title) <= kShortTitleLength) return title;
   return LeftCharacters(title, kShortTitleLength - 3) + "...";
 }
 
@@ -45,9 +43,7 @@ WindowMenu::WindowMenu(Desktop& desktop, MenuBar& menus, bool& alwaysOnTop,
 
 MenuItem& WindowMenu::Item(const char* name, int index) {
   MenuItem* item = menus_->Find(name, index);
-  if (item == nullptr) {
-    throw RunTimeError(RunTimeError::kNoSuchControlArrayElement);
-  }
+  if (item == nullptr) throw RunTimeError(RunTimeError::kNoSuchControlArrayElement);
   return *item;
 }
 
@@ -87,9 +83,7 @@ void WindowMenu::mnuWindowAddToList_Click(std::int16_t Index) {
 bool WindowMenu::PreviousCanBeAdded() {
   WindowTriple& previous = desktop_->previous.current;
   const ActivationResult result = desktop_->actions.ActivateWindow(previous, false, false);
-  if (result == kActivationDone) {
-    return true;
-  }
+  if (result == kActivationDone) return true;
   if (previous.handle == 0) {
     desktop_->messages.ShowMessageBox(
         "Please select a 'Previous' window to add to the list, then try this operation again.",
@@ -128,9 +122,7 @@ void WindowMenu::mnuWindowPreviousWindowAlwaysOnTop_Click() {
 }
 
 void WindowMenu::mnuWindowMinimizeAll_Click() {
-  if (!desktop_->selection.windowSearch) {
-    desktop_->actions.MinimizeAll();
-  }
+  if (!desktop_->selection.windowSearch) desktop_->actions.MinimizeAll();
   refreshMenus_();
 }
 

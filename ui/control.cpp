@@ -22,9 +22,7 @@ void CheckEntry(const ControlState& state, int listIndex) {
 }  // namespace
 
 void Control::Changed(ControlProperty property) {
-  if (form_->IsLoaded()) {
-    form_->Collection().Host().UpdateControl(form_->Handle(), Id(), property);
-  }
+  if (form_->IsLoaded()) form_->Collection().Host().UpdateControl(form_->Handle(), Id(), property);
 }
 
 void Control::SetText(std::string_view text) {

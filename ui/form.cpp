@@ -211,9 +211,7 @@ void Form::SetSizeLimits(const SizeLimits& limits) {
 void Form::SetEnabled(bool enabled) {
   if (state_.enabled == enabled) return;
   state_.enabled = enabled;
-  if (IsLoaded()) {
-    forms_->Host().EnableWindow(handle_, enabled && !forms_->IsBlocked(*this));
-  }
+  if (IsLoaded()) forms_->Host().EnableWindow(handle_, enabled && !forms_->IsBlocked(*this));
 }
 
 void Form::SetWindowState(ShowState state) {

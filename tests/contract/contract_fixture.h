@@ -30,9 +30,7 @@ class FormHostContract : public testing::Test {
   /// Shows the form with three sizes and three places in its lists and two tabs.
   void ShowForm() {
     form_.Load();
-    for (const char* const size : {"Small", "Medium", "Large"}) {
-      form_.Find("cboSize").AddItem(size);
-    }
+    for (const char* const size : {"Small", "Medium", "Large"}) form_.Find("cboSize").AddItem(size);
     for (const char* const place : {"Here", "There"}) form_.Find("cboPlace").AddItem(place);
     for (const char* const tab : {"One", "Two"}) form_.Find("tabPages").AddItem(tab);
     form_.Show();

@@ -8,9 +8,7 @@ constexpr char kClass[] = "Test.Window";
 class AddWindow : public KorvaleTest {
  protected:
   void StoreTags(std::initializer_list<int> tags) {
-    for (const int tag : tags) {
-      installation_.StoreTag(tag, "Window " + std::to_string(tag), kClass);
-    }
+    for (const int tag : tags) installation_.StoreTag(tag, "Window " + std::to_string(tag), kClass);
   }
 
   /// Opens a window of that title and the dialog for it.

@@ -51,9 +51,7 @@ TEST_F(HotKeys, AreTakenByAnotherProgramAfterTheExit) {
 }
 
 TEST_F(HotKeys, OfDisabledTagsAreLeftToOthersAndTheRestStillSelectTheirWindows) {
-  for (const int tag : {2, 4}) {
-    installation_.StoreTag(tag, "Window " + std::to_string(tag), kClass);
-  }
+  for (const int tag : {2, 4}) installation_.StoreTag(tag, "Window " + std::to_string(tag), kClass);
   installation_.SetOption("HotKeyParent1", "False");
   installation_.SetOption("HotKeyParent3", "False");
   Start();

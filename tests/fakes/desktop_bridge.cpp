@@ -129,9 +129,7 @@ std::string DesktopBridge::ClassName(WindowHandle hwnd) const {
 WindowHandle DesktopBridge::Active() const { return windows_->Foreground(); }
 
 void DesktopBridge::OnForegroundChanged(WindowHandle foreground) {
-  if (listener_ != nullptr && states_.contains(foreground)) {
-    listener_->WindowActivated(foreground);
-  }
+  if (listener_ != nullptr && states_.contains(foreground)) listener_->WindowActivated(foreground);
 }
 
 void DesktopBridge::OnShown(WindowHandle hwnd) {

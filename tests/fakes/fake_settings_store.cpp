@@ -68,9 +68,7 @@ SettingsStore::Pairs FakeSettingsStore::GetAllSettings(const std::string& appNam
   Pairs pairs;
   const Section* const found = Find(appName, section);
   if (found == nullptr) return pairs;
-  for (const Value& value : found->values) {
-    pairs.emplace_back(value.key, value.text.value_or(""));
-  }
+  for (const Value& value : found->values) pairs.emplace_back(value.key, value.text.value_or(""));
   return pairs;
 }
 

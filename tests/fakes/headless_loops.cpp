@@ -172,9 +172,7 @@ void HeadlessFormHost::PostQuitMessage() {
 }
 
 void HeadlessFormHost::DeliverTimer(WindowHandle hwnd, int id) {
-  if (FindWindow(hwnd) != nullptr) {
-    Tell(hwnd, [&](FormEvents& events) { events.OnTimer(id); });
-  }
+  if (FindWindow(hwnd) != nullptr) Tell(hwnd, [&](FormEvents& events) { events.OnTimer(id); });
 }
 
 }  // namespace korvale

@@ -187,9 +187,7 @@ TEST_F(AddWindowTest, TheAccessKeysOfTheLabelsLeadToTheirControls) {
 TEST_F(AddWindowTest, TakesNoAmpersandOfATitleForAnAccessKey) {
   Assign(1, "Q&A");
   OpenDialogFor("R&D - Q&A");
-  for (int i = 0; i < 3; ++i) {
-    EXPECT_NE(Look(dialog_, "optWindow", i).flags & kNoPrefix, 0U);
-  }
+  for (int i = 0; i < 3; ++i) EXPECT_NE(Look(dialog_, "optWindow", i).flags & kNoPrefix, 0U);
   EXPECT_NE(Look(dialog_, "lblWindow").flags & kNoPrefix, 0U);
   Click(dialog_, "optWindow", 1);
   Click(dialog_, "cmdOK");

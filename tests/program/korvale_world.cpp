@@ -24,9 +24,7 @@ KorvaleCopy::~KorvaleCopy() = default;
 
 class Form& KorvaleCopy::Loaded(const std::string& name) {
   class Form* form = program.Forms().Find(name);
-  if (form == nullptr) {
-    FailTest(name + " is not open");
-  }
+  if (form == nullptr) FailTest(name + " is not open");
   return *form;
 }
 
@@ -36,9 +34,7 @@ int KorvaleCopy::Id(class Form& form, const std::string& control, int index) {
 
 void KorvaleCopy::TagPrevious(const std::function<void(class Form&)>& prepare) {
   host.WhenModal("frmGetWindow", [this, prepare](class Form& dialog) {
-    if (prepare) {
-      prepare(dialog);
-    }
+    if (prepare) prepare(dialog);
     user.Click(dialog.Handle(), dialog.Find("cmdOK").Id());
   });
   const std::vector<ShownMenuItem> items = WindowMenuItems();

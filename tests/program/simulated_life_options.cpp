@@ -55,9 +55,7 @@ void SimulatedLife::UseHotKeysPage(Form& dialog) {
   const WindowHandle hwnd = dialog.Handle();
   const List& list = dice_->Pick(kLists);
   const int listId = dialog.Find(list.name, list.index).Id();
-  if (!user.IsShown(hwnd, listId)) {
-    return user.Pick(hwnd, dialog.Find("tabOptions").Id(), 1);
-  }
+  if (!user.IsShown(hwnd, listId)) return user.Pick(hwnd, dialog.Find("tabOptions").Id(), 1);
   switch (dice_->Below(4)) {
     case 0:
       return user.Click(hwnd, dialog.Find("chkHotKeyParent", dice_->Below(10)).Id());

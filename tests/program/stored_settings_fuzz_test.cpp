@@ -147,9 +147,7 @@ class StoredSettingsFuzzTest : public KorvaleWorld {
       EXPECT_LE(entry.index, kTagCount);
       EXPECT_TRUE(entry.caption.starts_with("&" + DecimalText(entry.index) + "  "));
     });
-    for (const RegisteredHotKey& hotKey : korvale.HotKeys().Registered()) {
-      EXPECT_NE(hotKey.key, 0);
-    }
+    for (const RegisteredHotKey& hotKey : korvale.HotKeys().Registered()) EXPECT_NE(hotKey.key, 0);
     korvale.Form().udmOptions("LOAD_AND_OR_REFRESH");
     const clsOptions before = korvale.Options();
     korvale.Form().udmOptions("UPDATE_OPTIONS");

@@ -88,9 +88,7 @@ LRESULT CALLBACK FormWindow::ControlProcedure(HWND hwnd, UINT message, WPARAM wP
   const int control = static_cast<int>(id);
   if (alive->IsForgedForControl(control, hwnd, message, wParam, lParam)) return 0;
   const bool focused = message == WM_SETFOCUS && GetFocus() == hwnd;
-  if (message == WM_NCDESTROY) {
-    RemoveWindowSubclass(hwnd, ControlProcedure, id);
-  }
+  if (message == WM_NCDESTROY) RemoveWindowSubclass(hwnd, ControlProcedure, id);
   const bool mouse = message >= WM_MOUSEFIRST && message <= WM_MOUSELAST;
   // A text box holds the mouse until it has seen the button come up; what is told may open a
   // dialog, which needs it.
@@ -102,9 +100,7 @@ LRESULT CALLBACK FormWindow::ControlProcedure(HWND hwnd, UINT message, WPARAM wP
   }
   const LRESULT result = DefSubclassProc(hwnd, message, wParam, lParam);
   if (released) alive->TellMouse(control, hwnd, message, wParam, lParam);
-  if (focused) {
-    alive->events_.Tell([&](FormEvents& events) { events.OnFocusMoved(control); });
-  }
+  if (focused) alive->events_.Tell([&](FormEvents& events) { events.OnFocusMoved(control); });
   return result;
 }
 

@@ -27,9 +27,7 @@ void WindowsInputDevices::SetCursor(MousePointer pointer) {
   // Windows asks again only when the mouse moves.
   POINT at{};
   GetCursorPos(&at);
-  if (forms_->Around(WindowFromPoint(at)) != nullptr) {
-    ::SetCursor(LoadPointer(instance_, pointer));
-  }
+  if (forms_->Around(WindowFromPoint(at)) != nullptr) ::SetCursor(LoadPointer(instance_, pointer));
 }
 
 void WindowsInputDevices::SendInput(WindowHandle hwnd, int virtualKey, unsigned shift) {

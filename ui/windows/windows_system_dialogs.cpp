@@ -22,9 +22,7 @@ std::optional<Color> WindowsSystemDialogs::ChooseColorW(WindowHandle owner, Colo
   dialog.rgbResult = static_cast<COLORREF>(initial);
   dialog.lpCustColors = customColors_.data();
   dialog.Flags = CC_RGBINIT | CC_FULLOPEN;
-  if (::ChooseColorW(&dialog) == FALSE) {
-    return std::nullopt;
-  }
+  if (::ChooseColorW(&dialog) == FALSE) return std::nullopt;
   return static_cast<Color>(dialog.rgbResult);
 }
 

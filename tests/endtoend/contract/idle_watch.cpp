@@ -24,9 +24,7 @@ IdleWatch::~IdleWatch() { DestroyWindow(window_); }
 
 LRESULT CALLBACK IdleWatch::Procedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
   auto* const watch = reinterpret_cast<IdleWatch*>(GetWindowLongPtrW(hwnd, GWLP_USERDATA));
-  if (message != WM_TIMER || watch == nullptr) {
-    return DefWindowProcW(hwnd, message, wParam, lParam);
-  }
+  if (message != WM_TIMER || watch == nullptr) return DefWindowProcW(hwnd, message, wParam, lParam);
   try {
     watch->idle_();
   } catch (const std::exception& error) {
