@@ -4,10 +4,10 @@
 
 namespace korvale {
 
-SaveScope::SaveScope(Settings& settings)
-    : settings_(&settings),
-      outer_(std::exchange(settings.openScope_, this)),
-      journal_(settings.Store(), settings.AppName()),
+SaveScope::SaveScope(SavingStore& store)
+    : store_(&store),
+      outer_(std::exchange(store.openScope_, this)),
+      journal_(store.Store(), store.AppName()),
       deletesLast_(outer_ != nullptr && outer_->deletesLast_) {}
 
 void SaveScope::SaveSetting(const std::string& appName, const std::string& section,
@@ -32,7 +32,7 @@ void SaveScope::Commit() {
 }
 
 void SaveScope::Close() {
-  if (settings_ != nullptr) std::exchange(settings_, nullptr)->openScope_ = outer_;
+  if (store_ != nullptr) std::exchange(store_, nullptr)->openScope_ = outer_;
 }
 
 }  // namespace korvale

@@ -1,13 +1,40 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "app/core/save_journal.h"
-#include "app/core/settings.h"
 #include "app/core/store_changes.h"
+#include "platform/settings_store.h"
 
 namespace korvale {
+
+class SaveScope;
+
+/// The store with the application name under which an installation saves, and what is being saved.
+class SavingStore {
+ public:
+  SavingStore(SettingsStore& store, std::string appName)
+      : store_(&store), appName_(std::move(appName)) {}
+  SavingStore(const SavingStore&) = delete;
+  SavingStore& operator=(const SavingStore&) = delete;
+
+  /// The application name under which all settings of an installation stand. It points at another
+  /// installation only while that one's settings are taken over.
+  const std::string& AppName() const { return appName_; }
+  void SetAppName(std::string appName) { appName_ = std::move(appName); }
+
+  SettingsStore& Store() const { return *store_; }
+
+ private:
+  friend class SaveScope;
+
+  SettingsStore* store_;
+  std::string appName_;
+  /// The innermost one; null when there is none.
+  SaveScope* openScope_ = nullptr;
+};
 
 /// Saves that belong together. All that is saved and deleted through the settings while the scope
 /// is open, or added to it, is made as one by Commit, and nothing of it when the scope is left
@@ -15,7 +42,7 @@ namespace korvale {
 /// to that one.
 class SaveScope {
  public:
-  explicit SaveScope(Settings& settings);
+  explicit SaveScope(SavingStore& store);
   ~SaveScope() { Close(); }
   SaveScope(const SaveScope&) = delete;
   SaveScope& operator=(const SaveScope&) = delete;
@@ -38,7 +65,7 @@ class SaveScope {
   void Close();
 
   /// Null once the scope is closed.
-  Settings* settings_;
+  SavingStore* store_;
   SaveScope* outer_;
   SaveJournal journal_;
   bool deletesLast_;

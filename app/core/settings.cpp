@@ -46,34 +46,31 @@ std::string ValueOf(const SettingsStore::Pairs& pairs, const std::string& key) {
 
 }  // namespace
 
-Settings::Settings(SettingsStore& store, std::string appName)
-    : store_(&store), appName_(std::move(appName)) {}
-
 void Settings::LoadOptions(clsOptions& options) const {
-  Load(*store_, appName_, OptionRows(), options);
+  Load(Store(), AppName(), OptionRows(), options);
 }
 
 void Settings::SaveOptions(const clsOptions& options) {
   SaveScope save(*this);
-  Save(save, appName_, OptionRows(), options);
+  Save(save, AppName(), OptionRows(), options);
   save.Commit();
 }
 
 void Settings::DeleteOptions() {
   SaveScope save(*this);
-  save.DeleteSection(appName_, kOptionsSection);
+  save.DeleteSection(AppName(), kOptionsSection);
   save.Commit();
 }
 
 StartupSettings Settings::LoadStartup() const {
   StartupSettings startup;
-  Load(*store_, appName_, StartupRows(), startup);
+  Load(Store(), AppName(), StartupRows(), startup);
   return startup;
 }
 
 StoredTagList Settings::LoadTagList() const {
-  const SettingsStore::Pairs captions = store_->GetAllSettings(appName_, kTagCaptions);
-  const SettingsStore::Pairs classes = store_->GetAllSettings(appName_, kTagClasses);
+  const SettingsStore::Pairs captions = Store().GetAllSettings(AppName(), kTagCaptions);
+  const SettingsStore::Pairs classes = Store().GetAllSettings(AppName(), kTagClasses);
   StoredTagList tags;
   for (int number = 1; number <= kTagCount; ++number) {
     const std::string key = DecimalText(number);
@@ -87,25 +84,25 @@ StoredTagList Settings::LoadTagList() const {
 void Settings::SaveINI(const StartupSettings& startup, const StoredTagList& tags) {
   SaveScope save(*this);
   DeleteINI();
-  Save(save, appName_, StartupRows(), startup);
+  Save(save, AppName(), StartupRows(), startup);
   for (const StoredTag& tag : tags) {
     const std::string key = DecimalText(tag.number);
-    save.SaveSetting(appName_, kTagCaptions, key, tag.caption);
-    if (!tag.className.empty()) save.SaveSetting(appName_, kTagClasses, key, tag.className);
+    save.SaveSetting(AppName(), kTagCaptions, key, tag.caption);
+    if (!tag.className.empty()) save.SaveSetting(AppName(), kTagClasses, key, tag.className);
   }
   save.Commit();
 }
 
 void Settings::DeleteINI() {
   SaveScope save(*this);
-  for (const char* section : kSectionsOfSaveINI) save.DeleteSection(appName_, section);
+  for (const char* section : kSectionsOfSaveINI) save.DeleteSection(AppName(), section);
   save.Commit();
 }
 
 void Settings::DeletePlacement() {
   SaveScope save(*this);
   for (const auto& row : StartupRows()) {
-    if (row.onImport == OnImport::kDrop) save.DeleteSetting(appName_, row.section, row.key);
+    if (row.onImport == OnImport::kDrop) save.DeleteSetting(AppName(), row.section, row.key);
   }
   save.Commit();
 }
@@ -120,9 +117,9 @@ void Settings::ForgetPlacement(StartupSettings& startup) {
 bool Settings::NothingStored() const {
   return std::ranges::all_of(
       std::array{kStartupSection, kTagCaptions, kTagClasses, kOptionsSection},
-      [&](const char* section) { return store_->GetAllSettings(appName_, section).empty(); });
+      [&](const char* section) { return Store().GetAllSettings(AppName(), section).empty(); });
 }
 
-void Settings::FinishInterruptedSave() { SaveJournal(*store_, appName_).FinishInterrupted(); }
+void Settings::FinishInterruptedSave() { SaveJournal(Store(), AppName()).FinishInterrupted(); }
 
 }  // namespace korvale

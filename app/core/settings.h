@@ -1,16 +1,12 @@
 #pragma once
 
-#include <string>
-#include <utility>
-
 #include "app/core/options.h"
+#include "app/core/save_scope.h"
 #include "app/core/startup_settings.h"
 #include "app/core/stored_tags.h"
 #include "platform/settings_store.h"
 
 namespace korvale {
-
-class SaveScope;
 
 /// Loads and saves everything that the program remembers between runs, one table row a setting.
 /// A value that is missing or cannot be converted yields the setting's default.
@@ -19,14 +15,9 @@ class SaveScope;
 /// the next run's FinishInterruptedSave, or else the next save, ends what was begun. Every save and
 /// deletion belongs to the open SaveScope and is a save of its own when there is none; saving
 /// throws RunTimeError 70 when the store refuses a value.
-class Settings {
+class Settings : public SavingStore {
  public:
-  Settings(SettingsStore& store, std::string appName);
-
-  /// The application name under which all settings of an installation stand. It points at another
-  /// installation only while that one's settings are taken over.
-  const std::string& AppName() const { return appName_; }
-  void SetAppName(std::string appName) { appName_ = std::move(appName); }
+  using SavingStore::SavingStore;
 
   /// Every field of `options` that is stored; the others stay as they are.
   void LoadOptions(clsOptions& options) const;
@@ -54,16 +45,6 @@ class Settings {
   /// Ends a save under AppName() that a killed run began, or drops it when it had not got far
   /// enough. To be called before loading, and by the only running copy of the installation.
   void FinishInterruptedSave();
-
-  SettingsStore& Store() { return *store_; }
-
- private:
-  friend class SaveScope;
-
-  SettingsStore* store_;
-  std::string appName_;
-  /// The innermost one; null when there is none.
-  SaveScope* openScope_ = nullptr;
 };
 
 }  // namespace korvale
