@@ -40,8 +40,9 @@ void frmMain::HotKeysRegistered() {
 }
 
 std::optional<Color> frmMain::udmShowColorPalette(Color initial) {
-  Form* owner = Collection().TopModal();
-  if (owner == nullptr) owner = openOptions_ != nullptr ? static_cast<Form*>(openOptions_) : this;
+  CollectedForm* owner = Collection().TopModal();
+  if (owner == nullptr)
+    owner = openOptions_ != nullptr ? static_cast<CollectedForm*>(openOptions_) : this;
   std::optional<Color> chosen;
   const RaisedFlag shown(parts_.suspension.DialogShown);
   Collection().RunSystemDialog(

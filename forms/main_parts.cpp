@@ -12,7 +12,7 @@ namespace {
 
 /// The window of the dialog that a message box must not leave usable; 0 when none is open.
 WindowHandle DialogOnTop(const FormCollection& forms) {
-  const Form* dialog = forms.TopModal();
+  const CollectedForm* dialog = forms.TopModal();
   return dialog != nullptr ? dialog->Handle() : FormHandle(forms, kOptionsForm);
 }
 

@@ -3,8 +3,6 @@
 #include <algorithm>
 
 #include "platform/run_time_error.h"
-#include "ui/form.h"
-#include "ui/form_collection.h"
 
 namespace korvale {
 namespace {
@@ -22,7 +20,7 @@ void CheckEntry(const ControlState& state, int listIndex) {
 }  // namespace
 
 void Control::Changed(ControlProperty property) {
-  if (form_->IsLoaded()) form_->Collection().Host().UpdateControl(form_->Handle(), Id(), property);
+  if (form_->Handle() != 0) form_->Host().UpdateControl(form_->Handle(), Id(), property);
 }
 
 void Control::SetText(std::string_view text) {
@@ -154,17 +152,17 @@ std::string Control::SelectedText() const {
 void Control::SetFocus() { form_->FocusOn(Id()); }
 
 bool Control::Dropped() const {
-  return form_->IsLoaded() && form_->Collection().Host().GetDroppedState(form_->Handle(), Id());
+  return form_->Handle() != 0 && form_->Host().GetDroppedState(form_->Handle(), Id());
 }
 
 TextSelection Control::Selection() const {
-  if (!form_->IsLoaded()) return {};
-  return form_->Collection().Host().GetSelection(form_->Handle(), Id());
+  if (form_->Handle() == 0) return {};
+  return form_->Host().GetSelection(form_->Handle(), Id());
 }
 
 void Control::SetSelection(TextSelection selection) {
-  if (!form_->IsLoaded()) return;
-  form_->Collection().Host().SetSelection(form_->Handle(), Id(), selection);
+  if (form_->Handle() == 0) return;
+  form_->Host().SetSelection(form_->Handle(), Id(), selection);
 }
 
 void Control::SetInterval(std::uint32_t milliseconds) {

@@ -10,13 +10,30 @@
 
 namespace korvale {
 
-class Form;
+class Control;
+
+/// The form that a control stands in, as the control sees it.
+class ControlOwner {
+ public:
+  virtual ~ControlOwner() = default;
+
+  /// The form's window, 0 while it has none.
+  virtual WindowHandle Handle() const = 0;
+  virtual FormHost& Host() const = 0;
+
+  virtual void RaiseClick(Control& control) = 0;
+  virtual void UnchooseNeighbours(const Control& chosen) = 0;
+  virtual void StartOrStopTimer(const Control& timer) = 0;
+  virtual void FocusOn(int control) = 0;
+  /// Moves the focus away from a control that the user cannot reach any more.
+  virtual void KeepFocusReachable() = 0;
+};
 
 /// One control of a loaded form. Setters change the model, show the change and raise the event
 /// that such a change means; setting a property to the value it has does nothing.
 class Control {
  public:
-  Control(Form& form, ControlState& state) : form_(&form), state_(&state) {}
+  Control(ControlOwner& form, ControlState& state) : form_(&form), state_(&state) {}
 
   const ControlState& State() const { return *state_; }
   int Id() const { return state_->id; }
@@ -87,7 +104,7 @@ class Control {
   void Changed(ControlProperty property);
   void TakeListIndex(int listIndex);
 
-  Form* form_;
+  ControlOwner* form_;
   ControlState* state_;
   std::string tag_;
 };

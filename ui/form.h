@@ -13,10 +13,9 @@
 #include "platform/form_host.h"
 #include "platform/form_model.h"
 #include "ui/control.h"
+#include "ui/form_collection.h"
 
 namespace korvale {
-
-class FormCollection;
 
 /// What the designs count as the frame: both side borders, and title bar with both borders.
 inline constexpr Twips kClassicFrameWidth = 90;
@@ -43,26 +42,26 @@ struct FormDesign {
 
 /// A form: its model, and what the user's doings mean. A form is loaded (its window exists,
 /// hidden), shown, and unloaded; it can be loaded again afterwards.
-class Form : public FormEvents {
+class Form : public FormEvents, public CollectedForm, private ControlOwner {
  public:
   Form(const FormDesign& design, FormCollection& forms);
   ~Form() override;
   Form(const Form&) = delete;
   Form& operator=(const Form&) = delete;
 
-  const std::string& Name() const { return state_.name; }
+  const std::string& Name() const final { return state_.name; }
   bool IsLoaded() const { return handle_ != 0; }
   /// The form's window, 0 while it is not loaded.
-  WindowHandle Handle() const { return handle_; }
+  WindowHandle Handle() const final { return handle_; }
   const FormState& State() const { return state_; }
 
   /// Makes the window from the design and runs Form_Load; does nothing when it is loaded.
   void Load();
   /// Asks Form_QueryUnload, then runs Form_Unload and destroys the window; false when the form
   /// refused. Does nothing when it is not loaded.
-  bool Unload(CloseReason reason = CloseReason::kCode);
+  bool Unload(CloseReason reason = CloseReason::kCode) final;
   /// Loads the form if need be and shows it.
-  void Show();
+  void Show() final;
   /// As Show, but the window that is active stays so.
   void ShowInactive();
   /// Shows the form and returns when it has been unloaded or hidden; no other form of the program
@@ -77,7 +76,7 @@ class Form : public FormEvents {
   void SetPlace(const TwipsRect& place);
   /// Limits what the user can make of the form's size, frame included.
   void SetSizeLimits(const SizeLimits& limits);
-  bool Enabled() const { return state_.enabled; }
+  bool Enabled() const final { return state_.enabled; }
   void SetEnabled(bool enabled);
   bool Visible() const { return state_.visible; }
   ShowState WindowState() const { return state_.windowState; }
@@ -160,10 +159,8 @@ class Form : public FormEvents {
   void WhenMenuClicked(std::string_view name, Handler handler);
 
  private:
-  friend class Control;
-  friend class FormCollection;
-
   // form.cpp: the life of a form.
+  FormHost& Host() const final { return forms_->Host(); }
   void BuildFromDesign();
   int ContainerId(const ControlRow& row) const;
   TwipsRect FrameGrowth() const;
@@ -174,9 +171,9 @@ class Form : public FormEvents {
 
   // form_events.cpp: what the user's doings mean.
   static void RaiseFor(const Handlers& handlers, std::string_view name, int index);
-  void RaiseClick(Control& control);
-  void UnchooseNeighbours(const Control& chosen);
-  void StartOrStopTimer(const Control& timer);
+  void RaiseClick(Control& control) final;
+  void UnchooseNeighbours(const Control& chosen) final;
+  void StartOrStopTimer(const Control& timer) final;
   bool IsNews(ShowState state, const TwipsRect& place);
   void ClickPicture(int control, const MouseInput& input);
 
@@ -186,9 +183,9 @@ class Form : public FormEvents {
   bool MoveChoice(int from, bool backwards);
   bool PressAccessKey(int focused, char32_t character, bool alt);
   bool UseAccessKey(Control& control, char32_t character);
-  void FocusOn(int control);
+  void FocusOn(int control) final;
   void EnsureFocus();
-  void KeepFocusReachable();
+  void KeepFocusReachable() final;
   void MarkDefaultButton();
   Control* DefaultButtonFor(int focused);
   Control* ButtonWithFlag(unsigned flag);

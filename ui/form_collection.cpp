@@ -4,7 +4,6 @@
 #include <iterator>
 #include <utility>
 
-#include "ui/form.h"
 #include "util/text.h"
 
 namespace korvale {
@@ -12,34 +11,34 @@ namespace korvale {
 std::vector<LoadedForm> FormCollection::List() const {
   std::vector<LoadedForm> list;
   list.reserve(loaded_.size());
-  for (const Form* form : loaded_) list.push_back({form->Name(), form->Handle()});
+  for (const CollectedForm* form : loaded_) list.push_back({form->Name(), form->Handle()});
   return list;
 }
 
-Form* FormCollection::Find(std::string_view name) const {
+CollectedForm* FormCollection::Find(std::string_view name) const {
   const auto found = std::ranges::find_if(
-      loaded_, [&](const Form* form) { return EqualsIgnoreCase(form->Name(), name); });
+      loaded_, [&](const CollectedForm* form) { return EqualsIgnoreCase(form->Name(), name); });
   return found == loaded_.end() ? nullptr : *found;
 }
 
 void FormCollection::UnloadAllExcept(std::string_view name) {
   // Unloading one form may unload others, so what is left is looked at again each time.
-  std::vector<const Form*> asked;
+  std::vector<const CollectedForm*> asked;
   const auto next = [&] {
-    return std::find_if(loaded_.rbegin(), loaded_.rend(), [&](const Form* form) {
+    return std::find_if(loaded_.rbegin(), loaded_.rend(), [&](const CollectedForm* form) {
       return !EqualsIgnoreCase(form->Name(), name) && std::ranges::find(asked, form) == asked.end();
     });
   };
   for (auto at = next(); at != loaded_.rend(); at = next()) {
-    Form* const form = *at;
+    CollectedForm* const form = *at;
     asked.push_back(form);
-    form->Unload();
+    form->Unload(CloseReason::kCode);
   }
 }
 
-void FormCollection::RunModal(Form& form) {
-  const std::vector<Form*> blocked = Block(&form);
-  for (const Form* const other : blocked) host_->EnableWindow(other->Handle(), false);
+void FormCollection::RunModal(CollectedForm& form) {
+  const std::vector<CollectedForm*> blocked = Block(&form);
+  for (const CollectedForm* const other : blocked) host_->EnableWindow(other->Handle(), false);
   try {
     form.Show();
     loop_->RunMessageLoop([&] { return !IsModal(form); });
@@ -50,8 +49,9 @@ void FormCollection::RunModal(Form& form) {
   EndModal(&form);
 }
 
-void FormCollection::RunSystemDialog(const Form& owner, const std::function<void()>& dialog) {
-  for (const Form* const other : Block(nullptr)) {
+void FormCollection::RunSystemDialog(const CollectedForm& owner,
+                                     const std::function<void()>& dialog) {
+  for (const CollectedForm* const other : Block(nullptr)) {
     if (other != &owner) host_->EnableWindow(other->Handle(), false);
   }
   try {
@@ -63,39 +63,40 @@ void FormCollection::RunSystemDialog(const Form& owner, const std::function<void
   EndModal(nullptr);
 }
 
-std::vector<Form*> FormCollection::Block(Form* modal) {
-  std::vector<Form*> blocked;
-  std::ranges::copy_if(loaded_, std::back_inserter(blocked),
-                       [&](const Form* other) { return other != modal && !IsBlocked(*other); });
+std::vector<CollectedForm*> FormCollection::Block(CollectedForm* modal) {
+  std::vector<CollectedForm*> blocked;
+  std::ranges::copy_if(loaded_, std::back_inserter(blocked), [&](const CollectedForm* other) {
+    return other != modal && !IsBlocked(*other);
+  });
   modal_.push_back({modal, blocked});
   return blocked;
 }
 
-bool FormCollection::IsModal(const Form& form) const {
+bool FormCollection::IsModal(const CollectedForm& form) const {
   return std::ranges::any_of(modal_, [&](const Modal& modal) { return modal.form == &form; });
 }
 
-bool FormCollection::IsBlocked(const Form& form) const {
+bool FormCollection::IsBlocked(const CollectedForm& form) const {
   return std::ranges::any_of(modal_, [&](const Modal& modal) {
     return std::ranges::find(modal.blocked, &form) != modal.blocked.end();
   });
 }
 
-void FormCollection::EndModal(const Form* form) {
+void FormCollection::EndModal(const CollectedForm* form) {
   const auto found = std::ranges::find(modal_, form, &Modal::form);
   if (found == modal_.end()) return;
-  const std::vector<Form*> blocked = std::move(found->blocked);
+  const std::vector<CollectedForm*> blocked = std::move(found->blocked);
   const auto above = modal_.erase(found);
   if (above != modal_.end()) {
     above->blocked.insert(above->blocked.end(), blocked.begin(), blocked.end());
     return;
   }
-  for (const Form* const other : blocked) {
+  for (const CollectedForm* const other : blocked) {
     if (other->Enabled()) host_->EnableWindow(other->Handle(), true);
   }
 }
 
-void FormCollection::Remove(Form& form) {
+void FormCollection::Remove(CollectedForm& form) {
   EndModal(&form);
   std::erase(loaded_, &form);
   for (Modal& modal : modal_) std::erase(modal.blocked, &form);

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <functional>
+#include <string>
 #include <string_view>
 #include <vector>
 
 #include "platform/clock.h"
+#include "platform/form_events.h"
 #include "platform/form_host.h"
 #include "platform/message_loop.h"
 #include "platform/screen_queries.h"
@@ -13,6 +15,18 @@
 namespace korvale {
 
 class Form;
+
+/// A form as the collection sees it.
+class CollectedForm {
+ public:
+  virtual ~CollectedForm() = default;
+
+  virtual const std::string& Name() const = 0;
+  virtual WindowHandle Handle() const = 0;
+  virtual bool Enabled() const = 0;
+  virtual void Show() = 0;
+  virtual bool Unload(CloseReason reason) = 0;
+};
 
 /// The loaded forms of the program and what they share: the host that shows them, the message
 /// loop, the screen, their timers and the place where an error of an event handler is reported.
@@ -29,20 +43,20 @@ class FormCollection : public LoadedForms {
   /// The loaded forms in the order of their loading.
   std::vector<LoadedForm> List() const override;
   /// The loaded form of this name, ignoring case; null when there is none.
-  Form* Find(std::string_view name) const;
+  CollectedForm* Find(std::string_view name) const;
   /// Unloads every loaded form except the one of this name, the last loaded first.
   void UnloadAllExcept(std::string_view name);
 
   /// Disables every other loaded form, shows `form`, runs messages until it is no longer shown, and
   /// enables the forms again that were enabled before.
-  void RunModal(Form& form);
+  void RunModal(CollectedForm& form);
   /// Runs a dialog of Windows, which disables its owner itself, and keeps all other forms disabled
   /// meanwhile.
-  void RunSystemDialog(const Form& owner, const std::function<void()>& dialog);
+  void RunSystemDialog(const CollectedForm& owner, const std::function<void()>& dialog);
   /// True while a form is shown modally or a dialog of Windows is on the screen.
   bool AnyModal() const { return !modal_.empty(); }
   /// The form shown modally on top, null when there is none.
-  Form* TopModal() const { return modal_.empty() ? nullptr : modal_.back().form; }
+  CollectedForm* TopModal() const { return modal_.empty() ? nullptr : modal_.back().form; }
 
   /// Called inside a catch block with an error that left an event handler; must not throw.
   void SetUncaughtHandler(std::function<void()> handler) { uncaught_ = std::move(handler); }
@@ -54,24 +68,24 @@ class FormCollection : public LoadedForms {
   /// A form shown modally, null for a dialog of Windows, and the forms that it keeps from taking
   /// input.
   struct Modal {
-    Form* form;
-    std::vector<Form*> blocked;
+    CollectedForm* form;
+    std::vector<CollectedForm*> blocked;
   };
 
-  void Add(Form& form) { loaded_.push_back(&form); }
-  void Remove(Form& form);
-  bool IsModal(const Form& form) const;
-  bool IsBlocked(const Form& form) const;
+  void Add(CollectedForm& form) { loaded_.push_back(&form); }
+  void Remove(CollectedForm& form);
+  bool IsModal(const CollectedForm& form) const;
+  bool IsBlocked(const CollectedForm& form) const;
   /// Gives the blocked forms back to the user, or to a modal form above this one.
-  void EndModal(const Form* form);
+  void EndModal(const CollectedForm* form);
   /// The forms that a new modal one keeps from taking input from now on.
-  std::vector<Form*> Block(Form* modal);
+  std::vector<CollectedForm*> Block(CollectedForm* modal);
 
   FormHost* host_;
   MessageLoop* loop_;
   ScreenQueries* screen_;
   TimerApi* timers_;
-  std::vector<Form*> loaded_;
+  std::vector<CollectedForm*> loaded_;
   std::vector<Modal> modal_;
   std::function<void()> uncaught_;
 };

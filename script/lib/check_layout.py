@@ -1,6 +1,7 @@
 """Checks what clang-format leaves open: one form for guards, one for namespaces.
 
 - A single statement that fits on the line of its if, for or while stands there, without braces.
+  GoogleTest's assertions, which hide an if of their own, keep them.
 - A blank line stands behind the line that opens a namespace and before the one that closes it;
   only namespaces that open or close together stand together.
 """
@@ -11,7 +12,7 @@ import sys
 
 COLUMNS = 100
 GUARD = re.compile(
-    r"^( *)((?:if|for|while) \(.*\)) \{\n +(?=\S)((?!(?:if|for|while|do|switch)\b).*;)\n\1\}\n", re.M
+    r"^( *)((?:if|for|while) \(.*\)) \{\n +(?=\S)((?!(?:if|for|while|do|switch)\b|EXPECT_|ASSERT_).*;)\n\1\}\n", re.M
 )
 
 

@@ -23,7 +23,7 @@ KorvaleCopy::KorvaleCopy(KorvaleWorld& world, const std::string& folder, int pro
 KorvaleCopy::~KorvaleCopy() = default;
 
 class Form& KorvaleCopy::Loaded(const std::string& name) {
-  class Form* form = program.Forms().Find(name);
+  class Form* form = static_cast<class Form*>(program.Forms().Find(name));
   if (form == nullptr) FailTest(name + " is not open");
   return *form;
 }

@@ -19,7 +19,7 @@ constexpr List kLists[] = {
 }  // namespace
 
 void SimulatedLife::UseOptions() {
-  Form* const dialog = korvale_->program.Forms().Find("frmOptions");
+  Form* const dialog = static_cast<Form*>(korvale_->program.Forms().Find("frmOptions"));
   if (dialog == nullptr) return OpenOptions();
   if (!korvale_->user.IsShown(dialog->Handle())) return GoToKorvale();
   if (dice_->OneIn(5)) return EndOptions(*dialog);

@@ -206,7 +206,9 @@ void SimulatedLife::Restart() {
   ForgetKorvale();
   StartKorvale();
   ExpectKept(before);
-  if (normal) EXPECT_EQ(korvale_->user.Place(korvale_->Handle()), place);
+  if (normal) {
+    EXPECT_EQ(korvale_->user.Place(korvale_->Handle()), place);
+  }
   // The height follows from what the window shows.
   before.startup.Height = korvale_->Startup().Height;
   // The tip about refused hot keys may have been silenced.
