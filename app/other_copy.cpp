@@ -14,7 +14,7 @@ namespace {
 
 /// How long a copy that is just starting may take to show its main window, in ms.
 constexpr std::uint32_t kCopyPatience = 5000;
-/// How long one without any window may take to let the next one run, in ms.
+/// How long a copy without a window, as an ending one, may keep the next one waiting, in ms.
 constexpr std::uint32_t kEndPatience = 200;
 constexpr std::uint32_t kCopyPoll = 50;
 
@@ -52,7 +52,7 @@ WindowHandle OtherCopy::FindByCaption(Desktop& desktop, const InstanceSearch& se
   return 0;
 }
 
-/// Also a copy whose main window is still hidden while a box or tip of its start-up is shown.
+/// Also finds a copy whose main window is hidden while a box or tip of its start-up is shown.
 WindowHandle OtherCopy::Find(Desktop& desktop) {
   const WindowHandle shown = FindByCaption(
       desktop,
@@ -79,7 +79,7 @@ std::uint32_t OtherCopy::Patience(Desktop& desktop) {
 void OtherCopy::BringForward(Desktop& desktop, WindowHandle copy) {
   WindowQueries& windows = platform_->windows;
   if (!windows.IsWindowVisible(copy) || !windows.IsWindowEnabled(copy)) {
-    // Something of its own waits for the user's answer first.
+    // The other copy is showing something that must be answered first.
     ReturnForegroundTo(windows, platform_->commands, FindWaitingWindow(windows, copy));
     return;
   }

@@ -13,20 +13,20 @@
 
 namespace korvale {
 
-/// What a start does about another copy of the same installation.
+/// What start-up does about another copy of the same installation.
 class OtherCopy {
  public:
   explicit OtherCopy(Platform& platform) : platform_(&platform) {}
 
-  /// Takes the installation's lock. A copy that was started in the same instant holds it while its
-  /// window is still hidden, one that is just ending while it has none any more: waits until that
-  /// one is seen or gone.
+  /// Takes the installation's lock. A copy that was started in the same instant holds it before its
+  /// window is shown, one that is ending still holds it after its window is gone: waits until that
+  /// copy can be seen or is gone.
   void WaitFor(Desktop& desktop, const ProgramIdentity& identity);
 
   /// No other copy of this installation runs or is about to.
   bool Alone() const { return alone_; }
 
-  /// When another copy runs, tells the user and brings that one forward: true, this one must end.
+  /// When another copy runs, tells the user, brings it forward and returns true: this one must end.
   bool GiveWay(Desktop& desktop);
 
  private:

@@ -15,7 +15,7 @@ namespace {
 
 std::string HexText(std::uint64_t value) { return "0x" + UpperCase(HexadecimalText(value)); }
 
-/// What is known of an exception that nobody caught; it is the current one.
+/// Describes the current exception, which nothing caught.
 std::string DescribeUncaught() {
   if (!std::current_exception()) return "terminated";
   try {
@@ -40,10 +40,10 @@ Program::~Program() { platform_->system.SetUnhandledExceptionFilter({}); }
 
 bool Program::Start() {
   return Guarded([this] {
-    // Known before there is a window, so that also a failure to make it is told and recorded.
+    // Known before there is a window, so that even a failure to make one is reported and logged.
     form_.Parts().identity = ReadProgramIdentity(platform_->system);
     form_.Show();
-    // Windows does not activate what is shown minimized, so its user is asked and recorded here.
+    // Windows does not activate a window that is shown minimized.
     if (form_.WindowState() == ShowState::kMinimized) {
       startUp_.FirstActivation(form_, form_.Parts());
     }
@@ -74,8 +74,8 @@ bool Program::Guarded(const std::function<void()>& step) {
   }
 }
 
-/// An error that left an event handler, a timer or the window procedure: the user is told and the
-/// program goes on, unless it has just been taken down.
+/// Reports an error that left an event handler, a timer or the window procedure. The program goes
+/// on, unless it has just been taken down.
 void Program::ReportUncaught() {
   try {
     try {
@@ -99,7 +99,7 @@ void Program::ReportCrash(const Crash& crash) {
                                {description, "address = " + HexText(crash.address),
                                 parts.identity.productName + " cannot go on and will be closed."});
   } catch (...) {
-    // All has been told, recorded and taken down; of a further error there is nobody to tell.
+    // The error is reported and the program taken down; nobody is left to hear of another one.
     return;
   }
 }

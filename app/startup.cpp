@@ -49,7 +49,7 @@ void StartUp::Initialise(frmMain& form, MainParts& parts) {
     form.udmSaveOptions();
     form.CommitOrTellOnce(save);
   }
-  // Before the main window comes up and takes the user where they want to be.
+  // Before the main window comes up, since the user may be taken to another window then.
   MentionRefusedHotKeys(form, parts.hotKeys);
   EndIfUnloaded(form);
 }
@@ -65,13 +65,13 @@ void StartUp::EndBeforeStart(frmMain& form) {
   throw ProgramEnded{};
 }
 
-/// True when the settings are those of another installation, taken over and already in use: the
-/// store may have refused some of them.
+/// True when the settings in use were taken over from another installation: they must not be
+/// loaded, since the store may have refused some of them.
 bool StartUp::RunInstallation(frmMain& form, MainParts& parts) {
   parts.options.Create();
   parts.settings.SetAppName(parts.identity.mainCaption);
   if (!otherCopy_.Alone()) {
-    // The rule is for the copy that runs; this one is about to be refused.
+    // The rule is for the copy that runs; this one is about to end.
     return false;
   }
   parts.settings.FinishInterruptedSave();
@@ -177,8 +177,8 @@ void StartUp::RecordPreviousWindow(frmMain& form, MainParts& parts) {
                                   GetWindowClass(platform_->windows, before)});
     parts.desktop.tracker.ValidatePreviousWindow();
   }
-  // The user has come to the main window from another one, as they do by a click on it; to a
-  // minimized one they have not come.
+  // The user has come to the main window from another one, as if they had clicked it; not to a
+  // minimized one.
   if (form.WindowState() != ShowState::kMinimized) parts.desktop.tracker.LookAnew();
   if (before != 0 && parts.options.Get().booSelectPrevWinOnStart) {
     SelectPreviousWindow(parts.desktop);

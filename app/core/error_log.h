@@ -23,12 +23,12 @@ struct ErrorLogState {
 /// Appends records to "Error.log" in the program's folder, lines ended by CR LF.
 class ErrorLog {
  public:
-  /// `state` is asked once a record.
+  /// `state` is called once for each record.
   ErrorLog(const ProgramIdentity& identity, SystemApi& system, Clock& clock,
            std::function<ErrorLogState()> state);
 
-  /// Appends one record; the file is open only meanwhile. Throws RunTimeError 75 (Path/File access
-  /// error) when it cannot be opened; errors while writing are ignored.
+  /// Appends one record, with the file open only while it does. Throws RunTimeError 75 (Path/File
+  /// access error) when the file cannot be opened; errors while writing are ignored.
   void Append(const std::string& errorNumber, const std::string& problem,
               const std::string& locals);
 

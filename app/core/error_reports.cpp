@@ -16,7 +16,7 @@ std::string RunTimeErrorText(std::int16_t number) {
   return "VB ERROR " + DecimalText(number) + " - " + RunTimeErrorDescription(number);
 }
 
-// For the last steps of a program that ends whatever they come to.
+// For the last steps of a program that ends no matter how they turn out.
 void RunAndForgetErrors(const std::function<void()>& step) {
   try {
     step();

@@ -43,7 +43,7 @@ class ErrorReports : public ErrorReporters {
   std::function<void()> shutDown_;
 };
 
-/// What is known of the exception in whose catch block it is called; lets ProgramEnded pass.
+/// Describes the exception that is being handled; rethrows ProgramEnded. Only inside a catch block.
 std::string DescribeCaught();
 
 }  // namespace korvale

@@ -8,7 +8,7 @@
 namespace korvale {
 namespace {
 
-/// The usual spelling of a path that stands in front of the names as Windows keeps them.
+/// The usual spelling of a path, without the prefix "\\?\" or "\\?\UNC" of the system's own one.
 std::string WithoutPrefix(std::string_view path) {
   constexpr std::string_view kShare = "\\\\?\\UNC\\";
   constexpr std::string_view kPrefix = "\\\\?\\";
@@ -22,7 +22,7 @@ std::string WithoutPrefix(std::string_view path) {
 
 bool IsDrive(std::string_view path) { return path.size() == 2 && path.back() == ':'; }
 
-/// "\\server\share" and what is shorter has no folder above it.
+/// "\\server\share" and anything shorter have no folder above them.
 bool IsShare(std::string_view path) {
   if (!path.starts_with("\\\\")) return false;
   const std::size_t server = path.find('\\', 2);
@@ -37,12 +37,12 @@ std::string_view Above(std::string_view path) {
 }
 
 FolderInfo Open(SystemApi& system, std::string_view path) {
-  // Without the backslash a drive is the folder that is current there.
+  // Without the backslash a drive letter means the current folder of that drive.
   return system.GetFinalPathNameByHandleW(std::string(path) + (IsDrive(path) ? "\\" : ""));
 }
 
 bool NotFound(const FolderInfo& info) {
-  // A link that stays while what it leads to is away is no answer.
+  // A link whose target cannot be reached does not say whether the target still exists.
   return !info.isLink &&
          (info.error == win32::kErrorFileNotFound || info.error == win32::kErrorPathNotFound);
 }

@@ -9,19 +9,19 @@ namespace korvale {
 
 /// What makes a folder the same under every drive letter, link, share and short name.
 struct FolderIdentity {
-  /// With its long names and without a closing backslash.
+  /// The path with long names and without a closing backslash.
   std::string path;
-  /// Number of volume and folder, "" where the volume has none.
+  /// Numbers of the volume and the folder; "" when the volume has none.
   std::string fileId;
 
-  /// True when path (in any case) or number are the same.
+  /// True when the paths (in any case) or the numbers are the same.
   bool IsSameAs(const FolderIdentity& other) const;
 };
 
-/// The identity of a folder that can be reached; the path as it was given for any other.
+/// The identity of a folder; for one that cannot be reached, only the path as given.
 FolderIdentity ReadFolderIdentity(SystemApi& system, std::string_view folder);
 
-/// kAway = nobody can tell: its drive or computer cannot be reached at the moment.
+/// kAway = unknown, since its drive or computer cannot be reached at the moment.
 enum class FolderPresence { kThere, kGone, kAway };
 
 FolderPresence LookForFolder(SystemApi& system, std::string_view folder);

@@ -31,8 +31,8 @@ struct ProgramIdentity {
   std::string executableName;
 };
 
-/// The last component of a folder, closing backslashes left aside: "Work" of "D:\Tools\Work\",
-/// "C:" of a drive's root.
+/// The last component of a folder, ignoring closing backslashes: "Work" for "D:\Tools\Work\", "C:"
+/// for a drive's root.
 std::string FolderName(std::string_view folder);
 
 /// Reads the executable's path and version resource.

@@ -42,7 +42,7 @@ class InstallationRule {
       result.mustEnd = true;
       return result;
     }
-    // Without an entry only the rule about equal names is lost; no reason not to start.
+    // Without an entry only the rule about equal names is lost, which is no reason not to start.
     settings_.Store().SaveSetting(kInstallationRegister, kRegisterSection, settings_.AppName(),
                                   identity_.installation.path);
     if (!result.firstRun) return result;
@@ -62,7 +62,7 @@ class InstallationRule {
     return ReadFolderIdentity(system_, folder).IsSameAs(identity_.installation);
   }
 
-  /// True when the folder is known to hold the program no more, and nobody but this installation.
+  /// True when the folder is this installation's own or is known not to hold the program any more.
   bool HasLeft(const std::string& folder) {
     if (IsOwnFolder(folder)) return true;
     return LookForFolder(system_, folder) != FolderPresence::kAway && !HoldsExecutable(folder);
@@ -89,11 +89,12 @@ class InstallationRule {
         win32::kMbOk, identity_.messageTitle);
   }
 
-  /// The first installation that has left its folder and its settings behind; "" when none has.
+  /// The first installation that is gone from its folder but has settings left; "" when there is
+  /// none.
   std::string FirstToTakeOver(const SettingsStore::Pairs& installations) {
     for (const auto& [name, folder] : installations) {
       if (name.empty() || EqualsIgnoreCase(name, settings_.AppName())) continue;
-      // An entry that is damaged does not tell whether its installation lives.
+      // A damaged entry does not say whether its installation still exists.
       if (folder.empty() || !HasLeft(folder)) continue;
       const PointedAt other(settings_, name);
       settings_.FinishInterruptedSave();

@@ -30,27 +30,28 @@ struct InstallationResult {
 /// The rule that gives each installation folder its own settings; runs once before loading, in the
 /// only copy of the installation that is starting.
 ///
-/// Offered are the settings of the first registered installation that has any and whose folder no
-/// longer holds the executable, or is this one under another name. A folder that cannot be reached
-/// has not lost it.
-/// FinishInterruptedSave must have been called for this installation; here it is for the others.
+/// The settings offered are those of the first registered installation that has any and whose
+/// folder no longer holds the executable, or is this one under another name. A folder that cannot
+/// be reached counts as holding it. FinishInterruptedSave must have been called for this
+/// installation; for the others it is called here.
 InstallationResult RunInstallationRule(const ProgramIdentity& identity, Settings& settings,
                                        SystemApi& system, MessageBoxes& messages);
 
-/// All that an installation stores.
+/// Everything that an installation stores.
 struct InstallationSettings {
   clsOptions options;
   StartupSettings startup;
   StoredTagList tags;
 };
 
-/// Loads the settings of another installation, the place of the window at its default, and adds to
-/// `save` all that makes them this one's and deletes the other. As one save: at any moment they
-/// stand under one of the two names, also when the store refuses some.
+/// Loads the settings of another installation, with the window's place at its default, and adds to
+/// `save` the changes that store them under this one's name and delete the other's. They are one
+/// save: at any moment the settings stand under one of the two names, even when the store refuses
+/// some.
 InstallationSettings TakeOver(Settings& settings, const std::string& other, SaveScope& save);
 
-/// The settings application names, each also a main caption, under which this installation is
-/// registered: started through the root of a share it has another name.
+/// The settings application names (each also a main caption) under which this installation is
+/// registered: started through the root of a share it has a different one.
 std::vector<std::string> RegisteredNames(const ProgramIdentity& identity, SettingsStore& store,
                                          SystemApi& system);
 

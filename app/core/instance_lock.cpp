@@ -8,7 +8,7 @@
 namespace korvale {
 namespace {
 
-/// FNV-1a. Folder names hold characters that object names must not, and may be longer.
+/// FNV-1a: folder names may be too long for object names and hold characters forbidden there.
 std::uint64_t Hash(std::string_view text) {
   constexpr std::uint64_t kOffset = 0xcbf29ce484222325;
   constexpr std::uint64_t kPrime = 0x100000001b3;

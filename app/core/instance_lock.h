@@ -10,23 +10,23 @@
 
 namespace korvale {
 
-/// Names of the system objects that copies of one installation share, for its path and its number:
-/// what is the same folder has one of them in common.
+/// Names of the system objects that the copies of one installation share, one for its path and one
+/// for its number: copies in the same folder have at least one in common.
 std::vector<std::string> InstanceLockNames(const FolderIdentity& folder);
 
-/// Lets one copy of an installation at a time through its start-up, so that of two that start in
-/// the same instant the second finds the first one's window. Let go when destroyed.
+/// Lets the copies of an installation start one at a time, so that when two start in the same
+/// instant the second finds the window of the first. Released when destroyed.
 class InstanceLock {
  public:
   InstanceLock(SystemApi& system, const FolderIdentity& folder);
 
-  /// Waits up to `ms` milliseconds to hold the lock; true when it is held, from now on or already.
-  /// Also true when the system gives no such object: the search for the other window is then all
-  /// that can be done.
+  /// Waits up to `ms` milliseconds for the lock; true when it is held now. Also true when the
+  /// system refuses to make the object: searching for the other window is then all that can be
+  /// done.
   bool TryHold(std::uint32_t ms);
 
  private:
-  /// Those that are not held yet, and those that are.
+  /// The mutexes that are not held yet, and those that are.
   std::vector<std::unique_ptr<SystemMutex>> wanted_;
   std::vector<std::unique_ptr<SystemMutex>> held_;
 };

@@ -10,7 +10,7 @@
 
 namespace korvale {
 
-/// What hot keys do beside selecting the windows of the Tags.
+/// What hot keys do besides selecting the windows of the Tags.
 enum class Operation {
   kMinimize,
   kRestoreMaximize,
@@ -67,11 +67,11 @@ constexpr std::size_t OperationCount(OperationGroup group) {
   return static_cast<std::size_t>(std::ranges::count(kOperations, group, &OperationRow::group));
 }
 
-/// One value of each operation of a group.
+/// One value for each operation of a group.
 template <OperationGroup Group>
 using OperationValues = std::array<std::int16_t, OperationCount(Group)>;
 
-/// The defaults that stand in a column of the table.
+/// The defaults of a group in one column of the table.
 template <OperationGroup Group>
 constexpr OperationValues<Group> OperationDefaults(std::int16_t OperationRow::*column) {
   OperationValues<Group> values{};

@@ -13,15 +13,15 @@ namespace korvale {
 
 inline constexpr Color kDefaultHotKeyEnabledColor = 0x0080FFFF;
 
-/// All user options. Modifiers are sums of MOD_ values, keys are virtual-key codes with 0 = no
-/// key. Field and store key of each stand together in the settings table.
+/// All user options. Modifiers are sums of MOD_ values, keys are virtual-key codes with 0 = no key.
+/// setting_rows.cpp pairs each field with its store key.
 struct clsOptions {
   bool booSplashScreen = true;
   bool booSelectPrevWinOnStart = false;
   bool booAllowNoTextWindow = false;
   bool booAllowToolbarWindow = false;
   Color colHotKeyEnabled = kDefaultHotKeyEnabledColor;
-  /// Has no store key on purpose: every run starts with false.
+  /// Deliberately not stored: every run starts with false.
   bool booAllowModalFrameWindow = false;
   std::int16_t intHotKeyModParent = 1;
   std::array<bool, 10> booHotKeyParent = {true, true, true, true, true,

@@ -17,17 +17,17 @@ namespace korvale {
 namespace {
 
 constexpr const char* kCompleteMark = "Complete";
-/// Occurs in no folder name and so in no application name; the key may hold anything.
+/// Cannot occur in a folder name, so not in an application name; the key may hold anything.
 constexpr char kSeparator = '\\';
 
-/// The letter of the kind, a small one for changes that are made last.
+/// The letter of the kind, in lower case for changes that are made last.
 char KindLetter(const StoreChange& change) {
   const char letter = static_cast<char>(change.kind);
   return change.last ? static_cast<char>(std::tolower(letter)) : letter;
 }
 
-// The value of a change is the value of its entry as it is, so that the store treats both alike;
-// everything else is in the entry's name: number\kind\application name\section\key.
+// The value of an entry is the change's value unaltered, so that the store treats both alike; the
+// rest is in the entry's name: number\kind\application name\section\key.
 std::string EntryName(std::int32_t number, const StoreChange& change) {
   std::string name = DecimalText(number);
   name += kSeparator;
@@ -39,7 +39,7 @@ std::string EntryName(std::int32_t number, const StoreChange& change) {
   return name;
 }
 
-/// A change of the kind that the letter stands for, nothing when it stands for none.
+/// A change of the kind that the letter stands for; nothing for any other letter.
 std::optional<StoreChange> ChangeOfKind(std::string_view letter) {
   using Kind = StoreChange::Kind;
   for (const Kind kind : {Kind::kSaveSetting, Kind::kDeleteSetting, Kind::kDeleteSection}) {
@@ -51,7 +51,7 @@ std::optional<StoreChange> ChangeOfKind(std::string_view letter) {
   return std::nullopt;
 }
 
-/// The text up to the next separator, which is taken off `rest` together with it.
+/// The text up to the next separator; removes both from `rest`.
 std::string_view TakePart(std::string_view& rest) {
   const std::size_t end = rest.find(kSeparator);
   const std::string_view part = rest.substr(0, end);
@@ -72,7 +72,7 @@ void AddEntry(std::string_view name, const std::string& value, NumberedChanges& 
   changes[*number] = std::move(*change);
 }
 
-/// The changes of a journal, nothing unless all of them are there.
+/// The changes of a journal; nothing when it is incomplete.
 std::optional<std::vector<StoreChange>> CompleteChanges(const SettingsStore::Pairs& entries) {
   NumberedChanges numbered;
   std::optional<std::int32_t> count;
@@ -104,7 +104,7 @@ bool Supersedes(const StoreChange& newer, const StoreChange& older) {
          (older.kind != Kind::kDeleteSection && newer.key == older.key);
 }
 
-/// The last of the changes after which nothing is left of `older`; null when there is none.
+/// The last change after which nothing is left of `older`; null when there is none.
 const StoreChange* Superseding(std::span<const StoreChange> changes, const StoreChange& older) {
   const StoreChange* last = nullptr;
   for (const StoreChange& change : changes) {
@@ -113,7 +113,7 @@ const StoreChange* Superseding(std::span<const StoreChange> changes, const Store
   return last;
 }
 
-/// True when a value of the older changes that the store has not taken will not be made any more.
+/// True when the newer changes replace or delete a value that the store has not taken yet.
 bool LosesAValue(SettingsStore& store, std::span<const StoreChange> older,
                  std::span<const StoreChange> newer) {
   while (!older.empty()) {
@@ -131,7 +131,7 @@ bool LosesAValue(SettingsStore& store, std::span<const StoreChange> older,
   return false;
 }
 
-/// True when the change deletes a section that nothing stands in by then.
+/// True when the change deletes a section that will be empty by then.
 bool IsIdle(SettingsStore& store, std::span<const StoreChange> before, const StoreChange& change) {
   return change.kind == StoreChange::Kind::kDeleteSection &&
          std::ranges::none_of(before,
@@ -169,9 +169,9 @@ void SaveJournal::FinishInterrupted() {
   store_->DeleteSection(appName_, kJournalSection);
 }
 
-/// What an earlier save was refused stays to be made, before the new changes and without what they
-/// make anew or delete. What was to be deleted once all of it stands is not deleted any more when
-/// that cannot come true.
+/// Changes that the store refused in an earlier save come before the new ones, except those that
+/// the new ones replace or delete. A deletion that waits for all others is dropped when one of
+/// those can no longer be made.
 std::vector<StoreChange> SaveJournal::BehindRefused(
     const std::vector<StoreChange>& newChanges) const {
   auto changes = CompleteChanges(store_->GetAllSettings(appName_, kJournalSection))

@@ -11,8 +11,8 @@ namespace korvale {
 /// Section that holds the changes of a save while it is being made; gone once it is done.
 inline constexpr const char* kJournalSection = "Saving";
 
-/// Makes several changes as one: a program killed between any two writes leaves behind either
-/// nothing of them, or what FinishInterrupted needs to make the rest.
+/// Makes several changes as one: a program killed between any two writes leaves behind either none
+/// of them, or what FinishInterrupted needs to make the rest.
 ///
 /// All changes are first written into the journal section with a mark at the end that counts them,
 /// then made, then the journal is deleted. Making them twice leads to the same state.
@@ -21,14 +21,15 @@ class SaveJournal {
   /// The journal stands under `appName`; the changes may concern any application name.
   SaveJournal(SettingsStore& store, std::string appName);
 
-  /// Makes the changes in their order, the last ones only when all others were made. Throws
-  /// RunTimeError 70 (Permission denied) when the store refused one: with no change made when the
-  /// journal could not be written, otherwise after all others; what was refused is tried again by
-  /// the next Commit or FinishInterrupted, and never undoes a newer change. The last changes are
-  /// dropped when a value that they wait for is replaced or deleted before the store has taken it.
+  /// Makes the changes in order, those marked `last` only once all others are made. Throws
+  /// RunTimeError 70 (Permission denied) when the store refuses: before any change when the journal
+  /// cannot be written, otherwise after making all that it can. What was refused is tried again by
+  /// the next Commit or FinishInterrupted and never undoes a newer change. Changes marked `last`
+  /// are dropped when a value that they wait for is replaced or deleted before the store has taken
+  /// it.
   void Commit(const std::vector<StoreChange>& newChanges);
 
-  /// Makes all changes of a complete journal that was left behind and removes it unless the store
+  /// Makes all changes of a complete journal that was left behind and removes it, unless the store
   /// refuses again; drops an incomplete one. Does nothing when there is none.
   void FinishInterrupted();
 

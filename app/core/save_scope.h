@@ -20,8 +20,8 @@ class SavingStore {
   SavingStore(const SavingStore&) = delete;
   SavingStore& operator=(const SavingStore&) = delete;
 
-  /// The application name under which all settings of an installation stand. It points at another
-  /// installation only while that one's settings are taken over.
+  /// The application name under which all settings of an installation stand. Names another
+  /// installation only while its settings are being taken over.
   const std::string& AppName() const { return appName_; }
   void SetAppName(std::string appName) { appName_ = std::move(appName); }
 
@@ -32,14 +32,14 @@ class SavingStore {
 
   SettingsStore* store_;
   std::string appName_;
-  /// The innermost one; null when there is none.
+  /// The innermost scope; null when none is open.
   SaveScope* openScope_ = nullptr;
 };
 
-/// Saves that belong together. All that is saved and deleted through the settings while the scope
-/// is open, or added to it, is made as one by Commit, and nothing of it when the scope is left
-/// without. Until then reads see the store as it was. A scope within another hands its changes over
-/// to that one.
+/// Saves that belong together. Commit makes, as one save, everything that was saved or deleted
+/// through the settings while the scope was open or was added to it; without Commit nothing is
+/// made. Until then reads see the store unchanged. A scope inside another one hands its changes to
+/// the outer one.
 class SaveScope {
  public:
   explicit SaveScope(SavingStore& store);
@@ -51,11 +51,11 @@ class SaveScope {
                    const std::string& value);
   void DeleteSetting(const std::string& appName, const std::string& section,
                      const std::string& key);
-  /// Also of a section that holds nothing yet: an earlier save may still be pending.
+  /// For a section that holds nothing yet, too: an earlier save may still be pending.
   void DeleteSection(const std::string& appName, const std::string& section);
 
-  /// Deletions from now on are made only once everything else stands: nothing that the store
-  /// refuses is lost under both names.
+  /// Deletions added from now on are made only once everything else is stored, so that nothing the
+  /// store refuses is lost under both names.
   void DeleteLast() { deletesLast_ = true; }
 
   /// Closes the scope and makes its changes, once. Throws what SaveJournal::Commit throws.

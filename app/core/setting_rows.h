@@ -19,7 +19,7 @@ inline constexpr const char* kStartupSection = "Startup";
 /// decimal text within 16 or 32 bits, or the text itself.
 using SettingField = std::variant<bool*, std::int16_t*, std::int32_t*, std::string*>;
 
-/// What becomes of a setting when it was taken over from another installation.
+/// What becomes of a setting that is taken over from another installation.
 enum class OnImport : bool { kKeep, kDrop };
 
 /// One setting: where it is stored and which field of the record holds it. The default is what a
@@ -39,8 +39,8 @@ struct SettingRow {
 std::span<const SettingRow<clsOptions>> OptionRows();
 std::span<const SettingRow<StartupSettings>> StartupRows();
 
-/// Converts a stored text and puts it into the field. False, and the field as it was, when there is
-/// no text, it is not of the field's type, or the number is outside `least`..`most`.
+/// Converts a stored text into the field. False, with the field unchanged, when there is no text,
+/// it is not of the field's type, or the number is outside `least`..`most`.
 bool ReadSetting(const std::optional<std::string>& stored, SettingField field, std::int32_t least,
                  std::int32_t most);
 

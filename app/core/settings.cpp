@@ -15,7 +15,7 @@ namespace {
 constexpr const char* kTagCaptions = "ParentWindowList";
 constexpr const char* kTagClasses = "ParentWindowClass";
 
-/// Rewritten by every SaveINI; nothing but its deletion is left of those that nothing else names.
+/// Deleted by every SaveINI, which then writes those in use; the others are of earlier designs.
 constexpr std::array kSectionsOfSaveINI = {kStartupSection, "ButtonTags", "ButtonColors",
                                            kTagCaptions,    kTagClasses,  "ChildWindowList"};
 

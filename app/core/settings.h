@@ -12,25 +12,24 @@ namespace korvale {
 /// A value that is missing or cannot be converted yields the setting's default.
 ///
 /// A save is made as a whole or not at all, even when the program is killed in the middle of it:
-/// the next run's FinishInterruptedSave, or else the next save, ends what was begun. Every save and
+/// FinishInterruptedSave of the next run, or else the next save, completes it. Every save and
 /// deletion belongs to the open SaveScope and is a save of its own when there is none; saving
 /// throws RunTimeError 70 when the store refuses a value.
 class Settings : public SavingStore {
  public:
   using SavingStore::SavingStore;
 
-  /// Every field of `options` that is stored; the others stay as they are.
+  /// Loads every stored field of `options`; the others stay as they are.
   void LoadOptions(clsOptions& options) const;
   void SaveOptions(const clsOptions& options);
   /// Deletes the section "Options" if it holds any values.
   void DeleteOptions();
 
   StartupSettings LoadStartup() const;
-  /// Without keys other than "1" to "9" and without captions that are not TagCaption's of their
-  /// key.
+  /// Skips keys other than "1" to "9" and captions that do not begin as TagCaption makes them.
   StoredTagList LoadTagList() const;
-  /// Deletes the sections of the main window's state, the old ones of earlier designs and the Tag
-  /// list, then writes the state and the Tag list.
+  /// Deletes the sections of the main window's state, of the Tag list and of earlier designs, then
+  /// writes the state and the Tag list.
   void SaveINI(const StartupSettings& startup, const StoredTagList& tags);
   /// Only the deletions of SaveINI.
   void DeleteINI();
@@ -42,8 +41,8 @@ class Settings : public SavingStore {
   /// True when no section of this installation holds anything.
   bool NothingStored() const;
 
-  /// Ends a save under AppName() that a killed run began, or drops it when it had not got far
-  /// enough. To be called before loading, and by the only running copy of the installation.
+  /// Completes a save under AppName() that a killed run began, or drops it when its journal is
+  /// incomplete. Must be called before loading, by the only running copy of the installation.
   void FinishInterruptedSave();
 };
 

@@ -11,7 +11,7 @@ inline constexpr Color kDefaultTargetColor = 0x009FFFFF;
 inline constexpr Color kDefaultClassColor = 0x00AEFFAE;
 inline constexpr Color kDefaultLastColor = 0x00FFFFFF;
 
-/// No stored place or size is farther out, in twips: Windows counts screens in 16 bits of pixels.
+/// The largest stored place or size in twips: Windows counts screens in 16 bits of pixels.
 inline constexpr Twips kFarthestPlace = 32767 * 15;
 
 /// The main window's state as it is kept between runs. Lengths in twips.

@@ -6,7 +6,7 @@ namespace korvale {
 
 namespace {
 
-/// Deletes what the change names; a failure is nothing that stops the others.
+/// Deletes what the change names; a failure does not stop the other deletions.
 void Delete(SettingsStore& store, const StoreChange& change) {
   try {
     if (change.kind == StoreChange::Kind::kDeleteSetting) {

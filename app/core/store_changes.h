@@ -15,14 +15,14 @@ struct StoreChange {
   std::string section;
   std::string key;
   std::string value;
-  /// To be made only once all others stand: what is deleted then is not to be had again.
+  /// Made only once all others are: what it deletes cannot be had again.
   bool last = false;
 
   friend bool operator==(const StoreChange&, const StoreChange&) = default;
 };
 
 /// Makes one change; false when the store refused to save a value or to delete a section that holds
-/// any. That one value cannot be deleted never counts; nothing stops what follows.
+/// any. A single value that cannot be deleted does not count.
 bool ApplyChange(SettingsStore& store, const StoreChange& change);
 
 }  // namespace korvale

@@ -8,7 +8,7 @@
 
 namespace korvale {
 
-/// Tags that a window is assigned to have the numbers 1 to this one; Tag 0 is never stored.
+/// Tags that a window can be given have the numbers 1 to this one; Tag 0 is never stored.
 inline constexpr int kTagCount = 9;
 
 constexpr bool IsTag(int number) { return number >= 1 && number <= kTagCount; }
