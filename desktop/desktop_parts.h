@@ -8,7 +8,7 @@
 
 namespace korvale {
 
-/// What the routines for the windows of the desktop work with; all of it is there before them.
+/// What the routines for the windows of the desktop work with; it must outlive them.
 struct DesktopParts {
   WindowQueries& windows;
   WindowCommands& commands;

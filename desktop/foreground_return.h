@@ -5,8 +5,8 @@
 
 namespace korvale {
 
-/// True when the window is that of a loaded form of ours. A form without a window has the handle
-/// 0, which is no window.
+/// True when the window is that of a loaded form of ours. A form without a window has the handle 0,
+/// which never counts.
 bool IsOwnForm(const LoadedForms& forms, WindowHandle hwnd);
 
 /// Puts the window in front (SetForegroundWindow) when it still can be: it lives, is visible,

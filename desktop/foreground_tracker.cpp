@@ -65,8 +65,7 @@ void ForegroundTracker::LookAtForeground() {
   }
 }
 
-/// A dialog that is not followed itself, and disables the window that owns it, is that window to
-/// the user.
+/// To the user, a dialog that is not followed itself and disables its owner is that owner.
 void ForegroundTracker::LookBehindDialog(WindowHandle dialog) {
   WindowHandle behind = windows_->GetWindow(dialog, win32::kGwOwner);
   for (int i = 0; i < kMostOwners && behind != 0 && !windows_->IsWindowEnabled(behind); ++i) {
@@ -107,7 +106,7 @@ void ForegroundTracker::NoteInFront(WindowHandle foreground) {
 WindowHandle ForegroundTracker::WindowBehind(WindowHandle closing) {
   if (windows_->GetForegroundWindow() != closing) return 0;
   const WindowHandle last = inFront_ == closing ? inFrontBefore_ : inFront_;
-  // The bare desktop is no window to select, yet the user may have been there.
+  // The bare desktop cannot be selected, yet the user may have been there.
   if (GetWindowClass(*windows_, last) == kBareDesktopClass) return last;
   const WindowHandle before = FindInputWindow(*windows_, last);
   if (last != closing && CanComeBack(before)) return before;
@@ -193,8 +192,8 @@ bool ForegroundTracker::IsBehindDialog(WindowHandle hwnd) {
              nullptr;
 }
 
-/// True also for a window behind a dialog of its own, and for one that is out of sight because its
-/// owner is minimized: Tag 0 brings the dialog forward and restores the owner.
+/// Also true for a window behind its own dialog, and for one that is out of sight because its owner
+/// is minimized: Tag 0 brings the dialog forward and restores the owner.
 bool ForegroundTracker::CanBeReached(const WindowTriple& window) {
   WindowTriple live = Recorded(&window);
   switch (actions_->ActivateWindow(live, false, false)) {
@@ -212,7 +211,7 @@ bool ForegroundTracker::CanBeReached(const WindowTriple& window) {
   }
 }
 
-/// The window under its title of now.
+/// The window with its present title.
 WindowTriple ForegroundTracker::Recorded(const WindowTriple* window) {
   if (window == nullptr) return {};
   return {window->handle, GetWindowTitle(*windows_, window->handle), window->className};
@@ -254,7 +253,7 @@ void ForegroundTracker::ShowRecord() {
 
 void ForegroundTracker::udmRefreshAlwaysOnTopMenuChecked() {
   const std::int32_t main = windows_->GetWindowLongA(mainWindow_->MainHandle(), win32::kGwlExStyle);
-  // Without any extended style the mark of the main window stays as it is.
+  // A main window without any extended style keeps its check mark.
   if (main != 0) mainWindow_->CheckAlwaysOnTop((main & win32::kWsExTopmost) != 0);
   const std::int32_t previous =
       windows_->GetWindowLongA(previous_->current.handle, win32::kGwlExStyle);

@@ -24,7 +24,7 @@ class ForegroundTracker {
   /// The tick of tmrWindow; also called when the Window menu opens.
   void tmrWindow_Timer();
 
-  /// Takes the foreground window of now into the record, as the tick does, so that nothing is lost
+  /// Takes the present foreground window into the record, as the tick does, so that nothing is lost
   /// between two ticks; called before a hot key's action.
   void LookAtForeground();
 
@@ -32,8 +32,9 @@ class ForegroundTracker {
   /// once the main window has come up in front of the window that the user worked in.
   void LookAnew();
 
-  /// The window that the user has in front (GetForegroundWindow); 0 while that is the main window
-  /// for its popped-up menu alone, or one that a selected window is about to take the place of.
+  /// The window that the user has in front (GetForegroundWindow); 0 while the main window is there
+  /// only for its popped-up menu, or while a selected window is about to take the place of this
+  /// one.
   WindowHandle WindowInFront();
 
   /// The window to bring forward when `closing`, a window of ours, goes: the one that was in front
@@ -68,7 +69,7 @@ class ForegroundTracker {
   /// Windows may do a moment later.
   void RecordSelection(const WindowTriple& window);
 
-  /// The main window was in front for its popped-up menu alone and may stay there for a moment.
+  /// The menu has closed for which the main window was in front; it may stay there for a moment.
   void PopUpClosed();
 
  private:

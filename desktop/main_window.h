@@ -17,7 +17,7 @@ class TimerControl {
   virtual void SetEnabled(bool enabled) = 0;
   virtual std::string Tag() const = 0;
   virtual void SetTag(std::string_view tag) = 0;
-  /// Milliseconds; a running timer starts anew.
+  /// In milliseconds; restarts a running timer.
   virtual void SetInterval(std::uint32_t milliseconds) = 0;
 };
 

@@ -25,23 +25,22 @@ struct PreviousWindow {
   WindowTriple alternate;
   /// The last foreground window that was not the main window.
   WindowHandle lastOtherForeground = 0;
-  /// A selection has moved the record already, or the main window was in front for its menu alone:
+  /// A selection has moved the record already, or the main window was in front only for its menu:
   /// the next tick may still find the window in front that is on its way to the back.
   bool menuSelection = false;
   /// With menuSelection: the window on its way to the back, and the one that takes its place.
   WindowHandle leaving = 0;
   WindowHandle coming = 0;
-  /// Outside the main window Tag 0 stands for the alternate, as the user is in the current window;
-  /// not when the window that they were in is gone.
+  /// While the user is outside the main window, Tag 0 stands for the alternate, since they are in
+  /// the current window; false when the window that they were in is gone.
   bool tagZeroIsAlternate = true;
 
-  /// A selection is still to take effect; not when the selected window has gone meanwhile.
+  /// A selection has yet to take effect, and the selected window still exists.
   bool IsPending(WindowQueries& windows) const {
     return menuSelection && (coming == 0 || windows.IsWindow(coming));
   }
 
-  /// The window that the user has in front (GetForegroundWindow) as soon as a selection has taken
-  /// effect.
+  /// The window that the user has in front (GetForegroundWindow) once a selection has taken effect.
   WindowHandle InFront(WindowQueries& windows) const {
     const WindowHandle foreground = windows.GetForegroundWindow();
     const bool late = (foreground == leaving || foreground == 0) && IsPending(windows);

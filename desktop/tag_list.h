@@ -36,7 +36,7 @@ const std::string& TagClass(const TagList& tags, const MenuItem& entry);
 /// Adds the entry of Tag `number`, which must have none: visible and unresolved.
 MenuItem& AddTagEntry(TagList& tags, int number, const std::string& caption);
 
-/// Mode 4, saving the list, is TagsToStore and Settings::SaveINI.
+/// Mode 4, saving the list, is done by TagsToStore and Settings::SaveINI.
 enum class TagListMode : std::int16_t {
   kExists = 1,     ///< 1 when Tag `tagNumber` has an entry (always for 0), else -1.
   kUnresolve = 2,  ///< Sets every entry's tag to "0".

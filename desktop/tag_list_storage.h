@@ -5,7 +5,7 @@
 
 namespace korvale {
 
-/// What of the Tag list is kept between runs.
+/// The part of the Tag list that is kept between runs.
 StoredTagList TagsToStore(const TagList& tags);
 
 /// Replaces the Tag list by a stored one, all entries unresolved.

@@ -4,8 +4,8 @@
 
 namespace korvale {
 
-/// Stops the timers of the main window for as long as it lives, so that no tick comes between the
-/// steps of an operation on windows; then those run again that are meant to.
+/// Stops the timers of the main window while it exists, so that no tick comes between the steps of
+/// an operation on windows; then restarts those that are meant to run.
 class TimerPause {
  public:
   explicit TimerPause(MainWindow& mainWindow) : mainWindow_(&mainWindow) {

@@ -68,7 +68,7 @@ ActivationResult WindowActions::TryActivation(WindowTriple& window, bool act) {
   return kActivationDone;
 }
 
-/// Done when there is no owner to restore, too.
+/// Also done when there is no owner to restore.
 ActivationResult WindowActions::RestoreIconicOwner(WindowHandle hwnd) {
   const WindowHandle owner = GetRelatedWindow(*windows_, hwnd, 2);
   if (owner == 0 || !windows_->IsIconic(owner)) return kActivationDone;
@@ -114,7 +114,7 @@ WindowTriple WindowActions::MinimizeForeground(WindowHandle hwnd) {
   const WindowHandle owner = GetRelatedWindow(*windows_, hwnd, 2);
   const WindowHandle target = owner != 0 ? owner : hwnd;
   requests_->Show(target, win32::kSwMinimize);
-  // Windows itself may bring some window forward then, which must not come after the next step.
+  // Windows itself may then bring some window forward, which must happen before the next step.
   if (requests_->Await(target, [&] { return windows_->IsIconic(target); })) {
     requests_->AwaitAnswer(target);
   }

@@ -16,7 +16,7 @@ enum ActivationResult : std::int16_t {
   kActivationDone = 1,
   kWindowNotOpen = 2,
   kWindowNotEnabled = 3,
-  /// The window's program is busy and did not do in time what has to come first.
+  /// The window's program is busy and did not carry out a necessary first step in time.
   kWindowNotAnswering = 4,
 };
 
@@ -26,17 +26,18 @@ class WindowActions {
   WindowActions(const DesktopParts& parts, WindowRequests& requests, const WindowFilter& filter,
                 WindowEnumeration& enumeration);
 
-  /// Brings a window to the front, or with `act` false only tells whether that could be done. Its
-  /// text is refreshed for the Previous Window and its alternate; its handle becomes 0 when the
-  /// title no longer fits. With `reportFailure` a failure is shown to the user.
+  /// Brings a window to the front, or with `act` false only finds out whether it could. The text is
+  /// refreshed for the Previous Window and its alternate; the handle becomes 0 when the title no
+  /// longer fits. With `reportFailure` a failure is shown to the user.
   ActivationResult ActivateWindow(WindowTriple& window, bool reportFailure, bool act);
 
-  /// Brings the window of Tag 0 to the front, or the dialog that disables it, in which the user
+  /// Brings the window of Tag 0 to the front, or the dialog that disables it and in which the user
   /// was.
   ActivationResult ActivatePreviousWindow(WindowTriple& window);
 
   /// `hotKeyName` is HOTKEY_MINIMIZE_PARENT or HOTKEY_RESTORE/MAXIMIZE_PARENT; others do nothing.
-  /// Returns the window that came forward in the place of a minimized one, all empty without one.
+  /// Returns the window that came forward in place of a minimized one; all empty when there is
+  /// none.
   WindowTriple MinimizeOrMaximizeForeground(std::string_view hotKeyName);
 
   /// Minimizes every window of the desktop that can be minimized, with the timers stopped.

@@ -38,25 +38,26 @@ class WindowEnumeration {
   /// nested: error 5.
   void EnumWindows(std::int32_t mode, const Visit& visit = PassOver);
 
-  /// Does what `mode` says with a selectable window; the modes of the searches hand one that may be
-  /// looked for to `visit`. Always true, so that an enumeration visits all windows.
+  /// Does what `mode` says with a selectable window; the search modes pass candidates to `visit`.
+  /// Always true, so that an enumeration visits all windows.
   bool EnumWindowsProc(WindowHandle hwnd, std::int32_t mode, const Visit& visit = PassOver);
   /// Hands any window to `visit` in mode 4; always true.
   static bool EnumInstanceProc(WindowHandle hwnd, std::int32_t mode, const Visit& visit);
 
-  /// Matches every Tag anew against the desktop: all unresolved first, then mode 3.
+  /// Unresolves every Tag, then matches all of them against the desktop in mode 3.
   void RefreshTags();
   /// Mode 7: the last visible window whose title fits the identification, 0 = none.
   WindowHandle FindByTitle(const std::string& identificationText);
   /// Mode 4: the same with an exact class.
   WindowHandle FindByTitleAndClass(const std::string& title, const std::string& className);
-  /// Another copy of the program, by exact class, and title in any case, as folder names are the
-  /// same in any: the last visible one, 0 = none.
+  /// Another copy of the program, by exact class and, since folder names ignore case, by title in
+  /// any case: the last visible one, 0 = none.
   WindowHandle FindInstance(const std::string& className, const std::string& title);
   /// The same for a copy whose window is not shown yet and that `qualifies`.
   WindowHandle FindHiddenInstance(const std::string& className, const std::string& title,
                                   const Test& qualifies = Any);
-  /// Mode 6: the topmost window below the program's own that `qualifies`, 0 = none.
+  /// Mode 6: the topmost window, below always-on-top ones and other than the main window, that can
+  /// be worked in and `qualifies`; 0 = none.
   WindowHandle FindTopWindow(const Test& qualifies = Any);
 
  private:

@@ -41,7 +41,7 @@ bool WindowFilter::PassesOptionChecks(WindowHandle hwnd, const std::string& titl
 bool WindowFilter::PassesModalFrameCheck(WindowHandle hwnd) const {
   const std::int32_t style = windows_->GetWindowLongA(hwnd, win32::kGwlStyle);
   const bool modalFrame = (style & win32::kDsModalFrame) != 0;
-  // The Options dialog has a modal frame, yet the user works in it like in any window.
+  // The Options dialog has a modal frame, yet the user works in it as in any other window.
   if (modalFrame && hwnd != FormHandle(*forms_, "frmOptions")) return false;
   return (style & win32::kDsSysModal) == 0;
 }

@@ -34,7 +34,7 @@ std::size_t SequenceLength(char lead) {
 
 bool IsContinuation(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
 
-/// Drops a sequence at the end that lacks its last bytes.
+/// Drops a character at the end that lacks its last bytes.
 void DropCutSequence(std::string& text) {
   std::size_t at = text.size();
   while (at > 0 && text.size() - at < kLongestSequence) {

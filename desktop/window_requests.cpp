@@ -58,7 +58,7 @@ bool WindowRequests::AwaitOneOfMany(WindowHandle hwnd, const std::function<bool(
   return AwaitFor(hwnd, PatienceLeft() / 2, done);
 }
 
-/// Time that passes without a wait gives patience back, so each command of the user has all of it.
+/// Time that passes without a wait gives patience back, so each user command starts with all of it.
 std::uint64_t WindowRequests::PatienceLeft() {
   const std::uint64_t rested = clock_->GetTickCount64() - lastWait_;
   spent_ -= std::min(spent_, rested);
@@ -79,7 +79,7 @@ bool WindowRequests::AwaitFor(WindowHandle hwnd, std::uint64_t milliseconds,
   return came;
 }
 
-/// Takes the time since then from the patience.
+/// Takes the time since `start` from the patience.
 void WindowRequests::Spend(std::uint64_t start) {
   lastWait_ = clock_->GetTickCount64();
   spent_ += lastWait_ - start;

@@ -10,12 +10,12 @@
 
 namespace korvale {
 
-/// Asks windows for changes. A window of another program does them when its thread comes to it, so
-/// none can hold up the program; what the next step needs is waited for, but only shortly.
+/// Asks windows for changes. The thread of a window of another program makes them in its own time,
+/// so no window can hold up this program; what the next step needs is waited for, but only briefly.
 class WindowRequests {
  public:
-  /// The longest that waits following each other may take together, in ms; each may end a tick of
-  /// the system's timer (16 ms) late.
+  /// The longest that consecutive waits may take together, in ms; each may end one tick of the
+  /// system's timer (16 ms) late.
   static constexpr std::uint64_t kPatience = 80;
 
   WindowRequests(WindowQueries& windows, WindowCommands& commands, const MainWindow& mainWindow,
@@ -29,8 +29,8 @@ class WindowRequests {
   void SetTopmost(WindowHandle hwnd, bool topmost);
   bool SetForegroundWindow(WindowHandle hwnd);
 
-  /// Waits for what was asked of the window. True as soon as `done` holds; false when it does not
-  /// although the patience is used up, or the window hangs or is gone.
+  /// Waits until `done` holds for the window; false when the patience runs out first, or the
+  /// window hangs or is gone.
   bool Await(WindowHandle hwnd, const std::function<bool()>& done);
   /// Waits until the window's thread has finished what it is doing (SendMessageTimeoutW), for half
   /// of the patience that is left. False when it has not by then, or the window hangs or is gone.

@@ -31,8 +31,8 @@ void WindowSelection::SelectTag(std::int16_t tag) {
 }
 
 void WindowSelection::SelectPrevious() {
-  // A window out of sight behind a minimized one proves only when that is restored to be no longer
-  // shown; then the one worked in before it is next.
+  // Only after its minimized owner is restored does a window prove to be no longer shown; then the
+  // one worked in before it is next.
   for (WindowHandle tried = 0;;) {
     tracker_->UpdateRecord();
     WindowTriple window = parts_.previous.OfTagZero(parts_.mainWindow.FocusTag() == kGotFocus);
