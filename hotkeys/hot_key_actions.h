@@ -8,27 +8,27 @@
 
 namespace korvale {
 
-/// What hot keys make the forms do; implemented by the main form.
+/// What hot keys ask of the forms; implemented by the main form.
 class HotKeyActions {
  public:
   virtual ~HotKeyActions() = default;
 
-  /// A Tag's window has been selected, or the user told why not: the menus follow as after a click
-  /// on the entry.
+  /// A Tag's window has been selected, or the user told why not; refreshes the menus as after a
+  /// click on the entry.
   virtual void TagSelected() = 0;
   /// Brings the loaded Options dialog to the front and activates it.
   virtual void BringOptionsToFront() = 0;
   virtual void udmOptions(const std::string& strMode) = 0;
   /// Pops the Window menu up at the mouse position and carries out what the user chooses. Returns
-  /// the window that they have gone to by one of its entries, 0 = none.
+  /// the window that they selected with one of its entries, 0 = none.
   virtual WindowHandle PopUpWindowMenu() = 0;
   virtual void SetWindowMenuTag(const std::string& tag) = 0;
-  /// The hot keys were registered anew: what shows refused ones is out of date.
+  /// The hot keys were registered again, so a list of refused ones is out of date.
   virtual void HotKeysRegistered() = 0;
   /// Shows a tip that the user can silence; `height` in twips.
   virtual void ShowTip(TipNumber number, const std::string& text, const std::string& title,
                        std::int16_t height) = 0;
-  /// Shows a text for so many milliseconds.
+  /// Shows a text for this many milliseconds.
   virtual void ShowWaitWindow(const std::string& caption, const std::string& text,
                               std::uint32_t milliseconds) = 0;
 };

@@ -124,7 +124,7 @@ void HotKeyDispatch::Perform(const std::string& name) {
 void HotKeyDispatch::MinimizeOrMaximize(const std::string& name) {
   desktop_->tracker.LookAtForeground();
   const WindowTriple next = desktop_->actions.MinimizeOrMaximizeForeground(name);
-  // What Windows has brought forward by itself is where the user is, be it for a moment.
+  // The user is in the window that Windows itself brought forward, even if only for a moment.
   if (next.handle == 0) return desktop_->tracker.LookAtForeground();
   desktop_->tracker.RecordSelection(next);
   desktop_->tracker.ValidatePreviousWindow();
@@ -159,7 +159,7 @@ void HotKeyDispatch::PopUpWindowMenu() {
   actions_->SetWindowMenuTag(kHotKeyWindowMenuPopup);
   try {
     selected = actions_->PopUpWindowMenu();
-    // Without a message behind it the next pop-up of the same menu would vanish at once.
+    // Without a message posted after it, the next pop-up of the same menu would vanish at once.
     desktop_->commands.PostMessageW(main, win32::kWmNull);
   } catch (...) {
     actions_->SetWindowMenuTag("");

@@ -19,11 +19,11 @@ class HotKeyDispatch : public HotKeyProcessor {
                  std::string programTitle);
 
   /// Returns the description of the hot key; performs its action only when `booDoAction` is true.
-  /// While a message box or dialog of the program is shown it does neither and tells the user so.
+  /// While a message box or dialog of the program is shown, does neither and tells the user so.
   /// With `booReturnWindow` the title of the window concerned is returned instead:
-  /// `strSupplyWindowText` unless that is empty, else of the main window while it has the focus,
-  /// else of the target window. A name of no hot key makes the foreground window the target. An
-  /// error is reported and gives ""; only ProgramEnded leaves this call.
+  /// `strSupplyWindowText` unless that is empty, else that of the main window while it has the
+  /// focus, else that of the target window. A name that belongs to no hot key makes the foreground
+  /// window the target. An error is reported and gives ""; only ProgramEnded leaves this call.
   std::string udmProcessHotKey(const std::string& name, bool booDoAction, bool booReturnWindow,
                                const std::string& strSupplyWindowText) override;
 

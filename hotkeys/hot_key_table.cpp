@@ -11,7 +11,7 @@ namespace korvale {
 namespace {
 
 constexpr std::int16_t kDigitZeroKey = 0x30;
-/// The modifiers that a press can tell of; any other bit of a stored value is a flag.
+/// The modifiers that a press reports; any other bit of a stored value is a flag.
 constexpr std::uint32_t kModifierKeys =
     win32::kModAlt | win32::kModControl | win32::kModShift | win32::kModWin;
 
@@ -54,7 +54,7 @@ void HotKeyTable::AddHotKey(std::string_view name, std::int16_t modifiers, std::
   const auto count = static_cast<std::size_t>(hotKeyCount_);
   hotKeyNames_.resize(count);
   hotKeyNames_.back() = name;
-  // What follows the hot keys of this pass is left from a former one.
+  // Entries after the hot keys of this pass are left over from an earlier one.
   registered_.resize(count - 1);
   const bool chosenBefore = std::ranges::any_of(registered_, [&](const RegisteredHotKey& other) {
     return other.modifiers == modifiers && other.key == key;

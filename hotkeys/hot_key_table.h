@@ -16,8 +16,8 @@ struct RegisteredHotKey {
   std::string name;
   std::int16_t modifiers = 0;
   std::int16_t key = 0;
-  /// Whether Windows took it; false when Windows itself or another program owns the combination, or
-  /// another hot key of the table.
+  /// False when Windows itself, another program or another hot key of the table owns the
+  /// combination.
   bool accepted = false;
   /// A hot key before this one in the table has the same combination.
   bool chosenBefore = false;
@@ -30,15 +30,15 @@ class HotKeyTable {
  public:
   HotKeyTable(HotKeyApi& hotKeys, const OptionsHolder& options, const MainWindow& mainWindow);
 
-  /// "SET" registers all enabled hot keys and removes nothing; "REMOVE" unregisters all and
-  /// drops their presses that nobody has seen yet; any other mode does nothing.
+  /// "SET" registers all enabled hot keys and removes nothing; "REMOVE" unregisters all and drops
+  /// their presses that are still in the queue; any other mode does nothing.
   void SetHotKeys(std::string_view mode);
 
   /// Appends a hot key under the next identifier and registers it. A refused one keeps its slot.
   /// Error 6 when the identifiers run out.
   void AddHotKey(std::string_view name, std::int16_t modifiers, std::int16_t key);
 
-  /// The same with the hot key that the options give an operation; nothing when they give none.
+  /// The same for the hot key that the options give an operation; does nothing when they give none.
   void AddOperation(const OperationRow& operation);
 
   /// True when the parameters of a WM_HOTKEY are those of a hot key of the last registration: its
@@ -56,10 +56,10 @@ class HotKeyTable {
   bool HotKeysActive() const { return hotKeysActive_; }
   void SetHotKeysActive(bool active) { hotKeysActive_ = active; }
 
-  /// What the last registration asked for and what came of it.
+  /// What the last registration asked for and what became of it.
   const std::vector<RegisteredHotKey>& Registered() const { return registered_; }
-  /// The same of the last time that all enabled hot keys were registered ("SET"): it stands while
-  /// they are switched off.
+  /// The same for the last time that all enabled hot keys were registered ("SET"); kept while they
+  /// are switched off.
   const std::vector<RegisteredHotKey>& LastSet() const { return lastSet_; }
 
  private:

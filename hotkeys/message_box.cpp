@@ -73,7 +73,7 @@ void SuspendingMessageBoxes::Suspend() {
   suspension_->MessageBoxShown = true;
   TimerControl& timer = mainWindow_->tmrWindow();
   timer.SetEnabled(false);
-  // Another tag than "ON" keeps udmTimersEnabled from restarting it while the box is shown.
+  // A tag other than "ON" keeps udmTimersEnabled from restarting it while the box is shown.
   timer.SetTag("OFF");
   mainWindow_->SetMainEnabled(false);
 }
@@ -93,8 +93,8 @@ std::int16_t SuspendingMessageBoxes::Show(const std::string& prompt, std::int32_
 
 /// Windows enables the owner of a closed box and brings it to the front, so the owner must be what
 /// the user sees below the box: another box or a dialog of Windows, a dialog of ours, or the main
-/// window. A main window that is still hidden would be activated when its box closes, and so not
-/// once more when it is shown.
+/// window. A main window that is still hidden would be activated when its box closes, and then not
+/// when it is shown.
 WindowHandle SuspendingMessageBoxes::Owner() {
   const WindowHandle main = mainWindow_->MainHandle();
   const bool overAnother = suspension_->MessageBoxDepth > 1 || suspension_->DialogShown;
@@ -108,8 +108,8 @@ WindowHandle SuspendingMessageBoxes::Owner() {
 void SuspendingMessageBoxes::GiveForegroundBack(WindowHandle before) {
   const WindowHandle now = windows_->GetForegroundWindow();
   if (before == 0 || now == before) return;
-  // From ours to another program's, back, or to the main window, which took no input meanwhile, is
-  // the closed box's doing; the rest is the user's.
+  // A change from our windows to another program's, back, or to the main window, which took no
+  // input meanwhile, comes from closing the box; any other is the user's.
   const bool passedOn = now == 0 || now == mainWindow_->MainHandle() ||
                         IsOwnForm(*forms_, now) != IsOwnForm(*forms_, before);
   if (passedOn) ReturnForegroundTo(*windows_, *commands_, before);

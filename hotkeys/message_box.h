@@ -33,7 +33,7 @@ class SuspendingMessageBoxes : public MessageBoxes {
                               const std::string& title) override;
 
  private:
-  /// What the outermost box gives back.
+  /// What is restored when the outermost box closes.
   struct Remembered {
     bool timerEnabled = false;
     std::string timerTag;

@@ -21,13 +21,13 @@ class WindowProcHook : public WindowProcedure {
                  std::function<void()> reportUncaught);
 
   /// "SET" installs the hot-key window procedure on the main window, "REMOVE" puts the former one
-  /// back; any other mode does nothing. So do a second "SET" in a row and a "REMOVE" without "SET"
-  /// (SetWindowLongPtrA).
+  /// back (SetWindowLongPtrA). Any other mode does nothing, nor does a second "SET" in a row or a
+  /// "REMOVE" without "SET".
   void HookWindowProc(std::string_view mode, WindowHandle hWnd);
 
-  /// Hands a WM_HOTKEY of the main window to the processor, then passes every message on,
-  /// also when that failed (CallWindowProcA). One that comes while a menu is open closes
-  /// the menu and is posted anew, to be carried out when that has gone, as are those behind it.
+  /// Hands a WM_HOTKEY of the main window to the processor, then passes every message on
+  /// (CallWindowProcA), even when that failed. One that arrives while a menu is open closes the
+  /// menu and is posted again, with those behind it, to be carried out once the menu is gone.
   std::intptr_t HotKeyWindowProc(WindowHandle hWnd, std::uint32_t uMsg, std::uintptr_t wParam,
                                  std::intptr_t lParam);
 
