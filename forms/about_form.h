@@ -13,17 +13,17 @@
 
 namespace korvale {
 
-/// The About box, which is the splash window of the start too. It is modeless and closes by itself
-/// after a while.
+/// The About box, also the splash window at start-up. It is modeless and closes by itself after a
+/// while.
 class frmMsgBox2 : public Form {
  public:
   /// `identity` is read each time the box is shown.
   frmMsgBox2(FormCollection& forms, Clock& clock, const ProgramIdentity& identity);
 
-  /// Gives the box an address to show; `open` opens it. Without an address none is shown.
+  /// Gives the box an address to show, which `open` opens. Without an address none is shown.
   void SetWebSite(std::string address, std::function<void()> open);
 
-  /// Shows the box for some seconds, or brings it to the front and lets it stay anew.
+  /// Shows the box for some seconds, or brings it to the front and restarts its time.
   void ShowAbout(Form& owner, FormDisplay& display);
   /// Shows the box as the splash window, for a moment and without taking the foreground.
   void ShowSplash(FormDisplay& display);

@@ -9,7 +9,7 @@ namespace korvale {
 
 namespace {
 
-/// The pointer is the mode's own up to here: so far from the right edge, so far from the top.
+/// The mode's pointer is shown up to this far from a field's right edge, and from its top.
 constexpr Twips kOffRightEdge = 115;
 constexpr Twips kBelowTop = 155;
 

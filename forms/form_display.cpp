@@ -31,7 +31,7 @@ std::string FormDisplay::ShowFormModal(Form& form, const DisplaySwitches& switch
     Place(form, switches, hints, owner);
     form.Show();
     BringToFront(form, switches);
-    // It may have gone already in answer to its activation; showing it would load it anew.
+    // It may have closed already in response to its activation; showing it would load it again.
     if (form.IsLoaded()) form.ShowModal();
   }
   GiveForegroundBack(before);
@@ -85,7 +85,7 @@ void FormDisplay::BringToFront(Form& form, const DisplaySwitches& switches) {
 void FormDisplay::FollowTopmost(WindowHandle hwnd) {
   const bool topmost =
       (windows_->GetWindowLongA(hwnd, win32::kGwlExStyle) & win32::kWsExTopmost) != 0;
-  // A window without the style that is told so once more would come before its neighbours.
+  // Clearing the style of a window that lacks it would bring it before its neighbours.
   if (!*alwaysOnTop_ && !topmost) return;
   commands_->SetWindowPos(hwnd, *alwaysOnTop_ ? win32::kHwndTopmost : win32::kHwndNoTopmost, 0, 0,
                           0, 0, win32::kSwpNoMove | win32::kSwpNoSize);

@@ -30,10 +30,10 @@ class FormDisplay {
   FormDisplay(FormCollection& forms, WindowQueries& windows, WindowCommands& commands,
               const PreviousWindow& previous, Suspension& suspension, const bool& alwaysOnTop);
 
-  /// Shows the form above its owner until it closes, and returns its result string (its tag then).
-  /// Hot keys are suspended meanwhile. When no other window has taken the foreground by then, the
-  /// one that had it before gets it back. `milliseconds` has no effect: Windows grants or refuses
-  /// the foreground at once. A form that is shown already is only brought to the front.
+  /// Shows the form above its owner until it closes, and returns the tag that it has then, its
+  /// result. Hot keys are suspended meanwhile. When no other window has taken the foreground by
+  /// then, the one that had it before gets it back. `milliseconds` has no effect: Windows grants or
+  /// refuses the foreground at once. A form that is shown already is only brought to the front.
   std::string ShowFormModal(Form& form, const DisplaySwitches& switches, std::int32_t milliseconds,
                             const PlaceHints& hints, Form* owner);
 

@@ -21,7 +21,7 @@ constexpr Twips kDroppedWidth = 4785;
 constexpr Twips kHeightWithoutChildSection = 3465;
 constexpr Twips kButtonTopWithoutChildSection = 2700;
 
-// What the label and the option buttons have room for.
+// What the label and the option buttons have room for, in columns.
 constexpr int kLabelColumns = 50;
 constexpr int kChoiceColumns = 72;
 
@@ -171,7 +171,7 @@ void frmGetWindow::cmdOK_Click() {
 
 void frmGetWindow::AddEntry(int tag, const std::string& caption) {
   MenuItem& entry = AddTagEntry(context_.tags, tag, caption);
-  // Only a window with a child window is stored with its handle and class; kept so on purpose.
+  // Deliberately, only a window with a child window is stored with its handle and class.
   const bool hasChild = GetRelatedWindow(context_.windows, window_, 1) != 0;
   entry.tag = hasChild ? DecimalText(window_) : "0";
   TagClass(context_.tags, entry) = hasChild ? GetWindowClass(context_.windows, window_) : "";
@@ -202,7 +202,7 @@ void frmGetWindow::cboWindow_DropDown() {
 
 void frmGetWindow::cboWindow_Click() {
   if (Find("cboWindow").Dropped()) {
-    // The arrow keys go on through the open list; to resize it would close it.
+    // The arrow keys move through the open list; resizing it would close it.
     ShowTagState();
     Find("cmdRemove").SetEnabled(false);
   } else {

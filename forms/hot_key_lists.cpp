@@ -22,7 +22,7 @@ constexpr HotKeyChoice kModifiers[] = {
     {" ", 0}, {"Alt", 1}, {"Ctrl", 2}, {"Shift", 4}, {"Windows®", 8},
 };
 
-// The keypad and the arrows stand in the order that users of the program know.
+// The keypad and the arrows come in the order that users of the program know.
 constexpr HotKeyChoice kKeys[] = {
     {" ", 0},           {"F1", 0x70},        {"F2", 0x71},        {"F3", 0x72},
     {"F4", 0x73},       {"F5", 0x74},        {"F6", 0x75},        {"F7", 0x76},
@@ -68,7 +68,7 @@ std::int16_t EntryOf(const Control& list, int key) {
   return FindListIndex(list.Items(), key == win32::kVkSpace ? 0 : key, "ITEM_DATA");
 }
 
-/// The combinations of those hot keys that `chosen` picks, each once, with commas.
+/// The combinations of the hot keys that `chosen` picks, each once, separated by commas.
 template <typename Choose>
 std::string Listed(std::span<const RegisteredHotKey> registered, Choose chosen) {
   std::vector<std::string> texts;
@@ -98,7 +98,7 @@ void FillHotKeyLists(Form& form) {
 void KeyListKeys::Down(const Control& list, int& key, unsigned shift, bool repeated) {
   if (!repeated) Forget();
   if ((shift & kWindows) != 0) {
-    // For Windows, which shall not come to the list as a character either.
+    // The key belongs to Windows and must not reach the list as a character either.
     if (EntryOf(list, key) >= 0) key = 0;
     return;
   }

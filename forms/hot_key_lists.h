@@ -17,20 +17,20 @@ bool IsKeyList(const Control& control);
 /// RegisterHotKey gets.
 void FillHotKeyLists(Form& form);
 
-/// Chooses in the key lists by the keys themselves: a key that is pressed and released in a list
+/// Chooses in the key lists with the keys themselves: a key that is pressed and released in a list
 /// selects its entry, the space bar the blank one. Does nothing for a key that is not in the list,
-/// while Shift, Ctrl or Alt is held, or with the arrow keys of an open list. Nor with PrintScrn, of
-/// which Windows tells only the release: it takes a picture of the screen and is chosen with the
-/// mouse or the arrow keys.
+/// while Shift, Ctrl or Alt is held, or for the arrow keys in an open list. PrintScrn takes a
+/// picture of the screen, and Windows reports only its release: it is chosen with the mouse or the
+/// arrow keys.
 class KeyListKeys {
  public:
-  /// A key went down in a key list; `repeated` as it is held. Sets `key` to 0 when the list must
-  /// not see it: a closed list takes keys for its entries in another way, and opens with F4.
+  /// A key went down in a key list; `repeated` while it is held. Sets `key` to 0 when the list must
+  /// not see it: a closed list takes keys for its entries in its own way, and opens with F4.
   void Down(const Control& list, int& key, unsigned shift, bool repeated);
   /// A key came up in a key list: selects its entry and sets `key` to 0 when the list saw it
   /// pressed.
   void Up(Control& list, int& key, unsigned shift);
-  /// What was pressed before counts no more: the dialog has just come forward.
+  /// Forgets what was pressed before: the dialog has just come forward.
   void Forget() { pressed_ = {}; }
 
  private:
@@ -43,9 +43,9 @@ class KeyListKeys {
 };
 
 /// The combinations that Windows refused because it has them itself or another program does, each
-/// once, as the user reads them: "Alt+3, Windows®+W". "" when there is none.
+/// once, as the user reads them: "Alt+3, Windows®+W". "" when there are none.
 std::string NotAvailableText(std::span<const RegisteredHotKey> registered);
-/// The combinations that more than one hot key has, likewise.
+/// The combinations that more than one hot key has, in the same form.
 std::string ChosenTwiceText(std::span<const RegisteredHotKey> registered);
 
 }  // namespace korvale

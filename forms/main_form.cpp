@@ -56,7 +56,7 @@ void frmMain::Form_QueryUnload(bool& cancel, CloseReason reason) {
 }
 
 void frmMain::Form_Unload() {
-  // A start-up that the end of the session cuts short has nothing to save yet.
+  // A start-up that is cut short by the end of the session has nothing to save yet.
   udmUnload(parts_.state.startUpFinished);
   platform_->loop.PostQuitMessage();
 }
@@ -71,7 +71,7 @@ void frmMain::udmLoadOptions() { parts_.settings.LoadOptions(parts_.options.Get(
 void frmMain::udmSaveOptions() { parts_.settings.SaveOptions(parts_.options.Get()); }
 
 void frmMain::udmDeleteOptions() {
-  // A failed deletion stops nothing, but the user must not take old values for defaults.
+  // A failed deletion stops nothing, but the user must not mistake old values for defaults.
   SaveScope save(parts_.settings);
   parts_.settings.DeleteOptions();
   CommitOrTell(save);

@@ -57,12 +57,12 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   void udmDeleteOptions() override;
   void udmSaveINI();
   void SaveOrTell() override;
-  /// Commits a save that the program makes by itself; tells the user when the store refuses it, but
-  /// one message a run is enough.
+  /// Commits a save that the program makes by itself; tells the user when the store refuses it,
+  /// unless they know already.
   void CommitOrTellOnce(SaveScope& save);
   /// Reads the main window's state and the Tag list from the store.
   void LoadStartupSettings();
-  /// Puts settings that were loaded elsewhere in the place of all present ones.
+  /// Replaces all settings by those loaded elsewhere.
   void UseSettings(const InstallationSettings& settings);
   void udmNonFatalError(ErrorPlace intErrorNumber, std::int16_t intVB_ErrNumber);
 
@@ -105,7 +105,7 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   // HotKeyActions
   void TagSelected() override { RefreshMenus("mnu"); }
   void BringOptionsToFront() override;
-  /// "LOAD_AND_OR_REFRESH" opens the Options dialog, or fills the open one anew, from the options
+  /// "LOAD_AND_OR_REFRESH" opens the Options dialog, or refills the open one, from the options
   /// record; "UPDATE_OPTIONS" takes its values into the record; other modes do nothing.
   void udmOptions(const std::string& strMode) override;
   WindowHandle PopUpWindowMenu() override;
@@ -189,7 +189,7 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   bool unloaded_ = false;
   /// The user knows that the store refuses.
   bool refusalTold_ = false;
-  /// The program is being ended by others, with nobody to answer a message.
+  /// Others are ending the program, and nobody can answer a message.
   bool endsUnattended_ = false;
 };
 

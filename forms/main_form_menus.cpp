@@ -84,7 +84,7 @@ void frmMain::ShowTopLevelMenus(bool shown) {
   for (const char* name : kTopLevelMenus) Menu(name).visible = shown;
   if (State().menuShown == shown) return;
   SetMenuShown(shown);
-  // The window grows by the bar or shrinks.
+  // The window grows or shrinks by the bar.
   Form_Resize();
 }
 

@@ -21,20 +21,20 @@ Twips AsStored(Twips length) { return std::clamp(length, -kFarthestPlace, kFarth
 }  // namespace
 
 /// The classic heights hold for frames and menu bars that are no higher; a higher one, or a bar of
-/// several rows, makes the window higher. What counts is the bar that is on the screen, which may
-/// be shown only for a moment.
+/// several rows, makes the window higher. What counts is the bar on the screen, even if it is shown
+/// only for a moment.
 Twips frmMain::HeightForContent(const TwipsRect& frame) {
   Twips height = kClassicFrameHeight + (State().menuShown ? kClassicMenuHeight : 0);
   const Twips higher = frame.height - height;
   const int dpi = Collection().Screen().GetDpiForWindow(Handle());
-  // Less than half a pixel comes from counting in twips.
+  // Rounding to twips may make a difference of less than half a pixel.
   if (2 * higher * dpi > kTwipsPerInch) height += higher;
   if (parts_.startup.WindowInfo) height += Find("txtWindow").Place().height + kRoomAroundFields;
   return height;
 }
 
-/// Making a window topmost once more only activates it, which takes the foreground from the window
-/// that the user has just selected.
+/// Making a topmost window topmost again would only activate it and take the foreground from the
+/// window that the user has just selected.
 bool frmMain::IsTopmostBehindAnother() const {
   WindowQueries& windows = platform_->windows;
   return Visible() && windows.GetForegroundWindow() != Handle() &&
@@ -92,7 +92,7 @@ void frmMain::ApplyPlacement() {
   if (startup.Left != -1) place.left = startup.Left;
   if (startup.Top != -1) place.top = startup.Top;
   place.width = std::max(startup.Width, kMinimumWidth);
-  // What is stored may be another height than the one that the window is going to have.
+  // The stored height may differ from the one that the window is going to have.
   place.height = HeightForContent(Collection().Host().AdjustWindowRectEx(State()));
   SetPlace(place);
   BringOntoMonitor(*this);

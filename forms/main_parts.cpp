@@ -10,7 +10,7 @@ namespace korvale {
 
 namespace {
 
-/// The window of the dialog that a message box must not leave usable; 0 when none is open.
+/// The window of the dialog that must not stay usable under a message box; 0 when none is open.
 WindowHandle DialogOnTop(const FormCollection& forms) {
   const CollectedForm* dialog = forms.TopModal();
   return dialog != nullptr ? dialog->Handle() : FormHandle(forms, kOptionsForm);

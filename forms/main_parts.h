@@ -24,7 +24,7 @@
 
 namespace korvale {
 
-/// What of the main form's state is neither an option nor a stored setting.
+/// The main form's state that is neither an option nor a stored setting.
 struct MainState {
   /// Set at the end of the first activation.
   bool firstActivation = false;
@@ -32,7 +32,7 @@ struct MainState {
   bool firstRun = false;
   /// Result code of the last Yes/No question of the main form.
   std::int16_t lastAnswer = 0;
-  /// Up to here the main window keeps its size.
+  /// Set at the end of start-up; until then the main window keeps its size.
   bool startUpFinished = false;
 };
 

@@ -79,7 +79,7 @@ void frmMsgTip::Form_KeyDown(int& key, unsigned shift) {
 }
 
 void frmMsgTip::Form_QueryUnload(bool& /*cancel*/, CloseReason reason) {
-  // The close box does what cmdOK does; at the end of the session nobody has answered.
+  // The close box does what cmdOK does; when the session ends nobody has answered.
   if (reason != CloseReason::kSession) KeepResult();
 }
 

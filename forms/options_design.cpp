@@ -13,7 +13,7 @@ namespace {
 using enum ControlKind;
 
 constexpr Twips kRowHeight = 360;
-/// What stands below the frames of the hot keys is counted from the foot of the pages.
+/// Everything below the frames of the hot keys is placed from the foot of the pages.
 constexpr Twips kPageHeight = 3975 + kRowHeight * static_cast<Twips>(kOperations.size());
 
 /// Collects the rows of the form; every row goes into the container that was opened last.
@@ -132,7 +132,7 @@ void AddLegend(Rows& rows) {
            kNoPrefix | kClickable | kSingleBorder);
   rows.Add(kLabel, "lblLegend", 0, kDisabled, kDisabled, {9810, kPageHeight - 1065, 3660, 255},
            kNoPrefix);
-  // Room for three lines: a long list of refused hot keys, and what was chosen twice.
+  // Room for three lines: a long list of refused hot keys, and those chosen twice.
   rows.Add(kLabel, "lblConflicts", -1, "", "", {180, kPageHeight - 765, 13200, 750},
            kNoPrefix | kWordWrap | kHidden);
 }

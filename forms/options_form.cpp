@@ -116,7 +116,7 @@ void frmOptions::cmdReset_Click() {
   if (!IsLoaded()) return;
   owner_->udmLoadOptions();
   owner_->udmOptions("LOAD_AND_OR_REFRESH");
-  // All hot keys are registered below, which is what being active means.
+  // Active means that all hot keys are registered, as they are below.
   owner_->HotKeys().SetHotKeysActive(true);
   RegisterHotKeysAnew();
 }

@@ -18,8 +18,8 @@ class frmOptions : public Form {
 
   /// Shows the record in the loaded dialog, on the remembered tab.
   void LoadFrom(const clsOptions& options);
-  /// Takes the dialog's values into the record. A list without a choice, which means that the
-  /// stored value is none of its entries, leaves its field as it is.
+  /// Takes the dialog's values into the record. A list without a choice leaves its field unchanged,
+  /// since the stored value is none of its entries.
   void UpdateInto(clsOptions& options) const;
 
   /// Paints the label of each hot key: enabled ones in the legend's colour with a border.
@@ -46,7 +46,7 @@ class frmOptions : public Form {
 
   void NextPage(bool backwards);
   void Save();
-  /// A check that always passes: what does not go together is the user's business.
+  /// A check that always passes: combinations that clash are left to the user.
   static bool Validate() { return true; }
   void RegisterHotKeysAnew();
   void Select(std::string_view list, int index, std::int32_t value);
@@ -61,7 +61,7 @@ class frmOptions : public Form {
   clsOptions shown_;
   KeyListKeys keyListKeys_;
   Color colHotKeyEnabled_ = kDefaultHotKeyEnabledColor;
-  /// The controls are being filled; what they tell meanwhile is no doing of the user's.
+  /// The controls are being filled; events raised while filling are not the user's.
   bool loading_ = false;
 };
 

@@ -17,7 +17,7 @@ class Tips {
        std::string applicationTitle);
 
   /// Shows a tip unless it is silenced. `title` "NO_TITLE" = no caption, "" = the application
-  /// title, anything else stands before it. `height` in twips, at least 2400.
+  /// title, any other is put before it. `height` in twips, at least 2400.
   void ShowTip(TipNumber number, const std::string& text, const std::string& title,
                std::int16_t height, const PlaceHints& hints, Form* owner);
 

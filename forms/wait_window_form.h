@@ -8,13 +8,13 @@
 
 namespace korvale {
 
-/// A text that goes away by itself. It leaves the keyboard to whoever has it.
+/// A text that disappears by itself and never takes the keyboard focus.
 class frmWaitWindow : public Form {
  public:
   frmWaitWindow(FormCollection& forms, FormDisplay& display);
 
-  /// Shows the text and returns when the time is over or the user has closed the window. Hot keys
-  /// are suspended meanwhile. A text that is still shown gives way to the new one.
+  /// Shows the text and returns when the time is up or the user has closed the window. Hot keys are
+  /// suspended meanwhile. A text that is still shown is replaced by the new one.
   void ShowWaitWindow(const std::string& caption, const std::string& text,
                       std::uint32_t milliseconds);
 

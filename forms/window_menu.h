@@ -41,7 +41,7 @@ class WindowMenu {
   std::function<void(AddWindowMode)> showAddWindow_;
 };
 
-/// A title for a menu caption: at most 30 characters, longer ones are their first 27 and "...".
+/// A title for a menu caption: at most 30 characters; a longer one becomes its first 27 and "...".
 std::string ShortTitle(const std::string& title);
 
 }  // namespace korvale
