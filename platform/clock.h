@@ -21,10 +21,10 @@ class Clock {
  public:
   virtual ~Clock() = default;
 
-  /// Milliseconds since some fixed moment; never goes back (GetTickCount64).
+  /// Milliseconds since a fixed moment; never goes back (GetTickCount64).
   virtual std::uint64_t GetTickCount64() = 0;
   virtual LocalTime GetLocalTime() = 0;
-  /// Lets other threads run for about this long; no message is taken meanwhile (Sleep).
+  /// Lets other threads run for about this long; no message is handled meanwhile (Sleep).
   virtual void Sleep(std::uint32_t milliseconds) = 0;
 };
 

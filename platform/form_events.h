@@ -25,10 +25,10 @@ struct MouseInput {
 /// `kSession` = the Windows session ends, `kTaskManager` = another program ends this one.
 enum class CloseReason { kCode, kUser, kSession, kTaskManager };
 
-/// What the user did with a form, told by the host. The meaning is decided behind this interface,
-/// never in a host. Control 0 is the form itself. Hosts call each method inside a try block and
-/// hand whatever comes out of it to OnUncaught. One interface for keys, controls and window, since
-/// a window has one listener and what one of them means depends on the others.
+/// What the user did with a form, as a FormHost reports it. What it means is decided behind this
+/// interface, never in a host. Control 0 is the form itself. Hosts call each method inside a try
+/// block and hand whatever is thrown to OnUncaught. One interface for keys, controls and window,
+/// since a window has one listener and what one of them means depends on the others.
 class FormEvents {
  public:
   virtual ~FormEvents() = default;
@@ -43,12 +43,12 @@ class FormEvents {
   virtual void OnListDropDown(int control) = 0;
   virtual void OnListClosedUp(int control) = 0;
   /// A key went down or up while `control` had the focus, before the control sees it; true when it
-  /// has been dealt with and the control must not see it.
-  /// `repeated`: Windows repeats a key that was down already.
+  /// has been dealt with and the control must not see it. `repeated`: the key was down already and
+  /// Windows repeats it.
   virtual bool OnKeyDown(int control, int virtualKey, unsigned shift, bool repeated) = 0;
   virtual bool OnKeyUp(int control, int virtualKey, unsigned shift) = 0;
-  /// A character came from the keyboard (WM_CHAR, WM_SYSCHAR) out of a key that OnKeyDown did not
-  /// deal with, before the control sees it; true when the control must not see it.
+  /// The keyboard gave a character (WM_CHAR, WM_SYSCHAR) for a key that OnKeyDown did not deal
+  /// with, before the control sees it; true when the control must not see it.
   virtual bool OnCharacter(int control, char32_t character, unsigned shift) = 0;
   virtual void OnMouse(int control, const MouseInput& input) = 0;
   virtual void OnFocusMoved(int control) = 0;
@@ -58,8 +58,8 @@ class FormEvents {
   virtual void OnActivated() = 0;
   /// The user or Windows moved, sized, minimized or restored the form.
   virtual void OnPlaced(ShowState state, const TwipsRect& place) = 0;
-  /// Frame and menu may have other sizes: its monitor has other dots per inch now (WM_DPICHANGED),
-  /// or the user wants other metrics (WM_SETTINGCHANGE).
+  /// The sizes of frame and menu may have changed, with the dots per inch of the form's monitor
+  /// (WM_DPICHANGED) or with the metrics that the user has chosen (WM_SETTINGCHANGE).
   virtual void OnDpiChanged() = 0;
   /// The user has chosen other system colours, or turned high contrast on or off
   /// (WM_SYSCOLORCHANGE, WM_SETTINGCHANGE).

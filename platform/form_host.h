@@ -42,7 +42,7 @@ class FormHost {
   virtual TextSelection GetSelection(WindowHandle hwnd, int control) = 0;
   virtual void SetSelection(WindowHandle hwnd, int control, TextSelection selection) = 0;
   /// What the frame and menu bar of the form add to its client area, in twips: `left`/`top` their
-  /// thickness there, `width`/`height` the sums of both sides (AdjustWindowRectExForDpi).
+  /// thickness on these sides, `width`/`height` the sums of both sides (AdjustWindowRectExForDpi).
   virtual TwipsRect AdjustWindowRectEx(const FormState& form) = 0;
 };
 

@@ -40,8 +40,8 @@ enum ControlFlags : unsigned {
   kClickable = 1U << 10U,  ///< A label or image that reports the mouse.
 };
 
-/// One row of a form's control table. Rows stand in the order of the windows, which is the order
-/// of the Tab key, unless `tabIndex` says otherwise; a frame or page stands before what it holds.
+/// One row of a form's control table. Rows are in the order of the windows, which is the order of
+/// the Tab key, unless `tabIndex` says otherwise; a frame or page comes before what it holds.
 struct ControlRow {
   ControlKind kind;
   const char* name;
@@ -64,10 +64,10 @@ struct ListItem {
   std::int32_t itemData = 0;
 };
 
-/// So many entries of an open list are seen without scrolling.
+/// The entries of an open list that can be seen without scrolling.
 inline constexpr int kDroppedEntries = 9;
 
-/// What a host needs to know of a control to show it. Changed by the shared form code only.
+/// What a host needs to know about a control to show it. Changed only by the shared form code.
 struct ControlState {
   int id = 0;  ///< 1-based position in the order of the windows; also the Windows control id.
   ControlKind kind = ControlKind::kLabel;
@@ -114,7 +114,7 @@ struct SizeLimits {
   friend bool operator==(const SizeLimits&, const SizeLimits&) = default;
 };
 
-/// What a host needs to know of a form to show it. Changed by the shared form code only.
+/// What a host needs to know about a form to show it. Changed only by the shared form code.
 struct FormState {
   std::string name;  ///< Its window class is "Korvale." followed by this name.
   std::string caption;
@@ -125,7 +125,7 @@ struct FormState {
   bool maximizeBox = false;
   bool modalFrame = false;  ///< Carries DS_MODALFRAME.
   bool inTaskbar = false;
-  /// Stands above all windows, and neither showing nor clicking it makes it the active one
+  /// Stands above all windows, and becomes active neither when shown nor when clicked
   /// (WS_EX_TOPMOST, WS_EX_NOACTIVATE).
   bool aside = false;
   bool visible = false;
@@ -135,7 +135,7 @@ struct FormState {
   bool menuShown = true;  ///< The menu bar is visible.
   std::vector<ControlState> controls;
 
-  /// The window has a menu bar: one without menus is none.
+  /// The window has a menu bar; a bar without a visible menu does not count.
   bool ShowsMenuBar() const { return menuShown && menu.AnyVisible(); }
 };
 

@@ -7,7 +7,7 @@
 
 namespace korvale {
 
-/// A window procedure that portable code puts in front of a window's own one.
+/// A window procedure that portable code puts in front of the one that a window has.
 class WindowProcedure {
  public:
   virtual ~WindowProcedure() = default;
@@ -21,7 +21,7 @@ class WindowProcedure {
   virtual void OnUncaught() noexcept = 0;
 };
 
-/// What came with a message that was taken out of a queue.
+/// The parameters of a message that was taken out of a queue.
 struct QueuedMessage {
   std::uintptr_t wParam = 0;
   std::intptr_t lParam = 0;
@@ -29,7 +29,7 @@ struct QueuedMessage {
   friend bool operator==(const QueuedMessage&, const QueuedMessage&) = default;
 };
 
-/// Identifies a window's former procedure; only good for CallWindowProcA and for putting it back.
+/// Identifies a window's former procedure; only for CallWindowProcA and for putting it back.
 using PreviousProcedure = std::intptr_t;
 
 /// System-wide hot keys and the window procedure that receives them.

@@ -9,7 +9,7 @@ namespace korvale {
 /// Mouse pointers over the program's windows.
 enum class MousePointer : std::int16_t { kDefault = 0, kHourglass = 11, kCustom = 99 };
 
-/// The user's mouse and keyboard, as far as the program acts on them.
+/// The user's mouse and keyboard, as far as the program controls them.
 class InputDevices {
  public:
   virtual ~InputDevices() = default;

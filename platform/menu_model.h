@@ -19,7 +19,7 @@ struct MenuRow {
   const char* caption;
 };
 
-/// One live menu entry: what the user sees and, in `tag`, a text that belongs to its routines.
+/// One live menu entry: what the user sees and, in `tag`, a text for the routines that use it.
 struct MenuItem {
   std::string name;
   int index = -1;
@@ -30,7 +30,7 @@ struct MenuItem {
   bool checked = false;
   bool enabled = true;
   bool visible = true;
-  /// From this character on, "&" in the caption is shown as it stands; -1 = nowhere.
+  /// From this character on, "&" in the caption is shown as such; -1 = nowhere.
   int literalFrom = -1;
   std::vector<std::unique_ptr<MenuItem>> items;
 
@@ -67,7 +67,7 @@ class MenuItemArray {
   MenuItemArray(MenuItem& menu, std::string name);
 
   MenuItem* Find(int index) const;
-  /// Adds an invisible element without caption, placed behind the elements with smaller indexes;
+  /// Adds an invisible element without caption, placed after the elements with smaller indexes;
   /// error 360 when it exists.
   MenuItem& Load(int index) const;
   /// Removes an element; error 340 when it does not exist. Element 0 belongs to the design and

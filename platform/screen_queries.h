@@ -23,8 +23,8 @@ class ScreenQueries {
   virtual int GetDpiForWindow(WindowHandle hwnd) = 0;
   /// The width of a text in the menus of a form, in twips of the system's dots per inch.
   virtual Twips GetTextExtentPoint32W(WindowHandle hwnd, const std::string& text) = 0;
-  /// What a colour stands for on this screen, 0x00BBGGRR; other than system colours stay as they
-  /// are (GetSysColor).
+  /// The colour that is shown on this screen, 0x00BBGGRR; colours other than system colours are
+  /// returned unchanged (GetSysColor).
   virtual Color GetSysColor(Color color) = 0;
   /// The user wants high contrast (SystemParametersInfoW with SPI_GETHIGHCONTRAST).
   virtual bool HighContrast() = 0;

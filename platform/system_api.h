@@ -25,23 +25,24 @@ struct VersionInfo {
   std::string fileDescription;
 };
 
-/// What came of opening a folder.
+/// The outcome of opening a folder.
 struct FolderInfo {
   /// 0, or the ERROR_ code of the refusal.
   std::uint32_t error = 0;
   /// The one path that all links, drive letters and short names lead to, as in "\\?\C:\Work" and
   /// "\\?\UNC\server\share\Work"; "" when the volume does not tell.
   std::string finalPath;
-  /// Number of volume and folder, the same under every path; "" when the volume does not tell.
+  /// Numbers of the volume and the folder, the same under every path; "" when the volume has none.
   std::string fileId;
-  /// Not opened, although something of this name is there.
+  /// It could not be opened, although something of this name exists: a link or an unreadable
+  /// folder.
   bool isLink = false;
 };
 
 /// A fault that no handler foresaw.
 struct Crash {
-  /// The code of the exception (0xC0000005 = access violation); 0 when a C++ exception was caught
-  /// by nobody, which is then the current one.
+  /// The code of the exception (0xC0000005 = access violation); 0 for a C++ exception that nothing
+  /// caught, which is then the current one.
   std::uint32_t code = 0;
   /// The instruction where it happened; 0 when that is not known.
   std::uint64_t address = 0;
@@ -65,7 +66,7 @@ class SystemApi {
 
   /// Full path of the running executable.
   virtual std::string GetModuleFileNameA() = 0;
-  /// The command line behind the program's own name, as typed.
+  /// The command line after the program's own name, as typed.
   virtual std::string GetCommandLineA() = 0;
   /// VerQueryValueA on the executable; fields stay empty where the resource has none.
   virtual VersionInfo GetFileVersionInfoA() = 0;
@@ -79,18 +80,18 @@ class SystemApi {
                              int showCommand) = 0;
   /// True when a file (not a folder) of this path exists (GetFileAttributesA).
   virtual bool FileExists(const std::string& path) = 0;
-  /// Opens a file at its end, making it when it is missing, and writes the pieces one after the
-  /// other; one that cannot be written stops no other. False when the file could not be opened
+  /// Opens a file at its end, creating it when it is missing, and writes the pieces one after the
+  /// other; failing to write one does not stop the others. False when the file could not be opened
   /// (CreateFileW, WriteFile).
   virtual bool AppendToFile(const std::string& path, std::span<const std::string> pieces) = 0;
   /// Opens a folder, through links if need be, and reads what it really is (CreateFileW,
   /// GetFinalPathNameByHandleW, GetFileInformationByHandle).
   virtual FolderInfo GetFinalPathNameByHandleW(const std::string& folder) = 0;
-  /// Opens or makes the named mutex of this session without waiting for it (CreateMutexA); null
+  /// Opens or creates the named mutex of this session without waiting for it (CreateMutexA); null
   /// when the system refused.
   virtual std::unique_ptr<SystemMutex> CreateMutexA(const std::string& name) = 0;
-  /// Has `filter` called, on the thread that crashed, when the program crashes; the process ends
-  /// when it returns, and at once when it crashes too. An empty one takes it back.
+  /// When the program crashes, `filter` is called on the thread that crashed; the process ends when
+  /// it returns, and at once when it crashes too. An empty one takes the former one back.
   virtual void SetUnhandledExceptionFilter(std::function<void(const Crash&)> filter) = 0;
 };
 

@@ -24,7 +24,7 @@ class SystemDialogs {
   /// has then been told through OnMenuClicked (TrackPopupMenuEx).
   virtual void TrackPopupMenuEx(WindowHandle hwnd, MenuItem& menu) = 0;
   /// Closes the menu that is open in the program, of a bar or popped up; false when there is none.
-  /// Whoever shows it gets control back later and is told of no choice (EndMenu).
+  /// The loop that shows it returns later, without a choice (EndMenu).
   virtual bool EndMenu() = 0;
 };
 

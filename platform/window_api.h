@@ -21,8 +21,8 @@ class WindowQueries {
   /// `command` is one of the GW_ values; 0 when there is no such window.
   virtual WindowHandle GetWindow(WindowHandle hwnd, std::uint32_t command) = 0;
   virtual WindowHandle GetParent(WindowHandle hwnd) = 0;
-  /// Of the window and those that it owns, the one that was active last. A window that has an owner
-  /// itself is always its own answer; one that is gone has none, or itself.
+  /// Of the window and those that it owns, the one that was active last. For a window that has an
+  /// owner this is always the window itself; for one that is gone, 0 or the window itself.
   virtual WindowHandle GetLastActivePopup(WindowHandle hwnd) = 0;
   /// `index` is GWL_STYLE or GWL_EXSTYLE.
   virtual std::int32_t GetWindowLongA(WindowHandle hwnd, int index) = 0;

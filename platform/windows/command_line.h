@@ -4,8 +4,8 @@
 
 namespace korvale {
 
-/// The part of a command line behind the program's own name, which may stand in quotes; without
-/// the blanks between the two.
+/// The part of a command line after the program's own name, which may be in quotes, and after the
+/// blanks that follow it.
 constexpr std::wstring_view BehindProgramName(std::wstring_view line) {
   std::size_t end = 0;
   bool quoted = false;

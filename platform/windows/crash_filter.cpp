@@ -11,10 +11,10 @@
 namespace korvale {
 namespace {
 
-/// Stack that is kept for the filter when the stack itself ran out, in bytes.
+/// Stack kept for the filter in case the stack itself ran out, in bytes.
 constexpr ULONG kStackForFilter = 64 * 1024;
 
-// Windows calls the filter with nothing of ours in its hands.
+// Windows hands nothing of ours to the filter, so it must find this by itself.
 std::function<void(const Crash&)>& Filter() {
   static std::function<void(const Crash&)> filter;
   return filter;

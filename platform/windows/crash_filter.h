@@ -6,9 +6,9 @@
 
 namespace korvale {
 
-/// Has `filter` called for an exception that nothing handled (SetUnhandledExceptionFilter) and for
+/// `filter` is called for an exception that nothing handled (SetUnhandledExceptionFilter) and for
 /// an uncaught C++ exception (std::set_terminate); the process ends when it returns. An empty one
-/// takes it back.
+/// takes the former one back.
 void SetCrashFilter(std::function<void(const Crash&)> filter);
 
 }  // namespace korvale

@@ -11,7 +11,7 @@ namespace korvale {
 inline HWND ToHwnd(WindowHandle hwnd) { return static_cast<HWND>(LongToHandle(hwnd)); }
 inline WindowHandle ToWindowHandle(HWND hwnd) { return HandleToLong(hwnd); }
 
-/// How each kind of object is given back.
+/// How to close each kind of object.
 struct Closer {
   void operator()(HKEY key) const { RegCloseKey(key); }
   void operator()(HANDLE handle) const { CloseHandle(handle); }
@@ -23,7 +23,7 @@ struct Closer {
   void operator()(HHOOK hook) const { UnhookWindowsHookEx(hook); }
 };
 
-/// Owns one Windows object and gives it back when it goes.
+/// Owns one Windows object and closes it when destroyed.
 template <typename Handle>
 class UniqueHandle {
  public:
@@ -40,7 +40,7 @@ class UniqueHandle {
 
   Handle Get() const { return handle_; }
   explicit operator bool() const { return handle_ != Handle{}; }
-  /// Gives the object away without closing it.
+  /// Hands the object over without closing it.
   Handle Release() { return std::exchange(handle_, Handle{}); }
   void Reset(Handle handle = Handle{}) {
     const Handle old = std::exchange(handle_, handle);

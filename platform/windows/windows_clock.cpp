@@ -9,8 +9,8 @@
 namespace korvale {
 namespace {
 
-/// Takes the ticks of one timer out of the queue. The ticks of other timers come out with them and
-/// are put back.
+/// Removes the ticks of one timer from the queue. Those of other timers come out with them and are
+/// put back.
 void DropQueuedTicks(HWND hwnd, WPARAM id) {
   std::set<WPARAM> others;
   MSG message;

@@ -25,7 +25,7 @@ LRESULT CALLBACK CallHook(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
   auto* found = static_cast<WindowsHotKeyApi::Hook*>(GetPropW(hwnd, kHookProperty));
   if (found == nullptr) return DefWindowProcA(hwnd, message, wParam, lParam);
   const std::shared_ptr<WindowsHotKeyApi::Hook> hook = found->shared_from_this();
-  // Sent by another program it is no end of the window.
+  // Sent by another program, it does not mean that the window ends.
   if (message == WM_NCDESTROY && InSendMessage() == FALSE) RemovePropW(hwnd, kHookProperty);
   const bool outer = std::exchange(hook->passedOn, false);
   LRESULT result = 0;
@@ -61,14 +61,14 @@ bool WindowsHotKeyApi::UnregisterHotKey(WindowHandle hwnd, int id) {
 
 std::optional<QueuedMessage> WindowsHotKeyApi::PeekMessageW(WindowHandle hwnd,
                                                             std::uint32_t message) {
-  // Taking a message lets messages that other threads send come in, which nothing here awaits.
+  // Peeking also delivers messages that other threads send, which nothing here expects.
   constexpr UINT kAnyPosted = QS_POSTMESSAGE | QS_HOTKEY;
   if ((HIWORD(GetQueueStatus(kAnyPosted)) & kAnyPosted) == 0) return std::nullopt;
   constexpr UINT kPosted = PM_REMOVE | PM_QS_POSTMESSAGE;
   MSG taken;
   if (::PeekMessageW(&taken, ToHwnd(hwnd), message, message, kPosted) == FALSE) return std::nullopt;
   if (taken.message != WM_QUIT) return QueuedMessage{taken.wParam, taken.lParam};
-  // The end of the program passes every filter.
+  // WM_QUIT passes every filter.
   PostQuitMessage(static_cast<int>(taken.wParam));
   return std::nullopt;
 }

@@ -55,7 +55,7 @@ std::string FinalPath(HANDLE folder) {
   return ToUtf8(path);
 }
 
-/// Also over the network, where only this call asks the other computer for its own numbers.
+/// Over the network, too, only this call asks the other computer for its own numbers.
 std::string FileId(HANDLE folder) {
   BY_HANDLE_FILE_INFORMATION info{};
   if (GetFileInformationByHandle(folder, &info) == FALSE) return "";
@@ -121,7 +121,7 @@ OsVersion WindowsSystemApi::GetVersionExA(std::uint32_t structureSize) {
   if (structureSize > sizeof(version)) return {};
   version.dwOSVersionInfoSize = structureSize;
 #if defined(_MSC_VER)
-#pragma warning(suppress : 4996)  // The platform family is all that is asked for.
+#pragma warning(suppress : 4996)  // Only the platform family is needed.
 #endif
   if (::GetVersionExA(reinterpret_cast<OSVERSIONINFOA*>(&version)) == FALSE) return {};
   return {version.dwPlatformId, version.dwMajorVersion};
