@@ -35,7 +35,7 @@ constexpr char32_t kFirstSurrogate = 0xD800;
 constexpr char32_t kLastSurrogate = 0xDFFF;
 constexpr char32_t kLastCodePoint = 0x10FFFF;
 
-/// How a lead byte begins: the length of its sequence, its own bits, the least value it may carry.
+/// What a lead byte says: the length of its sequence, its own bits, the least value it may carry.
 struct Lead {
   std::size_t length;
   std::uint8_t bits;

@@ -10,7 +10,7 @@ namespace {
 constexpr Color kBlack = 0x000000;
 constexpr Color kWhite = 0xFFFFFF;
 
-/// The light of one part of a colour, 0 to 1, from its value of 0 to 255.
+/// The luminance of one part of a colour, 0 to 1, from its value of 0 to 255.
 double Linear(std::uint32_t value) {
   const double part = static_cast<double>(value) / 255.0;
   return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);

@@ -4,11 +4,11 @@
 
 namespace korvale {
 
-/// How well two colours 0x00BBGGRR stand off from each other: 1 (not at all) to 21 (black and
-/// white), as the Web Content Accessibility Guidelines define it. Text is readable from 4.5 on.
+/// The contrast between two colours 0x00BBGGRR: 1 (none) to 21 (black and white), as the Web
+/// Content Accessibility Guidelines define it. Text is readable from 4.5 on.
 double ContrastRatio(Color one, Color other);
 
-/// Black or white, whichever stands off better from `background` (0x00BBGGRR); 4.5 or more always.
+/// Black or white, whichever contrasts more with `background` (0x00BBGGRR); always 4.5 or more.
 Color ReadableTextColor(Color background);
 
 }  // namespace korvale

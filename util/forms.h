@@ -19,14 +19,14 @@ class LoadedForms {
  public:
   virtual ~LoadedForms() = default;
 
-  /// All loaded forms in the order of their loading.
+  /// All loaded forms in the order in which they were loaded.
   virtual std::vector<LoadedForm> List() const = 0;
 };
 
 /// True when a form of this name is loaded, ignoring case. `flag` has no effect.
 bool IsFormLoaded(const LoadedForms& forms, std::string_view name, bool flag = false);
 
-/// Window of the first loaded form of this name, ignoring case; 0 when none is loaded.
+/// The window of the first loaded form of this name, ignoring case; 0 when none is loaded.
 WindowHandle FormHandle(const LoadedForms& forms, std::string_view name);
 
 }  // namespace korvale

@@ -2,7 +2,7 @@
 
 namespace korvale {
 
-/// Sets a flag for a scope and puts its former value back, also when an error leaves the scope.
+/// Sets a flag for a scope, then restores its former value, also when an error leaves the scope.
 class RaisedFlag {
  public:
   explicit RaisedFlag(bool& flag) : flag_(&flag), before_(flag) { flag = true; }

@@ -16,7 +16,7 @@ void RequireCall(bool valid) {
   if (!valid) throw RunTimeError(RunTimeError::kInvalidCall);
 }
 
-/// Bytes of the first `count` characters.
+/// The size in bytes of the first `count` characters.
 std::size_t PrefixSize(std::string_view text, std::int32_t count) {
   std::size_t size = 0;
   for (; count > 0 && size < text.size(); --count) {

@@ -32,17 +32,17 @@ std::string UpperCase(std::string_view text);
 bool EqualsIgnoreCase(std::string_view left, std::string_view right);
 
 /// Fills a text shorter than `width` characters up to that width: mode "LEFT_SPACES" puts blanks
-/// before it, "RIGHT_SPACES" blanks behind it, "LEFT_ZEROES" zeroes before it. Any other mode or a
-/// longer text: unchanged.
+/// before it, "RIGHT_SPACES" blanks after it, "LEFT_ZEROES" zeroes before it. With any other mode,
+/// and when the text is longer, it stays unchanged.
 std::string PadText(std::string_view text, std::int16_t width, std::string_view mode);
 
-/// Replaces `sought` by `replacement`, from left to right, going on behind what was put in; with
-/// `firstOnly` only once. An empty `sought` occurs nowhere.
+/// Replaces `sought` by `replacement`, from left to right, each time continuing after the
+/// replacement; with `firstOnly` only once. An empty `sought` occurs nowhere.
 std::string ReplaceText(std::string_view text, std::string_view sought,
                         std::string_view replacement, bool firstOnly, bool caseSensitive);
 
 /// Position of the last `sought` in `text` counted from the right: 1 + the number of characters
-/// behind it, 0 when there is none. `start` is where the search begins, 1 = at the very end; each
+/// after it, 0 when there is none. `start` is where the search begins, 1 = at the very end; each
 /// step more leaves out one more character at the end. Throws RunTimeError 6 when the position does
 /// not fit 16 bits.
 std::int16_t ReverseFind(std::string_view text, std::string_view sought, std::int16_t start,
@@ -51,7 +51,7 @@ std::int16_t ReverseFind(std::string_view text, std::string_view sought, std::in
 /// The number in decimal digits, with "-" when negative.
 std::string DecimalText(std::int32_t value);
 
-/// The number in small hexadecimal digits, without leading zeroes.
+/// The number in lower-case hexadecimal digits, without leading zeroes.
 std::string HexadecimalText(std::uint64_t value);
 
 /// The number that a text of decimal digits with an optional sign stands for, blanks around it
