@@ -16,7 +16,7 @@ struct BenchErrors : ErrorReporters {
   void udmNonFatalError(ErrorPlace, std::int16_t) override {}
 };
 
-/// A desktop of so many windows; Tags 1 and 2 stand for the topmost and the lowest of them.
+/// A desktop of this many windows; Tags 1 and 2 stand for the topmost and the lowest of them.
 class BenchDesktop {
  public:
   explicit BenchDesktop(int windowCount) {

@@ -23,8 +23,8 @@ double Calls(BenchDesktop& desktop, bool forgetful) {
 }
 
 /// A Tag key on a desktop of few and on one of many windows, measured in turn: `ratio` is how many
-/// times longer it takes on the full one. The fake desktop's own work is part of the times (it
-/// sorts its windows at each change of the foreground), not of the counted calls.
+/// times longer it takes with many. The times include the fake desktop's own work (it sorts its
+/// windows at each change of the foreground), the counted calls do not.
 void CompareDesktops(benchmark::State& state, bool forgetful) {
   BenchDesktop few(kFewWindows);
   BenchDesktop many(kManyWindows);

@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::string_view kTitle = "Quarterly report, second draft - Notes of the team - Editor";
 
-/// The bare search that a partial title costs at least; the matches below are its multiples.
+/// The bare search that a partial title needs at least; the matches below cost multiples of it.
 void PlainFind(benchmark::State& state) {
   const std::string sought = "Notes of the team";
   for ([[maybe_unused]] auto _ : state) benchmark::DoNotOptimize(kTitle.find(sought));

@@ -1,6 +1,6 @@
 # One library per folder: every source of the folder, and the folders that it may use.
-# Every folder sees the headers of all others, so what it uses without declaring it here compiles all
-# the same and may even link; script/lint checks the #include lines against these declarations.
+# Every folder sees the headers of all others, so code that uses a folder not declared here still
+# compiles and may even link; script/lint checks the #include lines against these declarations.
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)

@@ -1,6 +1,6 @@
 # Sets KORVALE_ICON to the program's icon and KORVALE_POINTER to its mouse pointer for customizing
 # colours: drawn from resources/korvale.svg and resources/colors.svg where the tools for it are
-# installed, otherwise the drawings that are kept beside them. The target korvale_icon draws both.
+# installed, otherwise the ready drawings beside them. The target korvale_icon draws both.
 
 find_program(KORVALE_RSVG rsvg-convert)
 find_program(KORVALE_ICOTOOL icotool)

@@ -26,7 +26,7 @@ build() {
     { grep -vE '^\[[0-9]+/' "build/$preset.log" | tail -60; return 1; }
 }
 
-# count_tests WHAT...: sets good, bad and again to what count_tests.py says of WHAT.
+# count_tests WHAT...: sets good, bad and again to what count_tests.py prints for WHAT.
 count_tests() {
   local said
   said=$(python3 script/lib/count_tests.py "$@") || said='0 1'
@@ -43,5 +43,5 @@ native_tests() {
   count_tests ctest "$build/results.xml" "$build/reports"
 }
 
-# show_failures LOG: what tests of GoogleTest say when they do not pass.
+# show_failures LOG: what GoogleTest printed for tests that did not pass.
 show_failures() { grep -vE '^\[( +OK |-+|=+| RUN +|==+)' "$1" | tail -60; }

@@ -1,6 +1,6 @@
 # shellcheck shell=bash
 # Wine on a screen of its own. Source it, call wine_begin once, then wine_suite for each suite.
-# Everything that was started ends with the script that sources this file.
+# Everything that was started ends together with the script that sources this file.
 
 WINE_LOADER=${WINE_LOADER:-/usr/lib/wine/wine64}
 WINE_SERVER=${WINE_SERVER:-/usr/lib/wine/wineserver64}
@@ -43,14 +43,14 @@ wine_template() {
   # Without a window manager only Wine's own desktop window knows who is in front.
   "$WINE_LOADER" reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d Default /f >/dev/null
   wine_screen "$WINE_USUAL_SCREEN"
-  # A program that crashes shall end at once, not wait in a debugger.
+  # A program that crashes must end at once, not wait in a debugger.
   "$WINE_LOADER" reg delete 'HKLM\Software\Microsoft\Windows NT\CurrentVersion\AeDebug' /f \
     >/dev/null
   "$WINE_SERVER" -w
   touch "$WINE_TEMPLATE.done"
 }
 
-# Gives Wine's desktop window this size, WIDTHxHEIGHT.
+# Makes Wine's desktop window this large, WIDTHxHEIGHT.
 wine_screen() {
   "$WINE_LOADER" reg add 'HKCU\Software\Wine\Explorer\Desktops' /v Default /d "$1" /f >/dev/null
 }
@@ -79,8 +79,8 @@ wine_suite() {
   else
     cp -a "$WINE_TEMPLATE" "$WINEPREFIX"
   fi
-  # Debian's Wine does not look for its own fonts; without this one title bars have letters in
-  # place of buttons.
+  # Debian's Wine does not look for its own fonts; without this one title bars show letters instead
+  # of buttons.
   cp /usr/share/wine/fonts/marlett.ttf "$WINEPREFIX/drive_c/windows/Fonts/" || true
   [ "$WINE_SCREEN" = "$WINE_USUAL_SCREEN" ] || wine_screen "$WINE_SCREEN"
 }
