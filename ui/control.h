@@ -29,8 +29,8 @@ class ControlOwner {
   virtual void KeepFocusReachable() = 0;
 };
 
-/// One control of a loaded form. Setters change the model, show the change and raise the event
-/// that such a change means; setting a property to the value it has does nothing.
+/// One control of a loaded form. Setters change the model, show the change and raise the event that
+/// belongs to it; setting a property to the value it has does nothing.
 class Control {
  public:
   Control(ControlOwner& form, ControlState& state) : form_(&form), state_(&state) {}
@@ -58,8 +58,8 @@ class Control {
   void SetWidth(Twips width);
   void SetHeight(Twips height);
 
-  /// 1 = chosen, 0 = not. Choosing an option button unchooses its neighbours in the same
-  /// container. Raises Click when the value changes (for option buttons: when it becomes 1).
+  /// 1 = chosen, 0 = not. Choosing an option button clears the others in its container. Raises
+  /// Click when the value changes (for option buttons: when it becomes 1).
   int Value() const { return state_->value; }
   void SetValue(int value);
 
@@ -69,7 +69,7 @@ class Control {
 
   std::span<const ListItem> Items() const { return state_->items; }
   void AddItem(std::string_view text, std::int32_t itemData = 0);
-  /// Adds many entries to a list, which is shown anew only once.
+  /// Adds many entries to a list, which is redrawn only once.
   void AddItems(std::span<const ListItem> items);
   void SetItemText(int listIndex, std::string_view text);
   /// Removes all entries; nothing is selected then.
@@ -78,9 +78,9 @@ class Control {
   /// Selects an entry, -1 = none; raises Click when the selection changes. Error 380 when there is
   /// no such entry.
   void SetListIndex(int listIndex);
-  /// Item data of the selected entry, or nothing selected: 0.
+  /// Item data of the selected entry; 0 when nothing is selected.
   std::int32_t SelectedItemData() const;
-  /// Text of the selected entry, or nothing selected: "".
+  /// Text of the selected entry; "" when nothing is selected.
   std::string SelectedText() const;
 
   /// Moves the focus here; does nothing while the user could not reach the control.
@@ -90,7 +90,8 @@ class Control {
   TextSelection Selection() const;
   void SetSelection(TextSelection selection);
 
-  /// Timer: milliseconds, at least 10, or 0 to keep it from ticking. A running timer starts anew.
+  /// Timer: milliseconds, at least 10, or 0 to keep it from ticking. Setting it restarts a running
+  /// timer.
   std::uint32_t Interval() const { return state_->interval; }
   void SetInterval(std::uint32_t milliseconds);
 

@@ -96,7 +96,7 @@ int Form::ContainerId(const ControlRow& row) const {
 
 void Form::Load() {
   if (IsLoaded()) return;
-  // What holds on to a menu or control from before the first loading keeps it.
+  // References to menus and controls that were taken before the first loading stay valid.
   if (std::exchange(used_, true)) BuildFromDesign();
   state_.place = RealPlace();
   handle_ = forms_->Host().CreateWindowExW(state_, *this);
@@ -115,7 +115,7 @@ void Form::Load() {
 }
 
 bool Form::Unload(CloseReason reason) {
-  // A form that is on its way out may ask for it again, as a close handler does.
+  // A closing form may be asked to close again, for example by its own close handler.
   if (!IsLoaded() || unloading_) return true;
   const RaisedFlag unloading(unloading_);
   if (!AgreesToUnload(reason)) return false;
@@ -221,7 +221,7 @@ void Form::SetWindowState(ShowState state) {
     state_.windowState = state;
     return;
   }
-  // The host tells back through OnPlaced what has become of it.
+  // The host reports through OnPlaced what has become of it.
   const int command = state == ShowState::kNormal      ? win32::kSwRestore
                       : state == ShowState::kMinimized ? win32::kSwMinimize
                                                        : win32::kSwMaximize;

@@ -17,7 +17,7 @@
 
 namespace korvale {
 
-/// What the designs count as the frame: both side borders, and title bar with both borders.
+/// The frame that the designs count on: both side borders, and title bar with both borders.
 inline constexpr Twips kClassicFrameWidth = 90;
 inline constexpr Twips kClassicFrameHeight = 400;
 
@@ -31,7 +31,7 @@ struct FormDesign {
   bool maximizeBox = false;
   bool modalFrame = true;
   bool inTaskbar = false;
-  /// Seen above all windows without ever taking the keyboard.
+  /// Stands above all windows and never takes the keyboard focus.
   bool aside = false;
   /// The height counts the frame and menu that the window really has; otherwise it counts the
   /// classic frame (400 twips) and the window grows with a higher one, so that no control is cut.
@@ -40,7 +40,7 @@ struct FormDesign {
   std::span<const MenuRow> menu = {};
 };
 
-/// A form: its model, and what the user's doings mean. A form is loaded (its window exists,
+/// A form: its model, and what the user's actions mean. A form is loaded (its window exists,
 /// hidden), shown, and unloaded; it can be loaded again afterwards.
 class Form : public FormEvents, public CollectedForm, private ControlOwner {
  public:
@@ -62,7 +62,7 @@ class Form : public FormEvents, public CollectedForm, private ControlOwner {
   bool Unload(CloseReason reason = CloseReason::kCode) final;
   /// Loads the form if need be and shows it.
   void Show() final;
-  /// As Show, but the window that is active stays so.
+  /// As Show, but the active window stays active.
   void ShowInactive();
   /// Shows the form and returns when it has been unloaded or hidden; no other form of the program
   /// takes input meanwhile.
@@ -74,7 +74,7 @@ class Form : public FormEvents, public CollectedForm, private ControlOwner {
   /// Place and size in twips. Without FormDesign::exactHeight the size counts the classic frame.
   const TwipsRect& Place() const { return place_; }
   void SetPlace(const TwipsRect& place);
-  /// Limits what the user can make of the form's size, frame included.
+  /// Limits the sizes that the user can give the form, frame included.
   void SetSizeLimits(const SizeLimits& limits);
   bool Enabled() const final { return state_.enabled; }
   void SetEnabled(bool enabled);
@@ -103,7 +103,7 @@ class Form : public FormEvents, public CollectedForm, private ControlOwner {
   /// The control that has the focus, 0 = none.
   int FocusedControl() const { return focused_; }
 
-  // What the host tells (FormEvents).
+  // What the host reports (FormEvents).
   void OnClick(int control) final;
   void OnTextTyped(int control, const std::string& text) final;
   void OnListPicked(int control, int listIndex) final;
@@ -128,8 +128,8 @@ class Form : public FormEvents, public CollectedForm, private ControlOwner {
   using Handler = std::function<void(int index)>;
   using Handlers = std::map<std::string, Handler, std::less<>>;
 
-  // What a form does; each is called by the shared code above.
-  /// An error here unloads the form again and goes on to the caller of Load.
+  // What a form does; the shared code above calls these.
+  /// An error here unloads the form again and reaches the caller of Load.
   virtual void Form_Load() {}
   virtual void Form_Activate() {}
   /// Sees each key before any control; set `key` to 0 to swallow it.
@@ -142,9 +142,9 @@ class Form : public FormEvents, public CollectedForm, private ControlOwner {
   virtual void Form_Unload() {}
   /// The form is shown for the first time, or its size or state has changed.
   virtual void Form_Resize() {}
-  /// The system's colours have changed; those that the form chose by them must follow.
+  /// The system's colours have changed; the form must update those that it chose to go with them.
   virtual void Form_SysColorChange() {}
-  /// The user, or Windows for them, has put the form to another place without resizing it.
+  /// The user, or Windows for them, has moved the form without resizing it.
   virtual void Form_Move() {}
   virtual void Form_MouseMove(const MouseInput& input);
   virtual void Control_Mouse(Control& control, const MouseInput& input);
@@ -153,7 +153,7 @@ class Form : public FormEvents, public CollectedForm, private ControlOwner {
   /// change by typing) or of a menu entry to its handler, which gets the array index (-1 = none).
   void WhenClicked(std::string_view name, Handler handler);
   void WhenDroppedDown(std::string_view name, Handler handler);
-  /// Binds the closing of a list, with or without a choice; may come before or after the choice.
+  /// Binds the closing of a list, with or without a choice; it may come before or after the choice.
   void WhenClosedUp(std::string_view name, Handler handler);
   void WhenMenuOpens(std::string_view name, Handler handler);
   void WhenMenuClicked(std::string_view name, Handler handler);
@@ -169,7 +169,7 @@ class Form : public FormEvents, public CollectedForm, private ControlOwner {
   bool AgreesToUnload(CloseReason reason);
   void Destroy();
 
-  // form_events.cpp: what the user's doings mean.
+  // form_events.cpp: what the user's actions mean.
   static void RaiseFor(const Handlers& handlers, std::string_view name, int index);
   void RaiseClick(Control& control) final;
   void UnchooseNeighbours(const Control& chosen) final;
@@ -207,12 +207,12 @@ class Form : public FormEvents, public CollectedForm, private ControlOwner {
   WindowHandle handle_ = 0;
   int focused_ = 0;
   int pressed_ = 0;                   ///< The control that the left button went down on.
-  bool altUsed_ = false;              ///< Alt is held, and a key pressed with it dealt with.
+  bool altUsed_ = false;              ///< Alt is held, and a key pressed with it had an effect.
   std::optional<TwipsRect> refused_;  ///< Where Windows put the window instead of where it should.
   bool keyRepeats_ = false;
   bool shownBefore_ = false;
   bool unloading_ = false;
-  /// The model has been loaded once, so the next loading starts from the design.
+  /// The model has been loaded once, so the next loading starts again from the design.
   bool used_ = false;
   std::string tag_;
   Handlers clicked_;

@@ -22,7 +22,7 @@ CollectedForm* FormCollection::Find(std::string_view name) const {
 }
 
 void FormCollection::UnloadAllExcept(std::string_view name) {
-  // Unloading one form may unload others, so what is left is looked at again each time.
+  // Unloading one form may unload others, so the rest is looked up again each time.
   std::vector<const CollectedForm*> asked;
   const auto next = [&] {
     return std::find_if(loaded_.rbegin(), loaded_.rend(), [&](const CollectedForm* form) {

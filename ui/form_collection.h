@@ -28,8 +28,8 @@ class CollectedForm {
   virtual bool Unload(CloseReason reason) = 0;
 };
 
-/// The loaded forms of the program and what they share: the host that shows them, the message
-/// loop, the screen, their timers and the place where an error of an event handler is reported.
+/// The loaded forms of the program and what they share: the host that shows them, the message loop,
+/// the screen, their timers and the handler that reports the errors of event handlers.
 class FormCollection : public LoadedForms {
  public:
   FormCollection(FormHost& host, MessageLoop& loop, ScreenQueries& screen, TimerApi& timers)
@@ -44,7 +44,7 @@ class FormCollection : public LoadedForms {
   std::vector<LoadedForm> List() const override;
   /// The loaded form of this name, ignoring case; null when there is none.
   CollectedForm* Find(std::string_view name) const;
-  /// Unloads every loaded form except the one of this name, the last loaded first.
+  /// Unloads every loaded form except the one of this name, the one loaded last first.
   void UnloadAllExcept(std::string_view name);
 
   /// Disables every other loaded form, shows `form`, runs messages until it is no longer shown, and
@@ -76,9 +76,9 @@ class FormCollection : public LoadedForms {
   void Remove(CollectedForm& form);
   bool IsModal(const CollectedForm& form) const;
   bool IsBlocked(const CollectedForm& form) const;
-  /// Gives the blocked forms back to the user, or to a modal form above this one.
+  /// Lets the blocked forms take input again, unless a modal form above this one blocks them.
   void EndModal(const CollectedForm* form);
-  /// The forms that a new modal one keeps from taking input from now on.
+  /// The forms that a new modal form keeps from taking input.
   std::vector<CollectedForm*> Block(CollectedForm* modal);
 
   FormHost* host_;

@@ -7,10 +7,10 @@
 namespace korvale {
 namespace {
 
-/// Held without Ctrl, which makes other keys of both.
+/// Together with Ctrl, Alt gives other characters.
 bool IsAltOnly(unsigned shift) { return (shift & (kAlt | kCtrl)) == kAlt; }
 
-/// Enter, Esc and Tab are nothing that a text of one line could hold; its box would beep at them.
+/// A text box of one line cannot hold Enter, Esc and Tab, and would beep at them.
 bool HasNoUseFor(const ControlState& control, char32_t character) {
   const bool oneLine = control.kind == ControlKind::kComboBox ||
                        (control.kind == ControlKind::kTextBox && (control.flags & kWordWrap) == 0);
@@ -132,7 +132,7 @@ bool Form::OnKeyDown(int control, int virtualKey, unsigned shift, bool repeated)
 
 bool Form::OnCharacter(int control, char32_t character, unsigned shift) {
   if (!IsLoaded() || (control != 0 && !IsControl(control))) return false;
-  // Latin letters and digits have been dealt with as keys, whatever the keyboard layout.
+  // Latin letters and digits have been handled as keys, whatever the keyboard layout.
   constexpr char32_t kFirstBeyondAscii = 0x80;
   if (character < kFirstBeyondAscii) {
     return control != 0 && HasNoUseFor(StateOf(control), character);
@@ -144,7 +144,8 @@ bool Form::OnCharacter(int control, char32_t character, unsigned shift) {
 
 bool Form::OnKeyUp(int control, int virtualKey, unsigned shift) {
   if (!IsLoaded() || (control != 0 && !IsControl(control))) return false;
-  // Windows has not seen the key pressed with Alt and would take Alt alone for the way to the menu.
+  // Windows has not seen the key pressed with Alt, so it would take Alt for one pressed alone,
+  // which opens the menu.
   const bool altUsed = virtualKey == win32::kVkMenu && std::exchange(altUsed_, false);
   int key = virtualKey;
   Form_KeyUp(control == 0 ? nullptr : &ById(control), key, shift);
@@ -171,7 +172,7 @@ void Form::ClickPicture(int control, const MouseInput& input) {
 }
 
 void Form::OnFocusMoved(int control) {
-  // Without a control the focus has left the form for a while and comes back to the same one.
+  // Without a control the focus has left the form and will return to the same one.
   if (!IsControl(control) || control == focused_) return;
   focused_ = control;
   MarkDefaultButton();
@@ -193,8 +194,8 @@ void Form::OnActivated() {
   Form_Activate();
 }
 
-/// False for what is known already, and for a place that Windows gives once more instead of one
-/// that it has refused: a form that insists would hear of it without end.
+/// False for what is known already, and for a place that Windows gives again in place of one that
+/// it has refused: a form that insisted would be told of it without end.
 bool Form::IsNews(ShowState state, const TwipsRect& place) {
   const bool asWanted = place == state_.place;
   if (asWanted) refused_.reset();

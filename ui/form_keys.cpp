@@ -31,8 +31,8 @@ bool TakesFocus(ControlKind kind) {
          kind == ControlKind::kOptionButton || kind == ControlKind::kTabStrip;
 }
 
-/// The caption of the control, or one of its tabs, that has this access key; -1 = none. The
-/// caption itself is number 0.
+/// The tab, counted from 0, whose caption has this access key; 0 also for the control's own
+/// caption; -1 = none.
 int CaptionWithKey(const ControlState& control, char32_t character) {
   switch (control.kind) {
     case ControlKind::kLabel:
@@ -65,7 +65,7 @@ bool Form::CanTakeFocus(const ControlState& control) const {
 int Form::TabStopOf(int control) const {
   const ControlState& state = StateOf(control);
   if (state.kind != ControlKind::kOptionButton) return control;
-  // Option buttons that hang together are one stop: the chosen one, or else the first.
+  // A group of option buttons is one stop: the chosen one, or else the first.
   int first = 0;
   for (const ControlState& option : state_.controls) {
     const bool sameGroup = option.kind == ControlKind::kOptionButton &&
@@ -128,7 +128,7 @@ void Form::KeepFocusReachable() {
 
 Control* Form::ButtonWithFlag(unsigned flag) {
   for (Control& control : controls_) {
-    // The design tells; the flags of the model tell which button is drawn as the default.
+    // The design decides; the flags of the model only say which button is drawn as the default.
     const unsigned flags = rows_[static_cast<std::size_t>(control.Id()) - 1].flags;
     if ((flags & flag) != 0 && CanTakeInput(control.State())) return &control;
   }

@@ -7,7 +7,7 @@
 namespace korvale {
 namespace {
 
-/// What must be on a monitor of a form's title bar, in both directions, so that it can be dragged.
+/// How much of a form's title bar must be on a monitor, in both directions, to be dragged.
 constexpr Twips kReachable = 300;
 constexpr Twips kTitleBar = 400;
 
@@ -18,10 +18,10 @@ void MoveTo(Form& form, Twips left, Twips top) {
   form.SetPlace(place);
 }
 
-/// Where something of this length begins when it stands in the middle.
+/// Where a stretch of this length begins when it is centred in the room.
 Twips Centred(Twips start, Twips room, Twips length) { return start + (room - length) / 2; }
 
-/// The nearest beginning inside the room; what is longer than the room begins with it.
+/// The nearest beginning inside the room; what is longer than the room begins where it does.
 Twips Inside(Twips wished, Twips start, Twips room, Twips length) {
   return std::max(start, std::min(wished, start + room - length));
 }

@@ -11,12 +11,12 @@ struct PlaceHints {
   Twips top = -1;
 };
 
-/// Moves a form to its hints, onto the monitor of the window that the user works in; without hints
-/// it stands in the middle of its owner, when that can be seen on this monitor, or else of the work
-/// area. `owner` may be null.
+/// Moves a form to its hints, onto the monitor of the window that the user works in; without hints,
+/// to the middle of its owner, if that can be seen on this monitor, or else of the work area.
+/// `owner` may be null.
 void PlaceForm(Form& form, WindowHandle workedIn, const PlaceHints& hints, const Form* owner);
 
-/// Moves a form into the work area of its monitor; what is larger begins with the area.
+/// Moves a form into the work area of its monitor; a larger one begins where the area does.
 void KeepInWorkArea(Form& form);
 
 /// Moves a form onto the monitor nearest to it, when too little of it lies on any to be seen and

@@ -11,10 +11,10 @@
 namespace korvale {
 namespace {
 
-/// What check mark, margins and border take beside the text, also where they are large.
+/// What check mark, margins and border take beside the text, even where they are large.
 constexpr Twips kBesideText = 2400;
 
-/// The longest beginning of the caption that fits with "..." behind it; the caption when all fits.
+/// The longest beginning of the caption that fits with "..." after it; the caption when all fits.
 std::string Fitting(ScreenQueries& screen, WindowHandle hwnd, const std::string& caption,
                     Twips room) {
   const auto fits = [&](const std::string& text) {

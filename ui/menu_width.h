@@ -5,8 +5,8 @@
 
 namespace korvale {
 
-/// Lets the entries of a form's menu show as much of their captions as the narrowest monitor has
-/// room for where the menu may open, and "..." behind it; the captions stay whole.
+/// Shortens the entries of a form's menu to what the narrowest monitor has room for where the menu
+/// may open, with "..." at the end; the captions themselves stay whole.
 void FitMenuToScreen(ScreenQueries& screen, WindowHandle hwnd, MenuItem& menu);
 
 }  // namespace korvale

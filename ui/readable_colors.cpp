@@ -6,7 +6,7 @@ namespace korvale {
 
 namespace {
 
-/// Pure red on the grey of older Windows has 2.6; what has less is hard to find at all.
+/// Pure red on the grey of older Windows has 2.6; anything less is hard to see at all.
 constexpr double kLeastContrastOfMarks = 2.5;
 constexpr double kLeastContrastOfText = 4.5;
 

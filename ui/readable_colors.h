@@ -5,7 +5,7 @@
 
 namespace korvale {
 
-/// The colours of a text and of what lies below it.
+/// The colours of a text and of its background.
 struct TextColors {
   Color back;
   Color text;

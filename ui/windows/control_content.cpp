@@ -69,7 +69,7 @@ bool SameEntries(HWND window, const ControlState& control) {
 
 void ShowText(HWND window, const ControlState& control) {
   const std::wstring text = WindowText(control);
-  // Setting a text moves the caret, so it is left alone where it stands already.
+  // Setting a text moves the caret, so a text that is there already is left alone.
   if (text != ReadWideText(window)) SetWindowTextW(window, text.c_str());
 }
 
@@ -103,7 +103,7 @@ void ShowBorder(HWND window, const ControlState& control) {
   SetWindowPos(
       window, nullptr, 0, 0, 0, 0,
       SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED | SWP_NOCOPYBITS);
-  // What the border covered belongs to the control now, or the other way round.
+  // What the border covered now belongs to the control, or the reverse.
   RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME);
 }
 

@@ -67,8 +67,8 @@ WindowKind KindOf(const ControlState& control, const wchar_t* pageClass) {
     case ControlKind::kComboBox:
       return {WC_COMBOBOXW, kCombo | CBS_DROPDOWN};
     case ControlKind::kFrame:
-      // Windows paints the border only; so that the page paints what lies within, it must not be
-      // clipped away there.
+      // Windows paints only the border; the page can paint what is inside only when it is not
+      // clipped there.
       return {WC_BUTTONW, BS_GROUPBOX, WS_EX_TRANSPARENT};
     case ControlKind::kPage:
       return {pageClass, WS_CLIPCHILDREN, WS_EX_CONTROLPARENT};

@@ -20,7 +20,7 @@ bool IsButtonKind(ControlKind kind);
 /// True for the two kinds of combo boxes.
 bool IsComboKind(ControlKind kind);
 
-/// The text as the window takes it: where a kind cannot show "&" as it is, it is doubled.
+/// The text as the window takes it: "&" is doubled for kinds that would not show it.
 std::wstring WindowText(const ControlState& control);
 
 }  // namespace korvale

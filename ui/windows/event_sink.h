@@ -4,7 +4,7 @@
 
 namespace korvale {
 
-/// Tells a form its events, and keeps what they throw from reaching Windows. Silent before Connect
+/// Reports events to a form and keeps what it throws from reaching Windows. Silent before Connect
 /// and after Disconnect.
 class EventSink {
  public:
@@ -23,7 +23,7 @@ class EventSink {
     }
   }
 
-  /// As Tell, for events that answer; false when the event ended with an error.
+  /// As Tell, for events with an answer; false when the event ended with an error.
   template <typename Call>
   bool Ask(Call call) {
     bool answer = false;

@@ -73,7 +73,7 @@ void FormControls::Update(int control, ControlProperty property) {
   if (Window(control) == nullptr) return;
   const bool outer = std::exchange(updating_, true);
   Apply(State(control), property);
-  // What stands in a frame is no child of the frame's window.
+  // Controls in a frame are not children of the frame's window.
   const bool inherited = property == ControlProperty::kPlace ||
                          property == ControlProperty::kVisible ||
                          property == ControlProperty::kEnabled;
@@ -131,7 +131,7 @@ void FormControls::ApplyPlace(const ControlState& control) {
   if (IsComboKind(control.kind)) {
     PlaceCombo(Window(control.id), place);
   } else {
-    // A line has no height of its own.
+    // The design gives a line no height.
     if (control.kind == ControlKind::kLine) {
       place.width = std::max(place.width, 2);
       place.height = std::max(place.height, 2);

@@ -12,7 +12,7 @@
 
 namespace korvale {
 
-/// The windows of a form's controls, kept as the model says.
+/// The windows of a form's controls, kept as the model has them.
 class FormControls {
  public:
   FormControls(const FormState& form, HINSTANCE instance) : form_(&form), instance_(instance) {}
@@ -20,22 +20,22 @@ class FormControls {
   /// Makes the controls in the order of the model; `pageClass` is the window class of pages.
   /// False when Windows refused one of them.
   bool Create(HWND form, const std::wstring& pageClass);
-  /// The form's window goes.
+  /// The form's window is being destroyed.
   void Drop() { toolTips_.Drop(); }
   /// Shows what has changed in the model.
   void Update(int control, ControlProperty property);
-  /// The form stands on a screen of other dots per inch.
+  /// The form is on a screen with other dots per inch.
   void ChangeDpi();
 
   /// The window of a control; null for a control without one.
   HWND Window(int control) const;
   /// The control that this window is or belongs to; 0 = none.
   int IdOf(HWND window) const;
-  /// The control of this number, as messages carry it; 0 when it is none or has no window.
+  /// The control of this number, as messages carry it; 0 when there is none or it has no window.
   int Find(WPARAM number) const;
   const ControlState& State(int control) const;
   bool IsListDropped(int control) const;
-  /// True while Update runs: what the windows then report is no doing of the user.
+  /// True while Update runs: events raised then are not the user's.
   bool Updating() const { return updating_; }
   ToolTips& Tips() { return toolTips_; }
 
@@ -48,7 +48,7 @@ class FormControls {
   void ApplyVisible(const ControlState& control);
   void ApplyTip(const ControlState& control);
   void ApplyIcon(const ControlState& control);
-  /// The window that holds the control, and where the place of the control counts from in it.
+  /// The window that holds the control, and where the control's place is counted from in it.
   HWND Holder(const ControlState& control, POINT& origin) const;
   bool IsVisible(const ControlState& control) const;
   bool IsEnabled(const ControlState& control) const;

@@ -15,14 +15,14 @@ class FormMenu {
  public:
   explicit FormMenu(const FormState& form) : form_(&form) {}
 
-  /// Makes the menu bar from the model and gives it to the window; null when none is wanted.
+  /// Gives the window a menu bar made from the model, or none when the model shows none.
   void ShowBar(HWND window);
-  /// Takes the menu bar from a window that goes.
+  /// Takes the menu bar from a window that is being destroyed.
   void DropBar(HWND window);
 
   /// A new pop-up menu, filled from the model.
   UniqueMenu MakePopup(MenuItem& menu);
-  /// The model's entry of an opening menu; null when it is none of ours or has been removed.
+  /// The model's entry of an opening menu; null when the menu is not ours or has been removed.
   MenuItem* Opening(HMENU menu) const;
   /// Fills an opening menu again.
   void Refill(HMENU menu, MenuItem& model);

@@ -12,7 +12,7 @@ namespace korvale {
 DWORD FormStyle(const FormState& form) {
   if (form.border == BorderStyle::kNone) return WS_POPUP;
   DWORD style = WS_CAPTION | WS_SYSMENU;
-  // When a pop-up that was in front goes, Windows brings its owner forward.
+  // When a pop-up window that was in front goes, Windows brings its owner forward.
   if (!form.inTaskbar) style |= WS_POPUP;
   if (form.border == BorderStyle::kSizable) style |= WS_THICKFRAME;
   if (form.minimizeBox) style |= WS_MINIMIZEBOX;
@@ -32,13 +32,13 @@ DWORD FormExStyle(const FormState& form) {
 
 namespace {
 
-/// The number of a control or timer; 0, which is none, for what cannot be one.
+/// The number of a control or timer; 0 for what cannot be one.
 int ToId(WPARAM id) {
   constexpr WPARAM kHighest = 0xFFFF;
   return id <= kHighest ? static_cast<int>(id) : 0;
 }
 
-/// The user is in menus of this thread, whatever messages say.
+/// The user is in menus of this thread, whatever messages claim.
 bool IsInMenus() {
   GUITHREADINFO info{};
   info.cbSize = sizeof(info);
@@ -106,7 +106,7 @@ void FormWindow::ShowMenuBar() {
 }
 
 void FormWindow::Show(int command) {
-  // A window that comes up under the mouse is no movement of the mouse.
+  // A window that comes up under the mouse does not mean that the mouse has moved.
   GetCursorPos(&lastMouse_);
   ::ShowWindow(hwnd_, command);
 }
@@ -216,7 +216,7 @@ std::optional<LRESULT> FormWindow::HandleEnd(UINT message, WPARAM wParam) {
       RequestClose(CloseReason::kUser);
       return 0;
     case WM_ENDSESSION:
-      // All our windows are told of the same end; the main form stands for them.
+      // All our windows are told of the same end; the main form answers for them.
       if (wParam != FALSE && form_->inTaskbar) RequestClose(CloseReason::kSession);
       return 0;
     case WM_DESTROY:
@@ -240,7 +240,8 @@ std::optional<LRESULT> FormWindow::HandleMenu(UINT message, WPARAM wParam, LPARA
       return 0;
     }
     case WM_ENTERMENULOOP:
-      // Another program's word counts only where it holds: it would keep the bar as it is for good.
+      // Another program's message counts only when it is true: else the bar would never change
+      // again.
       menuOpen_ = !IsSentByOthers() || IsInMenus();
       return std::nullopt;
     case WM_EXITMENULOOP:

@@ -26,9 +26,9 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   FormWindow(const FormWindow&) = delete;
   FormWindow& operator=(const FormWindow&) = delete;
 
-  /// Makes the hidden window; 0 when Windows refused. Events are told from the return on.
+  /// Makes the hidden window; 0 when Windows refused. Events are reported after it returns.
   HWND Create(HWND owner, FormEvents& events);
-  /// Destroys the window; no event is told any more.
+  /// Destroys the window; no event is reported any more.
   void Destroy();
 
   HWND Handle() const { return hwnd_; }
@@ -56,7 +56,7 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   bool IsForgedForControl(int control, HWND window, UINT message, WPARAM wParam,
                           LPARAM lParam) const;
   LRESULT Process(UINT message, WPARAM wParam, LPARAM lParam);
-  /// Messages that controls and pages send; nothing for others.
+  /// Messages that controls and pages send; nothing for any other.
   std::optional<LRESULT> HandleFromControls(UINT message, WPARAM wParam, LPARAM lParam);
   std::optional<LRESULT> HandleMenu(UINT message, WPARAM wParam, LPARAM lParam);
   std::optional<LRESULT> HandleEnd(UINT message, WPARAM wParam);
@@ -65,7 +65,7 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   void HandleLook(UINT message, WPARAM wParam, LPARAM lParam);
   void OnCommand(WPARAM wParam, LPARAM lParam);
   void OnNotify(WPARAM wParam);
-  /// A list has closed: Esc may have brought the former choice back without a word.
+  /// A list has closed: Esc may have restored the former choice without a notification.
   void OnListClosed(int control);
   void OnControl(int control, UINT notification);
   void OnCombo(int control, UINT notification);
@@ -73,8 +73,8 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   void TellMouse(int control, HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   void TellTyped(int control);
   void TellListPicked(int control);
-  /// Tells the choice of a list or tab strip when it is not the model's: the message that leads
-  /// here may be another program's, the state of the control is not.
+  /// Reports the choice of a list or tab strip when it is not the model's: the message that leads
+  /// here may come from another program, the state of the control does not.
   void TellIfPicked(int control);
   void TellPlaced();
   void LimitSize(MINMAXINFO& limits) const;
@@ -93,10 +93,10 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   FormMenu menu_;
   std::optional<KeyFilter> keys_;
   HWND hwnd_ = nullptr;
-  POINT lastMouse_{};         // Where the mouse was last told to be, on the screen.
+  POINT lastMouse_{};         // The last reported place of the mouse, on the screen.
   bool placing_ = false;      // The window is being placed by the model.
   bool watched_ = false;      // The window and its controls are complete.
-  bool destroying_ = false;   // The window goes by our own doing.
+  bool destroying_ = false;   // We are destroying the window ourselves.
   bool menuOpen_ = false;     // The user is in the menus.
   bool barOutdated_ = false;  // The menu bar changed meanwhile.
 };

@@ -23,7 +23,7 @@ MouseButton HeldButton(WPARAM keys) {
   return (keys & MK_MBUTTON) != 0 ? MouseButton::kMiddle : MouseButton::kNone;
 }
 
-/// What a mouse message means; false for messages that are not told.
+/// What a mouse message means; false for messages that are not reported.
 bool ReadMouseMessage(UINT message, WPARAM keys, MouseInput& input) {
   switch (message) {
     case WM_LBUTTONDOWN:
@@ -90,8 +90,8 @@ LRESULT CALLBACK FormWindow::ControlProcedure(HWND hwnd, UINT message, WPARAM wP
   const bool focused = message == WM_SETFOCUS && GetFocus() == hwnd;
   if (message == WM_NCDESTROY) RemoveWindowSubclass(hwnd, ControlProcedure, id);
   const bool mouse = message >= WM_MOUSEFIRST && message <= WM_MOUSELAST;
-  // A text box holds the mouse until it has seen the button come up; what is told may open a
-  // dialog, which needs it.
+  // A text box holds the mouse until it has seen the button come up; the report may open a dialog,
+  // which needs the mouse.
   const bool released =
       message == WM_LBUTTONUP || message == WM_RBUTTONUP || message == WM_MBUTTONUP;
   if (mouse && !released) {
@@ -108,8 +108,8 @@ bool FormWindow::IsForgedForControl(int control, HWND window, UINT message, WPAR
                                     LPARAM lParam) const {
   if (NamesAnAddress(message)) return true;
   if (destroying_) return false;
-  // Others cannot know a place in our memory. The tab strip gets private messages from us as well,
-  // those without a place even while another program's message is being handled.
+  // Others cannot know an address in our memory. The tab strip gets private messages from us, too,
+  // those without an address even while another program's message is being handled.
   const bool tabs = controls_.State(control).kind == ControlKind::kTabStrip;
   return IsForgedForClass(window, message, wParam, !tabs || lParam != 0);
 }
@@ -144,8 +144,8 @@ void FormWindow::OnCommand(WPARAM wParam, LPARAM lParam) {
 }
 
 void FormWindow::OnNotify(WPARAM wParam) {
-  // Where the notification lies is not looked at, since another program may have sent it: the tab
-  // strip itself tells whether the user has chosen.
+  // The notification is not read, since another program may have sent it: the state of the tab
+  // strip shows whether the user has chosen.
   const int control = controls_.Find(wParam);
   if (control == 0 || controls_.State(control).kind != ControlKind::kTabStrip) return;
   if (!controls_.Updating()) TellIfPicked(control);
@@ -210,7 +210,7 @@ void FormWindow::TellMouse(int control, HWND window, UINT message, WPARAM wParam
   POINT at{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
   POINT onScreen = at;
   ClientToScreen(window, &onScreen);
-  // Windows also sends moves when a window comes to lie under a mouse that stands still.
+  // Windows also sends moves when a window appears under a mouse that stands still.
   const bool still = onScreen.x == lastMouse_.x && onScreen.y == lastMouse_.y;
   if (input.event == MouseEvent::kMove && still) return;
   lastMouse_ = onScreen;

@@ -13,12 +13,12 @@ void FormWindow::ShowPlace() {
 }
 
 void FormWindow::TellPlaced() {
-  // One placing by the model is one event, told when all of it is done.
+  // One placing by the model is one event, reported when all of it is done.
   if (placing_ || !events_.Connected()) return;
   ShowState state = ShowState::kNormal;
   if (IsIconic(hwnd_) != FALSE) state = ShowState::kMinimized;
   if (IsZoomed(hwnd_) != FALSE) state = ShowState::kMaximized;
-  // Where the pixels are the model's, its place is told without what rounding makes of it.
+  // Where the pixels match the model's place, that is reported, free of rounding errors.
   TwipsRect place = form_->place;
   if (state != ShowState::kMinimized) {
     const UINT dpi = GetDpiForWindow(hwnd_);
@@ -44,7 +44,7 @@ void FormWindow::LimitSize(MINMAXINFO& limits) const {
 void FormWindow::KeepHeight(WPARAM edge, RECT& place) const {
   if (form_->limits.height == 0) return;
   const LONG height = ToPixels(form_->limits.height, GetDpiForWindow(hwnd_));
-  // The model has one height only; the edge that is not dragged stays where it is.
+  // The model allows only one height; the edge that is not dragged stays where it is.
   if (edge == WMSZ_TOP || edge == WMSZ_TOPLEFT || edge == WMSZ_TOPRIGHT) {
     place.top = place.bottom - height;
   } else {

@@ -62,7 +62,7 @@ bool KeyFilter::FilterCharacter(int control, const MSG& message) {
   });
 }
 
-/// As the dialogs of Windows do, whose place the filter takes: their keys show the underlines.
+/// Dialogs of Windows do the same: using the keyboard shows the underlines.
 void KeyFilter::ShowCues(int virtualKey) const {
   const bool keyboardWay = virtualKey == VK_MENU || virtualKey == VK_F10 || virtualKey == VK_TAB ||
                            (virtualKey >= VK_LEFT && virtualKey <= VK_DOWN);

@@ -65,8 +65,8 @@ constexpr UINT kNeverQueued[] = {WM_CREATE,
                                  WM_PARENTNOTIFY,
                                  WM_UNINITMENUPOPUP};
 
-/// What a message is meant for. Windows keeps others in our thread for its own purposes, as those
-/// of input methods, which get messages that we know nothing of.
+/// What a message is meant for. Windows keeps other windows in our thread for its own purposes,
+/// such as those of input methods, which get messages that we know nothing about.
 enum class Recipient { kForm, kToolTip, kList, kDialogOfWindows, kOther };
 
 Recipient OfClass(HWND window) {
@@ -79,7 +79,7 @@ Recipient OfClass(HWND window) {
   return name == L"#32770" ? Recipient::kDialogOfWindows : Recipient::kOther;
 }
 
-/// A control counts as the window that it stands in.
+/// A control counts as the top-level window that it is in.
 Recipient RecipientOf(HWND window) { return OfClass(GetAncestor(window, GA_ROOT)); }
 
 /// Messages to text boxes, lists and static controls are sent; many hold addresses or sizes.
@@ -97,13 +97,13 @@ bool IsNeverQueued(UINT message) {
 bool CanOnlyBeForged(const MSG& message) {
   const bool timer = message.message == WM_TIMER;
   const bool forControls = IsPrivateMessage(message.message) || IsForAControl(message.message);
-  // Most messages are neither, and need not be asked for their window.
+  // Most messages are neither, so their window need not be looked up.
   if (!timer && !forControls && !IsNeverQueued(message.message)) return false;
   const Recipient recipient = RecipientOf(message.hwnd);
   if (recipient == Recipient::kOther) return false;
   // Our timers call no procedure; this one would be called at whatever address it names.
   if (timer) return recipient == Recipient::kForm && message.lParam != 0;
-  // Windows may tell its own dialogs something in this way, but leaves no place to be followed.
+  // Windows may notify its own dialogs this way, but never with a pointer to follow.
   const bool counts = recipient != Recipient::kDialogOfWindows || message.lParam != 0;
   return !forControls || counts || IsNeverQueued(message.message);
 }
@@ -127,7 +127,7 @@ LRESULT CALLBACK GuardedProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM
 
 /// True for a window that Windows makes for us and whose messages pass no procedure of ours.
 bool IsMadeForUs(HWND window, const CREATESTRUCTW& creation) {
-  // Where the new window stands is not known yet: a list is first made inside its combo box.
+  // Where the new window belongs is not known yet: a list is first made inside its combo box.
   const Recipient recipient = OfClass(window);
   const bool child = (creation.style & WS_CHILD) != 0;
   return recipient == Recipient::kDialogOfWindows || recipient == Recipient::kList ||

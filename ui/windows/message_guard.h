@@ -7,11 +7,11 @@
 namespace korvale {
 
 /// Any program may put any message into the queue of our windows, and send any to them. While this
-/// stands, queued ones that Windows itself never queues, and those that would make a window follow
+/// exists, queued ones that Windows itself never queues, and those that would make a window follow
 /// a pointer, arrive as WM_NULL, in every message loop of the thread that made it (WH_GETMESSAGE).
 /// Sent ones of these kinds do not reach the message boxes and dialogs of Windows, nor the lists of
-/// combo boxes (WH_CBT); the windows that we make ourselves ask IsForgedForClass. What is judged is
-/// only who a message comes from, never what it means.
+/// combo boxes (WH_CBT); the windows that we make ourselves ask IsForgedForClass. It judges only
+/// who a message comes from, never what it means.
 class MessageGuard {
  public:
   MessageGuard();
@@ -27,21 +27,21 @@ bool IsSentByOthers();
 /// True for the messages that make and end a window.
 bool IsLifeMessage(UINT message);
 
-/// True for messages whose meaning is each window class's own, which may be pointers.
+/// True for messages that each window class defines for itself and that may carry pointers.
 bool IsPrivateMessage(UINT message);
 
-/// True for messages that give a text box an address to call or to keep its text at, which nobody
-/// here sends.
+/// True for messages that give a text box an address to call or to keep its text at; this program
+/// never sends any.
 bool NamesAnAddress(UINT message);
 
 /// True for a WM_ACTIVATE that tells a window of its activation when it is not the active one.
 bool IsForgedActivation(HWND window, UINT message, WPARAM wParam);
 
-/// True for a message that another program has sent to a window of one of Windows' own classes and
-/// that only Windows may send. `privateToo` = private messages are among these.
+/// True for a message that only Windows may send and that another program has sent to a window of
+/// one of Windows' own classes. `privateToo` = private messages count as well.
 bool IsForgedForClass(HWND window, UINT message, WPARAM wParam, bool privateToo);
 
-/// Copies a structure that a message points to; false when there is none to read.
+/// Copies the structure that a message points to; false when there is none to read.
 bool ReadParameter(LPARAM address, RECT& value);
 
 }  // namespace korvale

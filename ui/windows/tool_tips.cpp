@@ -42,13 +42,13 @@ void ToolTips::ChangeDpi() {
 }
 
 void ToolTips::Drop() {
-  // Windows destroys it together with a form that it destroys by itself.
+  // Windows destroys it together with a form that Windows itself destroys.
   if (IsWindow(window_.Get()) == FALSE) window_.Release();
   ours_ = true;
   window_.Reset();
 }
 
-/// Also what we tell it ourselves counts as sent by others while such a message is being handled.
+/// While a message of others is being handled, what we tell it ourselves counts as sent by others.
 LRESULT CALLBACK ToolTips::Guard(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
                                  DWORD_PTR tips) {
   const bool ours = reinterpret_cast<const ToolTips*>(tips)->ours_;

@@ -19,10 +19,10 @@ class ToolTips {
   void Create(HWND form, HINSTANCE instance);
   /// The form's monitor has another number of dots per inch.
   void ChangeDpi();
-  /// The form's window goes.
+  /// The form's window is being destroyed.
   void Drop();
 
-  /// Sets the tip of a control, "" = none. `shown` tells whether the control is visible.
+  /// Sets the tip of a control, "" = none. `shown` = the control is visible.
   void Show(HWND control, const std::string& text, bool shown);
   /// Lets the tips follow the mouse; called with each message of the form before it is dispatched.
   void Relay(const MSG& message);
@@ -37,7 +37,7 @@ class ToolTips {
 
   HWND form_ = nullptr;
   UniqueWindow window_;
-  bool ours_ = false;  // What the window is told now comes from here.
+  bool ours_ = false;  // The window is being told something by us.
 };
 
 }  // namespace korvale

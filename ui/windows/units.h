@@ -6,7 +6,7 @@
 
 namespace korvale {
 
-/// Twips to pixels of a screen or window of that many dots per inch, rounded.
+/// Twips to pixels of a screen or window with this many dots per inch, rounded.
 inline int ToPixels(Twips twips, UINT dpi) {
   return MulDiv(twips, static_cast<int>(dpi), kTwipsPerInch);
 }
@@ -31,8 +31,8 @@ inline PixelPlace ToPixels(const TwipsRect& place, UINT dpi) {
           ToPixels(place.height, dpi)};
 }
 
-/// A place on the screen. Positions count in the dots of the system, since the dots of a monitor
-/// are known only once a window is there; sizes count in the dots of the window.
+/// A place on the screen. Positions count in the dots of the system, since those of a monitor are
+/// known only once a window is there; sizes count in the dots of the window.
 inline PixelPlace ToScreenPixels(const TwipsRect& place, UINT dpi) {
   const UINT system = GetDpiForSystem();
   return {ToPixels(place.left, system), ToPixels(place.top, system), ToPixels(place.width, dpi),

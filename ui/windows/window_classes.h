@@ -20,7 +20,7 @@ UniqueIcon LoadProgramIcon(HINSTANCE instance, int size);
 /// Number of the program's own mouse pointer among its resources.
 inline constexpr WORD kPointerResource = 2;
 
-/// The pointer that stands for this one, shared by all; null when the executable has no own one.
+/// The cursor for this pointer, shared by all; null when the executable has none of its own.
 HCURSOR LoadPointer(HINSTANCE instance, MousePointer pointer);
 
 /// The window classes that the forms use; each is registered when it is first needed.

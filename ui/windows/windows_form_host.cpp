@@ -11,7 +11,7 @@
 namespace korvale {
 namespace {
 
-/// Lets the running message loops look again whether they are done.
+/// Makes the running message loops check again whether they are done.
 void WakeLoops() { PostThreadMessageW(GetCurrentThreadId(), WM_NULL, 0, 0); }
 
 /// By how much the menu bar is higher than one row: it has several rows where it is too narrow for
@@ -54,7 +54,7 @@ HWND WindowsFormHost::OwnerOf(const FormState& form) const {
 LRESULT CALLBACK WindowsFormHost::OwnerProcedure(HWND hwnd, UINT message, WPARAM wParam,
                                                  LPARAM lParam) {
   if (IsForgedActivation(hwnd, message, wParam)) return 0;
-  // Destroyed, it would take all forms with it, and nobody would know.
+  // Destroying it would take all forms with it without anyone being told.
   if (message != WM_CLOSE) return DefWindowProcW(hwnd, message, wParam, lParam);
   const auto* const host =
       reinterpret_cast<const WindowsFormHost*>(GetWindowLongPtrW(hwnd, GWLP_USERDATA));
@@ -71,7 +71,7 @@ WindowHandle WindowsFormHost::CreateWindowExW(const FormState& form, FormEvents&
 }
 
 void WindowsFormHost::DestroyWindow(WindowHandle hwnd) {
-  // Out of the list first: what runs while the window goes must not find it.
+  // Out of the list first: code that runs while the window is destroyed must not find it.
   const std::shared_ptr<FormWindow> form = forms_->Remove(hwnd);
   if (form == nullptr) return;
   form->Destroy();

@@ -14,8 +14,8 @@ namespace korvale {
 /// Shows forms as real windows. Used from one thread.
 class WindowsFormHost : public FormHost {
  public:
-  /// Makes the hidden window that owns the main window; it is never shown. Whoever closes it ends
-  /// the program. `pointer` is the live mouse pointer over all forms.
+  /// Makes the hidden window that owns the main window; it is never shown. Closing it ends the
+  /// program. `pointer` is the live mouse pointer over all forms.
   WindowsFormHost(HINSTANCE instance, OpenForms& forms, const MousePointer& pointer);
   ~WindowsFormHost() override;
 

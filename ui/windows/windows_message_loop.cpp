@@ -34,15 +34,15 @@ void WindowsMessageLoop::DoEvents() {
 }
 
 bool WindowsMessageLoop::QuitPosted() {
-  // A message box that is told to quit passes the order on.
+  // A message box that meets WM_QUIT posts it again.
   MSG message;
   return quitPosted_ || PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_NOREMOVE) != FALSE;
 }
 
 void WindowsMessageLoop::PostQuitMessage() {
   quitPosted_ = true;
-  // Posted anew where a loop has met it: a loop of Windows' own, as that of a message box, may run
-  // around this one and has to end too.
+  // Posted again for a loop of Windows' own, such as that of a message box, which may run around
+  // the one that has met it and must end too.
   ::PostQuitMessage(0);
 }
 

@@ -21,7 +21,7 @@ class WindowsMessageLoop : public MessageLoop {
   void RunMessageLoop(const std::function<bool()>& done) override;
   void DoEvents() override;
   void PostQuitMessage() override;
-  /// Also true when no loop has met the order yet.
+  /// Also true when no loop has met WM_QUIT yet.
   bool QuitPosted() override;
 
  private:

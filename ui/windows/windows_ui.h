@@ -9,7 +9,7 @@
 
 namespace korvale {
 
-/// All that shows forms on Windows, for one thread.
+/// Everything that shows forms on Windows, for one thread.
 struct WindowsUi {
   explicit WindowsUi(HINSTANCE instance)
       : loop(forms),
