@@ -41,8 +41,9 @@ void frmMain::HotKeysRegistered() {
 
 std::optional<Color> frmMain::udmShowColorPalette(Color initial) {
   CollectedForm* owner = Collection().TopModal();
-  if (owner == nullptr)
+  if (owner == nullptr) {
     owner = openOptions_ != nullptr ? static_cast<CollectedForm*>(openOptions_) : this;
+  }
   std::optional<Color> chosen;
   const RaisedFlag shown(parts_.suspension.DialogShown);
   Collection().RunSystemDialog(

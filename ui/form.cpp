@@ -83,8 +83,9 @@ void Form::BuildFromDesign() {
     const int id = static_cast<int>(state_.controls.size()) + 1;
     state_.controls.push_back(StateFromRow(row, id, ContainerId(row)));
   }
-  for (ControlState& control : state_.controls)
+  for (ControlState& control : state_.controls) {
     controls_.emplace_back(static_cast<ControlOwner&>(*this), control);
+  }
 }
 
 int Form::ContainerId(const ControlRow& row) const {

@@ -1,6 +1,7 @@
 """Checks what clang-format leaves open: one form for guards, one for namespaces.
 
-- A single statement that fits on the line of its if, for or while stands there, without braces.
+- A single statement that fits on the line of its if, for or while stands there, without braces;
+  one that does not fit stands in braces.
   GoogleTest's assertions, which hide an if of their own, keep them.
 - A blank line stands behind the line that opens a namespace and before the one that closes it;
   only namespaces that open or close together stand together.
@@ -11,13 +12,16 @@ import subprocess
 import sys
 
 COLUMNS = 100
-GUARD = re.compile(
-    r"^( *)((?:if|for|while) \(.*\)) \{\n +(?=\S)((?!(?:if|for|while|do|switch)\b|EXPECT_|ASSERT_).*;)\n\1\}\n", re.M
-)
+CONTROL = r"(?:if(?: constexpr)?|for|while) \(.*\)"
+STATEMENT = r"(?=\S)((?!(?:if|for|while|do|switch)\b|EXPECT_|ASSERT_).*;)"
+BRACED = re.compile(rf"^( *)({CONTROL}) \{{\n +{STATEMENT}\n\1\}}\n", re.M)
+BARE = re.compile(rf"^ *(?:\}} else )?{CONTROL}\n", re.M)
 
 
 def guards(text):
-    for guard in GUARD.finditer(text):
+    for guard in BARE.finditer(text):
+        yield text.count("\n", 0, guard.start()) + 1, "what this guards wants braces"
+    for guard in BRACED.finditer(text):
         if len(f"{guard[1]}{guard[2]} {guard[3]}") <= COLUMNS:
             yield text.count("\n", 0, guard.start()) + 1, "the braces of this guard can go"
 
@@ -40,7 +44,7 @@ def namespaces(text):
 files = subprocess.run(
     ["git", "ls-files", "*.cpp", "*.h"], capture_output=True, text=True, check=True
 ).stdout.splitlines()
-problems = 0
+problems = 0 if files else 1
 for path in files:
     with open(path, encoding="utf-8") as file:
         source = file.read()

@@ -34,14 +34,18 @@ count_tests() {
   read -r good bad again <<<"$said"
 }
 
-# native_tests PRESET: all tests of this build, on all cores; sets good and bad.
+# native_tests PRESET: all tests of this build, on all cores; sets good, bad and again. What ctest
+# itself says of them is in the results.
 native_tests() {
   local build=build/$1
   rm -rf "$build/reports" "$build/results.xml"
   ctest --test-dir "$build" -j"$(nproc)" --output-on-failure --output-junit results.xml \
-    >"$build-tests.log" 2>&1
+    >"$build-tests.log" 2>&1 || true
   count_tests ctest "$build/results.xml" "$build/reports"
 }
 
-# show_failures LOG: what GoogleTest printed for tests that did not pass.
-show_failures() { grep -vE '^\[( +OK |-+|=+| RUN +|==+)' "$1" | tail -60; }
+# show_failures LOG: the tests that did not pass, and what GoogleTest printed of them.
+show_failures() {
+  if [ -n "${again:-}" ]; then echo "failed: $again"; fi
+  grep -vE '^\[( +OK |-+|=+| RUN +|==+)' "$1" | tail -60
+}

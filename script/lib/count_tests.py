@@ -20,7 +20,7 @@ def read(report):
     if not report.exists():
         return None
     passed, failed = [], []
-    for suite in json.loads(report.read_text(encoding="utf-8"))["testsuites"]:
+    for suite in json.loads(report.read_text(encoding="utf-8", errors="replace"))["testsuites"]:
         for test in suite["testsuite"]:
             if "failures" in test:
                 failed.append(f"{suite['name']}.{test['name']}")
@@ -30,10 +30,13 @@ def read(report):
 
 
 def count(runs):
-    """runs: (program, whether it ended well, report); a program may run in several parts."""
+    """runs: (program, how it ended, report); a program may run in several parts.
+
+    It ends as "passed", as "failed", which its tests account for, or as "broken".
+    """
     passed, failed, strays = [], [], 0
     tests_of = {}
-    for program, well, report in runs:
+    for program, end, report in runs:
         tests_of.setdefault(program, 0)
         found = read(report)
         if found is None:
@@ -43,7 +46,7 @@ def count(runs):
         passed += found[0]
         failed += found[1]
         tests_of[program] += len(found[0]) + len(found[1])
-        strays += not well and not found[1]
+        strays += end == "broken" or (end == "failed" and not found[1])
     strays += sum(tests == 0 for tests in tests_of.values()) + (not runs)
     print(len(passed), len(failed) + strays, ":".join(failed))
 
@@ -52,7 +55,8 @@ def ctest(results, reports):
     """ctest calls the parts of a program PROGRAM.0, PROGRAM.1 and so on."""
     cases = xml.etree.ElementTree.parse(results).iter("testcase")
     return [
-        (case.get("name").rpartition(".")[0], case.get("status") == "run",
+        (case.get("name").rpartition(".")[0],
+         "passed" if case.get("status") == "run" else "failed",
          pathlib.Path(reports) / (case.get("name") + ".json"))
         for case in cases
     ]
@@ -61,4 +65,5 @@ def ctest(results, reports):
 if sys.argv[1] == "ctest":
     count(ctest(*sys.argv[2:]))
 else:
-    count([("program", sys.argv[2] == "0", pathlib.Path(sys.argv[3]))])
+    ends = {"0": "passed", "1": "failed"}
+    count([("program", ends.get(sys.argv[2], "broken"), pathlib.Path(sys.argv[3]))])

@@ -13,7 +13,7 @@ import re
 import subprocess
 import sys
 
-FOLDERS = ("platform/", "util/", "app/", "desktop/", "hotkeys/", "forms/")
+FOLDERS = ("platform/", "util/", "ui/", "app/", "desktop/", "hotkeys/", "forms/", "bench/")
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"', re.M)
 
 

@@ -137,8 +137,9 @@ TEST_F(WindowsHotKeyApiTest, AHookSeesAMessageFirstAndMayPassItOn) {
   std::vector<std::uintptr_t> seen;
   recorder_.call = [&](WindowHandle hwnd, std::uint32_t message, std::uintptr_t wParam,
                        std::intptr_t lParam) {
-    if (message == kMessage)
+    if (message == kMessage) {
       seen = {static_cast<std::uintptr_t>(hwnd), wParam, static_cast<std::uintptr_t>(lParam)};
+    }
     return Pass(hwnd, message, wParam, lParam);
   };
   EXPECT_EQ(Send(), 42);
