@@ -34,7 +34,7 @@ class DesktopUnderTest {
   virtual WindowHandle Open(const ContractWindow& window) = 0;
   virtual void Close(WindowHandle hwnd) = 0;
   virtual void Rename(WindowHandle hwnd, const std::string& title) = 0;
-  /// Returns when all that was asked for has come about.
+  /// Returns when everything that was asked for has happened.
   virtual void Settle() = 0;
 };
 

@@ -112,7 +112,7 @@ TEST_F(ListContract, TheKeysOfTheFormWorkAfterItWasResizedWhileOpen) {
   };
   Press(win32::kVkF4);
   Press(win32::kVkDown);
-  // Resizing it may have closed it without a word.
+  // Resizing it may have closed it without a notification.
   if (IsOpen()) Press(win32::kVkEscape);
   Press(win32::kVkEscape);
   EXPECT_EQ(Count("click cmdClose"), 1);

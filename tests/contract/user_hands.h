@@ -16,7 +16,7 @@
 
 namespace korvale {
 
-/// A menu entry as it is drawn: hidden entries do not occur.
+/// A menu entry as it is drawn; hidden entries do not appear.
 struct ShownMenuItem {
   std::string caption;    ///< As drawn: no mark of the access key, "&&" is "&". Separator: "-".
   std::string accessKey;  ///< The underlined character, or "".
@@ -34,10 +34,10 @@ struct ShownMessage {
   std::int32_t style = 0;
 };
 
-/// The hands and eyes of a user in front of a host's screen. Hands act on what can be reached:
-/// a hidden or disabled target fails the running test. Each method returns after the host has
-/// dealt with everything that follows from it; so what runs a message loop (a click that shows a
-/// modal form or a message box) needs its next actions queued with WhenWaiting beforehand.
+/// The hands and eyes of a user in front of a host's screen. Hands act on what can be reached: a
+/// hidden or disabled target fails the running test. Each method returns after the host has dealt
+/// with everything that follows from it; so the next actions of one that runs a message loop (a
+/// click that shows a modal form or a message box) must be queued with WhenWaiting beforehand.
 class UserHands {
  public:
   virtual ~UserHands() = default;
@@ -51,7 +51,7 @@ class UserHands {
   virtual TwipsRect Place(WindowHandle hwnd) = 0;
   /// Presses the close box.
   virtual void PressCloseBox(WindowHandle hwnd) = 0;
-  /// Closes the hidden window that owns this one of the main form, as task killers do.
+  /// Closes the hidden window that owns this one, the main form's, as task killers do.
   virtual void CloseOwner(WindowHandle hwnd) = 0;
   /// Tells the program's thread to quit, as task killers do.
   virtual void QuitThread() = 0;
@@ -108,11 +108,11 @@ class UserHands {
   /// Queues something to do the next time that a message loop of the host waits for the user, with
   /// all earlier actions done. One waiting loop takes one action at a time.
   virtual void WhenWaiting(std::function<void()> action) = 0;
-  /// Queues the answer to the next message box: it gets what is shown and returns the button that
-  /// is pressed. A message box without a queued answer fails the test.
+  /// Queues the answer to the next message box: it gets what is shown and returns the button to
+  /// press. A message box without a queued answer fails the test.
   virtual void WhenMessageBox(std::function<std::int16_t(const ShownMessage&)> answer) = 0;
-  /// Queues what is done with the next pop-up menu: it gets the entries and returns the caption of
-  /// the one that is chosen, "" to close it with Esc.
+  /// Queues the answer to the next pop-up menu: it gets the entries and returns the caption of the
+  /// one to choose, "" to close the menu with Esc.
   virtual void WhenPopupMenu(
       std::function<std::string(const std::vector<ShownMenuItem>&)> choose) = 0;
   /// Lets this much time pass, timers ticking.

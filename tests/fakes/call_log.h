@@ -10,9 +10,9 @@
 
 namespace korvale {
 
-/// The calls that fakes received, in their order, one line each: "ShowWindow(Alpha, SW_MINIMIZE)".
-/// One log may serve several fakes. Windows are written by the title that they opened with, those
-/// without one by their number.
+/// The calls that fakes received, in order, one line each: "ShowWindow(Alpha, SW_MINIMIZE)". One
+/// log may serve several fakes. A window is written as the title that it opened with, one without a
+/// title as its number.
 class CallLog {
  public:
   /// A call that changes something.
@@ -26,8 +26,8 @@ class CallLog {
   /// Writes `name` for this window from now on; "" goes back to its number.
   void NameWindow(WindowHandle hwnd, std::string name);
 
-  /// Does something once, right before the next call that begins with `prefix`, reads included, is
-  /// answered: so a window can vanish in the middle of an operation.
+  /// Does something once, right before answering the next call that begins with `prefix`, reads
+  /// included, so that a window can vanish in the middle of an operation.
   void WhenCalled(std::string prefix, std::function<void()> action);
 
   const std::vector<std::string>& Calls() const { return calls_; }

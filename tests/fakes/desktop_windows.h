@@ -7,7 +7,7 @@
 
 namespace korvale {
 
-/// What a desktop tells about the windows of the headless host, whoever caused it.
+/// What a desktop reports about the windows of the headless host, whatever the cause.
 class DesktopListener {
  public:
   virtual ~DesktopListener() = default;

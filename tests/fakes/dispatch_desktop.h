@@ -12,7 +12,7 @@
 
 namespace korvale {
 
-/// What the dispatcher of hot keys works with: a fake desktop and the real routines for it.
+/// What the dispatcher of hot keys works with: a fake desktop and the real routines on it.
 struct DispatchDesktop {
   DispatchDesktop() {
     options.Create();

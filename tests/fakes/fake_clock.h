@@ -25,7 +25,7 @@ class FakeClock : public Clock, public TimerApi {
   std::uint64_t GetTickCount64() override { return now_; }
   LocalTime GetLocalTime() override { return local_; }
   void Sleep(std::uint32_t milliseconds) override;
-  /// Called after time has passed, before anything is due then.
+  /// Called after time has passed, before anything that is due then happens.
   void SetTimePassedHandler(std::function<void()> passed) { passed_ = std::move(passed); }
   void SetLocalTime(const LocalTime& local) { local_ = local; }
 

@@ -45,15 +45,15 @@ class FakeDesktop : public WindowQueries, public WindowCommands {
   void SetHung(WindowHandle hwnd, bool hung);
   /// The clock by which windows are busy; it must outlive the desktop.
   void UseClock(FakeClock& clock);
-  /// A busy window's thread takes no messages for so many ms: who calls and waits, waits as long,
-  /// and what was asked for without waiting is done then. Windows does not call it hung yet.
+  /// A busy window's thread takes no messages for this many ms: a call that waits for it takes as
+  /// long, and what was asked for without waiting is done then. Windows does not call it hung yet.
   void SetBusy(WindowHandle hwnd, std::uint64_t milliseconds);
   /// Nothing is in the foreground, as for a moment while Windows changes it.
   void LoseForeground();
-  /// While locked SetForegroundWindow refuses, as Windows does to a program without the right.
+  /// While locked, SetForegroundWindow refuses, as Windows does for a program without the right.
   void LockForeground(bool locked) { foreground_locked_ = locked; }
   /// While delayed, SetForegroundWindow succeeds at once, but the windows come forward only when
-  /// the delay ends, as Windows has it with a window of another thread.
+  /// the delay ends, as Windows does with a window of another thread.
   void DelayForeground(bool delayed);
 
   // What a test looks at.

@@ -53,7 +53,7 @@ class FakeHotKeyActions : public HotKeyActions {
     Log("ShowWaitWindow(\"" + caption + "\")");
   }
 
-  /// What the user has gone to by the pop-up.
+  /// The window that the user has selected in the pop-up menu.
   WindowHandle selectedInMenu = 0;
   std::vector<ShownTip> tips;
   std::vector<ShownWaitWindow> waitWindows;

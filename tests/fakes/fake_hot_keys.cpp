@@ -11,7 +11,7 @@ namespace korvale {
 namespace {
 
 constexpr int kLastId = 0xBFFF;
-/// Only tells Windows not to repeat; no part of the combination.
+/// Only tells Windows not to repeat; not part of the combination.
 constexpr std::uint32_t kModNoRepeat = 0x4000;
 
 }  // namespace
@@ -36,7 +36,7 @@ bool FakeHotKeys::PressWhileBusy(std::uint32_t modifiers, std::uint32_t key) {
 }
 
 void FakeHotKeys::DeliverQueued() {
-  // A loop inside the handling of a message does not come to what was posted meanwhile.
+  // A loop inside the handling of a message does not reach what was posted meanwhile.
   for (std::size_t waiting = queue_.size(); waiting > 0 && !queue_.empty(); --waiting) {
     const Queued message = queue_.front();
     queue_.pop_front();

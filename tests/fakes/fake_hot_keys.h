@@ -35,7 +35,7 @@ class FakeHotKeys : public HotKeyApi {
   /// Presses a combination once. True when a window of the program got WM_HOTKEY for it.
   bool Press(std::uint32_t modifiers, std::uint32_t key);
   /// Presses a combination while the program is too busy to take messages: WM_HOTKEY waits in the
-  /// queue. True when it was somebody's hot key.
+  /// queue. True when the combination was a hot key.
   bool PressWhileBusy(std::uint32_t modifiers, std::uint32_t key);
   /// Delivers what waits in the queue, as the message loop does.
   void DeliverQueued();
@@ -61,7 +61,7 @@ class FakeHotKeys : public HotKeyApi {
   // HotKeyApi
   bool RegisterHotKey(WindowHandle hwnd, int id, std::uint32_t modifiers,
                       std::uint32_t key) override;
-  /// Of several registrations of the identifier the latest one goes.
+  /// Of several registrations of the identifier, the latest one is removed.
   bool UnregisterHotKey(WindowHandle hwnd, int id) override;
   std::optional<QueuedMessage> PeekMessageW(WindowHandle hwnd, std::uint32_t message) override;
   PreviousProcedure SetWindowLongPtrA(WindowHandle hwnd, WindowProcedure& procedure) override;
@@ -69,8 +69,7 @@ class FakeHotKeys : public HotKeyApi {
   std::intptr_t CallWindowProcA(PreviousProcedure previous, WindowHandle hwnd,
                                 std::uint32_t message, std::uintptr_t wParam,
                                 std::intptr_t lParam) override;
-  /// Delivered behind what waits in the queue, once the message that is being handled has been
-  /// dealt with.
+  /// Delivered after what waits in the queue, once the message that is being handled is done.
   bool PostMessageW(WindowHandle hwnd, std::uint32_t message, std::uintptr_t wParam,
                     std::intptr_t lParam) override;
 

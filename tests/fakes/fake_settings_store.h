@@ -9,7 +9,7 @@
 
 namespace korvale {
 
-/// Thrown where the program is killed; no error that anything could handle.
+/// Thrown where the program is killed; not an error that anything could handle.
 struct KilledBetweenWrites {};
 
 /// The settings of a user in memory. Keeps the order of writing, ignores case in every name, and
@@ -17,20 +17,20 @@ struct KilledBetweenWrites {};
 class FakeSettingsStore : public SettingsStore {
  public:
   FakeSettingsStore() = default;
-  /// Logs each change, reads only when the log includes them.
+  /// Logs each change, and reads only when the log includes them.
   explicit FakeSettingsStore(CallLog& log) : log_(&log) {}
 
-  /// Puts a value there that is no text, as another program may.
+  /// Stores a value that is not text, as another program may.
   void SetOtherType(const std::string& appName, const std::string& section, const std::string& key);
   /// Refuses every change from now on.
   void RefuseWrites(bool refuse) { refuse_writes_ = refuse; }
   /// Refuses to save this value from now on, and no other.
   void RefuseValue(const std::string& appName, const std::string& section, const std::string& key);
-  /// Refuses nothing any more.
+  /// Refuses nothing from now on.
   void RefuseNothing();
   /// Lets this many changes through; the next one throws KilledBetweenWrites. -1 = all.
   void KillAfterWrites(int writes) { writes_left_ = writes; }
-  /// Names of all sections of an application in the order of their making.
+  /// Names of all sections of an application in the order in which they were made.
   std::vector<std::string> Sections(const std::string& appName) const;
   /// Names of all applications that have a section.
   std::vector<std::string> Applications() const;

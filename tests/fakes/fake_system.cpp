@@ -24,7 +24,7 @@ bool IsBelow(const std::string& path, const std::string& folder) {
          (path.size() == folder.size() || path[folder.size()] == '\\');
 }
 
-/// The path with a folder instead of another spelling of it at the beginning.
+/// The path with a folder in place of another spelling of it at the beginning.
 std::string InPlaceOf(const std::map<std::string, std::string>& spellings, std::string path) {
   for (const auto& [spelling, folder] : spellings) {
     if (IsBelow(path, spelling)) path = folder + path.substr(spelling.size());
@@ -32,7 +32,7 @@ std::string InPlaceOf(const std::map<std::string, std::string>& spellings, std::
   return path;
 }
 
-/// The folder in the spelling of the disk; "" when there is no such folder.
+/// The folder as the disk spells it; "" when there is no such folder.
 std::string Spelled(const std::set<std::string>& files, const std::set<std::string>& drives,
                     const std::string& folder) {
   for (const std::string& drive : drives) {
@@ -46,7 +46,7 @@ std::string Spelled(const std::set<std::string>& files, const std::set<std::stri
 
 }  // namespace
 
-/// Holds its mutex as often as it was waited for with success.
+/// Holds its mutex once for each successful wait.
 class FakeMutex : public SystemMutex {
  public:
   FakeMutex(std::shared_ptr<FakeSession> session, std::string name, int program)
@@ -148,7 +148,7 @@ FolderInfo FakeSystem::GetFinalPathNameByHandleW(const std::string& folder) {
     error = Spelled(files, drives, above).empty() ? win32::kErrorPathNotFound
                                                   : win32::kErrorFileNotFound;
   }
-  // The letter of a substituted drive is nothing that a folder lists.
+  // The letter of a substituted drive is not an entry of any folder.
   if (error != 0) return {error, "", "", links.contains(folder) && folder.size() > 2};
   if (path != real) return {0, "\\\\?\\UNC" + path.substr(1), "id of " + spelled, false};
   return {0, "\\\\?\\" + spelled + (spelled.size() == 2 ? "\\" : ""), "id of " + spelled, false};

@@ -17,14 +17,14 @@ namespace korvale {
 /// What all programs of a Windows session share: named mutexes and what is written to files.
 class FakeSession {
  public:
-  /// Called while a program waits for a mutex that another one holds, so that the holder can act.
+  /// Called while a program waits for a mutex that another one holds, so that this one can act.
   void WhenWaiting(std::function<void()> action) { when_waiting_ = std::move(action); }
   /// The number of programs that hold the mutex: 0 or 1.
   bool IsHeld(const std::string& name) const { return holders_.contains(name); }
 
   /// Path -> what programs have written to the file.
   std::map<std::string, std::string> contents;
-  /// Files can be made, but hold nothing.
+  /// Files can be created, but hold nothing.
   bool diskFull = false;
 
  private:
@@ -46,7 +46,7 @@ class FakeSession {
   int last_program_ = 0;
 };
 
-/// What one program finds around itself. The program's death lets go of its mutexes.
+/// What one program finds around itself. When the program dies, its mutexes are released.
 class FakeSystem : public SystemApi {
  public:
   FakeSystem(CallLog& log, std::shared_ptr<FakeSession> session);
@@ -56,7 +56,7 @@ class FakeSystem : public SystemApi {
   FakeSystem& operator=(const FakeSystem&) = delete;
 
   FakeSession& Session() { return *session_; }
-  /// The program died without letting go of anything itself.
+  /// The program dies without releasing anything itself.
   void Die() { session_->LetGoOfAll(program_); }
 
   // SystemApi
@@ -88,7 +88,7 @@ class FakeSystem : public SystemApi {
   std::map<std::string, std::string> links;
   /// Shares of folders: another path to the same folder, which the system does not resolve.
   std::map<std::string, std::string> shares;
-  /// Drives, computers and shares that cannot be reached, and what trying comes to.
+  /// Drives, computers and shares that cannot be reached, and the error when trying.
   std::map<std::string, std::uint32_t> unreachable;
   bool refuseMutexes = false;
   /// Called for a crash of the program; empty when there is none.

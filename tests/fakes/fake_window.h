@@ -10,7 +10,7 @@
 
 namespace korvale {
 
-/// The process of windows that are none of ours.
+/// The process of windows that are not ours.
 inline constexpr int kOtherProcess = 0;
 
 /// How a window comes into being.
@@ -24,7 +24,7 @@ struct NewWindow {
   bool iconic = false;
   bool zoomed = false;
   bool activate = true;          ///< Comes to the foreground when it is visible and not iconic.
-  bool atBottom = false;         ///< Stays below all others, as the desktop's own window.
+  bool atBottom = false;         ///< Stays below all others, like the desktop's own window.
   int children = 1;              ///< Child windows made along with it.
   int process = kOtherProcess;   ///< kOtherProcess, or a number of one of our programs.
   int extraTextLength = 0;       ///< Added by GetWindowTextLengthA.

@@ -60,7 +60,7 @@ class FakeWindows {
   /// enabled one that it owns; 0 when there is none.
   WindowHandle EnabledPopupOf(WindowHandle hwnd) const;
 
-  /// The window, or that of its group which was active last; only for windows without an owner.
+  /// The window, or the one of its group that was active last; only for windows without an owner.
   WindowHandle LastActivePopupOf(WindowHandle hwnd) const;
 
   void AddObserver(DesktopObserver& observer);

@@ -27,15 +27,15 @@ class FakeZOrder {
   /// Puts a new window at the top of its band.
   void Add(WindowHandle hwnd);
   void Remove(WindowHandle hwnd);
-  /// Brings a window with the windows that it owns to the top of their bands; its owners and what
-  /// else these own follow right below.
+  /// Brings a window with the windows that it owns to the top of their bands; its owners, with what
+  /// else they own, follow right below.
   void Raise(WindowHandle hwnd);
   /// Sends a window with the windows that it owns to the bottom of its band. Hidden owners go down
-  /// with it; under a visible one it stays.
+  /// with it; with a visible one nothing moves.
   void Lower(WindowHandle hwnd);
   /// The window and all that it owns, directly or not, in their order.
   std::vector<WindowHandle> WithOwned(WindowHandle hwnd) const;
-  /// The window, its owner, that one's owner and so on.
+  /// The window, its owner, the owner's owner and so on.
   std::vector<WindowHandle> WithOwners(WindowHandle hwnd) const;
 
  private:

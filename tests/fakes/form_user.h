@@ -47,7 +47,7 @@ class FormUser {
   void PickAt(std::string_view name, int index, int listIndex) {
     hands_->Pick(Window(), Id(name, index), listIndex);
   }
-  /// Types where the focus is.
+  /// Types into the control that has the focus.
   void Type(std::string_view text) { hands_->TypeText(Window(), text); }
   void Press(int virtualKey, unsigned shift = kNoShift) {
     hands_->PressKey(Window(), virtualKey, shift);

@@ -149,7 +149,7 @@ void HeadlessFormHost::UpdateControl(WindowHandle hwnd, int control, ControlProp
                 kPropertyNames.at(static_cast<std::size_t>(property)) + ")");
   HeadlessControl& shown = window.Control(control);
   CopyProperty(shown, window.form->controls[static_cast<std::size_t>(control) - 1], property);
-  // An open list that is placed anew closes without a word.
+  // An open list that is given a new place closes without a notification.
   if (property == ControlProperty::kPlace) shown.dropped = false;
 }
 
@@ -163,7 +163,7 @@ void HeadlessFormHost::MoveWindow(WindowHandle hwnd) {
   HeadlessWindow& window = Window(hwnd);
   log_->Add("MoveWindow(" + log_->Window(hwnd) + ")");
   Place(window, window.form->place);
-  // A hidden window is in the normal state, whatever it will be shown as.
+  // A hidden window is in the normal state, however it will be shown.
   const ShowState state = desktop_->State(hwnd);
   const TwipsRect taken = window.place;
   Tell(hwnd, [&](FormEvents& events) { events.OnPlaced(state, taken); });

@@ -25,10 +25,10 @@ namespace korvale {
 
 class Form;
 
-/// Shows forms on no screen; all that a form meets there, since its user is one as well. It keeps
-/// what it was told to show, so that a change that the program forgot to show is missing here as
-/// well. What waits for the user (a modal form, a message box, a pop-up menu) takes the next queued
-/// answer; without one the test fails instead of hanging.
+/// Shows forms on no screen, and is everything that a form meets there, since its user is one as
+/// well. It keeps what it was told to show, so that a change that the program forgot to show is
+/// missing here, too. What waits for the user (a modal form, a message box, a pop-up menu) takes
+/// the next queued answer; without one the test fails instead of hanging.
 class HeadlessFormHost : public FormHost,
                          public MessageLoop,
                          public ScreenQueries,
@@ -65,7 +65,7 @@ class HeadlessFormHost : public FormHost,
   void SetIdle(std::function<bool()> idle) { idle_ = std::move(idle); }
   /// Puts a message of the program itself into the queue.
   void Post(std::function<void()> message) { posted_.push_back(std::move(message)); }
-  /// The frame of a form with a border, as AdjustWindowRectEx tells it, and the height of a menu.
+  /// The frame of a form with a border, as AdjustWindowRectEx returns it, and the height of a menu.
   void SetFrame(const TwipsRect& frame, Twips menuHeight);
   void SetDpi(int dpi) { dpi_ = dpi; }
   /// The user changes a system colour; tells every form.
@@ -88,7 +88,7 @@ class HeadlessFormHost : public FormHost,
   HeadlessWindow* FindForm(std::string_view name);
   HeadlessWindow& Window(WindowHandle hwnd);
   DesktopWindows& Desktop() { return *desktop_; }
-  /// Tells the form something; its errors go to OnUncaught.
+  /// Reports an event to the form; its errors go to OnUncaught.
   void Tell(WindowHandle hwnd, const std::function<void(FormEvents&)>& event);
   /// The menus that the keyboard has opened: the one of the bar, then its submenus.
   std::vector<MenuItem*>& OpenMenus() { return openMenus_; }
@@ -120,7 +120,7 @@ class HeadlessFormHost : public FormHost,
   TwipsRect GetWindowRect(WindowHandle hwnd) override { return Window(hwnd).place; }
   std::int16_t MessageBoxW(WindowHandle owner, const std::string& text, const std::string& title,
                            std::int32_t style) override;
-  /// Refused while a menu is open, as by Windows.
+  /// Refused while a menu is open, as Windows does.
   void TrackPopupMenuEx(WindowHandle hwnd, MenuItem& menu) override;
   bool EndMenu() override;
   std::optional<Color> ChooseColorW(WindowHandle owner, Color initial) override;

@@ -107,7 +107,7 @@ bool HeadlessUser::GoDown(WindowHandle hwnd, const Key& key, bool repeated) {
     PressInMenu(hwnd, key);
     return true;
   }
-  // Windows tells of this key only that it has come up.
+  // Windows reports only the release of this key.
   if (key.virtualKey == fakes::kVkSnapshot) return false;
   const int control = window.focus;
   bool dealtWith = false;

@@ -29,7 +29,7 @@ std::string Quote(const ShownMessage& message) {
   return "message box \"" + message.title + "\": \"" + message.text + "\"";
 }
 
-/// Pops the box off also when the answer fails.
+/// Removes the box also when the answer fails.
 class BoxOnScreen {
  public:
   BoxOnScreen(std::vector<ShownMessage>& boxes, const ShownMessage& box) : boxes_(&boxes) {

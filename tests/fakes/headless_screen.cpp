@@ -64,7 +64,7 @@ bool HeadlessWindow::IsEnabled(int id) const {
 bool HeadlessWindow::IsCovered(int id, Twips x, Twips y) const {
   const int container = Control(id).shown.container;
   for (const HeadlessControl& other : controls) {
-    // The windows of one container lie above those that come later.
+    // The windows of one container lie above those that come after them.
     if (other.shown.id == id) return false;
     const bool above = other.shown.container == container && other.shown.visible &&
                        HidesWhatIsBelow(other.shown.kind) && Contains(other.shown.place, x, y);

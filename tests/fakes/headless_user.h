@@ -12,11 +12,11 @@
 
 namespace korvale {
 
-/// The user before the headless host: does what Windows' controls do by themselves, and fails the
-/// test when they are asked for something that they could not do.
+/// The user in front of the headless host: does what Windows' controls do by themselves, and fails
+/// the test when asked for something that they could not do.
 class HeadlessUser : public UserHands {
  public:
-  /// Both must outlive the user. `clock` gives its ticks to the host from now on.
+  /// Both must outlive the user. From now on `clock` gives its ticks to the host.
   HeadlessUser(HeadlessFormHost& host, FakeClock& clock);
 
   bool IsShown(WindowHandle hwnd) override;

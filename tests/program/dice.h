@@ -32,7 +32,7 @@ class Dice {
 /// The seed of the first run; KORVALE_SEED gives another one.
 inline constexpr std::int32_t kFirstSeed = 1;
 
-/// A number that the environment gives in place of ours.
+/// A number from the environment, otherwise ours.
 inline std::int32_t Setting(const char* name, std::int32_t otherwise) {
   const char* const text = std::getenv(name);
   return text == nullptr ? otherwise : ParseInt32(text).value_or(otherwise);

@@ -22,7 +22,7 @@ namespace korvale {
 /// of their steps everything is checked that must always hold.
 class SimulatedLife : public KorvaleWorld {
  protected:
-  /// Lives through `steps` steps, until the first check fails; then tells the last of them.
+  /// Lives through `steps` steps or up to the first failed check; then reports the last of them.
   void Live(std::uint32_t seed, int steps);
 
  private:
@@ -30,7 +30,7 @@ class SimulatedLife : public KorvaleWorld {
     int weight;
     void (SimulatedLife::*act)();
   };
-  /// All that is kept between runs.
+  /// Everything that is kept between runs.
   struct Kept {
     clsOptions options;
     StartupSettings startup;
@@ -121,10 +121,10 @@ class SimulatedLife : public KorvaleWorld {
   std::deque<std::string> lastSteps_;
   /// A selection that was chosen from the pop-up menu.
   std::optional<Before> poppedUp_;
-  /// What another program has had for itself; Korvale may not have asked again since.
+  /// What other programs have taken; Korvale may not have asked again since.
   std::set<Combination> taken_;
   Kept saved_;
-  /// The taskbar is an untitled palette: who has asked for both kinds may get to it as well.
+  /// The taskbar is an untitled palette: a user who has asked for both kinds may get to it as well.
   bool taskbarFollowed_ = false;
   bool noMoreBoxes_ = false;
 };

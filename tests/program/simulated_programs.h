@@ -15,7 +15,7 @@ class SimulatedPrograms {
   /// Both must outlive this.
   SimulatedPrograms(FakeDesktop& desktop, Dice& dice) : desktop_(&desktop), dice_(&dice) {}
 
-  /// Lets one thing happen and tells what it was.
+  /// Lets one thing happen and returns what it was.
   std::string Act();
   /// Windows refuses to change the foreground.
   bool ForegroundLocked() const { return locked_; }

@@ -23,8 +23,8 @@ class StartTest : public KorvaleWorld {
     return store.GetSetting("Korvale - Work", section, key).value_or("(missing)");
   }
 
-  /// The calls so far that begin with one of `steps`, each written as that step and calls in a row
-  /// of the same step once.
+  /// The calls so far that begin with one of `steps`, each written as that step; several calls in a
+  /// row of the same step count once.
   std::vector<std::string> Order(const std::vector<std::string>& steps) {
     std::vector<std::string> order;
     for (const std::string& call : log.Calls()) {

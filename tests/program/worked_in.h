@@ -9,7 +9,7 @@
 namespace korvale {
 
 /// Where a user has worked, in order, as a bystander sees it. A window that was in front long
-/// enough was worked in for certain, one that was in front for a moment perhaps.
+/// enough was certainly worked in, one that was in front for a moment perhaps.
 class WorkedIn : private DesktopObserver {
  public:
   explicit WorkedIn(FakeWindows& windows) : windows_(&windows) { windows.AddObserver(*this); }
