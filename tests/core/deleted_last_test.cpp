@@ -12,7 +12,7 @@
 namespace korvale {
 namespace {
 
-/// A save of the Tags "1" and "2" that is refused "1", after which another installation is deleted.
+/// A save of the Tags "1" and "2" in which "1" is refused, then another installation is deleted.
 class DeletedLastTest : public testing::Test {
  protected:
   DeletedLastTest() {

@@ -32,7 +32,7 @@ class InstallationDeletionsTest : public InstallationTest {
     Register(store_, kOld, "D:\\Tools\\Old");
   }
 
-  /// What is stored after the import, `disturb` being done right before the deletion.
+  /// What is stored after the import when `disturb` runs right before the deletion.
   StoredValues Import(const std::string& deletion, const Disturbance& disturb) {
     FakeSettingsStore store = store_;
     messages_.answers = {kYes};

@@ -50,7 +50,7 @@ class InstallationTest : public testing::Test {
     return store_.GetSetting(kInstallationRegister, "0", appName);
   }
 
-  /// A full set of settings, none of them the default.
+  /// A full set of settings, none of them at its default.
   static void StoreSettings(SettingsStore& store, const std::string& appName) {
     Settings settings(store, appName);
     clsOptions options;

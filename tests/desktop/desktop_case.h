@@ -18,8 +18,8 @@ namespace korvale {
 
 inline constexpr int kOurProcess = 1;
 
-/// The routines of desktop/ put together on a fake desktop that holds the main window, called
-/// "Main" in the log, and the hidden window that owns it, called "Owner".
+/// The routines of desktop/ on a fake desktop that holds the main window, called "Main" in the log,
+/// and the hidden window that owns it, called "Owner".
 class DesktopCase : public testing::Test {
  protected:
   DesktopCase() {

@@ -140,7 +140,7 @@ TEST_F(RecordMovedBySelection, OfTheCurrentWindowChangesNothing) {
   EXPECT_EQ(previous.alternate, Triple(alpha));
 }
 
-/// The windows worked in behind the record.
+/// The windows worked in that lie behind those of the record.
 class WindowsWorkedInBefore : public ForegroundTracking {
  protected:
   WindowTriple OfTagZero() { return previous.OfTagZero(mainWindow.focusTag == kGotFocus); }

@@ -13,7 +13,7 @@
 namespace korvale {
 namespace {
 
-/// More windows than the counter can count, all of them one.
+/// More windows than the counter can count, all of them the same one.
 class CrowdedDesktop : public FakeDesktop {
  public:
   using FakeDesktop::FakeDesktop;

@@ -27,7 +27,7 @@ struct KindCase {
   NewWindow window;
   bool basic;
   bool allowed;
-  /// What makes a window allowed that is not.
+  /// What allows a window that is not allowed otherwise.
   bool clsOptions::*option = nullptr;
 };
 

@@ -21,7 +21,7 @@ class AboutTest : public DialogTest {
   }
 
   void ShowAbout() { about_.ShowAbout(main_, display_); }
-  /// The box is closed, and the moment was noted.
+  /// The box is closed, and its time was recorded.
   bool ClosedNow() { return !about_.IsLoaded() && about_.AboutClosed() == clock_.GetTickCount64(); }
 
   ProgramIdentity identity_;

@@ -9,7 +9,7 @@
 
 namespace korvale {
 
-/// The Add Window dialog before a user, with the Tags that a test assigns.
+/// The Add Window dialog and its user, with the Tags that a test assigns.
 class AddWindowTest : public DialogTest {
  protected:
   AddWindowTest() {

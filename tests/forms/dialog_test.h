@@ -18,7 +18,7 @@
 
 namespace korvale {
 
-/// A desktop with the program's forms and a user before it.
+/// A desktop with the program's forms and a user.
 class DialogTest : public testing::Test {
  protected:
   DialogTest() {

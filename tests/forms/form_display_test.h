@@ -50,7 +50,7 @@ class FormDisplayTest : public DialogTest {
                               const DisplaySwitches& switches = {}) {
     return display_.ShowFormModal(dialog_, switches, 1000, hints, owner);
   }
-  /// Shows the dialog modally and tells where it stood.
+  /// Shows the dialog modally and returns where it was.
   TwipsRect PlaceWhenShown(const PlaceHints& hints = {}, Form* owner = nullptr,
                            const DisplaySwitches& switches = {}) {
     TwipsRect place;

@@ -36,7 +36,7 @@ TEST_F(KeyListTest, AKeyThatIsHeldWhileTheDialogComesForwardChoosesNothing) {
   EXPECT_EQ(Chosen(), "M") << "pressed anew";
   Hold('N');
   dialog_.OnActivated();
-  // It goes on to repeat.
+  // The key goes on repeating.
   const int list = Id(dialog_, "cboHotKeyAction", 0);
   EXPECT_TRUE(dialog_.OnKeyDown(list, 'N', kNoShift, true));
   Release('N');

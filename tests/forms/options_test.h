@@ -64,7 +64,7 @@ class FakeOptionsOwner : public OptionsDialogOwner {
   OptionsHolder* options_;
 };
 
-/// The Options dialog before a user.
+/// The Options dialog and its user.
 class OptionsTest : public DialogTest {
  protected:
   OptionsTest() {

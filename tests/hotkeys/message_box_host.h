@@ -10,7 +10,7 @@
 
 namespace korvale {
 
-/// What MessageBoxHost's screen stands on; a base, so that it is there before the host.
+/// What MessageBoxHost's screen stands on; a base, so that it exists before the host.
 struct MessageBoxDesktop {
   PlainDesktop plain;
 };

@@ -5,7 +5,7 @@
 
 namespace korvale {
 
-/// The names that are known although no hot key has them.
+/// Names that are known although no hot key has them.
 inline std::vector<std::string> ReservedHotKeyNames() {
   std::vector<std::string> names = {"HOTKEY_MINIMIZE_CHILD", "HOTKEY_RESTORE/MAXIMIZE_CHILD",
                                     "HOTKEY_KEYS2", "HOTKEY_KEYS3"};

@@ -7,7 +7,7 @@
 namespace korvale {
 namespace {
 
-/// A name of no hot key makes the foreground window the target.
+/// A name that belongs to no hot key makes the foreground window the target.
 class UnknownHotKeyTest : public HotKeyDispatchTest {
  protected:
   WindowHandle OpenToolWindow() {

@@ -21,7 +21,7 @@
 
 namespace korvale {
 
-/// A host with a menu that is open when a test says so.
+/// A host whose menu is open when a test says so.
 class MenuHost : public HeadlessFormHost {
  public:
   using HeadlessFormHost::HeadlessFormHost;

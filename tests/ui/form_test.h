@@ -12,7 +12,7 @@
 
 namespace korvale {
 
-/// The program's forms alone on a screen, with a user before it.
+/// The program's forms alone on a screen, and a user.
 class FormTest : public testing::Test {
  protected:
   using Lines = std::vector<std::string>;
