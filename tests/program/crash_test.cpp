@@ -32,7 +32,7 @@ class CrashTest : public StartTest {
     log.Clear();
     return korvale;
   }
-  /// A copy whose start fails in the middle of the registration of its hot keys.
+  /// A copy whose start fails in the middle of registering its hot keys.
   KorvaleCopy& FailingAtStart() {
     KorvaleCopy& korvale = Prepared();
     RecordNextMessage(korvale);
@@ -52,7 +52,7 @@ class CrashTest : public StartTest {
   }
 
   std::string Log() { return session->contents[kLog]; }
-  /// The record of a start that failed so.
+  /// The record of a start that failed in this way.
   static std::string RecordOfFailedStart() {
     return "\r\n"
            "-- Sat 11/21/2026 09:05:07 --\r\n"

@@ -4,7 +4,7 @@
 namespace korvale {
 namespace {
 
-/// Alt+0 among windows that stand disabled behind a dialog of their own.
+/// Alt+0 among windows that are disabled by a dialog of theirs.
 class DialogWayBackTest : public KorvaleWorld {
  protected:
   void SetUp() override {

@@ -11,11 +11,11 @@
 namespace korvale {
 namespace {
 
-/// As many things as a user does in a row; KORVALE_DEPTH sets another number.
+/// The number of things that a user does in a row; KORVALE_DEPTH sets another one.
 constexpr std::int32_t kThingsInARow = 2;
 
-/// All that a user may do between two keys, in every order. Whatever it was, Alt+0 must lead to the
-/// window worked in last that is not the present one and is still there.
+/// Everything that a user may do between two keys, in every order. Whatever it was, Alt+0 must lead
+/// to the window worked in last that is not the present one and still exists.
 class EveryWayBackTest : public KorvaleWorld, public testing::WithParamInterface<int> {
  protected:
   struct Thing {

@@ -9,7 +9,7 @@ namespace {
 
 using ImportTest = StartTest;
 
-/// An installation that has left its folder and settings behind, none of them the default.
+/// An installation that left its folder and settings behind, none of them at its default.
 void StoreOldInstallation(FakeSettingsStore& store, const std::string& old) {
   store.SaveSetting("Korvale Installations", "0", old, "C:\\Gone\\Old");
   store.SaveSetting(old, "Options", "HotKeyModParent", "2");
@@ -112,7 +112,7 @@ class RefusedImportTest : public StartTest, public testing::WithParamInterface<T
   }
 
   void Refuse() { store.RefuseValue("Korvale - Work", GetParam().section, GetParam().key); }
-  /// A first start in which the user takes the settings over and is told of the refusal.
+  /// A first start in which the user takes the settings over and hears of the refusal.
   KorvaleCopy& Import(const std::function<void()>& whenTold = [] {}) {
     KorvaleCopy& korvale = NewCopy();
     korvale.host.AnswerNext(win32::kIdYes);
@@ -126,7 +126,7 @@ class RefusedImportTest : public StartTest, public testing::WithParamInterface<T
     EXPECT_EQ(korvale.host.Messages().size(), 3U);
     return korvale;
   }
-  /// A later start, with nothing to ask or to tell.
+  /// A later start, with nothing to ask or report.
   KorvaleCopy& StartAgain() {
     KorvaleCopy& korvale = NewCopy();
     EXPECT_TRUE(korvale.Start());
@@ -193,7 +193,7 @@ TEST_P(RefusedImportTest, WhatIsRefusedRunAfterRunStaysUnderTheOtherName) {
   Refuse();
   Finish(Import());
   KorvaleCopy& again = StartAgain();
-  // A Tag that could not be loaded is not saved anew.
+  // A Tag that could not be loaded is not saved again.
   if (!std::string(GetParam().section).starts_with("ParentWindow")) {
     again.host.AnswerNext(win32::kIdOk);
   }

@@ -49,7 +49,7 @@ TEST_F(InstancesTest, ACopyThatStartsInTheSameInstantWaitsForTheFirstOnesWindow)
   KorvaleCopy& second = NewCopy();
   store.SaveSetting("Korvale - Work", "Options", "SplashScreen", "False");
   bool secondStarted = true;
-  // The first one has found nobody and is about to show itself: now the second one starts.
+  // The first one has found no other and is about to show itself: now the second one starts.
   log.WhenCalled("RegisterHotKey", [&] {
     second.host.AnswerNext(win32::kIdOk);
     secondStarted = second.Start();

@@ -4,8 +4,8 @@
 namespace korvale {
 namespace {
 
-/// What leads back somewhere right after Tag 2 was pressed in Alpha, while Windows is still to
-/// bring Beta forward.
+/// What leads back somewhere right after Tag 2 was pressed in Alpha, before Windows has brought
+/// Beta forward.
 class LateWayBackTest : public KorvaleWorld {
  protected:
   void SetUp() override {

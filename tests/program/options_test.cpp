@@ -3,7 +3,7 @@
 namespace korvale {
 namespace {
 
-/// Every option that the dialog shows, none with its default.
+/// Every option that the dialog shows, none at its default.
 clsOptions EverythingChanged() {
   clsOptions options;
   options.booSplashScreen = false;

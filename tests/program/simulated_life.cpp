@@ -61,7 +61,7 @@ void SimulatedLife::StartKorvale() {
   EXPECT_TRUE(korvale_->Start());
 }
 
-/// What Windows does when the process has ended, be it by itself or killed.
+/// What Windows does when the process has ended, by itself or killed.
 void SimulatedLife::ForgetKorvale() {
   noMoreBoxes_ = true;
   korvale_->host.MessageBoxW(0, "", "", win32::kMbOk);
@@ -102,7 +102,7 @@ std::int16_t SimulatedLife::AnswerBox(const ShownMessage& box) {
   }
 }
 
-/// One thing that the user does while a modal form waits for them, or a notice for its time.
+/// One thing that the user does while a modal form waits for them, or while a notice is shown.
 bool SimulatedLife::LiveInDialog() {
   Form* form = static_cast<Form*>(korvale_->program.Forms().TopModal());
   if (form == nullptr) form = static_cast<Form*>(korvale_->program.Forms().Find("frmWaitWindow"));

@@ -11,7 +11,7 @@
 namespace korvale {
 namespace {
 
-/// The words by which the user told Korvale to know a window, as the Window menu shows them.
+/// The words by which the user told Korvale to recognise a window, as the Window menu shows them.
 std::string WordsOf(const MenuItem& entry) {
   std::string words = entry.caption.substr(4);
   if (words.ends_with(" - ***")) return words.substr(0, words.size() - 6);
@@ -47,7 +47,7 @@ void SimulatedLife::CheckSelection(const Before& before) {
   }
   const bool told = korvale_->host.Messages().size() > before.boxes;
   if (told || TagHandle(*entry) != desktop.Windows().Foreground() || TagHandle(*entry) == 0) {
-    // A failure that nobody is told about is one of Windows' own.
+    // A failure that nobody is told about is caused by Windows.
     EXPECT_TRUE(told || IsExcused(before, TagHandle(*entry)))
         << "Tag " << before.tag << " stands for " << log.Window(TagHandle(*entry))
         << ", in front is " << log.Window(desktop.Windows().Foreground());
@@ -92,8 +92,8 @@ void SimulatedLife::CheckPreviousSelected(const Before& before) {
   if (reached != before.present) workedIn_.Work(reached);
 }
 
-/// A window that a user would call one: neither the desktop nor the taskbar, and of Korvale only
-/// the main window and the Options dialog.
+/// What a user would call a window: neither the desktop nor the taskbar, and of Korvale only the
+/// main window and the Options dialog.
 bool SimulatedLife::IsOnDesktop(WindowHandle hwnd) {
   const FakeWindow* const window = desktop.Windows().Find(hwnd);
   if (window == nullptr || !desktop.Windows().IsVisible(hwnd)) return false;
