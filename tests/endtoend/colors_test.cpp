@@ -12,7 +12,7 @@ constexpr Rgb kYellow{255, 255, 159};
 constexpr Rgb kRed{200, 30, 20};
 constexpr Rgb kBlue{10, 40, 220};
 
-/// In a box, the place where the mode's own pointer is shown.
+/// In a box, a place where the mode's pointer is shown.
 constexpr POINT kInside{20, 6};
 
 class Colors : public KorvaleTest {

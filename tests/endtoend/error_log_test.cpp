@@ -37,7 +37,7 @@ SYSTEMTIME Now() {
 
 constexpr ULONGLONG kTicksPerSecond = 10'000'000;
 
-/// The number of the time's second.
+/// The seconds of that time.
 ULONGLONG Second(const SYSTEMTIME& time) {
   FILETIME ticks{};
   SystemTimeToFileTime(&time, &ticks);

@@ -8,7 +8,7 @@ namespace {
 
 constexpr char kClass[] = "Test.Window";
 
-/// Keeps the thread of a window from its messages as long as it lives.
+/// Keeps the thread of a window from its messages while this exists.
 class StoppedThread {
  public:
   explicit StoppedThread(Window window)

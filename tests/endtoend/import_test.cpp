@@ -74,7 +74,7 @@ TEST_F(Installations, InTwoFoldersOfTheSameNameAreRefused) {
   EXPECT_EQ(installation_.RegisteredFolder(), folder);
 }
 
-/// A folder whose short name is another one.
+/// A folder that also has a short name.
 class LongNamed : public Installations {
  protected:
   LongNamed() : long_("Folder With A Long Name"), paths_(long_.folder()) { KeepSilent(long_); }
@@ -137,8 +137,8 @@ TEST_F(Installations, OnADriveThatIsAwayAreNotOffered) {
   EXPECT_EQ(away.settings().Get("Options", "SplashScreen"), "False");
 }
 
-/// An installation that was used with nothing as it is out of the box, and whose folder has been
-/// renamed since.
+/// An installation that was used with every setting changed, and whose folder has been renamed
+/// since.
 class Import : public StoreTest {
  protected:
   Import() : old_("Old") {

@@ -6,7 +6,7 @@
 
 int main(int argc, char** argv) {
   ::testing::InitGoogleTest(&argc, argv);
-  // The tests press system-wide hot keys: a copy that somebody works with would act on them.
+  // The tests press system-wide hot keys, and a copy that somebody is using would act on them.
   const auto running = [](korvale::endtoend::Window window) {
     return window.ClassName() == "Korvale.frmMain";
   };

@@ -11,21 +11,21 @@ class MainWindowBoxes : public KorvaleTest {
  protected:
   MainWindow window() { return MainWindow(main()); }
 
-  /// Marks all of the box's text and copies it, by the keys that every text box knows.
+  /// Marks all of the box's text and copies it, with the keys that every text box knows.
   static std::string CopyAll(Window box) {
     const DWORD before = GetClipboardSequenceNumber();
     Click(box);
     Press({0, VK_HOME});
     Press({MOD_SHIFT, VK_END});
     Press({MOD_CONTROL, 'C'});
-    // Whoever reads the clipboard meanwhile keeps the box from writing.
+    // A program that reads the clipboard meanwhile keeps the box from writing.
     WaitFor([&] { return GetClipboardSequenceNumber() != before; });
     std::string text;
     WaitFor([&] { return !(text = ClipboardText()).empty(); });
     return text;
   }
 
-  /// The control that stands before it in the order that a screen reader takes.
+  /// The control before it in the order in which a screen reader goes.
   std::string NameOf(Window box) {
     const std::vector<Window> controls = main().Children();
     const auto found = std::find(controls.begin(), controls.end(), box);

@@ -12,7 +12,7 @@ class MainWindowMenu : public KorvaleTest {
  protected:
   MainWindow window() { return MainWindow(main()); }
 
-  /// Chooses View, Menu, and gives the question whether the menu should really go.
+  /// Chooses View, Menu, and returns the question whether the menu should really go.
   Window AskToHide() {
     EXPECT_TRUE(Choose('V', {'M'}));
     return korvale_->MessageBox();

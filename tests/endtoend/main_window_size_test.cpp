@@ -29,7 +29,7 @@ class MainWindowSize : public KorvaleTest {
     return ::testing::AssertionFailure() << window().Height() << " pixels, not " << pixels;
   }
 
-  /// The height is that of the boxes and the rest; both are known to the pixel only.
+  /// The boxes plus the rest make up the height; both are known only to the pixel.
   ::testing::AssertionResult HoldsBoxesAnd(int twips) {
     const auto fits = [&] {
       const int around = (window().Height() - window().BoxHeight()) * kTwipsPerPixel;

@@ -11,7 +11,7 @@ using ::testing::AssertionSuccess;
 OptionsDialog OptionsTest::WaitForOptions() {
   const OptionsDialog dialog(korvale_->Form("frmOptions"));
   if (!dialog.form()) throw std::runtime_error("the Options dialog did not come");
-  // A moment later Wine has looked which keys are down, and lets go of no modifier any more.
+  // A moment later Wine has looked at which keys are down, and no longer releases a modifier.
   const auto in_front = [&] { return Foreground() == dialog.form(); };
   if (!WaitFor(in_front) || !HoldsFor(in_front, std::chrono::milliseconds(100))) {
     throw std::runtime_error("the Options dialog is not in front");
@@ -44,7 +44,7 @@ AssertionResult OptionsTest::TakesKeys(const OptionsDialog& dialog) {
 
 AssertionResult OptionsTest::Apply(const OptionsDialog& dialog) {
   if (!BringToFront(dialog.form())) return AssertionFailure() << "the dialog does not come";
-  // The last key that a save writes tells when it has come so far.
+  // The last key that a save writes shows that it has come this far.
   settings().DeleteValue("Startup", "WindowInfo");
   const auto saved = [this] { return settings().Get("Startup", "WindowInfo").has_value(); };
   if (!PressUntil({MOD_ALT, 'A'}, saved)) return AssertionFailure() << "nothing is saved";

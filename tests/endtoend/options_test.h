@@ -5,7 +5,7 @@
 
 namespace korvale::endtoend {
 
-/// Opens the Options dialog and looks at what comes of it.
+/// Opens the Options dialog and looks at the results.
 class OptionsTest : public StoreTest {
  protected:
   using Page = OptionsDialog::Page;
@@ -18,9 +18,9 @@ class OptionsTest : public StoreTest {
   /// Starts the installation and opens the dialog on that page.
   OptionsDialog StartWithOptions(Page page);
 
-  /// Turns to another page with the keyboard and back: what is typed waits until the dialog is
-  /// through with what it was told before. A sent message comes in earlier, and to try the hot keys
-  /// then gets in the way of their registration.
+  /// Turns to another page with the keyboard and back: the keys wait until the dialog has finished
+  /// what it was told before. A sent message would come in earlier, and trying the hot keys then
+  /// gets in the way of their registration.
   ::testing::AssertionResult TakesKeys(const OptionsDialog& dialog);
   /// Presses Alt+A and waits until everything has been saved and registered.
   ::testing::AssertionResult Apply(const OptionsDialog& dialog);

@@ -24,8 +24,8 @@ class Options : public OptionsTest {
 
   /// Clicks the legend while Shift is held down; true when that opens no palette.
   bool ShiftClickLegend(const OptionsDialog& dialog) {
-    // Wine looks which keys are down when the mouse comes to a window, and may let go of Shift: a
-    // palette is closed then, and the click made once more.
+    // Wine looks at which keys are down when the mouse comes to a window, and may release Shift:
+    // then a palette is closed and the click repeated.
     for (int attempt = 0; attempt < 5; ++attempt) {
       MoveMouse(dialog.EnabledLegend(), kInLegend);
       if (!StaysInFront(dialog.form())) return false;

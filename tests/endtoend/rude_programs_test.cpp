@@ -24,9 +24,9 @@ struct Rude {
   LPARAM lparam;
 };
 
-/// What other programs have no business to send. Left out is what they may: asking a window to
-/// close, to paint, to take a text or a key, ending the session, and messages that stand for the
-/// user's own menu entry or button.
+/// What other programs must not send. Not listed is what they may send: asking a window to close,
+/// to paint, to take a text or a key, ending the session, and messages that stand for the user's
+/// own menu entry or button.
 std::vector<UINT> Queued() {
   std::vector<UINT> messages = {
       WM_CREATE,          WM_DESTROY,        WM_MOVE,          WM_SIZE,
@@ -57,7 +57,7 @@ std::vector<UINT> Sent() {
   return messages;
 }
 
-/// A message that is as good as the user's own doing.
+/// A message that has the same effect as an action of the user.
 bool MayBeMeant(const Rude& rude) {
   const bool button = rude.message == WM_COMMAND && LOWORD(rude.wparam) >= IDOK &&
                       LOWORD(rude.wparam) <= IDCONTINUE;
@@ -103,7 +103,7 @@ BOOL CALLBACK CollectChild(HWND child, LPARAM windows) {
 
 class RudePrograms : public KorvaleTest {
  protected:
-  /// Every window of the program, those that are never shown and all controls too.
+  /// Every window of the program, including those that are never shown and all controls.
   std::vector<Window> AllWindows() {
     std::vector<Window> all;
     for (const Window window : TopLevelWindows()) {

@@ -20,7 +20,7 @@ class StartUp : public KorvaleTest {
     return question;
   }
 
-  /// Starts the installation once more, which tells that it is open already and ends.
+  /// Starts the installation once more; that copy says that it is open already, and ends.
   void StartSecondCopy() {
     RunningKorvale second(installation_);
     const Window box = second.MessageBox();
@@ -126,7 +126,8 @@ TEST_F(StartUp, ACopyFromAnotherFolderGivesATipAndRuns) {
   other.MarkAsUsed();
   other.SetOption("HotKeyModParent", "2");
   other.StoreTag(1, "Alpha", "Test.Window");
-  // The other hot keys are those of the first copy; that they are refused is told elsewhere.
+  // The other hot keys belong to the first copy; the message about refused ones is tested
+  // elsewhere.
   other.settings().Set("Startup", "Tips", std::string(17, '1') + "0");
   RunningKorvale second(other);
   const Window tip = second.Form("frmMsgTip");

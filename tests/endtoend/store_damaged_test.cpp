@@ -39,7 +39,7 @@ class DamagedStore : public OptionsTest, public ::testing::WithParamInterface<Da
 
 TEST_P(DamagedStore, IsReadAsTheDefaultsAndMadeWholeAgain) {
   for (const DefaultSetting& setting : DefaultSettings()) GetParam().apply(settings(), setting);
-  // Nothing but settings that cannot be read is as good as a first run, which asks questions.
+  // When no setting can be read, this counts as a first run, which asks questions.
   installation_.MarkAsUsed();
   ASSERT_TRUE(StartAgain());
   for (const Chord key : AllHotKeys()) EXPECT_FALSE(HotKeyIsFree(key)) << key.key;

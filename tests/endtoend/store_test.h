@@ -7,7 +7,7 @@
 
 namespace korvale::endtoend {
 
-/// Starts that nothing has been stored for, and looks at what is stored after them.
+/// Starts with nothing stored, and what is stored after them.
 class StoreTest : public KorvaleTest {
  protected:
   using Pairs = std::map<std::string, std::string>;

@@ -22,7 +22,7 @@ TEST_F(TagFailures, AClosedWindowIsReportedAsNotOpen) {
   EXPECT_EQ(box.Title(), "Korvale");
   EXPECT_TRUE(InFront(box));
   EXPECT_TRUE(Says("Window:  [*** - Notes]  is not open."));
-  EXPECT_TRUE(InFront(beta)) << "the user goes on where he worked";
+  EXPECT_TRUE(InFront(beta)) << "the user goes on where they worked";
   EXPECT_TRUE(StaysInFront(beta));
 }
 

@@ -50,7 +50,7 @@ class TipMessages : public KorvaleTest {
     return ::testing::AssertionFailure() << "the tip does not close";
   }
 
-  /// Presses Help, Display Tip Messages, and gives the question that follows when they are on.
+  /// Chooses Help, Display Tip Messages, and returns the question that follows when they are on.
   Window SwitchTipsOn() {
     EXPECT_TRUE(Choose('H', {'D'}));
     const Window question = korvale_->MessageBox();

@@ -70,7 +70,7 @@ class WindowsDesktopUnderTest final : public DesktopUnderTest {
     thread_.Run([&] { SetWindowTextW(ToHwnd(hwnd), ToUtf16(title).c_str()); });
   }
   void Settle() override {
-    // What an order sets off may post the next one, and the order of the windows comes last.
+    // An order may cause the next one to be posted, and the order of the windows comes last.
     constexpr int kRounds = 3;
     constexpr ULONGLONG kLongestMilliseconds = 1000;
     const ULONGLONG end = GetTickCount64() + kLongestMilliseconds;

@@ -16,7 +16,7 @@ IdleWatch::IdleWatch(std::function<void()> idle)
                               nullptr)) {
   SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Procedure));
-  // A timer's message comes only when no other message is there.
+  // A timer's message comes only when there is no other message.
   SetTimer(window_, kTimer, kMilliseconds, nullptr);
 }
 

@@ -8,13 +8,13 @@ namespace korvale {
 
 /// Puts keys and mouse movements into the system's input, as the devices do.
 void PressAndRelease(int virtualKey, unsigned shift);
-/// Puts in that a key goes down, once more when it is down already, or comes up.
+/// Presses a key, again when it is down already, or releases it.
 void PutKey(int virtualKey, bool down);
 void HoldAlt(bool down);
 /// True for a character that has a key of its own.
 bool HasKey(wchar_t character);
 void PressKeyOf(wchar_t character, unsigned shift);
-/// Puts in a character that has no key.
+/// Types a character that has no key.
 void PutCharacter(wchar_t character);
 /// Moves the mouse; true when it is there, false when it is still on its way.
 bool MovePointer(POINT to);

@@ -13,7 +13,7 @@ namespace korvale {
 std::vector<ShownMenuItem> ReadMenu(HMENU menu);
 /// Position of the entry of this drawn caption, -1 = none.
 int FindEntry(HMENU menu, const std::string& caption);
-/// The windows of the menus that are open, in the order of their opening.
+/// The windows of the open menus, in the order in which they were opened.
 std::vector<HWND> OpenMenus();
 HMENU MenuOf(HWND menuWindow);
 /// True while the user is in a menu.

@@ -16,7 +16,8 @@ class WindowThread {
   WindowThread(const WindowThread&) = delete;
   WindowThread& operator=(const WindowThread&) = delete;
 
-  /// Runs `work` on the thread, after all that its loop has still to do, and waits for its end.
+  /// Runs `work` on the thread, after everything that its loop still has to do, and waits until it
+  /// is done.
   void Run(const std::function<void()>& work);
 
  private:

@@ -11,7 +11,7 @@
 namespace korvale {
 namespace {
 
-/// Events of which only the typed texts count.
+/// Events of which only the typed texts matter.
 struct TypedTexts final : FormEvents {
   void OnTextTyped(int, const std::string& text) override { texts.push_back(text); }
   void OnClick(int) override {}
@@ -36,7 +36,7 @@ struct TypedTexts final : FormEvents {
   std::vector<std::string> texts;
 };
 
-/// What only real windows have.
+/// What only real windows do.
 class WindowsFormHostTest : public RealForm {
  protected:
   static bool HasStyle(HWND window, int index, LONG_PTR bits) {

@@ -179,7 +179,7 @@ void WindowsUser::ClickReachable(HWND window, POINT at) {
 }
 
 void WindowsUser::ClickAt(POINT at) {
-  // Two clicks are no double click.
+  // Two clicks must not become a double click.
   const ULONGLONG again = lastClick_ + GetDoubleClickTime() + 1;
   if (const ULONGLONG now = GetTickCount64(); now < again) {
     LetPass(static_cast<std::uint32_t>(again - now));
@@ -251,7 +251,7 @@ void WindowsUser::TypeText(WindowHandle hwnd, std::string_view text, bool alt) {
 }
 
 void WindowsUser::TypeWithAlt(wchar_t character) {
-  // Input of this kind does not go together with Alt, so the message comes without its key.
+  // Input of this kind cannot be combined with Alt, so the message comes without its key.
   constexpr LPARAM kAltHeld = 1L << 29;
   HoldAlt(true);
   Settle();

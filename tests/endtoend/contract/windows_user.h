@@ -103,7 +103,7 @@ class WindowsUser final : public UserHands {
   std::deque<std::function<std::int16_t(const ShownMessage&)>> answers_;
   std::deque<std::function<std::string(const std::vector<ShownMenuItem>&)>> choices_;
   std::deque<MenuStep> menuSteps_;
-  int settlingIn_ = -1;  // The loop that runs around Settle; no action waits for that one.
+  int settlingIn_ = -1;  // The loop that runs around Settle; no action waits for it.
   HWND answered_ = nullptr;
   ULONGLONG lastClick_ = 0;
   int lostInMenu_ = 0;  // How often there was nothing to do in an open menu.

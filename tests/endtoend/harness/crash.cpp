@@ -13,7 +13,7 @@
 namespace korvale::endtoend {
 namespace {
 
-/// The program file of another process, as it lies in that process's memory.
+/// The program file of another process, as it is laid out in that process's memory.
 class LoadedProgram {
  public:
   explicit LoadedProgram(DWORD process)
@@ -27,7 +27,7 @@ class LoadedProgram {
     }
   }
 
-  /// Lets calls of that imported function go to `target`; false when the program imports none.
+  /// Redirects calls of that imported function to `target`; false when the program imports none.
   bool Redirect(std::string_view function, ULONGLONG target) const {
     const DWORD slot = FindSlot(function);
     return slot != 0 && Write(slot, target);
@@ -83,8 +83,8 @@ class LoadedProgram {
 
 bool Crash(Window window) {
   constexpr ULONGLONG kNoPlaceInMemory = 8;
-  // Called once for each message, and by none but the loop. Where the loop keeps an address over
-  // all its rounds, as it may that of GetMessageW, a redirected call would not be seen.
+  // Called once for each message, and only by the loop. If the loop keeps an address for all its
+  // rounds, as it may that of GetMessageW, it would not notice that the call was redirected.
   return LoadedProgram(window.ProcessId()).Redirect("TranslateMessage", kNoPlaceInMemory) &&
          PostMessageW(window.handle(), WM_NULL, 0, 0) != 0;
 }

@@ -4,8 +4,8 @@
 
 namespace korvale::endtoend {
 
-/// Lets the program of that window crash: the next message that its message loop takes leads
-/// it to a place where no memory is. False when that cannot be arranged.
+/// Makes the program of that window crash: the next message that its message loop takes leads to an
+/// address without memory. False when that cannot be arranged.
 bool Crash(Window window);
 
 }  // namespace korvale::endtoend

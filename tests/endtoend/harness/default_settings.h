@@ -13,7 +13,7 @@ struct DefaultSetting {
   const char* beyond;
 };
 
-/// Every setting of an installation, written down a second time on purpose.
+/// Every setting of an installation, deliberately written down a second time.
 std::span<const DefaultSetting> DefaultSettings();
 
 }  // namespace korvale::endtoend

@@ -13,7 +13,7 @@ std::string Quoted(const std::string& path);
 /// Path of the Korvale.exe under test: the environment's KORVALE_EXE, or beside this program.
 std::string KorvaleProgram();
 
-/// A folder for the life of one test, removed with all that it holds.
+/// A folder that exists during one test and is removed with everything in it.
 class TemporaryFolder {
  public:
   TemporaryFolder();

@@ -26,7 +26,7 @@ class Installation {
   /// The folder that the register of all installations holds for this one.
   std::optional<std::string> RegisteredFolder() const;
 
-  /// Takes the program out of the folder, as a user does who moves or renames the folder.
+  /// Takes the program out of the folder, as a user does by moving or renaming the folder.
   void RemoveProgram() const;
 
   /// Leaves settings as an earlier run would have, without the splash: nothing is asked at start.

@@ -43,9 +43,9 @@ class HeldKeys {
 /// Presses and releases a chord through SendInput: it reaches whatever is in front.
 void Press(Chord chord);
 
-/// Presses a chord that does no harm a second time until it has the effect that `condition` tells;
-/// false when it never has. When a window has just got the focus, Wine can let go of modifiers that
-/// only SendInput holds, and the chord is lost.
+/// Presses a chord that may safely be repeated until `condition` holds; false when it never does.
+/// When a window has just got the focus, Wine can release modifiers that only SendInput holds, and
+/// the chord is lost.
 bool PressUntil(Chord chord, const std::function<bool()>& condition);
 
 /// Types text into whatever has the focus.

@@ -26,7 +26,7 @@ class MainWindow {
   /// True when both boxes are shown to their full width and high enough for a line of text.
   bool ShowsTextWhole() const;
 
-  /// Gives the window another size, as somebody who drags its border does.
+  /// Gives the window another size, as dragging its border does.
   void Resize(int width, int height) const;
 
  private:

@@ -61,7 +61,7 @@ bool OptionsDialog::GoTo(Page page) const {
   for (int turn = 0; turn < kPages && CurrentPage() != page; ++turn) {
     const Page before = CurrentPage();
     const auto turned = [&] {
-      // While one page gives way to the other, none is the one on the screen.
+      // While one page replaces the other, neither is on the screen.
       const std::optional<Page> now = PageOnScreen();
       return now.has_value() && now != before;
     };

@@ -48,7 +48,7 @@ class OptionsDialog {
   Window TagLabel(int tag) const;
   /// A check box or button of the dialog by its caption; none when it is not on the screen.
   Window Button(const std::string& caption) const;
-  /// The label on the screen that begins so.
+  /// The label on the screen that begins like this.
   Window Label(const std::string& beginning) const;
   /// The label that shows the colour of enabled hot keys.
   Window EnabledLegend() const { return Label(" indicates Hot Key is Enabled"); }

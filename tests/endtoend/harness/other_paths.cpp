@@ -16,7 +16,7 @@ std::wstring ShortPath(const std::wstring& path) {
   return buffer;
 }
 
-/// The folder below the drive of all files, "" where there is no such drive: that is Wine's.
+/// The folder below the drive of all files, which only Wine has; "" elsewhere.
 std::wstring BelowDriveOfAllFiles(const std::wstring& path) {
   using GetUnixName = char*(CDECL*)(LPCWSTR);
   const auto get_name = reinterpret_cast<GetUnixName>(reinterpret_cast<void*>(

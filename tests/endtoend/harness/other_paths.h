@@ -11,7 +11,7 @@ struct OtherPath {
   std::string folder;
 };
 
-/// The other paths to a folder that this system knows; those of its own making go with it.
+/// The other paths to a folder that this system knows; those that it made are removed with it.
 class OtherPaths {
  public:
   explicit OtherPaths(const std::string& folder);

@@ -27,7 +27,7 @@ class Handle {
   HANDLE handle_ = nullptr;
 };
 
-/// A running program; ended by force when its owner lets go of it.
+/// A running program; ended by force when destroyed.
 class Process {
  public:
   /// Starts `command_line` (its first word quoted when it holds blanks) in `folder` ("" = here).

@@ -8,7 +8,7 @@
 
 namespace korvale::endtoend {
 
-/// A program that somebody else wrote, and its main window.
+/// A program by somebody else, and its main window.
 class RealProgram {
  public:
   /// Starts the first of `commands` that Windows can start, and waits for its window.

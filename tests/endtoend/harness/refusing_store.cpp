@@ -8,7 +8,7 @@ namespace korvale::endtoend {
 
 void MakeStoreRefuse(const std::string& application) {
   const std::wstring branch = L"Software\\VB and VBA Program Settings\\" + Wide(application);
-  // A key that lasts, as every save begins with, is refused below one that does not.
+  // Every save creates a lasting key, which Windows refuses below a volatile one.
   for (const wchar_t* section : {L"", L"\\Options", L"\\Startup"}) {
     HKEY key = nullptr;
     RegCreateKeyExW(HKEY_CURRENT_USER, (branch + section).c_str(), 0, nullptr, REG_OPTION_VOLATILE,

@@ -2,7 +2,7 @@
 
 namespace korvale::endtoend {
 
-/// Waits until nothing on the screen has changed for a moment: all has been painted.
+/// Waits until nothing on the screen has changed for a moment, so everything has been painted.
 bool ScreenComesToRest();
 
 }  // namespace korvale::endtoend

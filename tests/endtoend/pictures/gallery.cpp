@@ -22,7 +22,7 @@ void Place(Window window, int left, int top, int width, int height) {
                SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-/// So that what pops up at the mouse pops up there.
+/// So that pop-ups at the mouse appear there.
 void PutMouse(Window window, int left, int top) {
   RECT area{};
   GetWindowRect(window.handle(), &area);
@@ -33,7 +33,7 @@ void PutMouse(Window window, int left, int top) {
     GetCursorPos(&now);
     return std::abs(now.x - area.left - at.x) <= 2 && std::abs(now.y - area.top - at.y) <= 2;
   };
-  // The display can still tell of an earlier place of the mouse.
+  // The display can still report an earlier place of the mouse.
   WaitFor([&] {
     SetCursorPos(area.left + at.x, area.top + at.y);
     return HoldsFor(there);

@@ -10,8 +10,8 @@ namespace korvale::endtoend {
 /// Takes pictures of the screen and notes which part of each shows what it is about.
 class Photographer {
  public:
-  /// Has the screen pictured and writes the rectangle around the windows beside it, as
-  /// "640x400+10+20" in a file NAME.area.
+  /// Has a picture of the screen taken and writes the rectangle around the windows, as
+  /// "640x400+10+20", to a file NAME.area beside it.
   void Take(const std::string& name, const std::vector<Window>& windows);
 
   /// How many pictures could not be taken.

@@ -55,7 +55,7 @@ class Tour {
   void BeginCustomizing();
   /// Moves the mouse from where it is an arrow over the box to where it is a C.
   bool PointsWithC(Window box);
-  /// False when Korvale asks for a colour nevertheless.
+  /// False when Korvale asks for a colour all the same.
   bool AltClick(Window box);
   void ColorTheBoxes(Rgb color);
 

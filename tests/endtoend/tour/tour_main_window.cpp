@@ -106,7 +106,7 @@ void Tour::ColorTheBoxes(Rgb color) {
   report_.Step("a click chooses another colour",
                dialog.Choose(color) && HasColor(main.TitleBox(), color));
   report_.Step("it is a C over the other field too", PointsWithC(main.ClassBox()));
-  // A mouse that comes into another window can make the display let go of Alt; then Korvale asks.
+  // When the mouse comes into another window the display may release Alt; then Korvale asks.
   for (int attempt = 0; attempt < 3 && !AltClick(main.ClassBox()); ++attempt) {
     const bool cancelled = ColorDialog(*korvale_).Cancel();
     if (!cancelled || !PointsWithC(main.ClassBox())) break;
