@@ -52,7 +52,7 @@ class FormEvents {
   virtual bool OnCharacter(int control, char32_t character, unsigned shift) = 0;
   virtual void OnMouse(int control, const MouseInput& input) = 0;
   virtual void OnFocusMoved(int control) = 0;
-  /// A menu of the bar, or the pop-up, is about to be shown; it is shown as the model then stands.
+  /// A menu of the bar, or the pop-up, is about to be shown, with what the model then holds.
   virtual void OnMenuOpened(MenuItem& menu) = 0;
   virtual void OnMenuClicked(MenuItem& item) = 0;
   virtual void OnActivated() = 0;

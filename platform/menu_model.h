@@ -15,7 +15,7 @@ namespace korvale {
 struct MenuRow {
   int depth;
   const char* name;
-  int index;  ///< Position in a control array, or -1 when the item is no element of one.
+  int index;  ///< Position in a control array, or -1 when the item is not in one.
   const char* caption;
 };
 

@@ -15,6 +15,7 @@ class MessageLoop {
   virtual void DoEvents() = 0;
   /// Ends every message loop of the program.
   virtual void PostQuitMessage() = 0;
+  /// True once the program is to end: by PostQuitMessage, or by a WM_QUIT that still waits.
   virtual bool QuitPosted() = 0;
 };
 

@@ -6,7 +6,7 @@
 
 namespace korvale {
 
-/// Reads the screen: its monitors, colours and measures, and where windows stand on it.
+/// Reads the screen: its monitors, colours and measures, and where windows are on it.
 class ScreenQueries {
  public:
   virtual ~ScreenQueries() = default;
@@ -16,8 +16,8 @@ class ScreenQueries {
   virtual TwipsRect GetMonitorInfoW(WindowHandle hwnd) = 0;
   /// The work area, in twips, of the monitor under the mouse pointer (MonitorFromPoint).
   virtual TwipsRect MonitorFromPoint() = 0;
-  /// Where the form really stands, place and size in twips of the system's dots per inch, as the
-  /// work areas count them (GetWindowRect).
+  /// Where the form really is, place and size in twips of the system's dots per inch, as the work
+  /// areas count them (GetWindowRect).
   virtual TwipsRect GetWindowRect(WindowHandle hwnd) = 0;
   /// The dots per inch with which the window is shown (GetDpiForWindow).
   virtual int GetDpiForWindow(WindowHandle hwnd) = 0;

@@ -60,7 +60,7 @@ class WindowCommands {
                             int height, std::uint32_t flags) = 0;
   virtual bool SetForegroundWindow(WindowHandle hwnd) = 0;
   /// Sends a message without parameters and waits for the answer of the window's thread, at most
-  /// so many ms (SMTO_ABORTIFHUNG, SMTO_BLOCK); false when none came.
+  /// that many ms (SMTO_ABORTIFHUNG, SMTO_BLOCK); false when none came.
   virtual bool SendMessageTimeoutW(WindowHandle hwnd, std::uint32_t message,
                                    std::uint32_t milliseconds) = 0;
   /// Posts a message without parameters (PostMessageW).

@@ -7,8 +7,8 @@
 
 namespace korvale {
 
-/// Hot keys and the window procedure in front of a window through user32. One procedure at a time
-/// stands in front of a window; a second one takes the place of the first.
+/// Hot keys and the window procedure in front of a window through user32. A window has one such
+/// procedure at a time; a second one replaces the first.
 class WindowsHotKeyApi final : public HotKeyApi {
  public:
   WindowsHotKeyApi();
