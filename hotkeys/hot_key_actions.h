@@ -22,6 +22,7 @@ class HotKeyActions {
   /// Pops the Window menu up at the mouse position and carries out what the user chooses. Returns
   /// the window that they selected with one of its entries, 0 = none.
   virtual WindowHandle PopUpWindowMenu() = 0;
+  /// kHotKeyWindowMenuPopup before the Window menu is popped up, "" once it has closed.
   virtual void SetWindowMenuTag(const std::string& tag) = 0;
   /// The hot keys were registered again, so a list of refused ones is out of date.
   virtual void HotKeysRegistered() = 0;

@@ -78,7 +78,7 @@ WindowTriple HotKeyDispatch::ChooseWindow(const std::string& suppliedText) {
   return {main, desktop_->mainWindow.MainCaption(), GetWindowClass(desktop_->windows, main)};
 }
 
-/// Puts the foreground window in the place of `chosen`; false when it cannot be identified.
+/// Replaces `chosen` with the foreground window; false when that cannot be identified.
 bool HotKeyDispatch::IdentifyForeground(WindowTriple& chosen) {
   const WindowHandle foreground = desktop_->windows.GetForegroundWindow();
   if (foreground == chosen.handle) return true;

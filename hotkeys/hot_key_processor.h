@@ -4,7 +4,7 @@
 
 namespace korvale {
 
-/// Carries out hot keys by their names.
+/// Carries out hot keys by their names; HotKeyDispatch says what the arguments mean.
 class HotKeyProcessor {
  public:
   virtual ~HotKeyProcessor() = default;
