@@ -9,8 +9,8 @@ namespace korvale {
 /// for emoji.
 int ColumnCount(std::string_view text);
 
-/// `text` followed by `tail` when both fit into so many columns; otherwise as much of the beginning
-/// of `text` as fits, "..." and `tail`.
+/// `text` followed by `tail` when both fit into `columns`; otherwise as much of the beginning of
+/// `text` as fits, "..." and `tail`.
 std::string ShortenedText(std::string_view text, int columns, std::string_view tail = "");
 
 }  // namespace korvale

@@ -11,8 +11,8 @@ inline constexpr Twips kWidestToolTip = 6000;
 /// How long a tool tip stays, so that it can be read.
 inline constexpr int kToolTipMilliseconds = 20000;
 
-/// A tool tip's text of this width as it is shown: the blanks around one of several lines go, since
-/// they would stand before the first line only.
+/// A tool tip's text of this width as it is shown: without the blanks around a text of several
+/// lines, which would appear only before the first.
 std::string ShownToolTip(const std::string& text, Twips width);
 
 }  // namespace korvale

@@ -10,7 +10,7 @@
 namespace korvale {
 
 /// The Windows menus of a form's menu model. A menu is filled from the model each time that it
-/// opens, so that it is shown as the model then stands.
+/// opens, so that it shows what the model then holds.
 class FormMenu {
  public:
   explicit FormMenu(const FormState& form) : form_(&form) {}
