@@ -21,7 +21,7 @@ Character FirstCharacter(std::string_view text);
 /// All characters of `text`, as views into it.
 std::vector<std::string_view> SplitCharacters(std::string_view text);
 
-/// Upper case of one code point; itself when it has none of its own length.
+/// Upper case of one code point; unchanged when it has none of the same length.
 char32_t UpperCase(char32_t codePoint);
 
 /// The code point as UTF-8; it must be a valid one.

@@ -54,8 +54,8 @@ std::string DecimalText(std::int32_t value);
 /// The number in lower-case hexadecimal digits, without leading zeroes.
 std::string HexadecimalText(std::uint64_t value);
 
-/// The number that a text of decimal digits with an optional sign stands for, blanks around it
-/// allowed; nothing when it is anything else or does not fit.
+/// The number that a text of decimal digits with an optional sign means, blanks around it allowed;
+/// nothing when it is anything else or does not fit.
 std::optional<std::int32_t> ParseInt32(std::string_view text);
 std::optional<std::int16_t> ParseInt16(std::string_view text);
 
