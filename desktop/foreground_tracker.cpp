@@ -183,7 +183,7 @@ bool ForegroundTracker::IsGone(const WindowTriple& window) {
                                 GetWindowClass(*windows_, window.handle) != window.className);
 }
 
-/// A dialog that the user was followed into stands for itself.
+/// A dialog that the user was followed into counts as itself.
 bool ForegroundTracker::IsBehindDialog(WindowHandle hwnd) {
   const WindowHandle dialog = FindInputWindow(*windows_, hwnd);
   const bool restores = windows_->IsWindowVisible(dialog) || !windows_->IsHungAppWindow(hwnd);

@@ -8,7 +8,7 @@ namespace korvale {
 inline constexpr std::string_view kLeftPartMark = " - ***";
 inline constexpr std::string_view kRightPartMark = "*** - ";
 
-/// The title before its first " - ", and behind its last; the whole title when it has none.
+/// The title before its first " - ", and after its last; the whole title when it has none.
 std::string_view LeftTitlePart(std::string_view title);
 std::string_view RightTitlePart(std::string_view title);
 

@@ -5,7 +5,7 @@ namespace {
 
 using enum ControlKind;
 
-/// Leaves some room below the last row, which stands close to the lower edge.
+/// Leaves some room below the last row, which is close to the lower edge.
 constexpr Twips kButtonHeight = 285;
 
 // The order of the windows: each label before its control, and the Tab key from top to bottom.

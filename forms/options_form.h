@@ -57,7 +57,7 @@ class frmOptions : public Form {
   void HotKeyChanged();
 
   OptionsDialogOwner* owner_;
-  /// The record as last shown: what a list without a choice stands for.
+  /// The record as last shown: what a list without a choice means.
   clsOptions shown_;
   KeyListKeys keyListKeys_;
   Color colHotKeyEnabled_ = kDefaultHotKeyEnabledColor;

@@ -18,7 +18,7 @@ inline constexpr const char* kJournalSection = "Saving";
 /// then made, then the journal is deleted. Making them twice leads to the same state.
 class SaveJournal {
  public:
-  /// The journal stands under `appName`; the changes may concern any application name.
+  /// The journal is stored under `appName`; the changes may concern any application name.
   SaveJournal(SettingsStore& store, std::string appName);
 
   /// Makes the changes in order, those marked `last` only once all others are made. Throws

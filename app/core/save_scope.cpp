@@ -25,7 +25,7 @@ void SaveScope::DeleteSection(const std::string& appName, const std::string& sec
 }
 
 void SaveScope::Commit() {
-  // Closed first: what the program saves while it reports a failure is a save of its own.
+  // Closed first, so that what the program saves while it reports a failure is a separate save.
   Close();
   if (outer_ == nullptr) return journal_.Commit(changes_);
   outer_->changes_.insert(outer_->changes_.end(), changes_.begin(), changes_.end());

@@ -20,7 +20,7 @@ class SavingStore {
   SavingStore(const SavingStore&) = delete;
   SavingStore& operator=(const SavingStore&) = delete;
 
-  /// The application name under which all settings of an installation stand. Names another
+  /// The application name under which an installation's settings are stored. Names another
   /// installation only while its settings are being taken over.
   const std::string& AppName() const { return appName_; }
   void SetAppName(std::string appName) { appName_ = std::move(appName); }
