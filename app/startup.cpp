@@ -181,15 +181,7 @@ void StartUp::RecordPreviousWindow(frmMain& form, MainParts& parts) {
   // minimized one.
   if (form.WindowState() != ShowState::kMinimized) parts.desktop.tracker.LookAnew();
   if (before != 0 && parts.options.Get().booSelectPrevWinOnStart) {
-    SelectPreviousWindow(parts.desktop);
-  }
-}
-
-void StartUp::SelectPreviousWindow(Desktop& desktop) {
-  desktop.tracker.LookAtForeground();
-  WindowTriple previous = desktop.previous.current;
-  if (desktop.actions.ActivatePreviousWindow(previous) == kActivationDone) {
-    desktop.tracker.RecordSelection(previous);
+    parts.desktop.selection.SelectAtStart();
   }
 }
 

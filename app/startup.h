@@ -26,7 +26,6 @@ class StartUp : public ProgramLifetime {
   void PrepareMenusAndTimers(frmMain& form);
   static void MentionRefusedHotKeys(frmMain& form, const HotKeyTable& hotKeys);
   void RecordPreviousWindow(frmMain& form, MainParts& parts);
-  static void SelectPreviousWindow(Desktop& desktop);
   void AskToReviewHotKeys(frmMain& form, MainParts& parts);
 
   Platform* platform_;

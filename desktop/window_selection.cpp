@@ -13,7 +13,10 @@ namespace korvale {
 WindowSelection::WindowSelection(const DesktopParts& parts, WindowRequests& requests,
                                  WindowEnumeration& enumeration, WindowActions& actions,
                                  ForegroundTracker& tracker, TagList& tags)
-    : parts_(parts),
+    : windows_(&parts.windows),
+      mainWindow_(&parts.mainWindow),
+      messages_(&parts.messages),
+      previous_(&parts.previous),
       requests_(&requests),
       enumeration_(&enumeration),
       actions_(&actions),
@@ -21,7 +24,7 @@ WindowSelection::WindowSelection(const DesktopParts& parts, WindowRequests& requ
       tags_(&tags) {}
 
 void WindowSelection::SelectTag(std::int16_t tag) {
-  const TimerPause pause(parts_.mainWindow);
+  const TimerPause pause(*mainWindow_);
   if (tag == 0) {
     SelectPrevious();
   } else if (MenuItem* const entry = tags_->mnuWindowParentList.Find(tag); entry != nullptr) {
@@ -35,7 +38,7 @@ void WindowSelection::SelectPrevious() {
   // one worked in before it is next.
   for (WindowHandle tried = 0;;) {
     tracker_->UpdateRecord();
-    WindowTriple window = parts_.previous.OfTagZero(parts_.mainWindow.FocusTag() == kGotFocus);
+    WindowTriple window = previous_->OfTagZero(mainWindow_->FocusTag() == kGotFocus);
     if (window.handle == 0 || window.handle == tried) return;
     tried = window.handle;
     if (actions_->ActivatePreviousWindow(window) == kActivationDone) {
@@ -46,19 +49,27 @@ void WindowSelection::SelectPrevious() {
   }
 }
 
+void WindowSelection::SelectAtStart() {
+  tracker_->LookAtForeground();
+  WindowTriple window = previous_->current;
+  if (actions_->ActivatePreviousWindow(window) == kActivationDone) {
+    tracker_->RecordSelection(window);
+  }
+}
+
 void WindowSelection::SelectEntry(MenuItem& entry) {
   const WindowHandle foreground = tracker_->WindowInFront();
   if (TagHandle(entry) == foreground && foreground != 0) {
     selected = foreground;
-    if (parts_.windows.IsIconic(foreground)) requests_->Show(foreground, win32::kSwRestore);
+    if (windows_->IsIconic(foreground)) requests_->Show(foreground, win32::kSwRestore);
     return;
   }
   const ActivationResult result = ActivateOrSearch(entry);
   if (result != kActivationDone) return TellFailure(entry, result);
   if (TagHandle(entry) == foreground) return;
   selected = TagHandle(entry);
-  tracker_->RecordSelection({selected, GetWindowTitle(parts_.windows, selected),
-                             GetWindowClass(parts_.windows, selected)});
+  tracker_->RecordSelection(
+      {selected, GetWindowTitle(*windows_, selected), GetWindowClass(*windows_, selected)});
 }
 
 ActivationResult WindowSelection::Activate(const MenuItem& entry, bool reportFailure, bool act) {
@@ -76,18 +87,17 @@ ActivationResult WindowSelection::ActivateOrSearch(MenuItem& entry) {
   const WindowHandle found = enumeration_->FindByTitle(IdentificationText(entry));
   if (found == 0) return result;
   entry.tag = DecimalText(found);
-  TagClass(*tags_, entry) = GetWindowClass(parts_.windows, found);
+  TagClass(*tags_, entry) = GetWindowClass(*windows_, found);
   return Activate(entry, false, true);
 }
 
 void WindowSelection::TellFailure(const MenuItem& entry, ActivationResult result) {
   const std::string window = "Window:  [" + IdentificationText(entry) + "]";
   if (result == kWindowNotEnabled) {
-    parts_.messages.ShowMessageBox(window + "  is not enabled, and currently cannot be selected.",
-                                   win32::kMbSetForeground, kProductName);
+    messages_->ShowMessageBox(window + "  is not enabled, and currently cannot be selected.",
+                              win32::kMbSetForeground, kProductName);
   } else if (result == kWindowNotOpen) {
-    parts_.messages.ShowMessageBox(window + "  is not open.", win32::kMbSetForeground,
-                                   kProductName);
+    messages_->ShowMessageBox(window + "  is not open.", win32::kMbSetForeground, kProductName);
   } else {
     Activate(entry, true, false);
   }

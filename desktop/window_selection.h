@@ -22,6 +22,10 @@ class WindowSelection {
   /// not possible. Does nothing for a Tag without an entry.
   void SelectTag(std::int16_t tag);
 
+  /// Brings the current Previous Window to the front as the program starts; a failure is nothing to
+  /// tell.
+  void SelectAtStart();
+
   /// True while a search over the windows must not be started.
   bool windowSearch = false;
   /// The window to which the user has last been led; 0 = none since this was cleared.
@@ -34,7 +38,10 @@ class WindowSelection {
   ActivationResult ActivateOrSearch(MenuItem& entry);
   void TellFailure(const MenuItem& entry, ActivationResult result);
 
-  DesktopParts parts_;
+  WindowQueries* windows_;
+  MainWindow* mainWindow_;
+  MessageBoxes* messages_;
+  PreviousWindow* previous_;
   WindowRequests* requests_;
   WindowEnumeration* enumeration_;
   WindowActions* actions_;

@@ -26,15 +26,20 @@ TEST_F(HotKeyDispatchTest, SelectsTheWindowOfTheTagThenTellsTheMenus) {
 }
 
 TEST_F(HotKeyDispatchTest, SelectsTheWindowOfEachTag) {
-  for (int tag = 1; tag <= 9; ++tag) AddTag(tag, "Other", other);
+  std::vector<WindowHandle> windows{target};
+  for (int tag = 1; tag <= 9; ++tag) {
+    const std::string title = "Window " + std::to_string(tag);
+    windows.push_back(Open(title, "Editor", title));
+    AddTag(tag, title, windows.back());
+  }
 
   for (int tag = 0; tag <= 9; ++tag) {
-    for (const WindowHandle worked : {other, target}) {
+    for (const WindowHandle worked : {target, other}) {
       desktop.UserActivates(worked);
       tracker.tmrWindow_Timer();
     }
-    Press(ParentHotKeyName(tag));
-    EXPECT_EQ(desktop.GetForegroundWindow(), other) << tag;
+    Press("HOTKEY_PARENT" + std::to_string(tag));
+    EXPECT_EQ(desktop.GetForegroundWindow(), windows[static_cast<std::size_t>(tag)]) << tag;
   }
   EXPECT_EQ(actions.log, Calls(10, "TagSelected"));
 }
