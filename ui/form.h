@@ -174,7 +174,7 @@ class Form : public FormEvents, public CollectedForm, private ControlOwner {
   void RaiseClick(Control& control) final;
   void UnchooseNeighbours(const Control& chosen) final;
   void StartOrStopTimer(const Control& timer) final;
-  bool IsNews(ShowState state, const TwipsRect& place);
+  bool IsNews(ShowState state, const TwipsRect& place) const;
   void ClickPicture(int control, const MouseInput& input);
 
   // form_keys.cpp: keys of dialogs, access keys and the focus.
