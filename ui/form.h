@@ -175,7 +175,7 @@ class Form : public FormEvents, public CollectedForm, private ControlOwner {
   void UnchooseNeighbours(const Control& chosen) final;
   void StartOrStopTimer(const Control& timer) final;
   bool IsNews(ShowState state, const TwipsRect& place) const;
-  void ClickPicture(int control, const MouseInput& input);
+  bool TakePress(int control, const MouseInput& input);
 
   // form_keys.cpp: keys of dialogs, access keys and the focus.
   bool DialogKey(int control, int virtualKey, unsigned shift);

@@ -154,21 +154,23 @@ bool Form::OnKeyUp(int control, int virtualKey, unsigned shift) {
 
 void Form::OnMouse(int control, const MouseInput& input) {
   if (!IsLoaded()) return;
+  // Settled first: an error in a handler ends this event and must leave nothing for the next.
+  const bool clicked = TakePress(control, input);
   if (IsControl(control)) {
     Control_Mouse(ById(control), input);
   } else if (control == 0 && input.event == MouseEvent::kMove) {
     Form_MouseMove(input);
   }
-  ClickPicture(control, input);
+  if (clicked) OnClick(control);
 }
 
-/// A label or image is clicked when the left button goes down and comes up on it.
-void Form::ClickPicture(int control, const MouseInput& input) {
-  if (input.button != MouseButton::kLeft || input.event == MouseEvent::kMove) return;
+/// Notes what the left button goes down on; true when it comes up on the same label or image.
+bool Form::TakePress(int control, const MouseInput& input) {
+  if (input.button != MouseButton::kLeft || input.event == MouseEvent::kMove) return false;
   const int pressed = std::exchange(pressed_, input.event == MouseEvent::kDown ? control : 0);
-  if (input.event != MouseEvent::kUp || pressed != control || !IsControl(control)) return;
+  if (input.event != MouseEvent::kUp || pressed != control || !IsControl(control)) return false;
   const ControlKind kind = StateOf(control).kind;
-  if (kind == ControlKind::kLabel || kind == ControlKind::kImage) OnClick(control);
+  return kind == ControlKind::kLabel || kind == ControlKind::kImage;
 }
 
 void Form::OnFocusMoved(int control) {

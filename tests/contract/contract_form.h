@@ -136,6 +136,7 @@ class RecordingForm : public Form {
   std::function<void(const std::string&)> onMenuClick;
   std::function<void(int& key, unsigned shift)> onKeyDown;
   std::function<void(int& key, unsigned shift)> onKeyUp;
+  std::function<void(const MouseInput& input)> onMouse;
   std::function<void()> onLoad;
   bool logsMouse = false;
   bool refusesToClose = false;
@@ -167,6 +168,7 @@ class RecordingForm : public Form {
   }
   void Control_Mouse(Control& control, const MouseInput& input) override {
     lastMouse = input;
+    if (onMouse) onMouse(input);
     if (!logsMouse) return;
     const char* const what = input.event == MouseEvent::kDown ? "down on "
                              : input.event == MouseEvent::kUp ? "up on "

@@ -1,3 +1,6 @@
+#include <stdexcept>
+
+#include "platform/win32_constants.h"
 #include "tests/ui/form_test.h"
 
 namespace korvale {
@@ -48,6 +51,66 @@ TEST_F(FormStrayEventsTest, ATickOfWhatIsNoTimerClicksNothing) {
   form_.Take();
   form_.OnTimer(Id(form_, "cmdGo"));
   EXPECT_EQ(form_.Take(), Lines{});
+}
+
+/// The form's handlers fail at one kind of mouse event.
+class FormWithFailingMouseTest : public FormTest {
+ protected:
+  FormWithFailingMouseTest() {
+    form_.Show();
+    form_.Take();
+    forms_.SetUncaughtHandler([this] { ++errors_; });
+  }
+
+  void FailAt(MouseEvent event) {
+    form_.onMouse = [event](const MouseInput& input) {
+      if (input.event == event) throw std::runtime_error("mouse");
+    };
+  }
+  void Tell(std::string_view name, MouseEvent event) {
+    const int control = Id(form_, name);
+    host_.Tell(form_.Handle(), [&](FormEvents& events) {
+      events.OnMouse(control, {event, MouseButton::kLeft});
+    });
+  }
+
+  int errors_ = 0;
+};
+
+TEST_F(FormWithFailingMouseTest, AnErrorWhileTheButtonGoesDownLeavesTheClick) {
+  FailAt(MouseEvent::kDown);
+  Click(form_, "lblClick");
+  EXPECT_EQ(form_.Take(), Lines{"click lblClick"});
+  EXPECT_EQ(errors_, 1);
+}
+
+TEST_F(FormWithFailingMouseTest, AnErrorWhileTheButtonGoesDownElsewhereLeavesNoFormerPress) {
+  Tell("lblClick", MouseEvent::kDown);
+  FailAt(MouseEvent::kDown);
+  Tell("txtName", MouseEvent::kDown);
+  Tell("lblClick", MouseEvent::kUp);
+  EXPECT_EQ(form_.Take(), Lines{});
+}
+
+TEST_F(FormWithFailingMouseTest, AnErrorWhileTheButtonComesUpEndsTheClick) {
+  FailAt(MouseEvent::kUp);
+  Click(form_, "lblClick");
+  form_.onMouse = nullptr;
+  Tell("lblClick", MouseEvent::kUp);
+  EXPECT_EQ(form_.Take(), Lines{});
+  EXPECT_EQ(errors_, 1);
+  Click(form_, "lblClick");
+  EXPECT_EQ(form_.Take(), Lines{"click lblClick"});
+}
+
+TEST_F(FormStrayEventsTest, AnErrorAtTheReleaseOfAltLeavesNothingForItsNextRelease) {
+  form_.Show();
+  form_.OnKeyDown(0, win32::kVkMenu, kAlt, false);
+  EXPECT_TRUE(form_.OnKeyDown(0, 'S', kAlt, false));
+  form_.onKeyUp = [](int&, unsigned) { throw std::runtime_error("key"); };
+  EXPECT_THROW(form_.OnKeyUp(0, win32::kVkMenu, kNoShift), std::runtime_error);
+  form_.onKeyUp = nullptr;
+  EXPECT_FALSE(form_.OnKeyUp(0, win32::kVkMenu, kNoShift));
 }
 
 }  // namespace
