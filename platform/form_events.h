@@ -33,8 +33,8 @@ class FormEvents {
  public:
   virtual ~FormEvents() = default;
 
-  /// A button, check box, option button, label or image was clicked, by mouse or space bar. Check
-  /// boxes and option buttons do not change by themselves: the form answers with UpdateControl.
+  /// A button, check box or option button was clicked, by mouse or space bar. Check boxes and
+  /// option buttons do not change by themselves: the form answers with UpdateControl.
   virtual void OnClick(int control) = 0;
   /// The text of a text box or combo box was changed by typing, pasting or the like.
   virtual void OnTextTyped(int control, const std::string& text) = 0;
@@ -50,13 +50,16 @@ class FormEvents {
   /// The keyboard gave a character (WM_CHAR, WM_SYSCHAR) for a key that OnKeyDown did not deal
   /// with, before the control sees it; true when the control must not see it.
   virtual bool OnCharacter(int control, char32_t character, unsigned shift) = 0;
+  /// The mouse was used over the form or a control that reports it. A host tells no click on a
+  /// label or image: the form makes it of the left button going down and coming up there.
   virtual void OnMouse(int control, const MouseInput& input) = 0;
   virtual void OnFocusMoved(int control) = 0;
   /// A menu of the bar, or the pop-up, is about to be shown, with what the model then holds.
   virtual void OnMenuOpened(MenuItem& menu) = 0;
   virtual void OnMenuClicked(MenuItem& item) = 0;
   virtual void OnActivated() = 0;
-  /// The user or Windows moved, sized, minimized or restored the form.
+  /// The user or Windows moved, sized, minimized or restored the form. May be told again without
+  /// any change, and follows every MoveWindow.
   virtual void OnPlaced(ShowState state, const TwipsRect& place) = 0;
   /// The sizes of frame and menu may have changed, with the dots per inch of the form's monitor
   /// (WM_DPICHANGED) or with the metrics that the user has chosen (WM_SETTINGCHANGE).

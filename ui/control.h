@@ -12,7 +12,8 @@ namespace korvale {
 
 class Control;
 
-/// The form that a control stands in, as the control sees it.
+/// The form that a control stands in, as the control sees it: keeps Control below Form, which
+/// includes it.
 class ControlOwner {
  public:
   virtual ~ControlOwner() = default;

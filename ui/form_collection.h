@@ -16,7 +16,7 @@ namespace korvale {
 
 class Form;
 
-/// A form as the collection sees it.
+/// A form as the collection sees it: keeps the collection below Form, which includes it.
 class CollectedForm {
  public:
   virtual ~CollectedForm() = default;
