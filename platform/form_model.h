@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -135,6 +136,17 @@ struct FormState {
   bool menuShown = true;  ///< The menu bar is visible.
   std::vector<ControlState> controls;
 
+  /// The control of this number, which must be one.
+  const ControlState& Control(int id) const {
+    return controls.at(static_cast<std::size_t>(id) - 1);
+  }
+  /// The control and all that holds it are visible, or enabled.
+  bool IsVisible(const ControlState& control) const {
+    return control.visible && (control.container == 0 || IsVisible(Control(control.container)));
+  }
+  bool IsEnabled(const ControlState& control) const {
+    return control.enabled && (control.container == 0 || IsEnabled(Control(control.container)));
+  }
   /// The window has a menu bar; a bar without a visible menu does not count.
   bool ShowsMenuBar() const { return menuShown && menu.AnyVisible(); }
 };

@@ -249,9 +249,7 @@ ControlState& Form::StateOf(int control) {
   return state_.controls.at(static_cast<std::size_t>(control) - 1);
 }
 
-const ControlState& Form::StateOf(int control) const {
-  return state_.controls.at(static_cast<std::size_t>(control) - 1);
-}
+const ControlState& Form::StateOf(int control) const { return state_.Control(control); }
 
 MenuItem& Form::Menu(std::string_view name, int index) {
   if (MenuItem* const item = state_.menu.Find(name, index)) return *item;

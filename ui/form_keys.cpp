@@ -54,8 +54,7 @@ int CaptionWithKey(const ControlState& control, char32_t character) {
 }  // namespace
 
 bool Form::CanTakeInput(const ControlState& control) const {
-  if (!control.visible || !control.enabled) return false;
-  return control.container == 0 || CanTakeInput(StateOf(control.container));
+  return state_.IsVisible(control) && state_.IsEnabled(control);
 }
 
 bool Form::CanTakeFocus(const ControlState& control) const {

@@ -84,6 +84,8 @@ WindowKind KindOf(const ControlState& control, const wchar_t* pageClass) {
   return {nullptr, 0};
 }
 
+/// Fields with a text of their own show "&" as it is, and so does a label that is told to
+/// (SS_NOPREFIX); the other kinds have no such style.
 bool ShowsAmpersands(const ControlState& control) {
   switch (control.kind) {
     case ControlKind::kLabel:

@@ -11,6 +11,8 @@
 namespace korvale {
 namespace {
 
+/// Pixels that a combo box is higher than its text field, and its open list than the entries. The
+/// edges of Windows' controls are as thin at every scale.
 constexpr int kComboBorders = 6;
 
 /// Gives a combo box the height of its text field; the window itself is as high as its open list.
@@ -99,7 +101,7 @@ void FormControls::Apply(const ControlState& control, ControlProperty property) 
       ApplyVisible(control);
       break;
     case ControlProperty::kEnabled:
-      EnableWindow(window, IsEnabled(control));
+      EnableWindow(window, form_->IsEnabled(control));
       break;
     case ControlProperty::kValue:
       if (IsButtonKind(control.kind)) ShowValue(window, control);
@@ -143,12 +145,12 @@ void FormControls::ApplyPlace(const ControlState& control) {
 }
 
 void FormControls::ApplyVisible(const ControlState& control) {
-  ShowWindow(Window(control.id), IsVisible(control) ? SW_SHOWNA : SW_HIDE);
+  ShowWindow(Window(control.id), form_->IsVisible(control) ? SW_SHOWNA : SW_HIDE);
   ApplyTip(control);
 }
 
 void FormControls::ApplyTip(const ControlState& control) {
-  toolTips_.Show(Window(control.id), control.toolTip, IsVisible(control));
+  toolTips_.Show(Window(control.id), control.toolTip, form_->IsVisible(control));
 }
 
 void FormControls::ApplyIcon(const ControlState& control) {
@@ -167,14 +169,6 @@ HWND FormControls::Holder(const ControlState& control, POINT& origin) const {
   return Holder(container, origin);
 }
 
-bool FormControls::IsVisible(const ControlState& control) const {
-  return control.visible && (control.container == 0 || IsVisible(State(control.container)));
-}
-
-bool FormControls::IsEnabled(const ControlState& control) const {
-  return control.enabled && (control.container == 0 || IsEnabled(State(control.container)));
-}
-
 HWND FormControls::Window(int control) const {
   const auto index = static_cast<std::size_t>(control) - 1;
   return control > 0 && index < windows_.size() ? windows_[index] : nullptr;
@@ -191,10 +185,6 @@ int FormControls::IdOf(HWND window) const {
     if (found != windows_.end()) return static_cast<int>(found - windows_.begin()) + 1;
   }
   return 0;
-}
-
-const ControlState& FormControls::State(int control) const {
-  return form_->controls[static_cast<std::size_t>(control) - 1];
 }
 
 bool FormControls::IsListDropped(int control) const {

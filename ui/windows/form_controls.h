@@ -33,7 +33,7 @@ class FormControls {
   int IdOf(HWND window) const;
   /// The control of this number, as messages carry it; 0 when there is none or it has no window.
   int Find(WPARAM number) const;
-  const ControlState& State(int control) const;
+  const ControlState& State(int control) const { return form_->Control(control); }
   bool IsListDropped(int control) const;
   /// True while Update runs: events raised then are not the user's.
   bool Updating() const { return updating_; }
@@ -50,8 +50,6 @@ class FormControls {
   void ApplyIcon(const ControlState& control);
   /// The window that holds the control, and where the control's place is counted from in it.
   HWND Holder(const ControlState& control, POINT& origin) const;
-  bool IsVisible(const ControlState& control) const;
-  bool IsEnabled(const ControlState& control) const;
 
   const FormState* form_;
   HINSTANCE instance_;

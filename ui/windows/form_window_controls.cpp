@@ -164,6 +164,7 @@ void FormWindow::TellIfPicked(int control) {
 void FormWindow::OnControl(int control, UINT notification) {
   const ControlKind kind = controls_.State(control).kind;
   if (IsButtonKind(kind)) {
+    // The others report the second click of a double one, the focus or the looks.
     if (notification == BN_CLICKED) {
       events_.Tell([&](FormEvents& events) { events.OnClick(control); });
     }

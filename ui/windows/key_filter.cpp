@@ -9,6 +9,8 @@ constexpr LPARAM kWasDown = 1L << 30;
 /// Keys and characters are no greater, whatever another program posts.
 constexpr WPARAM kHighestUnit = 0xFFFF;
 
+/// Half of a character, which the form is not asked about: no access key is one of those that come
+/// in halves, and the control puts them together itself.
 bool IsSurrogate(WPARAM unit) { return unit >= 0xD800 && unit <= 0xDFFF; }
 
 }  // namespace

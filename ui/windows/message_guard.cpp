@@ -8,6 +8,8 @@
 #include <iterator>
 #include <string_view>
 
+#include "ui/windows/window_classes.h"
+
 namespace korvale {
 namespace {
 
@@ -73,7 +75,7 @@ Recipient OfClass(HWND window) {
   std::array<wchar_t, 64> buffer{};
   const int length = GetClassNameW(window, buffer.data(), static_cast<int>(buffer.size()));
   const std::wstring_view name(buffer.data(), static_cast<std::size_t>(length));
-  if (name.starts_with(L"Korvale.")) return Recipient::kForm;
+  if (name.starts_with(kClassPrefix)) return Recipient::kForm;
   if (name == TOOLTIPS_CLASSW) return Recipient::kToolTip;
   if (name == L"ComboLBox") return Recipient::kList;
   return name == L"#32770" ? Recipient::kDialogOfWindows : Recipient::kOther;

@@ -34,7 +34,7 @@ WindowClasses::~WindowClasses() {
 }
 
 std::wstring WindowClasses::Register(std::string_view name, WNDPROC procedure) {
-  const std::wstring fullName = L"Korvale." + ToUtf16(name);
+  const std::wstring fullName = std::wstring(kClassPrefix) + ToUtf16(name);
   if (std::ranges::find(registered_, fullName) != registered_.end()) return fullName;
   WNDCLASSEXW description{};
   description.cbSize = sizeof(description);

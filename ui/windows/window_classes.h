@@ -11,6 +11,9 @@
 
 namespace korvale {
 
+/// The names of our window classes begin so.
+inline constexpr std::wstring_view kClassPrefix = L"Korvale.";
+
 /// Number of the program's icon among its resources.
 inline constexpr WORD kIconResource = 1;
 
@@ -32,7 +35,7 @@ class WindowClasses {
   WindowClasses& operator=(const WindowClasses&) = delete;
 
   HINSTANCE Instance() const { return instance_; }
-  /// Class "Korvale." + `name`, with this procedure.
+  /// Class kClassPrefix + `name`, with this procedure.
   std::wstring Register(std::string_view name, WNDPROC procedure);
 
  private:
