@@ -9,7 +9,6 @@
 #include "ui/tool_tip.h"
 #include "ui/windows/message_guard.h"
 #include "ui/windows/system_fonts.h"
-#include "ui/windows/units.h"
 
 namespace korvale {
 namespace {
@@ -37,9 +36,7 @@ void ToolTips::Create(HWND form, HINSTANCE instance) {
   Send(TTM_SETDELAYTIME, TTDT_AUTOPOP, kToolTipMilliseconds);
 }
 
-void ToolTips::ChangeDpi() {
-  Send(TTM_SETMAXTIPWIDTH, 0, ToPixels(kWidestToolTip, GetDpiForWindow(form_)));
-}
+void ToolTips::ChangeDpi() { Send(TTM_SETMAXTIPWIDTH, 0, WidestToolTip(Dpi())); }
 
 void ToolTips::Drop() {
   // Windows destroys it together with a form that Windows itself destroys.
@@ -88,14 +85,16 @@ void ToolTips::Relay(const MSG& message) {
   Send(TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&copy));
 }
 
-Twips ToolTips::WidthOf(const std::string& text) const {
+int ToolTips::Dpi() const { return static_cast<int>(GetDpiForWindow(form_)); }
+
+int ToolTips::WidthOf(const std::string& text) const {
   const auto font = reinterpret_cast<HFONT>(SendMessageW(window_.Get(), WM_GETFONT, 0, 0));
-  return ToTwips(TextWidth(font, ToUtf16(text)), GetDpiForWindow(form_));
+  return TextWidth(font, ToUtf16(text));
 }
 
 void ToolTips::Add(HWND window, UINT_PTR id, UINT flags, const RECT& area,
                    const std::string& text) {
-  std::wstring copy = ToUtf16(ShownToolTip(text, WidthOf(text)));
+  std::wstring copy = ToUtf16(ShownToolTip(text, WidthOf(text), Dpi()));
   TTTOOLINFOW tool = Tool(window, id);
   tool.uFlags = flags;
   tool.rect = area;

@@ -4,7 +4,6 @@
 
 #include <string>
 
-#include "platform/types.h"
 #include "platform/windows/handles.h"
 
 namespace korvale {
@@ -31,7 +30,8 @@ class ToolTips {
   static LRESULT CALLBACK Guard(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
                                 DWORD_PTR tips);
   void Send(UINT message, WPARAM wParam, LPARAM lParam);
-  Twips WidthOf(const std::string& text) const;
+  int Dpi() const;
+  int WidthOf(const std::string& text) const;
   void Add(HWND window, UINT_PTR id, UINT flags, const RECT& area, const std::string& text);
   void Remove(HWND window, UINT_PTR id);
 
