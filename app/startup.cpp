@@ -44,10 +44,12 @@ void StartUp::Initialise(frmMain& form, MainParts& parts) {
   parts.state.startUpFinished = true;
   form.Form_Resize();
   if (parts.state.firstRun) {
-    SaveScope save(parts.settings);
-    form.udmSaveINI();
-    form.udmSaveOptions();
-    form.CommitOrTellOnce(save);
+    form.SaveOrTellOnce([&] {
+      SaveScope save(parts.settings);
+      form.udmSaveINI();
+      form.udmSaveOptions();
+      save.Commit();
+    });
   }
   // Before the main window comes up, since the user may be taken to another window then.
   MentionRefusedHotKeys(form, parts.hotKeys);
@@ -79,9 +81,11 @@ bool StartUp::RunInstallation(frmMain& form, MainParts& parts) {
       RunInstallationRule(parts.identity, parts.settings, platform_->system, parts.messages);
   // The session may end while the question is shown.
   if (!result.takeOverFrom.empty() && form.IsLoaded()) {
-    SaveScope save(parts.settings);
-    form.UseSettings(TakeOver(parts.settings, result.takeOverFrom, save));
-    form.CommitOrTellOnce(save);
+    form.SaveOrTellOnce([&] {
+      SaveScope save(parts.settings);
+      form.UseSettings(TakeOver(parts.settings, result.takeOverFrom, save));
+      save.Commit();
+    });
   }
   EndIfUnloaded(form);
   parts.state.firstRun = result.firstRun;
@@ -200,9 +204,7 @@ void StartUp::AskToReviewHotKeys(frmMain& form, MainParts& parts) {
 void StartUp::Unload(frmMain& form, MainParts& parts, bool booNormalShutDown) {
   if (booNormalShutDown) {
     form.udmTimersEnabled(false);
-    SaveScope save(parts.settings);
-    form.udmSaveINI();
-    form.CommitOrTellOnce(save);
+    form.SaveOrTellOnce([&] { form.udmSaveINI(); });
   }
   parts.desktop.tagPasses.RemoveClosed();
   parts.hotKeys.SetHotKeys("REMOVE");

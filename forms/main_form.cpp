@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "app/core/error_reports.h"
+#include "app/core/save_scope.h"
 #include "desktop/tag_list_storage.h"
 #include "forms/main_form_design.h"
 #include "hotkeys/hot_key_names.h"
@@ -72,9 +73,7 @@ void frmMain::udmSaveOptions() { parts_.settings.SaveOptions(parts_.options.Get(
 
 void frmMain::udmDeleteOptions() {
   // A failed deletion stops nothing, but the user must not mistake old values for defaults.
-  SaveScope save(parts_.settings);
-  parts_.settings.DeleteOptions();
-  CommitOrTell(save);
+  SaveOrTell([this] { parts_.settings.DeleteOptions(); });
 }
 
 void frmMain::udmSaveINI() {
@@ -82,21 +81,25 @@ void frmMain::udmSaveINI() {
 }
 
 void frmMain::SaveOrTell() {
-  SaveScope save(parts_.settings);
-  udmSaveOptions();
-  udmSaveINI();
-  CommitOrTell(save);
+  SaveOrTell([this] {
+    SaveScope save(parts_.settings);
+    udmSaveOptions();
+    udmSaveINI();
+    save.Commit();
+  });
 }
 
-void frmMain::CommitOrTell(SaveScope& save) {
+void frmMain::SaveOrTell(const std::function<void()>& save) {
   const bool told = std::exchange(refusalTold_, false);
-  CommitOrTellOnce(save);
+  SaveOrTellOnce(save);
   refusalTold_ = refusalTold_ || told;
 }
 
-void frmMain::CommitOrTellOnce(SaveScope& save) {
+void frmMain::SaveOrTellOnce(const std::function<void()>& save) {
   try {
-    save.Commit();
+    save();
+  } catch (const ProgramEnded&) {
+    throw;
   } catch (...) {
     if (std::exchange(refusalTold_, true)) return;
     udmNonFatalError(ErrorPlace::kSaving, CurrentErrorNumber());

@@ -1,13 +1,13 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 
 #include "app/core/identity.h"
 #include "app/core/installation.h"
-#include "app/core/save_scope.h"
 #include "desktop/main_window.h"
 #include "forms/about_form.h"
 #include "forms/color_customizing.h"
@@ -57,9 +57,9 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   void udmDeleteOptions() override;
   void udmSaveINI();
   void SaveOrTell() override;
-  /// Commits a save that the program makes by itself; tells the user when the store refuses it,
+  /// Runs a save that the program makes by itself; tells the user when it fails, in whatever step,
   /// unless they know already.
-  void CommitOrTellOnce(SaveScope& save);
+  void SaveOrTellOnce(const std::function<void()>& save);
   /// Reads the main window's state and the Tag list from the store.
   void LoadStartupSettings();
   /// Replaces all settings by those loaded elsewhere.
@@ -155,8 +155,8 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
     const char* name_;
   };
 
-  /// Commits a save that the user asked for; tells them each time that the store refuses it.
-  void CommitOrTell(SaveScope& save);
+  /// Runs a save that the user asked for; tells them each time that it fails.
+  void SaveOrTell(const std::function<void()>& save);
   void BindMenus();
   void BindWindowMenu();
   void ShowAddWindow(AddWindowMode mode);

@@ -1,3 +1,4 @@
+#include <stdexcept>
 #include <utility>
 
 #include "platform/win32_constants.h"
@@ -85,6 +86,26 @@ TEST_F(ImportTest, AnImportOfAlwaysOnTopStillAsksAboutTheHotKeys) {
   EXPECT_TRUE(korvale.Start());
   EXPECT_TRUE(korvale.Startup().AlwaysOnTop);
   EXPECT_TRUE(korvale.State().firstActivation);
+}
+
+TEST_F(ImportTest, OneThatCannotBeReadIsToldAndTheProgramStartsWithTheDefaults) {
+  StoreOldInstallation(store, "Korvale - Old");
+  const StoredValues before = ValuesOf(store, "Korvale - Old");
+  log.WhenCalled("GetSetting(Korvale - Old, Startup, Left",
+                 [] { throw std::runtime_error("broken"); });
+  KorvaleCopy& korvale = NewCopy();
+  korvale.host.AnswerNext(win32::kIdYes);
+  korvale.host.WhenMessageBox([](const ShownMessage& box) {
+    EXPECT_EQ(box.text, "VB ERROR 51 - Internal error\r\rKorvale Error #5");
+    return win32::kIdOk;
+  });
+  korvale.host.AnswerNext(win32::kIdNo);
+  EXPECT_TRUE(korvale.Start());
+  EXPECT_EQ(korvale.host.Messages().size(), 3U);
+  EXPECT_TRUE(korvale.State().firstActivation);
+  EXPECT_EQ(korvale.Options().intHotKeyModParent, 1);
+  EXPECT_FALSE(hotKeys.Registered().empty());
+  EXPECT_EQ(ValuesOf(store, "Korvale - Old"), before);
 }
 
 /// A value of the other installation that is taken over.

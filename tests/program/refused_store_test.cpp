@@ -78,5 +78,24 @@ TEST_F(RefusalTest, ARefusalIsToldForEachSaveThatTheUserAsksFor) {
   EXPECT_EQ(korvale.host.Messages().size(), 2U);
 }
 
+TEST_F(RefusalTest, AnErrorBeforeAnythingIsStoredIsToldToo) {
+  KorvaleCopy& korvale = StartedCopy();
+  korvale.Form().udmUnload(false);
+  korvale.host.WhenMessageBox([](const ShownMessage& box) {
+    EXPECT_EQ(box.text,
+              "VB ERROR 91 - Object variable or With block variable not set\r\rKorvale Error #5");
+    return win32::kIdOk;
+  });
+  korvale.Form().SaveOrTell();
+  EXPECT_EQ(korvale.host.Messages().size(), 1U);
+}
+
+TEST_F(RefusalTest, TheEndOfTheProgramDuringASaveIsNoRefusal) {
+  KorvaleCopy& korvale = StartedCopy();
+  log.WhenCalled("SaveSetting", [] { throw ProgramEnded{}; });
+  korvale.user.ChooseMenu(korvale.Handle(), {"View", "Target Window"});
+  EXPECT_TRUE(korvale.host.Messages().empty());
+}
+
 }  // namespace
 }  // namespace korvale

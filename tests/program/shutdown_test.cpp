@@ -177,6 +177,17 @@ TEST_F(ShutdownTest, AnyErrorOfASaveLeavesTheHotKeysGivenBack) {
   EXPECT_FALSE(korvale.Form().IsLoaded());
 }
 
+TEST_F(ShutdownTest, AStoreThatCannotBeReadLeavesTheHotKeysGivenBack) {
+  KorvaleCopy& korvale = StartedCopy();
+  korvale.host.AnswerNext(win32::kIdOk);
+  log.WhenCalled("GetAllSettings", [] { throw std::runtime_error("broken"); });
+  korvale.Exit();
+  EXPECT_EQ(korvale.host.Messages().size(), 1U);
+  EXPECT_TRUE(hotKeys.Registered().empty());
+  EXPECT_FALSE(korvale.HasOptions());
+  EXPECT_FALSE(korvale.Form().IsLoaded());
+}
+
 TEST_F(ShutdownTest, TagsOfClosedWindowsStayStoredButLeaveTheMenuAtShutdown) {
   const WindowHandle alpha = Open("Alpha");
   KorvaleCopy& korvale = StartedCopy();
