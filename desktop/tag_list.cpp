@@ -18,9 +18,7 @@ void ForEachTag(const TagList& tags, Visit visit) {
 
 }  // namespace
 
-std::string IdentificationText(const MenuItem& entry) {
-  return Trim(MidCharacters(entry.caption, kTagPrefixLength + 1));
-}
+std::string IdentificationText(const MenuItem& entry) { return WithoutTagPrefix(entry.caption); }
 
 WindowHandle TagHandle(const MenuItem& entry) { return ParseInt32(entry.tag).value_or(0); }
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "util/text.h"
+#include "app/core/stored_tags.h"
 
 namespace korvale {
 namespace {
@@ -34,7 +34,7 @@ std::string_view RightTitlePart(std::string_view title) {
 
 bool TitleMatches(std::string_view storedText, std::string_view liveTitle, bool stripPrefix) {
   if (!stripPrefix) return Matches(storedText, liveTitle);
-  return Matches(Trim(MidCharacters(storedText, 3)), liveTitle);
+  return Matches(WithoutTagPrefix(storedText), liveTitle);
 }
 
 }  // namespace korvale

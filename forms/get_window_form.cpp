@@ -25,9 +25,14 @@ constexpr Twips kButtonTopWithoutChildSection = 2700;
 constexpr int kLabelColumns = 50;
 constexpr int kChoiceColumns = 72;
 
+/// How the list shows a Tag: its caption without the mark of the access key.
+std::string ListText(int tag, std::string_view identification) {
+  return TagCaption(tag, identification).substr(1);
+}
+
 /// What a Tag of the list stands for, "" when it is free.
 std::string AssignedText(std::string_view item) {
-  return item.empty() ? "" : Trim(MidCharacters(item, 2));
+  return WithoutTagPrefix("&" + std::string(item));
 }
 
 std::string ShownChoice(int index, const std::string& identification) {
@@ -89,7 +94,7 @@ void frmGetWindow::FillTags() {
     if (!IsTag(entry.index)) return;
     std::string text = IdentificationText(entry);
     if (text.empty()) text = "(window without a title)";
-    tags.SetItemText(entry.index - 1, DecimalText(entry.index) + "  " + text);
+    tags.SetItemText(entry.index - 1, ListText(entry.index, text));
   });
 }
 
@@ -163,9 +168,8 @@ void frmGetWindow::cmdOK_Click() {
   if (tags.ListIndex() < 0) return;
   const int tag = tags.SelectedText().front() - '0';
   RemoveEntry(tags.SelectedItemData());
-  const std::string caption = TagCaption(tag, ChosenIdentification());
   const bool ofChild = Find("chkChildWindow").Value() == 1;
-  AddEntry(tag, ofChild ? caption.substr(1) : caption);
+  AddEntry(tag, (ofChild ? ListText : TagCaption)(tag, ChosenIdentification()));
   cmdClose_Click();
 }
 

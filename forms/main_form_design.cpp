@@ -63,7 +63,7 @@ constexpr auto kMenus = std::to_array<MenuRow>({
     {1, "mnuWindowMinimizeAll", -1, "&Minimize All"},
     {1, "mnuWindowRestoreAll", -1, "&Restore All"},
     {1, "mnuWindowSpace30", -1, "-"},
-    {1, "mnuWindowParentList", 0, "&0  Previous Window"},
+    {1, "mnuWindowParentList", 0, ""},
     {1, "mnuWindowChildList", -1, ""},
     {1, "mnuWindowSpace40", -1, "-"},
     {1, "mnuWindowAddToList", 1, ""},

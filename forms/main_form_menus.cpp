@@ -43,6 +43,7 @@ void frmMain::BindMenus() {
 }
 
 void frmMain::BindWindowMenu() {
+  Menu("mnuWindowParentList", 0).caption = TagCaption(0, "Previous Window");
   WhenMenuOpens("mnuWindow", [this](int) {
     windowMenu_.mnuWindow_Click();
     FitMenuToScreen(platform_->screen, Handle(), Menu("mnuWindow"));

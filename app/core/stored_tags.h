@@ -21,6 +21,11 @@ inline std::string TagCaption(int number, std::string_view identification) {
   return "&" + DecimalText(number) + "  " + std::string(identification);
 }
 
+/// The identification text of a Tag's caption: without the first two characters, trimmed.
+inline std::string WithoutTagPrefix(std::string_view caption) {
+  return Trim(MidCharacters(caption, kTagPrefixLength + 1));
+}
+
 /// One Tag as it is kept between runs.
 struct StoredTag {
   int number = 1;
