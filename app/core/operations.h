@@ -27,34 +27,40 @@ struct OperationRow {
   const char* name;         ///< Of its hot key.
   const char* description;  ///< What the hot key does, in words.
   OperationGroup group;
-  int index;               ///< Of its option fields, settings and controls among the group's.
-  std::int16_t modifiers;  ///< By default: a sum of MOD_ values.
-  std::int16_t key;        ///< By default: a virtual-key code.
-  const char* label;       ///< In the Options dialog.
-  const char* note;        ///< The explanation beside its lists, also in the tool tips.
+  int index;                     ///< Of its option fields and controls among the group's.
+  const char* modifiersSetting;  ///< Where its modifiers are stored.
+  const char* keySetting;        ///< Where its key is stored.
+  std::int16_t modifiers;        ///< By default: a sum of MOD_ values.
+  std::int16_t key;              ///< By default: a virtual-key code.
+  const char* label;             ///< In the Options dialog.
+  const char* note;              ///< The explanation beside its lists, also in the tool tips.
 };
 
-/// In the order of registration and of the Options dialog.
+/// In the order of the enumerators, of registration and of the Options dialog.
 inline constexpr std::array kOperations = std::to_array<OperationRow>({
     {Operation::kMinimize, "HOTKEY_MINIMIZE_PARENT", "Minimize Parent Window",
-     OperationGroup::kAction, 0, win32::kModAlt, win32::kVkDown, " Minimize Window",
-     " minimizes individual desktop windows "},
+     OperationGroup::kAction, 0, "HotKeyModAction0", "HotKeyAction0", win32::kModAlt,
+     win32::kVkDown, " Minimize Window", " minimizes individual desktop windows "},
     {Operation::kRestoreMaximize, "HOTKEY_RESTORE/MAXIMIZE_PARENT",
-     "Restore/Maximize Parent Window", OperationGroup::kAction, 1, win32::kModAlt, win32::kVkUp,
-     " Maximize/Restore Window", " alternately maximizes/restores individual desktop windows "},
+     "Restore/Maximize Parent Window", OperationGroup::kAction, 1, "HotKeyModAction1",
+     "HotKeyAction1", win32::kModAlt, win32::kVkUp, " Maximize/Restore Window",
+     " alternately maximizes/restores individual desktop windows "},
     {Operation::kDisplayOptions, "HOTKEY_DISPLAY_OPTIONS", "Display Options",
-     OperationGroup::kGeneral, 0, win32::kModWin, 'O', " Display Options",
-     " displays the Options dialog box (this dialog box) "},
+     OperationGroup::kGeneral, 0, "HotKeyModGeneral0", "HotKeyGeneral0", win32::kModWin, 'O',
+     " Display Options", " displays the Options dialog box (this dialog box) "},
     {Operation::kWindowMenuPopup, "HOTKEY_WINDOW_MENU_POPUP", "Display Window Menu",
-     OperationGroup::kGeneral, 1, win32::kModWin, 'W', " Display Window Menu",
+     OperationGroup::kGeneral, 1, "HotKeyModGeneral1", "HotKeyGeneral1", win32::kModWin, 'W',
+     " Display Window Menu",
      " displays the pop-up version of the Window menu anywhere on the desktop "},
     {Operation::kToggleHotKeys, "HOTKEY_TOGGLE_HOTKEYS", "Toggle All Hot Keys ON/OFF",
-     OperationGroup::kGeneral, 2, 0, win32::kVkPause, " Activate/Deactivate Hot Keys",
+     OperationGroup::kGeneral, 2, "HotKeyModGeneral2", "HotKeyGeneral2", 0, win32::kVkPause,
+     " Activate/Deactivate Hot Keys",
      " toggles all system-wide Hot Keys ON/OFF (except this one) "},
 });
 
-constexpr const OperationRow& RowOf(Operation operation) {
-  return *std::ranges::find(kOperations, operation, &OperationRow::operation);
+/// Does not compile for an operation without a row.
+consteval const OperationRow& RowOf(Operation operation) {
+  return kOperations.at(static_cast<std::size_t>(operation));
 }
 
 /// The operation of a hot-key name, exact and case-sensitive; null for every other name.
@@ -66,6 +72,18 @@ constexpr const OperationRow* FindOperation(std::string_view name) {
 constexpr std::size_t OperationCount(OperationGroup group) {
   return static_cast<std::size_t>(std::ranges::count(kOperations, group, &OperationRow::group));
 }
+
+/// True when each row stands at its enumerator's place and the indexes of each group count from 0.
+consteval bool OperationsAreInOrder() {
+  std::size_t place = 0;
+  std::array<int, 2> next{};
+  for (const OperationRow& row : kOperations) {
+    if (static_cast<std::size_t>(row.operation) != place++) return false;
+    if (row.index != next.at(static_cast<std::size_t>(row.group))++) return false;
+  }
+  return true;
+}
+static_assert(OperationsAreInOrder());
 
 /// One value for each operation of a group.
 template <OperationGroup Group>

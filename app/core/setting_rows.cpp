@@ -1,8 +1,11 @@
 #include "app/core/setting_rows.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
+#include <tuple>
 #include <type_traits>
+#include <utility>
 
 #include "util/text.h"
 
@@ -27,7 +30,7 @@ SettingField Startup(StartupSettings& startup) {
 template <std::size_t Tag>
 constexpr auto kTagEnabled = OptionAt<&clsOptions::booHotKeyParent, Tag>;
 
-constexpr std::array kOptionRows = std::to_array<SettingRow<clsOptions>>({
+constexpr std::array kPlainRows = std::to_array<SettingRow<clsOptions>>({
     {kOptionsSection, "SplashScreen", Option<&clsOptions::booSplashScreen>},
     {kOptionsSection, "SelectPrevWinOnStart", Option<&clsOptions::booSelectPrevWinOnStart>},
     {kOptionsSection, "AllowNoTextWindow", Option<&clsOptions::booAllowNoTextWindow>},
@@ -44,18 +47,37 @@ constexpr std::array kOptionRows = std::to_array<SettingRow<clsOptions>>({
     {kOptionsSection, "HotKeyParent7", kTagEnabled<7>},
     {kOptionsSection, "HotKeyParent8", kTagEnabled<8>},
     {kOptionsSection, "HotKeyParent9", kTagEnabled<9>},
-    {kOptionsSection, "HotKeyModAction0", OptionAt<&clsOptions::intHotKeyModAction, 0>},
-    {kOptionsSection, "HotKeyModAction1", OptionAt<&clsOptions::intHotKeyModAction, 1>},
-    {kOptionsSection, "HotKeyAction0", OptionAt<&clsOptions::intHotKeyAction, 0>},
-    {kOptionsSection, "HotKeyAction1", OptionAt<&clsOptions::intHotKeyAction, 1>},
-    {kOptionsSection, "HotKeyModGeneral0", OptionAt<&clsOptions::intHotKeyModGeneral, 0>},
-    {kOptionsSection, "HotKeyModGeneral1", OptionAt<&clsOptions::intHotKeyModGeneral, 1>},
-    {kOptionsSection, "HotKeyModGeneral2", OptionAt<&clsOptions::intHotKeyModGeneral, 2>},
-    {kOptionsSection, "HotKeyGeneral0", OptionAt<&clsOptions::intHotKeyGeneral, 0>},
-    {kOptionsSection, "HotKeyGeneral1", OptionAt<&clsOptions::intHotKeyGeneral, 1>},
-    {kOptionsSection, "HotKeyGeneral2", OptionAt<&clsOptions::intHotKeyGeneral, 2>},
 });
-static_assert(kOptionRows.size() == 16 + 2 * kOperations.size(), "an operation is not stored");
+
+/// The modifiers (column 0) or the key (column 1) of an operation.
+template <std::size_t Column, std::size_t Row>
+SettingField OfOperation(clsOptions& options) {
+  return &std::get<Column>(OperationFields(options, kOperations[Row]));
+}
+
+template <std::size_t Column, std::size_t... Rows>
+constexpr auto OperationSettings(const char* OperationRow::*key,
+                                 std::index_sequence<Rows...> /*all*/) {
+  return std::to_array<SettingRow<clsOptions>>(
+      {{kOptionsSection, kOperations[Rows].*key, OfOperation<Column, Rows>}...});
+}
+
+/// All plain options, then of each group of operations all modifiers and all keys.
+constexpr auto kOptionRows = [] {
+  constexpr std::make_index_sequence<kOperations.size()> kAll;
+  const std::array columns = {OperationSettings<0>(&OperationRow::modifiersSetting, kAll),
+                              OperationSettings<1>(&OperationRow::keySetting, kAll)};
+  std::array<SettingRow<clsOptions>, kPlainRows.size() + 2 * kOperations.size()> rows{};
+  auto next = std::ranges::copy(kPlainRows, rows.begin()).out;
+  for (const OperationGroup group : {OperationGroup::kAction, OperationGroup::kGeneral}) {
+    for (const auto& column : columns) {
+      for (std::size_t i = 0; i < column.size(); ++i) {
+        if (kOperations[i].group == group) *next++ = column[i];
+      }
+    }
+  }
+  return rows;
+}();
 
 constexpr SettingRow<StartupSettings> PlaceRow(const char* key,
                                                SettingField (*field)(StartupSettings&)) {

@@ -215,14 +215,23 @@ TEST_F(SettingsTest, SectionsAreDeletedInTheirOrder) {
 }
 
 TEST_F(SettingsTest, OptionsAreWrittenInTheOrderOfTheTable) {
-  settings_.SaveOptions(clsOptions());
-  const std::vector<std::string> changes = Changes();
-  ASSERT_EQ(changes.size(), OptionRows().size());
-  for (std::size_t i = 0; i < changes.size(); ++i) {
-    const std::string expected =
-        std::string("SaveSetting(Korvale - Work, Options, ") + OptionRows()[i].key + ", ";
-    EXPECT_TRUE(changes[i].starts_with(expected)) << changes[i];
-  }
+  settings_.SaveOptions(UnusualOptions());
+  const std::string save = "SaveSetting(Korvale - Work, Options, ";
+  const std::vector<std::string> expected = {
+      save + "SplashScreen, \"False\")",        save + "SelectPrevWinOnStart, \"True\")",
+      save + "AllowNoTextWindow, \"True\")",    save + "AllowToolbarWindow, \"True\")",
+      save + "HotKeyEnabled, \"-2147483633\")", save + "HotKeyModParent, \"3\")",
+      save + "HotKeyParent0, \"False\")",       save + "HotKeyParent1, \"True\")",
+      save + "HotKeyParent2, \"False\")",       save + "HotKeyParent3, \"True\")",
+      save + "HotKeyParent4, \"False\")",       save + "HotKeyParent5, \"True\")",
+      save + "HotKeyParent6, \"False\")",       save + "HotKeyParent7, \"True\")",
+      save + "HotKeyParent8, \"False\")",       save + "HotKeyParent9, \"True\")",
+      save + "HotKeyModAction0, \"4\")",        save + "HotKeyModAction1, \"5\")",
+      save + "HotKeyAction0, \"0\")",           save + "HotKeyAction1, \"112\")",
+      save + "HotKeyModGeneral0, \"6\")",       save + "HotKeyModGeneral1, \"7\")",
+      save + "HotKeyModGeneral2, \"15\")",      save + "HotKeyGeneral0, \"65\")",
+      save + "HotKeyGeneral1, \"66\")",         save + "HotKeyGeneral2, \"67\")"};
+  EXPECT_EQ(Changes(), expected);
 }
 
 TEST_F(SettingsTest, DeleteOptionsDoesNothingWhenNoneAreStored) {
