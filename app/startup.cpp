@@ -83,7 +83,7 @@ bool StartUp::RunInstallation(frmMain& form, MainParts& parts) {
   if (!result.takeOverFrom.empty() && form.IsLoaded()) {
     form.SaveOrTellOnce([&] {
       SaveScope save(parts.settings);
-      form.UseSettings(TakeOver(parts.settings, result.takeOverFrom, save));
+      form.UseSettings(TakeOver(parts.settings, result.takeOverFrom));
       save.Commit();
     });
   }

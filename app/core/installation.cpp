@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "app/core/save_scope.h"
 #include "platform/win32_constants.h"
 #include "util/text.h"
 
@@ -123,7 +124,7 @@ InstallationResult RunInstallationRule(const ProgramIdentity& identity, Settings
   return InstallationRule(identity, settings, system, messages).Run();
 }
 
-InstallationSettings TakeOver(Settings& settings, const std::string& other, SaveScope& save) {
+InstallationSettings TakeOver(Settings& settings, const std::string& other) {
   InstallationSettings taken;
   {
     const PointedAt from(settings, other);
@@ -132,6 +133,7 @@ InstallationSettings TakeOver(Settings& settings, const std::string& other, Save
     taken.tags = settings.LoadTagList();
   }
   Settings::ForgetPlacement(taken.startup);
+  SaveScope save(settings);
   settings.SaveOptions(taken.options);
   settings.SaveINI(taken.startup, taken.tags);
   settings.DeletePlacement();
@@ -140,6 +142,7 @@ InstallationSettings TakeOver(Settings& settings, const std::string& other, Save
   const PointedAt removed(settings, other);
   settings.DeleteINI();
   settings.DeleteOptions();
+  save.Commit();
   return taken;
 }
 

@@ -6,7 +6,6 @@
 
 #include "app/core/identity.h"
 #include "app/core/message_boxes.h"
-#include "app/core/save_scope.h"
 #include "app/core/settings.h"
 #include "platform/system_api.h"
 
@@ -44,11 +43,11 @@ struct InstallationSettings {
   StoredTagList tags;
 };
 
-/// Loads the settings of another installation, with the window's place at its default, and adds to
-/// `save` the changes that store them under this one's name and delete the other's. They are one
-/// save: at any moment the settings stand under one of the two names, even when the store refuses
-/// some.
-InstallationSettings TakeOver(Settings& settings, const std::string& other, SaveScope& save);
+/// Loads the settings of another installation, with the window's place at its default, stores
+/// them under this one's name and deletes the other's. That is one save, or part of the open
+/// SaveScope: at any moment the settings stand under one of the two names, even when the store
+/// refuses some.
+InstallationSettings TakeOver(Settings& settings, const std::string& other);
 
 /// The settings application names (each also a main caption) under which this installation is
 /// registered: started through the root of a share it has a different one.

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "platform/run_time_error.h"
+
 namespace korvale {
 
 SaveScope::SaveScope(SavingStore& store)
@@ -25,6 +27,9 @@ void SaveScope::DeleteSection(const std::string& appName, const std::string& sec
 }
 
 void SaveScope::Commit() {
+  if (store_ == nullptr || store_->openScope_ != this) {
+    throw RunTimeError(RunTimeError::kInternalError);
+  }
   // Closed first, so that what the program saves while it reports a failure is a separate save.
   Close();
   if (outer_ == nullptr) return journal_.Commit(changes_);
@@ -32,7 +37,12 @@ void SaveScope::Commit() {
 }
 
 void SaveScope::Close() {
-  if (store_ != nullptr) std::exchange(store_, nullptr)->openScope_ = outer_;
+  if (store_ == nullptr) return;
+  // Scopes still open inside this one would lead to it.
+  for (SaveScope* inner = store_->openScope_; inner != this; inner = inner->outer_) {
+    inner->store_ = nullptr;
+  }
+  std::exchange(store_, nullptr)->openScope_ = outer_;
 }
 
 }  // namespace korvale

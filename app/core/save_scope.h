@@ -39,7 +39,7 @@ class SavingStore {
 /// Saves that belong together. Commit makes, as one save, everything that was saved or deleted
 /// through the settings while the scope was open or was added to it; without Commit nothing is
 /// made. Until then reads see the store unchanged. A scope inside another one hands its changes to
-/// the outer one.
+/// the outer one and is closed, with nothing made, when that one is closed first.
 class SaveScope {
  public:
   explicit SaveScope(SavingStore& store);
@@ -58,7 +58,8 @@ class SaveScope {
   /// store refuses is lost under both names.
   void DeleteLast() { deletesLast_ = true; }
 
-  /// Closes the scope and makes its changes, once. Throws what SaveJournal::Commit throws.
+  /// Closes the scope and makes its changes, once. Throws what SaveJournal::Commit throws; throws
+  /// RunTimeError 51 (Internal error) and makes nothing unless this is the innermost open scope.
   void Commit();
 
  private:

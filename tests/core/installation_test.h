@@ -34,7 +34,7 @@ class InstallationTest : public testing::Test {
     const InstallationResult result = RunInstallationRule(identity_, settings, system_, messages_);
     if (!result.takeOverFrom.empty()) {
       SaveScope save(settings);
-      taken_ = TakeOver(settings, result.takeOverFrom, save);
+      taken_ = TakeOver(settings, result.takeOverFrom);
       save.Commit();
     }
     EXPECT_EQ(settings.AppName(), identity_.mainCaption);
