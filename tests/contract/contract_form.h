@@ -138,6 +138,7 @@ class RecordingForm : public Form {
   std::function<void(int& key, unsigned shift)> onKeyUp;
   std::function<void(const MouseInput& input)> onMouse;
   std::function<void()> onLoad;
+  std::function<void()> onResize;
   bool logsMouse = false;
   bool refusesToClose = false;
   int activations = 0;
@@ -150,7 +151,10 @@ class RecordingForm : public Form {
     if (onLoad) onLoad();
   }
   void Form_Activate() override { ++activations; }
-  void Form_Resize() override { ++resizes; }
+  void Form_Resize() override {
+    ++resizes;
+    if (onResize) onResize();
+  }
   void Form_Unload() override { log.emplace_back("unload"); }
   void Form_QueryUnload(bool& cancel, CloseReason reason) override {
     closeReasons.push_back(reason);

@@ -195,6 +195,19 @@ TEST_F(FormHostContract, AReleaseIsSeenWhereTheFocusIsByThen) {
   EXPECT_EQ(released, std::vector<int>{win32::kVkHome});
 }
 
+TEST_F(FormHostContract, ATextOfOneLineGetsNoCharacterThatItWouldBeepAt) {
+  ShowForm();
+  form_.Find("cmdGo").SetEnabled(false);
+  form_.Find("cmdClose").SetEnabled(false);
+  const std::string given = User().CharactersFor(Window(), Id("txtName"), [&] {
+    Press(win32::kVkReturn);
+    Press(win32::kVkEscape);
+    Type("a");
+  });
+  EXPECT_EQ(given, "a");
+  EXPECT_EQ(Text("txtName"), "a");
+}
+
 TEST_F(FormHostContract, AltF4AsksTheFormToCloseUnlessItDealsWithTheKey) {
   ShowForm();
   form_.onKeyDown = [](int& key, unsigned shift) {

@@ -117,4 +117,15 @@ TEST_F(FormHostContract, AnErrorInAMenuReachesTheReporter) {
   EXPECT_EQ(reported, 1);
 }
 
+TEST_F(FormHostContract, AltOpensNoMenuOnceAKeyWasTakenWithIt) {
+  ShowForm();
+  User().HoldKey(Window(), win32::kVkMenu, 0);
+  User().HoldKey(Window(), 'S', 0);
+  User().ReleaseKey(Window(), win32::kVkMenu);
+  User().ReleaseKey(Window(), 'S');
+  EXPECT_EQ(form_.Take(), Lines{"click cmdStay"});
+  Press(win32::kVkSpace);
+  EXPECT_EQ(form_.Take(), Lines{"click cmdStay"});
+}
+
 }  // namespace korvale

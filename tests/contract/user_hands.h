@@ -84,7 +84,11 @@ class UserHands {
   virtual void MoveMouse(WindowHandle hwnd, int control, Twips x, Twips y) = 0;
   /// Presses and releases a key in the control that has the focus. `shift` keys are held.
   virtual void PressKey(WindowHandle hwnd, int virtualKey, unsigned shift = kNoShift) = 0;
-  /// Presses a key and holds it until it has been repeated so many times.
+  /// The ASCII characters that a control is given by the keyboard while `doing` runs.
+  virtual std::string CharactersFor(WindowHandle hwnd, int control,
+                                    const std::function<void()>& doing) = 0;
+  /// Presses a key and holds it until it has been repeated so many times. A menu that nobody has
+  /// asked for fails the test when Alt is released.
   virtual void HoldKey(WindowHandle hwnd, int virtualKey, int repeats) = 0;
   /// Releases a key in the control that has the focus by now.
   virtual void ReleaseKey(WindowHandle hwnd, int virtualKey) = 0;

@@ -71,6 +71,16 @@ TEST_F(FormHostContract, AFormOfAFixedHeightChangesInWidthOnly) {
   EXPECT_EQ(strip_.Place().height, 1500);
 }
 
+TEST_F(FormHostContract, AFormThatInsistsOnARefusedPlaceHearsOfItOnce) {
+  strip_.Load();
+  strip_.SetSizeLimits({.minimumWidth = 3000});
+  strip_.onResize = [&] { strip_.SetPlace({1200, 1200, 2250, 1500}); };
+  strip_.Show();
+  EXPECT_EQ(User().Place(strip_.Handle()), (TwipsRect{1200, 1200, 3000, 1500}));
+  // Shown, refused, and resized twice by itself.
+  EXPECT_EQ(strip_.resizes, 4);
+}
+
 TEST_F(FormHostContract, AMaximizedFormStaysSoUnderAnotherHeight) {
   strip_.SetSizeLimits({.height = 1500});
   strip_.Show();

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <string>
+#include <utility>
 
 #include "platform/win32_constants.h"
 #include "tests/fakes/headless_user.h"
@@ -17,6 +18,13 @@ bool OpensOrClosesList(int virtualKey, unsigned shift) {
   const bool alt = (shift & kAlt) != 0;
   return (virtualKey == win32::kVkF4 && !alt) ||
          (alt && (virtualKey == win32::kVkDown || virtualKey == win32::kVkUp));
+}
+
+/// The keyboard gives these keys, which controls see as keys, as characters too.
+bool IsCharacterToo(int virtualKey, unsigned shift) {
+  return (shift & (kCtrl | kAlt)) == 0 &&
+         (virtualKey == win32::kVkReturn || virtualKey == win32::kVkEscape ||
+          virtualKey == win32::kVkTab);
 }
 
 /// The entry that an arrow, Home or End key leads to; -1 = the key does not move.
@@ -86,11 +94,30 @@ void HeadlessUser::TypeText(WindowHandle hwnd, std::string_view text, bool alt) 
 }
 
 void HeadlessUser::HoldKey(WindowHandle hwnd, int virtualKey, int repeats) {
-  for (int i = 0; i <= repeats; ++i) GoDown(hwnd, KeyOf(virtualKey, kNoShift), i > 0);
+  const bool alt = virtualKey == win32::kVkMenu;
+  altHeld_ = altHeld_ || alt;
+  for (int i = 0; i <= repeats; ++i) {
+    if (!GoDown(hwnd, KeyOf(virtualKey, altHeld_ ? kAlt : kNoShift), i > 0)) altAlone_ = alt;
+  }
 }
 
 void HeadlessUser::ReleaseKey(WindowHandle hwnd, int virtualKey) {
-  ComeUp(hwnd, KeyOf(virtualKey, kNoShift), false);
+  const bool alt = virtualKey == win32::kVkMenu;
+  if (alt) altHeld_ = false;
+  if (ComeUp(hwnd, KeyOf(virtualKey, altHeld_ ? kAlt : kNoShift), false) || !alt) return;
+  // Alt pressed and released by itself is the way into the menu bar.
+  const HeadlessWindow* const window = host_->FindWindow(hwnd);
+  if (std::exchange(altAlone_, false) && window != nullptr && !window->bar.empty()) {
+    FailTest("the menu of " + window->form->name + " is open, and nobody asked for it");
+  }
+}
+
+std::string HeadlessUser::CharactersFor(WindowHandle /*hwnd*/, int control,
+                                        const std::function<void()>& doing) {
+  listenedTo_ = control;
+  doing();
+  listenedTo_ = 0;
+  return std::exchange(given_, {});
 }
 
 void HeadlessUser::Press(WindowHandle hwnd, const Key& key) {
@@ -115,17 +142,28 @@ bool HeadlessUser::GoDown(WindowHandle hwnd, const Key& key, bool repeated) {
     dealtWith = events.OnKeyDown(control, key.virtualKey, key.shift, repeated);
   });
   if (!dealtWith && !key.character.empty()) {
-    const char32_t character = FirstCharacter(key.character).codePoint;
-    host_->Tell(hwnd, [&](FormEvents& events) {
-      dealtWith = events.OnCharacter(control, character, key.shift);
-    });
+    dealtWith = GiveCharacter(hwnd, control, FirstCharacter(key.character).codePoint, key.shift);
   }
-  if (!dealtWith && host_->FindWindow(hwnd) != nullptr) PressInControl(hwnd, control, key);
+  if (dealtWith) return true;
+  if (host_->FindWindow(hwnd) != nullptr) PressInControl(hwnd, control, key);
+  if (IsCharacterToo(key.virtualKey, key.shift) && host_->FindWindow(hwnd) != nullptr) {
+    GiveCharacter(hwnd, control, static_cast<char32_t>(key.virtualKey), key.shift);
+  }
+  return false;
+}
+
+bool HeadlessUser::GiveCharacter(WindowHandle hwnd, int control, char32_t character,
+                                 unsigned shift) {
+  bool dealtWith = false;
+  host_->Tell(
+      hwnd, [&](FormEvents& events) { dealtWith = events.OnCharacter(control, character, shift); });
+  const bool noted = !dealtWith && control != 0 && control == listenedTo_;
+  if (noted) given_ += static_cast<char>(character);
   return dealtWith;
 }
 
-void HeadlessUser::ComeUp(WindowHandle hwnd, const Key& key, bool pressDealtWith) {
-  if (!openMenus_.empty() || host_->Desktop().Active() != hwnd) return;
+bool HeadlessUser::ComeUp(WindowHandle hwnd, const Key& key, bool pressDealtWith) {
+  if (!openMenus_.empty() || host_->Desktop().Active() != hwnd) return false;
   const int control = host_->GetFocus(hwnd);
   bool dealtWith = false;
   host_->Tell(hwnd, [&](FormEvents& events) {
@@ -135,12 +173,13 @@ void HeadlessUser::ComeUp(WindowHandle hwnd, const Key& key, bool pressDealtWith
   const bool presses = !pressDealtWith && !dealtWith && control != 0 &&
                        key.virtualKey == win32::kVkSpace && key.shift == kNoShift &&
                        host_->FindWindow(hwnd) != nullptr;
-  if (!presses) return;
+  if (!presses) return dealtWith;
   const ControlKind kind = Look(hwnd, control).kind;
   if (kind == ControlKind::kButton || kind == ControlKind::kCheckBox ||
       kind == ControlKind::kOptionButton) {
     host_->Tell(hwnd, [&](FormEvents& events) { events.OnClick(control); });
   }
+  return dealtWith;
 }
 
 void HeadlessUser::PressInControl(WindowHandle hwnd, int control, const Key& key) {

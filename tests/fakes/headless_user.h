@@ -47,6 +47,8 @@ class HeadlessUser : public UserHands {
                MouseButton button = MouseButton::kLeft);
   void MoveMouse(WindowHandle hwnd, int control, Twips x, Twips y) override;
   void PressKey(WindowHandle hwnd, int virtualKey, unsigned shift = kNoShift) override;
+  std::string CharactersFor(WindowHandle hwnd, int control,
+                            const std::function<void()>& doing) override;
   void HoldKey(WindowHandle hwnd, int virtualKey, int repeats) override;
   void ReleaseKey(WindowHandle hwnd, int virtualKey) override;
   void TypeText(WindowHandle hwnd, std::string_view text, bool alt = false) override;
@@ -88,7 +90,10 @@ class HeadlessUser : public UserHands {
   void Press(WindowHandle hwnd, const Key& key);
   /// True when the form has dealt with the key.
   bool GoDown(WindowHandle hwnd, const Key& key, bool repeated);
-  void ComeUp(WindowHandle hwnd, const Key& key, bool pressDealtWith);
+  /// True when the form has dealt with the character.
+  bool GiveCharacter(WindowHandle hwnd, int control, char32_t character, unsigned shift);
+  /// True when the form has dealt with the release.
+  bool ComeUp(WindowHandle hwnd, const Key& key, bool pressDealtWith);
   void PressSentKeys(WindowHandle hwnd);
   void PressInControl(WindowHandle hwnd, int control, const Key& key);
   void PressInText(WindowHandle hwnd, int control, const Key& key);
@@ -111,6 +116,10 @@ class HeadlessUser : public UserHands {
   std::deque<Key> sentKeys_;           ///< By the program itself; pressed after the user's own.
   std::vector<MenuItem*>& openMenus_;  ///< Of the host.
   MenuItem* highlighted_ = nullptr;
+  bool altHeld_ = false;
+  bool altAlone_ = false;  ///< Of the keys held, Windows has seen Alt last.
+  int listenedTo_ = 0;     ///< The control whose characters are noted.
+  std::string given_;
 };
 
 }  // namespace korvale

@@ -108,19 +108,11 @@ TEST_F(FormPlaceTest, AStateSetBeforeShowingHoldsWhenShown) {
   EXPECT_EQ(log_.Calls().back(), "ShowWindow(frmOther, SW_MAXIMIZE)");
 }
 
-/// Wants its size back whenever it gets another one.
-class InsistingForm : public RecordingForm {
- public:
-  using RecordingForm::RecordingForm;
-
- protected:
-  void Form_Resize() override { SetPlace({0, 0, 2000, 1500}); }
-};
-
-TEST_F(FormPlaceTest, AFormThatInsistsOnARefusedPlaceHearsOfItOnce) {
-  InsistingForm form(kStripDesign, forms_);
+TEST_F(FormPlaceTest, AFormThatInsistsOnARefusedPlaceAsksForItTwice) {
+  RecordingForm form(kStripDesign, forms_);
   form.Load();
   form.SetSizeLimits({.minimumWidth = 3000});
+  form.onResize = [&] { form.SetPlace({0, 0, 2000, 1500}); };
   form.Show();
   EXPECT_EQ(user_.Place(form.Handle()), (TwipsRect{0, 0, 3000, 1500}));
   EXPECT_EQ(std::ranges::count(log_.Calls(), "MoveWindow(frmStrip)"), 2);

@@ -175,32 +175,6 @@ TEST_F(WindowsFormHostTest, OnlyTypedTextIsTold) {
   Host().DestroyWindow(window);
 }
 
-TEST_F(WindowsFormHostTest, ATextBoxGetsNoCharacterThatItWouldBeepAt) {
-  ShowForm();
-  form_.Find("cmdGo").SetEnabled(false);
-  form_.Find("cmdClose").SetEnabled(false);
-  std::vector<WPARAM> characters;
-  const auto watch = [](HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                        DWORD_PTR data) -> LRESULT {
-    if (message == WM_CHAR) reinterpret_cast<std::vector<WPARAM>*>(data)->push_back(wParam);
-    return DefSubclassProc(window, message, wParam, lParam);
-  };
-  SetWindowSubclass(Control("txtName"), watch, 0, reinterpret_cast<DWORD_PTR>(&characters));
-  Press(VK_RETURN);
-  Press(VK_ESCAPE);
-  Type("a");
-  EXPECT_EQ(characters, std::vector<WPARAM>{'a'});
-  RemoveWindowSubclass(Control("txtName"), watch, 0);
-}
-
-TEST_F(WindowsFormHostTest, AKeyTakenWithAltDoesNotOpenTheMenu) {
-  ShowForm();
-  Press('S', kAlt);
-  EXPECT_EQ(form_.Take(), Lines{"click cmdStay"});
-  Press(VK_SPACE);
-  EXPECT_EQ(form_.Take(), Lines{"click cmdStay"});
-}
-
 TEST_F(WindowsFormHostTest, AltAndALetterOfTheBarOpensItsMenu) {
   ShowForm();
   int opened = 0;

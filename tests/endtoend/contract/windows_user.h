@@ -60,6 +60,8 @@ class WindowsUser final : public UserHands {
   void Click(WindowHandle hwnd, int control) override;
   void MoveMouse(WindowHandle hwnd, int control, Twips x, Twips y) override;
   void PressKey(WindowHandle hwnd, int virtualKey, unsigned shift) override;
+  std::string CharactersFor(WindowHandle hwnd, int control,
+                            const std::function<void()>& doing) override;
   void HoldKey(WindowHandle hwnd, int virtualKey, int repeats) override;
   void ReleaseKey(WindowHandle hwnd, int virtualKey) override;
   void TypeText(WindowHandle hwnd, std::string_view text, bool alt) override;

@@ -1,4 +1,7 @@
 #include <gtest/gtest.h>
+#include <windows.h>
+// After windows.h, which it needs.
+#include <commctrl.h>
 
 #include <utility>
 
@@ -38,6 +41,12 @@ POINT MiddleOfEntry(HMENU menu, HWND window, int position) {
   RECT rect{};
   GetMenuItemRect(window, menu, static_cast<UINT>(position), &rect);
   return {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
+}
+
+LRESULT CALLBACK NoteCharacters(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                                UINT_PTR /*id*/, DWORD_PTR given) {
+  if (message == WM_CHAR) *reinterpret_cast<std::string*>(given) += static_cast<char>(wParam);
+  return DefSubclassProc(window, message, wParam, lParam);
 }
 
 }  // namespace
@@ -136,6 +145,16 @@ void WindowsUser::LetPass(std::uint32_t milliseconds) {
     loop_->DoEvents();
   }
   settlingIn_ = outer;
+}
+
+std::string WindowsUser::CharactersFor(WindowHandle hwnd, int control,
+                                       const std::function<void()>& doing) {
+  const HWND window = FindControl(hwnd, control);
+  std::string given;
+  SetWindowSubclass(window, NoteCharacters, 0, reinterpret_cast<DWORD_PTR>(&given));
+  doing();
+  RemoveWindowSubclass(window, NoteCharacters, 0);
+  return given;
 }
 
 std::vector<ShownMenuItem> WindowsUser::MenuBarItems(WindowHandle hwnd) {
