@@ -41,12 +41,10 @@ Program::~Program() { platform_->system.SetUnhandledExceptionFilter({}); }
 bool Program::Start() {
   return Guarded([this] {
     // Known before there is a window, so that even a failure to make one is reported and logged.
-    form_.Parts().identity = ReadProgramIdentity(platform_->system);
+    form_.ReadIdentity();
     form_.Show();
     // Windows does not activate a window that is shown minimized.
-    if (form_.WindowState() == ShowState::kMinimized) {
-      startUp_.FirstActivation(form_, form_.Parts());
-    }
+    if (form_.WindowState() == ShowState::kMinimized) form_.Form_Activate();
   });
 }
 
@@ -65,8 +63,7 @@ bool Program::Guarded(const std::function<void()>& step) {
       return true;
     } catch (...) {
       const std::string description = DescribeCaught();
-      form_.Parts().errors.udmFatalError(ErrorPlace::kProgramEntry, CurrentErrorNumber(),
-                                         {description, "", ""});
+      form_.udmFatalError(ErrorPlace::kProgramEntry, CurrentErrorNumber(), {description, "", ""});
     }
   } catch (const ProgramEnded&) {
     // Start-up refused to run, or a fatal error: everything has been taken down already.
@@ -93,11 +90,10 @@ void Program::ReportUncaught() {
 void Program::ReportCrash(const Crash& crash) {
   const std::string description = crash.code == 0 ? "uncaught exception: " + DescribeUncaught()
                                                   : "exception " + HexText(crash.code);
-  MainParts& parts = form_.Parts();
   try {
-    parts.errors.udmFatalError(ErrorPlace::kCrash, RunTimeError::kInternalError,
-                               {description, "address = " + HexText(crash.address),
-                                parts.identity.productName + " cannot go on and will be closed."});
+    form_.udmFatalError(ErrorPlace::kCrash, RunTimeError::kInternalError,
+                        {description, "address = " + HexText(crash.address),
+                         std::string(kProductName) + " cannot go on and will be closed."});
   } catch (...) {
     // The error is reported and the program taken down; nobody is left to hear of another one.
     return;

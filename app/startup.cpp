@@ -35,22 +35,17 @@ void StartUp::Initialise(frmMain& form, MainParts& parts) {
   EndIfUnloaded(form);
   MentionCommandLine(form);
   EndIfUnloaded(form);
-  ShowSplash(form, parts);
-  LayOut(form, parts);
+  if (!parts.state.firstRun && parts.options.Get().booSplashScreen) {
+    form.About().ShowSplash(parts.display);
+  }
+  LayOut(form, parts.startup.AlwaysOnTop, parts.desktop.requests);
   PrepareMenusAndTimers(form);
   parts.hook.HookWindowProc("SET", form.Handle());
   parts.hotKeys.SetHotKeys("SET");
   form.RefreshMenus("Form_Load");
   parts.state.startUpFinished = true;
   form.Form_Resize();
-  if (parts.state.firstRun) {
-    form.SaveOrTellOnce([&] {
-      SaveScope save(parts.settings);
-      form.udmSaveINI();
-      form.udmSaveOptions();
-      save.Commit();
-    });
-  }
+  if (parts.state.firstRun) SaveFirstRun(form, parts.settings);
   // Before the main window comes up, since the user may be taken to another window then.
   MentionRefusedHotKeys(form, parts.hotKeys);
   EndIfUnloaded(form);
@@ -121,18 +116,20 @@ void StartUp::MentionCommandLine(frmMain& form) {
                kCommandLineTipHeight);
 }
 
-void StartUp::ShowSplash(frmMain& form, MainParts& parts) {
-  if (!parts.state.firstRun && parts.options.Get().booSplashScreen) {
-    form.About().ShowSplash(parts.display);
-  }
+void StartUp::LayOut(frmMain& form, bool onTop, WindowRequests& requests) {
+  form.ApplyPlacement();
+  form.CheckAlwaysOnTop(onTop);
+  if (onTop) requests.SetTopmost(form.Handle(), true);
+  form.ApplyColors();
 }
 
-void StartUp::LayOut(frmMain& form, MainParts& parts) {
-  form.ApplyPlacement();
-  const bool onTop = parts.startup.AlwaysOnTop;
-  form.CheckAlwaysOnTop(onTop);
-  if (onTop) parts.desktop.requests.SetTopmost(form.Handle(), true);
-  form.ApplyColors();
+void StartUp::SaveFirstRun(frmMain& form, Settings& settings) {
+  form.SaveOrTellOnce([&] {
+    SaveScope save(settings);
+    form.udmSaveINI();
+    form.udmSaveOptions();
+    save.Commit();
+  });
 }
 
 void StartUp::PrepareMenusAndTimers(frmMain& form) {
@@ -164,7 +161,7 @@ void StartUp::FirstActivation(frmMain& form, MainParts& parts) {
   if (parts.startup.AlwaysOnTop && !minimized) {
     parts.desktop.requests.SetTopmost(form.Handle(), true);
   }
-  RecordPreviousWindow(form, parts);
+  RecordPreviousWindow(form, parts.desktop, parts.options.Get());
   if (parts.state.firstRun) {
     AskToReviewHotKeys(form, parts);
     if (!form.IsLoaded()) return;
@@ -172,21 +169,19 @@ void StartUp::FirstActivation(frmMain& form, MainParts& parts) {
   parts.state.firstActivation = true;
 }
 
-void StartUp::RecordPreviousWindow(frmMain& form, MainParts& parts) {
-  const WindowHandle before = parts.desktop.enumeration.FindTopWindow([&](WindowHandle hwnd) {
-    return parts.desktop.tracker.AcceptForeground(hwnd, GetWindowTitle(platform_->windows, hwnd));
+void StartUp::RecordPreviousWindow(frmMain& form, Desktop& desktop, const clsOptions& options) {
+  const WindowHandle before = desktop.enumeration.FindTopWindow([&](WindowHandle hwnd) {
+    return desktop.tracker.AcceptForeground(hwnd, GetWindowTitle(platform_->windows, hwnd));
   });
   if (before != 0) {
-    parts.desktop.tracker.Follow({before, GetWindowTitle(platform_->windows, before),
-                                  GetWindowClass(platform_->windows, before)});
-    parts.desktop.tracker.ValidatePreviousWindow();
+    desktop.tracker.Follow({before, GetWindowTitle(platform_->windows, before),
+                            GetWindowClass(platform_->windows, before)});
+    desktop.tracker.ValidatePreviousWindow();
   }
   // The user has come to the main window from another one, as if they had clicked it; not to a
   // minimized one.
-  if (form.WindowState() != ShowState::kMinimized) parts.desktop.tracker.LookAnew();
-  if (before != 0 && parts.options.Get().booSelectPrevWinOnStart) {
-    parts.desktop.selection.SelectAtStart();
-  }
+  if (form.WindowState() != ShowState::kMinimized) desktop.tracker.LookAnew();
+  if (before != 0 && options.booSelectPrevWinOnStart) desktop.selection.SelectAtStart();
 }
 
 void StartUp::AskToReviewHotKeys(frmMain& form, MainParts& parts) {

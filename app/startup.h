@@ -21,11 +21,11 @@ class StartUp : public ProgramLifetime {
   bool RunInstallation(frmMain& form, MainParts& parts);
   void MentionOtherInstallation(frmMain& form, WindowEnumeration& enumeration);
   void MentionCommandLine(frmMain& form);
-  void ShowSplash(frmMain& form, MainParts& parts);
-  void LayOut(frmMain& form, MainParts& parts);
+  static void LayOut(frmMain& form, bool onTop, WindowRequests& requests);
+  static void SaveFirstRun(frmMain& form, Settings& settings);
   void PrepareMenusAndTimers(frmMain& form);
   static void MentionRefusedHotKeys(frmMain& form, const HotKeyTable& hotKeys);
-  void RecordPreviousWindow(frmMain& form, MainParts& parts);
+  void RecordPreviousWindow(frmMain& form, Desktop& desktop, const clsOptions& options);
   void AskToReviewHotKeys(frmMain& form, MainParts& parts);
 
   Platform* platform_;

@@ -43,8 +43,7 @@ void frmMain::Form_Load() {
   } catch (...) {
     // Told while the window still exists: shutting down takes hot keys and hook from it.
     const std::string description = DescribeCaught();
-    parts_.errors.udmFatalError(ErrorPlace::kProgramEntry, CurrentErrorNumber(),
-                                {description, "", ""});
+    udmFatalError(ErrorPlace::kProgramEntry, CurrentErrorNumber(), {description, "", ""});
   }
 }
 
@@ -121,6 +120,13 @@ void frmMain::udmNonFatalError(ErrorPlace intErrorNumber, std::int16_t intVB_Err
   // A message would keep the session from ending.
   if (!endsUnattended_) parts_.errors.udmNonFatalError(intErrorNumber, intVB_ErrNumber);
 }
+
+void frmMain::udmFatalError(ErrorPlace intErrorNumber, std::int16_t intVB_ErrNumber,
+                            const FatalErrorTexts& texts) {
+  parts_.errors.udmFatalError(intErrorNumber, intVB_ErrNumber, texts);
+}
+
+void frmMain::ReadIdentity() { parts_.identity = ReadProgramIdentity(platform_->system); }
 
 void frmMain::udmTimersEnabled(bool booTrueFalse) {
   for (Control& control : Controls()) {

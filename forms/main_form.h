@@ -46,6 +46,7 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
  public:
   frmMain(Platform& platform, FormCollection& forms, ProgramLifetime& lifetime);
 
+  /// Only for tests, which look at the records behind the window.
   MainParts& Parts() { return parts_; }
   Tips& TipMessages() { return tips_; }
   WindowMenu& TheWindowMenu() { return windowMenu_; }
@@ -65,6 +66,10 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   /// Replaces all settings by those loaded elsewhere.
   void UseSettings(const InstallationSettings& settings);
   void udmNonFatalError(ErrorPlace intErrorNumber, std::int16_t intVB_ErrNumber);
+  [[noreturn]] void udmFatalError(ErrorPlace intErrorNumber, std::int16_t intVB_ErrNumber,
+                                  const FatalErrorTexts& texts);
+  /// Reads what the program knows about itself; may be called before there is a window.
+  void ReadIdentity();
 
   /// Brings the menus up to date; `source` is "mnu" after a menu command, a menu item's name, or
   /// the name of the routine that asks ("Form_Load", "Form_KeyDown").
@@ -127,9 +132,11 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   std::string ProgramTitle() const override { return parts_.identity.messageTitle; }
   void OptionsDialogClosed() override;
 
+  /// Windows calls it, except for a window that is shown minimized.
+  void Form_Activate() override;
+
  protected:
   void Form_Load() override;
-  void Form_Activate() override;
   void Form_KeyDown(int& key, unsigned shift) override;
   void Form_QueryUnload(bool& cancel, CloseReason reason) override;
   void Form_Unload() override;
