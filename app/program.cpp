@@ -93,7 +93,7 @@ void Program::ReportCrash(const Crash& crash) {
   try {
     form_.udmFatalError(ErrorPlace::kCrash, RunTimeError::kInternalError,
                         {description, "address = " + HexText(crash.address),
-                         std::string(kProductName) + " cannot go on and will be closed."});
+                         "Korvale cannot go on and will be closed."});
   } catch (...) {
     // The error is reported and the program taken down; nobody is left to hear of another one.
     return;

@@ -6,7 +6,6 @@
 #include "app/core/save_scope.h"
 #include "desktop/window_readers.h"
 #include "forms/hot_key_lists.h"
-#include "forms/main_form_design.h"
 #include "platform/win32_constants.h"
 #include "util/raised_flag.h"
 
@@ -133,10 +132,6 @@ void StartUp::SaveFirstRun(frmMain& form, Settings& settings) {
 }
 
 void StartUp::PrepareMenusAndTimers(frmMain& form) {
-  form.Menu("mnuHelpAbout").caption = AboutCaption(kProductName);
-  form.Menu("mnuWindowAlwaysOnTop").caption = AlwaysOnTopCaption(kProductName);
-  form.Menu("mnuWindowAddToList", 1).caption = AddThisWindowCaption(kProductName);
-  form.Menu("mnuHelpHomePage").caption = HomePageCaption(kProductName);
   form.EnablePreviousWindowItems(false);
   form.tmrWindow().SetInterval(kTrackingInterval);
   form.tmrWindow().SetEnabled(true);
@@ -188,7 +183,7 @@ void StartUp::AskToReviewHotKeys(frmMain& form, MainParts& parts) {
   parts.state.lastAnswer = parts.messages.ShowMessageBox(
       "Korvale is installed with Hot Keys active.  It is recommended that you review the Hot Keys "
       "before getting started.\r\rDo you want to review the Hot Keys now ?",
-      win32::kMbYesNo, parts.identity.messageTitle + " - CAUTION");
+      win32::kMbYesNo, std::string(kProductName) + " - CAUTION");
   // The session may end while the question is shown.
   if (parts.state.lastAnswer == win32::kIdYes && form.IsLoaded()) {
     parts.startup.OptionsTab = kHotKeysTab;

@@ -60,9 +60,8 @@ class BenchDesktop {
   FakeHotKeyActions actions_;
   BenchErrors errors_;
   HotKeyTable table_{parts_.hotKeys, parts_.options, parts_.mainWindow};
-  HotKeyToggle toggle_{table_, parts_.options, actions_, "Product", "Title"};
-  HotKeyDispatch dispatch_{parts_.routines, parts_.suspension, actions_, toggle_,
-                           errors_,         "Product",         "Title"};
+  HotKeyToggle toggle_{table_, parts_.options, actions_};
+  HotKeyDispatch dispatch_{parts_.routines, parts_.suspension, actions_, toggle_, errors_};
   bool odd_ = true;
 };
 

@@ -83,8 +83,8 @@ void frmMsgBox2::Prepare(std::string_view mode) {
   Load();
   const bool splash = mode == kSplashMode;
   SetTag(mode);
-  SetCaption(splash ? identity_->productName : "About " + identity_->productName);
-  Find("lblProduct").SetText(identity_->productName + " " + identity_->versionText);
+  SetCaption(splash ? "Korvale" : "About Korvale");
+  Find("lblProduct").SetText(std::string(kProductName) + " " + identity_->versionText);
   Find("lblFileDescription").SetText(identity_->fileDescription);
   Find("lblCopyright").SetText(identity_->legalNotice);
   Find("lblWebSite").SetText(webSite_);

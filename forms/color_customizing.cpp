@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "app/core/identity.h"
 #include "platform/win32_constants.h"
 #include "util/system.h"
 
@@ -67,7 +68,7 @@ void ColorCustomizing::Click(Color& color) {
     ChangeColor(color);
   } else {
     parts_.messages.ShowMessageBox("position the mouse until the cursor has changed to a 'C'",
-                                   win32::kMbOk, parts_.title + " - Customize Colors");
+                                   win32::kMbOk, std::string(kProductName) + " - Customize Colors");
   }
   shift_ = kNoShift;
 }

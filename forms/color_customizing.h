@@ -17,13 +17,12 @@ namespace korvale {
 /// colour. On while its menu item is checked; off at every start.
 class ColorCustomizing {
  public:
-  /// What the mode needs of the main window. `title` is the application title, `lastColor` the
-  /// colour that was last chosen in the colour dialog.
+  /// What the mode needs of the main window. `lastColor` is the colour that was
+  /// last chosen in the colour dialog.
   struct Parts {
     MenuItem& item;
     SystemApi& system;
     MessageBoxes& messages;
-    const std::string& title;
     const Color& lastColor;
     std::function<MousePointer()> pointer;
     std::function<void(MousePointer)> setPointer;

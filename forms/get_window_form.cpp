@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "app/core/identity.h"
 #include "desktop/title_match.h"
 #include "desktop/window_readers.h"
 #include "forms/get_window_design.h"
@@ -56,8 +57,8 @@ frmGetWindow::frmGetWindow(FormCollection& forms, AddWindowContext context)
   WhenClosedUp("cboWindow", [this](int) { cboWindow_CloseUp(); });
 }
 
-void frmGetWindow::PrepareForWindowMenu(std::string_view applicationTitle) {
-  SetCaption(std::string(applicationTitle) + " - Add Window");
+void frmGetWindow::PrepareForWindowMenu() {
+  SetCaption(std::string(kProductName) + " - Add Window");
   for (const char* const name : {"lblChildWindow", "Line3", "chkChildWindow", "cboChildWindow"}) {
     Find(name).SetVisible(false);
   }

@@ -16,7 +16,7 @@ class frmGetWindow : public Form {
 
   /// Gives the loaded dialog the look in which the Window menu opens it: without the section for
   /// child windows.
-  void PrepareForWindowMenu(std::string_view applicationTitle);
+  void PrepareForWindowMenu();
 
  protected:
   void Form_Load() override;

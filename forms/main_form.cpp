@@ -25,8 +25,7 @@ frmMain::frmMain(Platform& platform, FormCollection& forms, ProgramLifetime& lif
       addWindow_(forms, AddWindowContext{platform.windows, *this, parts_.previous,
                                          parts_.desktop.tags, addWindowMode_}),
       optionsForm_(forms, *this),
-      tips_(tipForm_, parts_.display, parts_.startup.DisplayTips, parts_.startup.Tips,
-            parts_.identity.messageTitle),
+      tips_(tipForm_, parts_.display, parts_.startup.DisplayTips, parts_.startup.Tips),
       windowMenu_(
           parts_.desktop, Menus(), parts_.startup.AlwaysOnTop, [this] { RefreshMenus("mnu"); },
           [this](AddWindowMode mode) { ShowAddWindow(mode); }) {
@@ -179,7 +178,7 @@ void frmMain::ShowWaitWindow(const std::string& caption, const std::string& text
 void frmMain::ShowAddWindow(AddWindowMode mode) {
   addWindowMode_ = mode;
   addWindow_.Load();
-  addWindow_.PrepareForWindowMenu(parts_.identity.productName);
+  addWindow_.PrepareForWindowMenu();
   parts_.display.ShowFormModal(addWindow_, {}, kForegroundWait, {}, this);
 }
 

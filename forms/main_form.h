@@ -129,7 +129,6 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   void SetMousePointer(MousePointer pointer) override;
   std::int16_t OptionsTab() const override { return parts_.startup.OptionsTab; }
   void SetOptionsTab(std::int16_t tab) override { parts_.startup.OptionsTab = tab; }
-  std::string ProgramTitle() const override { return parts_.identity.messageTitle; }
   void OptionsDialogClosed() override;
 
   /// Windows calls it, except for a window that is shown minimized.

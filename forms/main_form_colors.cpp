@@ -13,7 +13,6 @@ ColorCustomizing::Parts frmMain::CustomizingParts() {
   return {Menu("mnuViewCustomizeColors"),
           platform_->system,
           parts_.messages,
-          parts_.identity.messageTitle,
           parts_.startup.LastColorSelected,
           [this] { return pointer_; },
           [this](MousePointer pointer) { SetMousePointer(pointer); },

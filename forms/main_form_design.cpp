@@ -57,7 +57,7 @@ constexpr auto kMenus = std::to_array<MenuRow>({
     {1, "mnuToolsToggleHotKeys", -1, "Deactivate &Hot Keys"},
     {1, "mnuToolsOptions", -1, "&Options..."},
     {0, "mnuWindow", -1, "&Window"},
-    {1, "mnuWindowAlwaysOnTop", -1, ""},
+    {1, "mnuWindowAlwaysOnTop", -1, "Korvale  Always &On Top"},
     {1, "mnuWindowPreviousWindowAlwaysOnTop", -1, ""},
     {1, "mnuWindowSpace20", -1, "-"},
     {1, "mnuWindowMinimizeAll", -1, "&Minimize All"},
@@ -66,16 +66,16 @@ constexpr auto kMenus = std::to_array<MenuRow>({
     {1, "mnuWindowParentList", 0, ""},
     {1, "mnuWindowChildList", -1, ""},
     {1, "mnuWindowSpace40", -1, "-"},
-    {1, "mnuWindowAddToList", 1, ""},
+    {1, "mnuWindowAddToList", 1, "Add  Korvale  to Window men&u..."},
     {1, "mnuWindowAddToList", 2, ""},
     {0, "mnuHelp", -1, "&Help"},
     {1, "mnuHelpDisplayTips", -1, "&Display Tip Messages"},
     {1, "mnuHelpSpace10", -1, "-"},
     {1, "mnuHelpHelp", -1, "web:  &Help"},
-    {1, "mnuHelpHomePage", -1, ""},
+    {1, "mnuHelpHomePage", -1, "web:  Korvale Home &Page"},
     {1, "mnuHelpReadme", -1, "web:  &Readme"},
     {1, "mnuHelpSpace20", -1, "-"},
-    {1, "mnuHelpAbout", -1, ""},
+    {1, "mnuHelpAbout", -1, "&About Korvale"},
 });
 
 }  // namespace
@@ -91,20 +91,6 @@ FormDesign MainFormDesign() {
   design.controls = kStripControls;
   design.menu = kMenus;
   return design;
-}
-
-std::string AlwaysOnTopCaption(const std::string& applicationName) {
-  return applicationName + "  Always &On Top";
-}
-
-std::string AddThisWindowCaption(const std::string& applicationName) {
-  return "Add  " + applicationName + "  to Window men&u...";
-}
-
-std::string AboutCaption(const std::string& applicationName) { return "&About " + applicationName; }
-
-std::string HomePageCaption(const std::string& applicationName) {
-  return "web:  " + applicationName + " Home &Page";
 }
 
 }  // namespace korvale

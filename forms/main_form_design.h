@@ -1,19 +1,11 @@
 #pragma once
 
-#include <string>
-
 #include "ui/form.h"
 
 namespace korvale {
 
 /// Controls, menus and design-time place of the main window.
 FormDesign MainFormDesign();
-
-/// Texts of the main window's menus that are known only at run time.
-std::string AlwaysOnTopCaption(const std::string& applicationName);
-std::string AddThisWindowCaption(const std::string& applicationName);
-std::string AboutCaption(const std::string& applicationName);
-std::string HomePageCaption(const std::string& applicationName);
 
 /// What the height of the main window is made of, in twips.
 inline constexpr Twips kClassicMenuHeight = 300;

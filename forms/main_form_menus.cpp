@@ -130,7 +130,7 @@ void frmMain::mnuHelpDisplayTips_Click() {
     parts_.state.lastAnswer = parts_.messages.ShowMessageBox(
         "Tip Messages are now set to be displayed.\r\rDo you want to Reset Tip Messages (show all "
         "messages that you have previously chosen not to show) ?",
-        win32::kMbYesNo | win32::kMbDefButton2, parts_.identity.messageTitle);
+        win32::kMbYesNo | win32::kMbDefButton2, kProductName);
     if (parts_.state.lastAnswer == win32::kIdYes) startup.Tips.clear();
   }
   RefreshMenus("mnu");

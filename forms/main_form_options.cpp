@@ -1,3 +1,4 @@
+#include "app/core/identity.h"
 #include "desktop/foreground_return.h"
 #include "forms/main_form.h"
 #include "util/raised_flag.h"
@@ -15,7 +16,7 @@ void frmMain::udmOptions(const std::string& strMode) {
     // When the dialog closes, the user must be back where they are now.
     parts_.desktop.tracker.LookAtForeground();
     optionsForm_.Load();
-    optionsForm_.SetCaption(parts_.identity.productName + " - Options");
+    optionsForm_.SetCaption(std::string(kProductName) + " - Options");
     openOptions_ = &optionsForm_;
   }
   optionsForm_.LoadFrom(record);

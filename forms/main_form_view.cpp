@@ -108,7 +108,7 @@ void frmMain::mnuViewMenu_Click() {
     const std::int16_t answer = parts_.messages.ShowMessageBox(
         "CAUTION:  This will hide the menu.  The only way of accessing the hidden menu is by "
         "(Alt+V), (Alt+T), (Alt+W) or (Alt+H).",
-        win32::kMbOkCancel | win32::kMbDefButton2, parts_.identity.messageTitle);
+        win32::kMbOkCancel | win32::kMbDefButton2, kProductName);
     if (answer != win32::kIdOk) {
       RefreshMenus("mnu");
       return;

@@ -27,15 +27,14 @@ MainParts::MainParts(Platform& platform, FormCollection& forms, MainWindow& main
                [this] {
                  return ErrorLogState{state.firstActivation, startup.Menu, state.lastAnswer};
                }),
-      errors(identity, messages, errorLog, std::move(shutDown)),
+      errors(messages, errorLog, std::move(shutDown)),
       desktop({platform.windows, platform.commands, mainWindow, forms, messages, previous},
               platform.clock, options, *menus.Find("mnuWindow")),
       display(forms, platform.windows, platform.commands, previous, suspension,
               startup.AlwaysOnTop),
       hotKeys(platform.hotKeys, options, mainWindow),
-      toggle(hotKeys, options, hotKeyActions, identity.productName, identity.messageTitle),
-      dispatch(desktop, suspension, hotKeyActions, toggle, errors, identity.productName,
-               identity.messageTitle),
+      toggle(hotKeys, options, hotKeyActions),
+      dispatch(desktop, suspension, hotKeyActions, toggle, errors),
       hook(platform.hotKeys, platform.dialogs, mainWindow, hotKeys, dispatch,
            [&forms] { forms.ReportUncaught(); }) {}
 

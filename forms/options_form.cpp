@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <utility>
 
+#include "app/core/identity.h"
 #include "forms/hot_key_lists.h"
 #include "forms/options_design.h"
 #include "platform/win32_constants.h"
@@ -99,7 +100,7 @@ void frmOptions::Save() {
         "The hot keys are currently deactivated.  They will now be re-activated, for any changes "
         "(if any) made to the hot keys on the Hot Keys tab of the Options dialog box can take "
         "effect.",
-        win32::kMbOk, owner_->ProgramTitle() + " - Options (Save)");
+        win32::kMbOk, std::string(kProductName) + " - Options (Save)");
     if (!IsLoaded()) return;
   }
   RegisterHotKeysAnew();
@@ -109,7 +110,7 @@ void frmOptions::cmdReset_Click() {
   const std::int16_t answer = owner_->Messages().ShowMessageBox(
       "Reset all Options to default ?\r\rThe default options will be Applied automatically.\r\r"
       "Note:  This operation will not effect any of the Settings changed from the View menu.",
-      win32::kMbOkCancel, owner_->ProgramTitle() + " - Options");
+      win32::kMbOkCancel, std::string(kProductName) + " - Options");
   if (answer != win32::kIdOk || !IsLoaded()) return;
   const Hourglass hourglass(*owner_);
   owner_->udmDeleteOptions();

@@ -33,7 +33,6 @@ class OptionsDialogOwner {
   /// The tab on which the dialog opens, counted from 1.
   virtual std::int16_t OptionsTab() const = 0;
   virtual void SetOptionsTab(std::int16_t tab) = 0;
-  virtual std::string ProgramTitle() const = 0;
   /// The dialog is being unloaded, for whatever reason.
   virtual void OptionsDialogClosed() = 0;
 };

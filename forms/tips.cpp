@@ -1,18 +1,20 @@
 #include "forms/tips.h"
 
-#include <utility>
-
+#include "app/core/identity.h"
 #include "util/flag_string.h"
 
 namespace korvale {
+namespace {
 
-Tips::Tips(frmMsgTip& form, FormDisplay& display, const bool& displayTips, std::string& hiddenTips,
-           std::string applicationTitle)
-    : form_(&form),
-      display_(&display),
-      displayTips_(&displayTips),
-      hiddenTips_(&hiddenTips),
-      applicationTitle_(std::move(applicationTitle)) {}
+std::string WindowTitle(const std::string& title) {
+  if (title == "NO_TITLE") return "";
+  return title.empty() ? kProductName : title + " - " + kProductName;
+}
+
+}  // namespace
+
+Tips::Tips(frmMsgTip& form, FormDisplay& display, const bool& displayTips, std::string& hiddenTips)
+    : form_(&form), display_(&display), displayTips_(&displayTips), hiddenTips_(&hiddenTips) {}
 
 void Tips::ShowTip(TipNumber number, const std::string& text, const std::string& title,
                    std::int16_t height, const PlaceHints& hints, Form* owner) {
@@ -23,12 +25,6 @@ void Tips::ShowTip(TipNumber number, const std::string& text, const std::string&
   if (display_->ShowFormModal(*form_, {}, kForegroundWait, hints, owner) == frmMsgTip::kNoShow) {
     FlagString(*hiddenTips_, position, "SET", true, false);
   }
-}
-
-std::string Tips::WindowTitle(const std::string& title) const {
-  if (title == "NO_TITLE") return "";
-  if (title.empty()) return applicationTitle_;
-  return title + " - " + applicationTitle_;
 }
 
 }  // namespace korvale

@@ -13,8 +13,7 @@ namespace korvale {
 class Tips {
  public:
   /// `displayTips` and `hiddenTips` are the live settings DisplayTips and Tips.
-  Tips(frmMsgTip& form, FormDisplay& display, const bool& displayTips, std::string& hiddenTips,
-       std::string applicationTitle);
+  Tips(frmMsgTip& form, FormDisplay& display, const bool& displayTips, std::string& hiddenTips);
 
   /// Shows a tip unless it is silenced. `title` "NO_TITLE" = no caption, "" = the application
   /// title, any other is put before it. `height` in twips, at least 2400.
@@ -22,13 +21,10 @@ class Tips {
                std::int16_t height, const PlaceHints& hints, Form* owner);
 
  private:
-  std::string WindowTitle(const std::string& title) const;
-
   frmMsgTip* form_;
   FormDisplay* display_;
   const bool* displayTips_;
   std::string* hiddenTips_;
-  std::string applicationTitle_;
 };
 
 }  // namespace korvale

@@ -13,7 +13,7 @@ namespace korvale {
 /// The Window menu: the user's list of tagged windows and the place where Tags are used.
 class WindowMenu {
  public:
-  /// `alwaysOnTop` is the live state of the main window, `refreshMenus` refreshes its menus as
+  /// `form` has the menu; `alwaysOnTop` is its live state, `refreshMenus` refreshes its menus as
   /// after the menu command "mnu", `showAddWindow` shows the Add Window dialog.
   WindowMenu(Desktop& desktop, MenuBar& menus, bool& alwaysOnTop,
              std::function<void()> refreshMenus, std::function<void(AddWindowMode)> showAddWindow);

@@ -1,8 +1,8 @@
 #include "hotkeys/hot_key_dispatch.h"
 
 #include <cstdint>
-#include <utility>
 
+#include "app/core/identity.h"
 #include "desktop/foreground_return.h"
 #include "desktop/window_readers.h"
 #include "hotkeys/hot_key_names.h"
@@ -19,15 +19,12 @@ constexpr const char* kNoticeMark = "     ";
 }  // namespace
 
 HotKeyDispatch::HotKeyDispatch(Desktop& desktop, Suspension& suspension, HotKeyActions& actions,
-                               HotKeyToggle& toggle, ErrorReporters& errors,
-                               std::string productName, std::string programTitle)
+                               HotKeyToggle& toggle, ErrorReporters& errors)
     : desktop_(&desktop),
       suspension_(&suspension),
       actions_(&actions),
       toggle_(&toggle),
-      errors_(&errors),
-      productName_(std::move(productName)),
-      programTitle_(std::move(programTitle)) {}
+      errors_(&errors) {}
 
 std::string HotKeyDispatch::udmProcessHotKey(const std::string& name, bool booDoAction,
                                              bool booReturnWindow,
@@ -64,11 +61,12 @@ std::string HotKeyDispatch::Process(const std::string& name, bool doAction, bool
 }
 
 void HotKeyDispatch::ShowSuspensionNotice() {
-  const std::string caption = programTitle_ + kNoticeMark;
+  const std::string caption = std::string(kProductName) + kNoticeMark;
   if (desktop_->windows.FindWindowA(caption) != 0) return;
-  desktop_->messages.ShowMessageBox("Hot Keys are temporarily suspended when " + productName_ +
-                                        " has a message box or a dialog box displayed.",
-                                    win32::kMbOk, caption);
+  desktop_->messages.ShowMessageBox(
+      "Hot Keys are temporarily suspended when Korvale has a message box or a dialog box "
+      "displayed.",
+      win32::kMbOk, caption);
 }
 
 WindowTriple HotKeyDispatch::ChooseWindow(const std::string& suppliedText) {
@@ -95,10 +93,10 @@ bool HotKeyDispatch::IdentifyForeground(WindowTriple& chosen) {
 
 void HotKeyDispatch::ShowNotRecognized(const std::string& title) {
   desktop_->messages.ShowMessageBox(
-      productName_ + " does not recognize the Window: [" + title +
+      "Korvale does not recognize the Window: [" + title +
           "].  Try changing options under 'Window Identification' on the General tab of the "
           "Options dialog box.",
-      win32::kMbSetForeground, programTitle_);
+      win32::kMbSetForeground, kProductName);
 }
 
 void HotKeyDispatch::Perform(const std::string& name) {

@@ -15,8 +15,7 @@ namespace korvale {
 class HotKeyDispatch : public HotKeyProcessor {
  public:
   HotKeyDispatch(Desktop& desktop, Suspension& suspension, HotKeyActions& actions,
-                 HotKeyToggle& toggle, ErrorReporters& errors, std::string productName,
-                 std::string programTitle);
+                 HotKeyToggle& toggle, ErrorReporters& errors);
 
   /// Returns the description of the hot key; performs its action only when `booDoAction` is true.
   /// While a message box or dialog of the program is shown, does neither and tells the user so.
@@ -45,8 +44,6 @@ class HotKeyDispatch : public HotKeyProcessor {
   HotKeyActions* actions_;
   HotKeyToggle* toggle_;
   ErrorReporters* errors_;
-  std::string productName_;
-  std::string programTitle_;
 };
 
 }  // namespace korvale

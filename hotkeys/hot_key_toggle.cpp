@@ -1,7 +1,9 @@
 #include "hotkeys/hot_key_toggle.h"
 
 #include <cstdint>
-#include <utility>
+#include <string>
+
+#include "app/core/identity.h"
 
 namespace korvale {
 namespace {
@@ -11,13 +13,8 @@ constexpr std::uint32_t kNoticeMilliseconds = 800;
 
 }  // namespace
 
-HotKeyToggle::HotKeyToggle(HotKeyTable& table, const OptionsHolder& options, HotKeyActions& actions,
-                           std::string productName, std::string programTitle)
-    : table_(&table),
-      options_(&options),
-      actions_(&actions),
-      productName_(std::move(productName)),
-      programTitle_(std::move(programTitle)) {}
+HotKeyToggle::HotKeyToggle(HotKeyTable& table, const OptionsHolder& options, HotKeyActions& actions)
+    : table_(&table), options_(&options), actions_(&actions) {}
 
 void HotKeyToggle::ToggleHotKeys(std::string_view caller) {
   if (table_->HotKeysActive()) {
@@ -31,11 +28,10 @@ void HotKeyToggle::SwitchOff(std::string_view caller) {
   if (caller == kToggleFromMenu) {
     actions_->ShowTip(TipNumber::kHotKeysDeactivated,
                       "This deactivates all hot keys except the hot key assigned to "
-                      "Activate/Deactivate Hot Keys.  When " +
-                          productName_ +
-                          " is installed, the default hot key to Activate/Deactivate Hot Keys is "
-                          "the Pause key.  If you wish, this hot key can be changed on the Hot "
-                          "Keys tab of the Options dialog box.",
+                      "Activate/Deactivate Hot Keys.  When Korvale is installed, the default hot "
+                      "key to Activate/Deactivate Hot Keys is "
+                      "the Pause key.  If you wish, this hot key can be changed on the Hot "
+                      "Keys tab of the Options dialog box.",
                       "TIP", kToggleTipHeight);
     // The session may end while the tip is shown.
     if (!options_->Exists()) return;
@@ -45,8 +41,8 @@ void HotKeyToggle::SwitchOff(std::string_view caller) {
   table_->ResetHotKeyCount();
   table_->AddOperation(RowOf(Operation::kToggleHotKeys));
   actions_->HotKeysRegistered();
-  actions_->ShowWaitWindow(programTitle_ + " - Hot Keys (OFF)", "Hot Keys are now Deactivated",
-                           kNoticeMilliseconds);
+  actions_->ShowWaitWindow(std::string(kProductName) + " - Hot Keys (OFF)",
+                           "Hot Keys are now Deactivated", kNoticeMilliseconds);
 }
 
 void HotKeyToggle::SwitchOn() {
@@ -54,8 +50,8 @@ void HotKeyToggle::SwitchOn() {
   table_->SetHotKeys("REMOVE");
   table_->SetHotKeys("SET");
   actions_->HotKeysRegistered();
-  actions_->ShowWaitWindow(programTitle_ + " - Hot Keys (ON)", "Hot Keys are now Activated",
-                           kNoticeMilliseconds);
+  actions_->ShowWaitWindow(std::string(kProductName) + " - Hot Keys (ON)",
+                           "Hot Keys are now Activated", kNoticeMilliseconds);
 }
 
 }  // namespace korvale

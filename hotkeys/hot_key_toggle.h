@@ -1,6 +1,5 @@
 #pragma once
 
-#include <string>
 #include <string_view>
 
 #include "app/core/options.h"
@@ -15,8 +14,7 @@ inline constexpr const char* kToggleFromHotKey = "udmProcessHotKey";
 /// Switches all hot keys but the toggle's own off and on again.
 class HotKeyToggle {
  public:
-  HotKeyToggle(HotKeyTable& table, const OptionsHolder& options, HotKeyActions& actions,
-               std::string productName, std::string programTitle);
+  HotKeyToggle(HotKeyTable& table, const OptionsHolder& options, HotKeyActions& actions);
 
   /// `caller` is kToggleFromMenu, which explains with a tip, or kToggleFromHotKey.
   void ToggleHotKeys(std::string_view caller);
@@ -28,8 +26,6 @@ class HotKeyToggle {
   HotKeyTable* table_;
   const OptionsHolder* options_;
   HotKeyActions* actions_;
-  std::string productName_;
-  std::string programTitle_;
 };
 
 }  // namespace korvale

@@ -3,6 +3,7 @@
 #include <exception>
 #include <utility>
 
+#include "app/core/identity.h"
 #include "platform/run_time_error.h"
 #include "platform/win32_constants.h"
 #include "util/text.h"
@@ -27,23 +28,19 @@ void RunAndForgetErrors(const std::function<void()>& step) {
 
 }  // namespace
 
-ErrorReports::ErrorReports(const ProgramIdentity& identity, MessageBoxes& messages, ErrorLog& log,
-                           std::function<void()> shutDown)
-    : identity_(&identity), messages_(&messages), log_(&log), shutDown_(std::move(shutDown)) {}
+ErrorReports::ErrorReports(MessageBoxes& messages, ErrorLog& log, std::function<void()> shutDown)
+    : messages_(&messages), log_(&log), shutDown_(std::move(shutDown)) {}
 
 void ErrorReports::udmNonFatalError(ErrorPlace intErrorNumber, std::int16_t intVB_ErrNumber) {
-  Show(RunTimeErrorText(intVB_ErrNumber) + "\r\r" + identity_->productName + " Error #" +
-       PlaceText(intErrorNumber));
+  Show(RunTimeErrorText(intVB_ErrNumber) + "\r\rKorvale Error #" + PlaceText(intErrorNumber));
 }
 
 void ErrorReports::udmFatalError(ErrorPlace intErrorNumber, std::int16_t intVB_ErrNumber,
                                  const FatalErrorTexts& texts) {
   const std::string runTimeError = intVB_ErrNumber != 0 ? RunTimeErrorText(intVB_ErrNumber) : "";
   const std::string place = PlaceText(intErrorNumber);
-  RunAndForgetErrors([&] {
-    Show(runTimeError + "\r\r" + identity_->productName + " Error #" + place + "\r" +
-         texts.strUserMessage);
-  });
+  RunAndForgetErrors(
+      [&] { Show(runTimeError + "\r\rKorvale Error #" + place + "\r" + texts.strUserMessage); });
   const std::string problem = runTimeError + " -- " + texts.strDescForErrorLog;
   RunAndForgetErrors([&] { log_->Append(place, problem, texts.strLocalsForErrorLog); });
   RunAndForgetErrors(shutDown_);
@@ -52,7 +49,7 @@ void ErrorReports::udmFatalError(ErrorPlace intErrorNumber, std::int16_t intVB_E
 
 void ErrorReports::Show(const std::string& text) {
   messages_->ShowMessageBox(text, win32::kMbOk | win32::kMbSetForeground,
-                            identity_->messageTitle + " - ERROR");
+                            std::string(kProductName) + " - ERROR");
 }
 
 std::string DescribeCaught() {

@@ -6,7 +6,6 @@
 
 #include "app/core/error_log.h"
 #include "app/core/error_reporting.h"
-#include "app/core/identity.h"
 #include "app/core/message_boxes.h"
 
 namespace korvale {
@@ -24,8 +23,7 @@ struct FatalErrorTexts {
 class ErrorReports : public ErrorReporters {
  public:
   /// `shutDown` is the program's shutdown without saving.
-  ErrorReports(const ProgramIdentity& identity, MessageBoxes& messages, ErrorLog& log,
-               std::function<void()> shutDown);
+  ErrorReports(MessageBoxes& messages, ErrorLog& log, std::function<void()> shutDown);
 
   void udmNonFatalError(ErrorPlace intErrorNumber, std::int16_t intVB_ErrNumber) override;
 
@@ -37,7 +35,6 @@ class ErrorReports : public ErrorReporters {
  private:
   void Show(const std::string& text);
 
-  const ProgramIdentity* identity_;
   MessageBoxes* messages_;
   ErrorLog* log_;
   std::function<void()> shutDown_;

@@ -33,7 +33,7 @@ ProgramIdentity ReadProgramIdentity(SystemApi& system) {
   identity.versionText = VersionText(version);
   identity.legalNotice = version.legalCopyright;
   identity.fileDescription = version.fileDescription;
-  identity.mainCaption = identity.productName + " - " + identity.installationFolderName;
+  identity.mainCaption = std::string(kProductName) + " - " + identity.installationFolderName;
   return identity;
 }
 

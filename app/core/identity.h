@@ -8,11 +8,11 @@
 
 namespace korvale {
 
+/// Also the title of every message box, followed by a suffix such as " - ERROR".
 inline constexpr const char* kProductName = "Korvale";
 
 /// What the program knows about itself, fixed at start-up.
 struct ProgramIdentity {
-  std::string productName = kProductName;
   /// The executable's folder with a closing backslash.
   std::string programFolder;
   /// The same folder under every drive letter, link, share or short name.
@@ -25,8 +25,6 @@ struct ProgramIdentity {
   std::string fileDescription;
   /// "Korvale - Work" for a copy in a folder named Work; also the settings application name.
   std::string mainCaption;
-  /// Title of every message box, followed by a suffix such as " - ERROR".
-  std::string messageTitle = kProductName;
   /// File name of the executable without its folder.
   std::string executableName;
 };

@@ -80,14 +80,11 @@ class InstallationRule {
   }
 
   void ShowNameIsTaken() {
-    const std::string& product = identity_.productName;
     messages_.ShowMessageBox(
         "An installation in a folder named '" + identity_.installationFolderName +
-            "' already exists.  " + product +
-            " does not support two installations with the same folder name.  Please rename the "
-            "folder then re-run " +
-            product + ".",
-        win32::kMbOk, identity_.messageTitle);
+            "' already exists.  Korvale does not support two installations with the same folder "
+            "name.  Please rename the folder then re-run Korvale.",
+        win32::kMbOk, kProductName);
   }
 
   /// The first installation that is gone from its folder but has settings left; "" when there is
@@ -105,10 +102,9 @@ class InstallationRule {
   }
 
   std::int16_t AskForImport(const std::string& other) {
-    const std::string& product = identity_.productName;
     return messages_.ShowMessageBox("Do you want to import common settings and options from " +
-                                        other + " into this installation of " + product + " ?",
-                                    win32::kMbYesNo, identity_.messageTitle);
+                                        other + " into this installation of Korvale ?",
+                                    win32::kMbYesNo, kProductName);
   }
 
   const ProgramIdentity& identity_;

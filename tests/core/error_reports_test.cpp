@@ -40,7 +40,7 @@ class ErrorReportsTest : public testing::Test {
   int shutDowns_ = 0;
   bool shutDownFails_ = false;
   ErrorLog log_{identity_, system_, clock_, [] { return ErrorLogState(); }};
-  ErrorReports reports_{identity_, messages_, log_, [this] {
+  ErrorReports reports_{messages_, log_, [this] {
                           EXPECT_TRUE(Content().ends_with("\r\n")) << "shut down before logging";
                           ++shutDowns_;
                           if (shutDownFails_) throw std::runtime_error("broken");
@@ -83,7 +83,7 @@ TEST_F(ErrorReportsTest, FatalErrorOfTheProgramsOwnHasNoRunTimeErrorText) {
 
 TEST_F(ErrorReportsTest, ProgramEndsEvenWhenTheLogCannotBeWritten) {
   identity_.programFolder = "D:\\None\\";
-  ErrorReports reports(identity_, messages_, log_, [this] { ++shutDowns_; });
+  ErrorReports reports(messages_, log_, [this] { ++shutDowns_; });
   EXPECT_THROW(reports.udmFatalError(ErrorPlace::kEventHandler, 5, {}), ProgramEnded);
   EXPECT_EQ(messages_.shown.size(), 1U);
   EXPECT_EQ(shutDowns_, 1);

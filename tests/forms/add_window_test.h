@@ -30,7 +30,7 @@ class AddWindowTest : public DialogTest {
   void OpenDialog(AddWindowMode mode = AddWindowMode::kPreviousWindow) {
     mode_ = mode;
     dialog_.Load();
-    dialog_.PrepareForWindowMenu("Korvale");
+    dialog_.PrepareForWindowMenu();
     dialog_.Show();
   }
   void OpenDialogFor(const std::string& title) {

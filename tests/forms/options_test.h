@@ -46,7 +46,6 @@ class FakeOptionsOwner : public OptionsDialogOwner {
   }
   std::int16_t OptionsTab() const override { return tab; }
   void SetOptionsTab(std::int16_t chosen) override { tab = chosen; }
-  std::string ProgramTitle() const override { return "Korvale"; }
   void OptionsDialogClosed() override { Log("OptionsDialogClosed"); }
 
   frmOptions* dialog = nullptr;

@@ -35,7 +35,7 @@ class TipsTest : public DialogTest {
   frmMsgTip form_{forms_};
   bool displayTips_ = true;
   std::string hidden_;
-  Tips tips_{form_, display_, displayTips_, hidden_, "Korvale"};
+  Tips tips_{form_, display_, displayTips_, hidden_};
 };
 
 TEST_F(TipsTest, ShowsTip14WithoutHiddenTipsAndRemembersItSilenced) {

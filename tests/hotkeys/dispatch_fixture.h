@@ -77,9 +77,9 @@ class HotKeyDispatchTest : public testing::Test, protected DispatchDesktop {
 
   FakeHotKeyActions actions;
   HotKeyTable table{hotKeys, options, mainWindow};
-  HotKeyToggle toggle{table, options, actions, "Product", "Title"};
+  HotKeyToggle toggle{table, options, actions};
   FakeErrorReporters errors{log};
-  HotKeyDispatch dispatch{routines, suspension, actions, toggle, errors, "Product", "Title"};
+  HotKeyDispatch dispatch{routines, suspension, actions, toggle, errors};
 
   WindowHandle other = 0;
   WindowHandle target = 0;

@@ -36,7 +36,7 @@ class HotKeyToggleTest : public testing::Test {
   OptionsHolder options;
   HotKeyTable table{hotKeys, options, mainWindow};
   FakeHotKeyActions actions;
-  HotKeyToggle toggle{table, options, actions, "Product", "Title"};
+  HotKeyToggle toggle{table, options, actions};
 };
 
 TEST_F(HotKeyToggleTest, SwitchesOffEveryHotKeyButItsOwn) {
@@ -45,13 +45,13 @@ TEST_F(HotKeyToggleTest, SwitchesOffEveryHotKeyButItsOwn) {
   EXPECT_EQ(log.Calls(),
             (Calls{"UnregisterHotKey(main, 1)", "UnregisterHotKey(main, 2)",
                    "UnregisterHotKey(main, 3)", "RegisterHotKey(main, 1, 0, 19)",
-                   "HotKeysRegistered", "ShowWaitWindow(\"Title - Hot Keys (OFF)\")"}));
+                   "HotKeysRegistered", "ShowWaitWindow(\"Korvale - Hot Keys (OFF)\")"}));
   EXPECT_FALSE(table.HotKeysActive());
   EXPECT_EQ(table.HotKeyCount(), 1);
   EXPECT_EQ(table.NameOf(1), "HOTKEY_TOGGLE_HOTKEYS");
   EXPECT_EQ(actions.waitWindows,
             (std::vector<ShownWaitWindow>{
-                {"Title - Hot Keys (OFF)", "Hot Keys are now Deactivated", 800}}));
+                {"Korvale - Hot Keys (OFF)", "Hot Keys are now Deactivated", 800}}));
 }
 
 TEST_F(HotKeyToggleTest, SwitchesAllEnabledHotKeysOnAgain) {
@@ -61,13 +61,14 @@ TEST_F(HotKeyToggleTest, SwitchesAllEnabledHotKeysOnAgain) {
 
   toggle.ToggleHotKeys(kToggleFromHotKey);
 
-  EXPECT_EQ(log.Calls(), (Calls{"UnregisterHotKey(main, 1)", "RegisterHotKey(main, 1, 1, 51)",
-                                "RegisterHotKey(main, 2, 8, 79)", "RegisterHotKey(main, 3, 0, 19)",
-                                "HotKeysRegistered", "ShowWaitWindow(\"Title - Hot Keys (ON)\")"}));
+  EXPECT_EQ(log.Calls(),
+            (Calls{"UnregisterHotKey(main, 1)", "RegisterHotKey(main, 1, 1, 51)",
+                   "RegisterHotKey(main, 2, 8, 79)", "RegisterHotKey(main, 3, 0, 19)",
+                   "HotKeysRegistered", "ShowWaitWindow(\"Korvale - Hot Keys (ON)\")"}));
   EXPECT_TRUE(table.HotKeysActive());
-  EXPECT_EQ(
-      actions.waitWindows,
-      (std::vector<ShownWaitWindow>{{"Title - Hot Keys (ON)", "Hot Keys are now Activated", 800}}));
+  EXPECT_EQ(actions.waitWindows,
+            (std::vector<ShownWaitWindow>{
+                {"Korvale - Hot Keys (ON)", "Hot Keys are now Activated", 800}}));
 }
 
 TEST_F(HotKeyToggleTest, LeavesNoHotKeyWhenTheToggleHasNoKey) {
@@ -100,7 +101,7 @@ TEST_F(HotKeyToggleTest, ExplainsItselfBeforeTheMenuSwitchesOff) {
             (std::vector<ShownTip>{
                 {14,
                  "This deactivates all hot keys except the hot key assigned to Activate/Deactivate "
-                 "Hot Keys.  When Product is installed, the default hot key to "
+                 "Hot Keys.  When Korvale is installed, the default hot key to "
                  "Activate/Deactivate Hot Keys is the Pause key.  If you wish, this hot key can be "
                  "changed on the Hot Keys tab of the Options dialog box.",
                  "TIP", 3000}}));

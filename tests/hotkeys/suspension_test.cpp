@@ -12,8 +12,8 @@ namespace korvale {
 namespace {
 
 const ShownMessageBox kNotice{
-    "Hot Keys are temporarily suspended when Product has a message box or a dialog box displayed.",
-    0, "Title     "};
+    "Hot Keys are temporarily suspended when Korvale has a message box or a dialog box displayed.",
+    0, "Korvale     "};
 
 TEST(SuspensionTest, LastsWhileAMessageBoxOrADialogIsShown) {
   EXPECT_FALSE(Suspension{}.Active());
@@ -44,7 +44,7 @@ TEST_F(SuspendedHotKeyTest, IsDroppedWithANoticeWhileAMessageBoxIsShown) {
 
 TEST_F(SuspendedHotKeyTest, ShowsNoSecondNotice) {
   suspension.DialogShown = true;
-  Open("Title     ", "#32770", "notice");
+  Open("Korvale     ", "#32770", "notice");
   log.Clear();
 
   EXPECT_EQ(Press("HOTKEY_PARENT3"), "");
@@ -55,8 +55,8 @@ TEST_F(SuspendedHotKeyTest, ShowsNoSecondNotice) {
 
 TEST_F(SuspendedHotKeyTest, TakesNoOtherMessageBoxOfTheProgramForTheNotice) {
   suspension.MessageBoxShown = true;
-  Open("Title", "#32770", "message");
-  Open("Title    ", "#32770", "message");
+  Open("Korvale", "#32770", "message");
+  Open("Korvale    ", "#32770", "message");
 
   Press("HOTKEY_PARENT3");
 
@@ -107,7 +107,7 @@ class HotKeyDuringMessageBoxTest : public HotKeyDispatchTest {
                                forms, previous, suspension, [] { return 0; }};
   Desktop withBoxes{
       {desktop, desktop, mainWindow, forms, boxes, previous}, clock, options, windowMenu};
-  HotKeyDispatch live{withBoxes, suspension, actions, toggle, errors, "Product", "Title"};
+  HotKeyDispatch live{withBoxes, suspension, actions, toggle, errors};
 };
 
 TEST_F(HotKeyDuringMessageBoxTest, ShowsOneNoticeHoweverOftenTheKeyIsPressed) {

@@ -109,9 +109,9 @@ TEST_F(UnknownHotKeyTest, TellsThatAnExcludedWindowIsNotRecognized) {
 
   EXPECT_EQ(messages.shown,
             (std::vector<ShownMessageBox>{
-                {"Product does not recognize the Window: [Palette].  Try changing options under "
+                {"Korvale does not recognize the Window: [Palette].  Try changing options under "
                  "'Window Identification' on the General tab of the Options dialog box.",
-                 0x10000, "Title"}}));
+                 0x10000, "Korvale"}}));
   EXPECT_EQ(log.Calls(), (Calls{"udmTimersEnabled(true)", "SetForegroundWindow(tool)"}));
   EXPECT_EQ(desktop.GetForegroundWindow(), tool);
   EXPECT_EQ(previous.current.handle, target);
