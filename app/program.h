@@ -23,8 +23,8 @@ class Program {
   /// Dispatches messages until the main form is gone.
   void Run();
 
+  /// The way in for whoever uses the program as its user does.
   frmMain& MainForm() { return form_; }
-  FormCollection& Forms() { return forms_; }
 
  private:
   bool Guarded(const std::function<void()>& step);

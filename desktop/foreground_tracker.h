@@ -61,10 +61,6 @@ class ForegroundTracker {
   /// Tag that identifies it takes its handle.
   void Follow(const WindowTriple& window);
 
-  /// The user is in `window` now. Unless that is the main window, it becomes the Previous Window,
-  /// and the window before it, or the main window when that had the focus, the alternate.
-  void MoveRecordTo(const WindowTriple& window);
-
   /// Moves the record to a window that was just brought to the front (SetForegroundWindow), which
   /// Windows may do a moment later.
   void RecordSelection(const WindowTriple& window);
@@ -73,6 +69,9 @@ class ForegroundTracker {
   void PopUpClosed();
 
  private:
+  /// The user is in `window` now. Unless that is the main window, it becomes the Previous Window,
+  /// and the window before it, or the main window when that had the focus, the alternate.
+  void MoveRecordTo(const WindowTriple& window);
   void LookBehindDialog(WindowHandle dialog);
   void MoveRecordBehindDialog(const WindowTriple& window);
   void NoteInFront(WindowHandle foreground);

@@ -18,7 +18,7 @@ frmMain::frmMain(Platform& platform, FormCollection& forms, ProgramLifetime& lif
       platform_(&platform),
       lifetime_(&lifetime),
       tmrWindow_(*this, "tmrWindow"),
-      parts_(platform, forms, *this, Menus(), *this, [this] { udmUnload(false); }),
+      parts_(platform, forms, *this, Menu("mnuWindow"), *this, [this] { udmUnload(false); }),
       tipForm_(forms),
       waitForm_(forms, parts_.display),
       about_(forms, platform.clock, parts_.identity),
@@ -27,7 +27,7 @@ frmMain::frmMain(Platform& platform, FormCollection& forms, ProgramLifetime& lif
       optionsForm_(forms, *this),
       tips_(tipForm_, parts_.display, parts_.startup.DisplayTips, parts_.startup.Tips),
       windowMenu_(
-          parts_.desktop, Menus(), parts_.startup.AlwaysOnTop, [this] { RefreshMenus("mnu"); },
+          parts_.desktop, *this, parts_.startup.AlwaysOnTop, [this] { RefreshMenus("mnu"); },
           [this](AddWindowMode mode) { ShowAddWindow(mode); }) {
   BindMenus();
   BindWindowMenu();

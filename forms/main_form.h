@@ -48,8 +48,6 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
 
   /// Only for tests, which look at the records behind the window.
   MainParts& Parts() { return parts_; }
-  Tips& TipMessages() { return tips_; }
-  WindowMenu& TheWindowMenu() { return windowMenu_; }
   frmMsgBox2& About() { return about_; }
 
   void udmUnload(bool booNormalShutDown);

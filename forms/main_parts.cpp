@@ -19,7 +19,8 @@ WindowHandle DialogOnTop(const FormCollection& forms) {
 }  // namespace
 
 MainParts::MainParts(Platform& platform, FormCollection& forms, MainWindow& mainWindow,
-                     MenuBar& menus, HotKeyActions& hotKeyActions, std::function<void()> shutDown)
+                     MenuItem& windowMenu, HotKeyActions& hotKeyActions,
+                     std::function<void()> shutDown)
     : settings(platform.store, ""),
       messages(platform.dialogs, platform.windows, platform.commands, mainWindow, forms, previous,
                suspension, [&forms] { return DialogOnTop(forms); }),
@@ -29,7 +30,7 @@ MainParts::MainParts(Platform& platform, FormCollection& forms, MainWindow& main
                }),
       errors(messages, errorLog, std::move(shutDown)),
       desktop({platform.windows, platform.commands, mainWindow, forms, messages, previous},
-              platform.clock, options, *menus.Find("mnuWindow")),
+              platform.clock, options, windowMenu),
       display(forms, platform.windows, platform.commands, previous, suspension,
               startup.AlwaysOnTop),
       hotKeys(platform.hotKeys, options, mainWindow),

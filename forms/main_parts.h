@@ -39,7 +39,7 @@ struct MainState {
 /// The records and routines that the main form owns for the whole run, in the order in which they
 /// build on each other.
 struct MainParts {
-  MainParts(Platform& platform, FormCollection& forms, MainWindow& mainWindow, MenuBar& menus,
+  MainParts(Platform& platform, FormCollection& forms, MainWindow& mainWindow, MenuItem& windowMenu,
             HotKeyActions& actions, std::function<void()> shutDown);
   MainParts(const MainParts&) = delete;
   MainParts& operator=(const MainParts&) = delete;

@@ -5,7 +5,6 @@
 #include "app/core/identity.h"
 #include "desktop/window_readers.h"
 #include "hotkeys/hot_key_names.h"
-#include "platform/run_time_error.h"
 #include "platform/win32_constants.h"
 #include "util/text.h"
 
@@ -32,36 +31,31 @@ std::string ShortTitle(const std::string& title) {
   return LeftCharacters(title, kShortTitleLength - 3) + "...";
 }
 
-WindowMenu::WindowMenu(Desktop& desktop, MenuBar& menus, bool& alwaysOnTop,
+WindowMenu::WindowMenu(Desktop& desktop, Form& form, bool& alwaysOnTop,
                        std::function<void()> refreshMenus,
                        std::function<void(AddWindowMode)> showAddWindow)
     : desktop_(&desktop),
-      menus_(&menus),
+      form_(&form),
       alwaysOnTop_(&alwaysOnTop),
       refreshMenus_(std::move(refreshMenus)),
       showAddWindow_(std::move(showAddWindow)) {}
-
-MenuItem& WindowMenu::Item(const char* name, int index) {
-  MenuItem* item = menus_->Find(name, index);
-  if (item == nullptr) throw RunTimeError(RunTimeError::kNoSuchControlArrayElement);
-  return *item;
-}
 
 void WindowMenu::mnuWindow_Click() {
   desktop_->tracker.tmrWindow_Timer();
   desktop_->tracker.ValidatePreviousWindow();
   desktop_->tracker.udmRefreshAlwaysOnTopMenuChecked();
 
-  MenuItem& addThis = Item("mnuWindowAddToList", kThisWindow);
+  MenuItem& addThis = form_->Menu("mnuWindowAddToList", kThisWindow);
   addThis.caption = Trim(addThis.caption);
-  if (Item("mnuWindow").tag == kHotKeyWindowMenuPopup) {
+  if (form_->Menu("mnuWindow").tag == kHotKeyWindowMenuPopup) {
     const int blanks = CharacterCount(kProductName) + kPopUpPadding;
     addThis.caption.insert(0, static_cast<std::size_t>(blanks), ' ');
   }
 
   const std::string title = DoubleAmpersands(ShortTitle(desktop_->previous.current.text));
-  Item("mnuWindowPreviousWindowAlwaysOnTop").caption = "[" + title + "]  Always On &Top";
-  Item("mnuWindowAddToList", kPreviousWindow).caption = "Add  [" + title + "]  to &Window menu...";
+  form_->Menu("mnuWindowPreviousWindowAlwaysOnTop").caption = "[" + title + "]  Always On &Top";
+  form_->Menu("mnuWindowAddToList", kPreviousWindow).caption =
+      "Add  [" + title + "]  to &Window menu...";
 }
 
 void WindowMenu::mnuWindowParentList_Click(std::int16_t Index) {
@@ -101,7 +95,7 @@ bool WindowMenu::PreviousCanBeAdded() {
 }
 
 void WindowMenu::mnuWindowAlwaysOnTop_Click() {
-  MenuItem& item = Item("mnuWindowAlwaysOnTop");
+  MenuItem& item = form_->Menu("mnuWindowAlwaysOnTop");
   item.checked = !item.checked;
   desktop_->requests.SetTopmost(desktop_->mainWindow.MainHandle(), item.checked);
   *alwaysOnTop_ = item.checked;
@@ -111,7 +105,7 @@ void WindowMenu::mnuWindowAlwaysOnTop_Click() {
 void WindowMenu::mnuWindowPreviousWindowAlwaysOnTop_Click() {
   WindowTriple& previous = desktop_->previous.current;
   if (desktop_->actions.ActivateWindow(previous, true, true) == kActivationDone) {
-    MenuItem& item = Item("mnuWindowPreviousWindowAlwaysOnTop");
+    MenuItem& item = form_->Menu("mnuWindowPreviousWindowAlwaysOnTop");
     item.checked = !item.checked;
     desktop_->requests.SetTopmost(previous.handle, item.checked);
     if (desktop_->mainWindow.FocusTag() == kGotFocus) {

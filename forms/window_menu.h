@@ -6,7 +6,7 @@
 
 #include "desktop/desktop.h"
 #include "forms/add_window_context.h"
-#include "platform/menu_model.h"
+#include "ui/form.h"
 
 namespace korvale {
 
@@ -15,8 +15,8 @@ class WindowMenu {
  public:
   /// `form` has the menu; `alwaysOnTop` is its live state, `refreshMenus` refreshes its menus as
   /// after the menu command "mnu", `showAddWindow` shows the Add Window dialog.
-  WindowMenu(Desktop& desktop, MenuBar& menus, bool& alwaysOnTop,
-             std::function<void()> refreshMenus, std::function<void(AddWindowMode)> showAddWindow);
+  WindowMenu(Desktop& desktop, Form& form, bool& alwaysOnTop, std::function<void()> refreshMenus,
+             std::function<void(AddWindowMode)> showAddWindow);
 
   /// Runs each time the menu opens, from the menu bar or as a pop-up: brings its state and captions
   /// up to date.
@@ -32,10 +32,9 @@ class WindowMenu {
 
  private:
   bool PreviousCanBeAdded();
-  MenuItem& Item(const char* name, int index = -1);
 
   Desktop* desktop_;
-  MenuBar* menus_;
+  Form* form_;
   bool* alwaysOnTop_;
   std::function<void()> refreshMenus_;
   std::function<void(AddWindowMode)> showAddWindow_;

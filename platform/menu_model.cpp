@@ -42,10 +42,6 @@ bool MenuBar::AnyVisible() const {
 
 MenuItem* MenuBar::Find(std::string_view name, int index) { return FindBelow(root_, name, index); }
 
-const MenuItem* MenuBar::Find(std::string_view name, int index) const {
-  return FindBelow(root_, name, index);
-}
-
 MenuItemArray::MenuItemArray(MenuItem& menu, std::string name)
     : menu_(&menu), name_(std::move(name)) {}
 

@@ -54,7 +54,6 @@ class MenuBar {
 
   /// The entry of this name and array index; null when there is none.
   MenuItem* Find(std::string_view name, int index = -1);
-  const MenuItem* Find(std::string_view name, int index = -1) const;
 
  private:
   MenuItem root_;

@@ -165,13 +165,6 @@ void Form::ShowModal() {
   if (IsLoaded()) forms_->RunModal(*this);
 }
 
-void Form::Hide() {
-  if (!state_.visible) return;
-  state_.visible = false;
-  forms_->EndModal(this);
-  forms_->Host().ShowWindow(handle_, win32::kSwHide);
-}
-
 void Form::SetCaption(std::string_view caption) {
   if (state_.caption == caption) return;
   state_.caption = caption;
@@ -254,10 +247,6 @@ const ControlState& Form::StateOf(int control) const { return state_.Control(con
 MenuItem& Form::Menu(std::string_view name, int index) {
   if (MenuItem* const item = state_.menu.Find(name, index)) return *item;
   throw RunTimeError(RunTimeError::kNoSuchControlArrayElement, name);
-}
-
-void Form::RefreshMenuBar() {
-  if (IsLoaded()) forms_->Host().DrawMenuBar(handle_);
 }
 
 void Form::SetMenuShown(bool shown) {

@@ -64,10 +64,9 @@ class Form : public FormEvents, public CollectedForm, private ControlOwner {
   void Show() final;
   /// As Show, but the active window stays active.
   void ShowInactive();
-  /// Shows the form and returns when it has been unloaded or hidden; no other form of the program
+  /// Shows the form and returns when it has been unloaded; no other form of the program
   /// takes input meanwhile.
   void ShowModal();
-  void Hide();
 
   const std::string& Caption() const { return state_.caption; }
   void SetCaption(std::string_view caption);
@@ -94,9 +93,6 @@ class Form : public FormEvents, public CollectedForm, private ControlOwner {
 
   /// The menu entry of this name; error 340 when there is none.
   MenuItem& Menu(std::string_view name, int index = -1);
-  MenuBar& Menus() { return state_.menu; }
-  /// Shows changed captions and visibility of the menu bar.
-  void RefreshMenuBar();
   void SetMenuShown(bool shown);
 
   FormCollection& Collection() { return *forms_; }

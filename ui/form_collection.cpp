@@ -15,12 +15,6 @@ std::vector<LoadedForm> FormCollection::List() const {
   return list;
 }
 
-CollectedForm* FormCollection::Find(std::string_view name) const {
-  const auto found = std::ranges::find_if(
-      loaded_, [&](const CollectedForm* form) { return EqualsIgnoreCase(form->Name(), name); });
-  return found == loaded_.end() ? nullptr : *found;
-}
-
 void FormCollection::UnloadAllExcept(std::string_view name) {
   // Unloading one form may unload others, so the rest is looked up again each time.
   std::vector<const CollectedForm*> asked;

@@ -42,8 +42,6 @@ class FormCollection : public LoadedForms {
 
   /// The loaded forms in the order of their loading.
   std::vector<LoadedForm> List() const override;
-  /// The loaded form of this name, ignoring case; null when there is none.
-  CollectedForm* Find(std::string_view name) const;
   /// Unloads every loaded form except the one of this name, the one loaded last first.
   void UnloadAllExcept(std::string_view name);
 

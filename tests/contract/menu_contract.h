@@ -81,7 +81,7 @@ TEST_F(FormHostContract, TheMenuBarCanBeHiddenAndItsCaptionsChanged) {
   form_.SetMenuShown(true);
   EXPECT_EQ(User().MenuBarItems(Window()), (std::vector<ShownMenuItem>{{"Ж", "Ж"}}));
   form_.Menu("mnuFile").visible = true;
-  form_.RefreshMenuBar();
+  Host().DrawMenuBar(Window());
   EXPECT_EQ(User().MenuBarItems(Window()).size(), 2U);
 }
 

@@ -4,12 +4,8 @@
 
 namespace korvale {
 
-TEST_F(FormHostContract, AFormIsHiddenUntilItIsShownAndAfterItWasHidden) {
+TEST_F(FormHostContract, AFormIsHiddenUntilItIsShown) {
   form_.Load();
-  EXPECT_FALSE(User().IsShown(Window()));
-  form_.Show();
-  EXPECT_TRUE(User().IsShown(Window()));
-  form_.Hide();
   EXPECT_FALSE(User().IsShown(Window()));
   form_.Show();
   EXPECT_TRUE(User().IsShown(Window()));
@@ -202,15 +198,6 @@ TEST_F(FormHostContract, TheFormBelowIsActiveAgainAfterAModalOne) {
   dialog_.ShowModal();
   EXPECT_GT(form_.activations, before);
   EXPECT_EQ(Focus(), "txtName");
-}
-
-TEST_F(FormHostContract, HidingAModalFormEndsItToo) {
-  form_.Show();
-  User().WhenWaiting([&] { dialog_.Hide(); });
-  dialog_.ShowModal();
-  EXPECT_TRUE(dialog_.IsLoaded());
-  EXPECT_FALSE(User().IsShown(dialog_.Handle()));
-  EXPECT_TRUE(User().IsEnabled(Window()));
 }
 
 TEST_F(FormHostContract, ModalFormsNest) {

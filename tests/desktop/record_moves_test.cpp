@@ -11,7 +11,7 @@ class RecordMoves : public ForegroundTracking {};
 
 TEST_F(RecordMoves, WindowBeforeBecomesTheAlternate) {
   WorkIn(alpha);
-  tracker.MoveRecordTo(Triple(beta));
+  tracker.Follow(Triple(beta));
   EXPECT_EQ(previous.current, Triple(beta));
   EXPECT_EQ(previous.alternate, Triple(alpha));
 }
@@ -19,7 +19,7 @@ TEST_F(RecordMoves, WindowBeforeBecomesTheAlternate) {
 TEST_F(RecordMoves, MainWindowBecomesTheAlternateWhileItIsInFront) {
   WorkIn(alpha);
   WorkIn(mainWindow.handle);
-  tracker.MoveRecordTo(Triple(beta));
+  tracker.Follow(Triple(beta));
   EXPECT_EQ(previous.current, Triple(beta));
   EXPECT_EQ(previous.alternate, Triple(mainWindow.handle));
   EXPECT_EQ(mainWindow.focusTag, "");
@@ -28,7 +28,7 @@ TEST_F(RecordMoves, MainWindowBecomesTheAlternateWhileItIsInFront) {
 TEST_F(RecordMoves, AlternateItselfMayBecomeTheCurrentOne) {
   WorkIn(alpha);
   WorkIn(beta);
-  tracker.MoveRecordTo(previous.alternate);
+  tracker.Follow(previous.alternate);
   EXPECT_EQ(previous.current, Triple(alpha));
   EXPECT_EQ(previous.alternate, Triple(beta));
 }

@@ -94,7 +94,7 @@ TEST_F(HeadlessUserTest, AFormThatIsHiddenMinimizedOrDisabledCannotBeUsed) {
   form_.SetEnabled(true);
   form_.SetWindowState(ShowState::kMinimized);
   EXPECT_TEST_FAILURE(user_.Close(), "form frmContract is minimized");
-  form_.Hide();
+  host_.ShowWindow(Window(), win32::kSwHide);
   EXPECT_TEST_FAILURE(user_.Choose({"File", "Open"}), "form frmContract is hidden");
   form_.Unload();
   EXPECT_TEST_FAILURE(user_.Close(), "there is no window");
@@ -130,7 +130,7 @@ TEST_F(HeadlessUserTest, MenuEntriesThatAreNotShownCannotBeChosen) {
 TEST_F(HeadlessUserTest, AMenuBarShowsChangesOnlyWhenItIsDrawnAgain) {
   form_.Menu("mnuFile").caption = "&Datei";
   EXPECT_EQ(hands_.MenuBarItems(Window()).front().caption, "File");
-  form_.RefreshMenuBar();
+  host_.DrawMenuBar(Window());
   EXPECT_EQ(hands_.MenuBarItems(Window()).front().caption, "Datei");
 }
 

@@ -45,7 +45,7 @@ class HotKeyDispatchTest : public testing::Test, protected DispatchDesktop {
     main = Open("Korvale - Work", "Korvale.frmMain", "main");
     mainWindow.handle = main;
     forms.Load("frmMain", main);
-    tracker.MoveRecordTo({target, "Target", "Editor"});
+    tracker.Follow({target, "Target", "Editor"});
     desktop.UserActivates(target);
     log.Clear();
     const auto record = [this](const std::string& call) { log.Add(call); };

@@ -186,7 +186,7 @@ TEST_F(AddWindowStory, EscAltF4AndTheCloseBoxChangeNothing) {
        }) {
     korvale.host.WhenModal("frmGetWindow", close);
     korvale.user.ChooseMenu(korvale.Handle(), {"Window", "Add  [Alpha]  to Window menu..."});
-    EXPECT_EQ(korvale.program.Forms().Find("frmGetWindow"), nullptr);
+    EXPECT_EQ(korvale.FindForm("frmGetWindow"), nullptr);
     EXPECT_TRUE(korvale.Form().IsLoaded());
     EXPECT_EQ(korvale.WindowMenuItems()[7].caption, "-");
     EXPECT_EQ(Front(), "Korvale - Work");

@@ -45,7 +45,7 @@ class CrashTest : public StartTest {
   void ExpectToldAndUsable(KorvaleCopy& korvale, const std::string& form) {
     ASSERT_EQ(messages_.size(), 1U);
     EXPECT_TRUE(messages_[0].text.starts_with("VB ERROR 7 - Out of memory")) << messages_[0].text;
-    EXPECT_EQ(korvale.Form().Collection().Find(form), nullptr);
+    EXPECT_EQ(korvale.FindForm(form), nullptr);
     EXPECT_TRUE(korvale.host.Desktop().IsEnabled(korvale.Handle()));
     EXPECT_FALSE(korvale.Suspended());
     EXPECT_TRUE(korvale.Form().tmrWindow().Enabled());

@@ -199,9 +199,7 @@ class EveryWayBackTest : public KorvaleWorld, public testing::WithParamInterface
   }
   void OpenOptions() { Key(win32::kModWin, 'O'); }
   void CloseOptions() {
-    if (class Form* const form =
-            static_cast<class Form*>(korvale->program.Forms().Find("frmOptions"));
-        form != nullptr) {
+    if (class Form* const form = korvale->FindForm("frmOptions"); form != nullptr) {
       const WindowHandle hwnd = form->Handle();
       korvale->user.Click(hwnd, korvale->Id(*form, "cmdCancel"));
       std::erase(order, hwnd);

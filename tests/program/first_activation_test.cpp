@@ -30,7 +30,7 @@ TEST_F(FirstActivationTest, TheFirstRunStoresAllDefaultsBeforeItAsks) {
   EXPECT_EQ(splashAtQuestion, "True4500");
   EXPECT_EQ(Stored("Startup", "Left"), "3000");
   EXPECT_EQ(Stored("Options", "HotKeyGeneral2"), "19");
-  EXPECT_EQ(korvale.program.Forms().Find("frmOptions"), nullptr);
+  EXPECT_EQ(korvale.FindForm("frmOptions"), nullptr);
   EXPECT_EQ(log.CallsOf("SaveSetting(Korvale - Work, Saving, Complete").size(), 1U)
       << "all defaults are one save";
   EXPECT_EQ(korvale.State().lastAnswer, win32::kIdNo);
@@ -233,7 +233,7 @@ TEST_F(FirstActivationTest, TheSessionCanEndWhileTheReviewIsOffered) {
   korvale.Start();
   EXPECT_EQ(boxes, 1);
   EXPECT_FALSE(korvale.Form().IsLoaded());
-  EXPECT_EQ(korvale.program.Forms().Find("frmOptions"), nullptr);
+  EXPECT_EQ(korvale.FindForm("frmOptions"), nullptr);
 }
 
 }  // namespace

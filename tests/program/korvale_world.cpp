@@ -16,14 +16,25 @@ KorvaleCopy::KorvaleCopy(KorvaleWorld& world, const std::string& folder, int pro
   system.files.insert(system.executablePath);
   // Time passes by itself only while the program waits for it and not for the user.
   host.SetIdle([this, &world] {
-    return program.Forms().Find("frmWaitWindow") != nullptr && world.clock.AdvanceToNextTick();
+    return FindForm("frmWaitWindow") != nullptr && world.clock.AdvanceToNextTick();
   });
 }
 
 KorvaleCopy::~KorvaleCopy() = default;
 
+void KorvaleCopy::ChooseLate(const std::string& name, int index) {
+  MenuItem& item = Form().Menu(name, index);
+  item.enabled = true;
+  Form().OnMenuClicked(item);
+}
+
+class Form* KorvaleCopy::FindForm(const std::string& name) {
+  const WindowHandle hwnd = FormHandle(Form().Collection(), name);
+  return hwnd == 0 ? nullptr : dynamic_cast<class Form*>(host.Window(hwnd).events);
+}
+
 class Form& KorvaleCopy::Loaded(const std::string& name) {
-  class Form* form = static_cast<class Form*>(program.Forms().Find(name));
+  class Form* form = FindForm(name);
   if (form == nullptr) FailTest(name + " is not open");
   return *form;
 }

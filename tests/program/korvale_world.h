@@ -50,6 +50,10 @@ class KorvaleCopy {
   StartupSettings& Startup() { return Parts().startup; }
   const MainState& State() { return Parts().state; }
   WindowHandle Handle() { return Form().Handle(); }
+  /// Raises the click of a menu entry that was usable when the menu opened, whatever it is now.
+  void ChooseLate(const std::string& name, int index = -1);
+  /// The loaded form of this name, null when there is none.
+  class Form* FindForm(const std::string& name);
   /// The loaded form of this name; fails the test when it is not loaded.
   class Form& Loaded(const std::string& name);
   int Id(class Form& form, const std::string& control, int index = -1);

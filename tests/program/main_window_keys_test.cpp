@@ -5,9 +5,7 @@ namespace {
 
 class MainWindowKeysTest : public MainWindowTest {
  protected:
-  static bool AboutIsOpen(KorvaleCopy& copy) {
-    return copy.program.Forms().Find("frmMsgBox2") != nullptr;
-  }
+  static bool AboutIsOpen(KorvaleCopy& copy) { return copy.FindForm("frmMsgBox2") != nullptr; }
   /// About is open, and the user is in the main window.
   KorvaleCopy& BehindAbout() {
     KorvaleCopy& copy = StartedCopy();

@@ -65,7 +65,7 @@ TEST_F(OptionsExchangeInProgram, AnOpenDialogIsFilledAnew) {
 TEST_F(OptionsExchangeInProgram, AnyOtherModeDoesNothing) {
   KorvaleCopy& korvale = StartedCopy();
   korvale.Form().udmOptions("load_and_or_refresh");
-  EXPECT_EQ(korvale.program.Forms().Find("frmOptions"), nullptr);
+  EXPECT_EQ(korvale.FindForm("frmOptions"), nullptr);
 }
 
 TEST_F(OptionsExchangeInProgram, AKeyOfZeroLeavesEachOperationWithoutAHotKey) {

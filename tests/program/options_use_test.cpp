@@ -99,7 +99,7 @@ TEST_F(OptionsUseTest, AfterEachWayToCloseItTheHotKeyOpensItAnew) {
   for (const auto& close : WaysToClose()) {
     Open(korvale);
     close(korvale);
-    EXPECT_EQ(korvale.program.Forms().Find("frmOptions"), nullptr);
+    EXPECT_EQ(korvale.FindForm("frmOptions"), nullptr);
     WorkIn(korvale.Handle());
     log.Clear();
     class Form& anew = Open(korvale);

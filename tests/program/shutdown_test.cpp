@@ -146,7 +146,7 @@ TEST_F(ShutdownTest, TheSessionCanEndWhileAMessageBoxIsShown) {
     korvale.Form().OnCloseRequested(CloseReason::kSession);
     return win32::kIdOk;
   });
-  korvale.Form().TheWindowMenu().mnuWindowAddToList_Click(2);
+  korvale.ChooseLate("mnuWindowAddToList", 2);
   EXPECT_FALSE(korvale.Form().IsLoaded());
   EXPECT_TRUE(hotKeys.Registered().empty());
   EXPECT_FALSE(clock.AdvanceToNextTick());

@@ -104,8 +104,8 @@ std::int16_t SimulatedLife::AnswerBox(const ShownMessage& box) {
 
 /// One thing that the user does while a modal form waits for them, or while a notice is shown.
 bool SimulatedLife::LiveInDialog() {
-  Form* form = static_cast<Form*>(korvale_->program.Forms().TopModal());
-  if (form == nullptr) form = static_cast<Form*>(korvale_->program.Forms().Find("frmWaitWindow"));
+  Form* form = static_cast<Form*>(korvale_->Form().Collection().TopModal());
+  if (form == nullptr) form = korvale_->FindForm("frmWaitWindow");
   if (form == nullptr) return false;
   Meanwhile();
   if (!form->IsLoaded()) return true;

@@ -104,7 +104,7 @@ bool SimulatedLife::IsOnDesktop(WindowHandle hwnd) {
 }
 
 bool SimulatedLife::IsOptions(WindowHandle hwnd) {
-  const Form* const dialog = static_cast<Form*>(korvale_->program.Forms().Find("frmOptions"));
+  const Form* const dialog = korvale_->FindForm("frmOptions");
   return dialog != nullptr && dialog->Handle() == hwnd;
 }
 

@@ -19,7 +19,7 @@ constexpr List kLists[] = {
 }  // namespace
 
 void SimulatedLife::UseOptions() {
-  Form* const dialog = static_cast<Form*>(korvale_->program.Forms().Find("frmOptions"));
+  Form* const dialog = korvale_->FindForm("frmOptions");
   if (dialog == nullptr) return OpenOptions();
   if (!korvale_->user.IsShown(dialog->Handle())) return GoToKorvale();
   if (dice_->OneIn(5)) return EndOptions(*dialog);
@@ -33,7 +33,7 @@ void SimulatedLife::OpenOptions() {
   } else {
     UseMenu({"Tools", "Options..."});
   }
-  EXPECT_NE(korvale_->program.Forms().Find("frmOptions"), nullptr);
+  EXPECT_NE(korvale_->FindForm("frmOptions"), nullptr);
 }
 
 void SimulatedLife::UseOptionsDialog(Form& dialog) {

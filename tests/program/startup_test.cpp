@@ -24,12 +24,12 @@ TEST_F(StartUpTest, TheSecondRunAsksNothingAndShowsTheSplash) {
 
   EXPECT_TRUE(second.user.IsShown(second.Loaded("frmMsgBox2").Handle()));
   clock.Advance(10000);
-  EXPECT_EQ(second.program.Forms().Find("frmMsgBox2"), nullptr);
+  EXPECT_EQ(second.FindForm("frmMsgBox2"), nullptr);
 }
 
 TEST_F(StartUpTest, NoSplashWhenTheOptionIsOff) {
   KorvaleCopy& korvale = StartedCopy();
-  EXPECT_EQ(korvale.program.Forms().Find("frmMsgBox2"), nullptr);
+  EXPECT_EQ(korvale.FindForm("frmMsgBox2"), nullptr);
 }
 
 TEST_F(StartUpTest, AnArgumentOnTheCommandLineGetsATip) {

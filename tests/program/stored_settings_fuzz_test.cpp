@@ -125,7 +125,7 @@ class StoredSettingsFuzzTest : public KorvaleWorld {
     });
   }
   bool CloseModal(KorvaleCopy& korvale) {
-    class Form* const form = static_cast<class Form*>(korvale.program.Forms().TopModal());
+    class Form* const form = static_cast<class Form*>(korvale.Form().Collection().TopModal());
     if (form == nullptr) return false;
     korvale.user.PressCloseBox(form->Handle());
     return true;

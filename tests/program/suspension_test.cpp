@@ -146,13 +146,13 @@ TEST_F(SuspensionTest, TheNoticeOutlastsTheWaitWindowThatCausedIt) {
     ExpectNotice(korvale, [&](const ShownMessage& box) {
       EXPECT_EQ(box.owner, korvale.Handle());
       clock.Advance(800);
-      EXPECT_EQ(korvale.program.Forms().Find("frmWaitWindow"), nullptr);
+      EXPECT_EQ(korvale.FindForm("frmWaitWindow"), nullptr);
       EXPECT_NE(desktop.FindWindowA(kNoticeTitle), 0);
     });
     PressHotKey(0, win32::kVkPause);
   });
   PressHotKey(0, win32::kVkPause);
-  EXPECT_EQ(korvale.program.Forms().Find("frmWaitWindow"), nullptr);
+  EXPECT_EQ(korvale.FindForm("frmWaitWindow"), nullptr);
   EXPECT_FALSE(korvale.HotKeys().HotKeysActive());
   EXPECT_EQ(Front(), "Beta");
 }
@@ -178,7 +178,7 @@ TEST_F(SuspensionTest, TheSessionCanEndWhileTheAddWindowDialogIsOpen) {
       "frmGetWindow", [&](class Form&) { korvale.Form().OnCloseRequested(CloseReason::kSession); });
   korvale.user.ChooseMenu(korvale.Handle(), {"Window", "Add  [Beta]  to Window menu..."});
   EXPECT_FALSE(korvale.Form().IsLoaded());
-  EXPECT_EQ(korvale.program.Forms().Find("frmGetWindow"), nullptr);
+  EXPECT_EQ(korvale.FindForm("frmGetWindow"), nullptr);
   EXPECT_EQ(store.GetSetting("Korvale - Work", "ParentWindowList", "1"), "&1  Alpha");
   EXPECT_EQ(store.GetSetting("Korvale - Work", "ParentWindowList", "2"), std::nullopt);
 }

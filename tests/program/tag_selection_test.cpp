@@ -183,7 +183,7 @@ TEST_F(TagSelectionTest, WhileASearchIsForbiddenATagIsTriedOnlyOnce) {
   ExpectMessage(korvale, "Window:  [Alpha]  is not open.", win32::kMbSetForeground);
   log.IncludeReads(true);
   log.Clear();
-  korvale.Form().TheWindowMenu().mnuWindowParentList_Click(1);
+  korvale.ChooseLate("mnuWindowParentList", 1);
   EXPECT_TRUE(log.CallsOf("EnumWindows").empty());
 }
 

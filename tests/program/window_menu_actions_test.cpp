@@ -91,7 +91,7 @@ TEST_F(WindowMenuActionsTest, AlwaysOnTopOfAPreviousWindowThatCannotBeActivatedO
     return win32::kIdOk;
   });
   log.Clear();
-  korvale.Form().TheWindowMenu().mnuWindowPreviousWindowAlwaysOnTop_Click();
+  korvale.ChooseLate("mnuWindowPreviousWindowAlwaysOnTop");
   EXPECT_FALSE(korvale.Form().Menu("mnuWindowPreviousWindowAlwaysOnTop").checked);
   EXPECT_TRUE(log.CallsOf("SetWindowPos").empty());
   EXPECT_EQ(korvale.host.Messages().size(), 1U);
@@ -104,7 +104,7 @@ TEST_F(WindowMenuActionsTest, AlwaysOnTopOfThePreviousWindowStaysThereWithoutThe
   WorkIn(alpha);
   WorkIn(Open("Beta"));
   log.Clear();
-  korvale.Form().TheWindowMenu().mnuWindowPreviousWindowAlwaysOnTop_Click();
+  korvale.ChooseLate("mnuWindowPreviousWindowAlwaysOnTop");
   EXPECT_EQ(DesktopCalls(), Calls{"SetWindowPos(Beta, HWND_TOPMOST, 0, 0, 0, 0, 16387)"});
   EXPECT_EQ(Front(), "Beta");
   EXPECT_TRUE(Saved());
@@ -115,7 +115,7 @@ TEST_F(WindowMenuActionsTest, MinimizeAllMinimizesFromTheTopWithTheTimersStopped
   KorvaleCopy& korvale = StartedAfter(Open("Upper"));
   bool running = true;
   log.WhenCalled("ShowWindowAsync(Upper", [&] { running = korvale.Form().tmrWindow().Enabled(); });
-  korvale.Form().TheWindowMenu().mnuWindowMinimizeAll_Click();
+  korvale.ChooseLate("mnuWindowMinimizeAll");
   EXPECT_EQ(DesktopCalls(),
             (Calls{"ShowWindow(Korvale, SW_MINIMIZE)", "ShowWindowAsync(Upper, SW_MINIMIZE)",
                    "ShowWindowAsync(Lower, SW_MINIMIZE)"}));
@@ -131,7 +131,7 @@ TEST_F(WindowMenuActionsTest, RestoreAllEndsInKorvaleBeforeTheTimersRunAgain) {
   log.Clear();
   bool running = true;
   log.WhenCalled("SetForegroundWindow", [&] { running = korvale.Form().tmrWindow().Enabled(); });
-  korvale.Form().TheWindowMenu().mnuWindowRestoreAll_Click();
+  korvale.ChooseLate("mnuWindowRestoreAll");
   EXPECT_EQ(DesktopCalls(),
             (Calls{"ShowWindowAsync(Alpha, SW_RESTORE)", "SetForegroundWindow(Korvale)"}));
   EXPECT_FALSE(running);
@@ -144,13 +144,12 @@ TEST_F(WindowMenuActionsTest, WhileASearchIsForbiddenNothingIsMinimizedOrRestore
   const WindowHandle beta = Open("Beta");
   KorvaleCopy& korvale = StartedAfter(beta);
   desktop.UserMinimizes(alpha);
-  WindowMenu& menu = korvale.Form().TheWindowMenu();
   korvale.Selection().windowSearch = true;
   log.Clear();
-  menu.mnuWindowMinimizeAll_Click();
+  korvale.ChooseLate("mnuWindowMinimizeAll");
   EXPECT_TRUE(Saved());
   log.Clear();
-  menu.mnuWindowRestoreAll_Click();
+  korvale.ChooseLate("mnuWindowRestoreAll");
   EXPECT_TRUE(Saved());
   EXPECT_EQ(DesktopCalls(), Calls{});
   EXPECT_TRUE(desktop.IsIconic(alpha));

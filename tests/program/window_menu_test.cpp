@@ -101,7 +101,7 @@ TEST_F(WindowMenuTest, AddingWithoutAPreviousWindowAsksForOne) {
   ExpectMessage(
       korvale,
       "Please select a 'Previous' window to add to the list, then try this operation again.", 0);
-  korvale.Form().TheWindowMenu().mnuWindowAddToList_Click(2);
+  korvale.ChooseLate("mnuWindowAddToList", 2);
   EXPECT_EQ(korvale.host.Messages().size(), 1U);
 }
 
@@ -110,7 +110,7 @@ TEST_F(WindowMenuTest, AddingADisabledPreviousWindowIsRefused) {
   KorvaleCopy& korvale = StartedAfter(alpha);
   desktop.SetEnabled(alpha, false);
   ExpectMessage(korvale, "Window:  [Alpha]  is not enabled.", 0);
-  korvale.Form().TheWindowMenu().mnuWindowAddToList_Click(2);
+  korvale.ChooseLate("mnuWindowAddToList", 2);
   EXPECT_EQ(korvale.host.Messages().size(), 1U);
 }
 
@@ -119,7 +119,7 @@ TEST_F(WindowMenuTest, AddingAClosedPreviousWindowIsRefused) {
   KorvaleCopy& korvale = StartedAfter(alpha);
   desktop.Close(alpha);
   ExpectMessage(korvale, "Window:  [Alpha]  is not open.", 0);
-  korvale.Form().TheWindowMenu().mnuWindowAddToList_Click(2);
+  korvale.ChooseLate("mnuWindowAddToList", 2);
   EXPECT_EQ(korvale.host.Messages().size(), 1U);
 }
 
@@ -129,7 +129,7 @@ TEST_F(WindowMenuTest, AddingAPreviousWindowThatChangedItsClassShowsTheFailure) 
   korvale.Record().current.className = "Another";
   ExpectMessage(korvale, "The window operation was not successful.  Please try again.",
                 win32::kMbSetForeground);
-  korvale.Form().TheWindowMenu().mnuWindowAddToList_Click(2);
+  korvale.ChooseLate("mnuWindowAddToList", 2);
   EXPECT_EQ(korvale.host.Messages().size(), 1U);
 }
 

@@ -27,8 +27,8 @@ TEST_F(FormCollectionTest, LoadedFormsAreListedInTheOrderOfTheirLoading) {
 
 TEST_F(FormCollectionTest, FormsAreFoundIgnoringCase) {
   form_.Load();
-  EXPECT_EQ(forms_.Find("FRMcontract"), &form_);
-  EXPECT_EQ(forms_.Find("frmDialog"), nullptr);
+  EXPECT_EQ(FormHandle(forms_, "FRMcontract"), form_.Handle());
+  EXPECT_EQ(FormHandle(forms_, "frmDialog"), 0);
 }
 
 TEST_F(FormCollectionTest, AllButOneAreUnloadedTheLastFirst) {

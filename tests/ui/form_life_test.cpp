@@ -24,7 +24,7 @@ TEST_F(FormLifeTest, AnErrorInTheLoadHandlerUnloadsTheFormAndGoesOn) {
   form_.onLoad = [] { throw RunTimeError(RunTimeError::kInternalError); };
   EXPECT_THROW(form_.Show(), RunTimeError);
   EXPECT_FALSE(form_.IsLoaded());
-  EXPECT_EQ(forms_.Find("frmContract"), nullptr);
+  EXPECT_FALSE(IsFormLoaded(forms_, "frmContract"));
 }
 
 TEST_F(FormLifeTest, AFormThatUnloadsItselfWhileLoadingIsNotShown) {
@@ -137,7 +137,7 @@ TEST_F(FormLifeTest, AFormThatGoesOutOfScopeTakesItsWindowAlong) {
     other.Show();
   }
   EXPECT_EQ(log_.Calls().back(), "DestroyWindow(frmOther)");
-  EXPECT_EQ(forms_.Find("frmOther"), nullptr);
+  EXPECT_FALSE(IsFormLoaded(forms_, "frmOther"));
 }
 
 TEST_F(FormLifeTest, WhatTheDesignDoesNotHaveCannotBeFound) {
@@ -160,10 +160,8 @@ TEST_F(FormLifeTest, WhatIsSetBeforeLoadingDoesNotReachTheHost) {
   form_.SetEnabled(false);
   form_.SetPlace({1, 2, 3, 4});
   form_.SetMenuShown(false);
-  form_.RefreshMenuBar();
   form_.Find("chkDaily").SetText("early");
   form_.Find("tmrTick").SetInterval(100);
-  form_.Hide();
   EXPECT_EQ(log_.Calls(), Lines{});
 }
 

@@ -45,7 +45,7 @@ std::int16_t ErrorOf(const std::function<void()>& action) {
 }
 
 TEST(MenuBarTest, RowsNestByTheirDepth) {
-  const MenuBar bar(kRows);
+  MenuBar bar(kRows);
   EXPECT_EQ(NamesOf(bar.Root()), (std::vector<std::string>{"mnuFile", "mnuView", "mnuWindow"}));
   EXPECT_EQ(NamesOf(*bar.Find("mnuView")),
             (std::vector<std::string>{"mnuViewMore", "mnuViewLine"}));

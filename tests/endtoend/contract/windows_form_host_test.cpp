@@ -200,7 +200,7 @@ TEST_F(WindowsFormHostTest, AMenuBarChangedWhileAMenuIsOpenChangesAfterwards) {
   ShowForm();
   form_.WhenMenuOpens("mnuFile", [&](int) {
     form_.Menu("mnuWindow").visible = false;
-    form_.RefreshMenuBar();
+    Host().DrawMenuBar(Window());
   });
   User().ChooseMenu(Window(), {"File", "Open"});
   EXPECT_EQ(form_.Take(), Lines{"menu mnuFileOpen"});
