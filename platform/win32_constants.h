@@ -17,7 +17,6 @@ inline constexpr std::uint32_t kGwOwner = 4;
 inline constexpr std::uint32_t kGwChild = 5;
 
 // GetWindowLongA
-inline constexpr int kGwlWndProc = -4;
 inline constexpr int kGwlStyle = -16;
 inline constexpr int kGwlExStyle = -20;
 

@@ -11,7 +11,6 @@ static_assert(kErrorFileNotFound == ERROR_FILE_NOT_FOUND);
 static_assert(kErrorPathNotFound == ERROR_PATH_NOT_FOUND);
 static_assert(kGwOwner == GW_OWNER);
 static_assert(kGwChild == GW_CHILD);
-static_assert(kGwlWndProc == GWLP_WNDPROC);
 static_assert(kGwlStyle == GWL_STYLE);
 static_assert(kGwlExStyle == GWL_EXSTYLE);
 static_assert(kWsChild == WS_CHILD);

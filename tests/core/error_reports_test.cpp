@@ -49,10 +49,11 @@ class ErrorReportsTest : public testing::Test {
 
 TEST_F(ErrorReportsTest, NonFatalErrorIsShownAndTheProgramGoesOn) {
   ErrorReporters& reporters = reports_;
-  reporters.udmNonFatalError(ErrorPlace::kEventHandler, 13);
-  EXPECT_EQ(messages_.shown,
-            (std::vector<ShownMessageBox>{
-                {"VB ERROR 13 - Type mismatch\r\rKorvale Error #2", 0x10000, "Korvale - ERROR"}}));
+  reporters.udmNonFatalError(ErrorPlace::kEventHandler, 9);
+  EXPECT_EQ(
+      messages_.shown,
+      (std::vector<ShownMessageBox>{{"VB ERROR 9 - Subscript out of range\r\rKorvale Error #2",
+                                     0x10000, "Korvale - ERROR"}}));
   EXPECT_EQ(Content(), "");
   EXPECT_EQ(shutDowns_, 0);
 }

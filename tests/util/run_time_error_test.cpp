@@ -9,9 +9,9 @@ namespace korvale {
 namespace {
 
 TEST(RunTimeErrorTest, CarriesItsNumberAndDescription) {
-  const RunTimeError error(RunTimeError::kTypeMismatch);
-  EXPECT_EQ(error.Number(), 13);
-  EXPECT_STREQ(error.what(), "Type mismatch");
+  const RunTimeError error(RunTimeError::kPermissionDenied);
+  EXPECT_EQ(error.Number(), 70);
+  EXPECT_STREQ(error.what(), "Permission denied");
 }
 
 TEST(RunTimeErrorTest, PutsTheArgumentIntoTheDescription) {
@@ -29,18 +29,9 @@ constexpr KnownError kKnownErrors[] = {
     {6, "Overflow"},
     {7, "Out of memory"},
     {9, "Subscript out of range"},
-    {11, "Division by zero"},
-    {13, "Type mismatch"},
     {51, "Internal error"},
-    {52, "Bad file name or number"},
-    {53, "File not found"},
-    {55, "File already open"},
-    {57, "Device I/O error"},
-    {61, "Disk full"},
     {70, "Permission denied"},
-    {71, "Disk not ready"},
     {75, "Path/File access error"},
-    {76, "Path not found"},
     {91, "Object variable or With block variable not set"},
     {340, "Control array element '|' doesn't exist"},
     {360, "Object already loaded"},
