@@ -20,9 +20,7 @@ constexpr std::uint32_t kDialogMilliseconds = 15000;
 constexpr Color kLinkColor = 0x00CC6600;
 
 constexpr ControlRow Label(const char* name, const char* toolTip, Twips top, unsigned flags) {
-  ControlRow row{kLabel, name, -1, "", toolTip, {1080, top, 4260, 255}};
-  row.flags = flags | kNoPrefix;
-  return row;
+  return MakeRow(kLabel, name, -1, "", toolTip, {1080, top, 4260, 255}, flags | kNoPrefix);
 }
 
 constexpr ControlRow LinkLabel() {
@@ -38,16 +36,9 @@ constexpr ControlRow kAboutControls[] = {
     Label("lblFileDescription", "", 660, kNoFlags),
     Label("lblCopyright", "", 1125, kNoFlags),
     LinkLabel(),
-    {kButton,
-     "cmdOK",
-     -1,
-     "OK",
-     " Close  (Enter) ",
-     {2138, 2130, 1215, 345},
-     "",
-     -1,
-     kDefaultButton},
-    {kTimer, "tmrUnload", -1, "", "", {}, "", -1, kDisabled},
+    MakeRow(kButton, "cmdOK", -1, "OK", " Close  (Enter) ", {2138, 2130, 1215, 345},
+            kDefaultButton),
+    MakeRow(kTimer, "tmrUnload", -1, "", "", {}, kDisabled),
 };
 
 constexpr FormDesign kAboutDesign = {

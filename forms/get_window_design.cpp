@@ -31,10 +31,7 @@ enum WindowOrder : int {
 constexpr ControlRow Row(ControlKind kind, const char* name, int index, const char* caption,
                          const char* toolTip, TwipsRect place, int tabIndex,
                          unsigned flags = kNoFlags, Color backColor = kButtonFaceColor) {
-  ControlRow row{kind, name, index, caption, toolTip, place};
-  row.flags = flags;
-  row.backColor = backColor;
-  row.foreColor = backColor == kWindowColor ? kWindowTextColor : kButtonTextColor;
+  ControlRow row = MakeRow(kind, name, index, caption, toolTip, place, flags, backColor);
   row.tabIndex = tabIndex;
   return row;
 }

@@ -10,35 +10,17 @@ namespace {
 
 /// What a screen reader calls the text box that follows; nobody sees it.
 constexpr ControlRow NameOfNext(const char* name, const char* text) {
-  return {ControlKind::kLabel, name, -1, text, "", {}, "", -1, kHidden | kNoPrefix};
+  return MakeRow(ControlKind::kLabel, name, -1, text, "", {}, kHidden | kNoPrefix);
 }
 
 constexpr auto kStripControls = std::to_array<ControlRow>({
     NameOfNext("lblWindow", "Target Window"),
-    {ControlKind::kTextBox,
-     "txtWindow",
-     -1,
-     "",
-     " Target Window ",
-     {45, 45, 2600, kFieldHeight},
-     "",
-     -1,
-     kReadOnly,
-     kDefaultTargetColor,
-     kWindowTextColor},
+    MakeRow(ControlKind::kTextBox, "txtWindow", -1, "", " Target Window ",
+            {45, 45, 2600, kFieldHeight}, kReadOnly, kDefaultTargetColor),
     NameOfNext("lblWindowClass", "Class of Target Window"),
-    {ControlKind::kTextBox,
-     "txtWindowClass",
-     -1,
-     "",
-     " Class of Target Window ",
-     {2690, 45, 1600, kFieldHeight},
-     "",
-     -1,
-     kReadOnly,
-     kDefaultClassColor,
-     kWindowTextColor},
-    {ControlKind::kTimer, "tmrWindow", -1, "", "", {}, "", -1, kDisabled},
+    MakeRow(ControlKind::kTextBox, "txtWindowClass", -1, "", " Class of Target Window ",
+            {2690, 45, 1600, kFieldHeight}, kReadOnly, kDefaultClassColor),
+    MakeRow(ControlKind::kTimer, "tmrWindow", -1, "", "", {}, kDisabled),
 });
 
 constexpr auto kMenus = std::to_array<MenuRow>({

@@ -6,16 +6,9 @@ namespace {
 using enum ControlKind;
 
 constexpr ControlRow kWaitControls[] = {
-    {kLabel,
-     "lblMessage",
-     -1,
-     "",
-     "",
-     {150, 360, 4410, 270},
-     "",
-     -1,
-     kCentered | kWordWrap | kNoPrefix},
-    {kTimer, "tmrWait", -1, "", "", {}, "", -1, kDisabled},
+    MakeRow(kLabel, "lblMessage", -1, "", "", {150, 360, 4410, 270},
+            kCentered | kWordWrap | kNoPrefix),
+    MakeRow(kTimer, "tmrWait", -1, "", "", {}, kDisabled),
 };
 
 constexpr FormDesign kWaitWindowDesign = {.name = "frmWaitWindow",

@@ -59,6 +59,15 @@ struct ControlRow {
   int tabIndex = -1;
 };
 
+/// A row of a form that holds all its controls itself. On any background but the usual one the text
+/// has the colour of documents.
+constexpr ControlRow MakeRow(ControlKind kind, const char* name, int index, const char* caption,
+                             const char* toolTip, TwipsRect place, unsigned flags = kNoFlags,
+                             Color backColor = kButtonFaceColor) {
+  const Color foreColor = backColor == kButtonFaceColor ? kButtonTextColor : kWindowTextColor;
+  return {kind, name, index, caption, toolTip, place, "", -1, flags, backColor, foreColor};
+}
+
 /// An entry of a list with the number that stands for it.
 struct ListItem {
   std::string text;

@@ -14,17 +14,10 @@ namespace korvale {
 inline constexpr std::array kContractControls = {
     ControlRow{ControlKind::kLabel, "lblName", -1, "&Name", "", {100, 100, 900, 255}},
     ControlRow{ControlKind::kTextBox, "txtName", -1, "", " the name ", {1100, 100, 3000, 315}},
-    ControlRow{
-        ControlKind::kTextBox,
-        "txtFixed",
-        -1,
-        "fixed",
-        " a text that no user can change, explained at such a length that it takes more than "
-        "one line of a tool tip to tell ",
-        {1100, 500, 3000, 315},
-        "",
-        -1,
-        kReadOnly},
+    MakeRow(ControlKind::kTextBox, "txtFixed", -1, "fixed",
+            " a text that no user can change, explained at such a length that it takes more than "
+            "one line of a tool tip to tell ",
+            {1100, 500, 3000, 315}, kReadOnly),
     ControlRow{ControlKind::kCheckBox, "chkDaily", -1, "Dail&y", "", {100, 900, 2000, 255}},
     ControlRow{ControlKind::kFrame, "fraColor", -1, "&Colour", "", {100, 1200, 2500, 1300}},
     ControlRow{
@@ -35,35 +28,13 @@ inline constexpr std::array kContractControls = {
         ControlKind::kOptionButton, "optColor", 2, "Gr&een", "", {100, 900, 2000, 255}, "fraColor"},
     ControlRow{ControlKind::kDropDownList, "cboSize", -1, "", "", {100, 2700, 2000, 315}},
     ControlRow{ControlKind::kComboBox, "cboPlace", -1, "", "", {2400, 2700, 2000, 315}},
-    ControlRow{ControlKind::kButton,
-               "cmdGo",
-               -1,
-               "&Go",
-               "",
-               {4500, 100, 1200, 375},
-               "",
-               -1,
-               kDefaultButton},
+    MakeRow(ControlKind::kButton, "cmdGo", -1, "&Go", "", {4500, 100, 1200, 375}, kDefaultButton),
     ControlRow{ControlKind::kButton, "cmdStay", -1, "&Stay", "", {4500, 600, 1200, 375}},
-    ControlRow{ControlKind::kButton,
-               "cmdClose",
-               -1,
-               "Close",
-               "",
-               {4500, 1095, 1200, 375},
-               "",
-               -1,
-               kCancelButton},
-    ControlRow{ControlKind::kLabel,
-               "lblClick",
-               -1,
-               "click here",
-               "",
-               {4500, 1605, 1200, 255},
-               "",
-               -1,
-               kClickable},
-    ControlRow{ControlKind::kTimer, "tmrTick", -1, "", "", {}, "", -1, kDisabled},
+    MakeRow(ControlKind::kButton, "cmdClose", -1, "Close", "", {4500, 1095, 1200, 375},
+            kCancelButton),
+    MakeRow(ControlKind::kLabel, "lblClick", -1, "click here", "", {4500, 1605, 1200, 255},
+            kClickable),
+    MakeRow(ControlKind::kTimer, "tmrTick", -1, "", "", {}, kDisabled),
     ControlRow{ControlKind::kPage, "picPage", 0, "", "", {105, 3600, 2500, 900}},
     ControlRow{
         ControlKind::kButton, "cmdInside", -1, "&Inside", "", {105, 105, 1200, 375}, "picPage", 0},
@@ -87,8 +58,7 @@ inline constexpr FormDesign kContractDesign = {
 };
 
 inline constexpr std::array kDialogControls = {
-    ControlRow{
-        ControlKind::kButton, "cmdOK", -1, "OK", "", {105, 105, 1200, 375}, "", -1, kDefaultButton},
+    MakeRow(ControlKind::kButton, "cmdOK", -1, "OK", "", {105, 105, 1200, 375}, kDefaultButton),
 };
 
 inline constexpr FormDesign DialogDesign(const char* name) {
