@@ -43,10 +43,12 @@ bool OtherCopy::GiveWay(Desktop& desktop) {
   return true;
 }
 
-WindowHandle OtherCopy::FindByCaption(Desktop& desktop, const InstanceSearch& search) {
+WindowHandle OtherCopy::FindByCaption(Desktop& desktop, bool visible,
+                                      const WindowEnumeration::Test& qualifies) {
   const std::string className = GetWindowClass(platform_->windows, desktop.mainWindow.MainHandle());
   for (const std::string& caption : captions_) {
-    const WindowHandle found = search(desktop.enumeration, className, caption);
+    const WindowHandle found =
+        desktop.enumeration.FindInstance(className, caption, visible, qualifies);
     if (found != 0) return found;
   }
   return 0;
@@ -54,26 +56,15 @@ WindowHandle OtherCopy::FindByCaption(Desktop& desktop, const InstanceSearch& se
 
 /// Also finds a copy whose main window is hidden while a box or tip of its start-up is shown.
 WindowHandle OtherCopy::Find(Desktop& desktop) {
-  const WindowHandle shown = FindByCaption(
-      desktop,
-      [](WindowEnumeration& enumeration, const std::string& className, const std::string& caption) {
-        return enumeration.FindInstance(className, caption);
-      });
+  const WindowHandle shown = FindByCaption(desktop, true);
   if (shown != 0 || alone_) return shown;
-  return FindHidden(desktop, [this](WindowHandle hwnd) {
+  return FindByCaption(desktop, false, [this](WindowHandle hwnd) {
     return FindWaitingWindow(platform_->windows, hwnd) != 0;
   });
 }
 
-WindowHandle OtherCopy::FindHidden(Desktop& desktop, const WindowEnumeration::Test& qualifies) {
-  return FindByCaption(desktop, [&](WindowEnumeration& enumeration, const std::string& className,
-                                    const std::string& caption) {
-    return enumeration.FindHiddenInstance(className, caption, qualifies);
-  });
-}
-
 std::uint32_t OtherCopy::Patience(Desktop& desktop) {
-  return FindHidden(desktop, WindowEnumeration::Any) != 0 ? kCopyPatience : kEndPatience;
+  return FindByCaption(desktop, false) != 0 ? kCopyPatience : kEndPatience;
 }
 
 void OtherCopy::BringForward(Desktop& desktop, WindowHandle copy) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -30,12 +29,9 @@ class OtherCopy {
   bool GiveWay(Desktop& desktop);
 
  private:
-  using InstanceSearch = std::function<WindowHandle(
-      WindowEnumeration&, const std::string& className, const std::string& caption)>;
-
   WindowHandle Find(Desktop& desktop);
-  WindowHandle FindHidden(Desktop& desktop, const WindowEnumeration::Test& qualifies);
-  WindowHandle FindByCaption(Desktop& desktop, const InstanceSearch& search);
+  WindowHandle FindByCaption(Desktop& desktop, bool visible,
+                             const WindowEnumeration::Test& qualifies = WindowEnumeration::Any);
   std::uint32_t Patience(Desktop& desktop);
   void BringForward(Desktop& desktop, WindowHandle copy);
 

@@ -83,20 +83,8 @@ WindowHandle WindowEnumeration::FindByTitleAndClass(const std::string& title,
   return last;
 }
 
-WindowHandle WindowEnumeration::FindInstance(const std::string& className,
-                                             const std::string& title) {
-  return SearchInstance(className, title, true, Any);
-}
-
-WindowHandle WindowEnumeration::FindHiddenInstance(const std::string& className,
-                                                   const std::string& title,
-                                                   const Test& qualifies) {
-  return SearchInstance(className, title, false, qualifies);
-}
-
-WindowHandle WindowEnumeration::SearchInstance(const std::string& className,
-                                               const std::string& title, bool visible,
-                                               const Test& qualifies) {
+WindowHandle WindowEnumeration::FindInstance(const std::string& className, const std::string& title,
+                                             bool visible, const Test& qualifies) {
   WindowHandle last = 0;
   const Visit keepMatch = [&](WindowHandle hwnd) {
     if (windows_->IsWindowVisible(hwnd) == visible &&

@@ -51,11 +51,9 @@ class WindowEnumeration {
   /// Mode 4: the same with an exact class.
   WindowHandle FindByTitleAndClass(const std::string& title, const std::string& className);
   /// Another copy of the program, by exact class and, since folder names ignore case, by title in
-  /// any case: the last visible one, 0 = none.
-  WindowHandle FindInstance(const std::string& className, const std::string& title);
-  /// The same for a copy whose window is not shown yet and that `qualifies`.
-  WindowHandle FindHiddenInstance(const std::string& className, const std::string& title,
-                                  const Test& qualifies = Any);
+  /// any case: the last one that `qualifies` and is visible, or not shown yet; 0 = none.
+  WindowHandle FindInstance(const std::string& className, const std::string& title,
+                            bool visible = true, const Test& qualifies = Any);
   /// Mode 6: the topmost window, below always-on-top ones and other than the main window, that can
   /// be worked in and `qualifies`; 0 = none.
   WindowHandle FindTopWindow(const Test& qualifies = Any);
@@ -68,8 +66,6 @@ class WindowEnumeration {
   bool CanMinimizeOrRestore(WindowHandle hwnd, bool iconic) const;
   bool FitsTitle(WindowHandle hwnd, const std::string& text) const;
   bool CanBeTopWindow(WindowHandle hwnd) const;
-  WindowHandle SearchInstance(const std::string& className, const std::string& title, bool visible,
-                              const Test& qualifies);
 
   WindowQueries* windows_;
   WindowRequests* requests_;

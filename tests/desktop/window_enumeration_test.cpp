@@ -212,10 +212,10 @@ TEST_F(WindowEnumerationTest, InstanceSearchIgnoresTheCaseOfTheFolder) {
 
 TEST_F(WindowEnumerationTest, HiddenInstanceSearchFindsACopyThatIsStarting) {
   desktop.Open("Main", {.className = "Korvale.frmMain"});
-  EXPECT_EQ(enumeration.FindHiddenInstance("Korvale.frmMain", "Main"), 0);
+  EXPECT_EQ(enumeration.FindInstance("Korvale.frmMain", "Main", false), 0);
   const WindowHandle hidden =
       desktop.Open("Main", {.className = "Korvale.frmMain", .visible = false});
-  EXPECT_EQ(enumeration.FindHiddenInstance("Korvale.frmMain", "Main"), hidden);
+  EXPECT_EQ(enumeration.FindInstance("Korvale.frmMain", "Main", false), hidden);
 }
 
 TEST_F(WindowEnumerationTest, InstanceSearchDoesNotApplyTheFilter) {
