@@ -1,25 +1,12 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
 #include <string_view>
 
+#include "platform/clock.h"
 #include "platform/types.h"
 
 namespace korvale {
-
-/// A timer of the main window. Its tag is "ON" when it is meant to run.
-class TimerControl {
- public:
-  virtual ~TimerControl() = default;
-
-  virtual bool Enabled() const = 0;
-  virtual void SetEnabled(bool enabled) = 0;
-  virtual std::string Tag() const = 0;
-  virtual void SetTag(std::string_view tag) = 0;
-  /// In milliseconds; restarts a running timer.
-  virtual void SetInterval(std::uint32_t milliseconds) = 0;
-};
 
 /// Tag of the main window while it is the tracked foreground window.
 inline constexpr const char* kGotFocus = "GOTFOCUS";
@@ -40,6 +27,7 @@ class MainWindow {
   /// The Enabled property of the main window (EnableWindow).
   virtual void SetMainEnabled(bool enabled) = 0;
 
+  /// Its tag is "ON" when it is meant to run.
   virtual TimerControl& tmrWindow() = 0;
   /// False stops all timers of the main window, true starts those whose tag is "ON".
   virtual void udmTimersEnabled(bool booTrueFalse) = 0;

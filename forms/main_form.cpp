@@ -17,7 +17,6 @@ frmMain::frmMain(Platform& platform, FormCollection& forms, ProgramLifetime& lif
     : Form(MainFormDesign(), forms),
       platform_(&platform),
       lifetime_(&lifetime),
-      tmrWindow_(*this, "tmrWindow"),
       parts_(platform, forms, *this, Menu("mnuWindow"), *this, [this] { udmUnload(false); }),
       tipForm_(forms),
       waitForm_(forms, parts_.display),

@@ -98,7 +98,7 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   void SetFocusTag(std::string_view tag) override { SetTag(tag); }
   bool WindowMenuPoppedUp() override;
   void SetMainEnabled(bool enabled) override { SetEnabled(enabled); }
-  TimerControl& tmrWindow() override { return tmrWindow_; }
+  TimerControl& tmrWindow() override { return Find("tmrWindow"); }
   void udmTimersEnabled(bool booTrueFalse) override;
   void ShowTargetWindow(const std::string& title, const std::string& className) override;
   void EnablePreviousWindowItems(bool enabled) override;
@@ -142,23 +142,6 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   void Control_Mouse(Control& control, const MouseInput& input) override;
 
  private:
-  /// A timer control of this form as the lower layers see it.
-  class FormTimer : public TimerControl {
-   public:
-    FormTimer(Form& form, const char* name) : form_(&form), name_(name) {}
-    bool Enabled() const override { return form_->Find(name_).Enabled(); }
-    void SetEnabled(bool enabled) override { form_->Find(name_).SetEnabled(enabled); }
-    std::string Tag() const override { return form_->Find(name_).Tag(); }
-    void SetTag(std::string_view tag) override { form_->Find(name_).SetTag(tag); }
-    void SetInterval(std::uint32_t milliseconds) override {
-      form_->Find(name_).SetInterval(milliseconds);
-    }
-
-   private:
-    Form* form_;
-    const char* name_;
-  };
-
   /// Runs a save that the user asked for; tells them each time that it fails.
   void SaveOrTell(const std::function<void()>& save);
   void BindMenus();
@@ -176,7 +159,6 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
 
   Platform* platform_;
   ProgramLifetime* lifetime_;
-  FormTimer tmrWindow_;
   MainParts parts_;
   frmMsgTip tipForm_;
   frmWaitWindow waitForm_;

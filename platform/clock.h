@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
+#include <string_view>
 
 #include "platform/types.h"
 
@@ -26,6 +28,19 @@ class Clock {
   virtual LocalTime GetLocalTime() = 0;
   /// Lets other threads run for about this long; no message is handled meanwhile (Sleep).
   virtual void Sleep(std::uint32_t milliseconds) = 0;
+};
+
+/// A timer of a form, as the floors below the forms see it. Its tag belongs to them.
+class TimerControl {
+ public:
+  virtual ~TimerControl() = default;
+
+  virtual bool Enabled() const = 0;
+  virtual void SetEnabled(bool enabled) = 0;
+  virtual const std::string& Tag() const = 0;
+  virtual void SetTag(std::string_view tag) = 0;
+  /// Milliseconds, at least 10, or 0 to keep it from ticking. Setting it restarts a running timer.
+  virtual void SetInterval(std::uint32_t milliseconds) = 0;
 };
 
 /// Repeating timers of our own windows; a tick arrives as FormEvents::OnTimer of that window.

@@ -24,9 +24,7 @@ void Control::Changed(ControlProperty property) {
 }
 
 void Control::SetText(std::string_view text) {
-  if (state_->text == text) return;
-  state_->text = text;
-  Changed(ControlProperty::kText);
+  Change(state_->text, std::string(text), ControlProperty::kText);
 }
 
 void Control::SetVisible(bool visible) {
@@ -48,9 +46,7 @@ void Control::SetEnabled(bool enabled) {
 }
 
 void Control::SetPlace(const TwipsRect& place) {
-  if (state_->place == place) return;
-  state_->place = place;
-  Changed(ControlProperty::kPlace);
+  Change(state_->place, place, ControlProperty::kPlace);
 }
 
 void Control::SetTop(Twips top) {
@@ -82,22 +78,14 @@ void Control::SetValue(int value) {
 }
 
 void Control::SetBackColor(Color color) {
-  if (state_->backColor == color) return;
-  state_->backColor = color;
-  Changed(ControlProperty::kColors);
+  Change(state_->backColor, color, ControlProperty::kColors);
 }
 
 void Control::SetForeColor(Color color) {
-  if (state_->foreColor == color) return;
-  state_->foreColor = color;
-  Changed(ControlProperty::kColors);
+  Change(state_->foreColor, color, ControlProperty::kColors);
 }
 
-void Control::SetBorder(bool border) {
-  if (state_->border == border) return;
-  state_->border = border;
-  Changed(ControlProperty::kBorder);
-}
+void Control::SetBorder(bool border) { Change(state_->border, border, ControlProperty::kBorder); }
 
 void Control::AddItem(std::string_view text, std::int32_t itemData) {
   state_->items.push_back({std::string(text), itemData});
@@ -113,10 +101,8 @@ void Control::AddItems(std::span<const ListItem> items) {
 
 void Control::SetItemText(int listIndex, std::string_view text) {
   CheckEntry(*state_, listIndex);
-  std::string& shown = state_->items[static_cast<std::size_t>(listIndex)].text;
-  if (shown == text) return;
-  shown = text;
-  Changed(ControlProperty::kItems);
+  Change(state_->items[static_cast<std::size_t>(listIndex)].text, std::string(text),
+         ControlProperty::kItems);
 }
 
 void Control::Clear() {

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/clock.h"
 #include "platform/form_host.h"
 #include "platform/form_model.h"
 
@@ -32,7 +33,7 @@ class ControlOwner {
 
 /// One control of a loaded form. Setters change the model, show the change and raise the event that
 /// belongs to it; setting a property to the value it has does nothing.
-class Control {
+class Control : public TimerControl {
  public:
   Control(ControlOwner& form, ControlState& state) : form_(&form), state_(&state) {}
 
@@ -50,8 +51,8 @@ class Control {
   void SetVisible(bool visible);
 
   /// Enables the control; for a timer, starts or stops it.
-  bool Enabled() const { return state_->enabled; }
-  void SetEnabled(bool enabled);
+  bool Enabled() const override { return state_->enabled; }
+  void SetEnabled(bool enabled) override;
 
   const TwipsRect& Place() const { return state_->place; }
   void SetPlace(const TwipsRect& place);
@@ -91,19 +92,23 @@ class Control {
   TextSelection Selection() const;
   void SetSelection(TextSelection selection);
 
-  /// Timer: milliseconds, at least 10, or 0 to keep it from ticking. Setting it restarts a running
-  /// timer.
   std::uint32_t Interval() const { return state_->interval; }
-  void SetInterval(std::uint32_t milliseconds);
+  void SetInterval(std::uint32_t milliseconds) override;
 
   /// A text that belongs to the form's own routines.
-  const std::string& Tag() const { return tag_; }
-  void SetTag(std::string_view tag) { tag_ = tag; }
+  const std::string& Tag() const override { return tag_; }
+  void SetTag(std::string_view tag) override { tag_ = tag; }
 
  private:
   friend class Form;
 
   void Changed(ControlProperty property);
+  template <typename Value>
+  void Change(Value& field, const Value& value, ControlProperty property) {
+    if (field == value) return;
+    field = value;
+    Changed(property);
+  }
   void TakeListIndex(int listIndex);
 
   ControlOwner* form_;

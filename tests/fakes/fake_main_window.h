@@ -15,7 +15,7 @@ class FakeTimer : public TimerControl {
  public:
   bool Enabled() const override { return enabled; }
   void SetEnabled(bool value) override { enabled = value; }
-  std::string Tag() const override { return tag; }
+  const std::string& Tag() const override { return tag; }
   void SetTag(std::string_view value) override { tag = value; }
   void SetInterval(std::uint32_t milliseconds) override { intervals.push_back(milliseconds); }
 
