@@ -1,7 +1,5 @@
 #include "desktop/title_match.h"
 
-#include <string>
-
 #include "app/core/stored_tags.h"
 
 namespace korvale {

@@ -1,8 +1,5 @@
 #pragma once
 
-#include <functional>
-#include <string>
-
 #include "desktop/main_window.h"
 #include "desktop/previous_window.h"
 #include "desktop/tag_list.h"

@@ -2,7 +2,6 @@
 
 #include <functional>
 #include <optional>
-#include <string>
 
 #include "app/core/message_boxes.h"
 #include "platform/form_events.h"

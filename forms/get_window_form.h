@@ -2,7 +2,6 @@
 
 #include <array>
 #include <string>
-#include <string_view>
 
 #include "forms/add_window_context.h"
 #include "ui/form.h"

@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <functional>
-#include <string>
 
 #include "app/core/error_log.h"
 #include "app/core/error_reports.h"

@@ -1,8 +1,5 @@
 #include "forms/options_form.h"
 
-#include <cstddef>
-#include <utility>
-
 #include "app/core/identity.h"
 #include "forms/hot_key_lists.h"
 #include "forms/options_design.h"

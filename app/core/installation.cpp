@@ -1,7 +1,5 @@
 #include "app/core/installation.h"
 
-#include <string_view>
-
 #include "app/core/save_scope.h"
 #include "platform/win32_constants.h"
 #include "util/text.h"

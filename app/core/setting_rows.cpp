@@ -12,9 +12,9 @@
 namespace korvale {
 namespace {
 
-template <auto Member>
-SettingField Option(clsOptions& options) {
-  return &(options.*Member);
+template <auto Member, typename Record>
+SettingField Field(Record& record) {
+  return &(record.*Member);
 }
 
 template <auto Member, std::size_t Index>
@@ -22,21 +22,16 @@ SettingField OptionAt(clsOptions& options) {
   return &(options.*Member)[Index];
 }
 
-template <auto Member>
-SettingField Startup(StartupSettings& startup) {
-  return &(startup.*Member);
-}
-
 template <std::size_t Tag>
 constexpr auto kTagEnabled = OptionAt<&clsOptions::booHotKeyParent, Tag>;
 
 constexpr std::array kPlainRows = std::to_array<SettingRow<clsOptions>>({
-    {kOptionsSection, "SplashScreen", Option<&clsOptions::booSplashScreen>},
-    {kOptionsSection, "SelectPrevWinOnStart", Option<&clsOptions::booSelectPrevWinOnStart>},
-    {kOptionsSection, "AllowNoTextWindow", Option<&clsOptions::booAllowNoTextWindow>},
-    {kOptionsSection, "AllowToolbarWindow", Option<&clsOptions::booAllowToolbarWindow>},
-    {kOptionsSection, "HotKeyEnabled", Option<&clsOptions::colHotKeyEnabled>},
-    {kOptionsSection, "HotKeyModParent", Option<&clsOptions::intHotKeyModParent>},
+    {kOptionsSection, "SplashScreen", Field<&clsOptions::booSplashScreen>},
+    {kOptionsSection, "SelectPrevWinOnStart", Field<&clsOptions::booSelectPrevWinOnStart>},
+    {kOptionsSection, "AllowNoTextWindow", Field<&clsOptions::booAllowNoTextWindow>},
+    {kOptionsSection, "AllowToolbarWindow", Field<&clsOptions::booAllowToolbarWindow>},
+    {kOptionsSection, "HotKeyEnabled", Field<&clsOptions::colHotKeyEnabled>},
+    {kOptionsSection, "HotKeyModParent", Field<&clsOptions::intHotKeyModParent>},
     {kOptionsSection, "HotKeyParent0", kTagEnabled<0>},
     {kOptionsSection, "HotKeyParent1", kTagEnabled<1>},
     {kOptionsSection, "HotKeyParent2", kTagEnabled<2>},
@@ -85,20 +80,20 @@ constexpr SettingRow<StartupSettings> PlaceRow(const char* key,
 }
 
 constexpr std::array kStartupRows = std::to_array<SettingRow<StartupSettings>>({
-    {kStartupSection, "WindowState", Startup<&StartupSettings::WindowState>, OnImport::kDrop, 0, 2},
-    PlaceRow("Left", Startup<&StartupSettings::Left>),
-    PlaceRow("Top", Startup<&StartupSettings::Top>),
-    PlaceRow("Width", Startup<&StartupSettings::Width>),
-    PlaceRow("Height", Startup<&StartupSettings::Height>),
-    {kStartupSection, "AlwaysOnTop", Startup<&StartupSettings::AlwaysOnTop>},
-    {kStartupSection, "WI1BackColor", Startup<&StartupSettings::WI1BackColor>},
-    {kStartupSection, "WI2BackColor", Startup<&StartupSettings::WI2BackColor>},
-    {kStartupSection, "Tips", Startup<&StartupSettings::Tips>},
-    {kStartupSection, "DisplayTips", Startup<&StartupSettings::DisplayTips>, OnImport::kDrop},
-    {kStartupSection, "LastColorSelected", Startup<&StartupSettings::LastColorSelected>},
-    {kStartupSection, "Menu", Startup<&StartupSettings::Menu>},
-    {kStartupSection, "OptionsTab", Startup<&StartupSettings::OptionsTab>, OnImport::kKeep, 1, 3},
-    {kStartupSection, "WindowInfo", Startup<&StartupSettings::WindowInfo>},
+    {kStartupSection, "WindowState", Field<&StartupSettings::WindowState>, OnImport::kDrop, 0, 2},
+    PlaceRow("Left", Field<&StartupSettings::Left>),
+    PlaceRow("Top", Field<&StartupSettings::Top>),
+    PlaceRow("Width", Field<&StartupSettings::Width>),
+    PlaceRow("Height", Field<&StartupSettings::Height>),
+    {kStartupSection, "AlwaysOnTop", Field<&StartupSettings::AlwaysOnTop>},
+    {kStartupSection, "WI1BackColor", Field<&StartupSettings::WI1BackColor>},
+    {kStartupSection, "WI2BackColor", Field<&StartupSettings::WI2BackColor>},
+    {kStartupSection, "Tips", Field<&StartupSettings::Tips>},
+    {kStartupSection, "DisplayTips", Field<&StartupSettings::DisplayTips>, OnImport::kDrop},
+    {kStartupSection, "LastColorSelected", Field<&StartupSettings::LastColorSelected>},
+    {kStartupSection, "Menu", Field<&StartupSettings::Menu>},
+    {kStartupSection, "OptionsTab", Field<&StartupSettings::OptionsTab>, OnImport::kKeep, 1, 3},
+    {kStartupSection, "WindowInfo", Field<&StartupSettings::WindowInfo>},
 });
 
 template <typename Value>
