@@ -22,63 +22,58 @@ bool IsInside(const Control& field, const MouseInput& input) {
 }  // namespace
 
 void ColorCustomizing::Toggle() {
-  if (On()) {
-    parts_.item.checked = false;
-    parts_.setPointer(MousePointer::kDefault);
-    return;
-  }
-  parts_.item.checked = true;
-  parts_.setPointer(MousePointer::kCustom);
-  parts_.showTip();
+  item_->checked = !item_->checked;
+  form_->SetMousePointer(On() ? MousePointer::kCustom : MousePointer::kDefault);
 }
 
 void ColorCustomizing::End() {
-  parts_.item.checked = false;
-  if (GetOSInfo(parts_.system, "PLATFORM_ID") != "9x") {
-    parts_.item.caption = "&Customize Colors - C";
-  }
-  parts_.setPointer(MousePointer::kDefault);
+  item_->checked = false;
+  if (GetOSInfo(*system_, "PLATFORM_ID") != "9x") item_->caption = "&Customize Colors - C";
+  form_->SetMousePointer(MousePointer::kDefault);
 }
 
-void ColorCustomizing::Mouse(const Control& field, Color& color, const MouseInput& input) {
+bool ColorCustomizing::Mouse(const Control& field, Color& color, const MouseInput& input) {
   const bool left = input.button == MouseButton::kLeft;
   switch (input.event) {
     case MouseEvent::kMove:
       Move(field, input);
       break;
     case MouseEvent::kDown:
-      if (On() && parts_.pointer() == MousePointer::kCustom) shift_ = input.shift;
+      if (On() && *pointer_ == MousePointer::kCustom) shift_ = input.shift;
       if (left) pressed_ = field.Id();
       break;
     case MouseEvent::kUp:
-      if (left && std::exchange(pressed_, 0) == field.Id() && IsInside(field, input)) Click(color);
-      break;
+      return left && std::exchange(pressed_, 0) == field.Id() && IsInside(field, input) &&
+             Click(color);
   }
+  return false;
 }
 
 void ColorCustomizing::Move(const Control& field, const MouseInput& input) {
   const bool own = On() && input.x < field.Place().width - kOffRightEdge && input.y < kBelowTop;
   const MousePointer wanted = own ? MousePointer::kCustom : MousePointer::kDefault;
-  if (parts_.pointer() != wanted) parts_.setPointer(wanted);
+  if (*pointer_ != wanted) form_->SetMousePointer(wanted);
 }
 
-void ColorCustomizing::Click(Color& color) {
-  if (!On()) return;
-  if (parts_.pointer() == MousePointer::kCustom) {
-    ChangeColor(color);
+bool ColorCustomizing::Click(Color& color) {
+  if (!On()) return false;
+  bool changed = false;
+  if (*pointer_ == MousePointer::kCustom) {
+    changed = ChangeColor(color);
   } else {
-    parts_.messages.ShowMessageBox("position the mouse until the cursor has changed to a 'C'",
-                                   win32::kMbOk, std::string(kProductName) + " - Customize Colors");
+    form_->Messages().ShowMessageBox("position the mouse until the cursor has changed to a 'C'",
+                                     win32::kMbOk,
+                                     std::string(kProductName) + " - Customize Colors");
   }
   shift_ = kNoShift;
+  return changed;
 }
 
-void ColorCustomizing::ChangeColor(Color& color) {
+bool ColorCustomizing::ChangeColor(Color& color) {
   const std::optional<Color> chosen =
-      shift_ == kAlt ? parts_.lastColor : parts_.showColorPalette(color);
-  if (!chosen) return;
-  color = *chosen;
-  parts_.showColors();
+      shift_ == kAlt ? *lastColor_ : form_->udmShowColorPalette(color);
+  if (chosen) color = *chosen;
+  return chosen.has_value();
 }
 
 }  // namespace korvale

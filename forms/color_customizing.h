@@ -1,9 +1,6 @@
 #pragma once
 
-#include <functional>
-#include <optional>
-
-#include "app/core/message_boxes.h"
+#include "forms/options_owner.h"
 #include "platform/form_events.h"
 #include "platform/input_devices.h"
 #include "platform/menu_model.h"
@@ -16,38 +13,32 @@ namespace korvale {
 /// colour. On while its menu item is checked; off at every start.
 class ColorCustomizing {
  public:
-  /// What the mode needs of the main window. `lastColor` is the colour that was
-  /// last chosen in the colour dialog.
-  struct Parts {
-    MenuItem& item;
-    SystemApi& system;
-    MessageBoxes& messages;
-    const Color& lastColor;
-    std::function<MousePointer()> pointer;
-    std::function<void(MousePointer)> setPointer;
-    std::function<std::optional<Color>(Color initial)> showColorPalette;
-    std::function<void()> showColors;
-    std::function<void()> showTip;
-  };
+  /// `item` is checked while the mode is on; `pointer` is the live mouse pointer, `lastColor` the
+  /// colour that was last chosen in the colour dialog.
+  ColorCustomizing(MenuItem& item, OptionsDialogOwner& form, SystemApi& system,
+                   const MousePointer& pointer, const Color& lastColor)
+      : item_(&item), form_(&form), system_(&system), pointer_(&pointer), lastColor_(&lastColor) {}
 
-  explicit ColorCustomizing(Parts parts) : parts_(std::move(parts)) {}
-
-  bool On() const { return parts_.item.checked; }
-  /// Turns the mode on, which shows its pointer and its tip, or off.
+  bool On() const { return item_->checked; }
+  /// Turns the mode on, which shows its pointer, or off.
   void Toggle();
   /// Turns the mode off, as every other menu command does.
   void End();
   /// The mouse over a field, `color` being the field's stored colour. While the mode is on, a click
   /// with the left button changes it: to a colour that the user chooses, or with Alt to the last
-  /// one chosen.
-  void Mouse(const Control& field, Color& color, const MouseInput& input);
+  /// one chosen. True when it has changed.
+  bool Mouse(const Control& field, Color& color, const MouseInput& input);
 
  private:
   void Move(const Control& field, const MouseInput& input);
-  void Click(Color& color);
-  void ChangeColor(Color& color);
+  bool Click(Color& color);
+  bool ChangeColor(Color& color);
 
-  Parts parts_;
+  MenuItem* item_;
+  OptionsDialogOwner* form_;
+  SystemApi* system_;
+  const MousePointer* pointer_;
+  const Color* lastColor_;
   unsigned shift_ = kNoShift;  ///< Held at the last press while the pointer was the mode's.
   int pressed_ = 0;            ///< The field that the left button went down on, 0 = none.
 };

@@ -149,7 +149,6 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   void ShowAddWindow(AddWindowMode mode);
   void OpenWebPage(WebPage page);
   void RefreshToggleCaption();
-  ColorCustomizing::Parts CustomizingParts();
   void ShowTopLevelMenus(bool shown);
   void CloseAbout();
   Twips HeightForContent(const TwipsRect& frame);
@@ -171,7 +170,8 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   Tips tips_;
   WindowMenu windowMenu_;
   MousePointer pointer_ = MousePointer::kDefault;
-  ColorCustomizing customizing_{CustomizingParts()};
+  ColorCustomizing customizing_{Menu("mnuViewCustomizeColors"), *this, platform_->system, pointer_,
+                                parts_.startup.LastColorSelected};
   bool unloaded_ = false;
   /// The user knows that the store refuses.
   bool refusalTold_ = false;

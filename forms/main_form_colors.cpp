@@ -9,27 +9,6 @@ constexpr std::int16_t kCustomizeColorsTipHeight = 3400;
 
 }  // namespace
 
-ColorCustomizing::Parts frmMain::CustomizingParts() {
-  return {Menu("mnuViewCustomizeColors"),
-          platform_->system,
-          parts_.messages,
-          parts_.startup.LastColorSelected,
-          [this] { return pointer_; },
-          [this](MousePointer pointer) { SetMousePointer(pointer); },
-          [this](Color initial) { return udmShowColorPalette(initial); },
-          [this] { ApplyColors(); },
-          [this] {
-            ShowTip(TipNumber::kCustomizeColors,
-                    "To change the color of a Target Window/Class Label;  position the mouse over "
-                    "the Label, when the cursor has changed to a 'C' (the letter C within a black "
-                    "circle), click on the Label to change it's color.  To change the second Label "
-                    "to the same color, simply hold down the Alt key while clicking on the Label "
-                    "(Alt+Click).  When finished customizing colors, reselect this menu option to "
-                    "return the mouse cursor to normal.",
-                    "TIP", kCustomizeColorsTipHeight);
-          }};
-}
-
 void frmMain::ApplyColors() {
   const auto paint = [this](const char* name, Color chosen) {
     const TextColors colors =
@@ -51,6 +30,16 @@ void frmMain::SetMousePointer(MousePointer pointer) {
 
 void frmMain::mnuViewCustomizeColors_Click() {
   customizing_.Toggle();
+  if (customizing_.On()) {
+    ShowTip(TipNumber::kCustomizeColors,
+            "To change the color of a Target Window/Class Label;  position the mouse over the "
+            "Label, when the cursor has changed to a 'C' (the letter C within a black circle), "
+            "click on the Label to change it's color.  To change the second Label to the same "
+            "color, simply hold down the Alt key while clicking on the Label (Alt+Click).  When "
+            "finished customizing colors, reselect this menu option to return the mouse cursor to "
+            "normal.",
+            "TIP", kCustomizeColorsTipHeight);
+  }
   RefreshMenus("mnuViewCustomizeColors");
 }
 

@@ -160,7 +160,8 @@ void frmMain::Control_Mouse(Control& control, const MouseInput& input) {
   if (input.event == MouseEvent::kMove) CloseAbout();
   StartupSettings& startup = parts_.startup;
   const bool title = control.Name() == "txtWindow";
-  customizing_.Mouse(control, title ? startup.WI1BackColor : startup.WI2BackColor, input);
+  Color& color = title ? startup.WI1BackColor : startup.WI2BackColor;
+  if (customizing_.Mouse(control, color, input)) ApplyColors();
 }
 
 }  // namespace korvale

@@ -11,7 +11,7 @@
 
 namespace korvale {
 
-/// What the Options dialog asks of the form that opened it.
+/// What the Options dialog and Customize Colors ask of the main form.
 class OptionsDialogOwner {
  public:
   virtual ~OptionsDialogOwner() = default;
