@@ -6,15 +6,9 @@
 
 namespace korvale {
 
-FormDisplay::FormDisplay(FormCollection& forms, WindowQueries& windows, WindowCommands& commands,
-                         const PreviousWindow& previous, Suspension& suspension,
+FormDisplay::FormDisplay(FormCollection& forms, const DesktopParts& desktop, Suspension& suspension,
                          const bool& alwaysOnTop)
-    : forms_(&forms),
-      windows_(&windows),
-      commands_(&commands),
-      previous_(&previous),
-      suspension_(&suspension),
-      alwaysOnTop_(&alwaysOnTop) {}
+    : forms_(&forms), desktop_(&desktop), suspension_(&suspension), alwaysOnTop_(&alwaysOnTop) {}
 
 std::string FormDisplay::ShowFormModal(Form& form, const DisplaySwitches& switches,
                                        std::int32_t /*milliseconds*/, const PlaceHints& hints,
@@ -24,7 +18,7 @@ std::string FormDisplay::ShowFormModal(Form& form, const DisplaySwitches& switch
     BringToFront(form, switches);
     return form.Tag();
   }
-  const WindowHandle before = previous_->InFront(*windows_);
+  const WindowHandle before = desktop_->previous.InFront(desktop_->windows);
   {
     const RaisedFlag shown(suspension_->DialogShown);
     form.Load();
@@ -57,7 +51,7 @@ void FormDisplay::ShowFormNonModal(Form& form, const DisplaySwitches& switches, 
     } else {
       form.ShowInactive();
     }
-  } else if (!windows_->IsWindowVisible(form.Handle())) {
+  } else if (!desktop_->windows.IsWindowVisible(form.Handle())) {
     // Windows hides it together with its minimized owner.
     form.Show();
   } else if (form.WindowState() == ShowState::kMinimized) {
@@ -70,7 +64,7 @@ void FormDisplay::ShowFormNonModal(Form& form, const DisplaySwitches& switches, 
 
 void FormDisplay::Place(Form& form, const DisplaySwitches& switches, const PlaceHints& hints,
                         const Form* owner) {
-  PlaceForm(form, windows_->GetForegroundWindow(), hints,
+  PlaceForm(form, desktop_->windows.GetForegroundWindow(), hints,
             switches.centerOnOwner != 0 ? owner : nullptr);
   if (switches.keepInWorkArea != 0) KeepInWorkArea(form);
 }
@@ -78,23 +72,23 @@ void FormDisplay::Place(Form& form, const DisplaySwitches& switches, const Place
 void FormDisplay::BringToFront(Form& form, const DisplaySwitches& switches) {
   if (form.IsLoaded() && switches.followTopmost != 0) FollowTopmost(form.Handle());
   if (form.IsLoaded() && switches.takeForeground != 0) {
-    commands_->SetForegroundWindow(form.Handle());
+    desktop_->commands.SetForegroundWindow(form.Handle());
   }
 }
 
 void FormDisplay::FollowTopmost(WindowHandle hwnd) {
   const bool topmost =
-      (windows_->GetWindowLongA(hwnd, win32::kGwlExStyle) & win32::kWsExTopmost) != 0;
+      (desktop_->windows.GetWindowLongA(hwnd, win32::kGwlExStyle) & win32::kWsExTopmost) != 0;
   // Clearing the style of a window that lacks it would bring it before its neighbours.
   if (!*alwaysOnTop_ && !topmost) return;
-  commands_->SetWindowPos(hwnd, *alwaysOnTop_ ? win32::kHwndTopmost : win32::kHwndNoTopmost, 0, 0,
-                          0, 0, win32::kSwpNoMove | win32::kSwpNoSize);
+  desktop_->commands.SetWindowPos(hwnd, *alwaysOnTop_ ? win32::kHwndTopmost : win32::kHwndNoTopmost,
+                                  0, 0, 0, 0, win32::kSwpNoMove | win32::kSwpNoSize);
 }
 
 void FormDisplay::GiveForegroundBack(WindowHandle before) {
-  const WindowHandle now = windows_->GetForegroundWindow();
+  const WindowHandle now = desktop_->windows.GetForegroundWindow();
   if (before == 0 || now == before || (now != 0 && !IsOwnForm(*forms_, now))) return;
-  ReturnForegroundTo(*windows_, *commands_, before);
+  ReturnForegroundTo(desktop_->windows, desktop_->commands, before);
 }
 
 }  // namespace korvale

@@ -3,9 +3,8 @@
 #include <cstdint>
 #include <string>
 
-#include "desktop/previous_window.h"
+#include "desktop/desktop_parts.h"
 #include "hotkeys/suspension.h"
-#include "platform/window_api.h"
 #include "ui/form.h"
 #include "ui/form_collection.h"
 #include "ui/form_placement.h"
@@ -27,8 +26,8 @@ struct DisplaySwitches {
 class FormDisplay {
  public:
   /// `alwaysOnTop` is the live state of the main window.
-  FormDisplay(FormCollection& forms, WindowQueries& windows, WindowCommands& commands,
-              const PreviousWindow& previous, Suspension& suspension, const bool& alwaysOnTop);
+  FormDisplay(FormCollection& forms, const DesktopParts& desktop, Suspension& suspension,
+              const bool& alwaysOnTop);
 
   /// Shows the form above its owner until it closes, and returns the tag that it has then, its
   /// result. Hot keys are suspended meanwhile. When no other window has taken the foreground by
@@ -53,9 +52,7 @@ class FormDisplay {
   void GiveForegroundBack(WindowHandle before);
 
   FormCollection* forms_;
-  WindowQueries* windows_;
-  WindowCommands* commands_;
-  const PreviousWindow* previous_;
+  const DesktopParts* desktop_;
   Suspension* suspension_;
   const bool* alwaysOnTop_;
 };

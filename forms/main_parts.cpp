@@ -22,8 +22,7 @@ MainParts::MainParts(Platform& platform, FormCollection& forms, MainWindow& main
                      MenuItem& windowMenu, HotKeyActions& hotKeyActions,
                      std::function<void()> shutDown)
     : settings(platform.store, ""),
-      messages(platform.dialogs, platform.windows, platform.commands, mainWindow, forms, previous,
-               suspension, [&forms] { return DialogOnTop(forms); }),
+      messages(desktop, platform.dialogs, suspension, [&forms] { return DialogOnTop(forms); }),
       errorLog(identity, platform.system, platform.clock,
                [this] {
                  return ErrorLogState{state.firstActivation, startup.Menu, state.lastAnswer};
@@ -31,8 +30,7 @@ MainParts::MainParts(Platform& platform, FormCollection& forms, MainWindow& main
       errors(messages, errorLog, std::move(shutDown)),
       desktop({platform.windows, platform.commands, mainWindow, forms, messages, previous},
               platform.clock, options, windowMenu),
-      display(forms, platform.windows, platform.commands, previous, suspension,
-              startup.AlwaysOnTop),
+      display(forms, desktop, suspension, startup.AlwaysOnTop),
       hotKeys(platform.hotKeys, options, mainWindow),
       toggle(hotKeys, options, hotKeyActions),
       dispatch(desktop, suspension, hotKeyActions, toggle, errors),

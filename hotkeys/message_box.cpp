@@ -26,18 +26,11 @@ class DepthCount {
 
 }  // namespace
 
-SuspendingMessageBoxes::SuspendingMessageBoxes(SystemDialogs& dialogs, WindowQueries& windows,
-                                               WindowCommands& commands, MainWindow& mainWindow,
-                                               const LoadedForms& forms,
-                                               const PreviousWindow& previous,
+SuspendingMessageBoxes::SuspendingMessageBoxes(Desktop& desktop, SystemDialogs& dialogs,
                                                Suspension& suspension,
                                                std::function<WindowHandle()> dialogOnTop)
-    : dialogs_(&dialogs),
-      windows_(&windows),
-      commands_(&commands),
-      mainWindow_(&mainWindow),
-      forms_(&forms),
-      previous_(&previous),
+    : desktop_(&desktop),
+      dialogs_(&dialogs),
       suspension_(&suspension),
       dialogOnTop_(std::move(dialogOnTop)) {}
 
@@ -65,25 +58,25 @@ std::int16_t SuspendingMessageBoxes::ShowOutermost(const std::string& prompt, st
 }
 
 SuspendingMessageBoxes::Remembered SuspendingMessageBoxes::Remember() {
-  const TimerControl& timer = mainWindow_->tmrWindow();
-  return {timer.Enabled(), timer.Tag(), previous_->InFront(*windows_)};
+  const TimerControl& timer = desktop_->mainWindow.tmrWindow();
+  return {timer.Enabled(), timer.Tag(), desktop_->previous.InFront(desktop_->windows)};
 }
 
 void SuspendingMessageBoxes::Suspend() {
   suspension_->MessageBoxShown = true;
-  TimerControl& timer = mainWindow_->tmrWindow();
+  TimerControl& timer = desktop_->mainWindow.tmrWindow();
   timer.SetEnabled(false);
   // A tag other than "ON" keeps udmTimersEnabled from restarting it while the box is shown.
   timer.SetTag("OFF");
-  mainWindow_->SetMainEnabled(false);
+  desktop_->mainWindow.SetMainEnabled(false);
 }
 
 void SuspendingMessageBoxes::Resume(const Remembered& before) {
   suspension_->MessageBoxShown = false;
-  TimerControl& timer = mainWindow_->tmrWindow();
+  TimerControl& timer = desktop_->mainWindow.tmrWindow();
   timer.SetEnabled(before.timerEnabled);
   timer.SetTag(before.timerTag);
-  mainWindow_->SetMainEnabled(true);
+  desktop_->mainWindow.SetMainEnabled(true);
 }
 
 std::int16_t SuspendingMessageBoxes::Show(const std::string& prompt, std::int32_t buttons,
@@ -96,23 +89,24 @@ std::int16_t SuspendingMessageBoxes::Show(const std::string& prompt, std::int32_
 /// window. A main window that is still hidden would be activated when its box closes, and then not
 /// when it is shown.
 WindowHandle SuspendingMessageBoxes::Owner() {
-  const WindowHandle main = mainWindow_->MainHandle();
+  const WindowHandle main = desktop_->mainWindow.MainHandle();
   const bool overAnother = suspension_->MessageBoxDepth > 1 || suspension_->DialogShown;
-  const WindowHandle below = overAnother ? FindWaitingWindow(*windows_, main, kDialogClass) : 0;
+  const WindowHandle below =
+      overAnother ? FindWaitingWindow(desktop_->windows, main, kDialogClass) : 0;
   for (const WindowHandle owner : {below, dialogOnTop_(), main}) {
-    if (owner != 0 && windows_->IsWindowVisible(owner)) return owner;
+    if (owner != 0 && desktop_->windows.IsWindowVisible(owner)) return owner;
   }
   return 0;
 }
 
 void SuspendingMessageBoxes::GiveForegroundBack(WindowHandle before) {
-  const WindowHandle now = windows_->GetForegroundWindow();
+  const WindowHandle now = desktop_->windows.GetForegroundWindow();
   if (before == 0 || now == before) return;
   // A change from our windows to another program's, back, or to the main window, which took no
   // input meanwhile, comes from closing the box; any other is the user's.
-  const bool passedOn = now == 0 || now == mainWindow_->MainHandle() ||
-                        IsOwnForm(*forms_, now) != IsOwnForm(*forms_, before);
-  if (passedOn) ReturnForegroundTo(*windows_, *commands_, before);
+  const bool passedOn = now == 0 || now == desktop_->mainWindow.MainHandle() ||
+                        IsOwnForm(desktop_->forms, now) != IsOwnForm(desktop_->forms, before);
+  if (passedOn) ReturnForegroundTo(desktop_->windows, desktop_->commands, before);
 }
 
 }  // namespace korvale

@@ -5,12 +5,9 @@
 #include <string>
 
 #include "app/core/message_boxes.h"
-#include "desktop/main_window.h"
-#include "desktop/previous_window.h"
+#include "desktop/desktop.h"
 #include "hotkeys/suspension.h"
 #include "platform/system_dialogs.h"
-#include "platform/window_api.h"
-#include "util/forms.h"
 
 namespace korvale {
 
@@ -19,9 +16,7 @@ class SuspendingMessageBoxes : public MessageBoxes {
  public:
   /// `dialogOnTop` gives the window of the dialog that is shown on top of the main window, 0 when
   /// there is none.
-  SuspendingMessageBoxes(SystemDialogs& dialogs, WindowQueries& windows, WindowCommands& commands,
-                         MainWindow& mainWindow, const LoadedForms& forms,
-                         const PreviousWindow& previous, Suspension& suspension,
+  SuspendingMessageBoxes(Desktop& desktop, SystemDialogs& dialogs, Suspension& suspension,
                          std::function<WindowHandle()> dialogOnTop);
 
   /// Besides what every message box does: when the outermost box closes, Windows brings another
@@ -49,12 +44,8 @@ class SuspendingMessageBoxes : public MessageBoxes {
   WindowHandle Owner();
   void GiveForegroundBack(WindowHandle before);
 
+  Desktop* desktop_;
   SystemDialogs* dialogs_;
-  WindowQueries* windows_;
-  WindowCommands* commands_;
-  MainWindow* mainWindow_;
-  const LoadedForms* forms_;
-  const PreviousWindow* previous_;
   Suspension* suspension_;
   std::function<WindowHandle()> dialogOnTop_;
 };

@@ -42,7 +42,7 @@ class FormCollection : public LoadedForms {
 
   /// The loaded forms in the order of their loading.
   std::vector<LoadedForm> List() const override;
-  /// Unloads every loaded form except the one of this name, the last loaded first.
+  /// Unloads every loaded form except the one of this name, the one loaded last first.
   void UnloadAllExcept(std::string_view name);
 
   /// Disables every other loaded form, shows `form`, runs messages until it is no longer shown, and

@@ -11,6 +11,8 @@
 #include "tests/fakes/desktop_bridge.h"
 #include "tests/fakes/fake_clock.h"
 #include "tests/fakes/fake_desktop.h"
+#include "tests/fakes/fake_main_window.h"
+#include "tests/fakes/fake_message_boxes.h"
 #include "tests/fakes/headless_form_host.h"
 #include "tests/fakes/headless_user.h"
 #include "ui/form.h"
@@ -57,7 +59,10 @@ class DialogTest : public testing::Test {
   Suspension suspension_;
   bool alwaysOnTop_ = false;
   PreviousWindow previous_;
-  FormDisplay display_{forms_, desktop_, desktop_, previous_, suspension_, alwaysOnTop_};
+  FakeMainWindow mainWindow_;
+  FakeMessageBoxes messages_;
+  DesktopParts parts_{desktop_, desktop_, mainWindow_, forms_, messages_, previous_};
+  FormDisplay display_{forms_, parts_, suspension_, alwaysOnTop_};
 };
 
 }  // namespace korvale

@@ -98,7 +98,8 @@ class TwoMonitorsTest : public FormDisplayTest {
   FormCollection forms{host, host, host, clock_};
   Dialog dialog{kDialogDesign, forms};
   Dialog owner{kOwnerDesign, forms};
-  FormDisplay display{forms, desktop, desktop, previous_, suspension_, alwaysOnTop_};
+  DesktopParts parts{desktop, desktop, mainWindow_, forms, messages_, previous_};
+  FormDisplay display{forms, parts, suspension_, alwaysOnTop_};
 };
 
 TEST_F(TwoMonitorsTest, AFormComesUpWhereTheUserWorksWithTheSizeThatItHasThere) {

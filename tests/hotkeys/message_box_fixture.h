@@ -8,6 +8,7 @@
 
 #include "hotkeys/message_box.h"
 #include "tests/fakes/call_log.h"
+#include "tests/fakes/fake_clock.h"
 #include "tests/fakes/fake_desktop.h"
 #include "tests/fakes/fake_loaded_forms.h"
 #include "tests/fakes/fake_main_window.h"
@@ -51,8 +52,12 @@ class MessageBoxTest : public testing::Test {
   WindowHandle modal = 0;
   WindowHandle other = 0;
   WindowHandle main = 0;
-  SuspendingMessageBoxes messages{host,  desktop,  desktop,    mainWindow,
-                                  forms, previous, suspension, [this] { return modal; }};
+  FakeClock clock;
+  OptionsHolder record;
+  MenuItem windowMenu;
+  SuspendingMessageBoxes messages{routines, host, suspension, [this] { return modal; }};
+  Desktop routines{
+      {desktop, desktop, mainWindow, forms, messages, previous}, clock, record, windowMenu};
 };
 
 }  // namespace korvale

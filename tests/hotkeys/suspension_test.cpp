@@ -103,8 +103,7 @@ TEST_F(SuspendedHotKeyTest, ReportsAFailedNoticeAndLeavesTheTimersAlone) {
 class HotKeyDuringMessageBoxTest : public HotKeyDispatchTest {
  protected:
   MessageBoxHost host{log};
-  SuspendingMessageBoxes boxes{host,  desktop,  desktop,    mainWindow,
-                               forms, previous, suspension, [] { return 0; }};
+  SuspendingMessageBoxes boxes{withBoxes, host, suspension, [] { return 0; }};
   Desktop withBoxes{
       {desktop, desktop, mainWindow, forms, boxes, previous}, clock, options, windowMenu};
   HotKeyDispatch live{withBoxes, suspension, actions, toggle, errors};
