@@ -62,4 +62,10 @@ class FormHostContract : public testing::Test {
   RecordingForm strip_{kStripDesign, forms_};
 };
 
+/// The same with the form before the user.
+class ShownFormContract : public FormHostContract {
+ protected:
+  ShownFormContract() { ShowForm(); }
+};
+
 }  // namespace korvale

@@ -4,8 +4,7 @@
 
 namespace korvale {
 
-TEST_F(FormHostContract, ControlsStandWhereTheDesignPutsThem) {
-  ShowForm();
+TEST_F(ShownFormContract, ControlsStandWhereTheDesignPutsThem) {
   const TwipsRect button = {4500, 600, 1200, 375};
   const TwipsRect inside = {105, 105, 1200, 375};
   EXPECT_EQ(User().Place(Window(), Id("cmdStay")), button);
@@ -16,8 +15,7 @@ TEST_F(FormHostContract, ControlsStandWhereTheDesignPutsThem) {
   EXPECT_EQ(User().Place(Window(), Id("cmdStay")), moved);
 }
 
-TEST_F(FormHostContract, CaptionsAreShownInAnyScript) {
-  ShowForm();
+TEST_F(ShownFormContract, CaptionsAreShownInAnyScript) {
   EXPECT_EQ(Text("cmdGo"), "&Go");
   for (const char* const caption : {"Ж && 日本語", "\U0001F600", "plain", ""}) {
     form_.Find("lblName").SetText(caption);
@@ -25,8 +23,7 @@ TEST_F(FormHostContract, CaptionsAreShownInAnyScript) {
   }
 }
 
-TEST_F(FormHostContract, ClickingAButtonMovesTheFocusFirst) {
-  ShowForm();
+TEST_F(ShownFormContract, ClickingAButtonMovesTheFocusFirst) {
   std::string focus;
   form_.onClick = [&](const std::string&) { focus = Focus(); };
   Click("cmdStay");
@@ -34,8 +31,7 @@ TEST_F(FormHostContract, ClickingAButtonMovesTheFocusFirst) {
   EXPECT_EQ(form_.Take(), Lines{"click cmdStay"});
 }
 
-TEST_F(FormHostContract, ACheckBoxHasToggledWhenItsClickIsRaised) {
-  ShowForm();
+TEST_F(ShownFormContract, ACheckBoxHasToggledWhenItsClickIsRaised) {
   std::vector<int> values;
   form_.onClick = [&](const std::string&) { values.push_back(form_.Find("chkDaily").Value()); };
   Click("chkDaily");
@@ -45,8 +41,7 @@ TEST_F(FormHostContract, ACheckBoxHasToggledWhenItsClickIsRaised) {
   EXPECT_EQ(values, (std::vector<int>{1, 0}));
 }
 
-TEST_F(FormHostContract, ChoosingAnOptionTakesTheMarkFromItsNeighbours) {
-  ShowForm();
+TEST_F(ShownFormContract, ChoosingAnOptionTakesTheMarkFromItsNeighbours) {
   Click("optColor", 1);
   Click("optColor", 2);
   EXPECT_EQ(Value("optColor", 0), 0);
@@ -55,8 +50,7 @@ TEST_F(FormHostContract, ChoosingAnOptionTakesTheMarkFromItsNeighbours) {
   EXPECT_EQ(form_.Take(), (Lines{"click optColor(1)", "click optColor(2)"}));
 }
 
-TEST_F(FormHostContract, ValuesSetByCodeAreShown) {
-  ShowForm();
+TEST_F(ShownFormContract, ValuesSetByCodeAreShown) {
   form_.Find("chkDaily").SetValue(1);
   form_.Find("optColor", 0).SetValue(1);
   form_.Find("cboSize").SetListIndex(2);
@@ -68,8 +62,7 @@ TEST_F(FormHostContract, ValuesSetByCodeAreShown) {
   EXPECT_EQ(User().ListIndex(Window(), Id("cboSize")), -1);
 }
 
-TEST_F(FormHostContract, TypedTextIsToldAndShown) {
-  ShowForm();
+TEST_F(ShownFormContract, TypedTextIsToldAndShown) {
   Click("txtName");
   Type("aB 1Ж日\U0001F600");
   EXPECT_EQ(Text("txtName"), "aB 1Ж日\U0001F600");
@@ -77,23 +70,20 @@ TEST_F(FormHostContract, TypedTextIsToldAndShown) {
   EXPECT_EQ(form_.Take().back(), "click txtName");
 }
 
-TEST_F(FormHostContract, TextSetByCodeIsShownWithoutAnEvent) {
-  ShowForm();
+TEST_F(ShownFormContract, TextSetByCodeIsShownWithoutAnEvent) {
   form_.Find("txtName").SetText("日本 Ж \U0001F600 & co");
   EXPECT_EQ(Text("txtName"), "日本 Ж \U0001F600 & co");
   EXPECT_EQ(form_.Take(), Lines{});
 }
 
-TEST_F(FormHostContract, AReadOnlyTextBoxKeepsItsText) {
-  ShowForm();
+TEST_F(ShownFormContract, AReadOnlyTextBoxKeepsItsText) {
   Click("txtFixed");
   Type("more");
   EXPECT_EQ(Text("txtFixed"), "fixed");
   EXPECT_EQ(form_.Take(), Lines{});
 }
 
-TEST_F(FormHostContract, SelectionsCountCharacters) {
-  ShowForm();
+TEST_F(ShownFormContract, SelectionsCountCharacters) {
   Control& box = form_.Find("txtName");
   box.SetText("aЖ日\U0001F600b");
   box.SetFocus();
@@ -108,8 +98,7 @@ TEST_F(FormHostContract, SelectionsCountCharacters) {
   EXPECT_EQ(box.Selection().length, 5);
 }
 
-TEST_F(FormHostContract, ChoosingFromAListIsToldAlsoForTheEntryThatIsChosen) {
-  ShowForm();
+TEST_F(ShownFormContract, ChoosingFromAListIsToldAlsoForTheEntryThatIsChosen) {
   User().Pick(Window(), Id("cboSize"), 1);
   EXPECT_EQ(Text("cboSize"), "Medium");
   EXPECT_EQ(form_.Find("cboSize").ListIndex(), 1);
@@ -118,8 +107,7 @@ TEST_F(FormHostContract, ChoosingFromAListIsToldAlsoForTheEntryThatIsChosen) {
   EXPECT_EQ(form_.Take(), Lines{"click cboSize"});
 }
 
-TEST_F(FormHostContract, OpeningAListIsToldAndClosingItChoosesNothing) {
-  ShowForm();
+TEST_F(ShownFormContract, OpeningAListIsToldAndClosingItChoosesNothing) {
   int opened = 0;
   form_.WhenDroppedDown("cboSize", [&](int) {
     ++opened;
@@ -137,8 +125,7 @@ TEST_F(FormHostContract, OpeningAListIsToldAndClosingItChoosesNothing) {
   EXPECT_EQ(form_.Take(), Lines{});
 }
 
-TEST_F(FormHostContract, ChangedEntriesAreShownAndTheChoiceStays) {
-  ShowForm();
+TEST_F(ShownFormContract, ChangedEntriesAreShownAndTheChoiceStays) {
   Control& list = form_.Find("cboSize");
   list.SetListIndex(1);
   list.SetItemText(1, "2  日本 - Ж");
@@ -151,8 +138,7 @@ TEST_F(FormHostContract, ChangedEntriesAreShownAndTheChoiceStays) {
   EXPECT_EQ(User().ListIndex(Window(), list.Id()), -1);
 }
 
-TEST_F(FormHostContract, AComboBoxTakesTypedTextAndChoices) {
-  ShowForm();
+TEST_F(ShownFormContract, AComboBoxTakesTypedTextAndChoices) {
   FocusOn("cboPlace");
   Type("Ж1");
   EXPECT_EQ(Text("cboPlace"), "Ж1");
@@ -163,8 +149,7 @@ TEST_F(FormHostContract, AComboBoxTakesTypedTextAndChoices) {
   EXPECT_EQ(form_.Find("cboPlace").ListIndex(), 1);
 }
 
-TEST_F(FormHostContract, ChoosingATabIsTold) {
-  ShowForm();
+TEST_F(ShownFormContract, ChoosingATabIsTold) {
   EXPECT_EQ(User().ListEntries(Window(), Id("tabPages")), (Lines{"One", "Two"}));
   EXPECT_EQ(User().ListIndex(Window(), Id("tabPages")), 0);
   User().Pick(Window(), Id("tabPages"), 1);
@@ -174,8 +159,7 @@ TEST_F(FormHostContract, ChoosingATabIsTold) {
   EXPECT_EQ(User().ListIndex(Window(), Id("tabPages")), 0);
 }
 
-TEST_F(FormHostContract, WhatAPageOrFrameHoldsIsHiddenAndDisabledWithIt) {
-  ShowForm();
+TEST_F(ShownFormContract, WhatAPageOrFrameHoldsIsHiddenAndDisabledWithIt) {
   EXPECT_TRUE(User().IsShown(Window(), Id("cmdInside")));
   form_.Find("picPage", 0).SetVisible(false);
   EXPECT_FALSE(User().IsShown(Window(), Id("cmdInside")));
@@ -185,8 +169,7 @@ TEST_F(FormHostContract, WhatAPageOrFrameHoldsIsHiddenAndDisabledWithIt) {
   EXPECT_FALSE(User().IsEnabled(Window(), Id("optColor", 1)));
 }
 
-TEST_F(FormHostContract, TheFocusLeavesAControlThatIsDisabledOrHidden) {
-  ShowForm();
+TEST_F(ShownFormContract, TheFocusLeavesAControlThatIsDisabledOrHidden) {
   FocusOn("cmdStay");
   form_.Find("cmdStay").SetEnabled(false);
   EXPECT_EQ(Focus(), "cmdClose");
@@ -196,8 +179,7 @@ TEST_F(FormHostContract, TheFocusLeavesAControlThatIsDisabledOrHidden) {
   EXPECT_EQ(Focus(), "tabPages");
 }
 
-TEST_F(FormHostContract, AClickableLabelReportsTheMouseThenTheClick) {
-  ShowForm();
+TEST_F(ShownFormContract, AClickableLabelReportsTheMouseThenTheClick) {
   form_.logsMouse = true;
   Click("lblClick");
   Lines told = form_.Take();
@@ -206,8 +188,7 @@ TEST_F(FormHostContract, AClickableLabelReportsTheMouseThenTheClick) {
   EXPECT_EQ(form_.lastMouse.button, MouseButton::kLeft);
 }
 
-TEST_F(FormHostContract, TheMouseIsReportedInTwipsOfTheControlOrTheForm) {
-  ShowForm();
+TEST_F(ShownFormContract, TheMouseIsReportedInTwipsOfTheControlOrTheForm) {
   User().MoveMouse(Window(), Id("txtFixed"), 600, 150);
   EXPECT_EQ(form_.lastMouse.event, MouseEvent::kMove);
   EXPECT_EQ(form_.lastMouse.x, 600);
@@ -217,8 +198,7 @@ TEST_F(FormHostContract, TheMouseIsReportedInTwipsOfTheControlOrTheForm) {
   EXPECT_EQ(form_.lastMouse.y, 2100);
 }
 
-TEST_F(FormHostContract, AnErrorInAClickReachesTheReporterAndTheFormGoesOn) {
-  ShowForm();
+TEST_F(ShownFormContract, AnErrorInAClickReachesTheReporterAndTheFormGoesOn) {
   int reported = 0;
   forms_.SetUncaughtHandler([&] { ++reported; });
   form_.onClick = [](const std::string&) { throw std::runtime_error("click"); };
@@ -229,8 +209,7 @@ TEST_F(FormHostContract, AnErrorInAClickReachesTheReporterAndTheFormGoesOn) {
   EXPECT_EQ(form_.Take(), (Lines{"click cmdGo", "click cmdStay"}));
 }
 
-TEST_F(FormHostContract, AButtonMayUnloadItsForm) {
-  ShowForm();
+TEST_F(ShownFormContract, AButtonMayUnloadItsForm) {
   form_.onClick = [&](const std::string&) { form_.Unload(); };
   Click("cmdClose");
   EXPECT_FALSE(form_.IsLoaded());

@@ -174,15 +174,6 @@ TEST_F(DesktopContract, TellsVisibleFromHiddenAndEnabledFromDisabled) {
   EXPECT_FALSE(queries_.IsHungAppWindow(shown));
 }
 
-TEST_F(DesktopContract, WindowsOfOneProgramBelongToOneThread) {
-  const WindowHandle alpha = OpenPlain("Contract Alpha");
-  const WindowHandle beta = OpenPlain("Contract Beta");
-
-  EXPECT_NE(queries_.GetWindowThreadProcessId(alpha), 0U);
-  EXPECT_EQ(queries_.GetWindowThreadProcessId(alpha), queries_.GetWindowThreadProcessId(beta));
-  EXPECT_EQ(queries_.GetWindowThreadProcessId(0), 0U);
-}
-
 TEST_F(DesktopContract, TellsTheStylesOfAWindow) {
   const WindowHandle plain = OpenPlain("Contract Alpha");
   const WindowHandle bare = Open({.title = "Contract Beta", .toolWindow = true, .boxes = false});

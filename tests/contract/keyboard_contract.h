@@ -4,10 +4,7 @@
 
 namespace korvale {
 
-TEST_F(FormHostContract, TheFirstTabStopHasTheFocusAtFirst) {
-  ShowForm();
-  EXPECT_EQ(Focus(), "txtName");
-}
+TEST_F(ShownFormContract, TheFirstTabStopHasTheFocusAtFirst) { EXPECT_EQ(Focus(), "txtName"); }
 
 TEST_F(FormHostContract, AFocusChosenWhileLoadingHolds) {
   form_.onLoad = [&] { FocusOn("cmdStay"); };
@@ -15,8 +12,7 @@ TEST_F(FormHostContract, AFocusChosenWhileLoadingHolds) {
   EXPECT_EQ(Focus(), "cmdStay");
 }
 
-TEST_F(FormHostContract, TabGoesThroughTheStopsAndRoundAgain) {
-  ShowForm();
+TEST_F(ShownFormContract, TabGoesThroughTheStopsAndRoundAgain) {
   Lines stops;
   for (int i = 0; i < 11; ++i) {
     Press(win32::kVkTab);
@@ -28,8 +24,7 @@ TEST_F(FormHostContract, TabGoesThroughTheStopsAndRoundAgain) {
   EXPECT_EQ(Focus(), "tabPages");
 }
 
-TEST_F(FormHostContract, TabStopsAtTheChosenOptionAndSkipsAHiddenPage) {
-  ShowForm();
+TEST_F(ShownFormContract, TabStopsAtTheChosenOptionAndSkipsAHiddenPage) {
   form_.Find("optColor", 1).SetValue(1);
   form_.Find("picPage", 0).SetVisible(false);
   FocusOn("chkDaily");
@@ -40,30 +35,26 @@ TEST_F(FormHostContract, TabStopsAtTheChosenOptionAndSkipsAHiddenPage) {
   EXPECT_EQ(Focus(), "tabPages");
 }
 
-TEST_F(FormHostContract, EnterPressesTheDefaultButtonAndEscTheCancelButton) {
-  ShowForm();
+TEST_F(ShownFormContract, EnterPressesTheDefaultButtonAndEscTheCancelButton) {
   Press(win32::kVkReturn);
   Press(win32::kVkEscape);
   EXPECT_EQ(form_.Take(), (Lines{"click cmdGo", "click cmdClose"}));
   EXPECT_EQ(Focus(), "txtName");
 }
 
-TEST_F(FormHostContract, EnterPressesTheButtonThatHasTheFocus) {
-  ShowForm();
+TEST_F(ShownFormContract, EnterPressesTheButtonThatHasTheFocus) {
   FocusOn("cmdStay");
   Press(win32::kVkReturn);
   EXPECT_EQ(form_.Take(), Lines{"click cmdStay"});
 }
 
-TEST_F(FormHostContract, ADisabledDefaultButtonIsNotPressed) {
-  ShowForm();
+TEST_F(ShownFormContract, ADisabledDefaultButtonIsNotPressed) {
   form_.Find("cmdGo").SetEnabled(false);
   Press(win32::kVkReturn);
   EXPECT_EQ(form_.Take(), Lines{});
 }
 
-TEST_F(FormHostContract, TheSpaceBarPressesWhatHasTheFocus) {
-  ShowForm();
+TEST_F(ShownFormContract, TheSpaceBarPressesWhatHasTheFocus) {
   FocusOn("cmdStay");
   Press(win32::kVkSpace);
   FocusOn("chkDaily");
@@ -72,8 +63,7 @@ TEST_F(FormHostContract, TheSpaceBarPressesWhatHasTheFocus) {
   EXPECT_EQ(form_.Take(), (Lines{"click cmdStay", "click chkDaily"}));
 }
 
-TEST_F(FormHostContract, AltAndTheAccessKeyReachesControlsOfEachKind) {
-  ShowForm();
+TEST_F(ShownFormContract, AltAndTheAccessKeyReachesControlsOfEachKind) {
   FocusOn("cmdClose");
   Press('N', kAlt);
   EXPECT_EQ(Focus(), "txtName");
@@ -89,15 +79,13 @@ TEST_F(FormHostContract, AltAndTheAccessKeyReachesControlsOfEachKind) {
             (Lines{"click chkDaily", "click optColor(1)", "click cmdStay", "click cmdInside"}));
 }
 
-TEST_F(FormHostContract, TheAccessKeyOfAFrameLeadsIntoIt) {
-  ShowForm();
+TEST_F(ShownFormContract, TheAccessKeyOfAFrameLeadsIntoIt) {
   form_.Find("optColor", 2).SetValue(1);
   Press('C', kAlt);
   EXPECT_EQ(User().Focus(Window()), Id("optColor", 2));
 }
 
-TEST_F(FormHostContract, HiddenAndDisabledControlsHaveNoAccessKey) {
-  ShowForm();
+TEST_F(ShownFormContract, HiddenAndDisabledControlsHaveNoAccessKey) {
   form_.Find("cmdStay").SetEnabled(false);
   form_.Find("picPage", 0).SetVisible(false);
   Press('S', kAlt);
@@ -106,8 +94,7 @@ TEST_F(FormHostContract, HiddenAndDisabledControlsHaveNoAccessKey) {
   EXPECT_EQ(Focus(), "txtName");
 }
 
-TEST_F(FormHostContract, APlainLetterIsAnAccessKeyWhereNoTextIsTyped) {
-  ShowForm();
+TEST_F(ShownFormContract, APlainLetterIsAnAccessKeyWhereNoTextIsTyped) {
   Type("s");
   EXPECT_EQ(Text("txtName"), "s");
   FocusOn("cmdGo");
@@ -117,15 +104,13 @@ TEST_F(FormHostContract, APlainLetterIsAnAccessKeyWhereNoTextIsTyped) {
   EXPECT_EQ(Text("txtName"), "s");
 }
 
-TEST_F(FormHostContract, AccessKeysWorkInAnyScript) {
-  ShowForm();
+TEST_F(ShownFormContract, AccessKeysWorkInAnyScript) {
   form_.Find("cmdStay").SetText("(&Ж) stay");
   TypeWithAlt("ж");
   EXPECT_EQ(form_.Take(), Lines{"click cmdStay"});
 }
 
-TEST_F(FormHostContract, ArrowsMoveTheChoiceAmongOptions) {
-  ShowForm();
+TEST_F(ShownFormContract, ArrowsMoveTheChoiceAmongOptions) {
   FocusOn("optColor", 0);
   Press(win32::kVkDown);
   EXPECT_EQ(Value("optColor", 1), 1);
@@ -136,8 +121,7 @@ TEST_F(FormHostContract, ArrowsMoveTheChoiceAmongOptions) {
   EXPECT_EQ(form_.Take(), (Lines{"click optColor(1)", "click optColor(0)", "click optColor(2)"}));
 }
 
-TEST_F(FormHostContract, TheFormSeesEachKeyFirstAndMaySwallowIt) {
-  ShowForm();
+TEST_F(ShownFormContract, TheFormSeesEachKeyFirstAndMaySwallowIt) {
   std::vector<int> keys;
   form_.onKeyDown = [&](int& key, unsigned) {
     keys.push_back(key);
@@ -150,8 +134,7 @@ TEST_F(FormHostContract, TheFormSeesEachKeyFirstAndMaySwallowIt) {
   EXPECT_EQ(form_.Take(), (Lines{"click txtName", "click txtName"}));
 }
 
-TEST_F(FormHostContract, TheShiftStateComesWithTheKey) {
-  ShowForm();
+TEST_F(ShownFormContract, TheShiftStateComesWithTheKey) {
   std::vector<unsigned> shifts;
   form_.onKeyDown = [&](int& key, unsigned shift) {
     if (key == win32::kVkHome) shifts.push_back(shift);
@@ -164,16 +147,14 @@ TEST_F(FormHostContract, TheShiftStateComesWithTheKey) {
   EXPECT_EQ(shifts, (std::vector<unsigned>{kNoShift, kShift, kCtrl, kShift | kCtrl, kWindows}));
 }
 
-TEST_F(FormHostContract, ReleasedKeysAreSeenToo) {
-  ShowForm();
+TEST_F(ShownFormContract, ReleasedKeysAreSeenToo) {
   std::vector<int> keys;
   form_.onKeyUp = [&](int& key, unsigned) { keys.push_back(key); };
   Press(win32::kVkHome);
   EXPECT_EQ(keys, std::vector<int>{win32::kVkHome});
 }
 
-TEST_F(FormHostContract, AKeyThatIsHeldIsToldAsRepeated) {
-  ShowForm();
+TEST_F(ShownFormContract, AKeyThatIsHeldIsToldAsRepeated) {
   std::vector<bool> repeats;
   form_.onKeyDown = [&](int&, unsigned) { repeats.push_back(form_.KeyRepeats()); };
   User().HoldKey(Window(), 'A', 2);
@@ -184,8 +165,7 @@ TEST_F(FormHostContract, AKeyThatIsHeldIsToldAsRepeated) {
   EXPECT_EQ(Text("txtName"), "aaaa");
 }
 
-TEST_F(FormHostContract, AReleaseIsSeenWhereTheFocusIsByThen) {
-  ShowForm();
+TEST_F(ShownFormContract, AReleaseIsSeenWhereTheFocusIsByThen) {
   std::vector<int> released;
   form_.onKeyUp = [&](int& key, unsigned) { released.push_back(key); };
   FocusOn("cmdGo");
@@ -195,8 +175,7 @@ TEST_F(FormHostContract, AReleaseIsSeenWhereTheFocusIsByThen) {
   EXPECT_EQ(released, std::vector<int>{win32::kVkHome});
 }
 
-TEST_F(FormHostContract, ATextOfOneLineGetsNoCharacterThatItWouldBeepAt) {
-  ShowForm();
+TEST_F(ShownFormContract, ATextOfOneLineGetsNoCharacterThatItWouldBeepAt) {
   form_.Find("cmdGo").SetEnabled(false);
   form_.Find("cmdClose").SetEnabled(false);
   const std::string given = User().CharactersFor(Window(), Id("txtName"), [&] {
@@ -208,8 +187,7 @@ TEST_F(FormHostContract, ATextOfOneLineGetsNoCharacterThatItWouldBeepAt) {
   EXPECT_EQ(Text("txtName"), "a");
 }
 
-TEST_F(FormHostContract, AltF4AsksTheFormToCloseUnlessItDealsWithTheKey) {
-  ShowForm();
+TEST_F(ShownFormContract, AltF4AsksTheFormToCloseUnlessItDealsWithTheKey) {
   form_.onKeyDown = [](int& key, unsigned shift) {
     if (key == win32::kVkF4 && shift == kAlt) key = 0;
   };
@@ -221,15 +199,13 @@ TEST_F(FormHostContract, AltF4AsksTheFormToCloseUnlessItDealsWithTheKey) {
   EXPECT_EQ(form_.closeReasons, std::vector<CloseReason>{CloseReason::kUser});
 }
 
-TEST_F(FormHostContract, AKeyMayUnloadTheForm) {
-  ShowForm();
+TEST_F(ShownFormContract, AKeyMayUnloadTheForm) {
   form_.onKeyDown = [&](int&, unsigned) { form_.Unload(); };
   Press(win32::kVkEscape);
   EXPECT_FALSE(form_.IsLoaded());
 }
 
-TEST_F(FormHostContract, ArrowsAndLettersChooseInADropDownList) {
-  ShowForm();
+TEST_F(ShownFormContract, ArrowsAndLettersChooseInADropDownList) {
   FocusOn("cboSize");
   Press(win32::kVkDown);
   Press(win32::kVkDown);
@@ -239,8 +215,7 @@ TEST_F(FormHostContract, ArrowsAndLettersChooseInADropDownList) {
   EXPECT_EQ(form_.Find("cboSize").ListIndex(), 2);
 }
 
-TEST_F(FormHostContract, EscClosesAnOpenListAndNotTheForm) {
-  ShowForm();
+TEST_F(ShownFormContract, EscClosesAnOpenListAndNotTheForm) {
   int opened = 0;
   form_.WhenDroppedDown("cboSize", [&](int) { ++opened; });
   FocusOn("cboSize");
@@ -252,8 +227,7 @@ TEST_F(FormHostContract, EscClosesAnOpenListAndNotTheForm) {
   EXPECT_EQ(form_.Take(), Lines{"click cmdClose"});
 }
 
-TEST_F(FormHostContract, EnterTakesTheEntryOfAnOpenListAndPressesNoButton) {
-  ShowForm();
+TEST_F(ShownFormContract, EnterTakesTheEntryOfAnOpenListAndPressesNoButton) {
   FocusOn("cboSize");
   form_.Find("cboSize").SetListIndex(0);
   form_.Take();
@@ -267,8 +241,7 @@ TEST_F(FormHostContract, EnterTakesTheEntryOfAnOpenListAndPressesNoButton) {
   EXPECT_GE(std::ranges::count(told, "click cboSize"), 1);
 }
 
-TEST_F(FormHostContract, HomeEndAndShiftMoveTheSelection) {
-  ShowForm();
+TEST_F(ShownFormContract, HomeEndAndShiftMoveTheSelection) {
   form_.Find("txtName").SetText("Жabc");
   Press(win32::kVkEnd);
   EXPECT_EQ(form_.Find("txtName").Selection().start, 4);
@@ -279,8 +252,7 @@ TEST_F(FormHostContract, HomeEndAndShiftMoveTheSelection) {
   EXPECT_EQ(Text("txtName"), "z");
 }
 
-TEST_F(FormHostContract, TheFocusMovesInAnInactiveFormWithoutActivatingIt) {
-  ShowForm();
+TEST_F(ShownFormContract, TheFocusMovesInAnInactiveFormWithoutActivatingIt) {
   dialog_.Show();
   FocusOn("cmdStay");
   EXPECT_EQ(User().Focus(Window()), 0);

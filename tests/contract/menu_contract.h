@@ -4,23 +4,20 @@
 
 namespace korvale {
 
-TEST_F(FormHostContract, TheMenuBarShowsTheMenusOfTheDesign) {
-  ShowForm();
+TEST_F(ShownFormContract, TheMenuBarShowsTheMenusOfTheDesign) {
   EXPECT_EQ(User().MenuBarItems(Window()),
             (std::vector<ShownMenuItem>{{"File", "F"}, {"Window", "W"}}));
   EXPECT_EQ(User().MenuItems(Window(), {"File"}),
             (std::vector<ShownMenuItem>{{"Open", "O"}, {"-", ""}, {"More", "M"}, {"Exit", "x"}}));
 }
 
-TEST_F(FormHostContract, ChoosingFromAMenuIsTold) {
-  ShowForm();
+TEST_F(ShownFormContract, ChoosingFromAMenuIsTold) {
   User().ChooseMenu(Window(), {"File", "Open"});
   User().ChooseMenu(Window(), {"File", "More", "Deep"});
   EXPECT_EQ(form_.Take(), (Lines{"menu mnuFileOpen", "menu mnuFileMoreDeep"}));
 }
 
-TEST_F(FormHostContract, MarksAndDisabledAndHiddenEntriesAreShown) {
-  ShowForm();
+TEST_F(ShownFormContract, MarksAndDisabledAndHiddenEntriesAreShown) {
   form_.Menu("mnuFileOpen").checked = true;
   form_.Menu("mnuFileMore").visible = false;
   form_.Menu("mnuFileExit").enabled = false;
@@ -29,8 +26,7 @@ TEST_F(FormHostContract, MarksAndDisabledAndHiddenEntriesAreShown) {
                 {"Open", "O", true, true}, {"-", ""}, {"Exit", "x", false, false}}));
 }
 
-TEST_F(FormHostContract, AMenuIsShownAsItStandsWhenItOpens) {
-  ShowForm();
+TEST_F(ShownFormContract, AMenuIsShownAsItStandsWhenItOpens) {
   form_.WhenMenuOpens("mnuWindow", [&](int) {
     MenuItem& window = form_.Menu("mnuWindow");
     const MenuItemArray list(window, "mnuList");
@@ -49,8 +45,7 @@ TEST_F(FormHostContract, AMenuIsShownAsItStandsWhenItOpens) {
   EXPECT_EQ(form_.Take(), Lines{"menu mnuList(2)"});
 }
 
-TEST_F(FormHostContract, LiteralAmpersandsOfACaptionAreShown) {
-  ShowForm();
+TEST_F(ShownFormContract, LiteralAmpersandsOfACaptionAreShown) {
   MenuItem& item = form_.Menu("mnuList", 0);
   item.caption = "&0  R&D && more";
   item.literalFrom = 2;
@@ -58,8 +53,7 @@ TEST_F(FormHostContract, LiteralAmpersandsOfACaptionAreShown) {
             (std::vector<ShownMenuItem>{{"0  R&D && more", "0"}}));
 }
 
-TEST_F(FormHostContract, AnEntryMayRemoveItself) {
-  ShowForm();
+TEST_F(ShownFormContract, AnEntryMayRemoveItself) {
   MenuItem& item = MenuItemArray(form_.Menu("mnuWindow"), "mnuList").Load(1);
   item.caption = "gone";
   item.visible = true;
@@ -72,8 +66,7 @@ TEST_F(FormHostContract, AnEntryMayRemoveItself) {
             (std::vector<ShownMenuItem>{{"0  First", "0"}}));
 }
 
-TEST_F(FormHostContract, TheMenuBarCanBeHiddenAndItsCaptionsChanged) {
-  ShowForm();
+TEST_F(ShownFormContract, TheMenuBarCanBeHiddenAndItsCaptionsChanged) {
   form_.SetMenuShown(false);
   EXPECT_TRUE(User().MenuBarItems(Window()).empty());
   form_.Menu("mnuFile").visible = false;
@@ -85,8 +78,7 @@ TEST_F(FormHostContract, TheMenuBarCanBeHiddenAndItsCaptionsChanged) {
   EXPECT_EQ(User().MenuBarItems(Window()).size(), 2U);
 }
 
-TEST_F(FormHostContract, APopUpMenuShowsItsEntriesAndTellsTheChoice) {
-  ShowForm();
+TEST_F(ShownFormContract, APopUpMenuShowsItsEntriesAndTellsTheChoice) {
   std::vector<ShownMenuItem> shown;
   User().WhenPopupMenu([&](const std::vector<ShownMenuItem>& items) {
     shown = items;
@@ -98,8 +90,7 @@ TEST_F(FormHostContract, APopUpMenuShowsItsEntriesAndTellsTheChoice) {
   EXPECT_EQ(form_.Take(), Lines{"menu mnuFileOpen"});
 }
 
-TEST_F(FormHostContract, AClosedPopUpMenuTellsNothing) {
-  ShowForm();
+TEST_F(ShownFormContract, AClosedPopUpMenuTellsNothing) {
   int opened = 0;
   form_.WhenMenuOpens("mnuFile", [&](int) { ++opened; });
   User().WhenPopupMenu([](const std::vector<ShownMenuItem>&) { return ""; });
@@ -108,8 +99,7 @@ TEST_F(FormHostContract, AClosedPopUpMenuTellsNothing) {
   EXPECT_EQ(form_.Take(), Lines{});
 }
 
-TEST_F(FormHostContract, AnErrorInAMenuReachesTheReporter) {
-  ShowForm();
+TEST_F(ShownFormContract, AnErrorInAMenuReachesTheReporter) {
   int reported = 0;
   forms_.SetUncaughtHandler([&] { ++reported; });
   form_.onMenuClick = [](const std::string&) { throw std::runtime_error("menu"); };

@@ -29,19 +29,15 @@ void FakeDesktop::CloseModalDialog(WindowHandle dialog) {
 }
 
 void FakeDesktop::OpenShell() {
-  NewWindow desktop;
-  desktop.className = "Progman";
-  desktop.style = fakes::kWsPopup;
-  desktop.exStyle = win32::kWsExToolWindow;
-  desktop.activate = false;
-  desktop.atBottom = true;
-  Open("Program Manager", desktop);
-  NewWindow taskbar;
-  taskbar.className = "Shell_TrayWnd";
-  taskbar.style = fakes::kWsPopup;
-  taskbar.exStyle = win32::kWsExToolWindow | win32::kWsExTopmost;
-  taskbar.activate = false;
-  Open("", taskbar);
+  Open("Program Manager", {.className = "Progman",
+                           .style = fakes::kWsPopup,
+                           .exStyle = win32::kWsExToolWindow,
+                           .activate = false,
+                           .atBottom = true});
+  Open("", {.className = "Shell_TrayWnd",
+            .style = fakes::kWsPopup,
+            .exStyle = win32::kWsExToolWindow | win32::kWsExTopmost,
+            .activate = false});
 }
 
 void FakeDesktop::Close(WindowHandle hwnd) {

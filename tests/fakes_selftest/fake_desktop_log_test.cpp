@@ -138,16 +138,11 @@ TEST_F(FakeDesktopLogTest, TheTestCannotActOnWindowsThatAreGone) {
 
   EXPECT_THROW(desktop_.UserActivates(alpha), std::logic_error);
   EXPECT_THROW(desktop_.Close(alpha), std::logic_error);
-  NewWindow options;
-  options.owner = alpha;
-  EXPECT_THROW(desktop_.Open("Beta", options), std::logic_error);
+  EXPECT_THROW(desktop_.Open("Beta", {.owner = alpha}), std::logic_error);
 }
 
 TEST_F(FakeDesktopLogTest, TheTextLengthMayExceedTheTitle) {
-  NewWindow options;
-  options.extraTextLength = 5;
-
-  EXPECT_EQ(desktop_.GetWindowTextLengthA(desktop_.Open("Alpha", options)), 10);
+  EXPECT_EQ(desktop_.GetWindowTextLengthA(desktop_.Open("Alpha", {.extraTextLength = 5})), 10);
 }
 
 TEST_F(FakeDesktopLogTest, AHungWindowMakesCallersWait) {

@@ -21,9 +21,7 @@ class FakeDesktopOwnerTest : public testing::Test {
     return desktop_.Open(title, options);
   }
   WindowHandle OpenHidden(const std::string& title) {
-    NewWindow options;
-    options.visible = false;
-    return desktop_.Open(title, options);
+    return desktop_.Open(title, {.visible = false});
   }
 
   CallLog log_;

@@ -88,13 +88,9 @@ TEST_F(FakeDesktopTest, TheNextWindowIsVisibleEnabledNotMinimizedAndNoToolWindow
   desktop_.Open("Alpha");
   desktop_.SetEnabled(desktop_.Open("Disabled"), false);
   desktop_.Hide(desktop_.Open("Hidden"));
-  NewWindow tool;
-  tool.exStyle = win32::kWsExToolWindow;
-  desktop_.Open("Tool", tool);
+  desktop_.Open("Tool", {.exStyle = win32::kWsExToolWindow});
   desktop_.UserMinimizes(desktop_.Open("Minimized"));
-  NewWindow passive;
-  passive.exStyle = fakes::kWsExNoActivate;
-  desktop_.Open("Passive", passive);
+  desktop_.Open("Passive", {.exStyle = fakes::kWsExNoActivate});
 
   desktop_.UserMinimizes(desktop_.Open("Beta"));
 
@@ -103,9 +99,7 @@ TEST_F(FakeDesktopTest, TheNextWindowIsVisibleEnabledNotMinimizedAndNoToolWindow
 
 TEST_F(FakeDesktopTest, ClosingAWindowPrefersThoseBelowItToTopmostOnes) {
   desktop_.Open("Alpha");
-  NewWindow topmost;
-  topmost.exStyle = win32::kWsExTopmost;
-  desktop_.Open("Clock", topmost);
+  desktop_.Open("Clock", {.exStyle = win32::kWsExTopmost});
   const WindowHandle beta = desktop_.Open("Beta");
 
   desktop_.Close(beta);
@@ -161,10 +155,7 @@ TEST_F(FakeDesktopTest, TheLockedForegroundIsRefused) {
 
 TEST_F(FakeDesktopTest, ANewWindowCanOpenInTheBackground) {
   desktop_.Open("Alpha");
-  NewWindow options;
-  options.activate = false;
-
-  desktop_.Open("Beta", options);
+  desktop_.Open("Beta", {.activate = false});
 
   EXPECT_EQ(desktop_.ForegroundTitle(), "Alpha");
 }

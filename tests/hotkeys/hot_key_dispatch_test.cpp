@@ -3,7 +3,6 @@
 #include <stdexcept>
 #include <string>
 
-#include "hotkeys/hot_key_names.h"
 #include "platform/run_time_error.h"
 #include "tests/hotkeys/dispatch_fixture.h"
 #include "tests/hotkeys/reserved_names.h"

@@ -31,7 +31,7 @@ TEST(HotKeyNamesTest, RecognisesNoOtherName) {
 TEST(HotKeyNamesTest, TurnsTagsIntoNamesAndBack) {
   for (int tag = 0; tag <= 9; ++tag) {
     EXPECT_EQ(ParentHotKeyName(tag), "HOTKEY_PARENT" + std::to_string(tag));
-    EXPECT_EQ(ParentHotKeyTag(ParentHotKeyName(tag)), tag);
+    EXPECT_EQ(ParentHotKeyTag("HOTKEY_PARENT" + std::to_string(tag)), tag);
   }
 }
 
@@ -44,7 +44,8 @@ TEST(HotKeyNamesTest, FindsNoTagInOtherNames) {
 
 TEST(HotKeyNamesTest, DescribesEachRegisteredHotKey) {
   for (int tag = 0; tag <= 9; ++tag) {
-    EXPECT_EQ(HotKeyDescription(ParentHotKeyName(tag)), "Select Window " + std::to_string(tag));
+    EXPECT_EQ(HotKeyDescription("HOTKEY_PARENT" + std::to_string(tag)),
+              "Select Window " + std::to_string(tag));
   }
   EXPECT_EQ(HotKeyDescription("HOTKEY_MINIMIZE_PARENT"), "Minimize Parent Window");
   EXPECT_EQ(HotKeyDescription("HOTKEY_RESTORE/MAXIMIZE_PARENT"), "Restore/Maximize Parent Window");

@@ -25,6 +25,7 @@ TEST_F(HotKeyRefusal, TellsACombinationThatTheUserChoseTwiceFromOneThatSomebodyE
   Options().intHotKeyModAction = {0, 0};
   Options().intHotKeyAction = {0x77, 0x77};
   table.SetHotKeys("SET");
+  ASSERT_EQ(table.Registered().size(), 15U);
   for (const RegisteredHotKey& hotKey : table.Registered()) {
     const bool second = hotKey.name == "HOTKEY_RESTORE/MAXIMIZE_PARENT";
     EXPECT_EQ(hotKey.accepted, hotKey.modifiers != 8 && !second) << hotKey.name;
@@ -36,6 +37,7 @@ TEST_F(HotKeyRefusal, HasNothingTwiceThatAFormerRegistrationHad) {
   table.SetHotKeys("SET");
   table.SetHotKeys("SET");
 
+  ASSERT_EQ(table.Registered().size(), 15U);
   for (const RegisteredHotKey& hotKey : table.Registered()) {
     EXPECT_FALSE(hotKey.chosenBefore) << hotKey.name;
   }

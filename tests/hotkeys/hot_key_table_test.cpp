@@ -7,6 +7,7 @@
 #include <string>
 
 #include "platform/run_time_error.h"
+#include "tests/fakes/error_of.h"
 #include "tests/hotkeys/hot_key_table_fixture.h"
 
 namespace korvale {
@@ -200,12 +201,7 @@ TEST_F(HotKeyTableTest, RefusesAnIdentifierOutsideTheTable) {
 
   for (const std::uintptr_t identifier :
        {std::uintptr_t{0}, std::uintptr_t{16}, std::numeric_limits<std::uintptr_t>::max()}) {
-    try {
-      table.NameOf(identifier);
-      ADD_FAILURE() << "No error for " << identifier;
-    } catch (const RunTimeError& error) {
-      EXPECT_EQ(error.Number(), RunTimeError::kSubscriptOutOfRange);
-    }
+    EXPECT_EQ(ErrorOf([&] { table.NameOf(identifier); }), RunTimeError::kSubscriptOutOfRange);
   }
 }
 
@@ -213,12 +209,7 @@ TEST_F(HotKeyTableTest, OverflowsBehindTheLargestIdentifier) {
   for (int count = 0; count < std::numeric_limits<std::int16_t>::max(); ++count) {
     table.AddHotKey("HOTKEY_KEYS2", 0, 65);
   }
-  try {
-    table.AddHotKey("HOTKEY_KEYS2", 0, 65);
-    ADD_FAILURE() << "No error";
-  } catch (const RunTimeError& error) {
-    EXPECT_EQ(error.Number(), RunTimeError::kOverflow);
-  }
+  EXPECT_EQ(ErrorOf([this] { table.AddHotKey("HOTKEY_KEYS2", 0, 65); }), RunTimeError::kOverflow);
   EXPECT_EQ(table.HotKeyCount(), std::numeric_limits<std::int16_t>::max());
   EXPECT_EQ(table.HotKeyNames().size(), 32767U);
 }

@@ -5,36 +5,23 @@
 #include <string>
 #include <vector>
 
-#include "tests/fakes/call_log.h"
 #include "tests/fakes/fake_hot_key_actions.h"
-#include "tests/fakes/fake_hot_keys.h"
-#include "tests/fakes/fake_main_window.h"
+#include "tests/hotkeys/hot_key_table_fixture.h"
 
 namespace korvale {
 namespace {
 
-using Calls = std::vector<std::string>;
-
-class HotKeyToggleTest : public testing::Test {
+class HotKeyToggleTest : public HotKeyTableTest {
  protected:
   HotKeyToggleTest() {
-    mainWindow.handle = 1000;
-    log.NameWindow(1000, "main");
-    options.Create();
-    options.Get().booHotKeyParent.fill(false);
-    options.Get().booHotKeyParent[3] = true;
-    options.Get().intHotKeyAction.fill(0);
-    options.Get().intHotKeyGeneral = {79, 0, 19};
+    DisableAll();
+    Options().booHotKeyParent[3] = true;
+    Options().intHotKeyGeneral = {79, 0, 19};
     table.SetHotKeys("SET");
     log.Clear();
     actions.onCall = [this](const std::string& call) { log.Add(call); };
   }
 
-  CallLog log;
-  FakeHotKeys hotKeys{log};
-  FakeMainWindow mainWindow;
-  OptionsHolder options;
-  HotKeyTable table{hotKeys, options, mainWindow};
   FakeHotKeyActions actions;
   HotKeyToggle toggle{table, options, actions};
 };

@@ -9,12 +9,11 @@
 #include "app/core/error_reporting.h"
 #include "platform/run_time_error.h"
 #include "platform/win32_constants.h"
+#include "tests/fakes/error_of.h"
 #include "tests/hotkeys/message_box_fixture.h"
 
 namespace korvale {
 namespace {
-
-;
 
 TEST_F(MessageBoxTest, ShowsTheBoxAndReturnsTheButton) {
   host.answer = win32::kIdNo;
@@ -140,12 +139,7 @@ TEST_F(MessageBoxTest, LetsTheEndOfTheProgramThrough) {
 TEST_F(MessageBoxTest, OverflowsBehindTheDeepestNesting) {
   suspension.MessageBoxDepth = std::numeric_limits<std::int16_t>::max();
 
-  try {
-    ShowBox();
-    ADD_FAILURE() << "No error";
-  } catch (const RunTimeError& error) {
-    EXPECT_EQ(error.Number(), RunTimeError::kOverflow);
-  }
+  EXPECT_EQ(ErrorOf([this] { ShowBox(); }), RunTimeError::kOverflow);
   EXPECT_EQ(suspension.MessageBoxDepth, std::numeric_limits<std::int16_t>::max());
   EXPECT_TRUE(log.Calls().empty());
 }

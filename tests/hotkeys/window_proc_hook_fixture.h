@@ -13,11 +13,9 @@
 #include "hotkeys/window_proc_hook.h"
 #include "platform/run_time_error.h"
 #include "platform/win32_constants.h"
-#include "tests/fakes/call_log.h"
-#include "tests/fakes/fake_hot_keys.h"
-#include "tests/fakes/fake_main_window.h"
 #include "tests/fakes/headless_form_host.h"
 #include "tests/fakes/plain_desktop.h"
+#include "tests/hotkeys/hot_key_table_fixture.h"
 
 namespace korvale {
 
@@ -31,15 +29,11 @@ class MenuHost : public HeadlessFormHost {
 };
 
 /// The hook in front of a window of number 1000, with the default hot keys registered.
-class WindowProcHookTest : public testing::Test, protected HotKeyProcessor {
+class WindowProcHookTest : public HotKeyTableTest, protected HotKeyProcessor {
  protected:
-  using Calls = std::vector<std::string>;
   static constexpr WindowHandle kMain = 1000;
 
   WindowProcHookTest() {
-    mainWindow.handle = kMain;
-    log.NameWindow(kMain, "main");
-    options.Create();
     table.SetHotKeys("SET");
     hook.HookWindowProc("SET", kMain);
     log.Clear();
@@ -74,11 +68,6 @@ class WindowProcHookTest : public testing::Test, protected HotKeyProcessor {
     }
   }
 
-  CallLog log;
-  FakeHotKeys hotKeys{log};
-  FakeMainWindow mainWindow;
-  OptionsHolder options;
-  HotKeyTable table{hotKeys, options, mainWindow};
   std::function<void(const std::string&)> inDispatch;
   PlainDesktop screen;
   MenuHost host{screen, log};

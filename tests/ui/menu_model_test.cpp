@@ -3,13 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <cstdint>
-#include <functional>
 #include <string>
 #include <vector>
 
 #include "platform/form_model.h"
 #include "platform/run_time_error.h"
+#include "tests/fakes/error_of.h"
 
 namespace korvale {
 namespace {
@@ -33,15 +32,6 @@ std::vector<std::string> NamesOf(const MenuItem& menu) {
     names.push_back(item->index < 0 ? item->name : item->name + std::to_string(item->index));
   }
   return names;
-}
-
-std::int16_t ErrorOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const RunTimeError& error) {
-    return error.Number();
-  }
-  return 0;
 }
 
 TEST(MenuBarTest, RowsNestByTheirDepth) {

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <string>
 
+#include "tests/fakes/error_of.h"
+
 namespace korvale {
 namespace {
 
@@ -49,23 +51,14 @@ TEST(RunTimeErrorTest, DescribesUnknownNumbersInGeneral) {
   EXPECT_EQ(RunTimeErrorDescription(4711), "Application-defined or object-defined error");
 }
 
-std::int16_t NumberOfErrorIn(std::int16_t left, std::int16_t right) {
-  try {
-    AddInt16(left, right);
-  } catch (const RunTimeError& error) {
-    return error.Number();
-  }
-  return 0;
-}
-
 TEST(AddInt16Test, AddsWhatFits) {
   EXPECT_EQ(AddInt16(32766, 1), 32767);
   EXPECT_EQ(AddInt16(-32767, -1), -32768);
 }
 
 TEST(AddInt16Test, OverflowsBeyondSixteenBits) {
-  EXPECT_EQ(NumberOfErrorIn(32767, 1), 6);
-  EXPECT_EQ(NumberOfErrorIn(-32768, -1), 6);
+  EXPECT_EQ(ErrorOf([] { AddInt16(32767, 1); }), 6);
+  EXPECT_EQ(ErrorOf([] { AddInt16(-32768, -1); }), 6);
 }
 
 TEST(ToInt16Test, KeepsWhatFitsAndOverflowsOtherwise) {
