@@ -28,7 +28,7 @@ class DeletedLastTest : public testing::Test {
   }
 
   bool OldIsThere() { return store_.GetSetting("Korvale - Old", "Options", "A") == "1"; }
-  bool NothingIsPending() { return store_.GetAllSettings(kApp, kJournalSection).empty(); }
+  bool NothingIsPending() { return store_.GetAllSettings(kApp, "Saving").empty(); }
   std::optional<std::string> Tag(const std::string& number) {
     return store_.GetSetting(kApp, "ParentWindowList", number);
   }

@@ -5,8 +5,8 @@
 #include <cstdint>
 #include <string>
 
-#include "platform/run_time_error.h"
 #include "tests/fakes/call_log.h"
+#include "tests/fakes/error_of.h"
 #include "tests/fakes/fake_clock.h"
 #include "tests/fakes/fake_system.h"
 
@@ -29,12 +29,7 @@ class ErrorLogTest : public testing::Test {
   }
   std::string Content() { return system_.Session().contents[kPath]; }
   std::int16_t AppendError() {
-    try {
-      log_.Append("1", "problem", "locals");
-    } catch (const RunTimeError& error) {
-      return error.Number();
-    }
-    return 0;
+    return ErrorOf([this] { log_.Append("1", "problem", "locals"); });
   }
 
   CallLog calls_;

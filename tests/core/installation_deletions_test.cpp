@@ -16,7 +16,7 @@ struct Deletion {
 };
 
 constexpr Deletion kDeletions[] = {
-    {kInstallationRegister, "0", kOld},
+    {"Korvale Installations", "0", kOld},
     {kWork, "Startup", "WindowState"},
     {kWork, "Startup", "Left"},
     {kWork, "Startup", "DisplayTips"},

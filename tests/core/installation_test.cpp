@@ -101,9 +101,16 @@ TEST_F(InstallationTest, SettingsOfTheOwnFolderUnderAnotherNameAreOffered) {
   EXPECT_EQ(Registered("Korvale - WORK~1"), std::nullopt);
 }
 
-TEST_F(InstallationTest, ImportThatIsRefusedAValueLeavesTheOtherInstallationAsItIs) {
-  StoreSettings(store_, kOld);
-  Register(store_, kOld, "D:\\Tools\\Old");
+/// The folder was D:\Tools\Old before.
+class RenamedInstallationTest : public InstallationTest {
+ protected:
+  RenamedInstallationTest() {
+    StoreSettings(store_, kOld);
+    Register(store_, kOld, "D:\\Tools\\Old");
+  }
+};
+
+TEST_F(RenamedInstallationTest, ImportThatIsRefusedAValueLeavesTheOtherInstallationAsItIs) {
   const StoredValues old = ValuesOf(store_, kOld);
   store_.RefuseValue(kWork, "Startup", "Tips");
   messages_.answers = {kYes};
@@ -125,9 +132,7 @@ TEST_F(InstallationTest, RootOfADriveIsAnInstallation) {
   EXPECT_FALSE(Run().mustEnd);
 }
 
-TEST_F(InstallationTest, SettingsOfARenamedFolderAreOffered) {
-  StoreSettings(store_, kOld);
-  Register(store_, kOld, "D:\\Tools\\Old");
+TEST_F(RenamedInstallationTest, SettingsOfARenamedFolderAreOffered) {
   messages_.answers = {kNo};
   const InstallationResult result = Run();
   EXPECT_EQ(messages_.shown,
@@ -140,9 +145,7 @@ TEST_F(InstallationTest, SettingsOfARenamedFolderAreOffered) {
   EXPECT_TRUE(result.firstRun);
 }
 
-TEST_F(InstallationTest, NoLeavesBothInstallationsAlone) {
-  StoreSettings(store_, kOld);
-  Register(store_, kOld, "D:\\Tools\\Old");
+TEST_F(RenamedInstallationTest, NoLeavesBothInstallationsAlone) {
   StoredValues expected = AllValues(store_);
   expected["Korvale Installations/0/Korvale - Work"] = "D:\\Tools\\Work";
   messages_.answers = {kNo};
@@ -150,9 +153,7 @@ TEST_F(InstallationTest, NoLeavesBothInstallationsAlone) {
   EXPECT_EQ(AllValues(store_), expected);
 }
 
-TEST_F(InstallationTest, YesTakesTheSettingsOverAndRemovesTheOtherInstallation) {
-  StoreSettings(store_, kOld);
-  Register(store_, kOld, "D:\\Tools\\Old");
+TEST_F(RenamedInstallationTest, YesTakesTheSettingsOverAndRemovesTheOtherInstallation) {
   messages_.answers = {kYes};
   const InstallationResult result = Run();
   EXPECT_TRUE(result.firstRun);
@@ -173,9 +174,7 @@ TEST_F(InstallationTest, YesTakesTheSettingsOverAndRemovesTheOtherInstallation) 
   EXPECT_FALSE(settings.LoadStartup().Menu);
 }
 
-TEST_F(InstallationTest, PlacementIsNotTakenOver) {
-  StoreSettings(store_, kOld);
-  Register(store_, kOld, "D:\\Tools\\Old");
+TEST_F(RenamedInstallationTest, PlacementIsNotTakenOver) {
   messages_.answers = {kYes};
   Run();
   for (const char* key : {"WindowState", "Left", "Top", "Width", "Height", "DisplayTips"}) {
@@ -188,9 +187,7 @@ TEST_F(InstallationTest, PlacementIsNotTakenOver) {
   EXPECT_EQ(taken_.startup, expected);
 }
 
-TEST_F(InstallationTest, LivingInstallationNeverLosesItsSettings) {
-  StoreSettings(store_, kOld);
-  Register(store_, kOld, "D:\\Tools\\Old");
+TEST_F(RenamedInstallationTest, LivingInstallationNeverLosesItsSettings) {
   system_.files.insert("D:\\Tools\\Old\\Korvale.exe");
   messages_.answers = {kYes};
   EXPECT_EQ(Run().lastAnswer, 0);
@@ -218,7 +215,8 @@ TEST_F(InstallationTest, FirstOfSeveralInTheRegisterIsOffered) {
   }
   StoreSettings(store_, "Korvale - A");
   StoreSettings(store_, "Korvale - B");
-  const auto registered = store_.GetAllSettings(kInstallationRegister, "0");
+  const auto registered = store_.GetAllSettings("Korvale Installations", "0");
+  ASSERT_EQ(registered.size(), 3U);
   std::string first;
   for (const auto& [name, folder] : registered) {
     if (first.empty() && name != "Korvale - Empty") first = name;
@@ -237,9 +235,7 @@ TEST_F(InstallationTest, GarbageInTheRegisterDoesNoHarm) {
   EXPECT_TRUE(messages_.shown.empty());
 }
 
-TEST_F(InstallationTest, KilledImportLeavesTheSettingsWhollyUnderOneName) {
-  StoreSettings(store_, kOld);
-  Register(store_, kOld, "D:\\Tools\\Old");
+TEST_F(RenamedInstallationTest, KilledImportLeavesTheSettingsWhollyUnderOneName) {
   FakeSettingsStore finished = store_;
   const StoredValues initial = AllValues(finished);
   Register(finished, kWork, "D:\\Tools\\Work");
@@ -266,9 +262,7 @@ TEST_F(InstallationTest, KilledImportLeavesTheSettingsWhollyUnderOneName) {
   EXPECT_GT(afters, 1);
 }
 
-TEST_F(InstallationTest, SaveOfTheOtherInstallationIsFinishedBeforeItIsTakenOver) {
-  StoreSettings(store_, kOld);
-  Register(store_, kOld, "D:\\Tools\\Old");
+TEST_F(RenamedInstallationTest, SaveOfTheOtherInstallationIsFinishedBeforeItIsTakenOver) {
   store_.SaveSetting(kOld, "Saving", "1\\S\\Korvale - Old\\ParentWindowList\\9", "&9  Late");
   store_.SaveSetting(kOld, "Saving", "Complete", "1");
   messages_.answers = {kYes};

@@ -44,10 +44,10 @@ class InstallationTest : public testing::Test {
 
   static void Register(SettingsStore& store, const std::string& appName,
                        const std::string& folder) {
-    store.SaveSetting(kInstallationRegister, "0", appName, folder);
+    store.SaveSetting("Korvale Installations", "0", appName, folder);
   }
   std::optional<std::string> Registered(const std::string& appName) {
-    return store_.GetSetting(kInstallationRegister, "0", appName);
+    return store_.GetSetting("Korvale Installations", "0", appName);
   }
 
   /// A full set of settings, none of them at its default.

@@ -19,7 +19,7 @@ namespace {
 class SaveJournalTest : public testing::Test {
  protected:
   void Entry(const std::string& name, const std::string& value) {
-    store_.SaveSetting(kApp, kJournalSection, name, value);
+    store_.SaveSetting(kApp, "Saving", name, value);
   }
   StoredValues AfterRestart() {
     Restart(store_);
@@ -80,7 +80,7 @@ TEST_F(SaveJournalTest, LeftoverNeverUndoesALaterSave) {
 TEST_F(SaveJournalTest, NothingOfItIsLeftAfterASave) {
   SaveOld(store_);
   SaveNewINI(store_);
-  EXPECT_TRUE(store_.GetAllSettings(kApp, kJournalSection).empty());
+  EXPECT_TRUE(store_.GetAllSettings(kApp, "Saving").empty());
 }
 
 TEST_F(SaveJournalTest, NothingIsWrittenWhenThereIsNothingToChange) {
@@ -100,7 +100,7 @@ class RefusingStore : public FakeSettingsStore {
     return FakeSettingsStore::SaveSetting(appName, section, key, value);
   }
   bool DeleteSection(const std::string& appName, const std::string& section) override {
-    if (refusing && section == section_ && section != kJournalSection) {
+    if (refusing && section == section_ && section != "Saving") {
       throw RunTimeError(RunTimeError::kInvalidCall);
     }
     return FakeSettingsStore::DeleteSection(appName, section);
@@ -115,7 +115,7 @@ class RefusingStore : public FakeSettingsStore {
 
 TEST(RefusedSaveTest, ChangesNothingWhenItCannotBePrepared) {
   for (const char* key : {"Tips", "Complete"}) {
-    RefusingStore store(kJournalSection, key);
+    RefusingStore store("Saving", key);
     SaveOld(store);
     const StoredValues before = AllValues(store);
     store.refusing = true;
@@ -137,26 +137,26 @@ TEST(RefusedSaveTest, IsTriedAgainByTheNextRun) {
   store.refusing = true;
   EXPECT_EQ(ErrorOf([&] { SaveNewINI(store); }), 70);
   Settings(store, kApp).FinishInterruptedSave();
-  EXPECT_FALSE(store.GetAllSettings(kApp, kJournalSection).empty()) << "still refused";
+  EXPECT_FALSE(store.GetAllSettings(kApp, "Saving").empty()) << "still refused";
   store.refusing = false;
   Settings(store, kApp).FinishInterruptedSave();
   EXPECT_EQ(store.GetSetting(kApp, "Startup", "Tips"), "10");
-  EXPECT_TRUE(store.GetAllSettings(kApp, kJournalSection).empty());
+  EXPECT_TRUE(store.GetAllSettings(kApp, "Saving").empty());
 }
 
 TEST(RefusedSaveTest, ANewerSaveNeverMixesWithAJournalThatCannotBeDeleted) {
   class KeepingStore : public FakeSettingsStore {
    public:
     bool DeleteSection(const std::string& appName, const std::string& section) override {
-      return section != kJournalSection && FakeSettingsStore::DeleteSection(appName, section);
+      return section != "Saving" && FakeSettingsStore::DeleteSection(appName, section);
     }
   };
   KeepingStore store;
   EXPECT_EQ(ErrorOf([&] { SaveOld(store); }), 70);
-  const auto journal = store.GetAllSettings(kApp, kJournalSection);
+  const auto journal = store.GetAllSettings(kApp, "Saving");
   ASSERT_FALSE(journal.empty());
   EXPECT_EQ(ErrorOf([&] { SaveNewINI(store); }), 70);
-  EXPECT_EQ(store.GetAllSettings(kApp, kJournalSection), journal);
+  EXPECT_EQ(store.GetAllSettings(kApp, "Saving"), journal);
 }
 
 TEST(RefusedSaveTest, IsMadeAfterAllBeforeANewerOneOfOtherSettings) {
@@ -170,7 +170,7 @@ TEST(RefusedSaveTest, IsMadeAfterAllBeforeANewerOneOfOtherSettings) {
   Settings(store, kApp).FinishInterruptedSave();
   EXPECT_EQ(store.GetSetting(kApp, "Options", "HotKeyModParent"), "2");
   EXPECT_EQ(store.GetSetting(kApp, "Startup", "Tips"), "10");
-  EXPECT_TRUE(store.GetAllSettings(kApp, kJournalSection).empty());
+  EXPECT_TRUE(store.GetAllSettings(kApp, "Saving").empty());
 }
 
 TEST(RefusedSaveTest, FailingDeletionDoesNotStopTheOthers) {
@@ -194,7 +194,7 @@ TEST(RefusedSaveTest, ATagThatWasRemovedMeanwhileDoesNotComeBack) {
     const SettingsStore::Pairs expected =
         left.empty() ? SettingsStore::Pairs() : SettingsStore::Pairs{{"1", "&1  Mail"}};
     EXPECT_EQ(store.GetAllSettings(kApp, "ParentWindowList"), expected);
-    EXPECT_TRUE(store.GetAllSettings(kApp, kJournalSection).empty());
+    EXPECT_TRUE(store.GetAllSettings(kApp, "Saving").empty());
   }
 }
 

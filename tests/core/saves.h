@@ -1,12 +1,10 @@
 #pragma once
 
-#include <cstdint>
-#include <functional>
 #include <string>
 #include <vector>
 
 #include "app/core/settings.h"
-#include "platform/run_time_error.h"
+#include "tests/fakes/error_of.h"
 
 namespace korvale {
 
@@ -30,16 +28,6 @@ inline void SaveNewINI(SettingsStore& store) {
 }
 
 inline void DeleteTheOptions(SettingsStore& store) { Settings(store, kApp).DeleteOptions(); }
-
-/// Number of the run-time error that the call throws, 0 when it throws none.
-inline std::int16_t ErrorOf(const std::function<void()>& call) {
-  try {
-    call();
-  } catch (const RunTimeError& error) {
-    return error.Number();
-  }
-  return 0;
-}
 
 /// Saves the state with these Tags, as the program does.
 inline void SaveTags(SettingsStore& store, const std::vector<int>& numbers) {
