@@ -10,24 +10,22 @@ namespace korvale {
 /// Alpha stands behind Beta; both are ordinary windows.
 class Activation : public DesktopCase {
  protected:
-  void SetUp() override {
-    alpha = desktop.Open("Alpha");
-    beta = desktop.Open("Beta");
-    log.Clear();
-  }
+  Activation() { log.Clear(); }
 
   ActivationResult Activate(WindowTriple& window) {
     return actions.ActivateWindow(window, false, true);
   }
+  ActivationResult Activate(WindowTriple&& window) { return Activate(window); }
   ActivationResult Validate(WindowTriple& window) {
     return actions.ActivateWindow(window, false, false);
   }
+  ActivationResult Validate(WindowTriple&& window) { return Validate(window); }
   WindowTriple Triple(WindowHandle hwnd, const std::string& text = "Alpha") {
     return {hwnd, text, "Window"};
   }
 
-  WindowHandle alpha = 0;
-  WindowHandle beta = 0;
+  const WindowHandle alpha = desktop.Open("Alpha");
+  const WindowHandle beta = desktop.Open("Beta");
 };
 
 }  // namespace korvale

@@ -11,8 +11,7 @@ namespace {
 
 class ActivationOfOwned : public Activation {
  protected:
-  void SetUp() override {
-    Activation::SetUp();
+  ActivationOfOwned() {
     owned = desktop.Open("Owned", {.owner = alpha});
     desktop.UserMinimizes(alpha);
     desktop.Windows().Find(owned)->hiddenByOwner = true;
@@ -24,8 +23,7 @@ class ActivationOfOwned : public Activation {
 };
 
 TEST_F(ActivationOfOwned, MinimizedOwnerIsRestoredFirst) {
-  WindowTriple window = Triple(owned, "Owned");
-  EXPECT_EQ(Activate(window), 1);
+  EXPECT_EQ(Activate(Triple(owned, "Owned")), 1);
   EXPECT_FALSE(desktop.IsIconic(alpha));
   EXPECT_EQ(desktop.ForegroundTitle(), "Owned");
   EXPECT_EQ(log.Take(),
@@ -33,37 +31,32 @@ TEST_F(ActivationOfOwned, MinimizedOwnerIsRestoredFirst) {
 }
 
 TEST_F(ActivationOfOwned, MinimizedOwnerStaysWhenNotToAct) {
-  WindowTriple window = Triple(owned, "Owned");
-  EXPECT_EQ(Validate(window), 2);
+  EXPECT_EQ(Validate(Triple(owned, "Owned")), 2);
   EXPECT_EQ(log.Take(), Calls{});
 }
 
 TEST_F(ActivationOfOwned, OwnerThatIsNotMinimizedStays) {
   desktop.UserRestores(alpha);
   desktop.UserActivates(beta);
-  WindowTriple window = Triple(owned, "Owned");
-  EXPECT_EQ(Activate(window), 1);
+  EXPECT_EQ(Activate(Triple(owned, "Owned")), 1);
   EXPECT_EQ(log.Take(), Calls{"SetForegroundWindow(Owned)"});
 }
 
 TEST_F(ActivationOfOwned, OwnerWithoutAMinimizeBoxStays) {
   desktop.Windows().Find(alpha)->style &= ~win32::kWsMinimizeBox;
-  WindowTriple window = Triple(owned, "Owned");
-  EXPECT_EQ(Activate(window), 2);
+  EXPECT_EQ(Activate(Triple(owned, "Owned")), 2);
   EXPECT_EQ(log.Take(), Calls{});
 }
 
 TEST_F(ActivationOfOwned, RefusedRestoreOfTheOwnerFails) {
   desktop.Windows().Find(alpha)->visible = false;
-  WindowTriple window = Triple(owned, "Owned");
-  EXPECT_EQ(Activate(window), 0);
+  EXPECT_EQ(Activate(Triple(owned, "Owned")), 0);
   EXPECT_EQ(log.Take(), Calls{"ShowWindowAsync(Alpha, SW_RESTORE)"});
 }
 
 TEST_F(ActivationOfOwned, HungOwnerIsNotWaitedFor) {
   desktop.SetHung(alpha, true);
-  WindowTriple window = Triple(owned, "Owned");
-  EXPECT_EQ(Activate(window), kWindowNotAnswering);
+  EXPECT_EQ(Activate(Triple(owned, "Owned")), kWindowNotAnswering);
   EXPECT_EQ(log.Take(), Calls{"ShowWindowAsync(Alpha, SW_RESTORE)"});
   EXPECT_EQ(desktop.CallsThatWaited(), 0);
 }
@@ -94,8 +87,7 @@ TEST_F(Activation, TitleOfTheRecordGoesIntoTheCallersText) {
 
 TEST_F(Activation, RecordOfOtherWindowsStays) {
   previous.current = Triple(beta, "Old");
-  WindowTriple window = Triple(alpha);
-  EXPECT_EQ(Validate(window), 1);
+  EXPECT_EQ(Validate(Triple(alpha)), 1);
   EXPECT_EQ(previous.current.text, "Old");
 }
 

@@ -20,21 +20,18 @@ TEST_F(Activation, BringsTheWindowToTheFront) {
 }
 
 TEST_F(Activation, OnlyTellsWhetherItCouldWhenNotToAct) {
-  WindowTriple window = Triple(alpha);
-  EXPECT_EQ(Validate(window), 1);
+  EXPECT_EQ(Validate(Triple(alpha)), 1);
   EXPECT_EQ(log.Take(), Calls{});
 }
 
 TEST_F(Activation, WindowInFrontIsNotBroughtThereAgain) {
-  WindowTriple window = Triple(beta, "Beta");
-  EXPECT_EQ(Activate(window), 1);
+  EXPECT_EQ(Activate(Triple(beta, "Beta")), 1);
   EXPECT_EQ(log.Take(), Calls{});
 }
 
 TEST_F(Activation, MinimizedWindowIsRestored) {
   desktop.UserMinimizes(alpha);
-  WindowTriple window = Triple(alpha);
-  EXPECT_EQ(Activate(window), 1);
+  EXPECT_EQ(Activate(Triple(alpha)), 1);
   EXPECT_FALSE(desktop.IsIconic(alpha));
   EXPECT_EQ(log.Take(),
             (Calls{"SetForegroundWindow(Alpha)", "ShowWindowAsync(Alpha, SW_RESTORE)"}));
@@ -42,8 +39,7 @@ TEST_F(Activation, MinimizedWindowIsRestored) {
 
 TEST_F(Activation, MinimizedWindowIsNotRestoredWhenNotToAct) {
   desktop.UserMinimizes(alpha);
-  WindowTriple window = Triple(alpha);
-  EXPECT_EQ(Validate(window), 1);
+  EXPECT_EQ(Validate(Triple(alpha)), 1);
   EXPECT_EQ(log.Take(), Calls{});
 }
 
@@ -53,45 +49,66 @@ TEST_F(Activation, NoWindowIsNotOpen) {
   EXPECT_EQ(calls, Calls{});
 }
 
-TEST_F(Activation, ClosedWindowIsNotOpen) {
-  desktop.Close(alpha);
-  WindowTriple window = Triple(alpha);
-  EXPECT_EQ(Activate(window), 2);
-  EXPECT_EQ(window.handle, alpha);
+struct FailureCase {
+  const char* name;
+  void (*prepare)(FakeDesktop& desktop, WindowHandle alpha);
+  ActivationResult result;
+  bool keepsTheHandle = true;
+  const char* text = "Alpha";
+  const char* className = "Window";
+};
+
+void PrintTo(const FailureCase& failure, std::ostream* out) { *out << failure.name; }
+
+class ActivationFailure : public Activation, public testing::WithParamInterface<FailureCase> {};
+
+TEST_P(ActivationFailure, IsToldAndChangesNoWindow) {
+  const FailureCase& failure = GetParam();
+  failure.prepare(desktop, alpha);
+  const std::string front = desktop.ForegroundTitle();
+  WindowTriple window{alpha, failure.text, failure.className};
+  log.Clear();
+  EXPECT_EQ(Activate(window), failure.result);
+  EXPECT_EQ(window.handle, failure.keepsTheHandle ? alpha : 0);
+  EXPECT_EQ(window.text, failure.text);
+  EXPECT_EQ(log.Take(), Calls{});
+  EXPECT_EQ(desktop.ForegroundTitle(), front);
 }
+
+void LeaveAlone(FakeDesktop& /*desktop*/, WindowHandle /*alpha*/) {}
+void DisableIt(FakeDesktop& desktop, WindowHandle alpha) { desktop.SetEnabled(alpha, false); }
+
+INSTANTIATE_TEST_SUITE_P(
+    Windows, ActivationFailure,
+    testing::Values(
+        FailureCase{"Closed", [](FakeDesktop& d, WindowHandle w) { d.Close(w); }, kWindowNotOpen},
+        FailureCase{"Hidden", [](FakeDesktop& d, WindowHandle w) { d.Hide(w); }, kWindowNotOpen},
+        FailureCase{"HiddenAndDisabled",
+                    [](FakeDesktop& d, WindowHandle w) {
+                      DisableIt(d, w);
+                      d.Hide(w);
+                    },
+                    kWindowNotOpen},
+        FailureCase{"OfAnotherClass", LeaveAlone, kActivationFailed, true, "Alpha", "window"},
+        FailureCase{"AnEmptyClassIsNotAnyClass", LeaveAlone, kActivationFailed, true, "Alpha", ""},
+        FailureCase{"Disabled", DisableIt, kWindowNotEnabled},
+        FailureCase{"DisabledWithAnotherTitle", DisableIt, kActivationFailed, false, "Gamma"},
+        FailureCase{"BehindAModalDialog",
+                    [](FakeDesktop& d, WindowHandle w) {
+                      d.OpenModalDialog(w, "Dialog");
+                      d.UserActivates(d.FindWindowA("Beta"));
+                    },
+                    kWindowNotEnabled},
+        FailureCase{"AnotherUnderTheSameHandle",
+                    [](FakeDesktop& d, WindowHandle w) {
+                      d.Close(w);
+                      d.Open("Gamma", {.reuseHandle = w});
+                    },
+                    kActivationFailed, false}),
+    [](const auto& param) { return param.param.name; });
 
 TEST_F(Activation, UnselectableWindowFails) {
-  WindowTriple window{owner, "Owner", "Korvale.Owner"};
-  EXPECT_EQ(Activate(window), 0);
-}
-
-TEST_F(Activation, WindowOfAnotherClassFailsAndKeepsTheHandle) {
-  WindowTriple window{alpha, "Alpha", "window"};
-  EXPECT_EQ(Activate(window), 0);
-  EXPECT_EQ(window.handle, alpha);
-}
-
-TEST_F(Activation, EmptyClassDoesNotMeanAnyClass) {
-  WindowTriple window{alpha, "Alpha", ""};
-  EXPECT_EQ(Activate(window), 0);
-}
-
-TEST_F(Activation, HiddenWindowIsNotOpen) {
-  desktop.Hide(alpha);
-  WindowTriple window = Triple(alpha);
-  EXPECT_EQ(Activate(window), 2);
-  EXPECT_EQ(window.handle, alpha);
-}
-
-TEST_F(Activation, ReusedHandleFailsAndIsCleared) {
-  desktop.Close(alpha);
-  desktop.Open("Gamma", {.reuseHandle = alpha});
-  WindowTriple window = Triple(alpha);
-  log.Clear();
-  EXPECT_EQ(Activate(window), 0);
-  EXPECT_EQ(window.handle, 0);
-  EXPECT_EQ(window.text, "Alpha");
-  EXPECT_EQ(log.Take(), Calls{});
+  EXPECT_EQ(Activate({owner, "Owner", "Korvale.Owner"}), 0);
 }
 
 TEST_F(Activation, TextMayBeAPartOrASideOfTheTitle) {
@@ -101,37 +118,6 @@ TEST_F(Activation, TextMayBeAPartOrASideOfTheTitle) {
     EXPECT_EQ(Validate(window), 1) << text;
     EXPECT_EQ(window.text, text);
   }
-}
-
-TEST_F(Activation, DisabledWindowIsNotEnabledAndStaysBehind) {
-  desktop.SetEnabled(alpha, false);
-  WindowTriple window = Triple(alpha);
-  EXPECT_EQ(Activate(window), 3);
-  EXPECT_EQ(window.handle, alpha);
-  EXPECT_EQ(log.Take(), Calls{});
-  EXPECT_EQ(desktop.ForegroundTitle(), "Beta");
-}
-
-TEST_F(Activation, WindowBehindAModalDialogIsNotEnabled) {
-  desktop.OpenModalDialog(alpha, "Dialog");
-  desktop.UserActivates(beta);
-  WindowTriple window = Triple(alpha);
-  EXPECT_EQ(Activate(window), 3);
-  EXPECT_EQ(desktop.ForegroundTitle(), "Beta");
-}
-
-TEST_F(Activation, HiddenAndDisabledWindowIsNotOpen) {
-  desktop.SetEnabled(alpha, false);
-  desktop.Hide(alpha);
-  WindowTriple window = Triple(alpha);
-  EXPECT_EQ(Activate(window), 2);
-}
-
-TEST_F(Activation, DisabledWindowWithAnotherTitleFails) {
-  desktop.SetEnabled(alpha, false);
-  WindowTriple window = Triple(alpha, "Gamma");
-  EXPECT_EQ(Activate(window), 0);
-  EXPECT_EQ(window.handle, 0);
 }
 
 TEST_F(Activation, RefusedForegroundFails) {
@@ -146,21 +132,18 @@ TEST_F(Activation, RefusedForegroundFails) {
 TEST_F(Activation, RefusedRestoreFails) {
   desktop.UserMinimizes(alpha);
   log.WhenCalled("ShowWindowAsync(Alpha, SW_RESTORE)", [&] { desktop.Close(alpha); });
-  WindowTriple window = Triple(alpha);
-  EXPECT_EQ(Activate(window), 0);
+  EXPECT_EQ(Activate(Triple(alpha)), 0);
 }
 
 TEST_F(Activation, WindowThatVanishesMeanwhileFails) {
   log.WhenCalled("SetForegroundWindow(Alpha)", [&] { desktop.Close(alpha); });
-  WindowTriple window = Triple(alpha);
-  EXPECT_EQ(Activate(window), 0);
+  EXPECT_EQ(Activate(Triple(alpha)), 0);
 }
 
 TEST_F(Activation, HungWindowIsNotWaitedFor) {
   desktop.UserMinimizes(alpha);
   desktop.SetHung(alpha, true);
-  WindowTriple window = Triple(alpha);
-  EXPECT_EQ(Activate(window), 1);
+  EXPECT_EQ(Activate(Triple(alpha)), 1);
   EXPECT_EQ(log.Take(),
             (Calls{"SetForegroundWindow(Alpha)", "ShowWindowAsync(Alpha, SW_RESTORE)"}));
   EXPECT_EQ(desktop.CallsThatWaited(), 0);

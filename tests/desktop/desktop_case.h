@@ -25,16 +25,10 @@ class DesktopCase : public testing::Test {
   DesktopCase() {
     options.Create();
     desktop.UseClock(clock);
-    NewWindow hidden;
-    hidden.className = "Korvale.Owner";
-    hidden.visible = false;
-    hidden.process = kOurProcess;
-    owner = desktop.Open("Owner", hidden);
-    NewWindow shown;
-    shown.className = "Korvale.frmMain";
-    shown.owner = owner;
-    shown.process = kOurProcess;
-    mainWindow.handle = desktop.Open("Main", shown);
+    owner = desktop.Open("Owner",
+                         {.className = "Korvale.Owner", .visible = false, .process = kOurProcess});
+    mainWindow.handle = desktop.Open(
+        "Main", {.className = "Korvale.frmMain", .owner = owner, .process = kOurProcess});
     mainWindow.caption = "Main";
     mainWindow.onCall = [this](const std::string& call) { log.Add(call); };
     MenuItem& first = tags.mnuWindowParentList.Load(0);

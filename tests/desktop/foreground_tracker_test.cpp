@@ -17,82 +17,71 @@ TEST_F(ForegroundTracking, FirstTickOnlyRemembersTheForeground) {
   EXPECT_TRUE(mainWindow.timer.intervals.empty());
 }
 
-TEST_F(ForegroundTracking, NewForegroundBecomesThePreviousWindow) {
-  WorkIn(alpha);
-  EXPECT_EQ(previous.current, Triple(alpha));
-  EXPECT_EQ(previous.alternate, WindowTriple{});
+class TrackingFromAlphaOn : public ForegroundTracking {
+ protected:
+  TrackingFromAlphaOn() { WorkIn(alpha); }
+};
+
+TEST_F(TrackingFromAlphaOn, NewForegroundBecomesThePreviousWindow) {
+  ExpectRecord(Triple(alpha), WindowTriple{});
   EXPECT_EQ(mainWindow.txtWindow, "Alpha");
   EXPECT_EQ(mainWindow.txtWindowClass, "Notepad");
   EXPECT_TRUE(mainWindow.previousWindowItems);
 }
 
-TEST_F(ForegroundTracking, WindowBeforeBecomesTheAlternate) {
-  WorkIn(alpha);
+TEST_F(TrackingFromAlphaOn, WindowBeforeBecomesTheAlternate) {
   WorkIn(beta);
-  EXPECT_EQ(previous.current, Triple(beta));
-  EXPECT_EQ(previous.alternate, Triple(alpha));
+  ExpectRecord(Triple(beta), Triple(alpha));
   WorkIn(gamma);
-  EXPECT_EQ(previous.current, Triple(gamma));
-  EXPECT_EQ(previous.alternate, Triple(beta));
+  ExpectRecord(Triple(gamma), Triple(beta));
 }
 
-TEST_F(ForegroundTracking, EachChangeSetsTheIntervalTo100) {
-  WorkIn(alpha);
+TEST_F(TrackingFromAlphaOn, EachChangeSetsTheIntervalTo100) {
   tracker.tmrWindow_Timer();
   WorkIn(beta);
   EXPECT_EQ(mainWindow.timer.intervals, (std::vector<std::uint32_t>{100, 100}));
 }
 
-TEST_F(ForegroundTracking, MainWindowDoesNotMoveTheRecord) {
-  WorkIn(alpha);
+TEST_F(TrackingFromAlphaOn, MainWindowDoesNotMoveTheRecord) {
   WorkIn(beta);
   WorkIn(mainWindow.handle);
   EXPECT_EQ(mainWindow.focusTag, kGotFocus);
-  EXPECT_EQ(previous.current, Triple(beta));
-  EXPECT_EQ(previous.alternate, Triple(alpha));
+  ExpectRecord(Triple(beta), Triple(alpha));
   EXPECT_EQ(mainWindow.txtWindow, "Beta");
 }
 
-TEST_F(ForegroundTracking, MainWindowBecomesTheAlternateWhenTheUserLeavesIt) {
-  WorkIn(alpha);
+TEST_F(TrackingFromAlphaOn, MainWindowBecomesTheAlternateWhenTheUserLeavesIt) {
   WorkIn(mainWindow.handle);
   WorkIn(beta);
   EXPECT_EQ(mainWindow.focusTag, "");
-  EXPECT_EQ(previous.current, Triple(beta));
-  EXPECT_EQ(previous.alternate, Triple(mainWindow.handle));
+  ExpectRecord(Triple(beta), Triple(mainWindow.handle));
 }
 
-TEST_F(ForegroundTracking, MainWindowGoesIntoTheRecordUnderItsCaption) {
-  WorkIn(alpha);
+TEST_F(TrackingFromAlphaOn, MainWindowGoesIntoTheRecordUnderItsCaption) {
   WorkIn(mainWindow.handle);
   mainWindow.caption = "Korvale - Work";
   WorkIn(beta);
   EXPECT_EQ(previous.alternate.text, "Korvale - Work");
 }
 
-TEST_F(ForegroundTracking, BackAndForthLeavesTheWindowThePreviousOne) {
-  WorkIn(alpha);
+TEST_F(TrackingFromAlphaOn, BackAndForthLeavesTheWindowThePreviousOne) {
   WorkIn(mainWindow.handle);
   WorkIn(alpha);
-  EXPECT_EQ(previous.current, Triple(alpha));
-  EXPECT_EQ(previous.alternate, Triple(mainWindow.handle));
+  ExpectRecord(Triple(alpha), Triple(mainWindow.handle));
   WorkIn(mainWindow.handle);
   EXPECT_EQ(mainWindow.focusTag, kGotFocus);
   EXPECT_EQ(previous.current, Triple(alpha));
 }
 
-TEST_F(ForegroundTracking, AnotherWindowUnderTheHandleOfTheOldOneIsNotTakenForIt) {
-  WorkIn(alpha);
+TEST_F(TrackingFromAlphaOn, AnotherWindowUnderTheHandleOfTheOldOneIsNotTakenForIt) {
   WorkIn(beta);
   desktop.Close(alpha);
   desktop.Open("Another", {.className = "Another", .activate = false, .reuseHandle = alpha});
   tracker.tmrWindow_Timer();
-  EXPECT_EQ(previous.current, Triple(beta));
-  EXPECT_EQ(previous.alternate, WindowTriple{});
+  ExpectRecord(Triple(beta), WindowTriple{});
 }
 
-TEST_F(ForegroundTracking, LastOtherForegroundIsNeverTheMainWindow) {
-  WorkIn(alpha);
+TEST_F(TrackingFromAlphaOn, LastOtherForegroundIsNeverTheMainWindow) {
   EXPECT_EQ(previous.lastOtherForeground, alpha);
   WorkIn(mainWindow.handle);
   EXPECT_EQ(previous.lastOtherForeground, alpha);
@@ -107,18 +96,15 @@ TEST_F(ForegroundTracking, LastOtherForegroundIsKeptForUnselectableWindowsToo) {
   EXPECT_EQ(previous.current, WindowTriple{});
 }
 
-TEST_F(ForegroundTracking, TaskbarDesktopAndHiddenOwnerNeverBecomeThePreviousWindow) {
-  WorkIn(alpha);
+TEST_F(TrackingFromAlphaOn, TaskbarDesktopAndHiddenOwnerNeverBecomeThePreviousWindow) {
   WorkIn(desktop.FindWindowA("Program Manager"));
   WorkIn(desktop.FindWindowA(""));
   desktop.Reveal(owner);
   WorkIn(owner);
-  EXPECT_EQ(previous.current, Triple(alpha));
-  EXPECT_EQ(previous.alternate, WindowTriple{});
+  ExpectRecord(Triple(alpha), WindowTriple{});
 }
 
-TEST_F(ForegroundTracking, NoForegroundChangesNothing) {
-  WorkIn(alpha);
+TEST_F(TrackingFromAlphaOn, NoForegroundChangesNothing) {
   log.Clear();
   desktop.LoseForeground();
   tracker.tmrWindow_Timer();
@@ -126,18 +112,15 @@ TEST_F(ForegroundTracking, NoForegroundChangesNothing) {
   EXPECT_EQ(log.Take(), Calls{});
 }
 
-TEST_F(ForegroundTracking, HiddenForegroundChangesNothing) {
-  WorkIn(alpha);
+TEST_F(TrackingFromAlphaOn, HiddenForegroundChangesNothing) {
   WorkIn(beta);
   desktop.UserActivates(gamma);
   desktop.Windows().Find(gamma)->visible = false;
   tracker.tmrWindow_Timer();
-  EXPECT_EQ(previous.current, Triple(beta));
-  EXPECT_EQ(previous.alternate, Triple(alpha));
+  ExpectRecord(Triple(beta), Triple(alpha));
 }
 
-TEST_F(ForegroundTracking, SameForegroundChangesNothing) {
-  WorkIn(alpha);
+TEST_F(TrackingFromAlphaOn, SameForegroundChangesNothing) {
   previous.current.text = "untouched";
   tracker.tmrWindow_Timer();
   EXPECT_EQ(previous.current.text, "untouched");

@@ -12,8 +12,7 @@ namespace {
 class PreviousWindowValidation : public ForegroundTracking {
  protected:
   void ExpectNothing() {
-    EXPECT_EQ(previous.current, WindowTriple{});
-    EXPECT_EQ(previous.alternate, WindowTriple{});
+    ExpectRecord(WindowTriple{}, WindowTriple{});
     EXPECT_FALSE(mainWindow.previousWindowItems);
     EXPECT_EQ(mainWindow.txtWindow, "");
     EXPECT_EQ(mainWindow.txtWindowClass, "");
@@ -28,55 +27,51 @@ TEST_F(PreviousWindowValidation, RefreshesTheTitle) {
   EXPECT_EQ(mainWindow.txtWindow, "無題");
 }
 
-TEST_F(PreviousWindowValidation, FallsBackToTheAlternateWhenTheWindowCloses) {
-  WorkIn(alpha);
-  WorkIn(beta);
+/// The user went from Alpha to Beta.
+class ValidationFromBeta : public PreviousWindowValidation {
+ protected:
+  ValidationFromBeta() {
+    WorkIn(alpha);
+    WorkIn(beta);
+  }
+};
+
+TEST_F(ValidationFromBeta, FallsBackToTheAlternateWhenTheWindowCloses) {
   desktop.Close(beta);
   tracker.ValidatePreviousWindow();
-  EXPECT_EQ(previous.current, Triple(alpha));
-  EXPECT_EQ(previous.alternate, WindowTriple{});
+  ExpectRecord(Triple(alpha), WindowTriple{});
   EXPECT_TRUE(mainWindow.previousWindowItems);
   EXPECT_EQ(mainWindow.txtWindow, "Alpha");
 }
 
-TEST_F(PreviousWindowValidation, FallsBackWhenTheWindowIsDisabledOrHidden) {
-  WorkIn(alpha);
-  WorkIn(beta);
+TEST_F(ValidationFromBeta, FallsBackWhenTheWindowIsDisabledOrHidden) {
   WorkIn(gamma);
   desktop.SetEnabled(gamma, false);
   tracker.ValidatePreviousWindow();
-  EXPECT_EQ(previous.current, Triple(beta));
-  EXPECT_EQ(previous.alternate, Triple(alpha));
+  ExpectRecord(Triple(beta), Triple(alpha));
   desktop.Hide(beta);
   tracker.ValidatePreviousWindow();
   EXPECT_EQ(previous.current, Triple(alpha));
 }
 
-TEST_F(PreviousWindowValidation, TakesADisabledWindowBackOnceTheUserIsInItAgain) {
-  WorkIn(alpha);
-  WorkIn(beta);
+TEST_F(ValidationFromBeta, TakesADisabledWindowBackOnceTheUserIsInItAgain) {
   desktop.SetEnabled(beta, false);
   tracker.ValidatePreviousWindow();
   EXPECT_EQ(previous.current, Triple(alpha));
   desktop.SetEnabled(beta, true);
   WorkIn(beta);
-  EXPECT_EQ(previous.current, Triple(beta));
-  EXPECT_EQ(previous.alternate, Triple(alpha));
+  ExpectRecord(Triple(beta), Triple(alpha));
 }
 
-TEST_F(PreviousWindowValidation, KeepsAWindowBehindADialogOfItsOwn) {
-  WorkIn(alpha);
-  WorkIn(beta);
+TEST_F(ValidationFromBeta, KeepsAWindowBehindADialogOfItsOwn) {
   const WindowHandle dialog = desktop.OpenModalDialog(beta, "Save As");
   WorkIn(dialog);
   tracker.ValidatePreviousWindow();
-  EXPECT_EQ(previous.current, Triple(beta));
-  EXPECT_EQ(previous.alternate, Triple(alpha));
+  ExpectRecord(Triple(beta), Triple(alpha));
   EXPECT_TRUE(mainWindow.previousWindowItems);
   desktop.CloseModalDialog(dialog);
   WorkIn(beta);
-  EXPECT_EQ(previous.current, Triple(beta));
-  EXPECT_EQ(previous.alternate, Triple(alpha));
+  ExpectRecord(Triple(beta), Triple(alpha));
 }
 
 TEST_F(PreviousWindowValidation, KeepsAWindowOutOfSightWithItsMinimizedOwner) {
@@ -93,14 +88,11 @@ TEST_F(PreviousWindowValidation, GoesBackBehindTheMainWindow) {
   WorkIn(beta);
   desktop.Close(beta);
   tracker.ValidatePreviousWindow();
-  EXPECT_EQ(previous.current, Triple(alpha));
-  EXPECT_EQ(previous.alternate, Triple(mainWindow.handle));
+  ExpectRecord(Triple(alpha), Triple(mainWindow.handle));
   EXPECT_TRUE(mainWindow.previousWindowItems);
 }
 
-TEST_F(PreviousWindowValidation, EndsInNothingWhenTheAlternateIsGoneToo) {
-  WorkIn(alpha);
-  WorkIn(beta);
+TEST_F(ValidationFromBeta, EndsInNothingWhenTheAlternateIsGoneToo) {
   desktop.Close(alpha);
   desktop.Close(beta);
   tracker.ValidatePreviousWindow();
@@ -112,9 +104,7 @@ TEST_F(PreviousWindowValidation, EndsInNothingWithoutARecord) {
   ExpectNothing();
 }
 
-TEST_F(PreviousWindowValidation, NeverChangesAWindow) {
-  WorkIn(alpha);
-  WorkIn(beta);
+TEST_F(ValidationFromBeta, NeverChangesAWindow) {
   desktop.UserMinimizes(alpha);
   desktop.UserMinimizes(beta);
   log.Clear();
@@ -127,9 +117,7 @@ TEST_F(PreviousWindowValidation, NeverChangesAWindow) {
             (Calls{"EnablePreviousWindowItems(true)", "ShowTargetWindow(\"Alpha\", \"Notepad\")"}));
 }
 
-TEST_F(PreviousWindowValidation, NeverShowsAMessage) {
-  WorkIn(alpha);
-  WorkIn(beta);
+TEST_F(ValidationFromBeta, NeverShowsAMessage) {
   desktop.SetEnabled(alpha, false);
   desktop.SetEnabled(beta, false);
   tracker.ValidatePreviousWindow();

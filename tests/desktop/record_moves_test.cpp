@@ -12,16 +12,14 @@ class RecordMoves : public ForegroundTracking {};
 TEST_F(RecordMoves, WindowBeforeBecomesTheAlternate) {
   WorkIn(alpha);
   tracker.Follow(Triple(beta));
-  EXPECT_EQ(previous.current, Triple(beta));
-  EXPECT_EQ(previous.alternate, Triple(alpha));
+  ExpectRecord(Triple(beta), Triple(alpha));
 }
 
 TEST_F(RecordMoves, MainWindowBecomesTheAlternateWhileItIsInFront) {
   WorkIn(alpha);
   WorkIn(mainWindow.handle);
   tracker.Follow(Triple(beta));
-  EXPECT_EQ(previous.current, Triple(beta));
-  EXPECT_EQ(previous.alternate, Triple(mainWindow.handle));
+  ExpectRecord(Triple(beta), Triple(mainWindow.handle));
   EXPECT_EQ(mainWindow.focusTag, "");
 }
 
@@ -29,8 +27,7 @@ TEST_F(RecordMoves, AlternateItselfMayBecomeTheCurrentOne) {
   WorkIn(alpha);
   WorkIn(beta);
   tracker.Follow(previous.alternate);
-  EXPECT_EQ(previous.current, Triple(alpha));
-  EXPECT_EQ(previous.alternate, Triple(beta));
+  ExpectRecord(Triple(alpha), Triple(beta));
 }
 
 class RecordMovedBySelection : public ForegroundTracking {
@@ -44,16 +41,18 @@ class RecordMovedBySelection : public ForegroundTracking {
   void SelectLate(WindowHandle hwnd) { tracker.RecordSelection(Triple(hwnd)); }
 };
 
-TEST_F(RecordMovedBySelection, IsNotMovedOnceMoreByTheTick) {
-  WorkIn(alpha);
+class RecordMovedFromAlpha : public RecordMovedBySelection {
+ protected:
+  RecordMovedFromAlpha() { WorkIn(alpha); }
+};
+
+TEST_F(RecordMovedFromAlpha, IsNotMovedOnceMoreByTheTick) {
   Select(beta);
   tracker.tmrWindow_Timer();
-  EXPECT_EQ(previous.current, Triple(beta));
-  EXPECT_EQ(previous.alternate, Triple(alpha));
+  ExpectRecord(Triple(beta), Triple(alpha));
 }
 
-TEST_F(RecordMovedBySelection, FromTheMainWindowKeepsItAsTheAlternate) {
-  WorkIn(alpha);
+TEST_F(RecordMovedFromAlpha, FromTheMainWindowKeepsItAsTheAlternate) {
   WorkIn(mainWindow.handle);
   Select(beta);
   tracker.tmrWindow_Timer();
@@ -66,12 +65,10 @@ TEST_F(RecordMovedBySelection, HasItsMarkRefreshed) {
   EXPECT_TRUE(mainWindow.previousAlwaysOnTop);
 }
 
-TEST_F(RecordMovedBySelection, IsMovedByTheTickWhenAnotherWindowCameToTheFront) {
-  WorkIn(alpha);
+TEST_F(RecordMovedFromAlpha, IsMovedByTheTickWhenAnotherWindowCameToTheFront) {
   Select(beta);
   WorkIn(gamma);
-  EXPECT_EQ(previous.current, Triple(gamma));
-  EXPECT_EQ(previous.alternate, Triple(beta));
+  ExpectRecord(Triple(gamma), Triple(beta));
   EXPECT_FALSE(previous.menuSelection);
 }
 
@@ -80,12 +77,10 @@ TEST_F(RecordMovedBySelection, IsMovedByTheNextChangeAfterIt) {
   tracker.tmrWindow_Timer();
   WorkIn(beta);
   WorkIn(alpha);
-  EXPECT_EQ(previous.current, Triple(alpha));
-  EXPECT_EQ(previous.alternate, Triple(beta));
+  ExpectRecord(Triple(alpha), Triple(beta));
 }
 
-TEST_F(RecordMovedBySelection, LetsTheUserLeaveTheMainWindowForTheSelectedOne) {
-  WorkIn(alpha);
+TEST_F(RecordMovedFromAlpha, LetsTheUserLeaveTheMainWindowForTheSelectedOne) {
   desktop.UserActivates(beta);
   Select(alpha);
   tracker.tmrWindow_Timer();
@@ -95,36 +90,29 @@ TEST_F(RecordMovedBySelection, LetsTheUserLeaveTheMainWindowForTheSelectedOne) {
   EXPECT_EQ(previous.alternate, Triple(mainWindow.handle));
 }
 
-TEST_F(RecordMovedBySelection, IsMovedBackWhenTheUserReturnedBeforeTheTick) {
-  WorkIn(alpha);
+TEST_F(RecordMovedFromAlpha, IsMovedBackWhenTheUserReturnedBeforeTheTick) {
   Select(beta);
   WorkIn(alpha);
-  EXPECT_EQ(previous.current, Triple(alpha));
-  EXPECT_EQ(previous.alternate, Triple(beta));
+  ExpectRecord(Triple(alpha), Triple(beta));
 }
 
-TEST_F(RecordMovedBySelection, IsNotMovedBackByATickBeforeTheWindowHasComeForward) {
-  WorkIn(alpha);
+TEST_F(RecordMovedFromAlpha, IsNotMovedBackByATickBeforeTheWindowHasComeForward) {
   SelectLate(beta);
   tracker.LookAtForeground();
   tracker.tmrWindow_Timer();
-  EXPECT_EQ(previous.current, Triple(beta));
-  EXPECT_EQ(previous.alternate, Triple(alpha));
+  ExpectRecord(Triple(beta), Triple(alpha));
   WorkIn(beta);
-  EXPECT_EQ(previous.current, Triple(beta));
-  EXPECT_EQ(previous.alternate, Triple(alpha));
+  ExpectRecord(Triple(beta), Triple(alpha));
 }
 
-TEST_F(RecordMovedBySelection, IsMovedBackWhenTheWindowNeverComesForward) {
-  WorkIn(alpha);
+TEST_F(RecordMovedFromAlpha, IsMovedBackWhenTheWindowNeverComesForward) {
   SelectLate(beta);
   tracker.tmrWindow_Timer();
   tracker.tmrWindow_Timer();
   EXPECT_EQ(previous.current, Triple(alpha));
 }
 
-TEST_F(RecordMovedBySelection, ToTheMainWindowCountsAsItsFocusAtOnce) {
-  WorkIn(alpha);
+TEST_F(RecordMovedFromAlpha, ToTheMainWindowCountsAsItsFocusAtOnce) {
   WorkIn(mainWindow.handle);
   WorkIn(beta);
   Select(mainWindow.handle);
@@ -132,43 +120,37 @@ TEST_F(RecordMovedBySelection, ToTheMainWindowCountsAsItsFocusAtOnce) {
   EXPECT_EQ(previous.current, Triple(beta));
 }
 
-TEST_F(RecordMovedBySelection, OfTheCurrentWindowChangesNothing) {
-  WorkIn(alpha);
+TEST_F(RecordMovedFromAlpha, OfTheCurrentWindowChangesNothing) {
   WorkIn(beta);
   Select(beta);
-  EXPECT_EQ(previous.current, Triple(beta));
-  EXPECT_EQ(previous.alternate, Triple(alpha));
+  ExpectRecord(Triple(beta), Triple(alpha));
 }
 
 /// The windows worked in that lie behind those of the record.
 class WindowsWorkedInBefore : public ForegroundTracking {
  protected:
+  WindowsWorkedInBefore() {
+    WorkIn(alpha);
+    WorkIn(beta);
+  }
   WindowTriple OfTagZero() { return previous.OfTagZero(mainWindow.focusTag == kGotFocus); }
 };
 
 TEST_F(WindowsWorkedInBefore, TakeThePlaceOfAClosedOne) {
-  WorkIn(alpha);
-  WorkIn(beta);
   WorkIn(gamma);
   desktop.Close(gamma);
   WorkIn(beta);
-  EXPECT_EQ(previous.current, Triple(beta));
-  EXPECT_EQ(previous.alternate, Triple(alpha));
+  ExpectRecord(Triple(beta), Triple(alpha));
 }
 
 TEST_F(WindowsWorkedInBefore, AreMissedByNoneThatClosesBehindTheScenes) {
-  WorkIn(alpha);
-  WorkIn(beta);
   WorkIn(gamma);
   desktop.Close(beta);
   tracker.tmrWindow_Timer();
-  EXPECT_EQ(previous.current, Triple(gamma));
-  EXPECT_EQ(previous.alternate, Triple(alpha));
+  ExpectRecord(Triple(gamma), Triple(alpha));
 }
 
 TEST_F(WindowsWorkedInBefore, AreOneKeyAwayFromTheDesktopAfterTheWindowInFrontClosed) {
-  WorkIn(alpha);
-  WorkIn(beta);
   WorkIn(gamma);
   desktop.Close(gamma);
   WorkIn(desktop.FindWindowA("Program Manager"));
@@ -177,15 +159,11 @@ TEST_F(WindowsWorkedInBefore, AreOneKeyAwayFromTheDesktopAfterTheWindowInFrontCl
 }
 
 TEST_F(WindowsWorkedInBefore, CountFromTheRecordedWindowWhileAnotherKindIsInFront) {
-  WorkIn(alpha);
-  WorkIn(beta);
   WorkIn(desktop.FindWindowA("Program Manager"));
   EXPECT_EQ(OfTagZero().handle, alpha);
 }
 
 TEST_F(WindowsWorkedInBefore, AreShownAtOnceWhenThePreviousWindowCloses) {
-  WorkIn(alpha);
-  WorkIn(beta);
   WorkIn(mainWindow.handle);
   desktop.Close(beta);
   tracker.tmrWindow_Timer();
@@ -195,18 +173,14 @@ TEST_F(WindowsWorkedInBefore, AreShownAtOnceWhenThePreviousWindowCloses) {
 TEST_F(WindowsWorkedInBefore, HoldNoneTwice) {
   WorkIn(alpha);
   WorkIn(beta);
-  WorkIn(alpha);
-  WorkIn(beta);
   desktop.Close(beta);
   tracker.ValidatePreviousWindow();
-  EXPECT_EQ(previous.current, Triple(alpha));
-  EXPECT_EQ(previous.alternate, WindowTriple{});
+  ExpectRecord(Triple(alpha), WindowTriple{});
 }
 
 class WindowMenuPoppedUp : public ForegroundTracking {
  protected:
-  void SetUp() override {
-    ForegroundTracking::SetUp();
+  WindowMenuPoppedUp() {
     WorkIn(alpha);
     WorkIn(beta);
     desktop.UserActivates(mainWindow.handle);

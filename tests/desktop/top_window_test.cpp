@@ -9,6 +9,7 @@
 #include "platform/run_time_error.h"
 #include "platform/win32_constants.h"
 #include "tests/desktop/desktop_case.h"
+#include "tests/fakes/error_of.h"
 
 namespace korvale {
 namespace {
@@ -79,12 +80,7 @@ TEST_F(TopWindow, CounterOverflowsInsteadOfWidening) {
   crowded.Open("Alpha");
   const WindowFilter crowdedFilter(crowded, options, forms, mainWindow);
   WindowEnumeration counting(crowded, routines.requests, crowdedFilter, mainWindow, passes);
-  try {
-    counting.FindTopWindow();
-    ADD_FAILURE() << "no overflow";
-  } catch (const RunTimeError& error) {
-    EXPECT_EQ(error.Number(), RunTimeError::kOverflow);
-  }
+  EXPECT_EQ(ErrorOf([&] { counting.FindTopWindow(); }), RunTimeError::kOverflow);
 }
 
 TEST_F(TopWindow, ReadsInItsOrder) {

@@ -8,11 +8,8 @@ namespace korvale {
 /// the main window in front.
 class ForegroundTracking : public DesktopCase {
  protected:
-  void SetUp() override {
+  ForegroundTracking() {
     desktop.OpenShell();
-    alpha = desktop.Open("Alpha", {.className = "Notepad"});
-    beta = desktop.Open("Beta", {.className = "WordPad"});
-    gamma = desktop.Open("Gamma");
     desktop.UserActivates(mainWindow.handle);
     tracker.tmrWindow_Timer();
     log.Clear();
@@ -24,13 +21,18 @@ class ForegroundTracking : public DesktopCase {
     tracker.tmrWindow_Timer();
   }
 
+  void ExpectRecord(const WindowTriple& current, const WindowTriple& alternate) {
+    EXPECT_EQ(previous.current, current);
+    EXPECT_EQ(previous.alternate, alternate);
+  }
+
   WindowTriple Triple(WindowHandle hwnd) {
     return {hwnd, desktop.Title(hwnd), desktop.Windows().Find(hwnd)->className};
   }
 
-  WindowHandle alpha = 0;
-  WindowHandle beta = 0;
-  WindowHandle gamma = 0;
+  const WindowHandle alpha = desktop.Open("Alpha", {.className = "Notepad"});
+  const WindowHandle beta = desktop.Open("Beta", {.className = "WordPad"});
+  const WindowHandle gamma = desktop.Open("Gamma");
 };
 
 }  // namespace korvale

@@ -17,9 +17,7 @@ constexpr const char* kMaximize = "HOTKEY_RESTORE/MAXIMIZE_PARENT";
 
 class ForegroundKeys : public DesktopCase {
  protected:
-  void SetUp() override {
-    beta = desktop.Open("Beta");
-    alpha = desktop.Open("Alpha");
+  ForegroundKeys() {
     previous.current = {alpha, "Alpha", "Window"};
     previous.alternate = {beta, "Beta", "Window"};
     log.Clear();
@@ -35,10 +33,8 @@ class ForegroundKeys : public DesktopCase {
     return {calls.begin() + 1, calls.end() - 1};
   }
 
-  void WithoutStyle(std::int32_t bit) { desktop.Windows().Find(alpha)->style &= ~bit; }
-
-  WindowHandle alpha = 0;
-  WindowHandle beta = 0;
+  const WindowHandle beta = desktop.Open("Beta");
+  const WindowHandle alpha = desktop.Open("Alpha");
 };
 
 TEST_F(ForegroundKeys, MinimizeKeyBringsTheAlternateForward) {
@@ -67,42 +63,9 @@ TEST_F(ForegroundKeys, MinimizeKeyTakesTheMinimizableOwner) {
 }
 
 TEST_F(ForegroundKeys, MinimizeKeyTakesTheWindowWhenItsOwnerHasNoMinimizeBox) {
-  WithoutStyle(win32::kWsMinimizeBox);
+  desktop.Windows().Find(alpha)->style &= ~win32::kWsMinimizeBox;
   desktop.Open("Owned", {.owner = alpha});
   EXPECT_EQ(Press(kMinimize).front(), "ShowWindowAsync(Owned, SW_MINIMIZE)");
-}
-
-TEST_F(ForegroundKeys, MinimizeKeyLeavesAWindowWithoutMinimizeBoxAndAllOthersAlone) {
-  WithoutStyle(win32::kWsMinimizeBox);
-  EXPECT_EQ(Press(kMinimize), Calls{});
-  EXPECT_EQ(desktop.ForegroundTitle(), "Alpha");
-}
-
-TEST_F(ForegroundKeys, MinimizeKeyLeavesADisabledWindowAlone) {
-  desktop.SetEnabled(alpha, false);
-  EXPECT_EQ(Press(kMinimize), Calls{});
-  EXPECT_EQ(desktop.ForegroundTitle(), "Alpha");
-}
-
-TEST_F(ForegroundKeys, MinimizeKeyLeavesAMinimizedWindowAlone) {
-  desktop.Windows().Find(alpha)->iconic = true;
-  EXPECT_EQ(Press(kMinimize), Calls{});
-}
-
-TEST_F(ForegroundKeys, MinimizeKeyBringsNothingForwardThatIsHidden) {
-  desktop.Hide(beta);
-  EXPECT_EQ(Press(kMinimize), Calls{"ShowWindowAsync(Alpha, SW_MINIMIZE)"});
-}
-
-TEST_F(ForegroundKeys, MinimizeKeyBringsNothingForwardThatIsMinimized) {
-  desktop.UserMinimizes(beta);
-  EXPECT_EQ(Press(kMinimize), Calls{"ShowWindowAsync(Alpha, SW_MINIMIZE)"});
-  EXPECT_TRUE(desktop.IsIconic(beta));
-}
-
-TEST_F(ForegroundKeys, MinimizeKeyWithoutAnAlternateOnlyMinimizes) {
-  previous.alternate = {};
-  EXPECT_EQ(Press(kMinimize), Calls{"ShowWindowAsync(Alpha, SW_MINIMIZE)"});
 }
 
 TEST_F(ForegroundKeys, MinimizeKeyShowsNoMessageWhenTheAlternateCannotCome) {
@@ -126,30 +89,61 @@ TEST_F(ForegroundKeys, MaximizeKeyTogglesBetweenMaximizedAndRestored) {
   EXPECT_EQ(Press(kMaximize), Calls{"ShowWindowAsync(Alpha, SW_MAXIMIZE)"});
 }
 
-TEST_F(ForegroundKeys, MaximizeKeyLeavesAWindowWithoutMaximizeBoxAlone) {
-  WithoutStyle(win32::kWsMaximizeBox);
-  EXPECT_EQ(Press(kMaximize), Calls{});
-}
-
-TEST_F(ForegroundKeys, MaximizeKeyNeedsNoMinimizeBox) {
-  WithoutStyle(win32::kWsMinimizeBox);
-  EXPECT_EQ(Press(kMaximize), Calls{"ShowWindowAsync(Alpha, SW_MAXIMIZE)"});
-}
-
-TEST_F(ForegroundKeys, MaximizeKeyLeavesAMinimizedWindowAlone) {
-  desktop.Windows().Find(alpha)->iconic = true;
-  EXPECT_EQ(Press(kMaximize), Calls{});
-}
-
-TEST_F(ForegroundKeys, MaximizeKeyLeavesADisabledWindowAlone) {
-  desktop.SetEnabled(alpha, false);
-  EXPECT_EQ(Press(kMaximize), Calls{});
-}
-
 TEST_F(ForegroundKeys, MaximizeKeyDoesNotWaitForAHungWindow) {
   desktop.SetHung(alpha, true);
   EXPECT_EQ(Press(kMaximize), Calls{"ShowWindowAsync(Alpha, SW_MAXIMIZE)"});
   EXPECT_EQ(desktop.CallsThatWaited(), 0);
+}
+
+struct KeyCase {
+  const char* name;
+  /// What is special about Alpha, in front, or about Beta, the alternate.
+  void (*prepare)(FakeWindow& alpha, FakeWindow& beta);
+  Calls minimizing;
+  Calls maximizing;
+};
+
+void PrintTo(const KeyCase& keyCase, std::ostream* out) { *out << keyCase.name; }
+
+class KeyOnAWindow : public ForegroundKeys, public testing::WithParamInterface<KeyCase> {
+ protected:
+  KeyOnAWindow() {
+    GetParam().prepare(*desktop.Windows().Find(alpha), *desktop.Windows().Find(beta));
+  }
+};
+
+TEST_P(KeyOnAWindow, MinimizesWhatItMayAndBringsForwardWhatCanCome) {
+  EXPECT_EQ(Press(kMinimize), GetParam().minimizing);
+  EXPECT_TRUE(!GetParam().minimizing.empty() || desktop.ForegroundTitle() == "Alpha");
+}
+
+TEST_P(KeyOnAWindow, MaximizesWhatItMay) { EXPECT_EQ(Press(kMaximize), GetParam().maximizing); }
+
+const Calls kMinimized = {"ShowWindowAsync(Alpha, SW_MINIMIZE)"};
+const Calls kMaximized = {"ShowWindowAsync(Alpha, SW_MAXIMIZE)"};
+
+INSTANTIATE_TEST_SUITE_P(
+    Windows, KeyOnAWindow,
+    testing::Values(
+        KeyCase{"WithoutMinimizeBox",
+                [](FakeWindow& alpha, FakeWindow&) { alpha.style &= ~win32::kWsMinimizeBox; },
+                {},
+                kMaximized},
+        KeyCase{"WithoutMaximizeBox",
+                [](FakeWindow& alpha, FakeWindow&) { alpha.style &= ~win32::kWsMaximizeBox; },
+                kMinimized,
+                {}},
+        KeyCase{"Disabled", [](FakeWindow& alpha, FakeWindow&) { alpha.enabled = false; }, {}, {}},
+        KeyCase{"Minimized", [](FakeWindow& alpha, FakeWindow&) { alpha.iconic = true; }, {}, {}},
+        KeyCase{"AlternateHidden", [](FakeWindow&, FakeWindow& beta) { beta.visible = false; },
+                kMinimized, kMaximized},
+        KeyCase{"AlternateMinimized", [](FakeWindow&, FakeWindow& beta) { beta.iconic = true; },
+                kMinimized, kMaximized}),
+    [](const auto& param) { return param.param.name; });
+
+TEST_F(ForegroundKeys, MinimizeKeyWithoutAnAlternateOnlyMinimizes) {
+  previous.alternate = {};
+  EXPECT_EQ(Press(kMinimize), kMinimized);
 }
 
 TEST_F(ForegroundKeys, NothingHappensWithoutAForegroundWindow) {

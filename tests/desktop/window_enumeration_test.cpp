@@ -7,6 +7,7 @@
 
 #include "platform/run_time_error.h"
 #include "tests/desktop/desktop_case.h"
+#include "tests/fakes/error_of.h"
 
 namespace korvale {
 namespace {
@@ -55,13 +56,8 @@ TEST_F(WindowEnumerationTest, VisitsTheWindowsFromTheTop) {
 TEST_F(WindowEnumerationTest, NestedEnumerationsAreAnError) {
   desktop.Open("Alpha");
   std::int16_t number = 0;
-  log.WhenCalled("GetClassNameA", [&] {
-    try {
-      enumeration.FindByTitle("Alpha");
-    } catch (const RunTimeError& error) {
-      number = error.Number();
-    }
-  });
+  log.WhenCalled("GetClassNameA",
+                 [&] { number = ErrorOf([&] { enumeration.FindByTitle("Alpha"); }); });
   enumeration.EnumWindows(0);
   EXPECT_EQ(number, RunTimeError::kInvalidCall);
 }
