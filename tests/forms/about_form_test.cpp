@@ -29,8 +29,12 @@ class AboutTest : public DialogTest {
   frmMsgBox2 about_{forms_, clock_, identity_};
 };
 
-TEST_F(AboutTest, ShowsNameVersionAndLegalNotice) {
-  ShowAbout();
+class ShownAboutTest : public AboutTest {
+ protected:
+  ShownAboutTest() { ShowAbout(); }
+};
+
+TEST_F(ShownAboutTest, ShowsNameVersionAndLegalNotice) {
   EXPECT_EQ(user_.Title(about_.Handle()), "About Korvale");
   EXPECT_EQ(Text(about_, "lblProduct"), "Korvale 1.00.0000");
   EXPECT_EQ(Text(about_, "lblCopyright"), "(C) the developers");
@@ -50,22 +54,19 @@ TEST_F(AboutTest, TheLinkCanBeReadWhenTheSchemeChangesWhileItIsOpen) {
   EXPECT_EQ(Look(about_, "lblWebSite").foreColor, kButtonTextColor);
 }
 
-TEST_F(AboutTest, StandsOverTheMainWindowWithoutBlockingIt) {
-  ShowAbout();
+TEST_F(ShownAboutTest, StandsOverTheMainWindowWithoutBlockingIt) {
   EXPECT_EQ(user_.Place(about_.Handle()).left, 6000 + (6000 - 5580) / 2);
   EXPECT_TRUE(user_.IsEnabled(main_.Handle()));
   EXPECT_FALSE(suspension_.Active());
   EXPECT_EQ(desktop_.ForegroundTitle(), "About Korvale");
 }
 
-TEST_F(AboutTest, ClosesByItsButton) {
-  ShowAbout();
+TEST_F(ShownAboutTest, ClosesByItsButton) {
   Click(about_, "cmdOK");
   EXPECT_TRUE(ClosedNow());
 }
 
-TEST_F(AboutTest, ClosesByEnterEscAltF4AndTheCloseBox) {
-  ShowAbout();
+TEST_F(ShownAboutTest, ClosesByEnterEscAltF4AndTheCloseBox) {
   Press(about_, win32::kVkReturn);
   EXPECT_TRUE(ClosedNow());
   ShowAbout();
@@ -79,30 +80,26 @@ TEST_F(AboutTest, ClosesByEnterEscAltF4AndTheCloseBox) {
   EXPECT_TRUE(ClosedNow());
 }
 
-TEST_F(AboutTest, EscDoesNothingWithoutTheTimer) {
-  ShowAbout();
+TEST_F(ShownAboutTest, EscDoesNothingWithoutTheTimer) {
   about_.Find("tmrUnload").SetEnabled(false);
   Press(about_, win32::kVkEscape);
   EXPECT_TRUE(about_.IsLoaded());
 }
 
-TEST_F(AboutTest, StaysForOtherKeys) {
-  ShowAbout();
+TEST_F(ShownAboutTest, StaysForOtherKeys) {
   Press(about_, win32::kVkF4);
   Press(about_, 'X');
   EXPECT_TRUE(about_.IsLoaded());
 }
 
-TEST_F(AboutTest, ClosesByItself) {
-  ShowAbout();
+TEST_F(ShownAboutTest, ClosesByItself) {
   user_.LetPass(14999);
   EXPECT_TRUE(about_.IsLoaded());
   user_.LetPass(1);
   EXPECT_TRUE(ClosedNow());
 }
 
-TEST_F(AboutTest, IsClosedByOthers) {
-  ShowAbout();
+TEST_F(ShownAboutTest, IsClosedByOthers) {
   about_.CloseAbout();
   EXPECT_TRUE(ClosedNow());
 }
@@ -112,8 +109,7 @@ TEST_F(AboutTest, NotesNoClosingWhileItIsNotOpen) {
   EXPECT_EQ(about_.AboutClosed(), std::nullopt);
 }
 
-TEST_F(AboutTest, StaysAnewWhenItIsAskedForAgain) {
-  ShowAbout();
+TEST_F(ShownAboutTest, StaysAnewWhenItIsAskedForAgain) {
   user_.LetPass(10000);
   desktop_.Open("Editor");
   ShowAbout();
@@ -122,10 +118,7 @@ TEST_F(AboutTest, StaysAnewWhenItIsAskedForAgain) {
   EXPECT_TRUE(about_.IsLoaded());
 }
 
-TEST_F(AboutTest, ShowsNoAddressWithoutOne) {
-  ShowAbout();
-  EXPECT_FALSE(Shown(about_, "lblWebSite"));
-}
+TEST_F(ShownAboutTest, ShowsNoAddressWithoutOne) { EXPECT_FALSE(Shown(about_, "lblWebSite")); }
 
 TEST_F(AboutTest, OpensTheWebSiteByAClick) {
   int opened = 0;

@@ -15,23 +15,17 @@ TEST_F(FormDisplayTest, ReturnsTheTagThatTheFormHasWhenItCloses) {
 
 TEST_F(FormDisplayTest, SuspendsTheHotKeysOnlyWhileTheFormIsShown) {
   bool suspended = false;
-  host_.WhenModal("frmDialog", [&](Form& form) {
-    suspended = suspension_.DialogShown;
-    form.Unload();
-  });
-  ShowDialogModal();
+  WhileShown([&](Form& /*form*/) { suspended = suspension_.DialogShown; });
   EXPECT_TRUE(suspended);
   EXPECT_FALSE(suspension_.DialogShown);
 }
 
 TEST_F(FormDisplayTest, KeepsTheHotKeysSuspendedWhenANestedFormCloses) {
-  host_.WhenModal("frmDialog", [&](Form& form) {
+  WhileShown([&](Form& form) {
     host_.WhenModal("frmSecond", [](Form& second) { second.Unload(); });
     display_.ShowFormModal(second_, {}, 1000, {}, &form);
     EXPECT_TRUE(suspension_.DialogShown);
-    form.Unload();
   });
-  ShowDialogModal();
   EXPECT_FALSE(suspension_.DialogShown);
 }
 
@@ -44,11 +38,7 @@ TEST_F(FormDisplayTest, EndsTheSuspensionWhenAnErrorLeavesTheMessageLoop) {
 TEST_F(FormDisplayTest, DisablesTheOtherFormsMeanwhile) {
   owner_.Show();
   bool enabled = true;
-  host_.WhenModal("frmDialog", [&](Form& form) {
-    enabled = user_.IsEnabled(owner_.Handle());
-    form.Unload();
-  });
-  ShowDialogModal();
+  WhileShown([&](Form& /*form*/) { enabled = user_.IsEnabled(owner_.Handle()); });
   EXPECT_FALSE(enabled);
   EXPECT_TRUE(user_.IsEnabled(owner_.Handle()));
 }
@@ -61,12 +51,10 @@ TEST_F(FormDisplayTest, DoesNotLoadAFormAgainThatClosedWhenItWasActivated) {
 }
 
 TEST_F(FormDisplayTest, ShowsAFormModallyOnlyOnceAtATime) {
-  host_.WhenModal("frmDialog", [&](Form& form) {
+  WhileShown([&](Form& form) {
     EXPECT_EQ(ShowDialogModal(), "");
     EXPECT_TRUE(form.Visible());
-    form.Unload();
   });
-  ShowDialogModal();
   EXPECT_FALSE(dialog_.IsLoaded());
 }
 
@@ -88,11 +76,7 @@ TEST_F(FormDisplayTest, LeavesTheOrderOfTheWindowsAloneOtherwise) {
 TEST_F(FormDisplayTest, MakesTheFormTheForegroundWindow) {
   desktop_.Open("Editor");
   std::string front;
-  host_.WhenModal("frmDialog", [&](Form& form) {
-    front = desktop_.ForegroundTitle();
-    form.Unload();
-  });
-  ShowDialogModal();
+  WhileShown([&](Form& /*form*/) { front = desktop_.ForegroundTitle(); });
   EXPECT_EQ(front, "Dialog");
   EXPECT_EQ(log_.CallsOf("SetForegroundWindow(frmDialog").size(), 1U);
 }
@@ -128,23 +112,15 @@ TEST_F(FormDisplayTest, LeavesTheForegroundToTheProgramThatTheUserWentTo) {
   desktop_.Open("Editor");
   const WindowHandle mail = desktop_.Open("Mail");
   desktop_.UserActivates(owner_.Handle());
-  host_.WhenModal("frmDialog", [&](Form& form) {
-    desktop_.UserActivates(mail);
-    form.Unload();
-  });
-  ShowDialogModal();
+  WhileShown([&](Form& /*form*/) { desktop_.UserActivates(mail); });
   EXPECT_EQ(desktop_.Windows().Foreground(), mail);
 }
 
 TEST_F(FormDisplayTest, GivesNoForegroundToAWindowThatIsGone) {
   owner_.Show();
   const WindowHandle editor = desktop_.Open("Editor");
-  host_.WhenModal("frmDialog", [&](Form& form) {
-    desktop_.Close(editor);
-    form.Unload();
-  });
   log_.Clear();
-  ShowDialogModal();
+  WhileShown([&](Form& /*form*/) { desktop_.Close(editor); });
   EXPECT_EQ(desktop_.ForegroundTitle(), "Owner");
   EXPECT_EQ(log_.CallsOf("SetForegroundWindow(").size(), 1U);
 }

@@ -50,6 +50,14 @@ class FormDisplayTest : public DialogTest {
                               const DisplaySwitches& switches = {}) {
     return display_.ShowFormModal(dialog_, switches, 1000, hints, owner);
   }
+  /// Shows the dialog modally; the user closes it after this.
+  void WhileShown(const std::function<void(Form&)>& action) {
+    host_.WhenModal("frmDialog", [&](Form& form) {
+      action(form);
+      form.Unload();
+    });
+    ShowDialogModal();
+  }
   /// Shows the dialog modally and returns where it was.
   TwipsRect PlaceWhenShown(const PlaceHints& hints = {}, Form* owner = nullptr,
                            const DisplaySwitches& switches = {}) {

@@ -19,8 +19,12 @@ TEST_F(AddWindowTest, AltPTogglesTheSelectionOfTheTitle) {
   EXPECT_EQ(TitleSelection().length, 6);
 }
 
-TEST_F(AddWindowTest, AltPSelectsTheWholeTitleWhenAPartIsSelected) {
-  OpenDialogFor("Notes");
+class AddNotesTest : public AddWindowTest {
+ protected:
+  AddNotesTest() { OpenDialogFor("Notes"); }
+};
+
+TEST_F(AddNotesTest, AltPSelectsTheWholeTitleWhenAPartIsSelected) {
   dialog_.Find("txtWindow").SetFocus();
   dialog_.Find("txtWindow").SetSelection({1, 2});
   Press(dialog_, 'P', kAlt);
@@ -28,8 +32,7 @@ TEST_F(AddWindowTest, AltPSelectsTheWholeTitleWhenAPartIsSelected) {
   EXPECT_EQ(TitleSelection().length, 5);
 }
 
-TEST_F(AddWindowTest, LeavesOtherModifiersThanAltAlone) {
-  OpenDialogFor("Notes");
+TEST_F(AddNotesTest, LeavesOtherModifiersThanAltAlone) {
   Press(dialog_, 'P', kAlt | kCtrl);
   EXPECT_EQ(Focus(dialog_), "cboWindow");
 }
@@ -113,14 +116,12 @@ TEST_F(AddWindowTest, EscInTheOpenListBringsTheFormerTagBack) {
   EXPECT_FALSE(dialog_.IsLoaded());
 }
 
-TEST_F(AddWindowTest, FindsRoomForTheWidenedList) {
-  OpenDialogFor("Notes");
+TEST_F(AddNotesTest, FindsRoomForTheWidenedList) {
   const TwipsRect list = user_.Place(dialog_.Handle(), Id(dialog_, "cboWindow"));
   EXPECT_LT(list.left + 4785, user_.Place(dialog_.Handle(), Id(dialog_, "cmdRemove")).left);
 }
 
-TEST_F(AddWindowTest, LooksAsTheWindowMenuOpensIt) {
-  OpenDialogFor("Notes");
+TEST_F(AddNotesTest, LooksAsTheWindowMenuOpensIt) {
   EXPECT_EQ(user_.Title(dialog_.Handle()), "Korvale - Add Window");
   EXPECT_EQ(dialog_.Place().height, 3465);
   EXPECT_EQ(user_.Place(dialog_.Handle(), Id(dialog_, "cmdOK")).top, 2700);
@@ -136,8 +137,7 @@ TEST_F(AddWindowTest, LooksAsTheWindowMenuOpensIt) {
   }
 }
 
-TEST_F(AddWindowTest, HasTheCaptionsOfItsButtonsAndLabels) {
-  OpenDialogFor("Notes");
+TEST_F(AddNotesTest, HasTheCaptionsOfItsButtonsAndLabels) {
   EXPECT_EQ(Text(dialog_, "cmdClose"), "Close");
   EXPECT_EQ(Text(dialog_, "cmdRemove"), "&Remove");
   EXPECT_EQ(Text(dialog_, "lblAssignHotKey"), "Assign a &Tag");
@@ -145,8 +145,7 @@ TEST_F(AddWindowTest, HasTheCaptionsOfItsButtonsAndLabels) {
   EXPECT_EQ(Text(dialog_, "chkChildWindow"), "assign this Hot Key to a Child window of the Parent");
 }
 
-TEST_F(AddWindowTest, StartsInTheListOfTagsAndKeepsTheUsersPlaceLater) {
-  OpenDialogFor("Notes");
+TEST_F(AddNotesTest, StartsInTheListOfTagsAndKeepsTheUsersPlaceLater) {
   EXPECT_EQ(Focus(dialog_), "cboWindow");
   dialog_.Find("txtWindow").SetFocus();
   desktop_.UserActivates(main_.handle);
@@ -169,15 +168,13 @@ TEST_F(AddWindowTest, TheTabKeyGoesFromTopToBottom) {
   EXPECT_EQ(Focus(dialog_), "cboWindow");
 }
 
-TEST_F(AddWindowTest, EachLabelStandsBeforeItsControl) {
-  OpenDialogFor("Notes");
+TEST_F(AddNotesTest, EachLabelStandsBeforeItsControl) {
   EXPECT_EQ(Id(dialog_, "lblAssignHotKey") + 1, Id(dialog_, "cboWindow"));
   EXPECT_EQ(Id(dialog_, "lblIdentifyWindow") + 1, Id(dialog_, "txtWindow"));
   EXPECT_EQ(Id(dialog_, "lblChildWindow") + 1, Id(dialog_, "cboChildWindow"));
 }
 
-TEST_F(AddWindowTest, TheAccessKeysOfTheLabelsLeadToTheirControls) {
-  OpenDialogFor("Notes");
+TEST_F(AddNotesTest, TheAccessKeysOfTheLabelsLeadToTheirControls) {
   user_.TypeText(dialog_.Handle(), "w", true);
   EXPECT_EQ(Focus(dialog_), "txtWindow");
   user_.TypeText(dialog_.Handle(), "t", true);
@@ -209,8 +206,7 @@ TEST_F(AddWindowTest, ShortensALongTitleOnlyOnTheScreen) {
   ExpectState(std::string(47, 'l') + "...", kRed);
 }
 
-TEST_F(AddWindowTest, EveryChoiceSaysInItsToolTipWhatItDoes) {
-  OpenDialogFor("Notes");
+TEST_F(AddNotesTest, EveryChoiceSaysInItsToolTipWhatItDoes) {
   EXPECT_EQ(Look(dialog_, "txtWindow").toolTip,
             " edit to Identify Window by partial Title  (Alt+P/Alt+P) ");
   EXPECT_EQ(Look(dialog_, "cboWindow").toolTip, " Tag number ");

@@ -21,8 +21,12 @@ TEST_F(OptionsLookTest, PaintsEachTagByItsCheckBoxWhateverTheModifier) {
   EXPECT_EQ(Back("lblTagParent", 5), kDefault);
 }
 
-TEST_F(OptionsLookTest, PaintsEachOperationByItsKey) {
-  OpenDialog();
+class OpenOptionsLookTest : public OptionsTest {
+ protected:
+  OpenOptionsLookTest() { OpenDialog(); }
+};
+
+TEST_F(OpenOptionsLookTest, PaintsEachOperationByItsKey) {
   EXPECT_EQ(Back("lblAction", 1), kDefault);
   EXPECT_EQ(Back("lblGeneral", 2), kDefault);
   PickEntry("cboHotKeyAction", 1, 0);
@@ -35,14 +39,12 @@ TEST_F(OptionsLookTest, PaintsEachOperationByItsKey) {
   EXPECT_TRUE(Border("lblGeneral", 1));
 }
 
-TEST_F(OptionsLookTest, PaintsTheLegend) {
-  OpenDialog();
+TEST_F(OpenOptionsLookTest, PaintsTheLegend) {
   EXPECT_EQ(Back("lblLegend", 1), kDefault);
   EXPECT_EQ(Back("lblLegend", 0), kButtonFaceColor);
 }
 
-TEST_F(OptionsLookTest, AClickOnTheLegendChoosesTheColour) {
-  OpenDialog();
+TEST_F(OpenOptionsLookTest, AClickOnTheLegendChoosesTheColour) {
   owner_.chosenColor = 0x112233;
   ClickLegend();
   EXPECT_EQ(owner_.palettes, std::vector<Color>{kDefault});
@@ -52,8 +54,7 @@ TEST_F(OptionsLookTest, AClickOnTheLegendChoosesTheColour) {
   EXPECT_EQ(Record().colHotKeyEnabled, 0x112233);
 }
 
-TEST_F(OptionsLookTest, KeepsTheColourWhenThePaletteIsCancelled) {
-  OpenDialog();
+TEST_F(OpenOptionsLookTest, KeepsTheColourWhenThePaletteIsCancelled) {
   ClickLegend();
   EXPECT_EQ(owner_.palettes.size(), 1U);
   EXPECT_EQ(Back("lblLegend", 1), kDefault);
@@ -79,8 +80,7 @@ TEST_F(OptionsLookTest, OtherClicksOnTheLegendDoNothing) {
   EXPECT_EQ(Back("lblLegend", 1), 0x112233);
 }
 
-TEST_F(OptionsLookTest, ForgetsTheColourOnCancel) {
-  OpenDialog();
+TEST_F(OpenOptionsLookTest, ForgetsTheColourOnCancel) {
   owner_.chosenColor = 0x112233;
   ClickLegend();
   Click(dialog_, "cmdCancel");
@@ -126,8 +126,7 @@ constexpr Caption kCaptions[] = {
     {"cmdReset", -1, "Reset All Options to Default"},
 };
 
-TEST_F(OptionsLookTest, HasTheCaptionsOfItsControls) {
-  OpenDialog();
+TEST_F(OpenOptionsLookTest, HasTheCaptionsOfItsControls) {
   for (const auto& [name, index, text] : kCaptions) {
     EXPECT_EQ(Text(dialog_, name, index), text) << name << " " << index;
   }
@@ -140,16 +139,14 @@ TEST_F(OptionsLookTest, HasTheCaptionsOfItsControls) {
   }
 }
 
-TEST_F(OptionsLookTest, EachHotKeyIsNamedRightBeforeItsLists) {
-  OpenDialog();
+TEST_F(OpenOptionsLookTest, EachHotKeyIsNamedRightBeforeItsLists) {
   EXPECT_EQ(Id(dialog_, "lblAction", 1) + 1, Id(dialog_, "cboHotKeyModAction", 1));
   EXPECT_EQ(Id(dialog_, "lblGeneral", 0) + 1, Id(dialog_, "cboHotKeyModGeneral", 0));
   EXPECT_EQ(Id(dialog_, "lblTagParent", 8) + 1, Id(dialog_, "chkHotKeyParent", 8));
   EXPECT_EQ(Id(dialog_, "fraWindowSelection") + 1, Id(dialog_, "cboHotKeyModParent"));
 }
 
-TEST_F(OptionsLookTest, TheAccessKeysOfTheFramesLeadToTheirFirstLists) {
-  OpenDialog();
+TEST_F(OpenOptionsLookTest, TheAccessKeysOfTheFramesLeadToTheirFirstLists) {
   user_.TypeText(dialog_.Handle(), "g", true);
   EXPECT_EQ(user_.Focus(dialog_.Handle()), Id(dialog_, "cboHotKeyModGeneral", 0));
   user_.TypeText(dialog_.Handle(), "s", true);
@@ -173,8 +170,7 @@ TEST_F(OptionsLookTest, TheAccessKeysOfTheCheckBoxesSetThem) {
   EXPECT_TRUE(Record().booAllowToolbarWindow);
 }
 
-TEST_F(OptionsLookTest, EveryControlStandsInsideWhatHoldsIt) {
-  OpenDialog();
+TEST_F(OpenOptionsLookTest, EveryControlStandsInsideWhatHoldsIt) {
   ASSERT_GT(dialog_.Controls().size(), 30U);
   for (const Control& control : dialog_.Controls()) {
     const ControlState& state = control.State();
