@@ -13,9 +13,7 @@ constexpr Color kBlue = 0xC00000;
 class AddWindowStory : public KorvaleWorld {
  protected:
   void StoreTag(int tag, const std::string& identification) {
-    store.SaveSetting(kStore, "ParentWindowList", std::to_string(tag),
-                      "&" + std::to_string(tag) + "  " + identification);
-    store.SaveSetting(kStore, "ParentWindowClass", std::to_string(tag), "");
+    KorvaleWorld::StoreTag(tag, identification, "");
   }
   std::optional<std::string> StoredTag(int tag) {
     return store.GetSetting(kStore, "ParentWindowList", std::to_string(tag));
@@ -88,10 +86,7 @@ TEST_F(AddWindowStory, TheRightPartFindsTheProgramWithAnotherDocument) {
   desktop.Rename(window_, "two - Viewer");
   WorkIn(Open("Elsewhere"));
   WorkIn(Open("Farther"));
-  korvale.host.WhenMessageBox([](const ShownMessage& box) {
-    EXPECT_EQ(box.text, "Window:  [*** - Editor]  is not open.");
-    return win32::kIdOk;
-  });
+  korvale.ExpectBox("Window:  [*** - Editor]  is not open.", win32::kIdOk);
   PressTag(1);
 }
 
@@ -146,8 +141,7 @@ TEST_F(AddWindowStory, RemovingATagLeavesTheDialogOpenWithTheTagAvailable) {
   EXPECT_EQ(StoredTag(2), std::nullopt);
   EXPECT_EQ(korvale.WindowMenuItems()[7].caption, "-");
   WorkIn(window_);
-  PressTag(2);
-  EXPECT_EQ(Front(), "Alpha");
+  ExpectTagLeadsTo(2, "Alpha");
 }
 
 TEST_F(AddWindowStory, AmpersandsOfATitleAreKeptLiterally) {

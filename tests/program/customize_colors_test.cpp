@@ -37,15 +37,18 @@ TEST_F(CustomizeColorsTest, TurnedOnItShowsCheckPointerAndTip) {
   EXPECT_EQ(Stored("Tips"), "0");
 }
 
-TEST_F(CustomizeColorsTest, ChosenAgainItIsTurnedOff) {
+class CustomizingTest : public CustomizeColorsTest {
+ protected:
   KorvaleCopy& korvale = Customizing();
+};
+
+TEST_F(CustomizingTest, ChosenAgainItIsTurnedOff) {
   Toggle(korvale);
   EXPECT_FALSE(IsOn(korvale));
   EXPECT_EQ(korvale.host.Pointer(), MousePointer::kDefault);
 }
 
-TEST_F(CustomizeColorsTest, ThePointerIsItsOwnOnlyInTheUpperLeftOfAField) {
-  KorvaleCopy& korvale = Customizing();
+TEST_F(CustomizingTest, ThePointerIsItsOwnOnlyInTheUpperLeftOfAField) {
   for (const char* field : {"txtWindow", "txtWindowClass"}) {
     const int id = Field(korvale, field);
     const Twips right = korvale.user.Place(korvale.Handle(), id).width - 115;
@@ -68,8 +71,7 @@ TEST_F(CustomizeColorsTest, WhileItIsOffAFieldRestoresTheDefaultPointer) {
   EXPECT_EQ(korvale.host.Pointer(), MousePointer::kDefault);
 }
 
-TEST_F(CustomizeColorsTest, AClickChoosesAColorForItsField) {
-  KorvaleCopy& korvale = Customizing();
+TEST_F(CustomizingTest, AClickChoosesAColorForItsField) {
   korvale.host.WhenColorDialog([](Color initial) {
     EXPECT_EQ(initial, 0xAEFFAE);
     return std::optional<Color>(kRed);
@@ -80,8 +82,7 @@ TEST_F(CustomizeColorsTest, AClickChoosesAColorForItsField) {
   EXPECT_TRUE(IsOn(korvale));
 }
 
-TEST_F(CustomizeColorsTest, CancelInTheDialogKeepsTheColor) {
-  KorvaleCopy& korvale = Customizing();
+TEST_F(CustomizingTest, CancelInTheDialogKeepsTheColor) {
   ChooseNext(korvale, std::nullopt);
   ClickAt(korvale, "txtWindow", 10, 10);
   EXPECT_EQ(ColorOf(korvale, "txtWindow"), 0x9FFFFF);
@@ -102,8 +103,7 @@ TEST_F(CustomizeColorsTest, AltClickGivesTheSecondFieldTheSameColor) {
   }
 }
 
-TEST_F(CustomizeColorsTest, AltCountsForItsOwnClickOnly) {
-  KorvaleCopy& korvale = Customizing();
+TEST_F(CustomizingTest, AltCountsForItsOwnClickOnly) {
   ClickAt(korvale, "txtWindow", 10, 10, kAlt);
   EXPECT_EQ(ColorOf(korvale, "txtWindow"), 0xFFFFFF);
   ChooseNext(korvale, kRed);
@@ -111,8 +111,7 @@ TEST_F(CustomizeColorsTest, AltCountsForItsOwnClickOnly) {
   EXPECT_EQ(ColorOf(korvale, "txtWindow"), kRed);
 }
 
-TEST_F(CustomizeColorsTest, TheAltOfAClickBeforeDoesNotCountForAPressOutsideThePointersPlace) {
-  KorvaleCopy& korvale = Customizing();
+TEST_F(CustomizingTest, TheAltOfAClickBeforeDoesNotCountForAPressOutsideThePointersPlace) {
   ClickAt(korvale, "txtWindow", 10, 10, kAlt);
   EXPECT_EQ(ColorOf(korvale, "txtWindow"), 0xFFFFFF);
   bool asked = false;
@@ -133,8 +132,7 @@ TEST_F(CustomizeColorsTest, TheAltOfAClickBeforeDoesNotCountForAPressOutsideTheP
   EXPECT_EQ(ColorOf(korvale, "txtWindow"), kRed);
 }
 
-TEST_F(CustomizeColorsTest, ColorsAreStoredByTheNextMenuCommand) {
-  KorvaleCopy& korvale = Customizing();
+TEST_F(CustomizingTest, ColorsAreStoredByTheNextMenuCommand) {
   ChooseNext(korvale, kRed);
   ClickAt(korvale, "txtWindow", 10, 10);
   EXPECT_EQ(Stored("WI1BackColor"), "10485759");
@@ -145,8 +143,7 @@ TEST_F(CustomizeColorsTest, ColorsAreStoredByTheNextMenuCommand) {
   EXPECT_EQ(Stored("LastColorSelected"), "255");
 }
 
-TEST_F(CustomizeColorsTest, AClickWithoutThePointerSaysWhatToDo) {
-  KorvaleCopy& korvale = Customizing();
+TEST_F(CustomizingTest, AClickWithoutThePointerSaysWhatToDo) {
   for (const char* field : {"txtWindow", "txtWindowClass"}) {
     korvale.host.WhenMessageBox([](const ShownMessage& box) {
       EXPECT_EQ(box.text, "position the mouse until the cursor has changed to a 'C'");
@@ -160,8 +157,7 @@ TEST_F(CustomizeColorsTest, AClickWithoutThePointerSaysWhatToDo) {
   EXPECT_EQ(ColorOf(korvale, "txtWindow"), 0x9FFFFF);
 }
 
-TEST_F(CustomizeColorsTest, AltOutsideThePointersPlaceIsNotRemembered) {
-  KorvaleCopy& korvale = Customizing();
+TEST_F(CustomizingTest, AltOutsideThePointersPlaceIsNotRemembered) {
   korvale.host.AnswerNext(win32::kIdOk);
   ClickAt(korvale, "txtWindow", 10, 200, kAlt);
   ChooseNext(korvale, kRed);
@@ -177,8 +173,7 @@ TEST_F(CustomizeColorsTest, ClicksMeanNothingWhileItIsOff) {
   EXPECT_TRUE(korvale.host.Messages().empty());
 }
 
-TEST_F(CustomizeColorsTest, OnlyAWholeClickOfTheLeftButtonCounts) {
-  KorvaleCopy& korvale = Customizing();
+TEST_F(CustomizingTest, OnlyAWholeClickOfTheLeftButtonCounts) {
   ClickAt(korvale, "txtWindow", 10, 10, kAlt, MouseButton::kRight);
   const MouseInput down = {MouseEvent::kDown, MouseButton::kLeft, kAlt, 10, 10};
   const MouseInput up = {MouseEvent::kUp, MouseButton::kLeft, kAlt, 10, 10};
@@ -200,8 +195,7 @@ TEST_F(CustomizeColorsTest, OnlyAWholeClickOfTheLeftButtonCounts) {
   EXPECT_EQ(ColorOf(korvale, "txtWindow"), 0xFFFFFF);
 }
 
-TEST_F(CustomizeColorsTest, GoesOnOverRefreshesThatAreNoOtherMenuCommand) {
-  KorvaleCopy& korvale = Customizing();
+TEST_F(CustomizingTest, GoesOnOverRefreshesThatAreNoOtherMenuCommand) {
   for (const char* source :
        {"mnuViewRemoveIndividualButtons", "mnuViewCustomizeColors",
         "mnuViewColorCodedButtons_SPECIAL", "Form_KeyDown", " Form_KeyDown ", "Form_Load"}) {

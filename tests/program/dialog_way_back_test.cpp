@@ -7,11 +7,7 @@ namespace {
 /// Alt+0 among windows that are disabled by a dialog of theirs.
 class DialogWayBackTest : public KorvaleWorld {
  protected:
-  void SetUp() override {
-    gamma = Open("Gamma", {.className = "G"});
-    beta = Open("Beta", {.className = "B"});
-    alpha = Open("Alpha", {.className = "A"});
-    korvale = &StartedCopy();
+  DialogWayBackTest() {
     for (const WindowHandle hwnd : {gamma, beta, alpha}) WorkIn(hwnd);
   }
 
@@ -22,53 +18,48 @@ class DialogWayBackTest : public KorvaleWorld {
     return dialog;
   }
 
-  void ExpectWayBack(const std::string& title) {
-    PressTag(0);
-    EXPECT_EQ(Front(), title);
-  }
-
-  WindowHandle alpha = 0;
-  WindowHandle beta = 0;
-  WindowHandle gamma = 0;
-  KorvaleCopy* korvale = nullptr;
+  const WindowHandle gamma = Open("Gamma", {.className = "G"});
+  const WindowHandle beta = Open("Beta", {.className = "B"});
+  const WindowHandle alpha = Open("Alpha", {.className = "A"});
+  KorvaleCopy& korvale = StartedCopy();
 };
 
 TEST_F(DialogWayBackTest, LeadsToTheDialogAndBack) {
   OpenDialog(alpha, "Save As");
   WorkIn(beta);
   for (int i = 0; i < 2; ++i) {
-    ExpectWayBack("Save As");
-    ExpectWayBack("Beta");
+    ExpectTagLeadsTo(0, "Save As");
+    ExpectTagLeadsTo(0, "Beta");
   }
-  EXPECT_TRUE(korvale->host.Messages().empty());
+  EXPECT_TRUE(korvale.host.Messages().empty());
 }
 
 TEST_F(DialogWayBackTest, LeadsToTheInnermostDialog) {
   OpenDialog(OpenDialog(alpha, "Save As"), "Replace it?");
   WorkIn(beta);
-  ExpectWayBack("Replace it?");
-  ExpectWayBack("Beta");
+  ExpectTagLeadsTo(0, "Replace it?");
+  ExpectTagLeadsTo(0, "Beta");
 }
 
 TEST_F(DialogWayBackTest, LeadsFromTheDialogToTheWindowBefore) {
   OpenDialog(alpha, "Save As");
-  ExpectWayBack("Beta");
-  ExpectWayBack("Save As");
+  ExpectTagLeadsTo(0, "Beta");
+  ExpectTagLeadsTo(0, "Save As");
 }
 
 TEST_F(DialogWayBackTest, LeadsFromTheMainWindowToWhereTheUserWas) {
   const WindowHandle dialog = OpenDialog(alpha, "Save As");
-  WorkIn(korvale->Handle());
-  EXPECT_EQ(korvale->TargetWindow(), "Alpha");
-  ExpectWayBack("Save As");
-  ExpectWayBack("Korvale - Work");
+  WorkIn(korvale.Handle());
+  EXPECT_EQ(korvale.TargetWindow(), "Alpha");
+  ExpectTagLeadsTo(0, "Save As");
+  ExpectTagLeadsTo(0, "Korvale - Work");
   WorkIn(alpha);
   desktop.CloseModalDialog(dialog);
   LetTick();
   EXPECT_EQ(Front(), "Alpha");
-  EXPECT_EQ(korvale->TargetWindow(), "Alpha");
-  ExpectWayBack("Korvale - Work");
-  ExpectWayBack("Alpha");
+  EXPECT_EQ(korvale.TargetWindow(), "Alpha");
+  ExpectTagLeadsTo(0, "Korvale - Work");
+  ExpectTagLeadsTo(0, "Alpha");
 }
 
 TEST_F(DialogWayBackTest, CountsAVisitToTheDialogAsOneToItsWindow) {
@@ -77,44 +68,44 @@ TEST_F(DialogWayBackTest, CountsAVisitToTheDialogAsOneToItsWindow) {
   WorkIn(beta);
   WorkIn(alpha);
   ASSERT_EQ(Front(), "Save As");
-  EXPECT_EQ(korvale->TargetWindow(), "Alpha");
-  ExpectWayBack("Beta");
-  ExpectWayBack("Save As");
+  EXPECT_EQ(korvale.TargetWindow(), "Alpha");
+  ExpectTagLeadsTo(0, "Beta");
+  ExpectTagLeadsTo(0, "Save As");
 }
 
 TEST_F(DialogWayBackTest, KnowsTheWindowOfADialogThatWasThereFirst) {
   const WindowHandle late = desktop.Open("Late", {.className = "L", .activate = false});
   OpenDialog(late, "Welcome");
   WorkIn(beta);
-  ExpectWayBack("Welcome");
-  ExpectWayBack("Beta");
+  ExpectTagLeadsTo(0, "Welcome");
+  ExpectTagLeadsTo(0, "Beta");
 }
 
 TEST_F(DialogWayBackTest, TakesADialogThatIsFollowedItselfForAWindowOfItsOwn) {
   desktop.SetEnabled(alpha, false);
   const WindowHandle dialog = desktop.Open("Wizard", {.owner = alpha});
   LetTick();
-  EXPECT_EQ(korvale->TargetWindow(), "Wizard");
-  ExpectWayBack("Beta");
-  ExpectWayBack("Wizard");
+  EXPECT_EQ(korvale.TargetWindow(), "Wizard");
+  ExpectTagLeadsTo(0, "Beta");
+  ExpectTagLeadsTo(0, "Wizard");
   desktop.CloseModalDialog(dialog);
   LetTick();
   EXPECT_EQ(Front(), "Alpha");
-  ExpectWayBack("Beta");
+  ExpectTagLeadsTo(0, "Beta");
 }
 
 TEST_F(DialogWayBackTest, UnfoldsAWindowThatWasMinimizedWithItsDialog) {
   OpenDialog(alpha, "Save As");
   desktop.UserMinimizes(alpha);
   WorkIn(beta);
-  ExpectWayBack("Save As");
+  ExpectTagLeadsTo(0, "Save As");
   EXPECT_FALSE(desktop.IsIconic(alpha));
 }
 
 TEST_F(DialogWayBackTest, PassesOverAWindowThatNothingMakesUsable) {
   desktop.SetEnabled(beta, false);
-  ExpectWayBack("Gamma");
-  ExpectWayBack("Alpha");
+  ExpectTagLeadsTo(0, "Gamma");
+  ExpectTagLeadsTo(0, "Alpha");
 }
 
 TEST_F(DialogWayBackTest, MinimizingBringsTheDialogForward) {
@@ -123,16 +114,16 @@ TEST_F(DialogWayBackTest, MinimizingBringsTheDialogForward) {
   PressHotKey(win32::kModAlt, win32::kVkDown);
   EXPECT_EQ(Front(), "Save As");
   EXPECT_TRUE(desktop.IsIconic(beta));
-  ExpectWayBack("Beta");
+  ExpectTagLeadsTo(0, "Beta");
 }
 
 TEST_F(DialogWayBackTest, ClosingTheOptionsGivesTheDialogTheForegroundBack) {
   OpenDialog(alpha, "Save As");
   PressHotKey(win32::kModWin, 'O');
-  class Form& options = korvale->Loaded("frmOptions");
-  korvale->user.Click(options.Handle(), korvale->Id(options, "cmdCancel"));
+  class Form& options = korvale.Loaded("frmOptions");
+  korvale.user.Click(options.Handle(), korvale.Id(options, "cmdCancel"));
   EXPECT_EQ(Front(), "Save As");
-  ExpectWayBack("Beta");
+  ExpectTagLeadsTo(0, "Beta");
 }
 
 TEST_F(DialogWayBackTest, UnfoldsTheOwnerOfTheWindowBefore) {
@@ -140,7 +131,7 @@ TEST_F(DialogWayBackTest, UnfoldsTheOwnerOfTheWindowBefore) {
   LetTick();
   desktop.UserMinimizes(alpha);
   WorkIn(beta);
-  ExpectWayBack("Owned");
+  ExpectTagLeadsTo(0, "Owned");
   EXPECT_FALSE(desktop.IsIconic(alpha));
   EXPECT_TRUE(desktop.IsWindowVisible(owned));
 }
@@ -152,7 +143,7 @@ TEST_F(DialogWayBackTest, PassesOverAWindowWhoseDialogStaysHiddenWhenItIsRestore
   WorkIn(gamma);
   WorkIn(beta);
   desktop.Close(gamma);
-  ExpectWayBack("Korvale - Work");
+  ExpectTagLeadsTo(0, "Korvale - Work");
 }
 
 TEST_F(DialogWayBackTest, PassesOverAMinimizedWindowThatHangs) {
@@ -160,7 +151,7 @@ TEST_F(DialogWayBackTest, PassesOverAMinimizedWindowThatHangs) {
   desktop.UserMinimizes(alpha);
   desktop.SetHung(alpha, true);
   WorkIn(beta);
-  ExpectWayBack("Gamma");
+  ExpectTagLeadsTo(0, "Gamma");
 }
 
 TEST_F(DialogWayBackTest, PassesOverAWindowWhoseOwnerIsHidden) {
@@ -168,7 +159,7 @@ TEST_F(DialogWayBackTest, PassesOverAWindowWhoseOwnerIsHidden) {
   desktop.UserMinimizes(alpha);
   desktop.Hide(alpha);
   WorkIn(beta);
-  ExpectWayBack("Gamma");
+  ExpectTagLeadsTo(0, "Gamma");
 }
 
 }  // namespace

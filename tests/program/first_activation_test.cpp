@@ -101,7 +101,7 @@ TEST_F(FirstActivationTest, AnActivationBeforeTheWindowIsShownDoesNotCount) {
 
 TEST_F(FirstActivationTest, LaterActivationsDoNothingOfIt) {
   store.SaveSetting("Korvale - Work", "Startup", "AlwaysOnTop", "True");
-  store.SaveSetting("Korvale - Work", "Options", "SelectPrevWinOnStart", "True");
+  StoreOption("SelectPrevWinOnStart", "True");
   Open("Alpha");
   KorvaleCopy& korvale = StartedCopy();
   WorkIn(Open("Beta"));
@@ -114,7 +114,7 @@ TEST_F(FirstActivationTest, LaterActivationsDoNothingOfIt) {
 }
 
 TEST_F(FirstActivationTest, WithoutAnotherWindowThereIsNothingToSelect) {
-  store.SaveSetting("Korvale - Work", "Options", "SelectPrevWinOnStart", "True");
+  StoreOption("SelectPrevWinOnStart", "True");
   KorvaleCopy& korvale = UsedCopy();
   EXPECT_TRUE(korvale.Start());
   EXPECT_EQ(korvale.TargetWindow(), "");
@@ -154,13 +154,12 @@ TEST_F(FirstActivationTest, AlwaysOnTopUsesUpNothingOfTheFirstActivation) {
   EXPECT_TRUE(korvale.Start());
   EXPECT_TRUE(korvale.State().firstActivation);
   EXPECT_EQ(korvale.TargetWindow(), "Alpha");
-  PressTag(0);
-  EXPECT_EQ(Front(), "Alpha");
+  ExpectTagLeadsTo(0, "Alpha");
 }
 
 TEST_F(FirstActivationTest, AlwaysOnTopLeavesThePreviousWindowToBeSelected) {
   store.SaveSetting("Korvale - Work", "Startup", "AlwaysOnTop", "True");
-  store.SaveSetting("Korvale - Work", "Options", "SelectPrevWinOnStart", "True");
+  StoreOption("SelectPrevWinOnStart", "True");
   Open("Alpha");
   KorvaleCopy& korvale = StartedCopy();
   EXPECT_EQ(Front(), "Alpha");
@@ -202,8 +201,7 @@ TEST_F(TaggedToolsAtStart, TheTopmostOneIsThePreviousWindowAndHasTheTag) {
   KorvaleCopy& korvale = StartedCopy();
   EXPECT_EQ(korvale.TargetWindow(), "Tool");
   EXPECT_EQ(TagHandle(korvale.Form().Menu("mnuWindowParentList", 3)), tool);
-  PressTag(3);
-  EXPECT_EQ(Front(), "Tool");
+  ExpectTagLeadsTo(3, "Tool");
 }
 
 TEST_F(TaggedToolsAtStart, NoneOfThemHasTheTagWhenAnotherWindowWasInFront) {
@@ -211,13 +209,12 @@ TEST_F(TaggedToolsAtStart, NoneOfThemHasTheTagWhenAnotherWindowWasInFront) {
   KorvaleCopy& korvale = StartedCopy();
   EXPECT_EQ(korvale.TargetWindow(), "Alpha");
   EXPECT_EQ(TagHandle(korvale.Form().Menu("mnuWindowParentList", 3)), 0);
-  PressTag(3);
-  EXPECT_EQ(Front(), "Tool");
+  ExpectTagLeadsTo(3, "Tool");
 }
 
 TEST_F(FirstActivationTest, ThePreviousWindowIsSelectedWhenTheOptionSaysSo) {
   Open("Alpha");
-  store.SaveSetting("Korvale - Work", "Options", "SelectPrevWinOnStart", "True");
+  StoreOption("SelectPrevWinOnStart", "True");
   StartedCopy();
   EXPECT_EQ(Front(), "Alpha");
 }

@@ -12,11 +12,8 @@ constexpr std::int32_t kNoMaximizeBox = fakes::kWsOverlappedWindow & ~win32::kWs
 /// Alpha, then Beta have been worked in; Alt+Down and Alt+Up are pressed.
 class ForegroundKeysTest : public KorvaleWorld {
  protected:
-  void SetUp() override {
-    alpha = Open("Alpha");
-    beta = Open("Beta");
-    korvale = &StartedCopy();
-    log.NameWindow(korvale->Handle(), "Korvale");
+  ForegroundKeysTest() {
+    log.NameWindow(korvale.Handle(), "Korvale");
     WorkIn(alpha);
     WorkIn(beta);
   }
@@ -33,9 +30,9 @@ class ForegroundKeysTest : public KorvaleWorld {
   Calls PressMinimize() { return Press(win32::kVkDown); }
   Calls PressMaximize() { return Press(win32::kVkUp); }
 
-  KorvaleCopy* korvale = nullptr;
-  WindowHandle alpha = 0;
-  WindowHandle beta = 0;
+  const WindowHandle alpha = Open("Alpha");
+  const WindowHandle beta = Open("Beta");
+  KorvaleCopy& korvale = StartedCopy();
 };
 
 TEST_F(ForegroundKeysTest, MinimizeGoesBackToTheWindowBefore) {
@@ -46,8 +43,8 @@ TEST_F(ForegroundKeysTest, MinimizeGoesBackToTheWindowBefore) {
   EXPECT_EQ(PressMinimize(),
             (Calls{"ShowWindowAsync(Gamma, SW_MINIMIZE)", "SetForegroundWindow(Alpha)"}));
   EXPECT_EQ(Front(), "Alpha");
-  EXPECT_EQ(korvale->TargetWindow(), "Alpha");
-  EXPECT_TRUE(korvale->Form().tmrWindow().Enabled());
+  EXPECT_EQ(korvale.TargetWindow(), "Alpha");
+  EXPECT_TRUE(korvale.Form().tmrWindow().Enabled());
 }
 
 TEST_F(ForegroundKeysTest, MinimizeSendsNoWindowForwardThatWindowsHasChosenItself) {
@@ -57,10 +54,10 @@ TEST_F(ForegroundKeysTest, MinimizeSendsNoWindowForwardThatWindowsHasChosenItsel
 
 TEST_F(ForegroundKeysTest, MinimizeInKorvaleGoesBackToThePreviousWindow) {
   desktop.Open("", {.className = "Untitled"});
-  WorkIn(korvale->Handle());
+  WorkIn(korvale.Handle());
   EXPECT_EQ(PressMinimize(),
             (Calls{"ShowWindow(Korvale, SW_MINIMIZE)", "SetForegroundWindow(Beta)"}));
-  EXPECT_TRUE(desktop.IsIconic(korvale->Handle()));
+  EXPECT_TRUE(desktop.IsIconic(korvale.Handle()));
   EXPECT_EQ(Front(), "Beta");
 }
 
@@ -93,7 +90,7 @@ TEST_F(ForegroundKeysTest, MinimizeDoesNotUnfoldAMinimizedWindowBefore) {
 TEST_F(ForegroundKeysTest, MinimizeWithTheWindowBeforeClosedSaysNothing) {
   desktop.Close(alpha);
   EXPECT_EQ(PressMinimize(), Calls{"ShowWindowAsync(Beta, SW_MINIMIZE)"});
-  EXPECT_TRUE(korvale->host.Messages().empty());
+  EXPECT_TRUE(korvale.host.Messages().empty());
 }
 
 TEST_F(ForegroundKeysTest, KeysDoNotWaitForAHungWindow) {
@@ -123,10 +120,10 @@ TEST_F(ForegroundKeysTest, MaximizeLeavesOtherWindowsAlone) {
 
 TEST_F(ForegroundKeysTest, TimersRestWhileAKeyWorks) {
   bool running = true;
-  log.WhenCalled("ShowWindowAsync(Beta", [&] { running = korvale->Form().tmrWindow().Enabled(); });
+  log.WhenCalled("ShowWindowAsync(Beta", [&] { running = korvale.Form().tmrWindow().Enabled(); });
   PressMinimize();
   EXPECT_FALSE(running);
-  EXPECT_TRUE(korvale->Form().tmrWindow().Enabled());
+  EXPECT_TRUE(korvale.Form().tmrWindow().Enabled());
 }
 
 }  // namespace

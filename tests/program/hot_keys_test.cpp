@@ -73,15 +73,13 @@ TEST_F(HotKeysTest, IdentifiersCloseUpWhenTagsAreDisabled) {
   EXPECT_EQ(hotKeys.Registered()[1].key, '2');
   EXPECT_EQ(hotKeys.Registered()[2].key, '4');
   EXPECT_FALSE(hotKeys.Press(win32::kModAlt, '1'));
-  PressTag(2);
-  EXPECT_EQ(Front(), "Alpha");
+  ExpectTagLeadsTo(2, "Alpha");
 }
 
 TEST_F(HotKeysTest, ATagWithoutAWindowDoesNothing) {
   StartedCopy();
   WorkIn(Open("Beta"));
-  PressTag(7);
-  EXPECT_EQ(Front(), "Beta");
+  ExpectTagLeadsTo(7, "Beta");
 }
 
 TEST_F(HotKeysTest, PauseSwitchesTheOthersOffAndOnAgain) {
@@ -95,8 +93,7 @@ TEST_F(HotKeysTest, PauseSwitchesTheOthersOffAndOnAgain) {
 
   SwitchOn(korvale);
   EXPECT_EQ(hotKeys.Registered().size(), 15U);
-  PressTag(1);
-  EXPECT_EQ(Front(), "Alpha");
+  ExpectTagLeadsTo(1, "Alpha");
 }
 
 TEST_F(HotKeysTest, TheMenuExplainsWhatItSwitchesOffUntilTheTipIsSilenced) {
@@ -168,8 +165,7 @@ TEST_F(HotKeysTest, AKeyOfAnotherProgramIsLeftToItAndTakenOnceItIsGivenBack) {
   SwitchOn(korvale);
 
   EXPECT_TRUE(korvale.HotKeys().Registered()[1].accepted);
-  PressTag(1);
-  EXPECT_EQ(Front(), "Alpha");
+  ExpectTagLeadsTo(1, "Alpha");
 }
 
 TEST_F(HotKeysTest, TheKeysOfACopyThatEndsAreTakenOverByTheOtherOnesToggle) {
@@ -202,8 +198,7 @@ TEST_F(HotKeysTest, WindowsOOpensTheOptionsAndThenBringsThemForward) {
 TEST_F(HotKeysTest, WorkWhileTheOptionsAreOpen) {
   KorvaleCopy& korvale = StartedWithTag(Open("Alpha"));
   PressHotKey(win32::kModWin, 'O');
-  PressTag(1);
-  EXPECT_EQ(Front(), "Alpha");
+  ExpectTagLeadsTo(1, "Alpha");
   EXPECT_TRUE(korvale.host.Messages().empty());
   EXPECT_TRUE(korvale.user.IsShown(korvale.Loaded("frmOptions").Handle()));
 }
@@ -260,8 +255,7 @@ TEST_F(HotKeysTest, AnErrorInAHotKeyIsReportedAndTheNextOneWorks) {
   });
   PressTag(1);
   EXPECT_TRUE(korvale.Form().tmrWindow().Enabled());
-  PressTag(1);
-  EXPECT_EQ(Front(), "Alpha");
+  ExpectTagLeadsTo(1, "Alpha");
 }
 
 }  // namespace

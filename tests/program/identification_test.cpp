@@ -6,12 +6,6 @@ namespace {
 
 class IdentificationTest : public KorvaleWorld {
  protected:
-  void StoreTag(int tag, const std::string& text, const std::string& className = "Window") {
-    const std::string key = std::to_string(tag);
-    store.SaveSetting("Korvale - Work", "ParentWindowList", key, "&" + key + "  " + text);
-    store.SaveSetting("Korvale - Work", "ParentWindowClass", key, className);
-  }
-
   /// The window that the Tag's hot key brings to the front, by its title; pressed in Beta.
   std::string FrontAfterTag(int tag) {
     WorkIn(desktop.FindWindowA("Beta"));

@@ -30,12 +30,10 @@ TEST_F(ImportTest, AnImportBringsTagsColoursAndTipsButNotThePlace) {
   const std::string old = "Korvale - Old";
   StoreOldInstallation(store, old);
   KorvaleCopy& korvale = NewCopy();
-  korvale.host.WhenMessageBox([](const ShownMessage& box) {
-    EXPECT_EQ(box.text,
-              "Do you want to import common settings and options from Korvale - Old into this "
-              "installation of Korvale ?");
-    return win32::kIdYes;
-  });
+  korvale.ExpectBox(
+      "Do you want to import common settings and options from Korvale - Old into this "
+      "installation of Korvale ?",
+      win32::kIdYes);
   korvale.host.AnswerNext(win32::kIdNo);
 
   EXPECT_TRUE(korvale.Start());
@@ -64,10 +62,7 @@ TEST_F(ImportTest, TheSessionCanEndWhileItAsks) {
   StoreOldInstallation(store, "Korvale - Old");
   const StoredValues before = ValuesOf(store, "Korvale - Old");
   KorvaleCopy& korvale = NewCopy();
-  korvale.host.WhenMessageBox([&](const ShownMessage&) {
-    korvale.Form().OnCloseRequested(CloseReason::kSession);
-    return win32::kIdYes;
-  });
+  korvale.EndSessionAtBox(win32::kIdYes);
   EXPECT_FALSE(korvale.Start());
   EXPECT_EQ(korvale.host.Messages().size(), 1U);
   EXPECT_EQ(ValuesOf(store, "Korvale - Old"), before);

@@ -47,7 +47,7 @@ TEST_F(InstancesTest, ASecondCopyOfTheSameInstallationBringsTheFirstForwardAndEn
 TEST_F(InstancesTest, ACopyThatStartsInTheSameInstantWaitsForTheFirstOnesWindow) {
   KorvaleCopy& first = NewCopy();
   KorvaleCopy& second = NewCopy();
-  store.SaveSetting("Korvale - Work", "Options", "SplashScreen", "False");
+  StoreOption("SplashScreen", "False");
   bool secondStarted = true;
   // The first one has found no other and is about to show itself: now the second one starts.
   log.WhenCalled("RegisterHotKey", [&] {
@@ -123,10 +123,7 @@ TEST_F(InstancesTest, ACopyThatAsksAboutImportingIsNotAskedAnewByTheSecondOne) {
   KorvaleCopy& second = NewCopy();
   bool secondStarted = true;
   first.host.WhenMessageBox([&](const ShownMessage&) {
-    second.host.WhenMessageBox([](const ShownMessage& box) {
-      EXPECT_EQ(box.text, "'Korvale - Work' is already open.");
-      return win32::kIdOk;
-    });
+    second.ExpectBox("'Korvale - Work' is already open.", win32::kIdOk);
     secondStarted = second.Start();
     return win32::kIdYes;
   });
@@ -194,13 +191,11 @@ TEST_F(InstancesTest, AnotherFolderOfTheSameNameKeepsTheSecondFromRunning) {
   KorvaleCopy& second = NewCopy();
   second.system.executablePath = "D:\\Tools\\work\\Korvale.exe";
   second.system.files.insert(first.system.executablePath);
-  second.host.WhenMessageBox([&](const ShownMessage& box) {
-    EXPECT_EQ(box.text,
-              "An installation in a folder named 'work' already exists.  Korvale does not support "
-              "two installations with the same folder name.  Please rename the folder then re-run "
-              "Korvale.");
-    return win32::kIdOk;
-  });
+  second.ExpectBox(
+      "An installation in a folder named 'work' already exists.  Korvale does not support "
+      "two installations with the same folder name.  Please rename the folder then re-run "
+      "Korvale.",
+      win32::kIdOk);
 
   log.Clear();
 

@@ -43,6 +43,30 @@ int KorvaleCopy::Id(class Form& form, const std::string& control, int index) {
   return form.Find(control, index).Id();
 }
 
+void KorvaleCopy::ExpectBox(const std::string& text, std::int16_t answer) {
+  host.WhenMessageBox([=](const ShownMessage& box) {
+    EXPECT_EQ(box.text, text);
+    return answer;
+  });
+}
+
+void KorvaleCopy::ExpectBox(const std::string& text, const std::string& title, std::int32_t style,
+                            std::int16_t answer) {
+  host.WhenMessageBox([=](const ShownMessage& box) {
+    EXPECT_EQ(box.text, text);
+    EXPECT_EQ(box.title, title);
+    EXPECT_EQ(box.style, style);
+    return answer;
+  });
+}
+
+void KorvaleCopy::EndSessionAtBox(std::int16_t answer) {
+  host.WhenMessageBox([this, answer](const ShownMessage& /*box*/) {
+    Form().OnCloseRequested(CloseReason::kSession);
+    return answer;
+  });
+}
+
 void KorvaleCopy::TagPrevious(const std::function<void(class Form&)>& prepare) {
   host.WhenModal("frmGetWindow", [this, prepare](class Form& dialog) {
     if (prepare) prepare(dialog);
@@ -78,8 +102,26 @@ KorvaleCopy& KorvaleWorld::StartedCopy(const std::string& folder) {
   return copy;
 }
 
+KorvaleCopy& KorvaleWorld::StartedAfter(WindowHandle window) {
+  KorvaleCopy& copy = StartedCopy();
+  WorkIn(window);
+  WorkIn(copy.Handle());
+  return copy;
+}
+
+void KorvaleWorld::ExpectEnded(KorvaleCopy& copy) {
+  EXPECT_FALSE(copy.Form().IsLoaded());
+  EXPECT_TRUE(hotKeys.Registered().empty());
+}
+
 void KorvaleWorld::EndCopy(KorvaleCopy& copy) {
   std::erase_if(copies_, [&](const auto& owned) { return owned.get() == &copy; });
+}
+
+void KorvaleWorld::StoreTag(int tag, const std::string& text, const std::string& className) {
+  const std::string key = std::to_string(tag);
+  store.SaveSetting("Korvale - Work", "ParentWindowList", key, "&" + key + "  " + text);
+  store.SaveSetting("Korvale - Work", "ParentWindowClass", key, className);
 }
 
 WindowHandle KorvaleWorld::Open(const std::string& title, const NewWindow& options) {

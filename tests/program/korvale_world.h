@@ -57,6 +57,12 @@ class KorvaleCopy {
   /// The loaded form of this name; fails the test when it is not loaded.
   class Form& Loaded(const std::string& name);
   int Id(class Form& form, const std::string& control, int index = -1);
+  /// The next message box reads so and goes with this answer.
+  void ExpectBox(const std::string& text, std::int16_t answer);
+  void ExpectBox(const std::string& text, const std::string& title, std::int32_t style,
+                 std::int16_t answer);
+  /// The session ends while the next message box is shown, which then goes with this answer.
+  void EndSessionAtBox(std::int16_t answer);
   /// Captions of the Window menu as the user sees them when they open it.
   std::vector<ShownMenuItem> WindowMenuItems() { return user.MenuItems(Handle(), {"Window"}); }
   /// Texts in the two fields of the strip.
@@ -87,6 +93,10 @@ class KorvaleWorld : public testing::Test {
   KorvaleCopy& NewCopy(const std::string& folder = "Work");
   /// A started copy that has been run before, so that no question is asked.
   KorvaleCopy& StartedCopy(const std::string& folder = "Work");
+  /// A started copy; the user has come from this window to its main window.
+  KorvaleCopy& StartedAfter(WindowHandle window);
+  /// The copy has taken its forms and hot keys away.
+  void ExpectEnded(KorvaleCopy& copy);
   /// Ends a copy for good, as its process does.
   void EndCopy(KorvaleCopy& copy);
 
@@ -95,6 +105,15 @@ class KorvaleWorld : public testing::Test {
   /// The user goes to a window and works there long enough to be noticed.
   void WorkIn(WindowHandle hwnd);
   void PressHotKey(std::uint32_t modifiers, std::uint32_t key);
+  void StoreOption(const std::string& key, const std::string& value) {
+    store.SaveSetting("Korvale - Work", "Options", key, value);
+  }
+  void StoreTag(int tag, const std::string& text, const std::string& className = "Window");
+  /// The hot key of a Tag, 0 for the way back, and the title that is in front then.
+  void ExpectTagLeadsTo(int tag, const std::string& title) {
+    PressTag(tag);
+    EXPECT_EQ(Front(), title) << "by Tag " << tag;
+  }
   void PressTag(int tag) { PressHotKey(win32::kModAlt, static_cast<std::uint32_t>('0' + tag)); }
   /// Lets the foreground tracking notice what has happened.
   void LetTick() { clock.Advance(200); }

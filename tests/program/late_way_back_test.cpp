@@ -43,8 +43,7 @@ TEST_F(LateWayBackTest, AMessageLeadsBackToTheSelectedWindow) {
   PressQuickly(3);
   LetItCome();
   EXPECT_EQ(Front(), "Beta");
-  PressTag(0);
-  EXPECT_EQ(Front(), "Alpha");
+  ExpectTagLeadsTo(0, "Alpha");
 }
 
 TEST_F(LateWayBackTest, AMessageLeadsBackToTheWindowLeftWhenTheSelectedOneHasGone) {
@@ -61,8 +60,7 @@ TEST_F(LateWayBackTest, EscInThePopUpLeadsBackToTheSelectedWindow) {
   EXPECT_TRUE(hotKeys.Press(win32::kModWin, 'W'));
   LetItCome();
   EXPECT_EQ(Front(), "Beta");
-  PressTag(0);
-  EXPECT_EQ(Front(), "Alpha");
+  ExpectTagLeadsTo(0, "Alpha");
 }
 
 }  // namespace

@@ -8,7 +8,7 @@ using MainWindowFrameTest = MainWindowTest;
 
 TEST_F(MainWindowFrameTest, UnderAHigherFrameItIsHigherAndNothingIsCut) {
   KorvaleCopy& korvale = NewCopy();
-  store.SaveSetting("Korvale - Work", "Options", "SplashScreen", "False");
+  StoreOption("SplashScreen", "False");
   korvale.host.SetFrame({120, 480, 240, 600}, 390);
   EXPECT_TRUE(korvale.Start());
 
@@ -22,7 +22,7 @@ TEST_F(MainWindowFrameTest, UnderAHigherFrameItIsHigherAndNothingIsCut) {
 
 TEST_F(MainWindowFrameTest, AFrameThatIsHigherByRoundingOnlyLeavesTheClassicHeights) {
   KorvaleCopy& korvale = NewCopy();
-  store.SaveSetting("Korvale - Work", "Options", "SplashScreen", "False");
+  StoreOption("SplashScreen", "False");
   // 27 and 20 pixels of 15 twips.
   korvale.host.SetFrame({60, 345, 120, 405}, 300);
   EXPECT_TRUE(korvale.Start());
@@ -33,7 +33,7 @@ TEST_F(MainWindowFrameTest, AFrameThatIsHigherByRoundingOnlyLeavesTheClassicHeig
 
 TEST_F(MainWindowFrameTest, OnAFineScreenEveryPixelOfTheFrameCounts) {
   KorvaleCopy& korvale = NewCopy();
-  store.SaveSetting("Korvale - Work", "Options", "SplashScreen", "False");
+  StoreOption("SplashScreen", "False");
   // 54 and 40 pixels of 7.5 twips.
   korvale.host.SetDpi(192);
   korvale.host.SetFrame({60, 345, 120, 405}, 300);
@@ -43,10 +43,10 @@ TEST_F(MainWindowFrameTest, OnAFineScreenEveryPixelOfTheFrameCounts) {
 
 TEST_F(MainWindowFrameTest, UnderALowerFrameTheFieldsKeepTheirHeight) {
   KorvaleCopy& korvale = NewCopy();
-  store.SaveSetting("Korvale - Work", "Options", "SplashScreen", "False");
+  StoreOption("SplashScreen", "False");
   korvale.host.SetFrame({45, 300, 90, 345}, 285);
   EXPECT_TRUE(korvale.Start());
-  EXPECT_EQ(Height(korvale), 700 + kFieldHeight + 115);
+  EXPECT_EQ(Height(korvale), 1100);
 }
 TEST_F(MainWindowFrameTest, AnotherDpiGivesItTheHeightOfTheOtherFrame) {
   KorvaleCopy& korvale = StartedCopy();

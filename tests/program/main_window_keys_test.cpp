@@ -133,14 +133,10 @@ TEST_F(MainWindowKeysTest, TurningTipsOnAsksWhetherToShowAllOfThem) {
   Store("Tips", "0110");
   Store("DisplayTips", "False");
   KorvaleCopy& korvale = StartedCopy();
-  korvale.host.WhenMessageBox([](const ShownMessage& box) {
-    EXPECT_EQ(box.text,
-              "Tip Messages are now set to be displayed.\r\rDo you want to Reset Tip Messages "
-              "(show all messages that you have previously chosen not to show) ?");
-    EXPECT_EQ(box.title, "Korvale");
-    EXPECT_EQ(box.style, 260);
-    return win32::kIdYes;
-  });
+  korvale.ExpectBox(
+      "Tip Messages are now set to be displayed.\r\rDo you want to Reset Tip Messages "
+      "(show all messages that you have previously chosen not to show) ?",
+      "Korvale", 260, win32::kIdYes);
   Choose(korvale, {"Help", "Display Tip Messages"});
   EXPECT_EQ(Stored("Tips"), "");
   EXPECT_EQ(Stored("DisplayTips"), "True");

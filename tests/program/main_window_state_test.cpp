@@ -9,7 +9,7 @@ namespace {
 class MainWindowStateTest : public MainWindowTest {
  protected:
   KorvaleCopy& UnstartedCopy() {
-    store.SaveSetting("Korvale - Work", "Options", "SplashScreen", "False");
+    StoreOption("SplashScreen", "False");
     return NewCopy();
   }
 };
@@ -47,13 +47,12 @@ TEST_F(MainWindowStateTest, AMinimizedStartLeavesTheUserWhereHeIsAndKnowsIt) {
   EXPECT_EQ(korvale.TargetWindow(), "Alpha");
 
   WorkIn(Open("Beta"));
-  PressTag(0);
-  EXPECT_EQ(Front(), "Alpha");
+  ExpectTagLeadsTo(0, "Alpha");
 }
 
 TEST_F(MainWindowStateTest, RestoredAfterAMinimizedStartItStaysInFront) {
   Store("WindowState", "1");
-  store.SaveSetting("Korvale - Work", "Options", "SelectPrevWinOnStart", "True");
+  StoreOption("SelectPrevWinOnStart", "True");
   WorkIn(Open("Alpha"));
   KorvaleCopy& korvale = StartedCopy();
   desktop.UserRestores(korvale.Handle());

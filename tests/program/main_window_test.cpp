@@ -3,29 +3,30 @@
 namespace korvale {
 namespace {
 
-TEST_F(MainWindowTest, WithMenuAndFieldsItIsAsHighAsTheyAre) {
+class StartedMainWindow : public MainWindowTest {
+ protected:
   KorvaleCopy& korvale = StartedCopy();
+};
+
+TEST_F(StartedMainWindow, WithMenuAndFieldsItIsAsHighAsTheyAre) {
   EXPECT_EQ(Height(korvale), 700 + korvale.Form().Find("txtWindow").Place().height + 115);
   EXPECT_EQ(Height(korvale), 1100);
 }
 
-TEST_F(MainWindowTest, WithTheMenuAloneItIs700TwipsHigh) {
-  KorvaleCopy& korvale = StartedCopy();
+TEST_F(StartedMainWindow, WithTheMenuAloneItIs700TwipsHigh) {
   Choose(korvale, {"View", "Target Window"});
   EXPECT_EQ(Height(korvale), 700);
   EXPECT_FALSE(IsShown(korvale, "txtWindow"));
   EXPECT_FALSE(IsShown(korvale, "txtWindowClass"));
 }
 
-TEST_F(MainWindowTest, WithTheFieldsAloneItIs300TwipsLower) {
-  KorvaleCopy& korvale = StartedCopy();
+TEST_F(StartedMainWindow, WithTheFieldsAloneItIs300TwipsLower) {
   HideMenu(korvale);
-  EXPECT_EQ(Height(korvale), 400 + kFieldHeight + 115);
+  EXPECT_EQ(Height(korvale), 800);
   EXPECT_TRUE(IsShown(korvale, "txtWindow"));
 }
 
-TEST_F(MainWindowTest, WithoutMenuAndFieldsItIs400TwipsHigh) {
-  KorvaleCopy& korvale = StartedCopy();
+TEST_F(StartedMainWindow, WithoutMenuAndFieldsItIs400TwipsHigh) {
   Choose(korvale, {"View", "Target Window"});
   HideMenu(korvale);
   EXPECT_EQ(Height(korvale), 400);
@@ -40,15 +41,13 @@ TEST_F(MainWindowTest, WithoutMenuAndFieldsItComesUpSoAgain) {
   EXPECT_FALSE(IsShown(korvale, "txtWindow"));
 }
 
-TEST_F(MainWindowTest, OnlyItsWidthCanBeChanged) {
-  KorvaleCopy& korvale = StartedCopy();
+TEST_F(StartedMainWindow, OnlyItsWidthCanBeChanged) {
   Resize(korvale, 6000, 3000);
   EXPECT_EQ(Place(korvale).width, 6000);
   EXPECT_EQ(Height(korvale), 1100);
 }
 
-TEST_F(MainWindowTest, TheUserCannotMakeItLowerOrNarrowerForAMoment) {
-  KorvaleCopy& korvale = StartedCopy();
+TEST_F(StartedMainWindow, TheUserCannotMakeItLowerOrNarrowerForAMoment) {
   const SizeLimits& limits = korvale.Form().State().limits;
   EXPECT_EQ(limits.height, 1100);
   EXPECT_EQ(limits.minimumWidth, 2640);
@@ -56,16 +55,14 @@ TEST_F(MainWindowTest, TheUserCannotMakeItLowerOrNarrowerForAMoment) {
   EXPECT_EQ(limits.height, 700);
 }
 
-TEST_F(MainWindowTest, AWidthOf2000TwipsIsRaisedTo2640) {
-  KorvaleCopy& korvale = StartedCopy();
+TEST_F(StartedMainWindow, AWidthOf2000TwipsIsRaisedTo2640) {
   Resize(korvale, 2000, 1100);
   EXPECT_EQ(Place(korvale).width, 2640);
   Resize(korvale, 2640, 1100);
   EXPECT_EQ(Place(korvale).width, 2640);
 }
 
-TEST_F(MainWindowTest, TheFieldsShareTheWidthSideBySide) {
-  KorvaleCopy& korvale = StartedCopy();
+TEST_F(StartedMainWindow, TheFieldsShareTheWidthSideBySide) {
   Resize(korvale, 2640, 1100);
   const TwipsRect title = korvale.user.Place(korvale.Handle(), Field(korvale));
   const TwipsRect name = korvale.user.Place(korvale.Handle(), Field(korvale, "txtWindowClass"));
@@ -75,8 +72,7 @@ TEST_F(MainWindowTest, TheFieldsShareTheWidthSideBySide) {
   EXPECT_LE(name.left + name.width, 2640 - 90);
 }
 
-TEST_F(MainWindowTest, TheNewWidthIsStoredByTheNextMenuCommand) {
-  KorvaleCopy& korvale = StartedCopy();
+TEST_F(StartedMainWindow, TheNewWidthIsStoredByTheNextMenuCommand) {
   Resize(korvale, 6000, 1100);
   Choose(korvale, {"View", "Target Window"});
   Choose(korvale, {"View", "Target Window"});
@@ -86,8 +82,7 @@ TEST_F(MainWindowTest, TheNewWidthIsStoredByTheNextMenuCommand) {
   EXPECT_EQ(Stored("Height"), "1100");
 }
 
-TEST_F(MainWindowTest, ThePlaceToWhichItWasDraggedIsStoredAtTheEnd) {
-  KorvaleCopy& korvale = StartedCopy();
+TEST_F(StartedMainWindow, ThePlaceToWhichItWasDraggedIsStoredAtTheEnd) {
   TwipsRect place = Place(korvale);
   place.left = 4500;
   place.top = 3000;
@@ -114,8 +109,7 @@ TEST_F(MainWindowTest, APlaceOnAFarMonitorIsStoredAndComesBack) {
   EXPECT_EQ(Place(second), (TwipsRect{60000, 33000, 90000, 1100}));
 }
 
-TEST_F(MainWindowTest, ThePlaceToWhichItWasDraggedIsKeptWhileItIsMaximized) {
-  KorvaleCopy& korvale = StartedCopy();
+TEST_F(StartedMainWindow, ThePlaceToWhichItWasDraggedIsKeptWhileItIsMaximized) {
   TwipsRect place = Place(korvale);
   place.left = 4500;
   korvale.user.Drag(korvale.Handle(), place);
@@ -124,21 +118,14 @@ TEST_F(MainWindowTest, ThePlaceToWhichItWasDraggedIsKeptWhileItIsMaximized) {
   EXPECT_EQ(Stored("Left"), "4500");
 }
 
-TEST_F(MainWindowTest, ARefusedSaveIsToldAndTheCommandGoesOn) {
-  KorvaleCopy& korvale = StartedCopy();
-  std::string told;
-  korvale.host.WhenMessageBox([&](const ShownMessage& box) {
-    told = box.text;
-    return win32::kIdOk;
-  });
+TEST_F(StartedMainWindow, ARefusedSaveIsToldAndTheCommandGoesOn) {
+  korvale.ExpectBox("VB ERROR 70 - Permission denied\r\rKorvale Error #5", win32::kIdOk);
   store.RefuseWrites(true);
   Choose(korvale, {"View", "Target Window"});
-  EXPECT_EQ(told, "VB ERROR 70 - Permission denied\r\rKorvale Error #5");
   EXPECT_EQ(Height(korvale), 700);
 }
 
-TEST_F(MainWindowTest, MaximizedItRemembersTheSizeThatItHadBefore) {
-  KorvaleCopy& korvale = StartedCopy();
+TEST_F(StartedMainWindow, MaximizedItRemembersTheSizeThatItHadBefore) {
   Resize(korvale, 6000, 1100);
   desktop.ShowWindow(korvale.Handle(), win32::kSwMaximize);
   EXPECT_EQ(korvale.Startup().WindowState, 2);
@@ -146,16 +133,14 @@ TEST_F(MainWindowTest, MaximizedItRemembersTheSizeThatItHadBefore) {
   EXPECT_EQ(korvale.Startup().Height, 1100);
 }
 
-TEST_F(MainWindowTest, MaximizedItIsAsWideAsTheMonitorAndNoHigher) {
-  KorvaleCopy& korvale = StartedCopy();
+TEST_F(StartedMainWindow, MaximizedItIsAsWideAsTheMonitorAndNoHigher) {
   korvale.host.SetWorkArea({0, 0, 20000, 12000});
   desktop.ShowWindow(korvale.Handle(), win32::kSwMaximize);
   EXPECT_EQ(korvale.Form().Place().width, 20000);
   EXPECT_EQ(korvale.Form().Place().height, 1100);
 }
 
-TEST_F(MainWindowTest, MaximizedItsHeightFollowsWhatItShows) {
-  KorvaleCopy& korvale = StartedCopy();
+TEST_F(StartedMainWindow, MaximizedItsHeightFollowsWhatItShows) {
   desktop.ShowWindow(korvale.Handle(), win32::kSwMaximize);
   Choose(korvale, {"View", "Target Window"});
   EXPECT_EQ(Height(korvale), 700);
@@ -171,8 +156,7 @@ TEST_F(MainWindowTest, AnyResizePutsItOnTopAnew) {
   EXPECT_FALSE(log.CallsOf("SetWindowPos(frmMain, HWND_TOPMOST, 0, 0, 0, 0, 3)").empty());
 }
 
-TEST_F(MainWindowTest, AResizeLeavesItsRankAloneWhenItIsNotAlwaysOnTop) {
-  KorvaleCopy& korvale = StartedCopy();
+TEST_F(StartedMainWindow, AResizeLeavesItsRankAloneWhenItIsNotAlwaysOnTop) {
   Resize(korvale, 6000, 1100);
   EXPECT_TRUE(log.CallsOf("SetWindowPos").empty());
 }
@@ -185,23 +169,17 @@ TEST_F(MainWindowTest, MinimizingIsNoResize) {
   EXPECT_EQ(korvale.Startup().Height, 1100);
 }
 
-TEST_F(MainWindowTest, HidingTheMenuAsksFirst) {
-  KorvaleCopy& korvale = StartedCopy();
-  korvale.host.WhenMessageBox([](const ShownMessage& box) {
-    EXPECT_EQ(box.text,
-              "CAUTION:  This will hide the menu.  The only way of accessing the hidden menu is by "
-              "(Alt+V), (Alt+T), (Alt+W) or (Alt+H).");
-    EXPECT_EQ(box.title, "Korvale");
-    EXPECT_EQ(box.style, 257);
-    return win32::kIdOk;
-  });
+TEST_F(StartedMainWindow, HidingTheMenuAsksFirst) {
+  korvale.ExpectBox(
+      "CAUTION:  This will hide the menu.  The only way of accessing the hidden menu is by "
+      "(Alt+V), (Alt+T), (Alt+W) or (Alt+H).",
+      "Korvale", 257, win32::kIdOk);
   Choose(korvale, {"View", "Menu"});
   EXPECT_FALSE(MenuIsShown(korvale));
   EXPECT_EQ(Stored("Menu"), "False");
 }
 
-TEST_F(MainWindowTest, CancelKeepsTheMenuAndTheHeight) {
-  KorvaleCopy& korvale = StartedCopy();
+TEST_F(StartedMainWindow, CancelKeepsTheMenuAndTheHeight) {
   korvale.host.AnswerNext(win32::kIdCancel);
   Choose(korvale, {"View", "Menu"});
   EXPECT_TRUE(MenuIsShown(korvale));
@@ -236,8 +214,7 @@ TEST_F(MainWindowTest, AMenuShownForAMomentHasRoomWhileItIsShown) {
   EXPECT_EQ(Stored("Menu"), "False");
 }
 
-TEST_F(MainWindowTest, TheTargetWindowCommandTogglesCheckFieldsAndSetting) {
-  KorvaleCopy& korvale = StartedCopy();
+TEST_F(StartedMainWindow, TheTargetWindowCommandTogglesCheckFieldsAndSetting) {
   EXPECT_TRUE(IsChecked(korvale, "View", "Target Window"));
   Choose(korvale, {"View", "Target Window"});
   EXPECT_FALSE(IsChecked(korvale, "View", "Target Window"));
@@ -259,8 +236,7 @@ TEST_F(MainWindowTest, DefaultColorsGoToTheFieldsAndTheStore) {
   EXPECT_EQ(Stored("WI2BackColor"), "11468718");
 }
 
-TEST_F(MainWindowTest, TheFieldsAreNamedForScreenReadersAndReadOnly) {
-  KorvaleCopy& korvale = StartedCopy();
+TEST_F(StartedMainWindow, TheFieldsAreNamedForScreenReadersAndReadOnly) {
   const auto before = [&](const char* field) {
     return korvale.user.Look(korvale.Handle(), Field(korvale, field) - 1);
   };

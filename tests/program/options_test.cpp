@@ -22,8 +22,24 @@ clsOptions EverythingChanged() {
 
 using OptionsExchangeInProgram = StartTest;
 
-TEST_F(OptionsExchangeInProgram, TheDialogShowsTheRecordOnTheRememberedTab) {
+class StartedOptionsExchange : public StartTest {
+ protected:
   KorvaleCopy& korvale = StartedCopy();
+};
+
+class OpenOptionsInProgram : public StartedOptionsExchange {
+ protected:
+  OpenOptionsInProgram() { PressHotKey(8, 79); }
+
+  class Form& Dialog() {
+    return korvale.Loaded("frmOptions");
+  }
+  void Click(const char* button) {
+    korvale.user.Click(Dialog().Handle(), korvale.Id(Dialog(), button));
+  }
+};
+
+TEST_F(StartedOptionsExchange, TheDialogShowsTheRecordOnTheRememberedTab) {
   korvale.Options() = EverythingChanged();
   korvale.Startup().OptionsTab = 3;
 
@@ -36,8 +52,7 @@ TEST_F(OptionsExchangeInProgram, TheDialogShowsTheRecordOnTheRememberedTab) {
   EXPECT_EQ(korvale.user.Value(dialog.Handle(), korvale.Id(dialog, "chkHotKeyParent", 0)), 0);
 }
 
-TEST_F(OptionsExchangeInProgram, TheRecordTakesEveryFieldOfTheDialog) {
-  KorvaleCopy& korvale = StartedCopy();
+TEST_F(StartedOptionsExchange, TheRecordTakesEveryFieldOfTheDialog) {
   clsOptions& record = korvale.Options();
   record = EverythingChanged();
   korvale.Form().udmOptions("LOAD_AND_OR_REFRESH");
@@ -48,8 +63,7 @@ TEST_F(OptionsExchangeInProgram, TheRecordTakesEveryFieldOfTheDialog) {
   EXPECT_EQ(record, EverythingChanged());
 }
 
-TEST_F(OptionsExchangeInProgram, AnOpenDialogIsFilledAnew) {
-  KorvaleCopy& korvale = StartedCopy();
+TEST_F(StartedOptionsExchange, AnOpenDialogIsFilledAnew) {
   korvale.Form().udmOptions("LOAD_AND_OR_REFRESH");
   const WindowHandle before = korvale.Loaded("frmOptions").Handle();
   korvale.Options() = EverythingChanged();
@@ -62,8 +76,7 @@ TEST_F(OptionsExchangeInProgram, AnOpenDialogIsFilledAnew) {
   EXPECT_EQ(korvale.Options(), EverythingChanged());
 }
 
-TEST_F(OptionsExchangeInProgram, AnyOtherModeDoesNothing) {
-  KorvaleCopy& korvale = StartedCopy();
+TEST_F(StartedOptionsExchange, AnyOtherModeDoesNothing) {
   korvale.Form().udmOptions("load_and_or_refresh");
   EXPECT_EQ(korvale.FindForm("frmOptions"), nullptr);
 }
@@ -72,7 +85,7 @@ TEST_F(OptionsExchangeInProgram, AKeyOfZeroLeavesEachOperationWithoutAHotKey) {
   KorvaleCopy& korvale = UsedCopy();
   for (const char* const key :
        {"HotKeyAction0", "HotKeyAction1", "HotKeyGeneral0", "HotKeyGeneral1", "HotKeyGeneral2"}) {
-    store.SaveSetting("Korvale - Work", "Options", key, "0");
+    StoreOption(key, "0");
   }
   EXPECT_TRUE(korvale.Start());
   EXPECT_EQ(hotKeys.Registered().size(), 10U);
@@ -86,8 +99,7 @@ TEST_F(OptionsExchangeInProgram, PauseTogglesWithoutAModifier) {
   EXPECT_EQ(hotKeys.Registered().size(), 15U);
 }
 
-TEST_F(OptionsExchangeInProgram, TheToggleTellsAnewWhichHotKeysAreNotAvailable) {
-  KorvaleCopy& korvale = StartedCopy();
+TEST_F(StartedOptionsExchange, TheToggleTellsAnewWhichHotKeysAreNotAvailable) {
   const auto open = [&] { korvale.Form().udmOptions("LOAD_AND_OR_REFRESH"); };
   const auto line = [&]() -> std::string {
     const Control& conflicts = korvale.Loaded("frmOptions").Find("lblConflicts");
@@ -114,8 +126,7 @@ TEST_F(OptionsExchangeInProgram, TheToggleTellsAnewWhichHotKeysAreNotAvailable) 
   EXPECT_EQ(line(), "(none)");
 }
 
-TEST_F(OptionsExchangeInProgram, TheHotKeyBringsTheDialogBackThatWentWithTheMinimizedStrip) {
-  KorvaleCopy& korvale = StartedCopy();
+TEST_F(StartedOptionsExchange, TheHotKeyBringsTheDialogBackThatWentWithTheMinimizedStrip) {
   PressHotKey(8, 79);
   const WindowHandle dialog = korvale.Loaded("frmOptions").Handle();
   WorkIn(Open("Alpha"));
@@ -128,36 +139,28 @@ TEST_F(OptionsExchangeInProgram, TheHotKeyBringsTheDialogBackThatWentWithTheMini
   EXPECT_EQ(desktop.GetForegroundWindow(), dialog);
 }
 
-TEST_F(OptionsExchangeInProgram, ItsQuestionsAreItsOwn) {
-  KorvaleCopy& korvale = StartedCopy();
-  PressHotKey(8, 79);
-  class Form& dialog = korvale.Loaded("frmOptions");
+TEST_F(OpenOptionsInProgram, ItsQuestionsAreItsOwn) {
   WindowHandle owner = 0;
   korvale.host.WhenMessageBox([&](const ShownMessage& box) {
     owner = box.owner;
     return win32::kIdCancel;
   });
-  korvale.user.Click(dialog.Handle(), korvale.Id(dialog, "cmdReset"));
-  EXPECT_EQ(owner, dialog.Handle());
+  Click("cmdReset");
+  EXPECT_EQ(owner, Dialog().Handle());
 }
 
-TEST_F(OptionsExchangeInProgram, TheSessionCanEndWhileItAsks) {
-  KorvaleCopy& korvale = StartedCopy();
-  store.SaveSetting("Korvale - Work", "Options", "HotKeyModParent", "2");
+TEST_F(StartedOptionsExchange, TheSessionCanEndWhileItAsks) {
+  StoreOption("HotKeyModParent", "2");
   PressHotKey(8, 79);
   class Form& dialog = korvale.Loaded("frmOptions");
-  korvale.host.WhenMessageBox([&](const ShownMessage&) {
-    korvale.Form().OnCloseRequested(CloseReason::kSession);
-    return win32::kIdOk;
-  });
+  korvale.EndSessionAtBox(win32::kIdOk);
   korvale.user.Click(dialog.Handle(), korvale.Id(dialog, "cmdReset"));
   EXPECT_FALSE(korvale.Form().IsLoaded());
   EXPECT_EQ(Stored("Options", "HotKeyModParent"), "2");
   EXPECT_TRUE(hotKeys.Registered().empty());
 }
 
-TEST_F(OptionsExchangeInProgram, TheSessionCanEndWhileItTellsThatTheHotKeysAreOnAgain) {
-  KorvaleCopy& korvale = StartedCopy();
+TEST_F(StartedOptionsExchange, TheSessionCanEndWhileItTellsThatTheHotKeysAreOnAgain) {
   PressHotKey(0, 19);
   korvale.Form().udmOptions("LOAD_AND_OR_REFRESH");
   class Form& dialog = korvale.Loaded("frmOptions");
@@ -169,14 +172,10 @@ TEST_F(OptionsExchangeInProgram, TheSessionCanEndWhileItTellsThatTheHotKeysAreOn
   });
   korvale.user.Click(dialog.Handle(), korvale.Id(dialog, "cmdApply"));
   EXPECT_EQ(boxes, 1);
-  EXPECT_FALSE(korvale.Form().IsLoaded());
-  EXPECT_TRUE(hotKeys.Registered().empty());
+  ExpectEnded(korvale);
 }
 
-TEST_F(OptionsExchangeInProgram, TheSessionCanEndWhileItTellsOfARefusedSave) {
-  KorvaleCopy& korvale = StartedCopy();
-  PressHotKey(8, 79);
-  class Form& dialog = korvale.Loaded("frmOptions");
+TEST_F(OpenOptionsInProgram, TheSessionCanEndWhileItTellsOfARefusedSave) {
   store.RefuseWrites(true);
   std::vector<std::string> told;
   korvale.host.WhenMessageBox([&](const ShownMessage& box) {
@@ -184,19 +183,15 @@ TEST_F(OptionsExchangeInProgram, TheSessionCanEndWhileItTellsOfARefusedSave) {
     korvale.Form().OnCloseRequested(CloseReason::kSession);
     return win32::kIdOk;
   });
-  korvale.user.Click(dialog.Handle(), korvale.Id(dialog, "cmdApply"));
+  Click("cmdApply");
   EXPECT_EQ(told, std::vector<std::string>{"VB ERROR 70 - Permission denied\r\rKorvale Error #5"});
-  EXPECT_FALSE(korvale.Form().IsLoaded());
-  EXPECT_TRUE(hotKeys.Registered().empty());
+  ExpectEnded(korvale);
 }
 
-TEST_F(OptionsExchangeInProgram, ApplySavesTheOptionsAndThenTheStateAsOne) {
-  KorvaleCopy& korvale = StartedCopy();
-  PressHotKey(8, 79);
-  class Form& dialog = korvale.Loaded("frmOptions");
+TEST_F(OpenOptionsInProgram, ApplySavesTheOptionsAndThenTheStateAsOne) {
   store.SaveSetting("Korvale - Work", "Startup", "Menu", "True");
   log.Clear();
-  korvale.user.Click(dialog.Handle(), korvale.Id(dialog, "cmdApply"));
+  Click("cmdApply");
   const std::vector<std::string> steps = {"SaveSetting(Korvale - Work, Options",
                                           "DeleteSection(Korvale - Work, Startup",
                                           "SaveSetting(Korvale - Work, Startup"};
@@ -204,9 +199,8 @@ TEST_F(OptionsExchangeInProgram, ApplySavesTheOptionsAndThenTheStateAsOne) {
   EXPECT_EQ(log.CallsOf("SaveSetting(Korvale - Work, Saving, Complete").size(), 1U);
 }
 
-TEST_F(OptionsExchangeInProgram, AResetThatTheStoreRefusesIsTold) {
-  KorvaleCopy& korvale = StartedCopy();
-  store.SaveSetting("Korvale - Work", "Options", "HotKeyModParent", "2");
+TEST_F(StartedOptionsExchange, AResetThatTheStoreRefusesIsTold) {
+  StoreOption("HotKeyModParent", "2");
   PressHotKey(8, 79);
   class Form& dialog = korvale.Loaded("frmOptions");
   store.RefuseWrites(true);
@@ -222,8 +216,7 @@ TEST_F(OptionsExchangeInProgram, AResetThatTheStoreRefusesIsTold) {
   EXPECT_EQ(told, "VB ERROR 70 - Permission denied\r\rKorvale Error #5");
 }
 
-TEST_F(OptionsExchangeInProgram, AMessageBelongsToTheStripWhileTheDialogIsHiddenWithIt) {
-  KorvaleCopy& korvale = StartedCopy();
+TEST_F(StartedOptionsExchange, AMessageBelongsToTheStripWhileTheDialogIsHiddenWithIt) {
   PressHotKey(8, 79);
   desktop.UserMinimizes(korvale.Handle());
   WindowHandle owner = 0;
@@ -235,8 +228,7 @@ TEST_F(OptionsExchangeInProgram, AMessageBelongsToTheStripWhileTheDialogIsHidden
   EXPECT_EQ(owner, korvale.Handle());
 }
 
-TEST_F(OptionsExchangeInProgram, TheProgramDoesNotEndUnderTheColorDialog) {
-  KorvaleCopy& korvale = StartedCopy();
+TEST_F(StartedOptionsExchange, TheProgramDoesNotEndUnderTheColorDialog) {
   korvale.host.WhenColorDialog([&](Color) -> std::optional<Color> {
     korvale.Form().OnCloseRequested(CloseReason::kUser);
     EXPECT_TRUE(korvale.Form().IsLoaded());
@@ -245,10 +237,7 @@ TEST_F(OptionsExchangeInProgram, TheProgramDoesNotEndUnderTheColorDialog) {
   korvale.Form().udmShowColorPalette(0);
 }
 
-TEST_F(OptionsExchangeInProgram, NothingOfOursTakesInputBesideTheColorDialog) {
-  KorvaleCopy& korvale = StartedCopy();
-  PressHotKey(8, 79);
-  class Form& dialog = korvale.Loaded("frmOptions");
+TEST_F(OpenOptionsInProgram, NothingOfOursTakesInputBesideTheColorDialog) {
   bool mainEnabled = true;
   bool mainEnabledAfterNotice = true;
   std::string notice;
@@ -267,7 +256,7 @@ TEST_F(OptionsExchangeInProgram, NothingOfOursTakesInputBesideTheColorDialog) {
   EXPECT_FALSE(mainEnabledAfterNotice);
   EXPECT_TRUE(notice.starts_with("Hot Keys are temporarily suspended")) << notice;
   EXPECT_TRUE(desktop.IsWindowEnabled(korvale.Handle()));
-  EXPECT_TRUE(desktop.IsWindowEnabled(dialog.Handle()));
+  EXPECT_TRUE(desktop.IsWindowEnabled(Dialog().Handle()));
 }
 
 }  // namespace

@@ -28,7 +28,7 @@ class OptionsUseTest : public StartTest {
   /// A copy whose Tags are selected with Ctrl, and whose window is 6000 twips wide.
   KorvaleCopy& CopyWithCtrl() {
     KorvaleCopy& copy = UsedCopy();
-    store.SaveSetting("Korvale - Work", "Options", "HotKeyModParent", "2");
+    StoreOption("HotKeyModParent", "2");
     store.SaveSetting("Korvale - Work", "Startup", "Width", "6000");
     store.SaveSetting("Korvale - Work", "Startup", "Tips", "01");
     EXPECT_TRUE(copy.Start());

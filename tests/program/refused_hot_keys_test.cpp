@@ -29,7 +29,7 @@ TEST_F(RefusedHotKeys, LeaveTheWindowBeforeAsThePreviousOneAndInFrontWhenItIsSel
   hotKeys.StartShell();
   WorkIn(Open("Alpha"));
   KorvaleCopy& korvale = UsedCopy();
-  store.SaveSetting("Korvale - Work", "Options", "SelectPrevWinOnStart", "True");
+  StoreOption("SelectPrevWinOnStart", "True");
   std::string tip;
   ReadTip(korvale, tip);
 
@@ -72,8 +72,8 @@ TEST_F(RefusedHotKeys, AreTipNumber18WhichTheUserCanSilence) {
 }
 
 TEST_F(RefusedHotKeys, AreNotWhatTheUserChoseTwice) {
-  store.SaveSetting("Korvale - Work", "Options", "HotKeyModAction0", "0");
-  store.SaveSetting("Korvale - Work", "Options", "HotKeyAction0", "19");
+  StoreOption("HotKeyModAction0", "0");
+  StoreOption("HotKeyAction0", "19");
   EXPECT_TRUE(UsedCopy().Start());
 }
 

@@ -10,13 +10,9 @@ using RefusalTest = StartTest;
 TEST_F(RefusalTest, ARefusedSaveIsToldAndTheHotKeysAreGivenBackAllTheSame) {
   KorvaleCopy& korvale = StartedCopy();
   store.RefuseWrites(true);
-  korvale.host.WhenMessageBox([](const ShownMessage& box) {
-    EXPECT_EQ(box.text, "VB ERROR 70 - Permission denied\r\rKorvale Error #5");
-    return win32::kIdOk;
-  });
+  korvale.ExpectBox("VB ERROR 70 - Permission denied\r\rKorvale Error #5", win32::kIdOk);
   korvale.Exit();
-  EXPECT_TRUE(hotKeys.Registered().empty());
-  EXPECT_FALSE(korvale.Form().IsLoaded());
+  ExpectEnded(korvale);
 }
 
 TEST_F(RefusalTest, ARefusedSaveHoldsUpNoSessionAndNoTaskKiller) {
@@ -26,24 +22,20 @@ TEST_F(RefusalTest, ARefusedSaveHoldsUpNoSessionAndNoTaskKiller) {
     store.RefuseWrites(true);
     korvale.Form().OnCloseRequested(reason);
     EXPECT_TRUE(korvale.host.Messages().empty());
-    EXPECT_TRUE(hotKeys.Registered().empty());
-    EXPECT_FALSE(korvale.Form().IsLoaded());
+    ExpectEnded(korvale);
     EndCopy(korvale);
   }
 }
 
 TEST_F(RefusalTest, ARefusalIsToldOnceARun) {
   const WindowHandle alpha = Open("Alpha");
-  KorvaleCopy& korvale = StartedCopy();
-  WorkIn(alpha);
-  WorkIn(korvale.Handle());
+  KorvaleCopy& korvale = StartedAfter(alpha);
   korvale.TagPrevious();
   store.RefuseWrites(true);
   korvale.host.AnswerNext(win32::kIdOk);
   for (int press = 0; press < 3; ++press) {
     WorkIn(Open("Beta"));
-    PressTag(1);
-    EXPECT_EQ(Front(), "Alpha");
+    ExpectTagLeadsTo(1, "Alpha");
   }
   korvale.Exit();
   EXPECT_EQ(korvale.host.Messages().size(), 1U);

@@ -24,10 +24,7 @@ TEST_F(SecondStartTest, AHolderOfTheLockWithoutAWindowIsToldAtOnce) {
   ASSERT_TRUE(lock.TryHold(0));
   int waits = 0;
   session->WhenWaiting([&] { ++waits; });
-  second.host.WhenMessageBox([](const ShownMessage& box) {
-    EXPECT_EQ(box.text, "'Korvale - Work' is already open.");
-    return win32::kIdOk;
-  });
+  second.ExpectBox("'Korvale - Work' is already open.", win32::kIdOk);
 
   EXPECT_FALSE(second.Start());
 
@@ -135,10 +132,7 @@ TEST_F(SecondStartTest, AStartThroughTheRootOfAShareBringsTheRunningCopyForward)
   second.system.executablePath = "\\\\server\\tool\\Korvale.exe";
   int waits = 0;
   session->WhenWaiting([&] { ++waits; });
-  second.host.WhenMessageBox([](const ShownMessage& box) {
-    EXPECT_EQ(box.text, "'Korvale - tool' is already open.");
-    return win32::kIdOk;
-  });
+  second.ExpectBox("'Korvale - tool' is already open.", win32::kIdOk);
   EXPECT_FALSE(second.Start());
   EXPECT_EQ(waits, 0);
   EXPECT_FALSE(desktop.IsIconic(first.Handle()));

@@ -10,9 +10,7 @@ using ShutdownTest = StartTest;
 
 TEST_F(ShutdownTest, ShutdownKeepsItsOrder) {
   const WindowHandle alpha = Open("Alpha");
-  KorvaleCopy& korvale = StartedCopy();
-  WorkIn(alpha);
-  WorkIn(korvale.Handle());
+  KorvaleCopy& korvale = StartedAfter(alpha);
   korvale.TagPrevious();
   desktop.Close(alpha);
   korvale.Form().udmOptions("LOAD_AND_OR_REFRESH");
@@ -44,9 +42,12 @@ TEST_F(ShutdownTest, ShutdownKeepsItsOrder) {
   EXPECT_FALSE(korvale.HasOptions());
 }
 
-TEST_F(ShutdownTest, EveryHotKeyIsGivenBackAndNoOptionStored) {
+class ShutdownOfStarted : public ShutdownTest {
+ protected:
   KorvaleCopy& korvale = StartedCopy();
+};
 
+TEST_F(ShutdownOfStarted, EveryHotKeyIsGivenBackAndNoOptionStored) {
   korvale.Exit();
 
   EXPECT_TRUE(hotKeys.Registered().empty());
@@ -57,9 +58,7 @@ TEST_F(ShutdownTest, EveryHotKeyIsGivenBackAndNoOptionStored) {
 
 TEST_F(ShutdownTest, AShutdownThatIsNotNormalSavesNothing) {
   const WindowHandle alpha = Open("Alpha");
-  KorvaleCopy& korvale = StartedCopy();
-  WorkIn(alpha);
-  WorkIn(korvale.Handle());
+  KorvaleCopy& korvale = StartedAfter(alpha);
   korvale.TagPrevious();
   desktop.Close(alpha);
   log.Clear();
@@ -73,8 +72,7 @@ TEST_F(ShutdownTest, AShutdownThatIsNotNormalSavesNothing) {
   EXPECT_FALSE(korvale.HasOptions());
 }
 
-TEST_F(ShutdownTest, ItHappensOnce) {
-  KorvaleCopy& korvale = StartedCopy();
+TEST_F(ShutdownOfStarted, ItHappensOnce) {
   korvale.Form().udmUnload(true);
   log.Clear();
 
@@ -98,16 +96,13 @@ TEST_F(ShutdownTest, TheCloseBoxAndAltF4AreExits) {
   }
 }
 
-TEST_F(ShutdownTest, ClosingTheHiddenOwnerEndsTheProgramAsAnExitDoes) {
-  KorvaleCopy& korvale = StartedCopy();
+TEST_F(ShutdownOfStarted, ClosingTheHiddenOwnerEndsTheProgramAsAnExitDoes) {
   korvale.user.CloseOwner(korvale.Handle());
   EXPECT_FALSE(log.CallsOf("SaveSetting(Korvale - Work, Startup").empty());
-  EXPECT_TRUE(hotKeys.Registered().empty());
-  EXPECT_FALSE(korvale.Form().IsLoaded());
+  ExpectEnded(korvale);
 }
 
-TEST_F(ShutdownTest, ClosingTheHiddenOwnerEndsTheProgramDuringATipToo) {
-  KorvaleCopy& korvale = StartedCopy();
+TEST_F(ShutdownOfStarted, ClosingTheHiddenOwnerEndsTheProgramDuringATipToo) {
   korvale.host.WhenModal("frmMsgTip",
                          [&](class Form&) { korvale.user.CloseOwner(korvale.Handle()); });
   korvale.Form().mnuToolsToggleHotKeys_Click();
@@ -115,13 +110,11 @@ TEST_F(ShutdownTest, ClosingTheHiddenOwnerEndsTheProgramDuringATipToo) {
   EXPECT_FALSE(log.CallsOf("SaveSetting(Korvale - Work, Startup").empty());
 }
 
-TEST_F(ShutdownTest, AThreadThatIsToldToQuitEndsAsAnExitDoes) {
-  KorvaleCopy& korvale = StartedCopy();
+TEST_F(ShutdownOfStarted, AThreadThatIsToldToQuitEndsAsAnExitDoes) {
   korvale.host.WhenWaiting([&] { korvale.user.QuitThread(); });
   korvale.program.Run();
   EXPECT_FALSE(log.CallsOf("SaveSetting(Korvale - Work, Startup").empty());
-  EXPECT_TRUE(hotKeys.Registered().empty());
-  EXPECT_FALSE(korvale.Form().IsLoaded());
+  ExpectEnded(korvale);
 }
 
 TEST_F(ShutdownTest, AThreadThatIsToldToQuitDuringTheImportQuestionStoresNothing) {
@@ -136,24 +129,17 @@ TEST_F(ShutdownTest, AThreadThatIsToldToQuitDuringTheImportQuestionStoresNothing
   EXPECT_FALSE(korvale.Start());
 
   EXPECT_TRUE(store.Sections("Korvale - Work").empty());
-  EXPECT_FALSE(korvale.Form().IsLoaded());
-  EXPECT_TRUE(hotKeys.Registered().empty());
+  ExpectEnded(korvale);
 }
 
-TEST_F(ShutdownTest, TheSessionCanEndWhileAMessageBoxIsShown) {
-  KorvaleCopy& korvale = StartedCopy();
-  korvale.host.WhenMessageBox([&](const ShownMessage&) {
-    korvale.Form().OnCloseRequested(CloseReason::kSession);
-    return win32::kIdOk;
-  });
+TEST_F(ShutdownOfStarted, TheSessionCanEndWhileAMessageBoxIsShown) {
+  korvale.EndSessionAtBox(win32::kIdOk);
   korvale.ChooseLate("mnuWindowAddToList", 2);
-  EXPECT_FALSE(korvale.Form().IsLoaded());
-  EXPECT_TRUE(hotKeys.Registered().empty());
+  ExpectEnded(korvale);
   EXPECT_FALSE(clock.AdvanceToNextTick());
 }
 
-TEST_F(ShutdownTest, TheSessionCanEndWhileTheTipOfTheToggleIsShown) {
-  KorvaleCopy& korvale = StartedCopy();
+TEST_F(ShutdownOfStarted, TheSessionCanEndWhileTheTipOfTheToggleIsShown) {
   korvale.host.WhenModal("frmMsgTip", [&](class Form&) {
     korvale.Form().OnCloseRequested(CloseReason::kSession);
     log.Clear();
@@ -163,18 +149,11 @@ TEST_F(ShutdownTest, TheSessionCanEndWhileTheTipOfTheToggleIsShown) {
   EXPECT_TRUE(log.CallsOf("UnregisterHotKey").empty());
 }
 
-TEST_F(ShutdownTest, AnyErrorOfASaveLeavesTheHotKeysGivenBack) {
-  KorvaleCopy& korvale = StartedCopy();
-  std::string told;
-  korvale.host.WhenMessageBox([&](const ShownMessage& box) {
-    told = box.text;
-    return win32::kIdOk;
-  });
+TEST_F(ShutdownOfStarted, AnyErrorOfASaveLeavesTheHotKeysGivenBack) {
+  korvale.ExpectBox("VB ERROR 51 - Internal error\r\rKorvale Error #5", win32::kIdOk);
   log.WhenCalled("SaveSetting", [] { throw std::runtime_error("broken"); });
   korvale.Exit();
-  EXPECT_EQ(told, "VB ERROR 51 - Internal error\r\rKorvale Error #5");
-  EXPECT_TRUE(hotKeys.Registered().empty());
-  EXPECT_FALSE(korvale.Form().IsLoaded());
+  ExpectEnded(korvale);
 }
 
 TEST_F(ShutdownTest, AStoreThatCannotBeReadLeavesTheHotKeysGivenBack) {
@@ -190,9 +169,7 @@ TEST_F(ShutdownTest, AStoreThatCannotBeReadLeavesTheHotKeysGivenBack) {
 
 TEST_F(ShutdownTest, TagsOfClosedWindowsStayStoredButLeaveTheMenuAtShutdown) {
   const WindowHandle alpha = Open("Alpha");
-  KorvaleCopy& korvale = StartedCopy();
-  WorkIn(alpha);
-  WorkIn(korvale.Handle());
+  KorvaleCopy& korvale = StartedAfter(alpha);
   korvale.TagPrevious();
   desktop.Close(alpha);
   LetTick();
@@ -203,8 +180,7 @@ TEST_F(ShutdownTest, TagsOfClosedWindowsStayStoredButLeaveTheMenuAtShutdown) {
   EXPECT_EQ(korvale.TagEntry(1), nullptr);
 }
 
-TEST_F(ShutdownTest, TheEndOfTheSessionUnloadsNormally) {
-  KorvaleCopy& korvale = StartedCopy();
+TEST_F(ShutdownOfStarted, TheEndOfTheSessionUnloadsNormally) {
   korvale.Form().OnCloseRequested(CloseReason::kSession);
   EXPECT_FALSE(log.CallsOf("SaveSetting(Korvale - Work, Startup").empty());
   EXPECT_TRUE(hotKeys.Registered().empty());
@@ -230,10 +206,7 @@ TEST_F(ShutdownTest, ASessionThatEndsDuringTheImportQuestionLeavesTheSettingsAlo
   store.SaveSetting("Korvale Installations", "0", "Korvale - Old", "C:\\Gone\\Old");
   store.SaveSetting("Korvale - Old", "Options", "SplashScreen", "False");
   KorvaleCopy& korvale = NewCopy();
-  korvale.host.WhenMessageBox([&](const ShownMessage&) {
-    korvale.Form().OnCloseRequested(CloseReason::kSession);
-    return win32::kIdNo;
-  });
+  korvale.EndSessionAtBox(win32::kIdNo);
 
   EXPECT_FALSE(korvale.Start());
 

@@ -9,9 +9,9 @@
 #include <utility>
 #include <vector>
 
-#include "app/core/stored_tags.h"
 #include "desktop/previous_window.h"
 #include "tests/program/dice.h"
+#include "tests/program/kept.h"
 #include "tests/program/korvale_world.h"
 #include "tests/program/simulated_programs.h"
 #include "tests/program/worked_in.h"
@@ -29,14 +29,6 @@ class SimulatedLife : public KorvaleWorld {
   struct Step {
     int weight;
     void (SimulatedLife::*act)();
-  };
-  /// Everything that is kept between runs.
-  struct Kept {
-    clsOptions options;
-    StartupSettings startup;
-    StoredTagList tags;
-
-    friend bool operator==(const Kept&, const Kept&) = default;
   };
   /// What a selection may depend on, right before it.
   struct Before {
@@ -111,7 +103,6 @@ class SimulatedLife : public KorvaleWorld {
   void CheckHotKeys();
   std::vector<HotKey> WantedHotKeys();
   std::vector<HotKey> WorkingHotKeys();
-  Kept Keeps();
   void CheckSaving();
 
   WorkedIn workedIn_{desktop.Windows()};

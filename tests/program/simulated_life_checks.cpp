@@ -3,7 +3,6 @@
 
 #include "desktop/tag_list.h"
 #include "desktop/tag_list_storage.h"
-#include "hotkeys/hot_key_names.h"
 #include "platform/win32_constants.h"
 #include "tests/program/simulated_life.h"
 #include "util/text.h"
@@ -177,7 +176,8 @@ std::vector<SimulatedLife::HotKey> SimulatedLife::WantedHotKeys() {
   if (korvale_->HotKeys().HotKeysActive()) {
     for (std::int16_t tag = 0; tag <= 9; ++tag) {
       if (!options.booHotKeyParent[static_cast<std::size_t>(tag)]) continue;
-      add(ParentHotKeyName(tag), options.intHotKeyModParent, static_cast<std::int16_t>('0' + tag));
+      add("HOTKEY_PARENT" + std::to_string(tag), options.intHotKeyModParent,
+          static_cast<std::int16_t>('0' + tag));
     }
     add("HOTKEY_MINIMIZE_PARENT", options.intHotKeyModAction[0], options.intHotKeyAction[0]);
     add("HOTKEY_RESTORE/MAXIMIZE_PARENT", options.intHotKeyModAction[1],
@@ -189,31 +189,17 @@ std::vector<SimulatedLife::HotKey> SimulatedLife::WantedHotKeys() {
   return wanted;
 }
 
-SimulatedLife::Kept SimulatedLife::Keeps() {
-  TagList& tags = korvale_->Tags();
-  Kept kept{korvale_->Options(), korvale_->Startup(), {}};
-  tags.mnuWindowParentList.ForEach([&](const MenuItem& entry) {
-    if (entry.index == 0) return;
-    kept.tags.push_back({entry.index, entry.caption, TagClass(tags, entry)});
-  });
-  return kept;
-}
-
-/// Saves what has changed into an empty store and loads it again.
+/// Whatever the user has changed is saved into an empty store and found there.
 void SimulatedLife::CheckSaving() {
-  Kept kept = Keeps();
+  Kept kept = KeptBy(*korvale_);
   if (kept == saved_) return;
   FakeSettingsStore empty;
-  Settings settings(empty, "Korvale - Elsewhere");
-  if (kept.options != saved_.options) {
-    settings.SaveOptions(kept.options);
-    clsOptions options;
-    settings.LoadOptions(options);
-    EXPECT_EQ(options, kept.options);
-  }
+  const std::string elsewhere = "Korvale - Elsewhere";
+  Settings settings(empty, elsewhere);
+  settings.SaveOptions(kept.options);
   settings.SaveINI(kept.startup, TagsToStore(korvale_->Tags()));
-  EXPECT_EQ(settings.LoadStartup(), kept.startup);
-  EXPECT_EQ(settings.LoadTagList(), kept.tags);
+  ExpectTexts(empty, elsewhere, kept);
+  EXPECT_EQ(KeptIn(empty, elsewhere), kept);
   saved_ = std::move(kept);
 }
 

@@ -1,6 +1,5 @@
 #include <algorithm>
 
-#include "hotkeys/hot_key_names.h"
 #include "platform/win32_constants.h"
 #include "tests/program/simulated_life.h"
 
@@ -89,7 +88,7 @@ void SimulatedLife::Press(const HotKey& hotKey) {
 
 void SimulatedLife::PressTagKey() {
   const int tag = dice_->OneIn(3) ? 0 : dice_->Below(10);
-  const std::optional<HotKey> hotKey = Working(ParentHotKeyName(static_cast<std::int16_t>(tag)));
+  const std::optional<HotKey> hotKey = Working("HOTKEY_PARENT" + std::to_string(tag));
   if (!hotKey) return;
   const Before before = LookBefore(tag);
   Press(*hotKey);
@@ -189,7 +188,7 @@ void SimulatedLife::MoveKorvale() {
 
 void SimulatedLife::Restart() {
   Note("restarts Korvale");
-  Kept before = Keeps();
+  Kept before = KeptBy(*korvale_);
   const TwipsRect place = korvale_->user.Place(korvale_->Handle());
   // A hidden menu bar that the keyboard has just brought up makes the strip higher for a moment.
   const bool barAsChosen = korvale_->Form().State().menuShown == korvale_->Startup().Menu;
@@ -203,6 +202,7 @@ void SimulatedLife::Restart() {
   before.startup = korvale_->Startup();
   EXPECT_FALSE(korvale_->Form().IsLoaded());
   EXPECT_TRUE(hotKeys.Registered().empty());
+  EXPECT_EQ(store.GetAllSettings("Korvale - Work", "ParentWindowList").size(), before.tags.size());
   ForgetKorvale();
   StartKorvale();
   ExpectKept(before);
@@ -218,14 +218,14 @@ void SimulatedLife::Restart() {
 
 void SimulatedLife::Kill() {
   Note("kills Korvale");
-  const Kept before = Keeps();
+  const Kept before = KeptBy(*korvale_);
   ForgetKorvale();
   StartKorvale();
   ExpectKept(before);
 }
 
 void SimulatedLife::ExpectKept(const Kept& before) {
-  const Kept after = Keeps();
+  const Kept after = KeptBy(*korvale_);
   EXPECT_EQ(after.options, before.options);
   EXPECT_EQ(after.tags, before.tags);
 }

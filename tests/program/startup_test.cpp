@@ -116,7 +116,7 @@ TEST_F(StartUpTest, StartUpKeepsItsOrder) {
         std::pair("AlwaysOnTop", "True"), std::pair("Left", "600"), std::pair("Height", "800")}) {
     store.SaveSetting("Korvale - Work", "Startup", key, value);
   }
-  store.SaveSetting("Korvale - Work", "Options", "SelectPrevWinOnStart", "True");
+  StoreOption("SelectPrevWinOnStart", "True");
   korvale.system.commandLine = "/x";
   std::string tips;
   for (int tip = 0; tip < 3; ++tip) ReadTip(korvale, tips);

@@ -14,20 +14,16 @@ constexpr const char* kNoticeTitle = "Korvale     ";
 class SuspensionTest : public KorvaleWorld {
  protected:
   /// A started copy with Alpha as Tag 1; the user works in Beta.
-  KorvaleCopy& Started() {
-    alpha_ = Open("Alpha");
-    KorvaleCopy& korvale = StartedCopy();
+  SuspensionTest() {
     WorkIn(alpha_);
     WorkIn(korvale.Handle());
     korvale.TagPrevious();
     WorkIn(Open("Beta"));
-    return korvale;
   }
 
   /// The user sees the notice, does something, and presses its button.
-  void ExpectNotice(
-      KorvaleCopy& korvale,
-      const std::function<void(const ShownMessage&)>& meanwhile = [](const ShownMessage&) {}) {
+  void ExpectNotice(const std::function<void(const ShownMessage&)>& meanwhile =
+                        [](const ShownMessage&) {}) {
     korvale.host.WhenMessageBox([meanwhile](const ShownMessage& box) {
       EXPECT_EQ(box.text, kNotice);
       EXPECT_EQ(box.title, kNoticeTitle);
@@ -37,18 +33,18 @@ class SuspensionTest : public KorvaleWorld {
     });
   }
 
-  WindowHandle alpha_ = 0;
+  const WindowHandle alpha_ = Open("Alpha");
+  KorvaleCopy& korvale = StartedCopy();
 };
 
 TEST_F(SuspensionTest, AMessageBoxHoldsTheHotKeysWithASingleNotice) {
-  KorvaleCopy& korvale = Started();
   WorkIn(alpha_);
   const WindowHandle beta = desktop.FindWindowA("Beta");
   WorkIn(beta);
   desktop.SetEnabled(alpha_, false);
   korvale.host.WhenMessageBox([&](const ShownMessage& box) {
     EXPECT_EQ(box.text, "Window:  [Alpha]  is not enabled, and currently cannot be selected.");
-    ExpectNotice(korvale, [&](const ShownMessage&) {
+    ExpectNotice([&](const ShownMessage&) {
       PressTag(1);
       PressHotKey(win32::kModAlt, win32::kVkDown);
       PressHotKey(0, win32::kVkPause);
@@ -57,7 +53,7 @@ TEST_F(SuspensionTest, AMessageBoxHoldsTheHotKeysWithASingleNotice) {
     EXPECT_FALSE(korvale.user.IsEnabled(korvale.Handle()));
     korvale.Form().udmTimersEnabled(true);
     EXPECT_FALSE(korvale.Form().tmrWindow().Enabled());
-    ExpectNotice(korvale);
+    ExpectNotice();
     PressTag(0);
     return win32::kIdOk;
   });
@@ -70,16 +66,14 @@ TEST_F(SuspensionTest, AMessageBoxHoldsTheHotKeysWithASingleNotice) {
   EXPECT_TRUE(korvale.user.IsEnabled(korvale.Handle()));
   EXPECT_TRUE(korvale.Form().tmrWindow().Enabled());
   desktop.SetEnabled(alpha_, true);
-  PressTag(1);
-  EXPECT_EQ(Front(), "Alpha");
+  ExpectTagLeadsTo(1, "Alpha");
 }
 
 TEST_F(SuspensionTest, TheNoticeLeadsBackToTheMessageBelowIt) {
-  KorvaleCopy& korvale = Started();
   desktop.Close(alpha_);
   korvale.host.WhenMessageBox([&](const ShownMessage&) {
     const WindowHandle message = desktop.GetForegroundWindow();
-    ExpectNotice(korvale, [&](const ShownMessage& box) {
+    ExpectNotice([&](const ShownMessage& box) {
       EXPECT_EQ(box.owner, message);
       EXPECT_FALSE(desktop.IsWindowEnabled(message));
     });
@@ -97,10 +91,9 @@ TEST_F(SuspensionTest, TheNoticeLeadsBackToTheMessageBelowIt) {
 }
 
 TEST_F(SuspensionTest, TheAddWindowDialogHoldsThemAndStaysModalBehindTheNotice) {
-  KorvaleCopy& korvale = Started();
   WorkIn(korvale.Handle());
   korvale.TagPrevious([&](class Form& dialog) {
-    ExpectNotice(korvale, [&](const ShownMessage& box) {
+    ExpectNotice([&](const ShownMessage& box) {
       EXPECT_EQ(box.owner, dialog.Handle());
       EXPECT_FALSE(korvale.user.IsEnabled(dialog.Handle()));
     });
@@ -110,29 +103,25 @@ TEST_F(SuspensionTest, TheAddWindowDialogHoldsThemAndStaysModalBehindTheNotice) 
     EXPECT_FALSE(korvale.user.IsEnabled(korvale.Handle()));
   });
   EXPECT_TRUE(korvale.user.IsEnabled(korvale.Handle()));
-  PressTag(1);
-  EXPECT_EQ(Front(), "Alpha");
+  ExpectTagLeadsTo(1, "Alpha");
 }
 
 TEST_F(SuspensionTest, AQuestionOfTheOptionsHoldsThem) {
-  KorvaleCopy& korvale = Started();
   PressHotKey(win32::kModWin, 'O');
   class Form& options = korvale.Loaded("frmOptions");
   korvale.host.WhenMessageBox([&](const ShownMessage&) {
-    ExpectNotice(korvale);
+    ExpectNotice();
     PressTag(1);
     return win32::kIdCancel;
   });
   korvale.user.Click(options.Handle(), options.Find("cmdReset").Id());
   EXPECT_EQ(Front(), "Korvale - Options");
-  PressTag(1);
-  EXPECT_EQ(Front(), "Alpha");
+  ExpectTagLeadsTo(1, "Alpha");
 }
 
 TEST_F(SuspensionTest, ATipHoldsThem) {
-  KorvaleCopy& korvale = Started();
   korvale.host.WhenModal("frmMsgTip", [&](class Form& tip) {
-    ExpectNotice(korvale);
+    ExpectNotice();
     PressTag(1);
     korvale.user.PressKey(tip.Handle(), win32::kVkEscape);
   });
@@ -141,9 +130,8 @@ TEST_F(SuspensionTest, ATipHoldsThem) {
 }
 
 TEST_F(SuspensionTest, TheNoticeOutlastsTheWaitWindowThatCausedIt) {
-  KorvaleCopy& korvale = Started();
   korvale.host.WhenWaiting([&] {
-    ExpectNotice(korvale, [&](const ShownMessage& box) {
+    ExpectNotice([&](const ShownMessage& box) {
       EXPECT_EQ(box.owner, korvale.Handle());
       clock.Advance(800);
       EXPECT_EQ(korvale.FindForm("frmWaitWindow"), nullptr);
@@ -158,21 +146,15 @@ TEST_F(SuspensionTest, TheNoticeOutlastsTheWaitWindowThatCausedIt) {
 }
 
 TEST_F(SuspensionTest, TheSessionCanEndWhileATagTellsItsFailure) {
-  KorvaleCopy& korvale = Started();
   desktop.Close(alpha_);
-  korvale.host.WhenMessageBox([&](const ShownMessage&) {
-    korvale.Form().OnCloseRequested(CloseReason::kSession);
-    return win32::kIdOk;
-  });
+  korvale.EndSessionAtBox(win32::kIdOk);
   PressTag(1);
-  EXPECT_FALSE(korvale.Form().IsLoaded());
-  EXPECT_TRUE(hotKeys.Registered().empty());
+  ExpectEnded(korvale);
   EXPECT_FALSE(clock.AdvanceToNextTick());
   EXPECT_EQ(store.GetSetting("Korvale - Work", "ParentWindowList", "1"), "&1  Alpha");
 }
 
 TEST_F(SuspensionTest, TheSessionCanEndWhileTheAddWindowDialogIsOpen) {
-  KorvaleCopy& korvale = Started();
   WorkIn(korvale.Handle());
   korvale.host.WhenModal(
       "frmGetWindow", [&](class Form&) { korvale.Form().OnCloseRequested(CloseReason::kSession); });

@@ -12,10 +12,8 @@ TEST_F(SwitchingTest, Alt0GoesBackToTheWindowBeforeAndThereAgain) {
   WorkIn(alpha);
   WorkIn(beta);
 
-  PressTag(0);
-  EXPECT_EQ(Front(), "Alpha");
-  PressTag(0);
-  EXPECT_EQ(Front(), "Beta");
+  ExpectTagLeadsTo(0, "Alpha");
+  ExpectTagLeadsTo(0, "Beta");
 }
 
 TEST_F(SwitchingTest, Alt0RightAfterTheStartGoesBackToWhereTheUserWorked) {
@@ -30,9 +28,7 @@ TEST_F(SwitchingTest, Alt0RightAfterTheStartGoesBackToWhereTheUserWorked) {
 TEST_F(SwitchingTest, ATagBringsItsWindowToTheFront) {
   const WindowHandle editor = Open("notes - Editor");
   const WindowHandle beta = Open("Beta");
-  KorvaleCopy& korvale = StartedCopy();
-  WorkIn(editor);
-  WorkIn(korvale.Handle());
+  KorvaleCopy& korvale = StartedAfter(editor);
   korvale.TagPrevious();
   WorkIn(beta);
 

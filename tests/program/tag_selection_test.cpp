@@ -17,23 +17,25 @@ TEST_F(TagSelectionTest, ASelectedTagMovesThePreviousWindowOn) {
   EXPECT_EQ(korvale.Record().alternate.className, "B");
 }
 
-TEST_F(TagSelectionTest, Alt0AfterATagGoesBackAndThereAgain) {
+/// Alpha is Tag 1; the user works in Beta.
+class TagOfAlphaTest : public WindowMenuTest {
+ protected:
+  TagOfAlphaTest() {
+    korvale.TagPrevious();
+    WorkIn(Open("Beta"));
+  }
+
   const WindowHandle alpha = Open("Alpha");
   KorvaleCopy& korvale = StartedAfter(alpha);
-  korvale.TagPrevious();
-  WorkIn(Open("Beta"));
+};
+
+TEST_F(TagOfAlphaTest, Alt0AfterATagGoesBackAndThereAgain) {
   PressTag(1);
-  PressTag(0);
-  EXPECT_EQ(Front(), "Beta");
-  PressTag(0);
-  EXPECT_EQ(Front(), "Alpha");
+  ExpectTagLeadsTo(0, "Beta");
+  ExpectTagLeadsTo(0, "Alpha");
 }
 
-TEST_F(TagSelectionTest, SelectingFromTheMainWindowMakesItTheAlternate) {
-  const WindowHandle alpha = Open("Alpha");
-  KorvaleCopy& korvale = StartedAfter(alpha);
-  korvale.TagPrevious();
-  WorkIn(Open("Beta"));
+TEST_F(TagOfAlphaTest, SelectingFromTheMainWindowMakesItTheAlternate) {
   WorkIn(korvale.Handle());
   PressTag(1);
   EXPECT_EQ(korvale.Record().current.handle, alpha);
@@ -41,11 +43,7 @@ TEST_F(TagSelectionTest, SelectingFromTheMainWindowMakesItTheAlternate) {
   EXPECT_EQ(korvale.Form().FocusTag(), "");
 }
 
-TEST_F(TagSelectionTest, TheWindowInFrontIsOnlyRestored) {
-  const WindowHandle alpha = Open("Alpha");
-  KorvaleCopy& korvale = StartedAfter(alpha);
-  korvale.TagPrevious();
-  WorkIn(Open("Beta"));
+TEST_F(TagOfAlphaTest, TheWindowInFrontIsOnlyRestored) {
   WorkIn(alpha);
   const WindowTriple alternate = korvale.Record().alternate;
   log.Clear();
@@ -55,14 +53,9 @@ TEST_F(TagSelectionTest, TheWindowInFrontIsOnlyRestored) {
   EXPECT_EQ(korvale.Record().alternate, alternate);
 }
 
-TEST_F(TagSelectionTest, AMinimizedWindowIsRestored) {
-  const WindowHandle alpha = Open("Alpha");
-  KorvaleCopy& korvale = StartedAfter(alpha);
-  korvale.TagPrevious();
-  WorkIn(Open("Beta"));
+TEST_F(TagOfAlphaTest, AMinimizedWindowIsRestored) {
   desktop.UserMinimizes(alpha);
-  PressTag(1);
-  EXPECT_EQ(Front(), "Alpha");
+  ExpectTagLeadsTo(1, "Alpha");
   EXPECT_FALSE(desktop.IsIconic(alpha));
 }
 
@@ -70,8 +63,7 @@ TEST_F(TagSelectionTest, Tag0InTheMainWindowSelectsTheCurrentPreviousWindow) {
   const WindowHandle alpha = Open("Alpha");
   WorkIn(Open("Beta"));
   StartedAfter(alpha);
-  PressTag(0);
-  EXPECT_EQ(Front(), "Alpha");
+  ExpectTagLeadsTo(0, "Alpha");
 }
 
 TEST_F(TagSelectionTest, AClosedTagWindowIsReportedAsNotOpen) {
@@ -91,11 +83,7 @@ TEST_F(TagSelectionTest, AClosedTagWindowIsReportedAsNotOpen) {
   EXPECT_TRUE(korvale.Form().tmrWindow().Enabled());
 }
 
-TEST_F(TagSelectionTest, ADisabledTagWindowIsReportedAsNotEnabled) {
-  const WindowHandle alpha = Open("Alpha");
-  KorvaleCopy& korvale = StartedAfter(alpha);
-  korvale.TagPrevious();
-  WorkIn(Open("Beta"));
+TEST_F(TagOfAlphaTest, ADisabledTagWindowIsReportedAsNotEnabled) {
   desktop.SetEnabled(alpha, false);
   ExpectMessage(korvale, "Window:  [Alpha]  is not enabled, and currently cannot be selected.",
                 win32::kMbSetForeground);
@@ -104,11 +92,7 @@ TEST_F(TagSelectionTest, ADisabledTagWindowIsReportedAsNotEnabled) {
   EXPECT_EQ(Front(), "Beta");
 }
 
-TEST_F(TagSelectionTest, AFailedActivationIsReportedOnce) {
-  const WindowHandle alpha = Open("Alpha");
-  KorvaleCopy& korvale = StartedAfter(alpha);
-  korvale.TagPrevious();
-  WorkIn(Open("Beta"));
+TEST_F(TagOfAlphaTest, AFailedActivationIsReportedOnce) {
   desktop.LockForeground(true);
   // The window is there at each of the three attempts and changes its title at the last one.
   log.WhenCalled("SetForegroundWindow", [&] {
@@ -122,11 +106,7 @@ TEST_F(TagSelectionTest, AFailedActivationIsReportedOnce) {
   EXPECT_EQ(korvale.host.Messages().size(), 1U);
 }
 
-TEST_F(TagSelectionTest, AWindowThatWindowsKeepsInTheBackgroundIsNoReasonForAMessage) {
-  const WindowHandle alpha = Open("Alpha");
-  KorvaleCopy& korvale = StartedAfter(alpha);
-  korvale.TagPrevious();
-  WorkIn(Open("Beta"));
+TEST_F(TagOfAlphaTest, AWindowThatWindowsKeepsInTheBackgroundIsNoReasonForAMessage) {
   desktop.LockForeground(true);
   log.Clear();
   PressTag(1);
@@ -142,8 +122,7 @@ TEST_F(TagSelectionTest, AReopenedWindowIsFoundAgain) {
   desktop.Close(alpha);
   const WindowHandle again = Open("Alpha", {.className = "A"});
   WorkIn(Open("Gamma"));
-  PressTag(1);
-  EXPECT_EQ(Front(), "Alpha");
+  ExpectTagLeadsTo(1, "Alpha");
   EXPECT_EQ(korvale.TagEntry(1)->tag, std::to_string(again));
 }
 
@@ -154,8 +133,7 @@ TEST_F(TagSelectionTest, AWindowOfAnotherClassIsFoundByItsTitleAloneAndTeachesIt
   desktop.Close(alpha);
   Open("Alpha", {.className = "New"});
   WorkIn(Open("Beta"));
-  PressTag(1);
-  EXPECT_EQ(Front(), "Alpha");
+  ExpectTagLeadsTo(1, "Alpha");
   EXPECT_EQ(korvale.Tags().ParentWindowClass[0], "New");
 }
 
@@ -166,16 +144,11 @@ TEST_F(TagSelectionTest, AWindowWithoutChildrenIsFoundByTitleAndTheLastMatchWins
   EXPECT_EQ(korvale.Tags().ParentWindowClass[0], "");
   const WindowHandle upper = Open("Clock 2", {.className = "C2", .children = 0});
   WorkIn(Open("Beta"));
-  PressTag(1);
-  EXPECT_EQ(Front(), "Clock");
+  ExpectTagLeadsTo(1, "Clock");
   EXPECT_NE(desktop.GetForegroundWindow(), upper);
 }
 
-TEST_F(TagSelectionTest, WhileASearchIsForbiddenATagIsTriedOnlyOnce) {
-  const WindowHandle alpha = Open("Alpha");
-  KorvaleCopy& korvale = StartedAfter(alpha);
-  korvale.TagPrevious();
-  WorkIn(Open("Beta"));
+TEST_F(TagOfAlphaTest, WhileASearchIsForbiddenATagIsTriedOnlyOnce) {
   desktop.Close(alpha);
   Open("Alpha");
   WorkIn(Open("Gamma"));
@@ -187,11 +160,7 @@ TEST_F(TagSelectionTest, WhileASearchIsForbiddenATagIsTriedOnlyOnce) {
   EXPECT_TRUE(log.CallsOf("EnumWindows").empty());
 }
 
-TEST_F(TagSelectionTest, TimersRestDuringASelection) {
-  const WindowHandle alpha = Open("Alpha");
-  KorvaleCopy& korvale = StartedAfter(alpha);
-  korvale.TagPrevious();
-  WorkIn(Open("Beta"));
+TEST_F(TagOfAlphaTest, TimersRestDuringASelection) {
   bool running = true;
   log.WhenCalled("SetForegroundWindow", [&] { running = korvale.Form().tmrWindow().Enabled(); });
   PressTag(1);

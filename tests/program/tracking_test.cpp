@@ -6,21 +6,6 @@ namespace {
 
 class TrackingTest : public KorvaleWorld {
  protected:
-  void SetUp() override {
-    alpha = Open("Alpha", {.className = "A"});
-    beta = Open("Beta", {.className = "B"});
-  }
-
-  void StoreOption(const std::string& key, const std::string& value) {
-    store.SaveSetting("Korvale - Work", "Options", key, value);
-  }
-
-  void StoreTag(int tag, const std::string& text, const std::string& className) {
-    const std::string key = std::to_string(tag);
-    store.SaveSetting("Korvale - Work", "ParentWindowList", key, "&" + key + "  " + text);
-    store.SaveSetting("Korvale - Work", "ParentWindowClass", key, className);
-  }
-
   void ExpectPrevious(KorvaleCopy& korvale, const std::string& title, bool enabled = true) {
     EXPECT_EQ(korvale.TargetWindow(), title);
     EXPECT_EQ(korvale.Form().Menu("mnuWindowPreviousWindowAlwaysOnTop").enabled, enabled);
@@ -28,13 +13,19 @@ class TrackingTest : public KorvaleWorld {
     EXPECT_EQ(korvale.Form().Menu("mnuWindowAddToList", 2).enabled, enabled);
   }
 
-  WindowHandle alpha = 0;
-  WindowHandle beta = 0;
+  const WindowHandle alpha = Open("Alpha", {.className = "A"});
+  const WindowHandle beta = Open("Beta", {.className = "B"});
 };
 
-TEST_F(TrackingTest, TheStripShowsWhereTheUserCameFrom) {
+/// The user begins in Alpha.
+class TrackingFromAlpha : public TrackingTest {
+ protected:
+  TrackingFromAlpha() { WorkIn(alpha); }
+
   KorvaleCopy& korvale = StartedCopy();
-  WorkIn(alpha);
+};
+
+TEST_F(TrackingFromAlpha, TheStripShowsWhereTheUserCameFrom) {
   EXPECT_EQ(korvale.Form().FocusTag(), "");
   WorkIn(korvale.Handle());
   EXPECT_EQ(korvale.Form().FocusTag(), kGotFocus);
@@ -57,18 +48,14 @@ TEST_F(TrackingTest, KorvaleInBetweenLeavesTheWindowThePreviousOne) {
   EXPECT_EQ(Front(), "Korvale - Work");
 }
 
-TEST_F(TrackingTest, Alt0InAWindowThatTheUserReachedFromKorvaleGoesBackToKorvale) {
-  KorvaleCopy& korvale = StartedCopy();
-  WorkIn(alpha);
+TEST_F(TrackingFromAlpha, Alt0InAWindowThatTheUserReachedFromKorvaleGoesBackToKorvale) {
   WorkIn(korvale.Handle());
   WorkIn(beta);
   EXPECT_EQ(korvale.Record().alternate,
             (WindowTriple{korvale.Handle(), "Korvale - Work", "Korvale.frmMain"}));
 
-  PressTag(0);
-  EXPECT_EQ(Front(), "Korvale - Work");
-  PressTag(0);
-  EXPECT_EQ(Front(), "Beta");
+  ExpectTagLeadsTo(0, "Korvale - Work");
+  ExpectTagLeadsTo(0, "Beta");
 }
 
 TEST_F(TrackingTest, AQuickWayBackByATagLeavesKorvaleReachableFromThere) {
@@ -98,8 +85,7 @@ TEST_F(TrackingTest, AnUntitledWindowIsNotFollowedUnlessTheOptionAllowsIt) {
 
   ExpectPrevious(korvale, "(window without a title)");
   EXPECT_EQ(korvale.TargetClass(), "Bare");
-  PressTag(0);
-  EXPECT_EQ(Front(), "Alpha");
+  ExpectTagLeadsTo(0, "Alpha");
 }
 
 TEST_F(TrackingTest, AToolWindowIsFollowedWhenTheOptionAllowsIt) {
@@ -126,21 +112,16 @@ TEST_F(TrackingTest, AToolWindowIsFollowedOnceItIsTagged) {
   EXPECT_EQ(TagHandle(korvale.Form().Menu("mnuWindowParentList", 4)), tagged);
 }
 
-TEST_F(TrackingTest, AModalDialogOfAnotherProgramIsAVisitToItsWindow) {
-  KorvaleCopy& korvale = StartedCopy();
-  WorkIn(alpha);
+TEST_F(TrackingFromAlpha, AModalDialogOfAnotherProgramIsAVisitToItsWindow) {
   WorkIn(beta);
   const WindowHandle dialog = desktop.OpenModalDialog(alpha, "Save As");
   WorkIn(dialog);
   EXPECT_EQ(Front(), "Save As");
   ExpectPrevious(korvale, "Alpha");
-  PressTag(0);
-  EXPECT_EQ(Front(), "Beta");
+  ExpectTagLeadsTo(0, "Beta");
 }
 
-TEST_F(TrackingTest, ADialogThatDisablesNoWindowIsNotFollowed) {
-  KorvaleCopy& korvale = StartedCopy();
-  WorkIn(alpha);
+TEST_F(TrackingFromAlpha, ADialogThatDisablesNoWindowIsNotFollowed) {
   WorkIn(beta);
   const WindowHandle dialog =
       desktop.Open("Find", {.className = "#32770", .owner = alpha, .style = win32::kDsModalFrame});
@@ -149,18 +130,14 @@ TEST_F(TrackingTest, ADialogThatDisablesNoWindowIsNotFollowed) {
   ExpectPrevious(korvale, "Beta");
 }
 
-TEST_F(TrackingTest, KorvalesOwnOptionsDialogIsFollowed) {
-  KorvaleCopy& korvale = StartedCopy();
-  WorkIn(alpha);
+TEST_F(TrackingFromAlpha, KorvalesOwnOptionsDialogIsFollowed) {
   PressHotKey(win32::kModWin, 'O');
   const WindowHandle dialog = korvale.Loaded("frmOptions").Handle();
   EXPECT_NE(desktop.GetWindowLongA(dialog, win32::kGwlStyle) & win32::kDsModalFrame, 0);
   ExpectPrevious(korvale, "Korvale - Options");
 }
 
-TEST_F(TrackingTest, TheAboutBoxIsNotFollowed) {
-  KorvaleCopy& korvale = StartedCopy();
-  WorkIn(alpha);
+TEST_F(TrackingFromAlpha, TheAboutBoxIsNotFollowed) {
   WorkIn(korvale.Handle());
   korvale.Form().mnuHelpAbout_Click();
   const WindowHandle about = korvale.Loaded("frmMsgBox2").Handle();
@@ -185,9 +162,7 @@ TEST_F(TrackingTest, TaskbarDesktopAndHiddenOwnerAreNotFollowed) {
   }
 }
 
-TEST_F(TrackingTest, WhenThePreviousWindowClosesTheOneBeforeItTakesOver) {
-  KorvaleCopy& korvale = StartedCopy();
-  WorkIn(alpha);
+TEST_F(TrackingFromAlpha, WhenThePreviousWindowClosesTheOneBeforeItTakesOver) {
   WorkIn(beta);
   WorkIn(korvale.Handle());
   desktop.Close(beta);
@@ -201,9 +176,7 @@ TEST_F(TrackingTest, WhenThePreviousWindowClosesTheOneBeforeItTakesOver) {
   EXPECT_EQ(korvale.TargetClass(), "");
 }
 
-TEST_F(TrackingTest, WhenOnlyKorvaleIsLeftThereIsNoPreviousWindow) {
-  KorvaleCopy& korvale = StartedCopy();
-  WorkIn(alpha);
+TEST_F(TrackingFromAlpha, WhenOnlyKorvaleIsLeftThereIsNoPreviousWindow) {
   WorkIn(korvale.Handle());
   WorkIn(beta);
   desktop.UserActivates(korvale.Handle());
@@ -216,27 +189,21 @@ TEST_F(TrackingTest, WhenOnlyKorvaleIsLeftThereIsNoPreviousWindow) {
   EXPECT_EQ(korvale.Record().alternate, WindowTriple{});
 }
 
-TEST_F(TrackingTest, ARenamedPreviousWindowStaysThePreviousWindow) {
-  KorvaleCopy& korvale = StartedCopy();
-  WorkIn(alpha);
+TEST_F(TrackingFromAlpha, ARenamedPreviousWindowStaysThePreviousWindow) {
   WorkIn(beta);
   desktop.Rename(alpha, "Ämter");
-  PressTag(0);
-  EXPECT_EQ(Front(), "Ämter");
+  ExpectTagLeadsTo(0, "Ämter");
   ExpectPrevious(korvale, "Ämter");
   desktop.Rename(alpha, "無題");
   WorkIn(korvale.Handle());
   ExpectPrevious(korvale, "無題");
 }
 
-TEST_F(TrackingTest, AHungPreviousWindowHoldsNothingUp) {
-  KorvaleCopy& korvale = StartedCopy();
-  WorkIn(alpha);
+TEST_F(TrackingFromAlpha, AHungPreviousWindowHoldsNothingUp) {
   WorkIn(beta);
   desktop.SetHung(alpha, true);
   desktop.SetHung(beta, true);
-  PressTag(0);
-  EXPECT_EQ(Front(), "Alpha");
+  ExpectTagLeadsTo(0, "Alpha");
   WorkIn(korvale.Handle());
   korvale.user.ChooseMenu(korvale.Handle(), {"Window", "[Alpha]  Always On Top"});
   EXPECT_EQ(Front(), "Korvale - Work");

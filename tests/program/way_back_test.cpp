@@ -7,26 +7,14 @@ namespace {
 /// Alt+0 goes to the window worked in before the one in front, whatever has happened.
 class WayBackTest : public KorvaleWorld {
  protected:
-  void SetUp() override {
-    alpha = Open("Alpha", {.className = "A"});
-    beta = Open("Beta", {.className = "B"});
-    gamma = Open("Gamma", {.className = "G"});
-  }
-
-  void StoreTag(int tag, const std::string& text, const std::string& className) {
-    const std::string key = std::to_string(tag);
-    store.SaveSetting("Korvale - Work", "ParentWindowList", key, "&" + key + "  " + text);
-    store.SaveSetting("Korvale - Work", "ParentWindowClass", key, className);
-  }
-
   /// A copy with Tag 1 for Alpha and Tag 2 for Beta, both not found yet; the user has worked in
   /// Gamma, Beta and Alpha.
   KorvaleCopy& InAlpha() {
     StoreTag(1, "Alpha", "A");
     StoreTag(2, "Beta", "B");
-    KorvaleCopy& korvale = StartedCopy();
+    KorvaleCopy& copy = StartedCopy();
     for (const WindowHandle hwnd : {gamma, beta, alpha}) WorkIn(hwnd);
-    return korvale;
+    return copy;
   }
 
   /// The key without the time that a tick takes.
@@ -45,47 +33,41 @@ class WayBackTest : public KorvaleWorld {
     PressHotKey(win32::kModWin, 'W');
   }
 
-  void ExpectWayBack(const std::string& title) {
-    PressTag(0);
-    EXPECT_EQ(Front(), title);
-  }
-
-  WindowHandle alpha = 0;
-  WindowHandle beta = 0;
-  WindowHandle gamma = 0;
+  const WindowHandle alpha = Open("Alpha", {.className = "A"});
+  const WindowHandle beta = Open("Beta", {.className = "B"});
+  const WindowHandle gamma = Open("Gamma", {.className = "G"});
 };
 
-TEST_F(WayBackTest, TheTagOfTheWindowInFrontChangesNothingAlsoWhenItHadToBeFound) {
-  InAlpha();
-  PressTag(1);
-  EXPECT_EQ(Front(), "Alpha");
-  ExpectWayBack("Beta");
+class WayBackFromAlpha : public WayBackTest {
+ protected:
+  KorvaleCopy& korvale = InAlpha();
+};
+
+TEST_F(WayBackFromAlpha, TheTagOfTheWindowInFrontChangesNothingAlsoWhenItHadToBeFound) {
+  ExpectTagLeadsTo(1, "Alpha");
+  ExpectTagLeadsTo(0, "Beta");
 }
 
-TEST_F(WayBackTest, TheTagOfTheRecordedWindowFromAnUntrackedOneChangesNothing) {
-  InAlpha();
+TEST_F(WayBackFromAlpha, TheTagOfTheRecordedWindowFromAnUntrackedOneChangesNothing) {
   for (const WindowHandle untracked :
        {desktop.Open("Tool", {.exStyle = win32::kWsExToolWindow}),
         desktop.Open("Find", {.className = "#32770", .style = win32::kDsModalFrame}),
         desktop.FindWindowA("Program Manager")}) {
     WorkIn(untracked);
-    PressTag(1);
-    EXPECT_EQ(Front(), "Alpha");
-    ExpectWayBack("Beta");
-    ExpectWayBack("Alpha");
+    ExpectTagLeadsTo(1, "Alpha");
+    ExpectTagLeadsTo(0, "Beta");
+    ExpectTagLeadsTo(0, "Alpha");
   }
 }
 
-TEST_F(WayBackTest, TwoQuickKeysLoseNothing) {
-  InAlpha();
+TEST_F(WayBackFromAlpha, TwoQuickKeysLoseNothing) {
   PressQuickly(0);
   PressQuickly(1);
   EXPECT_EQ(Front(), "Alpha");
-  ExpectWayBack("Beta");
+  ExpectTagLeadsTo(0, "Beta");
 }
 
-TEST_F(WayBackTest, TwoQuickTagsLoseNothing) {
-  InAlpha();
+TEST_F(WayBackFromAlpha, TwoQuickTagsLoseNothing) {
   PressQuickly(2);
   PressQuickly(1);
   PressQuickly(0);
@@ -94,58 +76,52 @@ TEST_F(WayBackTest, TwoQuickTagsLoseNothing) {
   EXPECT_EQ(Front(), "Alpha");
 }
 
-TEST_F(WayBackTest, QuickKeysLoseNothingWhenTheWindowsComeForwardLate) {
-  InAlpha();
+TEST_F(WayBackFromAlpha, QuickKeysLoseNothingWhenTheWindowsComeForwardLate) {
   desktop.DelayForeground(true);
   PressQuickly(0);
   PressQuickly(1);
   desktop.DelayForeground(false);
   LetTick();
   EXPECT_EQ(Front(), "Alpha");
-  ExpectWayBack("Beta");
+  ExpectTagLeadsTo(0, "Beta");
 }
 
-TEST_F(WayBackTest, ATickBeforeTheWindowComesForwardLosesNothing) {
-  InAlpha();
+TEST_F(WayBackFromAlpha, ATickBeforeTheWindowComesForwardLosesNothing) {
   desktop.DelayForeground(true);
   PressQuickly(0);
   clock.Advance(100);
   desktop.DelayForeground(false);
   LetTick();
   EXPECT_EQ(Front(), "Beta");
-  ExpectWayBack("Alpha");
+  ExpectTagLeadsTo(0, "Alpha");
 }
 
-TEST_F(WayBackTest, AClickAndAQuickKeyLoseNothing) {
-  InAlpha();
+TEST_F(WayBackFromAlpha, AClickAndAQuickKeyLoseNothing) {
   desktop.UserActivates(gamma);
   PressQuickly(1);
   EXPECT_EQ(Front(), "Alpha");
-  ExpectWayBack("Gamma");
+  ExpectTagLeadsTo(0, "Gamma");
 }
 
-TEST_F(WayBackTest, MinimizingAndAQuickTagLoseNothing) {
-  InAlpha();
+TEST_F(WayBackFromAlpha, MinimizingAndAQuickTagLoseNothing) {
   EXPECT_TRUE(hotKeys.Press(win32::kModAlt, win32::kVkDown));
   EXPECT_EQ(Front(), "Beta");
   PressQuickly(1);
   EXPECT_EQ(Front(), "Alpha");
-  ExpectWayBack("Beta");
+  ExpectTagLeadsTo(0, "Beta");
 }
 
-TEST_F(WayBackTest, AMomentInTheWindowThatMinimizingBroughtForwardCounts) {
-  InAlpha();
+TEST_F(WayBackFromAlpha, AMomentInTheWindowThatMinimizingBroughtForwardCounts) {
   desktop.UserMinimizes(alpha);
   LetTick();
   ASSERT_EQ(Front(), "Beta");
   EXPECT_TRUE(hotKeys.Press(win32::kModAlt, win32::kVkDown));
   ASSERT_EQ(Front(), "Gamma");
   WorkIn(alpha);
-  ExpectWayBack("Gamma");
+  ExpectTagLeadsTo(0, "Gamma");
 }
 
-TEST_F(WayBackTest, MinimizingRightAfterASelectionMinimizesTheSelectedWindow) {
-  InAlpha();
+TEST_F(WayBackFromAlpha, MinimizingRightAfterASelectionMinimizesTheSelectedWindow) {
   desktop.DelayForeground(true);
   PressQuickly(2);
   EXPECT_TRUE(hotKeys.Press(win32::kModAlt, win32::kVkDown));
@@ -154,11 +130,10 @@ TEST_F(WayBackTest, MinimizingRightAfterASelectionMinimizesTheSelectedWindow) {
   EXPECT_TRUE(desktop.IsIconic(beta));
   EXPECT_FALSE(desktop.IsIconic(alpha));
   EXPECT_EQ(Front(), "Alpha");
-  ExpectWayBack("Beta");
+  ExpectTagLeadsTo(0, "Beta");
 }
 
-TEST_F(WayBackTest, MaximizingRightAfterASelectionMaximizesTheSelectedWindow) {
-  InAlpha();
+TEST_F(WayBackFromAlpha, MaximizingRightAfterASelectionMaximizesTheSelectedWindow) {
   desktop.DelayForeground(true);
   PressQuickly(2);
   EXPECT_TRUE(hotKeys.Press(win32::kModAlt, win32::kVkUp));
@@ -169,8 +144,7 @@ TEST_F(WayBackTest, MaximizingRightAfterASelectionMaximizesTheSelectedWindow) {
   EXPECT_EQ(Front(), "Beta");
 }
 
-TEST_F(WayBackTest, MinimizingRightAfterThePopUpClosedMinimizesTheWindowInFrontBefore) {
-  KorvaleCopy& korvale = InAlpha();
+TEST_F(WayBackFromAlpha, MinimizingRightAfterThePopUpClosedMinimizesTheWindowInFrontBefore) {
   korvale.host.WhenPopupMenu([this](const std::vector<ShownMenuItem>& /*items*/) {
     desktop.DelayForeground(true);
     return std::string();
@@ -184,73 +158,64 @@ TEST_F(WayBackTest, MinimizingRightAfterThePopUpClosedMinimizesTheWindowInFrontB
   EXPECT_EQ(Front(), "Beta");
 }
 
-TEST_F(WayBackTest, WhenTheWindowInFrontClosesTheOneBeforeItsSuccessorIsNext) {
-  InAlpha();
+TEST_F(WayBackFromAlpha, WhenTheWindowInFrontClosesTheOneBeforeItsSuccessorIsNext) {
   desktop.Close(alpha);
   WorkIn(beta);
-  ExpectWayBack("Gamma");
+  ExpectTagLeadsTo(0, "Gamma");
 }
 
-TEST_F(WayBackTest, WhenTheWindowInFrontClosesTheNextKeyNeedsNoTick) {
-  InAlpha();
+TEST_F(WayBackFromAlpha, WhenTheWindowInFrontClosesTheNextKeyNeedsNoTick) {
   desktop.Close(alpha);
   desktop.UserActivates(beta);
   PressQuickly(0);
   EXPECT_EQ(Front(), "Gamma");
 }
 
-TEST_F(WayBackTest, WhenTheDesktopIsLeftTheLastWindowStillOpenIsNext) {
-  KorvaleCopy& korvale = InAlpha();
+TEST_F(WayBackFromAlpha, WhenTheDesktopIsLeftTheLastWindowStillOpenIsNext) {
   desktop.Close(alpha);
   WorkIn(desktop.FindWindowA("Program Manager"));
   EXPECT_EQ(korvale.TargetWindow(), "Beta");
-  ExpectWayBack("Beta");
-  ExpectWayBack("Gamma");
+  ExpectTagLeadsTo(0, "Beta");
+  ExpectTagLeadsTo(0, "Gamma");
 }
 
-TEST_F(WayBackTest, AHiddenWindowIsPassedOver) {
-  InAlpha();
+TEST_F(WayBackFromAlpha, AHiddenWindowIsPassedOver) {
   desktop.Hide(beta);
-  ExpectWayBack("Gamma");
+  ExpectTagLeadsTo(0, "Gamma");
   desktop.Reveal(beta);
-  ExpectWayBack("Alpha");
+  ExpectTagLeadsTo(0, "Alpha");
 }
 
-TEST_F(WayBackTest, AnEntryOfThePopUpIsNoVisitToTheMainWindow) {
-  KorvaleCopy& korvale = InAlpha();
+TEST_F(WayBackFromAlpha, AnEntryOfThePopUpIsNoVisitToTheMainWindow) {
   PopUpAndChoose(korvale, "2  ");
   EXPECT_EQ(Front(), "Beta");
   EXPECT_EQ(korvale.Form().FocusTag(), "");
-  ExpectWayBack("Alpha");
+  ExpectTagLeadsTo(0, "Alpha");
 }
 
-TEST_F(WayBackTest, TheEntryOfTheWindowInFrontBeforeThePopUpChangesNothing) {
-  KorvaleCopy& korvale = InAlpha();
+TEST_F(WayBackFromAlpha, TheEntryOfTheWindowInFrontBeforeThePopUpChangesNothing) {
   PopUpAndChoose(korvale, "1  ");
   EXPECT_EQ(Front(), "Alpha");
-  ExpectWayBack("Beta");
+  ExpectTagLeadsTo(0, "Beta");
 }
 
-TEST_F(WayBackTest, ThePreviousWindowOfThePopUpIsTheOneBeforeTheWindowInFront) {
-  KorvaleCopy& korvale = InAlpha();
+TEST_F(WayBackFromAlpha, ThePreviousWindowOfThePopUpIsTheOneBeforeTheWindowInFront) {
   PopUpAndChoose(korvale, "0  ");
   EXPECT_EQ(Front(), "Beta");
-  ExpectWayBack("Alpha");
+  ExpectTagLeadsTo(0, "Alpha");
 }
 
-TEST_F(WayBackTest, ThePopUpSeesTheWindowThatWasJustClicked) {
-  KorvaleCopy& korvale = InAlpha();
+TEST_F(WayBackFromAlpha, ThePopUpSeesTheWindowThatWasJustClicked) {
   desktop.UserActivates(gamma);
   PopUpAndChoose(korvale, "2  ");
-  ExpectWayBack("Gamma");
+  ExpectTagLeadsTo(0, "Gamma");
 }
 
-TEST_F(WayBackTest, ThePopUpOverTheMainWindowIsStillOverTheMainWindow) {
-  KorvaleCopy& korvale = InAlpha();
+TEST_F(WayBackFromAlpha, ThePopUpOverTheMainWindowIsStillOverTheMainWindow) {
   WorkIn(korvale.Handle());
   PopUpAndChoose(korvale, "0  ");
   EXPECT_EQ(Front(), "Alpha");
-  ExpectWayBack("Korvale - Work");
+  ExpectTagLeadsTo(0, "Korvale - Work");
 }
 
 TEST_F(WayBackTest, TheMainWindowChosenFromThePopUpIsAVisit) {
@@ -259,14 +224,14 @@ TEST_F(WayBackTest, TheMainWindowChosenFromThePopUpIsAVisit) {
   PopUpAndChoose(korvale, "3  ");
   EXPECT_EQ(Front(), "Korvale - Work");
   EXPECT_EQ(korvale.Form().FocusTag(), kGotFocus);
-  ExpectWayBack("Alpha");
+  ExpectTagLeadsTo(0, "Alpha");
 }
 
 TEST_F(WayBackTest, TheSelectionOnStartLeavesTheMainWindowOneKeyAway) {
-  store.SaveSetting("Korvale - Work", "Options", "SelectPrevWinOnStart", "True");
+  StoreOption("SelectPrevWinOnStart", "True");
   StartedCopy();
   EXPECT_EQ(Front(), "Gamma");
-  ExpectWayBack("Korvale - Work");
+  ExpectTagLeadsTo(0, "Korvale - Work");
 }
 
 }  // namespace

@@ -84,12 +84,8 @@ TEST_F(WindowMenuActionsTest, AlwaysOnTopOfAPreviousWindowThatCannotBeActivatedO
   const WindowHandle alpha = Open("Alpha");
   KorvaleCopy& korvale = StartedAfter(alpha);
   desktop.SetEnabled(alpha, false);
-  korvale.host.WhenMessageBox([](const ShownMessage& box) {
-    EXPECT_EQ(box.text, "The window operation was not successful.  Please try again.");
-    EXPECT_EQ(box.title, "Korvale");
-    EXPECT_EQ(box.style, win32::kMbSetForeground);
-    return win32::kIdOk;
-  });
+  korvale.ExpectBox("The window operation was not successful.  Please try again.", "Korvale",
+                    win32::kMbSetForeground, win32::kIdOk);
   log.Clear();
   korvale.ChooseLate("mnuWindowPreviousWindowAlwaysOnTop");
   EXPECT_FALSE(korvale.Form().Menu("mnuWindowPreviousWindowAlwaysOnTop").checked);

@@ -97,8 +97,7 @@ TEST_F(WindowMenuOpeningTest, AnUnresolvedTagIsSearchedForEvenWhenNothingIsInFro
   KorvaleCopy& korvale = StartedAfter(Open("Clock", {.children = 0}));
   korvale.TagPrevious();
   desktop.LoseForeground();
-  PressTag(1);
-  EXPECT_EQ(Front(), "Clock");
+  ExpectTagLeadsTo(1, "Clock");
 }
 
 TEST_F(WindowMenuOpeningTest, EverySelectionIsStoredAlsoAFailedOne) {
@@ -141,8 +140,7 @@ TEST_F(WindowMenuOpeningTest, AHotKeyLeavesAnEntryWithoutTheMarkOfAnAccessKeyAlo
   korvale.TagPrevious();
   korvale.TagEntry(1)->caption = "1  Alpha";
   WorkIn(Open("Beta"));
-  PressTag(1);
-  EXPECT_EQ(Front(), "Beta");
+  ExpectTagLeadsTo(1, "Beta");
 }
 
 TEST_F(WindowMenuOpeningTest, ATitleOfAmpersandsIsShownAsItIsInTheMessages) {
@@ -151,10 +149,7 @@ TEST_F(WindowMenuOpeningTest, ATitleOfAmpersandsIsShownAsItIsInTheMessages) {
   korvale.TagPrevious();
   WorkIn(Open("Beta"));
   desktop.Close(alpha);
-  korvale.host.WhenMessageBox([](const ShownMessage& box) {
-    EXPECT_EQ(box.text, "Window:  [Q&A]  is not open.");
-    return win32::kIdOk;
-  });
+  korvale.ExpectBox("Window:  [Q&A]  is not open.", win32::kIdOk);
   PressTag(1);
 }
 

@@ -13,35 +13,32 @@ using Items = std::vector<ShownMenuItem>;
 class WindowMenuPopUpTest : public WindowMenuTest {
  protected:
   /// Alpha is Tag 1; the user works in Beta.
-  KorvaleCopy& StartedInBeta() {
-    KorvaleCopy& korvale = StartedAfter(Open("Alpha"));
+  WindowMenuPopUpTest() {
     korvale.TagPrevious();
     beta_ = Open("Beta");
-    return korvale;
   }
 
   void PopUp() { PressHotKey(win32::kModWin, 'W'); }
 
-  void PopUpAndChoose(KorvaleCopy& korvale, const std::string& caption) {
+  void PopUpAndChoose(const std::string& caption) {
     korvale.host.WhenPopupMenu([caption](const Items&) { return caption; });
     PopUp();
   }
 
+  KorvaleCopy& korvale = StartedAfter(Open("Alpha"));
   WindowHandle beta_ = 0;
 };
 
 TEST_F(WindowMenuPopUpTest, LeftWithoutAChoiceGivesTheKeyboardBack) {
-  KorvaleCopy& korvale = StartedInBeta();
-  PopUpAndChoose(korvale, "");
+  PopUpAndChoose("");
   EXPECT_EQ(Front(), "Beta");
 
   desktop.UserActivates(korvale.Handle());
-  PopUpAndChoose(korvale, "");
+  PopUpAndChoose("");
   EXPECT_EQ(Front(), "Korvale - Work");
 }
 
 TEST_F(WindowMenuPopUpTest, LeavesTheUserInTheWindowThatHeClicksInto) {
-  KorvaleCopy& korvale = StartedInBeta();
   const WindowHandle gamma = Open("Gamma");
   WorkIn(beta_);
   korvale.host.WhenPopupMenu([&](const Items&) {
@@ -53,7 +50,6 @@ TEST_F(WindowMenuPopUpTest, LeavesTheUserInTheWindowThatHeClicksInto) {
 }
 
 TEST_F(WindowMenuPopUpTest, LeadsToTheWindowBeforeWhenTheUsersOneHasGone) {
-  KorvaleCopy& korvale = StartedInBeta();
   korvale.host.WhenPopupMenu([&](const Items&) {
     desktop.Close(beta_);
     return "";
@@ -70,57 +66,50 @@ TEST_F(WindowMenuPopUpTest, LeadsToTheWindowBeforeWhenTheUsersOneHasGone) {
 }
 
 TEST_F(WindowMenuPopUpTest, ItsSwitchesLeaveTheUserWhereHeWorks) {
-  KorvaleCopy& korvale = StartedInBeta();
-  PopUpAndChoose(korvale, "Korvale  Always On Top");
+  PopUpAndChoose("Korvale  Always On Top");
   EXPECT_EQ(Front(), "Beta");
 }
 
 TEST_F(WindowMenuPopUpTest, RestoreAllEndsInTheMainWindow) {
-  KorvaleCopy& korvale = StartedInBeta();
-  PopUpAndChoose(korvale, "Restore All");
+  PopUpAndChoose("Restore All");
   EXPECT_EQ(Front(), "Korvale - Work");
 }
 
 TEST_F(WindowMenuPopUpTest, TheAddWindowDialogLeadsBackToWhereTheUserCameFrom) {
-  KorvaleCopy& korvale = StartedInBeta();
   korvale.host.WhenModal("frmGetWindow", [&](class Form& dialog) {
     korvale.user.PressKey(dialog.Handle(), win32::kVkEscape);
   });
-  PopUpAndChoose(korvale, std::string(27, ' ') + "Add  Korvale  to Window menu...");
+  PopUpAndChoose(std::string(27, ' ') + "Add  Korvale  to Window menu...");
   EXPECT_EQ(Front(), "Beta");
 }
 
 TEST_F(WindowMenuPopUpTest, TheMessageOfATagThatIsNotOpenLeadsBackToWhereTheUserCameFrom) {
-  KorvaleCopy& korvale = StartedInBeta();
   desktop.Close(desktop.FindWindowA("Alpha"));
   korvale.host.AnswerNext(win32::kIdOk);
-  PopUpAndChoose(korvale, "1  Alpha");
+  PopUpAndChoose("1  Alpha");
   EXPECT_EQ(Front(), "Beta");
 }
 
 TEST_F(WindowMenuPopUpTest, AnEntryOfKorvaleItselfLeadsThere) {
-  KorvaleCopy& korvale = StartedInBeta();
   WorkIn(korvale.Handle());
   korvale.host.WhenModal("frmGetWindow", [&](class Form& dialog) {
     korvale.user.Click(dialog.Handle(), dialog.Find("cmdOK").Id());
   });
   korvale.user.ChooseMenu(korvale.Handle(), {"Window", "Add  Korvale  to Window menu..."});
   WorkIn(beta_);
-  PopUpAndChoose(korvale, "2  Korvale - Work");
+  PopUpAndChoose("2  Korvale - Work");
   EXPECT_EQ(Front(), "Korvale - Work");
 }
 
 TEST_F(WindowMenuPopUpTest, LeavesAMinimizedStripMinimized) {
-  KorvaleCopy& korvale = StartedInBeta();
   desktop.UserMinimizes(korvale.Handle());
   WorkIn(beta_);
-  PopUpAndChoose(korvale, "");
+  PopUpAndChoose("");
   EXPECT_TRUE(desktop.IsIconic(korvale.Handle()));
   EXPECT_EQ(Front(), "Beta");
 }
 
 TEST_F(WindowMenuPopUpTest, OverAnOpenMenuOfTheBarClosesThatFirst) {
-  KorvaleCopy& korvale = StartedInBeta();
   WorkIn(korvale.Handle());
   korvale.user.PressKey(korvale.Handle(), 'W', kAlt);
   ASSERT_FALSE(korvale.user.OpenMenuItems().empty());
@@ -136,7 +125,6 @@ TEST_F(WindowMenuPopUpTest, OverAnOpenMenuOfTheBarClosesThatFirst) {
 }
 
 TEST_F(WindowMenuPopUpTest, PoppedUpAgainStandsAloneWithTheTimersAtRest) {
-  KorvaleCopy& korvale = StartedInBeta();
   int shown = 0;
   const auto show = [&](const Items&) {
     ++shown;
@@ -157,7 +145,6 @@ TEST_F(WindowMenuPopUpTest, PoppedUpAgainStandsAloneWithTheTimersAtRest) {
 }
 
 TEST_F(WindowMenuPopUpTest, ATagKeyClosesItAndSelectsItsWindow) {
-  KorvaleCopy& korvale = StartedInBeta();
   korvale.host.WhenPopupMenu([&](const Items&) {
     PressTag(1);
     EXPECT_FALSE(korvale.Form().tmrWindow().Enabled());
@@ -169,7 +156,6 @@ TEST_F(WindowMenuPopUpTest, ATagKeyClosesItAndSelectsItsWindow) {
 }
 
 TEST_F(WindowMenuPopUpTest, TheMinimizeKeyActsOnTheWindowBelowIt) {
-  KorvaleCopy& korvale = StartedInBeta();
   korvale.host.WhenPopupMenu([&](const Items&) {
     PressHotKey(win32::kModAlt, win32::kVkDown);
     return "";

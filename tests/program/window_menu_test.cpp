@@ -145,8 +145,7 @@ TEST_F(WindowMenuTest, TheMainWindowItselfCanBeTagged) {
   korvale.user.ChooseMenu(korvale.Handle(), {"Window", "Add  Korvale  to Window menu..."});
   WorkIn(Open("Beta"));
   const PreviousWindow before = korvale.Record();
-  PressTag(1);
-  EXPECT_EQ(Front(), "Korvale - Work");
+  ExpectTagLeadsTo(1, "Korvale - Work");
   EXPECT_EQ(korvale.Record().current, before.current);
 }
 

@@ -11,14 +11,6 @@ namespace korvale {
 /// The Window menu in the hands of a user.
 class WindowMenuTest : public KorvaleWorld {
  protected:
-  /// A started copy; the user has come from `title` to its main window.
-  KorvaleCopy& StartedAfter(WindowHandle window) {
-    KorvaleCopy& korvale = StartedCopy();
-    WorkIn(window);
-    WorkIn(korvale.Handle());
-    return korvale;
-  }
-
   std::vector<std::string> Captions(const std::vector<ShownMenuItem>& items) {
     std::vector<std::string> captions;
     for (const ShownMenuItem& item : items) captions.push_back(item.caption);
@@ -26,12 +18,7 @@ class WindowMenuTest : public KorvaleWorld {
   }
 
   void ExpectMessage(KorvaleCopy& korvale, const std::string& text, std::int32_t style) {
-    korvale.host.WhenMessageBox([text, style](const ShownMessage& box) {
-      EXPECT_EQ(box.text, text);
-      EXPECT_EQ(box.title, "Korvale");
-      EXPECT_EQ(box.style, style);
-      return win32::kIdOk;
-    });
+    korvale.ExpectBox(text, "Korvale", style, win32::kIdOk);
   }
 };
 
