@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -40,6 +41,20 @@ class MessageBoxTest : public testing::Test {
 
   std::int16_t ShowBox(const std::string& prompt = "Prompt") {
     return messages.ShowMessageBox(prompt, 0, "Title");
+  }
+
+  /// Shows a box during which this happens.
+  void ShowBoxWhile(const std::function<void()>& action) {
+    host.whileShown = [action](const std::string&) { action(); };
+    ShowBox();
+  }
+  /// Hot keys, tracking and main window are as before the box.
+  void ExpectAllGivenBack() {
+    EXPECT_FALSE(suspension.MessageBoxShown);
+    EXPECT_EQ(suspension.MessageBoxDepth, 0);
+    EXPECT_TRUE(mainWindow.timer.enabled);
+    EXPECT_EQ(mainWindow.timer.tag, "ON");
+    EXPECT_TRUE(mainWindow.mainEnabled);
   }
 
   CallLog log;

@@ -6,37 +6,36 @@
 namespace korvale {
 namespace {
 
-class MessageBoxForegroundTest : public MessageBoxTest {};
+class MessageBoxForegroundTest : public MessageBoxTest {
+ protected:
+  /// The Options dialog, in front.
+  WindowHandle OpenOptions() {
+    const WindowHandle options = Open("Korvale - Options", "Korvale.frmOptions", kOurProcess);
+    forms.Load("frmOptions", options);
+    desktop.UserActivates(options);
+    return options;
+  }
+};
 
 TEST_F(MessageBoxForegroundTest, GivesTheForegroundBackToTheMainWindow) {
   desktop.UserActivates(main);
   log.Clear();
-  host.whileShown = [this](const std::string&) { desktop.UserActivates(other); };
-
-  ShowBox();
+  ShowBoxWhile([this] { desktop.UserActivates(other); });
 
   EXPECT_EQ(log.Calls().back(), "SetForegroundWindow(main)");
   EXPECT_EQ(desktop.GetForegroundWindow(), main);
 }
 
 TEST_F(MessageBoxForegroundTest, GivesTheForegroundBackToAnotherFormOfTheProgram) {
-  const WindowHandle options = Open("Korvale - Options", "Korvale.frmOptions", kOurProcess);
-  forms.Load("frmOptions", options);
-  desktop.UserActivates(options);
-  host.whileShown = [this](const std::string&) { desktop.UserActivates(other); };
-
-  ShowBox();
+  const WindowHandle options = OpenOptions();
+  ShowBoxWhile([this] { desktop.UserActivates(other); });
 
   EXPECT_EQ(desktop.GetForegroundWindow(), options);
 }
 
 TEST_F(MessageBoxForegroundTest, GivesTheForegroundBackToTheDialogWhenTheMainWindowGotIt) {
-  const WindowHandle options = Open("Korvale - Options", "Korvale.frmOptions", kOurProcess);
-  forms.Load("frmOptions", options);
-  desktop.UserActivates(options);
-  host.whileShown = [this](const std::string&) { desktop.UserActivates(main); };
-
-  ShowBox();
+  const WindowHandle options = OpenOptions();
+  ShowBoxWhile([this] { desktop.UserActivates(main); });
 
   EXPECT_EQ(desktop.GetForegroundWindow(), options);
 }
@@ -54,9 +53,7 @@ TEST_F(MessageBoxForegroundTest, LeavesTheForegroundToTheProgramThatHadIt) {
   desktop.UserActivates(other);
   const WindowHandle third = Open("Third", "Third", kOtherProcess);
   log.Clear();
-  host.whileShown = [&](const std::string&) { desktop.UserActivates(third); };
-
-  ShowBox();
+  ShowBoxWhile([&] { desktop.UserActivates(third); });
 
   EXPECT_TRUE(log.CallsOf("SetForegroundWindow").empty());
   EXPECT_EQ(desktop.GetForegroundWindow(), third);
@@ -65,9 +62,7 @@ TEST_F(MessageBoxForegroundTest, LeavesTheForegroundToTheProgramThatHadIt) {
 TEST_F(MessageBoxForegroundTest, GivesTheForegroundBackToTheProgramThatHadItAfterAHotKey) {
   desktop.UserActivates(other);
   log.Clear();
-  host.whileShown = [this](const std::string&) { desktop.UserActivates(main); };
-
-  ShowBox();
+  ShowBoxWhile([this] { desktop.UserActivates(main); });
 
   EXPECT_EQ(log.Calls().back(), "SetForegroundWindow(other)");
   EXPECT_EQ(desktop.GetForegroundWindow(), other);
@@ -76,12 +71,10 @@ TEST_F(MessageBoxForegroundTest, GivesTheForegroundBackToTheProgramThatHadItAfte
 TEST_F(MessageBoxForegroundTest, LeavesTheForegroundToAnotherFormOfTheProgram) {
   desktop.UserActivates(main);
   log.Clear();
-  host.whileShown = [this](const std::string&) {
+  ShowBoxWhile([this] {
     const WindowHandle about = Open("About", "Korvale.frmMsgBox2", kOurProcess);
     forms.Load("frmMsgBox2", about);
-  };
-
-  ShowBox();
+  });
 
   EXPECT_TRUE(log.CallsOf("SetForegroundWindow").empty());
 }
@@ -89,9 +82,7 @@ TEST_F(MessageBoxForegroundTest, LeavesTheForegroundToAnotherFormOfTheProgram) {
 TEST_F(MessageBoxForegroundTest, GivesTheForegroundBackWhenNobodyHasIt) {
   forms.Load("frmMsgTip", 0);
   desktop.UserActivates(main);
-  host.whileShown = [this](const std::string&) { desktop.LoseForeground(); };
-
-  ShowBox();
+  ShowBoxWhile([this] { desktop.LoseForeground(); });
 
   EXPECT_EQ(desktop.GetForegroundWindow(), main);
 }
@@ -116,12 +107,10 @@ class LostWindowTest : public MessageBoxTest {
   void ExpectTheForegroundStaysAfter(const std::function<void()>& happening) {
     desktop.UserActivates(main);
     log.Clear();
-    host.whileShown = [&](const std::string&) {
+    ShowBoxWhile([&] {
       desktop.UserActivates(other);
       happening();
-    };
-
-    ShowBox();
+    });
 
     EXPECT_TRUE(log.CallsOf("SetForegroundWindow").empty());
     EXPECT_EQ(desktop.GetForegroundWindow(), other);

@@ -26,31 +26,23 @@ TEST_F(MessageBoxTest, ShowsTheBoxAndReturnsTheButton) {
 }
 
 TEST_F(MessageBoxTest, SuspendsHotKeysTrackingAndMainWindowWhileTheBoxIsShown) {
-  host.whileShown = [this](const std::string&) {
+  ShowBoxWhile([this] {
     EXPECT_TRUE(suspension.MessageBoxShown);
     EXPECT_TRUE(suspension.Active());
     EXPECT_EQ(suspension.MessageBoxDepth, 1);
     EXPECT_FALSE(mainWindow.timer.enabled);
     EXPECT_EQ(mainWindow.timer.tag, "OFF");
     EXPECT_FALSE(mainWindow.mainEnabled);
-  };
+  });
 
-  ShowBox();
-
-  EXPECT_FALSE(suspension.MessageBoxShown);
-  EXPECT_EQ(suspension.MessageBoxDepth, 0);
-  EXPECT_TRUE(mainWindow.timer.enabled);
-  EXPECT_EQ(mainWindow.timer.tag, "ON");
-  EXPECT_TRUE(mainWindow.mainEnabled);
+  ExpectAllGivenBack();
 }
 
 TEST_F(MessageBoxTest, KeepsTheTrackingTimerStoppedWhenTheTimersAreStartedMeanwhile) {
-  host.whileShown = [this](const std::string&) {
+  ShowBoxWhile([this] {
     mainWindow.udmTimersEnabled(true);
     EXPECT_FALSE(mainWindow.timer.enabled);
-  };
-
-  ShowBox();
+  });
 
   EXPECT_TRUE(mainWindow.timer.enabled);
 }
@@ -83,10 +75,7 @@ TEST_F(MessageBoxTest, OnlyCountsAnInnerBox) {
   EXPECT_EQ(log.Calls(),
             (Calls{"SetMainEnabled(false)", "MessageBoxW(main, \"outer\", \"Title\", 0)",
                    "MessageBoxW(main, \"inner\", \"Title\", 0)", "SetMainEnabled(true)"}));
-  EXPECT_TRUE(mainWindow.timer.enabled);
-  EXPECT_EQ(mainWindow.timer.tag, "ON");
-  EXPECT_FALSE(suspension.MessageBoxShown);
-  EXPECT_EQ(suspension.MessageBoxDepth, 0);
+  ExpectAllGivenBack();
 }
 
 TEST_F(MessageBoxTest, GivesEverythingBackWhenTheBoxFails) {
@@ -94,11 +83,7 @@ TEST_F(MessageBoxTest, GivesEverythingBackWhenTheBoxFails) {
 
   EXPECT_THROW(ShowBox(), std::runtime_error);
 
-  EXPECT_FALSE(suspension.MessageBoxShown);
-  EXPECT_EQ(suspension.MessageBoxDepth, 0);
-  EXPECT_TRUE(mainWindow.timer.enabled);
-  EXPECT_EQ(mainWindow.timer.tag, "ON");
-  EXPECT_TRUE(mainWindow.mainEnabled);
+  ExpectAllGivenBack();
 }
 
 TEST_F(MessageBoxTest, GivesEverythingBackWhenTheMainWindowFails) {
