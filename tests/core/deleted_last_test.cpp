@@ -3,10 +3,10 @@
 #include <optional>
 #include <string>
 
-#include "app/core/save_journal.h"
 #include "app/core/save_scope.h"
 #include "app/core/settings.h"
 #include "tests/core/saves.h"
+#include "tests/fakes/error_of.h"
 #include "tests/fakes/fake_settings_store.h"
 
 namespace korvale {

@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "app/core/settings.h"
-#include "tests/fakes/error_of.h"
 
 namespace korvale {
 

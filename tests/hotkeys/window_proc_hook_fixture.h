@@ -7,7 +7,6 @@
 #include <functional>
 #include <string>
 #include <utility>
-#include <vector>
 
 #include "app/core/error_reporting.h"
 #include "hotkeys/window_proc_hook.h"

@@ -5,7 +5,6 @@
 #include "desktop/tag_list_storage.h"
 #include "platform/win32_constants.h"
 #include "tests/program/simulated_life.h"
-#include "util/text.h"
 
 namespace korvale {
 namespace {
