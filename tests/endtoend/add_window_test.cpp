@@ -37,8 +37,12 @@ class AddWindow : public KorvaleTest {
   Window window_;
 };
 
-TEST_F(AddWindow, ShowsThePreviousWindowAndItsClass) {
-  Start();
+class AddWindowInStarted : public AddWindow {
+ protected:
+  void SetUp() override { Start(); }
+};
+
+TEST_F(AddWindowInStarted, ShowsThePreviousWindowAndItsClass) {
   const AddWindowDialog dialog = OpenFor("Alpha");
   EXPECT_EQ(dialog.form().Title(), "Korvale - Add Window");
   EXPECT_EQ(dialog.TitleBox().Text(), "Alpha");
@@ -48,15 +52,13 @@ TEST_F(AddWindow, ShowsThePreviousWindowAndItsClass) {
   EXPECT_FALSE(dialog.RemoveButton().Enabled());
 }
 
-TEST_F(AddWindow, TagsAWindowByItsTitle) {
-  Start();
+TEST_F(AddWindowInStarted, TagsAWindowByItsTitle) {
   const AddWindowDialog dialog = OpenFor("Alpha");
   ASSERT_TRUE(dialog.Confirm());
   ExpectTagSelects(1, window_);
 }
 
-TEST_F(AddWindow, TagsAWindowByTheRightPartOfItsTitle) {
-  Start();
+TEST_F(AddWindowInStarted, TagsAWindowByTheRightPartOfItsTitle) {
   const AddWindowDialog dialog = OpenFor("one - two - three");
   ASSERT_EQ(dialog.Choices().size(), 3U);
   EXPECT_EQ(dialog.Choices()[1].Text(), "one - ***");
@@ -71,8 +73,7 @@ TEST_F(AddWindow, TagsAWindowByTheRightPartOfItsTitle) {
   EXPECT_EQ(installation_.settings().Get("ParentWindowClass", "3"), kClass);
 }
 
-TEST_F(AddWindow, TagsAWindowByTheLeftPartOfItsTitle) {
-  Start();
+TEST_F(AddWindowInStarted, TagsAWindowByTheLeftPartOfItsTitle) {
   const AddWindowDialog dialog = OpenFor("one - two");
   ASSERT_TRUE(dialog.Choose(1));
   ASSERT_TRUE(dialog.Confirm());
@@ -80,8 +81,7 @@ TEST_F(AddWindow, TagsAWindowByTheLeftPartOfItsTitle) {
   ExpectTagSelects(1, window_);
 }
 
-TEST_F(AddWindow, OffersTheWholeTitleAsItsPartsWhenThereIsNoSeparator) {
-  Start();
+TEST_F(AddWindowInStarted, OffersTheWholeTitleAsItsPartsWhenThereIsNoSeparator) {
   const AddWindowDialog dialog = OpenFor("Alpha");
   ASSERT_EQ(dialog.Choices().size(), 3U);
   EXPECT_EQ(dialog.Choices()[1].Text(), "Alpha - ***");
@@ -97,8 +97,7 @@ TEST_F(AddWindow, OffersOnlyTheTitleOfAnUntitledWindow) {
   EXPECT_EQ(dialog.Choices().size(), 1U);
 }
 
-TEST_F(AddWindow, TagsAWindowByATitleThatTheUserEdited) {
-  Start();
+TEST_F(AddWindowInStarted, TagsAWindowByATitleThatTheUserEdited) {
   const AddWindowDialog dialog = OpenFor("Report of Monday");
   Press({MOD_ALT, 'P'});
   Type("Report");
@@ -142,14 +141,12 @@ TEST_F(AddWindow, RemovesATagAndStaysOpen) {
   ASSERT_TRUE(dialog.Cancel());
   ASSERT_TRUE(InFront(main()));
   ASSERT_TRUE(StaysInFront(main()));
-  const Window elsewhere = Open("Elsewhere");
-  ASSERT_TRUE(WorkIn(elsewhere));
+  const Window elsewhere = WorkInNew("Elsewhere");
   Press(TagKey(2));
   EXPECT_TRUE(StaysInFront(elsewhere));
 }
 
-TEST_F(AddWindow, GoesThroughTheOpenListOfTagsWithTheArrowsAndTakesTheChosenOne) {
-  Start();
+TEST_F(AddWindowInStarted, GoesThroughTheOpenListOfTagsWithTheArrowsAndTakesTheChosenOne) {
   const AddWindowDialog dialog = OpenFor("Alpha");
   Press({0, VK_F4});
   ASSERT_TRUE(ListOpens(dialog, true));
@@ -164,8 +161,7 @@ TEST_F(AddWindow, GoesThroughTheOpenListOfTagsWithTheArrowsAndTakesTheChosenOne)
   ExpectTagSelects(3, window_);
 }
 
-TEST_F(AddWindow, ClosesWithEscAfterTheListOfTagsWasOpen) {
-  Start();
+TEST_F(AddWindowInStarted, ClosesWithEscAfterTheListOfTagsWasOpen) {
   const AddWindowDialog dialog = OpenFor("Alpha");
   Press({0, VK_F4});
   ASSERT_TRUE(ListOpens(dialog, true));
@@ -190,8 +186,7 @@ TEST_F(AddWindow, LeavesTheOpenListOfTagsWithTab) {
   EXPECT_TRUE(dialog.Cancel());
 }
 
-TEST_F(AddWindow, ClosesAtTheFirstClickAfterTheMouseHasOpenedTheListOfTags) {
-  Start();
+TEST_F(AddWindowInStarted, ClosesAtTheFirstClickAfterTheMouseHasOpenedTheListOfTags) {
   const AddWindowDialog dialog = OpenFor("Alpha");
   Click(dialog.TagList());
   ASSERT_TRUE(ListOpens(dialog, true));
@@ -202,8 +197,7 @@ TEST_F(AddWindow, ClosesAtTheFirstClickAfterTheMouseHasOpenedTheListOfTags) {
   EXPECT_TRUE(WaitFor([&] { return !dialog.form().Exists(); }));
 }
 
-TEST_F(AddWindow, GivesTheFocusBackToTheMainWindow) {
-  Start();
+TEST_F(AddWindowInStarted, GivesTheFocusBackToTheMainWindow) {
   const AddWindowDialog first = OpenFor("Alpha");
   ASSERT_TRUE(first.Confirm());
   EXPECT_TRUE(InFront(main()));
@@ -214,8 +208,7 @@ TEST_F(AddWindow, GivesTheFocusBackToTheMainWindow) {
   EXPECT_TRUE(StaysInFront(main()));
 }
 
-TEST_F(AddWindow, ShowsItsButtons) {
-  Start();
+TEST_F(AddWindowInStarted, ShowsItsButtons) {
   const AddWindowDialog dialog = OpenFor("Alpha");
   for (const Window button : {dialog.OkButton(), dialog.CloseButton(), dialog.RemoveButton()}) {
     RECT shown{};
@@ -229,20 +222,17 @@ TEST_F(AddWindow, ShowsItsButtons) {
   }
 }
 
-TEST_F(AddWindow, ChangesNothingOnEscape) {
-  Start();
+TEST_F(AddWindowInStarted, ChangesNothingOnEscape) {
   const AddWindowDialog dialog = OpenFor("Alpha");
   ASSERT_TRUE(dialog.Cancel());
   ASSERT_TRUE(InFront(main()));
   ASSERT_TRUE(StaysInFront(main()));
-  const Window elsewhere = Open("Elsewhere");
-  ASSERT_TRUE(WorkIn(elsewhere));
+  const Window elsewhere = WorkInNew("Elsewhere");
   Press(TagKey(1));
   EXPECT_TRUE(StaysInFront(elsewhere));
 }
 
-TEST_F(AddWindow, TagsTheMainWindowItself) {
-  Start();
+TEST_F(AddWindowInStarted, TagsTheMainWindowItself) {
   ASSERT_TRUE(WorkIn(Open("Alpha")));
   ASSERT_TRUE(OpenWindowMenu());
   Press({0, 'U'});
@@ -254,10 +244,8 @@ TEST_F(AddWindow, TagsTheMainWindowItself) {
   ExpectTagSelects(1, main());
 }
 
-TEST_F(AddWindow, StoresAWindowWithoutChildWindowsWithoutItsClass) {
-  Start();
-  const Window bare = Open({.title = "Bare", .with_child = false});
-  ASSERT_TRUE(WorkIn(bare));
+TEST_F(AddWindowInStarted, StoresAWindowWithoutChildWindowsWithoutItsClass) {
+  WorkInNew({.title = "Bare", .with_child = false});
   const AddWindowDialog dialog = OpenAddWindow();
   ASSERT_TRUE(dialog.Confirm());
   ASSERT_TRUE(Exit());
@@ -265,8 +253,7 @@ TEST_F(AddWindow, StoresAWindowWithoutChildWindowsWithoutItsClass) {
   EXPECT_EQ(installation_.settings().Get("ParentWindowClass", "1").value_or(""), "");
 }
 
-TEST_F(AddWindow, KeepsATitleInAnyScript) {
-  Start();
+TEST_F(AddWindowInStarted, KeepsATitleInAnyScript) {
   const AddWindowDialog dialog = OpenFor("Счёт №5 - 会計 🧮 & co");
   EXPECT_EQ(dialog.TitleBox().Text(), "Счёт №5 - 会計 🧮 & co");
   ASSERT_EQ(dialog.Choices().size(), 3U);

@@ -98,8 +98,7 @@ TEST_F(HotKeys, BringTheOpenOptionsDialogForward) {
   const Window options = korvale_->Form("frmOptions");
   ASSERT_TRUE(options);
   ASSERT_TRUE(InFront(options));
-  const Window alpha = Open("Alpha");
-  ASSERT_TRUE(WorkIn(alpha));
+  WorkInNew("Alpha");
   Press(kOptionsKey);
   EXPECT_TRUE(InFront(options));
   EXPECT_FALSE(korvale_->HasMessageBox());

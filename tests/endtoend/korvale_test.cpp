@@ -49,6 +49,13 @@ AssertionResult KorvaleTest::WorkIn(Window window) {
   return Target(window.Title());
 }
 
+Window KorvaleTest::WorkInNew(const WindowSpec& spec) {
+  const Window window = Open(spec);
+  const AssertionResult worked = WorkIn(window);
+  if (!worked) throw std::runtime_error(worked.message());
+  return window;
+}
+
 AssertionResult KorvaleTest::InFront(Window window) {
   const bool came = WaitFor([&] { return Foreground() == window; });
   return Check(came, InsteadOf(window));

@@ -29,6 +29,9 @@ class KorvaleTest : public ::testing::Test {
 
   /// Brings the window to the front and waits until it is the Target Window.
   ::testing::AssertionResult WorkIn(Window window);
+  /// Opens a window and works in it; throws, and so ends the test, when that fails.
+  Window WorkInNew(const WindowSpec& spec);
+  Window WorkInNew(const char* title) { return WorkInNew(WindowSpec{.title = title}); }
   /// Waits until the window is in front.
   ::testing::AssertionResult InFront(Window window);
   /// The window is in front for as long as three ticks, and no message is shown.

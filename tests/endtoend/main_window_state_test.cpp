@@ -62,8 +62,7 @@ TEST_F(MainWindowState, MinimizedIsKeptAndLeavesTheUserInHisWindow) {
   EXPECT_TRUE(main().Minimized());
   EXPECT_TRUE(StaysInFront(alpha));
   EXPECT_TRUE(Target("Alpha"));
-  const Window beta = Open("Beta");
-  ASSERT_TRUE(WorkIn(beta));
+  WorkInNew("Beta");
   Press(TagKey(0));
   EXPECT_TRUE(InFront(alpha));
   EXPECT_TRUE(StaysInFront(alpha));

@@ -13,10 +13,8 @@ class OptionsWayBack : public OptionsTest {
 
   void StartInAlpha() {
     Start();
-    beta_ = Open("Beta");
-    ASSERT_TRUE(WorkIn(beta_));
-    alpha_ = Open("Alpha");
-    ASSERT_TRUE(WorkIn(alpha_));
+    beta_ = WorkInNew("Beta");
+    alpha_ = WorkInNew("Alpha");
   }
 
   static std::vector<Close> WaysToClose() {

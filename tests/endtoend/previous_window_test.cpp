@@ -6,10 +6,8 @@ namespace {
 class PreviousWindow : public KorvaleTest {
  protected:
   void OpenAlphaAndBeta() {
-    alpha_ = Open("Alpha");
-    ASSERT_TRUE(WorkIn(alpha_));
-    beta_ = Open("Beta");
-    ASSERT_TRUE(WorkIn(beta_));
+    alpha_ = WorkInNew("Alpha");
+    beta_ = WorkInNew("Beta");
   }
 
   /// Shows the window for as long as three ticks, then goes back to Beta.
@@ -24,9 +22,16 @@ class PreviousWindow : public KorvaleTest {
   Window beta_;
 };
 
-TEST_F(PreviousWindow, IsOneKeyAwayThereAndBack) {
-  Start();
-  OpenAlphaAndBeta();
+/// Alpha is the Previous Window, the user works in Beta.
+class PreviousOfTwoWindows : public PreviousWindow {
+ protected:
+  void SetUp() override {
+    Start();
+    OpenAlphaAndBeta();
+  }
+};
+
+TEST_F(PreviousOfTwoWindows, IsOneKeyAwayThereAndBack) {
   Press(TagKey(0));
   EXPECT_TRUE(InFront(alpha_));
   EXPECT_TRUE(Target("Alpha"));
@@ -36,15 +41,12 @@ TEST_F(PreviousWindow, IsOneKeyAwayThereAndBack) {
 
 TEST_F(PreviousWindow, ShowsItsTitleAndClassInTheMainWindow) {
   Start();
-  const Window window = Open({.title = "Счёт - 会計 🧮", .class_name = "Special.Class"});
-  ASSERT_TRUE(WorkIn(window));
+  WorkInNew({.title = "Счёт - 会計 🧮", .class_name = "Special.Class"});
   EXPECT_EQ(korvale_->TargetTitle(), "Счёт - 会計 🧮");
   EXPECT_EQ(korvale_->TargetClass(), "Special.Class");
 }
 
-TEST_F(PreviousWindow, StaysTheSameWhileTheMainWindowIsInFront) {
-  Start();
-  OpenAlphaAndBeta();
+TEST_F(PreviousOfTwoWindows, StaysTheSameWhileTheMainWindowIsInFront) {
   ASSERT_TRUE(BringToFront(main()));
   ASSERT_TRUE(StaysInFront(main()));
   EXPECT_EQ(korvale_->TargetTitle(), "Beta");
@@ -52,9 +54,7 @@ TEST_F(PreviousWindow, StaysTheSameWhileTheMainWindowIsInFront) {
   EXPECT_TRUE(InFront(beta_));
 }
 
-TEST_F(PreviousWindow, IsTheMainWindowForTheUserWhoCameFromIt) {
-  Start();
-  OpenAlphaAndBeta();
+TEST_F(PreviousOfTwoWindows, IsTheMainWindowForTheUserWhoCameFromIt) {
   ASSERT_TRUE(BringToFront(main()));
   ASSERT_TRUE(StaysInFront(main()));
   ASSERT_TRUE(BringToFront(alpha_));
@@ -63,9 +63,7 @@ TEST_F(PreviousWindow, IsTheMainWindowForTheUserWhoCameFromIt) {
   EXPECT_TRUE(InFront(main()));
 }
 
-TEST_F(PreviousWindow, IsNeverAToolWindow) {
-  Start();
-  OpenAlphaAndBeta();
+TEST_F(PreviousOfTwoWindows, IsNeverAToolWindow) {
   VisitAndReturnToBeta(Open({.title = "Tool", .extended_style = WS_EX_TOOLWINDOW}));
   Press(TagKey(0));
   EXPECT_TRUE(InFront(alpha_));
@@ -75,16 +73,13 @@ TEST_F(PreviousWindow, IsAToolWindowWhenTheOptionAllowsIt) {
   installation_.SetOption("AllowToolbarWindow", "True");
   Start();
   OpenAlphaAndBeta();
-  const Window tool = Open({.title = "Tool", .extended_style = WS_EX_TOOLWINDOW});
-  ASSERT_TRUE(WorkIn(tool));
+  const Window tool = WorkInNew({.title = "Tool", .extended_style = WS_EX_TOOLWINDOW});
   ASSERT_TRUE(WorkIn(beta_));
   Press(TagKey(0));
   EXPECT_TRUE(InFront(tool));
 }
 
-TEST_F(PreviousWindow, IsNeverAnUntitledWindow) {
-  Start();
-  OpenAlphaAndBeta();
+TEST_F(PreviousOfTwoWindows, IsNeverAnUntitledWindow) {
   VisitAndReturnToBeta(Open({.title = ""}));
   Press(TagKey(0));
   EXPECT_TRUE(InFront(alpha_));
@@ -101,17 +96,13 @@ TEST_F(PreviousWindow, IsShownAsAWindowWithoutATitleWhenTheOptionAllowsIt) {
   EXPECT_TRUE(InFront(untitled));
 }
 
-TEST_F(PreviousWindow, IsNeverAWindowWithAModalFrame) {
-  Start();
-  OpenAlphaAndBeta();
+TEST_F(PreviousOfTwoWindows, IsNeverAWindowWithAModalFrame) {
   VisitAndReturnToBeta(Open({.title = "Framed", .style = WS_OVERLAPPEDWINDOW | DS_MODALFRAME}));
   Press(TagKey(0));
   EXPECT_TRUE(InFront(alpha_));
 }
 
-TEST_F(PreviousWindow, IsNeverASystemModalWindow) {
-  Start();
-  OpenAlphaAndBeta();
+TEST_F(PreviousOfTwoWindows, IsNeverASystemModalWindow) {
   VisitAndReturnToBeta(Open({.title = "Urgent", .style = WS_OVERLAPPEDWINDOW | DS_SYSMODAL}));
   Press(TagKey(0));
   EXPECT_TRUE(InFront(alpha_));
@@ -128,8 +119,7 @@ TEST_F(PreviousWindow, IsNeverAnUntitledStaticWindowWhateverTheOptions) {
 
 TEST_F(PreviousWindow, IsAnyWindowThatIsOnlyTitledLikeTheDesktop) {
   Start();
-  const Window titled = Open("Program Manager");
-  ASSERT_TRUE(WorkIn(titled));
+  const Window titled = WorkInNew("Program Manager");
   ASSERT_TRUE(WorkIn(Open("Beta")));
   Press(TagKey(0));
   EXPECT_TRUE(InFront(titled));
@@ -139,8 +129,7 @@ TEST_F(PreviousWindow, IsAToolWindowThatTheUserTagged) {
   installation_.StoreTag(1, "Tool", "Test.Window");
   Start();
   OpenAlphaAndBeta();
-  const Window tool = Open({.title = "Tool", .extended_style = WS_EX_TOOLWINDOW});
-  ASSERT_TRUE(WorkIn(tool));
+  const Window tool = WorkInNew({.title = "Tool", .extended_style = WS_EX_TOOLWINDOW});
   ASSERT_TRUE(WorkIn(beta_));
   Press(TagKey(0));
   EXPECT_TRUE(InFront(tool));
@@ -150,25 +139,21 @@ TEST_F(PreviousWindow, IsAModalFrameThatTheUserTagged) {
   installation_.StoreTag(1, "Framed", "Test.Window");
   Start();
   OpenAlphaAndBeta();
-  const Window framed = Open({.title = "Framed", .style = WS_OVERLAPPEDWINDOW | DS_MODALFRAME});
-  ASSERT_TRUE(WorkIn(framed));
+  const Window framed =
+      WorkInNew({.title = "Framed", .style = WS_OVERLAPPEDWINDOW | DS_MODALFRAME});
   ASSERT_TRUE(WorkIn(beta_));
   Press(TagKey(0));
   EXPECT_TRUE(InFront(framed));
 }
 
-TEST_F(PreviousWindow, IsSelectedAlthoughItsTitleChanged) {
-  Start();
-  OpenAlphaAndBeta();
+TEST_F(PreviousOfTwoWindows, IsSelectedAlthoughItsTitleChanged) {
   alpha_.SetTitle("Alpha, edited");
   Press(TagKey(0));
   EXPECT_TRUE(InFront(alpha_));
   EXPECT_TRUE(Target("Alpha, edited"));
 }
 
-TEST_F(PreviousWindow, IsRestoredWhenItIsMinimized) {
-  Start();
-  OpenAlphaAndBeta();
+TEST_F(PreviousOfTwoWindows, IsRestoredWhenItIsMinimized) {
   ShowWindow(alpha_.handle(), SW_MINIMIZE);
   ASSERT_TRUE(WaitFor([&] { return alpha_.Minimized(); }));
   ASSERT_TRUE(BringToFront(beta_));
@@ -177,9 +162,7 @@ TEST_F(PreviousWindow, IsRestoredWhenItIsMinimized) {
   EXPECT_TRUE(WaitFor([&] { return !alpha_.Minimized(); }));
 }
 
-TEST_F(PreviousWindow, FallsBackToTheOneBeforeWhenItCloses) {
-  Start();
-  OpenAlphaAndBeta();
+TEST_F(PreviousOfTwoWindows, FallsBackToTheOneBeforeWhenItCloses) {
   ASSERT_TRUE(BringToFront(main()));
   ASSERT_TRUE(StaysInFront(main()));
   ASSERT_TRUE(beta_.Close());
@@ -189,9 +172,7 @@ TEST_F(PreviousWindow, FallsBackToTheOneBeforeWhenItCloses) {
   EXPECT_TRUE(Target("Alpha"));
 }
 
-TEST_F(PreviousWindow, IsEmptyWhenBothAreGone) {
-  Start();
-  OpenAlphaAndBeta();
+TEST_F(PreviousOfTwoWindows, IsEmptyWhenBothAreGone) {
   ASSERT_TRUE(BringToFront(main()));
   ASSERT_TRUE(StaysInFront(main()));
   ASSERT_TRUE(beta_.Close());

@@ -145,10 +145,8 @@ class RudePrograms : public KorvaleTest {
     installation_.StoreTag(1, "Alpha", kClass);
     installation_.StoreTag(2, "Beta", kClass);
     Start();
-    beta_ = Open("Beta");
-    ASSERT_TRUE(WorkIn(beta_));
-    alpha_ = Open("Alpha");
-    ASSERT_TRUE(WorkIn(alpha_));
+    beta_ = WorkInNew("Beta");
+    alpha_ = WorkInNew("Alpha");
     options_ = installation_.settings().Section("Options");
     ASSERT_FALSE(options_.empty());
   }

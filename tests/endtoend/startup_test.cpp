@@ -86,8 +86,7 @@ TEST_F(StartUp, ASecondCopyFromTheSameFolderBringsTheFirstForwardAndEnds) {
 TEST_F(StartUp, ASecondCopyBringsTheMessageForwardThatWaitsForTheUser) {
   installation_.StoreTag(1, "Nowhere", "Test.Window");
   Start();
-  const Window alpha = Open("Alpha");
-  ASSERT_TRUE(WorkIn(alpha));
+  const Window alpha = WorkInNew("Alpha");
   Press(TagKey(1));
   const Window message = korvale_->MessageBox();
   ASSERT_TRUE(InFront(message));

@@ -13,8 +13,7 @@ class StoredTags : public StoreTest {
 
 TEST_F(StoredTags, AreKeptAsTheUserMadeThem) {
   Start();
-  const Window alpha = Open("Alpha & Sons");
-  ASSERT_TRUE(WorkIn(alpha));
+  const Window alpha = WorkInNew("Alpha & Sons");
   const AddWindowDialog dialog = OpenAddWindow();
   ASSERT_TRUE(dialog.SelectTag(3));
   ASSERT_TRUE(dialog.Confirm());

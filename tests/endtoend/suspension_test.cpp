@@ -47,8 +47,7 @@ TEST_F(Suspension, TheDismissedNoticeLeadsBackToTheMessageBelowIt) {
   installation_.StoreTag(2, "Alpha", kClass);
   Start();
   Open("Alpha");
-  const Window beta = Open("Beta");
-  ASSERT_TRUE(WorkIn(beta));
+  const Window beta = WorkInNew("Beta");
   Press(TagKey(1));
   const Window message = korvale_->MessageBox();
   ASSERT_TRUE(InFront(message));
@@ -89,8 +88,7 @@ TEST_F(Suspension, HoldsWhileTheAddWindowDialogIsOpen) {
   installation_.StoreTag(2, "Beta", kClass);
   Start();
   ASSERT_TRUE(WorkIn(Open("Alpha")));
-  const Window beta = Open("Beta");
-  ASSERT_TRUE(WorkIn(beta));
+  const Window beta = WorkInNew("Beta");
   const AddWindowDialog dialog = OpenAddWindow();
   Press(TagKey(2));
   const Window notice = Notice();
@@ -135,8 +133,7 @@ TEST_F(Toggle, SwitchesTheOtherHotKeysOffAndOnAgain) {
   installation_.StoreTag(3, "Alpha", kClass);
   Start();
   const Window alpha = Open("Alpha");
-  const Window beta = Open("Beta");
-  ASSERT_TRUE(WorkIn(beta));
+  const Window beta = WorkInNew("Beta");
   SwitchOff();
   ASSERT_TRUE(BringToFront(beta));
   Press(TagKey(3));
@@ -166,8 +163,7 @@ TEST_F(Toggle, ItsNoticeLeavesTheKeyboardToTheUsersWindow) {
 
 TEST_F(Toggle, ItsNoticeLeavesTheKeyboardAlsoToTheUserWhoClicksOnIt) {
   Start();
-  const Window beta = Open("Beta");
-  ASSERT_TRUE(WorkIn(beta));
+  const Window beta = WorkInNew("Beta");
   for (const LONG from_top : {10L, 60L}) {
     Press(kToggleKey);
     const Window notice = korvale_->Form("frmWaitWindow");
@@ -180,8 +176,7 @@ TEST_F(Toggle, ItsNoticeLeavesTheKeyboardAlsoToTheUserWhoClicksOnIt) {
 
 TEST_F(Toggle, ItsNoticeGoesByItselfUnderTheSuspensionNotice) {
   Start();
-  const Window beta = Open("Beta");
-  ASSERT_TRUE(WorkIn(beta));
+  const Window beta = WorkInNew("Beta");
   Press(kToggleKey);
   ASSERT_TRUE(korvale_->Form("frmWaitWindow"));
   Press(kToggleKey);
@@ -213,8 +208,7 @@ TEST_F(Toggle, TakesAKeyThatAnotherProgramHadAtTheStart) {
   ASSERT_TRUE(holder->TakeHotKey(TagKey(5)));
   installation_.settings().Set("Startup", "DisplayTips", "False");
   Start();
-  const Window beta = Open("Beta");
-  ASSERT_TRUE(WorkIn(beta));
+  const Window beta = WorkInNew("Beta");
   Press(TagKey(5));
   EXPECT_TRUE(StaysInFront(beta));
   holder.reset();

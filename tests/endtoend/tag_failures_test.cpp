@@ -11,8 +11,7 @@ TEST_F(TagFailures, AClosedWindowIsReportedAsNotOpen) {
   installation_.StoreTag(3, "*** - Notes", kClass);
   Start();
   const Window notes = Open("Day - Notes");
-  const Window beta = Open("Beta");
-  ASSERT_TRUE(WorkIn(beta));
+  const Window beta = WorkInNew("Beta");
   Press(TagKey(3));
   ASSERT_TRUE(InFront(notes));
   ASSERT_TRUE(notes.Close());
@@ -30,8 +29,7 @@ TEST_F(TagFailures, AReopenedWindowIsFoundUnderItsNewHandle) {
   installation_.StoreTag(3, "*** - Notes", kClass);
   Start();
   const Window first = Open("Day - Notes");
-  const Window beta = Open("Beta");
-  ASSERT_TRUE(WorkIn(beta));
+  const Window beta = WorkInNew("Beta");
   Press(TagKey(3));
   ASSERT_TRUE(InFront(first));
   ASSERT_TRUE(first.Close());
@@ -45,8 +43,7 @@ TEST_F(TagFailures, ADisabledWindowIsReportedAndStaysBehind) {
   installation_.StoreTag(2, "Alpha", kClass);
   Start();
   const Window alpha = Open("Alpha");
-  const Window beta = Open("Beta");
-  ASSERT_TRUE(WorkIn(beta));
+  WorkInNew("Beta");
   EnableWindow(alpha.handle(), FALSE);
   Press(TagKey(2));
   EXPECT_TRUE(Says("Window:  [Alpha]  is not enabled, and currently cannot be selected."));
@@ -75,8 +72,7 @@ TEST_F(TagFailures, AWindowThatChangedItsTitleGivesWayToTheOneThatHasItNow) {
   Start();
   const Window old_one = Open("Alpha");
   const Window other = Open("Gamma");
-  const Window beta = Open("Beta");
-  ASSERT_TRUE(WorkIn(beta));
+  const Window beta = WorkInNew("Beta");
   Press(TagKey(2));
   ASSERT_TRUE(InFront(old_one));
   ASSERT_TRUE(WorkIn(other));
@@ -96,8 +92,7 @@ TEST_F(TagFailures, AHungWindowDoesNotHoldUpTheOthers) {
   TestProgram stuck_program;
   const Window stuck = stuck_program.Open("Stuck");
   const Window alpha = Open("Alpha");
-  const Window beta = Open("Beta");
-  ASSERT_TRUE(WorkIn(beta));
+  WorkInNew("Beta");
   stuck_program.Hang();
   Press(TagKey(1));
   EXPECT_TRUE(HoldsFor([&] { return main().Responds(); }));
@@ -111,8 +106,7 @@ TEST_F(TagFailures, TheOwnerOfAWindowIsRestoredFirst) {
   installation_.StoreTag(1, "Owned", kClass);
   Start();
   const Window owner = Open("Owner");
-  const Window owned = Open({.title = "Owned", .owner = owner});
-  ASSERT_TRUE(WorkIn(owned));
+  const Window owned = WorkInNew({.title = "Owned", .owner = owner});
   ShowWindow(owner.handle(), SW_MINIMIZE);
   ASSERT_TRUE(WaitFor([&] { return owner.Minimized(); }));
   ASSERT_TRUE(WorkIn(Open("Beta")));
@@ -124,10 +118,8 @@ TEST_F(TagFailures, TheOwnerOfAWindowIsRestoredFirst) {
 TEST_F(TagFailures, AFailedSelectionLeavesThePreviousWindowAlone) {
   installation_.StoreTag(5, "Nowhere", kClass);
   Start();
-  const Window alpha = Open("Alpha");
-  ASSERT_TRUE(WorkIn(alpha));
-  const Window beta = Open("Beta");
-  ASSERT_TRUE(WorkIn(beta));
+  WorkInNew("Alpha");
+  const Window beta = WorkInNew("Beta");
   Press(TagKey(5));
   ASSERT_TRUE(Says("Window:  [Nowhere]  is not open."));
   // Wine passes the foreground to the main window a moment after its box has closed.

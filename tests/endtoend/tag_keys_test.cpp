@@ -21,8 +21,7 @@ TEST_F(TagKeys, RestoreAMinimizedWindow) {
   Start();
   const Window alpha = Open("Alpha");
   ShowWindow(alpha.handle(), SW_MINIMIZE);
-  const Window beta = Open("Beta");
-  ASSERT_TRUE(WorkIn(beta));
+  WorkInNew("Beta");
   Press(TagKey(3));
   EXPECT_TRUE(InFront(alpha));
   EXPECT_TRUE(WaitFor([&] { return !alpha.Minimized(); }));
@@ -31,10 +30,8 @@ TEST_F(TagKeys, RestoreAMinimizedWindow) {
 TEST_F(TagKeys, MakeTheWindowThatTheUserLeftThePreviousWindow) {
   installation_.StoreTag(3, "Alpha", kClass);
   Start();
-  const Window alpha = Open("Alpha");
-  ASSERT_TRUE(WorkIn(alpha));
-  const Window beta = Open("Beta");
-  ASSERT_TRUE(WorkIn(beta));
+  const Window alpha = WorkInNew("Alpha");
+  const Window beta = WorkInNew("Beta");
   Press(TagKey(3));
   ASSERT_TRUE(InFront(alpha));
   ASSERT_TRUE(StaysInFront(alpha));
@@ -48,10 +45,8 @@ TEST_F(TagKeys, MakeTheWindowThatTheUserLeftThePreviousWindow) {
 TEST_F(TagKeys, LeaveThePreviousWindowAloneWhenTheirWindowIsAlreadyInFront) {
   installation_.StoreTag(2, "Beta", kClass);
   Start();
-  const Window alpha = Open("Alpha");
-  ASSERT_TRUE(WorkIn(alpha));
-  const Window beta = Open("Beta");
-  ASSERT_TRUE(WorkIn(beta));
+  const Window alpha = WorkInNew("Alpha");
+  const Window beta = WorkInNew("Beta");
   ASSERT_TRUE(WorkIn(alpha));
   Press(TagKey(2));
   ASSERT_TRUE(InFront(beta));
@@ -67,8 +62,7 @@ class TagKeysForTitle : public KorvaleTest, public ::testing::WithParamInterface
 TEST_P(TagKeysForTitle, BringTheWindowToTheFront) {
   installation_.StoreTag(4, GetParam(), kClass);
   Start();
-  const Window window = Open(GetParam());
-  ASSERT_TRUE(WorkIn(window));
+  const Window window = WorkInNew(GetParam());
   ASSERT_TRUE(WorkIn(Open("Beta")));
   Press(TagKey(4));
   EXPECT_TRUE(InFront(window));

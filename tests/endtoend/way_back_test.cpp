@@ -14,12 +14,9 @@ class WayBack : public KorvaleTest {
     installation_.StoreTag(1, "Alpha", kClass);
     installation_.StoreTag(2, "Beta", kClass);
     Start();
-    gamma_ = Open("Gamma");
-    ASSERT_TRUE(WorkIn(gamma_));
-    beta_ = Open("Beta");
-    ASSERT_TRUE(WorkIn(beta_));
-    alpha_ = Open("Alpha");
-    ASSERT_TRUE(WorkIn(alpha_));
+    gamma_ = WorkInNew("Gamma");
+    beta_ = WorkInNew("Beta");
+    alpha_ = WorkInNew("Alpha");
   }
 
   /// A dialog of the window, which it disables.
@@ -51,15 +48,18 @@ class WayBack : public KorvaleTest {
   Window gamma_;
 };
 
-TEST_F(WayBack, IsKeptByTheTagOfTheWindowInFront) {
-  StartInAlpha();
+class WayBackFromAlpha : public WayBack {
+ protected:
+  void SetUp() override { StartInAlpha(); }
+};
+
+TEST_F(WayBackFromAlpha, IsKeptByTheTagOfTheWindowInFront) {
   Press(TagKey(1));
   ASSERT_TRUE(StaysInFront(alpha_));
   EXPECT_TRUE(LeadsTo(beta_));
 }
 
-TEST_F(WayBack, IsKeptByATagPressedInAToolWindow) {
-  StartInAlpha();
+TEST_F(WayBackFromAlpha, IsKeptByATagPressedInAToolWindow) {
   const Window tool = Open({.title = "Tool", .extended_style = WS_EX_TOOLWINDOW});
   ASSERT_TRUE(BringToFront(tool));
   ASSERT_TRUE(StaysInFront(tool));
@@ -69,24 +69,21 @@ TEST_F(WayBack, IsKeptByATagPressedInAToolWindow) {
   EXPECT_TRUE(LeadsTo(alpha_));
 }
 
-TEST_F(WayBack, IsKeptByTwoQuickKeys) {
-  StartInAlpha();
+TEST_F(WayBackFromAlpha, IsKeptByTwoQuickKeys) {
   Press(TagKey(0));
   Press(TagKey(1));
   ASSERT_TRUE(ComesToStay(alpha_));
   EXPECT_TRUE(LeadsTo(beta_));
 }
 
-TEST_F(WayBack, IsKeptByAQuickTagAfterMinimizing) {
-  StartInAlpha();
+TEST_F(WayBackFromAlpha, IsKeptByAQuickTagAfterMinimizing) {
   Press({MOD_ALT, VK_DOWN});
   Press(TagKey(1));
   ASSERT_TRUE(ComesToStay(alpha_));
   EXPECT_TRUE(LeadsTo(beta_));
 }
 
-TEST_F(WayBack, IsKeptByAQuickTagAfterAClick) {
-  StartInAlpha();
+TEST_F(WayBackFromAlpha, IsKeptByAQuickTagAfterAClick) {
   SetForegroundWindow(gamma_.handle());
   ASSERT_TRUE(WaitFor([&] { return Foreground() == gamma_; }));
   Press(TagKey(1));
@@ -94,8 +91,7 @@ TEST_F(WayBack, IsKeptByAQuickTagAfterAClick) {
   EXPECT_TRUE(LeadsTo(gamma_));
 }
 
-TEST_F(WayBack, IsKeptWhenTheWindowInFrontCloses) {
-  StartInAlpha();
+TEST_F(WayBackFromAlpha, IsKeptWhenTheWindowInFrontCloses) {
   ASSERT_TRUE(alpha_.Close());
   ASSERT_TRUE(BringToFront(beta_));
   ASSERT_TRUE(StaysInFront(beta_));
@@ -103,8 +99,7 @@ TEST_F(WayBack, IsKeptWhenTheWindowInFrontCloses) {
   EXPECT_TRUE(LeadsTo(beta_));
 }
 
-TEST_F(WayBack, IsTheDialogInWhichTheUserWas) {
-  StartInAlpha();
+TEST_F(WayBackFromAlpha, IsTheDialogInWhichTheUserWas) {
   const Window dialog = OpenDialog(alpha_);
   EXPECT_TRUE(LeadsTo(beta_));
   EXPECT_TRUE(LeadsTo(dialog));
@@ -119,8 +114,7 @@ TEST_F(WayBack, IsTheDialogInWhichTheUserWas) {
   EXPECT_TRUE(LeadsTo(alpha_));
 }
 
-TEST_F(WayBack, IsTheDialogOfAMinimizedWindow) {
-  StartInAlpha();
+TEST_F(WayBackFromAlpha, IsTheDialogOfAMinimizedWindow) {
   const Window dialog = OpenDialog(alpha_);
   ShowWindow(alpha_.handle(), SW_MINIMIZE);
   ASSERT_TRUE(WaitFor([&] { return alpha_.Minimized(); }));
@@ -129,8 +123,7 @@ TEST_F(WayBack, IsTheDialogOfAMinimizedWindow) {
   EXPECT_FALSE(alpha_.Minimized());
 }
 
-TEST_F(WayBack, IsNotTheMainWindowAfterThePopUp) {
-  StartInAlpha();
+TEST_F(WayBackFromAlpha, IsNotTheMainWindowAfterThePopUp) {
   ShowWindow(main().handle(), SW_MINIMIZE);
   ASSERT_TRUE(WaitFor([&] { return main().Minimized(); }));
   ASSERT_TRUE(BringToFront(alpha_));
@@ -166,8 +159,7 @@ TEST_F(WayBack, IsTakenByAStartThatIsAlwaysOnTopWhenTheOptionSaysSo) {
   EXPECT_TRUE(StaysInFront(earlier));
 }
 
-TEST_F(WayBack, MarksAWindowThatHasMadeItselfTopmost) {
-  StartInAlpha();
+TEST_F(WayBackFromAlpha, MarksAWindowThatHasMadeItselfTopmost) {
   ASSERT_TRUE(BringToFront(main()));
   ASSERT_TRUE(StaysInFront(main()));
   SetWindowPos(alpha_.handle(), HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);

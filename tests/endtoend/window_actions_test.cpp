@@ -8,6 +8,7 @@ constexpr DWORD kNoMaximizeBox = WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
 
 class WindowActions : public KorvaleTest {
  protected:
+  void SetUp() override { Start(); }
   Window HiddenOwner() { return Open({.title = "Owner", .show = SW_HIDE}); }
 
   /// What this desktop makes of the call that puts a window on top.
@@ -26,42 +27,32 @@ class WindowActions : public KorvaleTest {
 };
 
 TEST_F(WindowActions, MinimizeKeyMinimizesAndBringsThePreviousWindow) {
-  Start();
-  const Window alpha = Open("Alpha");
-  ASSERT_TRUE(WorkIn(alpha));
-  const Window beta = Open("Beta");
-  ASSERT_TRUE(WorkIn(beta));
+  const Window alpha = WorkInNew("Alpha");
+  const Window beta = WorkInNew("Beta");
   Press(kMinimizeKey);
   EXPECT_TRUE(WaitFor([&] { return beta.Minimized(); }));
   EXPECT_TRUE(InFront(alpha));
 }
 
 TEST_F(WindowActions, MinimizeKeyLeavesAWindowWithoutMinimizeBoxAlone) {
-  Start();
   ASSERT_TRUE(WorkIn(Open("Alpha")));
-  const Window fixed = Open({.title = "Fixed", .style = kNoMinimizeBox});
-  ASSERT_TRUE(WorkIn(fixed));
+  const Window fixed = WorkInNew({.title = "Fixed", .style = kNoMinimizeBox});
   Press(kMinimizeKey);
   EXPECT_TRUE(StaysInFront(fixed));
   EXPECT_FALSE(fixed.Minimized());
 }
 
 TEST_F(WindowActions, MinimizeKeyMinimizesTheOwner) {
-  Start();
   ASSERT_TRUE(WorkIn(Open("Alpha")));
-  const Window owner = Open("Owner");
-  ASSERT_TRUE(WorkIn(owner));
-  const Window owned = Open({.title = "Owned", .owner = owner});
-  ASSERT_TRUE(WorkIn(owned));
+  const Window owner = WorkInNew("Owner");
+  const Window owned = WorkInNew({.title = "Owned", .owner = owner});
   Press(kMinimizeKey);
   EXPECT_TRUE(WaitFor([&] { return owner.Minimized(); }));
   EXPECT_FALSE(owned.Minimized());
 }
 
 TEST_F(WindowActions, MaximizeKeyMaximizesAndRestores) {
-  Start();
-  const Window alpha = Open("Alpha");
-  ASSERT_TRUE(WorkIn(alpha));
+  const Window alpha = WorkInNew("Alpha");
   Press(kMaximizeKey);
   EXPECT_TRUE(WaitFor([&] { return alpha.Maximized(); }));
   Press(kMaximizeKey);
@@ -70,15 +61,12 @@ TEST_F(WindowActions, MaximizeKeyMaximizesAndRestores) {
 }
 
 TEST_F(WindowActions, MaximizeKeyLeavesAWindowWithoutMaximizeBoxAlone) {
-  Start();
-  const Window fixed = Open({.title = "Fixed", .style = kNoMaximizeBox});
-  ASSERT_TRUE(WorkIn(fixed));
+  const Window fixed = WorkInNew({.title = "Fixed", .style = kNoMaximizeBox});
   Press(kMaximizeKey);
   EXPECT_TRUE(StaysAsItIs(fixed));
 }
 
 TEST_F(WindowActions, MinimizeAllAndRestoreAllSkipWhatTheyMayNotTouch) {
-  Start();
   const Window plain = Open("Plain");
   const Window fixed = Open({.title = "Fixed", .style = kNoMinimizeBox});
   const Window disabled = Open({.title = "Disabled", .style = WS_OVERLAPPEDWINDOW | WS_DISABLED});
@@ -94,7 +82,6 @@ TEST_F(WindowActions, MinimizeAllAndRestoreAllSkipWhatTheyMayNotTouch) {
 }
 
 TEST_F(WindowActions, TheMainWindowGoesOnTopAndComesDownAgain) {
-  Start();
   const auto stored = [&] { return installation_.settings().Get("Startup", "AlwaysOnTop"); };
   // Wine leaves a window with a hidden owner among the others; the main window is such a one.
   const bool granted = GoesOnTop(Open({.title = "Owned", .owner = HiddenOwner()}));
@@ -108,9 +95,7 @@ TEST_F(WindowActions, TheMainWindowGoesOnTopAndComesDownAgain) {
 }
 
 TEST_F(WindowActions, ThePreviousWindowGoesOnTopAndComesDownAgain) {
-  Start();
-  const Window alpha = Open("Alpha");
-  ASSERT_TRUE(WorkIn(alpha));
+  const Window alpha = WorkInNew("Alpha");
   ASSERT_TRUE(OpenWindowMenu());
   Press({0, 'T'});
   EXPECT_TRUE(WaitFor([&] { return alpha.Topmost(); }));

@@ -76,8 +76,7 @@ TEST_F(WindowMenu, PoppedUpTwiceWorksAgainAfterEscape) {
 
 TEST_F(WindowMenu, PoppedUpAndLeftWithoutAChoiceGivesTheKeyboardBack) {
   Start();
-  const Window beta = Open("Beta");
-  ASSERT_TRUE(WorkIn(beta));
+  const Window beta = WorkInNew("Beta");
   ASSERT_TRUE(PopUpWindowMenu());
   Press({0, VK_ESCAPE});
   EXPECT_TRUE(WaitFor([&] { return !korvale_->HasMenu(); }));
@@ -87,10 +86,8 @@ TEST_F(WindowMenu, PoppedUpAndLeftWithoutAChoiceGivesTheKeyboardBack) {
 
 TEST_F(WindowMenu, PoppedUpLeadsToTheWindowBeforeWhenTheUsersOneHasGone) {
   Start();
-  const Window alpha = Open("Alpha");
-  ASSERT_TRUE(WorkIn(alpha));
-  const Window beta = Open("Beta");
-  ASSERT_TRUE(WorkIn(beta));
+  const Window alpha = WorkInNew("Alpha");
+  const Window beta = WorkInNew("Beta");
   ASSERT_TRUE(PopUpWindowMenu());
   ASSERT_TRUE(beta.Close());
   Press({0, VK_ESCAPE});
@@ -115,8 +112,7 @@ TEST_F(WindowMenu, PoppedUpFromAMinimizedStripLeavesItMinimized) {
 
 TEST_F(WindowMenu, ASwitchOfThePopUpLeavesTheUserWhereHeWorks) {
   Start();
-  const Window beta = Open("Beta");
-  ASSERT_TRUE(WorkIn(beta));
+  const Window beta = WorkInNew("Beta");
   ASSERT_TRUE(PopUpWindowMenu());
   Press({0, 'O'});
   EXPECT_TRUE(
@@ -141,8 +137,7 @@ TEST_F(WindowMenu, PoppedUpOverAnOpenMenuOfTheBarIsTheOnlyMenu) {
 
 TEST_F(WindowMenu, PoppedUpAgainNeverShowsTwoMenus) {
   Start();
-  const Window beta = Open("Beta");
-  ASSERT_TRUE(WorkIn(beta));
+  const Window beta = WorkInNew("Beta");
   SetCursorPos(300, 300);
   ASSERT_TRUE(PopUpWindowMenu());
   const Window first = korvale_->OpenMenu();
@@ -183,8 +178,7 @@ TEST_F(WindowMenu, TwoTagKeysOverThePopUpSelectInTheirOrder) {
 
 TEST_F(WindowMenu, AKeyThatSelectsNothingClosesThePopUpAndLeavesTheUserWhereHeWorks) {
   Start();
-  const Window beta = Open("Beta");
-  ASSERT_TRUE(WorkIn(beta));
+  const Window beta = WorkInNew("Beta");
   ASSERT_TRUE(PopUpWindowMenu());
   Press(kToggleKey);
   EXPECT_TRUE(korvale_->Form("frmWaitWindow"));
@@ -217,8 +211,7 @@ TEST_F(WindowMenu, SaysThatATaggedWindowIsNotOpen) {
 
 TEST_F(WindowMenu, ReturnsToThePreviousWindow) {
   Start();
-  const Window alpha = Open("Alpha");
-  ASSERT_TRUE(WorkIn(alpha));
+  const Window alpha = WorkInNew("Alpha");
   ASSERT_TRUE(BringToFront(main()));
   ASSERT_TRUE(StaysInFront(main()));
   ASSERT_TRUE(OpenWindowMenu());
