@@ -36,7 +36,8 @@ struct MainState {
 };
 
 /// The records and routines that the main form owns for the whole run, in the order in which they
-/// build on each other.
+/// build on each other; but the message boxes look at the desktop, which shows messages, so neither
+/// may be used before both exist.
 struct MainParts {
   MainParts(Platform& platform, FormCollection& forms, MainWindow& mainWindow, MenuItem& windowMenu,
             HotKeyActions& actions, std::function<void()> shutDown);
