@@ -8,6 +8,7 @@
 #include "platform/run_time_error.h"
 #include "tests/core/saves.h"
 #include "tests/core/stored_values.h"
+#include "tests/fakes/error_of.h"
 #include "tests/fakes/fake_settings_store.h"
 
 namespace korvale {
