@@ -1,7 +1,5 @@
 #include "desktop/window_selection.h"
 
-#include <string>
-
 #include "app/core/identity.h"
 #include "desktop/timer_pause.h"
 #include "desktop/window_readers.h"
@@ -9,6 +7,8 @@
 #include "util/text.h"
 
 namespace korvale {
+
+std::string InBrackets(const std::string& text) { return "Window:  [" + text + "]"; }
 
 WindowSelection::WindowSelection(const DesktopParts& parts, WindowRequests& requests,
                                  WindowEnumeration& enumeration, WindowActions& actions,
@@ -92,7 +92,7 @@ ActivationResult WindowSelection::ActivateOrSearch(MenuItem& entry) {
 }
 
 void WindowSelection::TellFailure(const MenuItem& entry, ActivationResult result) {
-  const std::string window = "Window:  [" + IdentificationText(entry) + "]";
+  const std::string window = InBrackets(IdentificationText(entry));
   if (result == kWindowNotEnabled) {
     messages_->ShowMessageBox(window + "  is not enabled, and currently cannot be selected.",
                               win32::kMbSetForeground, kProductName);

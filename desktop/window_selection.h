@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "desktop/desktop_parts.h"
 #include "desktop/foreground_tracker.h"
@@ -9,6 +10,9 @@
 #include "desktop/window_enumeration.h"
 
 namespace korvale {
+
+/// How a message names a window by its title or identification text.
+std::string InBrackets(const std::string& text);
 
 /// Selects the windows of the Tags: looks for them, brings them to the front and moves the Previous
 /// Window record.

@@ -4,6 +4,7 @@
 
 #include "app/core/identity.h"
 #include "desktop/window_readers.h"
+#include "desktop/window_selection.h"
 #include "hotkeys/hot_key_names.h"
 #include "platform/win32_constants.h"
 #include "util/text.h"
@@ -21,8 +22,6 @@ constexpr int kPopUpPadding = 20;
 std::string DoubleAmpersands(const std::string& text) {
   return ReplaceText(text, "&", "&&", false, true);
 }
-
-std::string InBrackets(const std::string& text) { return "Window:  [" + text + "]"; }
 
 }  // namespace
 
