@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/windows/handles.h"
+
+namespace korvale {
+
+/// One of Windows' own libraries, loaded while the program runs. It is looked for in the system
+/// folder only, never beside the executable, where a download may lie next to anything
+/// (LoadLibraryExW with LOAD_LIBRARY_SEARCH_SYSTEM32).
+class SystemLibrary {
+ public:
+  explicit SystemLibrary(const wchar_t* fileName);
+
+  /// The function of this name, as in Find<decltype(DwmGetWindowAttribute)>(...); null when this
+  /// Windows lacks it or the library (GetProcAddress). Usable as long as this object lives.
+  template <typename Function>
+  Function* Find(const char* name) const {
+    return reinterpret_cast<Function*>(Address(name));
+  }
+
+ private:
+  // The type that compilers let a function pointer take on its way to its own.
+  using AnyFunction = void (*)();
+
+  AnyFunction Address(const char* name) const;
+
+  UniqueModule module_;
+};
+
+}  // namespace korvale
