@@ -34,6 +34,8 @@ class SystemLibraries {
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, PWSTR /*commandLine*/,
                     int /*show*/) {
+  // Whatever lies beside a downloaded program must not be taken for one of Windows' libraries.
+  SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
   const SystemLibraries libraries;
   korvale::WindowsWindowApi windows;
   korvale::WindowsHotKeyApi hotKeys;

@@ -68,7 +68,7 @@ class SystemApi {
   virtual std::string GetModuleFileNameA() = 0;
   /// The command line after the program's own name, as typed.
   virtual std::string GetCommandLineA() = 0;
-  /// VerQueryValueA on the executable; fields stay empty where the resource has none.
+  /// The executable's version resource; fields stay empty where it says nothing (FindResourceW).
   virtual VersionInfo GetFileVersionInfoA() = 0;
   /// Fills from a structure whose size field is `structureSize`; platformId 0 when it failed.
   virtual OsVersion GetVersionExA(std::uint32_t structureSize) = 0;

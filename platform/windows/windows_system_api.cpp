@@ -4,8 +4,11 @@
 // After windows.h, which it needs.
 #include <shellapi.h>
 
-#include <vector>
+#include <cstddef>
+#include <span>
+#include <string>
 
+#include "platform/version_resource.h"
 #include "platform/windows/command_line.h"
 #include "platform/windows/crash_filter.h"
 #include "platform/windows/handles.h"
@@ -66,23 +69,19 @@ std::string FileId(HANDLE folder) {
   return ToUtf8(text);
 }
 
-/// One string of the version resource, in the first language that it has.
-std::string VersionString(const std::vector<std::byte>& resource, const wchar_t* name) {
-  struct Translation {
-    WORD language;
-    WORD codePage;
-  };
-  void* value = nullptr;
-  UINT size = 0;
-  if (VerQueryValueW(resource.data(), L"\\VarFileInfo\\Translation", &value, &size) == FALSE ||
-      size < sizeof(Translation)) {
-    return "";
-  }
-  const auto* first = static_cast<const Translation*>(value);
-  wchar_t block[64];
-  wsprintfW(block, L"\\StringFileInfo\\%04x%04x\\%s", first->language, first->codePage, name);
-  if (VerQueryValueW(resource.data(), block, &value, &size) == FALSE) return "";
-  return ToUtf8(static_cast<const wchar_t*>(value));
+/// The version resource of the running executable; empty when it has none.
+std::span<const std::byte> OwnVersionResource() {
+  const HRSRC found = FindResourceW(nullptr, MAKEINTRESOURCEW(VS_VERSION_INFO),
+                                    reinterpret_cast<LPCWSTR>(RT_VERSION));
+  if (found == nullptr) return {};
+  const HGLOBAL loaded = LoadResource(nullptr, found);
+  const void* const content = loaded == nullptr ? nullptr : LockResource(loaded);
+  if (content == nullptr) return {};
+  return {static_cast<const std::byte*>(content), SizeofResource(nullptr, found)};
+}
+
+std::string FromResource(const std::u16string& text) {
+  return ToUtf8(std::wstring(text.begin(), text.end()));
 }
 
 }  // namespace
@@ -94,26 +93,9 @@ std::string WindowsSystemApi::GetCommandLineA() {
 }
 
 VersionInfo WindowsSystemApi::GetFileVersionInfoA() {
-  VersionInfo info;
-  const std::wstring path = ModuleFileName();
-  DWORD unused = 0;
-  std::vector<std::byte> resource(GetFileVersionInfoSizeW(path.c_str(), &unused));
-  if (resource.empty() || GetFileVersionInfoW(path.c_str(), 0, static_cast<DWORD>(resource.size()),
-                                              resource.data()) == FALSE) {
-    return info;
-  }
-  void* value = nullptr;
-  UINT size = 0;
-  if (VerQueryValueW(resource.data(), L"\\", &value, &size) != FALSE &&
-      size >= sizeof(VS_FIXEDFILEINFO)) {
-    const auto* fixed = static_cast<const VS_FIXEDFILEINFO*>(value);
-    info.major = HIWORD(fixed->dwFileVersionMS);
-    info.minor = LOWORD(fixed->dwFileVersionMS);
-    info.revision = HIWORD(fixed->dwFileVersionLS);
-  }
-  info.legalCopyright = VersionString(resource, L"LegalCopyright");
-  info.fileDescription = VersionString(resource, L"FileDescription");
-  return info;
+  const VersionResource resource = ReadVersionResource(OwnVersionResource());
+  return {resource.major, resource.minor, resource.revision, FromResource(resource.legalCopyright),
+          FromResource(resource.fileDescription)};
 }
 
 OsVersion WindowsSystemApi::GetVersionExA(std::uint32_t structureSize) {

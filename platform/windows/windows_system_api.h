@@ -4,8 +4,8 @@
 
 namespace korvale {
 
-/// The shell and the operating system through kernel32, shell32 and version. Texts are read with
-/// the Unicode calls and handed on as UTF-8.
+/// The shell and the operating system through kernel32 and shell32. Texts are read with the
+/// Unicode calls and handed on as UTF-8.
 class WindowsSystemApi final : public SystemApi {
  public:
   std::string GetModuleFileNameA() override;
