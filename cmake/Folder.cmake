@@ -10,7 +10,8 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 add_library(korvale_flags INTERFACE)
 target_include_directories(korvale_flags INTERFACE ${PROJECT_SOURCE_DIR})
 if(MSVC)
-  target_compile_options(korvale_flags INTERFACE /W4 /WX /permissive- /utf-8)
+  # Warnings stop only the builds that script/test makes.
+  target_compile_options(korvale_flags INTERFACE /W4 /permissive- /utf-8)
 else()
   target_compile_options(
     korvale_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
@@ -22,9 +23,14 @@ endif()
 if(WIN32)
   target_compile_definitions(korvale_flags INTERFACE NOMINMAX WIN32_LEAN_AND_MEAN
                                                      _WIN32_WINNT=0x0A00 WINVER=0x0A00)
-  if(NOT MSVC)
-    # A program that a user unpacks anywhere must not look for the compiler's DLLs.
-    target_link_options(korvale_flags INTERFACE -static)
+  # A program that a user unpacks anywhere must not look for the compiler's DLLs. To a program made
+  # for a system before Windows Vista, Windows tells other frame sizes than it draws.
+  if(MSVC)
+    set(CMAKE_MSVC_RUNTIME_LIBRARY MultiThreaded$<$<CONFIG:Debug>:Debug>)
+  else()
+    target_link_options(
+      korvale_flags INTERFACE -static LINKER:--major-os-version=6,--minor-os-version=2
+      LINKER:--major-subsystem-version=6,--minor-subsystem-version=2)
   endif()
 endif()
 if(KORVALE_SANITIZE)

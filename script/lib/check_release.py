@@ -1,0 +1,59 @@
+"""Checks a program that users unpack anywhere: check_release.py FILE.exe
+
+- Windows loads the imported libraries before the program can say where from. It takes only those
+  that it knows from its own folder; any other could lie beside the program in a download folder.
+- The program says that it is made for Windows 8 or later, and takes part in its protections.
+- It has one manifest.
+"""
+
+import re
+import subprocess
+import sys
+
+# The KnownDLLs of Windows 10 and 11, as far as they are of use here.
+KNOWN = set(
+    "advapi32 combase comdlg32 gdi32 imm32 kernel32 msvcrt ole32 oleaut32 rpcrt4 sechost shcore "
+    "shell32 shlwapi user32 ws2_32".split()
+)
+# Not one of them, but the manifest names its assembly: Windows takes it from there.
+BY_MANIFEST = {"comctl32"}
+PROTECTIONS = ("DYNAMIC_BASE", "HIGH_ENTROPY_VA", "NX_COMPAT")
+OLDEST = (6, 2)
+# The entry of this type among the types of resources, with one name in one language.
+MANIFEST = re.compile(
+    r"^\w+   Entry: ID: 0x000018,.*\n.*Num Names: 0, IDs: 1\n.*\n.*Num Names: 0, IDs: 1$", re.M
+)
+
+
+def problems(dump):
+    imports = re.findall(r"DLL Name: (\S+)", dump)
+    if not imports:
+        yield "no imports found"
+    for name in imports:
+        if name.lower().removesuffix(".dll") not in KNOWN | BY_MANIFEST:
+            yield f"imports {name}"
+    for version in ("OSystemVersion", "SubsystemVersion"):
+        found = tuple(
+            int(re.search(rf"^{part}{version}\s+(\d+)", dump, re.M)[1]) for part in ("Major", "Minor")
+        )
+        if found < OLDEST:
+            yield f"{version} is {found[0]}.{found[1]:02}"
+    for protection in PROTECTIONS:
+        if not re.search(rf"^\s+{protection}$", dump, re.M):
+            yield f"no {protection}"
+    if len(MANIFEST.findall(dump)) != 1:
+        yield "not exactly one manifest"
+
+
+def main():
+    program = sys.argv[1]
+    dump = subprocess.run(
+        ["x86_64-w64-mingw32-objdump", "-p", program], capture_output=True, text=True, check=True
+    ).stdout
+    found = list(problems(dump))
+    for problem in found:
+        print(f"{program}: {problem}")
+    return 1 if found else 0
+
+
+sys.exit(main())
