@@ -71,7 +71,7 @@ void OtherCopy::BringForward(Desktop& desktop, WindowHandle copy) {
   WindowQueries& windows = platform_->windows;
   if (!windows.IsWindowVisible(copy) || !windows.IsWindowEnabled(copy)) {
     // The other copy is showing something that must be answered first.
-    ReturnForegroundTo(windows, platform_->commands, FindWaitingWindow(windows, copy));
+    ReturnForegroundTo(windows, desktop.requests, FindWaitingWindow(windows, copy));
     return;
   }
   WindowTriple window{copy, GetWindowTitle(windows, copy), GetWindowClass(windows, copy)};

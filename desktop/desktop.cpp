@@ -8,7 +8,7 @@ Desktop::Desktop(const DesktopParts& parts, Clock& clock, const OptionsHolder& o
       tags{MenuItemArray(windowMenu, "mnuWindowParentList")},
       tagPasses(tags, windows),
       filter(windows, options, forms, mainWindow),
-      requests(windows, commands, mainWindow, clock),
+      requests(parts, clock),
       enumeration(windows, requests, filter, mainWindow, tagPasses),
       actions(parts, requests, filter, enumeration),
       tracker(parts, filter, actions, tags),

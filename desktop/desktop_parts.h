@@ -3,6 +3,7 @@
 #include "app/core/message_boxes.h"
 #include "desktop/main_window.h"
 #include "desktop/previous_window.h"
+#include "platform/input_devices.h"
 #include "platform/window_api.h"
 #include "util/forms.h"
 
@@ -12,6 +13,7 @@ namespace korvale {
 struct DesktopParts {
   WindowQueries& windows;
   WindowCommands& commands;
+  InputDevices& input;
   MainWindow& mainWindow;
   const LoadedForms& forms;
   MessageBoxes& messages;

@@ -10,10 +10,10 @@ bool IsOwnForm(const LoadedForms& forms, WindowHandle hwnd) {
                              [&](const LoadedForm& form) { return form.handle == hwnd; });
 }
 
-bool ReturnForegroundTo(WindowQueries& windows, WindowCommands& commands, WindowHandle hwnd) {
+bool ReturnForegroundTo(WindowQueries& windows, WindowRequests& requests, WindowHandle hwnd) {
   const bool canBeInFront = windows.IsWindow(hwnd) && windows.IsWindowVisible(hwnd) &&
                             windows.IsWindowEnabled(hwnd) && !windows.IsIconic(hwnd);
-  if (canBeInFront) commands.SetForegroundWindow(hwnd);
+  if (canBeInFront) requests.SetForegroundWindow(hwnd);
   return canBeInFront;
 }
 

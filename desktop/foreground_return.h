@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/window_requests.h"
 #include "platform/window_api.h"
 #include "util/forms.h"
 
@@ -11,6 +12,6 @@ bool IsOwnForm(const LoadedForms& forms, WindowHandle hwnd);
 
 /// Puts the window in front (SetForegroundWindow) when it still can be: it lives, is visible,
 /// enabled and not minimized. Does nothing and returns false otherwise.
-bool ReturnForegroundTo(WindowQueries& windows, WindowCommands& commands, WindowHandle hwnd);
+bool ReturnForegroundTo(WindowQueries& windows, WindowRequests& requests, WindowHandle hwnd);
 
 }  // namespace korvale

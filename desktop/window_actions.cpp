@@ -2,6 +2,7 @@
 
 #include "app/core/identity.h"
 #include "app/core/operations.h"
+#include "desktop/foreground_return.h"
 #include "desktop/timer_pause.h"
 #include "desktop/title_match.h"
 #include "desktop/waiting_window.h"
@@ -14,6 +15,18 @@ namespace {
 bool CanBeSized(WindowQueries& windows, WindowHandle hwnd, std::int32_t box) {
   return windows.IsWindowEnabled(hwnd) && !windows.IsIconic(hwnd) &&
          (windows.GetWindowLongA(hwnd, win32::kGwlStyle) & box) != 0;
+}
+
+ActivationResult ResultOf(RequestResult request) {
+  switch (request) {
+    case RequestResult::kDone:
+      return kActivationDone;
+    case RequestResult::kDenied:
+      return kWindowDenied;
+    case RequestResult::kFailed:
+      break;
+  }
+  return kActivationFailed;
 }
 
 }  // namespace
@@ -30,11 +43,13 @@ WindowActions::WindowActions(const DesktopParts& parts, WindowRequests& requests
 
 ActivationResult WindowActions::ActivateWindow(WindowTriple& window, bool reportFailure, bool act) {
   const ActivationResult result = TryActivation(window, act);
-  if (result != kActivationDone && reportFailure) {
-    messages_->ShowMessageBox("The window operation was not successful.  Please try again.",
-                              win32::kMbSetForeground, kProductName);
-  }
+  if (result != kActivationDone && reportFailure) ReportFailure();
   return result;
+}
+
+void WindowActions::ReportFailure() {
+  messages_->ShowMessageBox("The window operation was not successful.  Please try again.",
+                            win32::kMbSetForeground, kProductName);
 }
 
 ActivationResult WindowActions::ActivatePreviousWindow(WindowTriple& window) {
@@ -42,8 +57,12 @@ ActivationResult WindowActions::ActivatePreviousWindow(WindowTriple& window) {
   const WindowHandle dialog =
       result == kWindowNotEnabled ? FindInputWindow(*windows_, window.handle) : 0;
   if (dialog == 0) return result;
-  if (windows_->IsIconic(window.handle) && requests_->Show(window.handle, win32::kSwRestore)) {
-    requests_->Await(dialog, [&] { return windows_->IsWindowVisible(dialog); });
+  if (windows_->IsIconic(window.handle)) {
+    const RequestResult restored = requests_->Show(window.handle, win32::kSwRestore);
+    if (restored == RequestResult::kDenied) return kWindowDenied;
+    if (restored == RequestResult::kDone) {
+      requests_->Await(dialog, [&] { return windows_->IsWindowVisible(dialog); });
+    }
   }
   WindowTriple inFrontOfIt{dialog, GetWindowTitle(*windows_, dialog),
                            GetWindowClass(*windows_, dialog)};
@@ -64,15 +83,15 @@ ActivationResult WindowActions::TryActivation(WindowTriple& window, bool act) {
     return kActivationFailed;
   }
   if (!windows_->IsWindowEnabled(hwnd)) return kWindowNotEnabled;
-  if (act && !BringForward(hwnd)) return kActivationFailed;
-  return kActivationDone;
+  return act ? BringForward(hwnd) : kActivationDone;
 }
 
 /// Also done when there is no owner to restore.
 ActivationResult WindowActions::RestoreIconicOwner(WindowHandle hwnd) {
   const WindowHandle owner = GetRelatedWindow(*windows_, hwnd, 2);
   if (owner == 0 || !windows_->IsIconic(owner)) return kActivationDone;
-  if (!requests_->Show(owner, win32::kSwRestore)) return kActivationFailed;
+  const RequestResult restored = requests_->Show(owner, win32::kSwRestore);
+  if (restored != RequestResult::kDone) return ResultOf(restored);
   requests_->Await(owner,
                    [&] { return !windows_->IsIconic(owner) && windows_->IsWindowVisible(hwnd); });
   const bool stuck = windows_->IsIconic(owner) && !windows_->IsWindowVisible(hwnd);
@@ -88,14 +107,25 @@ void WindowActions::RefreshRecordedTitle(WindowTriple& window) {
   }
 }
 
-bool WindowActions::BringForward(WindowHandle hwnd) {
+ActivationResult WindowActions::BringForward(WindowHandle hwnd) {
+  const WindowHandle before = previous_->InFront(*windows_);
   // What is in front now may be on its way to the back, when another selection came just before.
-  const bool inFront = windows_->GetForegroundWindow() == hwnd && !previous_->menuSelection;
-  if (!inFront && !requests_->SetForegroundWindow(hwnd)) return false;
-  if (!windows_->IsIconic(hwnd)) return true;
-  const bool restores = requests_->Show(hwnd, win32::kSwRestore);
+  if (before != hwnd || previous_->menuSelection) {
+    const RequestResult inFront = requests_->SetForegroundWindow(hwnd);
+    if (inFront != RequestResult::kDone) return ResultOf(inFront);
+  }
+  return windows_->IsIconic(hwnd) ? Unfold(hwnd, before) : kActivationDone;
+}
+
+/// Restores a window for which `before` has left the foreground.
+ActivationResult WindowActions::Unfold(WindowHandle hwnd, WindowHandle before) {
+  const RequestResult restored = requests_->Show(hwnd, win32::kSwRestore);
+  if (restored == RequestResult::kDenied) {
+    if (before != hwnd) ReturnForegroundTo(*windows_, *requests_, before);
+    return kWindowDenied;
+  }
   requests_->Await(hwnd, [&] { return !windows_->IsIconic(hwnd); });
-  return restores;
+  return ResultOf(restored);
 }
 
 WindowTriple WindowActions::MinimizeOrMaximizeForeground(std::string_view hotKeyName) {
@@ -113,7 +143,10 @@ WindowTriple WindowActions::MinimizeForeground(WindowHandle hwnd) {
   if (!CanBeSized(*windows_, hwnd, win32::kWsMinimizeBox)) return {};
   const WindowHandle owner = GetRelatedWindow(*windows_, hwnd, 2);
   const WindowHandle target = owner != 0 ? owner : hwnd;
-  requests_->Show(target, win32::kSwMinimize);
+  if (requests_->Show(target, win32::kSwMinimize) == RequestResult::kDenied) {
+    ReportFailure();
+    return {};
+  }
   // Windows itself may then bring some window forward, which must happen before the next step.
   if (requests_->Await(target, [&] { return windows_->IsIconic(target); })) {
     requests_->AwaitAnswer(target);
@@ -125,18 +158,27 @@ WindowTriple WindowActions::MinimizeForeground(WindowHandle hwnd) {
 
 void WindowActions::MaximizeOrRestoreForeground(WindowHandle hwnd) {
   if (!CanBeSized(*windows_, hwnd, win32::kWsMaximizeBox)) return;
-  requests_->Show(hwnd, windows_->IsZoomed(hwnd) ? win32::kSwRestore : win32::kSwMaximize);
+  const int command = windows_->IsZoomed(hwnd) ? win32::kSwRestore : win32::kSwMaximize;
+  if (requests_->Show(hwnd, command) == RequestResult::kDenied) ReportFailure();
 }
 
 void WindowActions::MinimizeAll() {
   const TimerPause pause(*mainWindow_);
-  enumeration_->EnumWindows(kMinimizeAll);
+  if (!ChangeAll(kMinimizeAll)) ReportFailure();
 }
 
 void WindowActions::RestoreAll() {
   const TimerPause pause(*mainWindow_);
-  enumeration_->EnumWindows(kRestoreAll);
+  const bool done = ChangeAll(kRestoreAll);
   requests_->SetForegroundWindow(mainWindow_->MainHandle());
+  if (!done) ReportFailure();
+}
+
+/// False when Windows denied one of the windows.
+bool WindowActions::ChangeAll(EnumerationMode mode) {
+  bool done = true;
+  enumeration_->EnumWindows(mode, [&](WindowHandle /*denied*/) { done = false; });
+  return done;
 }
 
 }  // namespace korvale

@@ -18,6 +18,9 @@ enum ActivationResult : std::int16_t {
   kWindowNotEnabled = 3,
   /// The window's program is busy and did not carry out a necessary first step in time.
   kWindowNotAnswering = 4,
+  /// Windows refuses it, although the window is there: its program runs as administrator, or the
+  /// foreground is locked.
+  kWindowDenied = 5,
 };
 
 /// What hot keys and menus do with the windows of the desktop.
@@ -40,17 +43,23 @@ class WindowActions {
   /// none.
   WindowTriple MinimizeOrMaximizeForeground(std::string_view hotKeyName);
 
-  /// Minimizes every window of the desktop that can be minimized, with the timers stopped.
+  /// Tells the user that an operation was not carried out.
+  void ReportFailure();
+
+  /// Minimizes every window of the desktop that can be minimized, with the timers stopped. When
+  /// Windows denies one, the user is told once, after all others.
   void MinimizeAll();
   /// Restores every minimized window of the desktop, then brings the main window to the front, with
-  /// the timers stopped.
+  /// the timers stopped. When Windows denies one, the user is told once, after all others.
   void RestoreAll();
 
  private:
   ActivationResult TryActivation(WindowTriple& window, bool act);
   ActivationResult RestoreIconicOwner(WindowHandle hwnd);
   void RefreshRecordedTitle(WindowTriple& window);
-  bool BringForward(WindowHandle hwnd);
+  ActivationResult BringForward(WindowHandle hwnd);
+  ActivationResult Unfold(WindowHandle hwnd, WindowHandle before);
+  bool ChangeAll(EnumerationMode mode);
   WindowTriple MinimizeForeground(WindowHandle hwnd);
   void MaximizeOrRestoreForeground(WindowHandle hwnd);
 

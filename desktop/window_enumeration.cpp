@@ -36,10 +36,10 @@ bool WindowEnumeration::EnumWindowsProc(WindowHandle hwnd, std::int32_t mode, co
 void WindowEnumeration::HandleSelectable(WindowHandle hwnd, std::int32_t mode, const Visit& visit) {
   switch (mode) {
     case kMinimizeAll:
-      if (CanMinimizeOrRestore(hwnd, false)) Minimize(hwnd);
+      if (CanMinimizeOrRestore(hwnd, false) && !Minimize(hwnd)) visit(hwnd);
       break;
     case kRestoreAll:
-      if (CanMinimizeOrRestore(hwnd, true)) Restore(hwnd);
+      if (CanMinimizeOrRestore(hwnd, true) && !Restore(hwnd)) visit(hwnd);
       break;
     case kTagRefresh:
       tagPasses_->TagListPass(TagListMode::kMatch, 0, hwnd);
@@ -110,17 +110,20 @@ WindowHandle WindowEnumeration::FindTopWindow(const Test& qualifies) {
   return top;
 }
 
-void WindowEnumeration::Minimize(WindowHandle hwnd) {
-  requests_->Show(hwnd, win32::kSwMinimize);
+/// False when Windows denies it.
+bool WindowEnumeration::Minimize(WindowHandle hwnd) {
+  if (requests_->Show(hwnd, win32::kSwMinimize) == RequestResult::kDenied) return false;
   requests_->AwaitOneOfMany(hwnd, [&] { return windows_->IsIconic(hwnd); });
+  return true;
 }
 
-/// A restored window comes to the front, each above the one before.
-void WindowEnumeration::Restore(WindowHandle hwnd) {
-  requests_->Show(hwnd, win32::kSwRestore);
+/// A restored window comes to the front, each above the one before. False when Windows denies it.
+bool WindowEnumeration::Restore(WindowHandle hwnd) {
+  if (requests_->Show(hwnd, win32::kSwRestore) == RequestResult::kDenied) return false;
   if (requests_->AwaitOneOfMany(hwnd, [&] { return !windows_->IsIconic(hwnd); })) {
     requests_->AwaitAnswer(hwnd);
   }
+  return true;
 }
 
 bool WindowEnumeration::CanMinimizeOrRestore(WindowHandle hwnd, bool iconic) const {

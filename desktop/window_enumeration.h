@@ -38,7 +38,8 @@ class WindowEnumeration {
   /// nested: error 5.
   void EnumWindows(std::int32_t mode, const Visit& visit = PassOver);
 
-  /// Does what `mode` says with a selectable window; the search modes pass candidates to `visit`.
+  /// Does what `mode` says with a selectable window; the search modes pass candidates to `visit`,
+  /// those that minimize or restore the windows that Windows denied.
   /// Always true, so that an enumeration visits all windows.
   bool EnumWindowsProc(WindowHandle hwnd, std::int32_t mode, const Visit& visit = PassOver);
   /// Hands any window to `visit` in mode 4; always true.
@@ -61,8 +62,8 @@ class WindowEnumeration {
  private:
   void Enumerate(const Test& visit);
   void HandleSelectable(WindowHandle hwnd, std::int32_t mode, const Visit& visit);
-  void Minimize(WindowHandle hwnd);
-  void Restore(WindowHandle hwnd);
+  bool Minimize(WindowHandle hwnd);
+  bool Restore(WindowHandle hwnd);
   bool CanMinimizeOrRestore(WindowHandle hwnd, bool iconic) const;
   bool FitsTitle(WindowHandle hwnd, const std::string& text) const;
   bool CanBeTopWindow(WindowHandle hwnd) const;

@@ -6,9 +6,12 @@
 
 namespace korvale {
 
-WindowRequests::WindowRequests(WindowQueries& windows, WindowCommands& commands,
-                               const MainWindow& mainWindow, Clock& clock)
-    : windows_(&windows), commands_(&commands), mainWindow_(&mainWindow), clock_(&clock) {}
+WindowRequests::WindowRequests(const DesktopParts& parts, Clock& clock)
+    : windows_(&parts.windows),
+      commands_(&parts.commands),
+      input_(&parts.input),
+      mainWindow_(&parts.mainWindow),
+      clock_(&clock) {}
 
 /// All our windows belong to the thread of the main window.
 bool WindowRequests::IsOurs(WindowHandle hwnd) {
@@ -16,27 +19,39 @@ bool WindowRequests::IsOurs(WindowHandle hwnd) {
   return thread != 0 && windows_->GetWindowThreadProcessId(hwnd) == thread;
 }
 
-bool WindowRequests::Show(WindowHandle hwnd, int command) {
-  if (IsOurs(hwnd)) return commands_->ShowWindow(hwnd, command);
-  const bool wasVisible = windows_->IsWindowVisible(hwnd);
-  return commands_->ShowWindowAsync(hwnd, command) && wasVisible;
+RequestResult WindowRequests::Refused(WindowHandle hwnd) {
+  return windows_->IsWindow(hwnd) ? RequestResult::kDenied : RequestResult::kFailed;
 }
 
-void WindowRequests::SetTopmost(WindowHandle hwnd, bool topmost) {
+RequestResult WindowRequests::Show(WindowHandle hwnd, int command) {
+  const bool ours = IsOurs(hwnd);
+  const bool wasVisible =
+      ours ? commands_->ShowWindow(hwnd, command) : windows_->IsWindowVisible(hwnd);
+  if (!ours && !commands_->ShowWindowAsync(hwnd, command)) return Refused(hwnd);
+  return wasVisible ? RequestResult::kDone : RequestResult::kFailed;
+}
+
+RequestResult WindowRequests::SetTopmost(WindowHandle hwnd, bool topmost) {
   std::uint32_t flags = win32::kSwpNoSize | win32::kSwpNoMove;
   if (!IsOurs(hwnd)) flags |= win32::kSwpAsyncWindowPos;
   if (!windows_->IsWindowVisible(hwnd)) flags |= win32::kSwpNoActivate;
-  commands_->SetWindowPos(hwnd, topmost ? win32::kHwndTopmost : win32::kHwndNoTopmost, 0, 0, 0, 0,
-                          flags);
-  if ((flags & win32::kSwpAsyncWindowPos) == 0) return;
+  if (!commands_->SetWindowPos(hwnd, topmost ? win32::kHwndTopmost : win32::kHwndNoTopmost, 0, 0, 0,
+                               0, flags)) {
+    return Refused(hwnd);
+  }
+  if ((flags & win32::kSwpAsyncWindowPos) == 0) return RequestResult::kDone;
   Await(hwnd, [&] {
     const std::int32_t style = windows_->GetWindowLongA(hwnd, win32::kGwlExStyle);
     return ((style & win32::kWsExTopmost) != 0) == topmost;
   });
+  return RequestResult::kDone;
 }
 
-bool WindowRequests::SetForegroundWindow(WindowHandle hwnd) {
-  return commands_->SetForegroundWindow(hwnd);
+RequestResult WindowRequests::SetForegroundWindow(WindowHandle hwnd) {
+  if (commands_->SetForegroundWindow(hwnd)) return RequestResult::kDone;
+  if (!windows_->IsWindow(hwnd)) return RequestResult::kFailed;
+  input_->SendMouseInput();
+  return commands_->SetForegroundWindow(hwnd) ? RequestResult::kDone : Refused(hwnd);
 }
 
 bool WindowRequests::Await(WindowHandle hwnd, const std::function<bool()>& done) {

@@ -3,12 +3,17 @@
 #include <cstdint>
 #include <functional>
 
-#include "desktop/main_window.h"
+#include "desktop/desktop_parts.h"
 #include "platform/clock.h"
 #include "platform/types.h"
-#include "platform/window_api.h"
 
 namespace korvale {
+
+enum class RequestResult {
+  kDone,
+  kFailed,  ///< The window is gone, or was not in a state for it.
+  kDenied,  ///< Windows refuses it to this program, although the window is there.
+};
 
 /// Asks windows for changes. The thread of a window of another program makes them in its own time,
 /// so no window can hold up this program; what the next step needs is waited for, but only briefly.
@@ -18,16 +23,17 @@ class WindowRequests {
   /// system's timer (16 ms) late.
   static constexpr std::uint64_t kPatience = 80;
 
-  WindowRequests(WindowQueries& windows, WindowCommands& commands, const MainWindow& mainWindow,
-                 Clock& clock);
+  WindowRequests(const DesktopParts& parts, Clock& clock);
 
   /// ShowWindow for our own windows, ShowWindowAsync for others. `command` is one of the SW_
-  /// values; false when the window was hidden before or is gone.
-  bool Show(WindowHandle hwnd, int command);
+  /// values; fails when the window was hidden before or is gone.
+  RequestResult Show(WindowHandle hwnd, int command);
   /// Makes a window topmost or not, without moving it (SetWindowPos), and waits until it is. A
   /// hidden window is not activated.
-  void SetTopmost(WindowHandle hwnd, bool topmost);
-  bool SetForegroundWindow(WindowHandle hwnd);
+  RequestResult SetTopmost(WindowHandle hwnd, bool topmost);
+  /// Brings a window to the front. When Windows refuses, asks once more after an input of our own
+  /// (SendMouseInput).
+  RequestResult SetForegroundWindow(WindowHandle hwnd);
 
   /// Waits until `done` holds for the window; false when the patience runs out first, or the
   /// window hangs or is gone.
@@ -41,12 +47,14 @@ class WindowRequests {
 
  private:
   bool IsOurs(WindowHandle hwnd);
+  RequestResult Refused(WindowHandle hwnd);
   std::uint64_t PatienceLeft();
   void Spend(std::uint64_t start);
   bool AwaitFor(WindowHandle hwnd, std::uint64_t milliseconds, const std::function<bool()>& done);
 
   WindowQueries* windows_;
   WindowCommands* commands_;
+  InputDevices* input_;
   const MainWindow* mainWindow_;
   Clock* clock_;
   std::uint64_t spent_ = 0;     // Patience that waits have used up and time has not given back.

@@ -7,6 +7,14 @@
 #include "util/text.h"
 
 namespace korvale {
+namespace {
+
+/// A window that does not answer, or that Windows denies, is the right one: no other is looked for.
+bool IsTheWindow(ActivationResult result) {
+  return result == kActivationDone || result == kWindowNotAnswering || result == kWindowDenied;
+}
+
+}  // namespace
 
 std::string InBrackets(const std::string& text) { return "Window:  [" + text + "]"; }
 
@@ -41,7 +49,9 @@ void WindowSelection::SelectPrevious() {
     WindowTriple window = previous_->OfTagZero(mainWindow_->FocusTag() == kGotFocus);
     if (window.handle == 0 || window.handle == tried) return;
     tried = window.handle;
-    if (actions_->ActivatePreviousWindow(window) == kActivationDone) {
+    const ActivationResult result = actions_->ActivatePreviousWindow(window);
+    if (result == kWindowDenied) return actions_->ReportFailure();
+    if (result == kActivationDone) {
       selected = tried;
       tracker_->RecordSelection(window);
       return;
@@ -61,8 +71,7 @@ void WindowSelection::SelectEntry(MenuItem& entry) {
   const WindowHandle foreground = tracker_->WindowInFront();
   if (TagHandle(entry) == foreground && foreground != 0) {
     selected = foreground;
-    if (windows_->IsIconic(foreground)) requests_->Show(foreground, win32::kSwRestore);
-    return;
+    return RestoreInFront(foreground);
   }
   const ActivationResult result = ActivateOrSearch(entry);
   if (result != kActivationDone) return TellFailure(entry, result);
@@ -72,23 +81,28 @@ void WindowSelection::SelectEntry(MenuItem& entry) {
       {selected, GetWindowTitle(*windows_, selected), GetWindowClass(*windows_, selected)});
 }
 
-ActivationResult WindowSelection::Activate(const MenuItem& entry, bool reportFailure, bool act) {
+void WindowSelection::RestoreInFront(WindowHandle hwnd) {
+  const bool denied = windows_->IsIconic(hwnd) &&
+                      requests_->Show(hwnd, win32::kSwRestore) == RequestResult::kDenied;
+  if (denied) actions_->ReportFailure();
+}
+
+ActivationResult WindowSelection::Activate(const MenuItem& entry) {
   WindowTriple window{TagHandle(entry), IdentificationText(entry), TagClass(*tags_, entry)};
-  return actions_->ActivateWindow(window, reportFailure, act);
+  return actions_->ActivateWindow(window, false, true);
 }
 
 ActivationResult WindowSelection::ActivateOrSearch(MenuItem& entry) {
-  ActivationResult result = Activate(entry, false, true);
-  // A window that does not answer is the right one: no other is looked for.
-  if (result == kActivationDone || result == kWindowNotAnswering || windowSearch) return result;
+  ActivationResult result = Activate(entry);
+  if (IsTheWindow(result) || windowSearch) return result;
   enumeration_->RefreshTags();
-  result = Activate(entry, false, true);
-  if (result == kActivationDone || result == kWindowNotAnswering) return result;
+  result = Activate(entry);
+  if (IsTheWindow(result)) return result;
   const WindowHandle found = enumeration_->FindByTitle(IdentificationText(entry));
   if (found == 0) return result;
   entry.tag = DecimalText(found);
   TagClass(*tags_, entry) = GetWindowClass(*windows_, found);
-  return Activate(entry, false, true);
+  return Activate(entry);
 }
 
 void WindowSelection::TellFailure(const MenuItem& entry, ActivationResult result) {
@@ -99,7 +113,7 @@ void WindowSelection::TellFailure(const MenuItem& entry, ActivationResult result
   } else if (result == kWindowNotOpen) {
     messages_->ShowMessageBox(window + "  is not open.", win32::kMbSetForeground, kProductName);
   } else {
-    Activate(entry, true, false);
+    actions_->ReportFailure();
   }
 }
 

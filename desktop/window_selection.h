@@ -38,7 +38,8 @@ class WindowSelection {
  private:
   void SelectPrevious();
   void SelectEntry(MenuItem& entry);
-  ActivationResult Activate(const MenuItem& entry, bool reportFailure, bool act);
+  void RestoreInFront(WindowHandle hwnd);
+  ActivationResult Activate(const MenuItem& entry);
   ActivationResult ActivateOrSearch(MenuItem& entry);
   void TellFailure(const MenuItem& entry, ActivationResult result);
 

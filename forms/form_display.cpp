@@ -6,9 +6,13 @@
 
 namespace korvale {
 
-FormDisplay::FormDisplay(FormCollection& forms, const DesktopParts& desktop, Suspension& suspension,
-                         const bool& alwaysOnTop)
-    : forms_(&forms), desktop_(&desktop), suspension_(&suspension), alwaysOnTop_(&alwaysOnTop) {}
+FormDisplay::FormDisplay(FormCollection& forms, const DesktopParts& desktop,
+                         WindowRequests& requests, Suspension& suspension, const bool& alwaysOnTop)
+    : forms_(&forms),
+      desktop_(&desktop),
+      requests_(&requests),
+      suspension_(&suspension),
+      alwaysOnTop_(&alwaysOnTop) {}
 
 std::string FormDisplay::ShowFormModal(Form& form, const DisplaySwitches& switches,
                                        std::int32_t /*milliseconds*/, const PlaceHints& hints,
@@ -72,7 +76,7 @@ void FormDisplay::Place(Form& form, const DisplaySwitches& switches, const Place
 void FormDisplay::BringToFront(Form& form, const DisplaySwitches& switches) {
   if (form.IsLoaded() && switches.followTopmost != 0) FollowTopmost(form.Handle());
   if (form.IsLoaded() && switches.takeForeground != 0) {
-    desktop_->commands.SetForegroundWindow(form.Handle());
+    requests_->SetForegroundWindow(form.Handle());
   }
 }
 
@@ -88,7 +92,7 @@ void FormDisplay::FollowTopmost(WindowHandle hwnd) {
 void FormDisplay::GiveForegroundBack(WindowHandle before) {
   const WindowHandle now = desktop_->windows.GetForegroundWindow();
   if (before == 0 || now == before || (now != 0 && !IsOwnForm(*forms_, now))) return;
-  ReturnForegroundTo(desktop_->windows, desktop_->commands, before);
+  ReturnForegroundTo(desktop_->windows, *requests_, before);
 }
 
 }  // namespace korvale

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "desktop/desktop_parts.h"
+#include "desktop/window_requests.h"
 #include "hotkeys/suspension.h"
 #include "ui/form.h"
 #include "ui/form_collection.h"
@@ -26,8 +27,8 @@ struct DisplaySwitches {
 class FormDisplay {
  public:
   /// `alwaysOnTop` is the live state of the main window.
-  FormDisplay(FormCollection& forms, const DesktopParts& desktop, Suspension& suspension,
-              const bool& alwaysOnTop);
+  FormDisplay(FormCollection& forms, const DesktopParts& desktop, WindowRequests& requests,
+              Suspension& suspension, const bool& alwaysOnTop);
 
   /// Shows the form above its owner until it closes, and returns the tag that it has then, its
   /// result. Hot keys are suspended meanwhile. When no other window has taken the foreground by
@@ -53,6 +54,7 @@ class FormDisplay {
 
   FormCollection* forms_;
   const DesktopParts* desktop_;
+  WindowRequests* requests_;
   Suspension* suspension_;
   const bool* alwaysOnTop_;
 };

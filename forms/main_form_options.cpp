@@ -31,7 +31,7 @@ void frmMain::BringOptionsToFront() {
 void frmMain::OptionsDialogClosed() {
   openOptions_ = nullptr;
   // Windows would bring the main window forward, which owns the dialog.
-  ReturnForegroundTo(platform_->windows, platform_->commands,
+  ReturnForegroundTo(platform_->windows, parts_.desktop.requests,
                      parts_.desktop.tracker.WindowBehind(optionsForm_.Handle()));
   parts_.desktop.tracker.ForgetVisit(optionsForm_.Handle());
 }

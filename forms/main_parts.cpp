@@ -28,9 +28,10 @@ MainParts::MainParts(Platform& platform, FormCollection& forms, MainWindow& main
                  return ErrorLogState{state.firstActivation, startup.Menu, state.lastAnswer};
                }),
       errors(messages, errorLog, std::move(shutDown)),
-      desktop({platform.windows, platform.commands, mainWindow, forms, messages, previous},
+      desktop({platform.windows, platform.commands, platform.input, mainWindow, forms, messages,
+               previous},
               platform.clock, options, windowMenu),
-      display(forms, desktop, suspension, startup.AlwaysOnTop),
+      display(forms, desktop, desktop.requests, suspension, startup.AlwaysOnTop),
       hotKeys(platform.hotKeys, options, mainWindow),
       toggle(hotKeys, options, hotKeyActions),
       dispatch(desktop, suspension, hotKeyActions, toggle, errors),

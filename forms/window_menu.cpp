@@ -88,7 +88,7 @@ bool WindowMenu::PreviousCanBeAdded() {
     desktop_->messages.ShowMessageBox(InBrackets(previous.text) + "  is not open.", win32::kMbOk,
                                       kProductName);
   } else {
-    desktop_->actions.ActivateWindow(previous, true, false);
+    desktop_->actions.ReportFailure();
   }
   return false;
 }
@@ -105,11 +105,13 @@ void WindowMenu::mnuWindowPreviousWindowAlwaysOnTop_Click() {
   WindowTriple& previous = desktop_->previous.current;
   if (desktop_->actions.ActivateWindow(previous, true, true) == kActivationDone) {
     MenuItem& item = form_->Menu("mnuWindowPreviousWindowAlwaysOnTop");
-    item.checked = !item.checked;
-    desktop_->requests.SetTopmost(previous.handle, item.checked);
+    const bool done =
+        desktop_->requests.SetTopmost(previous.handle, !item.checked) == RequestResult::kDone;
+    if (done) item.checked = !item.checked;
     if (desktop_->mainWindow.FocusTag() == kGotFocus) {
-      desktop_->commands.SetForegroundWindow(desktop_->mainWindow.MainHandle());
+      desktop_->requests.SetForegroundWindow(desktop_->mainWindow.MainHandle());
     }
+    if (!done) desktop_->actions.ReportFailure();
   }
   refreshMenus_();
 }

@@ -153,7 +153,7 @@ void HotKeyDispatch::PopUpWindowMenu() {
   const WindowHandle left = desktop_->windows.GetForegroundWindow();
   const WindowHandle before = desktop_->previous.InFront(desktop_->windows);
   WindowHandle selected = 0;
-  desktop_->commands.SetForegroundWindow(main);
+  desktop_->requests.SetForegroundWindow(main);
   actions_->SetWindowMenuTag(kHotKeyWindowMenuPopup);
   try {
     selected = actions_->PopUpWindowMenu();
@@ -169,9 +169,9 @@ void HotKeyDispatch::PopUpWindowMenu() {
   const WindowHandle now = desktop_->windows.GetForegroundWindow();
   const bool stays = now != main && now != left;
   if (selected == 0 && before != main && !stays &&
-      !ReturnForegroundTo(desktop_->windows, desktop_->commands, before)) {
+      !ReturnForegroundTo(desktop_->windows, desktop_->requests, before)) {
     // It has gone while the menu was open.
-    ReturnForegroundTo(desktop_->windows, desktop_->commands, desktop_->tracker.WindowBehind(main));
+    ReturnForegroundTo(desktop_->windows, desktop_->requests, desktop_->tracker.WindowBehind(main));
   }
 }
 

@@ -106,7 +106,7 @@ void SuspendingMessageBoxes::GiveForegroundBack(WindowHandle before) {
   // input meanwhile, comes from closing the box; any other is the user's.
   const bool passedOn = now == 0 || now == desktop_->mainWindow.MainHandle() ||
                         IsOwnForm(desktop_->forms, now) != IsOwnForm(desktop_->forms, before);
-  if (passedOn) ReturnForegroundTo(desktop_->windows, desktop_->commands, before);
+  if (passedOn) ReturnForegroundTo(desktop_->windows, desktop_->requests, before);
 }
 
 }  // namespace korvale

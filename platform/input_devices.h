@@ -19,6 +19,9 @@ class InputDevices {
   /// Presses and releases a key with the `shift` keys held, as the user does in this window; does
   /// nothing while it is not in front (SendInput).
   virtual void SendInput(WindowHandle hwnd, int virtualKey, unsigned shift) = 0;
+  /// One mouse event without movement or buttons (SendInput). To Windows the program then has had
+  /// the last input, which is one of the rights to change the foreground.
+  virtual void SendMouseInput() = 0;
 };
 
 }  // namespace korvale

@@ -120,15 +120,6 @@ TEST_F(Activation, TextMayBeAPartOrASideOfTheTitle) {
   }
 }
 
-TEST_F(Activation, RefusedForegroundFails) {
-  desktop.LockForeground(true);
-  desktop.UserMinimizes(alpha);
-  WindowTriple window = Triple(alpha);
-  EXPECT_EQ(Activate(window), 0);
-  EXPECT_EQ(window.handle, alpha);
-  EXPECT_EQ(log.Take(), Calls{"SetForegroundWindow(Alpha)"});
-}
-
 TEST_F(Activation, RefusedRestoreFails) {
   desktop.UserMinimizes(alpha);
   log.WhenCalled("ShowWindowAsync(Alpha, SW_RESTORE)", [&] { desktop.Close(alpha); });

@@ -10,6 +10,7 @@
 #include "tests/fakes/call_log.h"
 #include "tests/fakes/fake_clock.h"
 #include "tests/fakes/fake_desktop.h"
+#include "tests/fakes/fake_input.h"
 #include "tests/fakes/fake_loaded_forms.h"
 #include "tests/fakes/fake_main_window.h"
 #include "tests/fakes/fake_message_boxes.h"
@@ -64,13 +65,15 @@ class DesktopCase : public testing::Test {
   CallLog log;
   FakeClock clock;
   FakeDesktop desktop{log};
+  FakeInput input{log, desktop.Windows()};
   FakeMainWindow mainWindow;
   FakeLoadedForms forms;
   FakeMessageBoxes messages;
   OptionsHolder options;
   PreviousWindow previous;
   MenuItem menu;
-  Desktop routines{{desktop, desktop, mainWindow, forms, messages, previous}, clock, options, menu};
+  Desktop routines{
+      {desktop, desktop, input, mainWindow, forms, messages, previous}, clock, options, menu};
   TagList& tags = routines.tags;
   TagListPasses& passes = routines.tagPasses;
   WindowFilter& filter = routines.filter;

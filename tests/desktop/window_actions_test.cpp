@@ -251,13 +251,13 @@ TEST_F(Topmost, DoesNotWaitForAHungWindow) {
 class ShowDesktopWindowTest : public ForegroundKeys {};
 
 TEST_F(ShowDesktopWindowTest, TellsWhetherTheWindowWasVisible) {
-  EXPECT_TRUE(requests.Show(beta, win32::kSwRestore));
+  EXPECT_EQ(requests.Show(beta, win32::kSwRestore), RequestResult::kDone);
   desktop.Hide(beta);
-  EXPECT_FALSE(requests.Show(beta, win32::kSwRestore));
-  EXPECT_TRUE(requests.Show(beta, win32::kSwRestore));
+  EXPECT_EQ(requests.Show(beta, win32::kSwRestore), RequestResult::kFailed);
+  EXPECT_EQ(requests.Show(beta, win32::kSwRestore), RequestResult::kDone);
   desktop.SetHung(beta, true);
-  EXPECT_TRUE(requests.Show(beta, win32::kSwRestore));
-  EXPECT_FALSE(requests.Show(0x7777, win32::kSwRestore));
+  EXPECT_EQ(requests.Show(beta, win32::kSwRestore), RequestResult::kDone);
+  EXPECT_EQ(requests.Show(0x7777, win32::kSwRestore), RequestResult::kFailed);
 }
 
 }  // namespace

@@ -32,6 +32,7 @@ class DesktopBridge : public DesktopWindows, private DesktopObserver {
   void Enable(WindowHandle hwnd, bool enable) override;
   void Show(WindowHandle hwnd, int command) override;
   void Activate(WindowHandle hwnd) override;
+  void TakeInput() override { windows_->TakeInput(); }
 
   bool IsShown(WindowHandle hwnd) const override;
   bool IsEnabled(WindowHandle hwnd) const override;

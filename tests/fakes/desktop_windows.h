@@ -38,6 +38,8 @@ class DesktopWindows {
   virtual void Show(WindowHandle hwnd, int command) = 0;
   /// Brings the window to the front and activates it, as a click on it does.
   virtual void Activate(WindowHandle hwnd) = 0;
+  /// The program has sent an input of its own.
+  virtual void TakeInput() = 0;
 
   virtual bool IsShown(WindowHandle hwnd) const = 0;
   virtual bool IsEnabled(WindowHandle hwnd) const = 0;

@@ -6,6 +6,7 @@
 #include "tests/fakes/fake_desktop.h"
 #include "tests/fakes/fake_hot_key_actions.h"
 #include "tests/fakes/fake_hot_keys.h"
+#include "tests/fakes/fake_input.h"
 #include "tests/fakes/fake_loaded_forms.h"
 #include "tests/fakes/fake_main_window.h"
 #include "tests/fakes/fake_message_boxes.h"
@@ -22,6 +23,7 @@ struct DispatchDesktop {
 
   CallLog log;
   FakeDesktop desktop{log};
+  FakeInput input{log, desktop.Windows()};
   FakeHotKeys hotKeys{log};
   FakeMainWindow mainWindow;
   FakeLoadedForms forms;
@@ -32,7 +34,7 @@ struct DispatchDesktop {
   Suspension suspension;
   FakeMessageBoxes messages;
   Desktop routines{
-      {desktop, desktop, mainWindow, forms, messages, previous}, clock, options, windowMenu};
+      {desktop, desktop, input, mainWindow, forms, messages, previous}, clock, options, windowMenu};
   TagList& tags = routines.tags;
   ForegroundTracker& tracker = routines.tracker;
 };

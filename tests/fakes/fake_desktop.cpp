@@ -19,6 +19,7 @@ WindowHandle FakeDesktop::OpenModalDialog(WindowHandle owner, const std::string&
   options.owner = owner;
   options.style = fakes::kWsPopup | fakes::kWsCaption | win32::kDsModalFrame;
   options.process = Existing(owner).process;
+  options.elevated = Existing(owner).elevated;
   SetEnabled(owner, false);
   return Open(title, options);
 }
@@ -156,6 +157,11 @@ std::vector<std::string> FakeDesktop::VisibleTitles() const {
     if (windows_.IsVisible(hwnd)) titles.push_back(Title(hwnd));
   }
   return titles;
+}
+
+bool FakeDesktop::CanChange(WindowHandle hwnd) const {
+  const FakeWindow* const window = windows_.Find(hwnd);
+  return window != nullptr && !window->elevated;
 }
 
 FakeWindow& FakeDesktop::Existing(WindowHandle hwnd) {

@@ -51,7 +51,7 @@ class FakeDesktop : public WindowQueries, public WindowCommands {
   /// Nothing is in the foreground, as for a moment while Windows changes it.
   void LoseForeground();
   /// While locked, SetForegroundWindow refuses, as Windows does for a program without the right.
-  void LockForeground(bool locked) { foreground_locked_ = locked; }
+  void LockForeground(ForegroundLock lock) { windows_.LockForeground(lock); }
   /// While delayed, SetForegroundWindow succeeds at once, but the windows come forward only when
   /// the delay ends, as Windows does with a window of another thread.
   void DelayForeground(bool delayed);
@@ -100,6 +100,8 @@ class FakeDesktop : public WindowQueries, public WindowCommands {
   /// Logs a reading call on a window, then gives the window, null when it is gone.
   const FakeWindow* Read(const char* call, WindowHandle hwnd, const std::string& argument = "");
   FakeWindow& Existing(WindowHandle hwnd);
+  /// Whether the window is there and lets programs with fewer rights change it.
+  bool CanChange(WindowHandle hwnd) const;
   /// Lets a call wait for the window's thread; false when that never takes it.
   bool WaitFor(WindowHandle hwnd);
   bool IsBusy(const FakeWindow& window) const;
@@ -112,7 +114,6 @@ class FakeDesktop : public WindowQueries, public WindowCommands {
   CallLog& log_;
   FakeWindows windows_;
   FakeClock* clock_ = nullptr;
-  bool foreground_locked_ = false;
   bool foreground_delayed_ = false;
   std::vector<WindowHandle> coming_forward_;
   int calls_that_waited_ = 0;

@@ -137,8 +137,8 @@ WindowHandle FakeDesktop::FindWindowA(const std::string& title) {
 
 bool FakeDesktop::ShowWindow(WindowHandle hwnd, int command) {
   log_.Add("ShowWindow(" + log_.Window(hwnd) + ", " + ShowCommandText(command) + ")");
+  if (!CanChange(hwnd)) return false;
   const FakeWindow* const window = windows_.Find(hwnd);
-  if (window == nullptr) return false;
   const bool was_visible = window->visible && !window->hiddenByOwner;
   if (WaitFor(hwnd)) windows_.Show(hwnd, command);
   return was_visible;
@@ -146,7 +146,7 @@ bool FakeDesktop::ShowWindow(WindowHandle hwnd, int command) {
 
 bool FakeDesktop::ShowWindowAsync(WindowHandle hwnd, int command) {
   log_.Add("ShowWindowAsync(" + log_.Window(hwnd) + ", " + ShowCommandText(command) + ")");
-  if (windows_.Find(hwnd) == nullptr) return false;
+  if (!CanChange(hwnd)) return false;
   DoWhenFree(hwnd, [this, hwnd, command] { windows_.Show(hwnd, command); });
   return true;
 }
@@ -156,7 +156,7 @@ bool FakeDesktop::SetWindowPos(WindowHandle hwnd, WindowHandle insertAfter, int 
   log_.Add("SetWindowPos(" + log_.Window(hwnd) + ", " + InsertAfterText(log_, insertAfter) + ", " +
            std::to_string(x) + ", " + std::to_string(y) + ", " + std::to_string(width) + ", " +
            std::to_string(height) + ", " + std::to_string(flags) + ")");
-  if (windows_.Find(hwnd) == nullptr) return false;
+  if (!CanChange(hwnd)) return false;
   const PixelRect place{x, y, width, height};
   if ((flags & win32::kSwpAsyncWindowPos) != 0) {
     DoWhenFree(hwnd, [=, this] { Place(hwnd, insertAfter, place, flags); });
@@ -191,7 +191,7 @@ void FakeDesktop::Place(WindowHandle hwnd, WindowHandle insertAfter, const Pixel
 bool FakeDesktop::SetForegroundWindow(WindowHandle hwnd) {
   log_.Add("SetForegroundWindow(" + log_.Window(hwnd) + ")");
   const FakeWindow* const window = windows_.Find(hwnd);
-  if (window == nullptr || window->parent != 0 || foreground_locked_) return false;
+  if (window == nullptr || window->parent != 0 || windows_.IsForegroundLocked()) return false;
   if (foreground_delayed_) {
     coming_forward_.push_back(hwnd);
   } else {
@@ -204,7 +204,7 @@ bool FakeDesktop::SendMessageTimeoutW(WindowHandle hwnd, std::uint32_t message,
                                       std::uint32_t milliseconds) {
   log_.AddRead("SendMessageTimeoutW(" + log_.Window(hwnd) + ", " + HexText(message) + ")");
   const FakeWindow* const window = windows_.Find(hwnd);
-  if (window == nullptr || window->hung) return false;
+  if (!CanChange(hwnd) || window->hung) return false;
   if (!IsBusy(*window)) return true;
   const std::uint64_t busy = window->busyUntil - clock_->GetTickCount64();
   clock_->Sleep(static_cast<std::uint32_t>(std::min<std::uint64_t>(busy, milliseconds)));
@@ -213,7 +213,7 @@ bool FakeDesktop::SendMessageTimeoutW(WindowHandle hwnd, std::uint32_t message,
 
 bool FakeDesktop::PostMessageW(WindowHandle hwnd, std::uint32_t message) {
   log_.Add("PostMessageW(" + log_.Window(hwnd) + ", " + HexText(message) + ")");
-  if (windows_.Find(hwnd) == nullptr) return false;
+  if (!CanChange(hwnd)) return false;
   windows_.NotifyPosted(hwnd, message);
   return true;
 }

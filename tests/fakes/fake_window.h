@@ -27,6 +27,7 @@ struct NewWindow {
   bool atBottom = false;         ///< Stays below all others, like the desktop's own window.
   int children = 1;              ///< Child windows made along with it.
   int process = kOtherProcess;   ///< kOtherProcess, or a number of one of our programs.
+  bool elevated = false;         ///< Its program runs as administrator.
   int extraTextLength = 0;       ///< Added by GetWindowTextLengthA.
   WindowHandle reuseHandle = 0;  ///< Takes this handle of a window that is gone.
 };
@@ -60,6 +61,7 @@ struct FakeWindow {
   WindowHandle lastActivePopup = 0;  ///< Of those that it owns and itself; kept without an owner.
   bool atBottom = false;
   int process = kOtherProcess;
+  bool elevated = false;
   int extraTextLength = 0;
   PixelRect place;
   std::vector<WindowHandle> children;            ///< Topmost first.

@@ -28,6 +28,7 @@ FakeWindow WindowFrom(WindowHandle handle, const std::string& title, const NewWi
   window.restoresToZoomed = options.zoomed;
   window.atBottom = options.atBottom;
   window.process = options.process;
+  window.elevated = options.elevated;
   window.extraTextLength = options.extraTextLength;
   return window;
 }
@@ -128,6 +129,17 @@ void FakeWindows::Activate(WindowHandle hwnd) {
   foreground_ = hwnd;
   if (hwnd != 0) windows_.at(order_.WithOwners(hwnd).back()).lastActivePopup = hwnd;
   Notify([&](DesktopObserver& observer) { observer.OnForegroundChanged(hwnd); });
+}
+
+bool FakeWindows::IsForegroundLocked() const {
+  const FakeWindow* const front = Find(foreground_);
+  return lock_ != ForegroundLock::kNone && front != nullptr && front->process == kOtherProcess;
+}
+
+void FakeWindows::TakeInput() {
+  const FakeWindow* const front = Find(foreground_);
+  const bool arrives = front == nullptr || !front->elevated;
+  if (arrives && lock_ == ForegroundLock::kUntilInput) lock_ = ForegroundLock::kNone;
 }
 
 void FakeWindows::Raise(WindowHandle hwnd) { order_.Raise(hwnd); }

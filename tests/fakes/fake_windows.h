@@ -12,6 +12,13 @@
 
 namespace korvale {
 
+/// Whether Windows lets our programs change the foreground.
+enum class ForegroundLock {
+  kNone,
+  kUntilInput,  ///< Only after an input of their own.
+  kForGood,
+};
+
 /// Told of what happens to the windows, after it has happened. It may change windows itself.
 class DesktopObserver {
  public:
@@ -45,6 +52,12 @@ class FakeWindows {
   /// Visible with everything that holds it.
   bool IsVisible(WindowHandle hwnd) const;
   WindowHandle Foreground() const { return foreground_; }
+  void LockForeground(ForegroundLock lock) { lock_ = lock; }
+  /// Never for the program that is in front itself, nor while nothing is.
+  bool IsForegroundLocked() const;
+  /// One of our programs has sent an input; it does not arrive while the program in front has more
+  /// rights.
+  void TakeInput();
 
   /// Carries out one of the SW_ commands.
   void Show(WindowHandle hwnd, int command);
@@ -84,6 +97,7 @@ class FakeWindows {
   std::map<WindowHandle, FakeWindow> windows_;
   FakeZOrder order_;
   WindowHandle foreground_ = 0;
+  ForegroundLock lock_ = ForegroundLock::kNone;
   WindowHandle next_handle_;
   std::vector<DesktopObserver*> observers_;
 };

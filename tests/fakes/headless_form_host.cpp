@@ -268,6 +268,11 @@ void HeadlessFormHost::SendInput(WindowHandle hwnd, int virtualKey, unsigned shi
   keyboard_(hwnd, virtualKey, shift);
 }
 
+void HeadlessFormHost::SendMouseInput() {
+  log_->Add("SendMouseInput()");
+  desktop_->TakeInput();
+}
+
 Twips HeadlessFormHost::GetTextExtentPoint32W(WindowHandle hwnd, const std::string& text) {
   Window(hwnd);
   return 100 * CharacterCount(text);

@@ -126,6 +126,7 @@ class HeadlessFormHost : public FormHost,
   std::optional<Color> ChooseColorW(WindowHandle owner, Color initial) override;
   void SetCursor(MousePointer pointer) override { pointer_ = pointer; }
   void SendInput(WindowHandle hwnd, int virtualKey, unsigned shift) override;
+  void SendMouseInput() override;
   void RunMessageLoop(const std::function<bool()>& done) override;
   void DoEvents() override;
   void PostQuitMessage() override;

@@ -20,6 +20,7 @@ class PlainDesktop : public DesktopWindows {
   void Enable(WindowHandle hwnd, bool enable) override;
   void Show(WindowHandle hwnd, int command) override;
   void Activate(WindowHandle hwnd) override;
+  void TakeInput() override {}
 
   bool IsShown(WindowHandle hwnd) const override;
   bool IsEnabled(WindowHandle hwnd) const override;

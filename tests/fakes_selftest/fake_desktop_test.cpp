@@ -143,16 +143,6 @@ TEST_F(FakeDesktopTest, SetWindowPosActivatesUnlessToldNotTo) {
   EXPECT_EQ(desktop_.ForegroundTitle(), "Alpha");
 }
 
-TEST_F(FakeDesktopTest, TheLockedForegroundIsRefused) {
-  const WindowHandle alpha = desktop_.Open("Alpha");
-  desktop_.Open("Beta");
-  desktop_.LockForeground(true);
-
-  EXPECT_FALSE(desktop_.SetForegroundWindow(alpha));
-
-  EXPECT_EQ(desktop_.ForegroundTitle(), "Beta");
-}
-
 TEST_F(FakeDesktopTest, ANewWindowCanOpenInTheBackground) {
   desktop_.Open("Alpha");
   desktop_.Open("Beta", {.activate = false});

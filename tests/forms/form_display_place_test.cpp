@@ -98,8 +98,9 @@ class TwoMonitorsTest : public FormDisplayTest {
   FormCollection forms{host, host, host, clock_};
   Dialog dialog{kDialogDesign, forms};
   Dialog owner{kOwnerDesign, forms};
-  DesktopParts parts{desktop, desktop, mainWindow_, forms, messages_, previous_};
-  FormDisplay display{forms, parts, suspension_, alwaysOnTop_};
+  DesktopParts parts{desktop, desktop, host, mainWindow_, forms, messages_, previous_};
+  WindowRequests requests{parts, clock_};
+  FormDisplay display{forms, parts, requests, suspension_, alwaysOnTop_};
 };
 
 TEST_F(TwoMonitorsTest, AFormComesUpWhereTheUserWorksWithTheSizeThatItHasThere) {

@@ -72,7 +72,7 @@ class MessageBoxTest : public testing::Test {
   MenuItem windowMenu;
   SuspendingMessageBoxes messages{routines, host, suspension, [this] { return modal; }};
   Desktop routines{
-      {desktop, desktop, mainWindow, forms, messages, previous}, clock, record, windowMenu};
+      {desktop, desktop, host, mainWindow, forms, messages, previous}, clock, record, windowMenu};
 };
 
 }  // namespace korvale

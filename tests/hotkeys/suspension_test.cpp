@@ -105,7 +105,7 @@ class HotKeyDuringMessageBoxTest : public HotKeyDispatchTest {
   MessageBoxHost host{log};
   SuspendingMessageBoxes boxes{withBoxes, host, suspension, [] { return 0; }};
   Desktop withBoxes{
-      {desktop, desktop, mainWindow, forms, boxes, previous}, clock, options, windowMenu};
+      {desktop, desktop, input, mainWindow, forms, boxes, previous}, clock, options, windowMenu};
   HotKeyDispatch live{withBoxes, suspension, actions, toggle, errors};
 };
 

@@ -37,6 +37,7 @@ class SimulatedLife : public KorvaleWorld {
     /// Where the user works, 0 when that is not certain.
     WindowHandle present = 0;
     std::size_t boxes = 0;
+    bool locked = false;
     /// The windows that the user has just been in.
     std::set<WindowHandle> known = {};
     std::set<WindowHandle> hidden = {};

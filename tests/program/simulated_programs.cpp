@@ -71,6 +71,8 @@ std::string SimulatedPrograms::OpenWindow() {
   options.iconic = dice_->OneIn(8);
   options.zoomed = dice_->OneIn(8);
   options.activate = !dice_->OneIn(5);
+  options.elevated = dice_->OneIn(9);
+  elevated_ = elevated_ || options.elevated;
   options.extraTextLength = dice_->OneIn(8) ? 5 : 0;
   if (!open_.empty() && dice_->OneIn(5)) options.owner = dice_->Pick(open_);
   if (dice_->OneIn(2) && desktop_->Windows().Find(lastClosed_) == nullptr) {
@@ -159,7 +161,9 @@ std::string SimulatedPrograms::VisitShell() {
 
 std::string SimulatedPrograms::LockForeground() {
   locked_ = !locked_;
-  desktop_->LockForeground(locked_);
+  const ForegroundLock lock =
+      dice_->OneIn(2) ? ForegroundLock::kUntilInput : ForegroundLock::kForGood;
+  desktop_->LockForeground(locked_ ? lock : ForegroundLock::kNone);
   return locked_ ? "locks the foreground" : "unlocks the foreground";
 }
 

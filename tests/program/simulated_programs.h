@@ -19,6 +19,8 @@ class SimulatedPrograms {
   std::string Act();
   /// Windows refuses to change the foreground.
   bool ForegroundLocked() const { return locked_; }
+  /// A program may run as administrator.
+  bool RunElevated() const { return elevated_; }
 
   /// A title or a part of one.
   std::string SomeTitle();
@@ -37,6 +39,7 @@ class SimulatedPrograms {
   std::vector<WindowHandle> open_;
   WindowHandle lastClosed_ = 0;
   bool locked_ = false;
+  bool elevated_ = false;
 };
 
 }  // namespace korvale

@@ -43,4 +43,10 @@ void WindowsInputDevices::SendInput(WindowHandle hwnd, int virtualKey, unsigned 
   ::SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
 }
 
+void WindowsInputDevices::SendMouseInput() {
+  INPUT input{};
+  input.type = INPUT_MOUSE;
+  ::SendInput(1, &input, sizeof(INPUT));
+}
+
 }  // namespace korvale

@@ -17,6 +17,7 @@ class WindowsInputDevices : public InputDevices {
 
   void SetCursor(MousePointer pointer) override;
   void SendInput(WindowHandle hwnd, int virtualKey, unsigned shift) override;
+  void SendMouseInput() override;
 
  private:
   HINSTANCE instance_;
