@@ -61,9 +61,12 @@ class FormEvents {
   /// The user or Windows moved, sized, minimized or restored the form. May be told again without
   /// any change, and follows every MoveWindow.
   virtual void OnPlaced(ShowState state, const TwipsRect& place) = 0;
-  /// The sizes of frame and menu may have changed, with the dots per inch of the form's monitor
-  /// (WM_DPICHANGED) or with the metrics that the user has chosen (WM_SETTINGCHANGE).
+  /// The sizes of frame and menu may have changed with the dots per inch of the form's monitor
+  /// (WM_DPICHANGED).
   virtual void OnDpiChanged() = 0;
+  /// The user has chosen other sizes of text, title bars or menus, or the work area has changed
+  /// (WM_SETTINGCHANGE). The form keeps its size in twips, and so may be another one on the screen.
+  virtual void OnMetricsChanged() = 0;
   /// The user has chosen other system colours, or turned high contrast on or off
   /// (WM_SYSCOLORCHANGE, WM_SETTINGCHANGE).
   virtual void OnSysColorChange() = 0;

@@ -130,6 +130,9 @@ struct FormState {
   std::string caption;
   TwipsRect place;  ///< Place and size on the screen, frame included.
   SizeLimits limits;
+  /// The client area that must stay on the screen: bigger text enlarges the form only as far as its
+  /// work area has room for this. Nothing = the user sizes the form.
+  TwipsSize content;
   BorderStyle border = BorderStyle::kFixedDialog;
   bool minimizeBox = false;
   bool maximizeBox = false;

@@ -19,7 +19,8 @@ class ScreenQueries {
   /// Where the form really is, place and size in twips of the system's dots per inch, as the work
   /// areas count them (GetWindowRect).
   virtual TwipsRect GetWindowRect(WindowHandle hwnd) = 0;
-  /// The dots per inch with which the window is shown (GetDpiForWindow).
+  /// The dots per inch with which a form is shown: those of its window, more where the user has
+  /// chosen bigger text (GetDpiForWindow).
   virtual int GetDpiForWindow(WindowHandle hwnd) = 0;
   /// The width of a text in the menus of a form, in twips of the system's dots per inch.
   virtual Twips GetTextExtentPoint32W(WindowHandle hwnd, const std::string& text) = 0;

@@ -33,4 +33,12 @@ struct TwipsRect {
   friend bool operator==(const TwipsRect&, const TwipsRect&) = default;
 };
 
+/// Width and height in twips.
+struct TwipsSize {
+  Twips width = 0;
+  Twips height = 0;
+
+  friend bool operator==(const TwipsSize&, const TwipsSize&) = default;
+};
+
 }  // namespace korvale

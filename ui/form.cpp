@@ -99,6 +99,7 @@ void Form::Load() {
   if (IsLoaded()) return;
   // References to menus and controls that were taken before the first loading stay valid.
   if (std::exchange(used_, true)) BuildFromDesign();
+  state_.content = Content();
   state_.place = RealPlace();
   handle_ = forms_->Host().CreateWindowExW(state_, *this);
   if (handle_ == 0) throw RunTimeError(RunTimeError::kOutOfMemory, "no window for " + Name());
@@ -177,6 +178,12 @@ TwipsRect Form::FrameGrowth() const {
   return {0, 0, frame.width - kClassicFrameWidth, frame.height - kClassicFrameHeight};
 }
 
+TwipsSize Form::Content() const {
+  if (state_.border == BorderStyle::kSizable) return {};
+  if (state_.border == BorderStyle::kNone) return {place_.width, place_.height};
+  return {place_.width - kClassicFrameWidth, place_.height - kClassicFrameHeight};
+}
+
 TwipsRect Form::RealPlace() const {
   const TwipsRect growth = FrameGrowth();
   return {place_.left, place_.top, place_.width + growth.width, place_.height + growth.height};
@@ -187,6 +194,7 @@ void Form::SetPlace(const TwipsRect& place) {
   const bool sized = place.width != place_.width || place.height != place_.height;
   place_ = place;
   if (!IsLoaded()) return;
+  state_.content = Content();
   state_.place = RealPlace();
   forms_->Host().MoveWindow(handle_);
   if (sized && IsLoaded()) Form_Resize();

@@ -115,6 +115,7 @@ class Form : public FormEvents, public CollectedForm, private ControlOwner {
   void OnActivated() final;
   void OnPlaced(ShowState state, const TwipsRect& place) final;
   void OnDpiChanged() final;
+  void OnMetricsChanged() final;
   void OnSysColorChange() final;
   void OnCloseRequested(CloseReason reason) final;
   void OnTimer(int control) final;
@@ -160,6 +161,7 @@ class Form : public FormEvents, public CollectedForm, private ControlOwner {
   void BuildFromDesign();
   int ContainerId(const ControlRow& row) const;
   TwipsRect FrameGrowth() const;
+  TwipsSize Content() const;
   TwipsRect RealPlace() const;
   void ShowAs(bool active);
   bool AgreesToUnload(CloseReason reason);

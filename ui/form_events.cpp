@@ -3,6 +3,7 @@
 #include "platform/win32_constants.h"
 #include "ui/form.h"
 #include "ui/form_collection.h"
+#include "ui/form_placement.h"
 
 namespace korvale {
 namespace {
@@ -236,6 +237,16 @@ void Form::OnDpiChanged() {
     forms_->Host().MoveWindow(handle_);
   }
   if (shownBefore_) Form_Resize();
+}
+
+void Form::OnMetricsChanged() {
+  OnDpiChanged();
+  if (!IsLoaded() || !state_.visible || state_.windowState != ShowState::kNormal) return;
+  if (state_.border == BorderStyle::kSizable) {
+    BringOntoMonitor(*this);
+  } else {
+    KeepInWorkArea(*this);
+  }
 }
 
 void Form::OnSysColorChange() {

@@ -129,7 +129,7 @@ WindowHandle HeadlessFormHost::CreateWindowExW(const FormState& form, FormEvents
   for (const ControlState& control : form.controls) window->controls.push_back({control, {}});
   window->DrawMenuBar();
   window->handle = desktop_->Create(form, CountChildren(form));
-  desktop_->SetPlace(window->handle, form.place);
+  desktop_->SetPlace(window->handle, OnScreen(*window));
   log_->NameWindow(window->handle, form.name);
   log_->Add("CreateWindowExW(" + form.name + ")");
   windows_.push_back(std::move(window));
@@ -170,9 +170,10 @@ void HeadlessFormHost::MoveWindow(WindowHandle hwnd) {
 }
 
 void HeadlessFormHost::Place(HeadlessWindow& window, const TwipsRect& place) {
+  window.frame = AdjustWindowRectEx(*window.form);
   window.place = Limited(place, window.form->limits);
   if (desktop_->State(window.handle) == ShowState::kNormal) window.restored = window.place;
-  desktop_->SetPlace(window.handle, window.place);
+  desktop_->SetPlace(window.handle, OnScreen(window));
 }
 
 void HeadlessFormHost::DrawMenuBar(WindowHandle hwnd) {
@@ -201,7 +202,7 @@ void HeadlessFormHost::WindowActivated(WindowHandle hwnd) {
 void HeadlessFormHost::WindowStateChanged(WindowHandle hwnd, ShowState state) {
   HeadlessWindow* const window = FindWindow(hwnd);
   if (window == nullptr) return;
-  if (state == ShowState::kMaximized) Place(*window, workArea_);
+  if (state == ShowState::kMaximized) Place(*window, Maximized(*window));
   if (state == ShowState::kNormal) Place(*window, window->restored);
   const TwipsRect place = window->place;
   Tell(hwnd, [&](FormEvents& events) { events.OnPlaced(state, place); });
@@ -246,20 +247,6 @@ void HeadlessFormHost::SetSelection(WindowHandle hwnd, int control, TextSelectio
   box.cursor = CursorOf(selection, box.shown.text);
 }
 
-void HeadlessFormHost::SetFrame(const TwipsRect& frame, Twips menuHeight) {
-  frame_ = frame;
-  menuHeight_ = menuHeight;
-}
-
-TwipsRect HeadlessFormHost::AdjustWindowRectEx(const FormState& form) {
-  TwipsRect frame = form.border == BorderStyle::kNone ? TwipsRect{} : frame_;
-  if (form.ShowsMenuBar()) {
-    frame.top += menuHeight_;
-    frame.height += menuHeight_;
-  }
-  return frame;
-}
-
 void HeadlessFormHost::SendInput(WindowHandle hwnd, int virtualKey, unsigned shift) {
   log_->Add("SendInput(" + log_->Window(hwnd) + ", " + std::to_string(virtualKey) + ", " +
             std::to_string(shift) + ")");
@@ -272,12 +259,5 @@ void HeadlessFormHost::SendMouseInput() {
   log_->Add("SendMouseInput()");
   desktop_->TakeInput();
 }
-
-Twips HeadlessFormHost::GetTextExtentPoint32W(WindowHandle hwnd, const std::string& text) {
-  Window(hwnd);
-  return 100 * CharacterCount(text);
-}
-
-TwipsRect HeadlessFormHost::GetMonitorInfoW(WindowHandle /*hwnd*/) { return workArea_; }
 
 }  // namespace korvale

@@ -68,11 +68,16 @@ class HeadlessFormHost : public FormHost,
   /// The frame of a form with a border, as AdjustWindowRectEx returns it, and the height of a menu.
   void SetFrame(const TwipsRect& frame, Twips menuHeight);
   void SetDpi(int dpi) { dpi_ = dpi; }
+  /// The user makes all text so many percent of its usual size; tells every form. Frame and menus
+  /// keep their size until SetFrame gives another.
+  void ChangeTextSize(int percent);
   /// The user changes a system colour; tells every form.
   void ChangeSysColor(Color system, Color shown);
   /// The user turns high contrast on or off; tells every form.
   void ChangeHighContrast(bool on);
   void SetWorkArea(const TwipsRect& workArea) { workArea_ = workArea; }
+  /// As above; tells every form.
+  void ChangeWorkArea(const TwipsRect& workArea);
 
   /// Another program tells the thread to quit.
   void PostThreadQuit() { quit_ = true; }
@@ -112,12 +117,12 @@ class HeadlessFormHost : public FormHost,
   TwipsRect AdjustWindowRectEx(const FormState& form) override;
   Color GetSysColor(Color color) override;
   bool HighContrast() override { return highContrast_; }
-  int GetDpiForWindow(WindowHandle /*hwnd*/) override { return dpi_; }
+  int GetDpiForWindow(WindowHandle hwnd) override { return DpiOf(*Window(hwnd).form); }
   TwipsRect GetMonitorInfoW(WindowHandle hwnd) override;
   TwipsRect MonitorFromPoint() override { return workArea_; }
-  /// Every character is 100 twips wide.
+  /// Every character is 100 twips wide, more where the text is bigger.
   Twips GetTextExtentPoint32W(WindowHandle hwnd, const std::string& text) override;
-  TwipsRect GetWindowRect(WindowHandle hwnd) override { return Window(hwnd).place; }
+  TwipsRect GetWindowRect(WindowHandle hwnd) override { return OnScreen(Window(hwnd)); }
   std::int16_t MessageBoxW(WindowHandle owner, const std::string& text, const std::string& title,
                            std::int32_t style) override;
   /// Refused while a menu is open, as Windows does.
@@ -140,6 +145,14 @@ class HeadlessFormHost : public FormHost,
   };
 
   void TellColorsChanged();
+  void TellMetricsChanged();
+  /// The frame of a form in twips of the usual text.
+  TwipsRect FrameOf(const FormState& form) const;
+  int DpiOf(const FormState& form) const;
+  /// The window's place with its size in twips of the usual text, as the work area counts them.
+  TwipsRect OnScreen(const HeadlessWindow& window) const;
+  /// The whole work area, in the twips of the window.
+  TwipsRect Maximized(const HeadlessWindow& window) const;
   void Place(HeadlessWindow& window, const TwipsRect& place);
   void WindowActivated(WindowHandle hwnd) override;
   void WindowStateChanged(WindowHandle hwnd, ShowState state) override;
@@ -168,6 +181,7 @@ class HeadlessFormHost : public FormHost,
   Twips menuHeight_ = 300;
   TwipsRect workArea_ = {0, 0, 15360, 11100};
   int dpi_ = 96;
+  int textPercent_ = 100;
   std::map<Color, Color> sysColors_ = {
       {kButtonFaceColor, 0xF0F0F0}, {kButtonTextColor, 0x000000}, {kWindowColor, 0xFFFFFF},
       {kWindowTextColor, 0x000000}, {kHighlightColor, 0xD77800},  {kHighlightTextColor, 0xFFFFFF}};

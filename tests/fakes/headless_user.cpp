@@ -83,7 +83,7 @@ void HeadlessUser::Drag(WindowHandle hwnd, const TwipsRect& place) {
   const TwipsRect taken = Limited(place, window.form->limits);
   window.place = taken;
   window.restored = taken;
-  host_->Desktop().SetPlace(hwnd, taken);
+  host_->Desktop().SetPlace(hwnd, host_->GetWindowRect(hwnd));
   host_->Tell(hwnd, [&](FormEvents& events) { events.OnPlaced(ShowState::kNormal, taken); });
 }
 

@@ -181,5 +181,18 @@ TEST_F(OpenOptionsLookTest, EveryControlStandsInsideWhatHoldsIt) {
   }
 }
 
+TEST_F(OptionsLookTest, WithTheBiggestTextItStaysOnASmallScreen) {
+  // 1366 by 728 pixels.
+  const TwipsRect screen{0, 0, 20490, 10920};
+  host_.SetWorkArea(screen);
+  host_.ChangeTextSize(225);
+  OpenDialog();
+  const TwipsRect place = host_.GetWindowRect(dialog_.Handle());
+  EXPECT_LE(place.width, screen.width);
+  EXPECT_LE(place.height, screen.height);
+  EXPECT_GT(place.width, dialog_.Place().width * 4 / 3);
+  EXPECT_EQ(host_.Window(dialog_.Handle()).WhyOutOfReach(Id(dialog_, "cmdOK")), "");
+}
+
 }  // namespace
 }  // namespace korvale

@@ -56,5 +56,35 @@ TEST_F(MainWindowFrameTest, AnotherDpiGivesItTheHeightOfTheOtherFrame) {
   EXPECT_EQ(korvale.user.Place(korvale.Handle(), Field(korvale)).height, 285);
 }
 
+TEST_F(MainWindowFrameTest, BiggerTextEnlargesItAndLeavesTheStoredSize) {
+  Store("Width", "6000");
+  KorvaleCopy& korvale = NewCopy();
+  StoreOption("SplashScreen", "False");
+  korvale.host.ChangeTextSize(150);
+  // Title bar and menu have grown as well.
+  korvale.host.SetFrame({45, 555, 90, 600}, 450);
+  EXPECT_TRUE(korvale.Start());
+  const auto on_screen = [&] { return korvale.host.GetWindowRect(korvale.Handle()); };
+  EXPECT_EQ(on_screen().width, 9000);
+  EXPECT_EQ(on_screen().height, 1650);
+  korvale.host.SetFrame({45, 355, 90, 400}, 300);
+  korvale.host.ChangeTextSize(100);
+  EXPECT_EQ(on_screen().width, 6000);
+  EXPECT_EQ(on_screen().height, 1100);
+  Choose(korvale, {"Help", "Display Tip Messages"});
+  EXPECT_EQ(Stored("Width"), "6000");
+  EXPECT_EQ(Stored("Height"), "1100");
+}
+
+TEST_F(MainWindowFrameTest, WithBiggerTextEveryPixelOfTheFrameCounts) {
+  KorvaleCopy& korvale = NewCopy();
+  StoreOption("SplashScreen", "False");
+  korvale.host.ChangeTextSize(200);
+  // A pixel higher than twice the classic frame.
+  korvale.host.SetFrame({60, 765, 120, 814}, 600);
+  EXPECT_TRUE(korvale.Start());
+  EXPECT_EQ(korvale.host.GetWindowRect(korvale.Handle()).height, 814 + 600 + 2 * (285 + 115));
+}
+
 }  // namespace
 }  // namespace korvale

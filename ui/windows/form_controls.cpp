@@ -5,22 +5,30 @@
 #include "platform/windows/text.h"
 #include "ui/windows/control_content.h"
 #include "ui/windows/control_window.h"
-#include "ui/windows/system_fonts.h"
 #include "ui/windows/window_classes.h"
 
 namespace korvale {
 namespace {
 
-/// Pixels that a combo box is higher than its text field, and its open list than the entries. The
-/// edges of Windows' controls are as thin at every scale.
-constexpr int kComboBorders = 6;
+int HeightOf(HWND window) {
+  RECT area{};
+  GetWindowRect(window, &area);
+  return area.bottom - area.top;
+}
 
-/// Gives a combo box the height of its text field; the window itself is as high as its open list.
+/// Gives a combo box its height, that of its text field and borders; the window is placed as high
+/// as with its open list.
 void PlaceCombo(HWND window, const PixelPlace& place) {
-  SendMessageW(window, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), place.height - kComboBorders);
+  constexpr int kUsualBorders = 6;
+  const auto makeField = [&](int borders) {
+    SendMessageW(window, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), place.height - borders);
+  };
+  makeField(kUsualBorders);
   const auto entry = static_cast<int>(SendMessageW(window, CB_GETITEMHEIGHT, 0, 0));
   MoveWindow(window, place.left, place.top, place.width,
-             place.height + entry * kDroppedEntries + kComboBorders, TRUE);
+             place.height + entry * kDroppedEntries + kUsualBorders, TRUE);
+  const int tooHigh = HeightOf(window) - place.height;
+  if (tooHigh != 0) makeField(kUsualBorders + tooHigh);
 }
 
 void ShowValue(HWND button, const ControlState& control) {
@@ -53,7 +61,7 @@ bool FormControls::CreateOne(const ControlState& control, const std::wstring& pa
 }
 
 void FormControls::MakeFont() {
-  UniqueFont font = MakeSystemFont(&NONCLIENTMETRICSW::lfMessageFont, Dpi());
+  UniqueFont font = scale_->MakeMessageFont();
   for (const HWND window : windows_) {
     if (window != nullptr) {
       SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(font.Get()), FALSE);
@@ -62,13 +70,30 @@ void FormControls::MakeFont() {
   font_ = std::move(font);
 }
 
-void FormControls::ChangeDpi() {
+void FormControls::Rescale() {
+  const bool outer = std::exchange(updating_, true);
   MakeFont();
-  toolTips_.ChangeDpi();
+  toolTips_.Rescale();
   for (const ControlState& control : form_->controls) {
-    if (Window(control.id) != nullptr) Apply(control, ControlProperty::kPlace);
+    if (Window(control.id) != nullptr) PlaceAgain(control);
   }
   InvalidateRect(formWindow_, nullptr, TRUE);
+  updating_ = outer;
+}
+
+void FormControls::PlaceAgain(const ControlState& control) {
+  // A combo box that is resized selects all its text.
+  if (control.kind != ControlKind::kComboBox) return ApplyPlace(control);
+  const HWND window = Window(control.id);
+  const TextSelection selection = ReadSelection(window, control.kind);
+  ApplyPlace(control);
+  ShowSelection(window, control.kind, selection);
+}
+
+void FormControls::TellSysColorChange() {
+  for (const HWND window : windows_) {
+    if (window != nullptr) SendMessageW(window, WM_SYSCOLORCHANGE, 0, 0);
+  }
 }
 
 void FormControls::Update(int control, ControlProperty property) {

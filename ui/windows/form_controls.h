@@ -7,6 +7,7 @@
 
 #include "platform/form_model.h"
 #include "platform/windows/handles.h"
+#include "ui/windows/form_scale.h"
 #include "ui/windows/tool_tips.h"
 #include "ui/windows/units.h"
 
@@ -15,7 +16,9 @@ namespace korvale {
 /// The windows of a form's controls, kept as the model has them.
 class FormControls {
  public:
-  FormControls(const FormState& form, HINSTANCE instance) : form_(&form), instance_(instance) {}
+  /// `scale` is the live scale of the form.
+  FormControls(const FormState& form, HINSTANCE instance, const FormScale& scale)
+      : form_(&form), instance_(instance), scale_(&scale), toolTips_(scale) {}
 
   /// Makes the controls in the order of the model; `pageClass` is the window class of pages.
   /// False when Windows refused one of them.
@@ -24,8 +27,10 @@ class FormControls {
   void Drop() { toolTips_.Drop(); }
   /// Shows what has changed in the model.
   void Update(int control, ControlProperty property);
-  /// The form is on a screen with other dots per inch.
-  void ChangeDpi();
+  /// The scale of the form has changed.
+  void Rescale();
+  /// Common controls learn only from their form that the system's colours have changed.
+  void TellSysColorChange();
 
   /// The window of a control; null for a control without one.
   HWND Window(int control) const;
@@ -40,7 +45,8 @@ class FormControls {
   ToolTips& Tips() { return toolTips_; }
 
  private:
-  UINT Dpi() const { return GetDpiForWindow(formWindow_); }
+  UINT Dpi() const { return scale_->Dpi(); }
+  void PlaceAgain(const ControlState& control);
   void MakeFont();
   bool CreateOne(const ControlState& control, const std::wstring& pageClass);
   void Apply(const ControlState& control, ControlProperty property);
@@ -53,6 +59,7 @@ class FormControls {
 
   const FormState* form_;
   HINSTANCE instance_;
+  const FormScale* scale_;
   HWND formWindow_ = nullptr;
   std::vector<HWND> windows_;
   std::vector<UniqueIcon> icons_;

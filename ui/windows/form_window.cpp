@@ -9,27 +9,6 @@
 
 namespace korvale {
 
-DWORD FormStyle(const FormState& form) {
-  if (form.border == BorderStyle::kNone) return WS_POPUP;
-  DWORD style = WS_CAPTION | WS_SYSMENU;
-  // When a pop-up window that was in front goes, Windows brings its owner forward.
-  if (!form.inTaskbar) style |= WS_POPUP;
-  if (form.border == BorderStyle::kSizable) style |= WS_THICKFRAME;
-  if (form.minimizeBox) style |= WS_MINIMIZEBOX;
-  if (form.maximizeBox) style |= WS_MAXIMIZEBOX;
-  if (form.modalFrame) style |= DS_MODALFRAME;
-  return style;
-}
-
-DWORD FormExStyle(const FormState& form) {
-  DWORD style = WS_EX_CONTROLPARENT;
-  if (form.modalFrame) style |= WS_EX_DLGMODALFRAME;
-  // An owned window has a place in the taskbar only when it asks for one.
-  if (form.inTaskbar) style |= WS_EX_APPWINDOW;
-  if (form.aside) style |= WS_EX_NOACTIVATE | WS_EX_TOPMOST;
-  return style;
-}
-
 namespace {
 
 /// The number of a control or timer; 0 for what cannot be one.
@@ -54,7 +33,8 @@ FormWindow::FormWindow(const FormState& form, WindowClasses& classes, BrushCache
       classes_(&classes),
       brushes_(&brushes),
       pointer_(&pointer),
-      controls_(form, classes.Instance()),
+      scale_(form, nullptr),
+      controls_(form, classes.Instance(), scale_),
       menu_(form) {}
 
 FormWindow::~FormWindow() { Destroy(); }
@@ -62,11 +42,13 @@ FormWindow::~FormWindow() { Destroy(); }
 HWND FormWindow::Create(HWND owner, FormEvents& events) {
   const std::wstring className = classes_->Register(form_->name, FormProcedure);
   const std::wstring pageClass = classes_->Register("Page", PageProcedure);
-  const PixelPlace place = ToScreenPixels(form_->place, GetDpiForSystem());
+  const PixelPlace place = ToScreenPixels(form_->place, scale_.Dpi());
   hwnd_ = ::CreateWindowExW(FormExStyle(*form_), className.c_str(), ToUtf16(form_->caption).c_str(),
                             FormStyle(*form_), place.left, place.top, place.width, place.height,
                             owner, nullptr, classes_->Instance(), this);
   if (hwnd_ == nullptr) return nullptr;
+  scale_ = FormScale(*form_, hwnd_);
+  ShowIcons();
   // Underlines of access keys and focus frames appear once the keyboard is used.
   SendMessageW(hwnd_, WM_CHANGEUISTATE, MAKEWPARAM(UIS_INITIALIZE, 0), 0);
   if (!controls_.Create(hwnd_, pageClass)) {
@@ -193,23 +175,6 @@ LRESULT FormWindow::Process(UINT message, WPARAM wParam, LPARAM lParam) {
   return result;
 }
 
-void FormWindow::HandleLook(UINT message, WPARAM wParam, LPARAM lParam) {
-  switch (message) {
-    case WM_DPICHANGED:
-      OnDpiChanged(LOWORD(wParam), lParam);
-      break;
-    case WM_SETTINGCHANGE:
-      if (wParam == SPI_SETNONCLIENTMETRICS) OnMetricsChanged();
-      if (wParam == SPI_SETHIGHCONTRAST) OnColorsChanged();
-      break;
-    case WM_SYSCOLORCHANGE:
-      OnColorsChanged();
-      break;
-    default:
-      break;
-  }
-}
-
 std::optional<LRESULT> FormWindow::HandleEnd(UINT message, WPARAM wParam) {
   switch (message) {
     case WM_CLOSE:
@@ -265,12 +230,6 @@ std::optional<LRESULT> FormWindow::HandleMouse(UINT message, WPARAM wParam, LPAR
     TellMouse(0, hwnd_, message, wParam, lParam);
   }
   return std::nullopt;
-}
-
-void FormWindow::OnColorsChanged() {
-  brushes_->Clear();
-  RedrawWindow(hwnd_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
-  events_.Tell([](FormEvents& events) { events.OnSysColorChange(); });
 }
 
 }  // namespace korvale

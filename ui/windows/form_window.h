@@ -11,6 +11,7 @@
 #include "ui/windows/event_sink.h"
 #include "ui/windows/form_controls.h"
 #include "ui/windows/form_menu.h"
+#include "ui/windows/form_scale.h"
 #include "ui/windows/key_filter.h"
 #include "ui/windows/window_classes.h"
 
@@ -34,6 +35,7 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   HWND Handle() const { return hwnd_; }
   const FormState& Model() const { return *form_; }
   FormControls& Controls() { return controls_; }
+  const FormScale& Scale() const { return scale_; }
 
   void ShowCaption();
   void ShowPlace();
@@ -79,6 +81,14 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   void TellPlaced();
   void LimitSize(MINMAXINFO& limits) const;
   void KeepHeight(WPARAM edge, RECT& place) const;
+  /// The icons of title bar and taskbar in the size that goes with the monitor.
+  void ShowIcons();
+  /// Gives the controls the sizes and fonts that are right now; false when they have them.
+  bool Rescale();
+  /// The window keeps its size in twips, which was another one in pixels.
+  void Resize(UINT formerDpi);
+  /// Resizes what a minimized or maximized window will be restored to.
+  void ResizeRestored(UINT formerDpi);
   void OnDpiChanged(UINT dpi, LPARAM wanted);
   void OnMetricsChanged();
   void OnColorsChanged();
@@ -89,9 +99,12 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   BrushCache* brushes_;
   const MousePointer* pointer_;
   EventSink events_;
+  FormScale scale_;
   FormControls controls_;
   FormMenu menu_;
   std::optional<KeyFilter> keys_;
+  UniqueIcon largeIcon_;
+  UniqueIcon smallIcon_;
   HWND hwnd_ = nullptr;
   POINT lastMouse_{};         // The last reported place of the mouse, on the screen.
   bool placing_ = false;      // The window is being placed by the model.
@@ -100,9 +113,5 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   bool menuOpen_ = false;     // The user is in the menus.
   bool barOutdated_ = false;  // The menu bar changed meanwhile.
 };
-
-/// The style bits and extended style bits of the form's window.
-DWORD FormStyle(const FormState& form);
-DWORD FormExStyle(const FormState& form);
 
 }  // namespace korvale

@@ -217,9 +217,8 @@ void FormWindow::TellMouse(int control, HWND window, UINT message, WPARAM wParam
   lastMouse_ = onScreen;
   const HWND target = control == 0 ? hwnd_ : controls_.Window(control);
   MapWindowPoints(window, target, &at, 1);
-  const UINT dpi = GetDpiForWindow(hwnd_);
-  input.x = ToTwips(at.x, dpi);
-  input.y = ToTwips(at.y, dpi);
+  input.x = ToTwips(at.x, scale_.Dpi());
+  input.y = ToTwips(at.y, scale_.Dpi());
   input.shift = HeldShiftState();
   events_.Tell([&](FormEvents& events) { events.OnMouse(control, input); });
 }

@@ -5,11 +5,19 @@
 namespace korvale {
 
 void FormWindow::ShowPlace() {
-  const PixelPlace place = ToScreenPixels(form_->place, GetDpiForWindow(hwnd_));
+  const auto move = [this] {
+    const PixelPlace place = ToScreenPixels(form_->place, scale_.Dpi());
+    ::MoveWindow(hwnd_, place.left, place.top, place.width, place.height, TRUE);
+  };
   placing_ = true;
-  ::MoveWindow(hwnd_, place.left, place.top, place.width, place.height, TRUE);
+  Rescale();
+  move();
+  // It may have come to a monitor with more or less room.
+  const bool other = Rescale();
+  if (other) move();
   placing_ = false;
   TellPlaced();
+  if (other) events_.Tell([](FormEvents& events) { events.OnDpiChanged(); });
 }
 
 void FormWindow::TellPlaced() {
@@ -21,7 +29,7 @@ void FormWindow::TellPlaced() {
   // Where the pixels match the model's place, that is reported, free of rounding errors.
   TwipsRect place = form_->place;
   if (state != ShowState::kMinimized) {
-    const UINT dpi = GetDpiForWindow(hwnd_);
+    const UINT dpi = scale_.Dpi();
     RECT rect{};
     GetWindowRect(hwnd_, &rect);
     const PixelPlace actual = {rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top};
@@ -32,7 +40,7 @@ void FormWindow::TellPlaced() {
 
 void FormWindow::LimitSize(MINMAXINFO& limits) const {
   // The form itself decides how small it may be.
-  const UINT dpi = GetDpiForWindow(hwnd_);
+  const UINT dpi = scale_.Dpi();
   limits.ptMinTrackSize = {ToPixels(form_->limits.minimumWidth, dpi), 0};
   if (form_->limits.height == 0) return;
   const LONG height = ToPixels(form_->limits.height, dpi);
@@ -43,28 +51,13 @@ void FormWindow::LimitSize(MINMAXINFO& limits) const {
 
 void FormWindow::KeepHeight(WPARAM edge, RECT& place) const {
   if (form_->limits.height == 0) return;
-  const LONG height = ToPixels(form_->limits.height, GetDpiForWindow(hwnd_));
+  const LONG height = ToPixels(form_->limits.height, scale_.Dpi());
   // The model allows only one height; the edge that is not dragged stays where it is.
   if (edge == WMSZ_TOP || edge == WMSZ_TOPLEFT || edge == WMSZ_TOPRIGHT) {
     place.top = place.bottom - height;
   } else {
     place.bottom = place.top + height;
   }
-}
-
-void FormWindow::OnDpiChanged(UINT dpi, LPARAM wanted) {
-  RECT place{};
-  const bool forged = IsSentByOthers() && dpi != GetDpiForWindow(hwnd_);
-  if (forged || !ReadParameter(wanted, place)) return;
-  controls_.ChangeDpi();
-  SetWindowPos(hwnd_, nullptr, place.left, place.top, place.right - place.left,
-               place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
-  events_.Tell([](FormEvents& events) { events.OnDpiChanged(); });
-}
-
-void FormWindow::OnMetricsChanged() {
-  controls_.ChangeDpi();
-  events_.Tell([](FormEvents& events) { events.OnDpiChanged(); });
 }
 
 }  // namespace korvale

@@ -2,11 +2,11 @@
 
 namespace korvale {
 
-UniqueFont MakeSystemFont(LOGFONTW NONCLIENTMETRICSW::*part, UINT dpi) {
+NONCLIENTMETRICSW SystemMetricsFor(UINT dpi) {
   NONCLIENTMETRICSW metrics{};
   metrics.cbSize = sizeof(metrics);
   SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof(metrics), &metrics, 0, dpi);
-  return UniqueFont(CreateFontIndirectW(&(metrics.*part)));
+  return metrics;
 }
 
 int TextWidth(HFONT font, const std::wstring& text) {

@@ -8,9 +8,9 @@
 
 namespace korvale {
 
-/// A font that the user has chosen for a part of all windows, at these dots per inch: `part` is
-/// lfMessageFont, lfMenuFont and so on (SystemParametersInfoForDpi).
-UniqueFont MakeSystemFont(LOGFONTW NONCLIENTMETRICSW::*part, UINT dpi);
+/// The sizes and fonts that the user has chosen for all windows, at these dots per inch
+/// (SystemParametersInfoForDpi).
+NONCLIENTMETRICSW SystemMetricsFor(UINT dpi);
 
 /// The width of a text in one line, in pixels (GetTextExtentPoint32).
 int TextWidth(HFONT font, const std::wstring& text);

@@ -32,11 +32,16 @@ void ToolTips::Create(HWND form, HINSTANCE instance) {
                                 CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, form, nullptr,
                                 instance, nullptr));
   SetWindowSubclass(window_.Get(), Guard, 0, reinterpret_cast<DWORD_PTR>(this));
-  ChangeDpi();
+  Rescale();
   Send(TTM_SETDELAYTIME, TTDT_AUTOPOP, kToolTipMilliseconds);
 }
 
-void ToolTips::ChangeDpi() { Send(TTM_SETMAXTIPWIDTH, 0, WidestToolTip(Dpi())); }
+void ToolTips::Rescale() {
+  UniqueFont font = scale_->MakeToolTipFont();
+  Send(WM_SETFONT, reinterpret_cast<WPARAM>(font.Get()), FALSE);
+  font_ = std::move(font);
+  Send(TTM_SETMAXTIPWIDTH, 0, WidestToolTip(Dpi()));
+}
 
 void ToolTips::Drop() {
   // Windows destroys it together with a form that Windows itself destroys.
@@ -84,8 +89,6 @@ void ToolTips::Relay(const MSG& message) {
   MSG copy = message;
   Send(TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&copy));
 }
-
-int ToolTips::Dpi() const { return static_cast<int>(GetDpiForWindow(form_)); }
 
 int ToolTips::WidthOf(const std::string& text) const {
   const auto font = reinterpret_cast<HFONT>(SendMessageW(window_.Get(), WM_GETFONT, 0, 0));

@@ -5,19 +5,21 @@
 #include <string>
 
 #include "platform/windows/handles.h"
+#include "ui/windows/form_scale.h"
 
 namespace korvale {
 
 /// The tool tips of a form.
 class ToolTips {
  public:
-  ToolTips() = default;
+  /// `scale` is the live scale of the form.
+  explicit ToolTips(const FormScale& scale) : scale_(&scale) {}
   ToolTips(const ToolTips&) = delete;
   ToolTips& operator=(const ToolTips&) = delete;
 
   void Create(HWND form, HINSTANCE instance);
-  /// The form's monitor has another number of dots per inch.
-  void ChangeDpi();
+  /// The scale of the form has changed.
+  void Rescale();
   /// The form's window is being destroyed.
   void Drop();
 
@@ -30,12 +32,14 @@ class ToolTips {
   static LRESULT CALLBACK Guard(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
                                 DWORD_PTR tips);
   void Send(UINT message, WPARAM wParam, LPARAM lParam);
-  int Dpi() const;
+  int Dpi() const { return static_cast<int>(scale_->Dpi()); }
   int WidthOf(const std::string& text) const;
   void Add(HWND window, UINT_PTR id, UINT flags, const RECT& area, const std::string& text);
   void Remove(HWND window, UINT_PTR id);
 
+  const FormScale* scale_;
   HWND form_ = nullptr;
+  UniqueFont font_;
   UniqueWindow window_;
   bool ours_ = false;  // The window is being told something by us.
 };

@@ -125,20 +125,20 @@ void WindowsFormHost::SetSelection(WindowHandle hwnd, int control, TextSelection
 }
 
 TwipsRect WindowsFormHost::AdjustWindowRectEx(const FormState& form) {
-  const BOOL menu = form.ShowsMenuBar() ? TRUE : FALSE;
-  UINT dpi = GetDpiForSystem();
+  HWND window = nullptr;
   int further = 0;
   for (const auto& [hwnd, other] : forms_->All()) {
     if (&other->Model() != &form) continue;
-    dpi = ::GetDpiForWindow(other->Handle());
-    const bool asWanted = (GetMenu(other->Handle()) != nullptr) == (menu != FALSE);
-    if (asWanted) further = FurtherMenuRows(other->Handle());
+    window = other->Handle();
+    const bool asWanted = (GetMenu(window) != nullptr) == form.ShowsMenuBar();
+    if (asWanted) further = FurtherMenuRows(window);
   }
-  RECT frame{};
-  AdjustWindowRectExForDpi(&frame, FormStyle(form), menu, FormExStyle(form), dpi);
+  const UINT dpi = window != nullptr ? ::GetDpiForWindow(window) : GetDpiForSystem();
+  RECT frame = FormFrame(form, dpi);
   frame.top -= further;
-  return {ToTwips(-frame.left, dpi), ToTwips(-frame.top, dpi),
-          ToTwips(frame.right - frame.left, dpi), ToTwips(frame.bottom - frame.top, dpi)};
+  const UINT scaled = FormScale(form, window).Dpi();
+  return {ToTwips(-frame.left, scaled), ToTwips(-frame.top, scaled),
+          ToTwips(frame.right - frame.left, scaled), ToTwips(frame.bottom - frame.top, scaled)};
 }
 
 }  // namespace korvale

@@ -5,6 +5,7 @@
 #include "platform/windows/handles.h"
 #include "platform/windows/text.h"
 #include "ui/windows/brush_cache.h"
+#include "ui/windows/form_window.h"
 #include "ui/windows/system_fonts.h"
 #include "ui/windows/units.h"
 
@@ -37,12 +38,13 @@ TwipsRect WindowsScreen::GetWindowRect(WindowHandle hwnd) {
 }
 
 int WindowsScreen::GetDpiForWindow(WindowHandle hwnd) {
-  return static_cast<int>(::GetDpiForWindow(ToHwnd(hwnd)));
+  const auto form = forms_->Find(hwnd);
+  return static_cast<int>(form != nullptr ? form->Scale().Dpi() : ::GetDpiForWindow(ToHwnd(hwnd)));
 }
 
 Twips WindowsScreen::GetTextExtentPoint32W(WindowHandle hwnd, const std::string& text) {
-  const UniqueFont font =
-      MakeSystemFont(&NONCLIENTMETRICSW::lfMenuFont, ::GetDpiForWindow(ToHwnd(hwnd)));
+  const NONCLIENTMETRICSW metrics = SystemMetricsFor(::GetDpiForWindow(ToHwnd(hwnd)));
+  const UniqueFont font(CreateFontIndirectW(&metrics.lfMenuFont));
   return ToTwips(TextWidth(font.Get(), ToUtf16(text)), GetDpiForSystem());
 }
 

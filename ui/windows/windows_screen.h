@@ -3,11 +3,14 @@
 #include <string>
 
 #include "platform/screen_queries.h"
+#include "ui/windows/open_forms.h"
 
 namespace korvale {
 
 class WindowsScreen : public ScreenQueries {
  public:
+  explicit WindowsScreen(const OpenForms& forms) : forms_(&forms) {}
+
   TwipsRect GetMonitorInfoW(WindowHandle hwnd) override;
   TwipsRect MonitorFromPoint() override;
   TwipsRect GetWindowRect(WindowHandle hwnd) override;
@@ -15,6 +18,9 @@ class WindowsScreen : public ScreenQueries {
   Twips GetTextExtentPoint32W(WindowHandle hwnd, const std::string& text) override;
   Color GetSysColor(Color color) override;
   bool HighContrast() override;
+
+ private:
+  const OpenForms* forms_;
 };
 
 }  // namespace korvale

@@ -13,6 +13,7 @@ namespace korvale {
 struct WindowsUi {
   explicit WindowsUi(HINSTANCE instance)
       : loop(forms),
+        screen(forms),
         dialogs(forms),
         input(instance, forms),
         host(instance, forms, input.Pointer()) {}

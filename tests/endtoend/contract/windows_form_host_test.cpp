@@ -28,6 +28,7 @@ struct TypedTexts final : FormEvents {
   void OnActivated() override {}
   void OnPlaced(ShowState, const TwipsRect&) override {}
   void OnDpiChanged() override {}
+  void OnMetricsChanged() override {}
   void OnSysColorChange() override {}
   void OnCloseRequested(CloseReason) override {}
   void OnTimer(int) override {}

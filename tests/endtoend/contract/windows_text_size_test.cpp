@@ -1,0 +1,188 @@
+#include <gtest/gtest.h>
+#include <windows.h>
+// After windows.h, which it needs.
+#include <commctrl.h>
+
+#include <algorithm>
+#include <vector>
+
+#include "tests/endtoend/contract/real_form.h"
+#include "tests/endtoend/harness/layout.h"
+#include "tests/endtoend/harness/text_size.h"
+
+namespace korvale {
+namespace {
+
+/// What real windows make of another size of text, and of messages that tell of one.
+class WindowsTextSizeTest : public RealForm {
+ protected:
+  /// Lets the windows handle what they have been told.
+  void Settle() { User().LetPass(100); }
+  void Change(int percent) {
+    size_.Change(percent);
+    Settle();
+  }
+  static SIZE SizeOf(HWND window) { return endtoend::SizeOf(endtoend::Window(window)); }
+  HWND Strip() const { return ToHwnd(strip_.Handle()); }
+
+  /// Where the form and its controls are on the screen.
+  std::vector<RECT> Places() {
+    std::vector<RECT> all;
+    for (const ControlState& control : form_.State().controls) {
+      RECT area{};
+      GetWindowRect(FindControl(Window(), control.id), &area);
+      all.push_back(area);
+    }
+    all.emplace_back();
+    GetWindowRect(Hwnd(), &all.back());
+    return all;
+  }
+  static bool AreEqual(const std::vector<RECT>& one, const std::vector<RECT>& other) {
+    return std::ranges::equal(one, other,
+                              [](const RECT& a, const RECT& b) { return EqualRect(&a, &b) != 0; });
+  }
+
+  endtoend::TextSize size_{100};
+};
+
+TEST_F(WindowsTextSizeTest, AnOpenFormFollowsTheTextThereAndBack) {
+  ShowForm();
+  const std::vector<RECT> before = Places();
+  Change(200);
+  EXPECT_EQ(endtoend::FlawOf(endtoend::Window(Hwnd()), 24), "");
+  // 3000 by 315 twips.
+  EXPECT_EQ(SizeOf(Control("txtName")).cx, 400);
+  EXPECT_EQ(SizeOf(Control("cboSize")).cy, SizeOf(Control("txtName")).cy);
+  Change(100);
+  EXPECT_TRUE(AreEqual(Places(), before));
+  EXPECT_EQ(form_.Place(), kContractDesign.place);
+}
+
+TEST_F(WindowsTextSizeTest, FocusAndSelectionStay) {
+  ShowForm();
+  class Control& place = form_.Find("cboPlace");
+  place.SetText("Elsewhere");
+  place.SetFocus();
+  Host().SetSelection(Window(), place.Id(), {2, 3});
+  form_.Take();
+  Change(150);
+  EXPECT_EQ(Focus(), "cboPlace");
+  const TextSelection selection = Host().GetSelection(Window(), place.Id());
+  EXPECT_EQ(selection.start, 2);
+  EXPECT_EQ(selection.length, 3);
+  EXPECT_EQ(Text("cboPlace"), "Elsewhere");
+  EXPECT_EQ(form_.Take(), Lines{});
+}
+
+TEST_F(WindowsTextSizeTest, ToolTipsGrowWithTheText) {
+  ShowForm();
+  HWND tips = nullptr;
+  do {
+    tips = FindWindowExW(nullptr, tips, TOOLTIPS_CLASSW, nullptr);
+  } while (tips != nullptr && GetWindow(tips, GW_OWNER) != Hwnd());
+  Change(150);
+  LOGFONTW font{};
+  GetObjectW(reinterpret_cast<HFONT>(SendMessageW(tips, WM_GETFONT, 0, 0)), sizeof(font), &font);
+  EXPECT_EQ(font.lfHeight, -18);
+  EXPECT_EQ(SendMessageW(tips, TTM_GETMAXTIPWIDTH, 0, 0), 600);
+}
+
+TEST_F(WindowsTextSizeTest, AFormThatTheUserSizesKeepsItsTwips) {
+  strip_.Show();
+  const TwipsRect place = strip_.Place();
+  for (const int percent : {225, 150, 100}) {
+    Change(percent);
+    EXPECT_EQ(SizeOf(Strip()).cx, 400 * percent / 100);
+    EXPECT_EQ(strip_.Place(), place);
+  }
+}
+
+TEST_F(WindowsTextSizeTest, AMinimizedFormIsRestoredToItsTwipsAndStaysInactive) {
+  strip_.Show();
+  const TwipsRect place = strip_.Place();
+  strip_.SetWindowState(ShowState::kMinimized);
+  Settle();
+  Change(200);
+  EXPECT_TRUE(IsIconic(Strip()));
+  strip_.SetWindowState(ShowState::kNormal);
+  Settle();
+  EXPECT_EQ(SizeOf(Strip()).cx, 800);
+  EXPECT_EQ(strip_.Place(), place);
+}
+
+TEST_F(WindowsTextSizeTest, AMaximizedFormStaysMaximizedAndIsRestoredToItsTwips) {
+  strip_.Show();
+  strip_.SetWindowState(ShowState::kMaximized);
+  Settle();
+  const SIZE before = SizeOf(Strip());
+  Change(200);
+  EXPECT_TRUE(IsZoomed(Strip()));
+  EXPECT_EQ(SizeOf(Strip()).cx, before.cx);
+  strip_.SetWindowState(ShowState::kNormal);
+  Settle();
+  EXPECT_EQ(SizeOf(Strip()).cx, 800);
+}
+
+TEST_F(WindowsTextSizeTest, AHiddenFormStaysHidden) {
+  strip_.Load();
+  Change(200);
+  EXPECT_FALSE(IsWindowVisible(Strip()));
+  strip_.Show();
+  EXPECT_EQ(SizeOf(Strip()).cx, 800);
+}
+
+TEST_F(WindowsTextSizeTest, NothingIsLeftBehind) {
+  ShowForm();
+  Change(150);
+  Change(100);
+  const DWORD before = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+  for (int times = 0; times < 10; ++times) {
+    size_.Change(150);
+    size_.Change(100);
+    SendMessageW(Hwnd(), WM_SYSCOLORCHANGE, 0, 0);
+  }
+  Settle();
+  EXPECT_LE(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), before + 2);
+}
+
+TEST_F(WindowsTextSizeTest, MessagesThatTellOfNothingNewChangeNothing) {
+  strip_.Show();
+  Settle();
+  const int resizes = strip_.resizes;
+  for (const LPARAM wild : {LPARAM{-1}, LPARAM{64}, LPARAM{0}}) {
+    for (const WPARAM what : {WPARAM{SPI_SETNONCLIENTMETRICS}, WPARAM{SPI_SETWORKAREA},
+                              WPARAM{SPI_SETICONMETRICS}, WPARAM{SPI_SETHIGHCONTRAST}}) {
+      PostMessageW(Strip(), WM_SETTINGCHANGE, what, wild);
+      PostMessageW(Strip(), WM_THEMECHANGED, what, wild);
+      PostMessageW(Strip(), WM_DISPLAYCHANGE, what, wild);
+    }
+  }
+  Settle();
+  EXPECT_EQ(strip_.resizes, resizes);
+}
+
+TEST_F(WindowsTextSizeTest, TheIconsOfTheMainFormGoWithItsMonitor) {
+  strip_.Show();
+  const UINT dpi = GetDpiForWindow(Strip());
+  const auto width = [&](WPARAM kind) {
+    ICONINFO icon{};
+    GetIconInfo(reinterpret_cast<HICON>(SendMessageW(Strip(), WM_GETICON, kind, 0)), &icon);
+    BITMAP bitmap{};
+    GetObjectW(icon.hbmMask, sizeof(bitmap), &bitmap);
+    DeleteObject(icon.hbmMask);
+    DeleteObject(icon.hbmColor);
+    return bitmap.bmWidth;
+  };
+  for (int times = 0; times < 2; ++times) {
+    EXPECT_EQ(width(ICON_BIG), GetSystemMetricsForDpi(SM_CXICON, dpi));
+    EXPECT_EQ(width(ICON_SMALL), GetSystemMetricsForDpi(SM_CXSMICON, dpi));
+    SendMessageW(Strip(), WM_SETICON, ICON_SMALL, 0);
+    SendMessageW(Strip(), WM_SETICON, ICON_BIG, 0);
+    RECT same{};
+    GetWindowRect(Strip(), &same);
+    SendMessageW(Strip(), WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&same));
+  }
+}
+
+}  // namespace
+}  // namespace korvale

@@ -1,0 +1,95 @@
+#include "tests/ui/form_test.h"
+
+namespace korvale {
+namespace {
+
+/// Forms of a user who has made all text bigger.
+class FormTextSizeTest : public FormTest {
+ protected:
+  /// On the screen, in twips of the usual text.
+  TwipsRect OnScreen(Form& form) { return host_.GetWindowRect(form.Handle()); }
+
+  /// 3000 by 1500 twips, 2910 by 1100 of them within the frame.
+  RecordingForm dialog_{DialogDesign("frmDialog"), forms_};
+};
+
+TEST_F(FormTextSizeTest, ADialogGrowsWithTheTextAndItsFrameDoesNot) {
+  host_.ChangeTextSize(200);
+  dialog_.Show();
+  EXPECT_EQ(OnScreen(dialog_), (TwipsRect{2100, 2100, 2 * 2910 + 90, 2 * 1100 + 400}));
+  EXPECT_EQ(dialog_.Place(), (TwipsRect{2100, 2100, 3000, 1500}));
+}
+
+TEST_F(FormTextSizeTest, AnOpenDialogFollowsTheTextThereAndBack) {
+  dialog_.Show();
+  const TwipsRect before = OnScreen(dialog_);
+  host_.ChangeTextSize(200);
+  EXPECT_EQ(OnScreen(dialog_), (TwipsRect{2100, 2100, 2 * 2910 + 90, 2 * 1100 + 400}));
+  host_.ChangeTextSize(100);
+  EXPECT_EQ(OnScreen(dialog_), before);
+  EXPECT_EQ(dialog_.Place(), (TwipsRect{2100, 2100, 3000, 1500}));
+}
+
+TEST_F(FormTextSizeTest, ADialogGrowsOnlyAsFarAsTheScreenHasRoom) {
+  host_.SetWorkArea({0, 0, 4500, 11100});
+  host_.ChangeTextSize(225);
+  dialog_.Show();
+  EXPECT_LE(OnScreen(dialog_).width, 4500);
+  EXPECT_GT(OnScreen(dialog_).width, 4400);
+  EXPECT_GT(OnScreen(dialog_).height, 1900);
+}
+
+TEST_F(FormTextSizeTest, AnOpenDialogThatGrowsStaysWithinTheWorkArea) {
+  dialog_.Show();
+  user_.Drag(dialog_.Handle(), {11900, 9000, 3000, 1500});
+  host_.ChangeTextSize(200);
+  EXPECT_EQ(OnScreen(dialog_), (TwipsRect{15360 - 5910, 11100 - 2600, 5910, 2600}));
+}
+
+TEST_F(FormTextSizeTest, ADialogBecomesSmallerWithTheWorkAreaAndComesBack) {
+  host_.ChangeTextSize(200);
+  dialog_.Show();
+  host_.ChangeWorkArea({0, 0, 4500, 11100});
+  EXPECT_LE(OnScreen(dialog_).width, 4500);
+  EXPECT_GE(OnScreen(dialog_).left, 0);
+  host_.ChangeWorkArea({0, 0, 15360, 11100});
+  EXPECT_EQ(OnScreen(dialog_).width, 5910);
+}
+
+TEST_F(FormTextSizeTest, AFormThatTheUserSizesKeepsItsTwipsAndGrowsBeyondNoRoom) {
+  RecordingForm strip(kStripDesign, forms_);
+  strip.Show();
+  user_.Drag(strip.Handle(), {300, 300, 9000, strip.Place().height});
+  const TwipsRect place = strip.Place();
+  for (const int percent : {225, 100, 150, 100}) {
+    host_.ChangeTextSize(percent);
+    EXPECT_EQ(strip.Place(), place);
+    EXPECT_EQ(OnScreen(strip).width, 9000 * percent / 100);
+  }
+}
+
+TEST_F(FormTextSizeTest, AMaximizedFormFillsTheScreenAtEverySize) {
+  RecordingForm strip(kStripDesign, forms_);
+  strip.Show();
+  const TwipsRect place = strip.Place();
+  strip.SetWindowState(ShowState::kMaximized);
+  host_.ChangeTextSize(200);
+  EXPECT_EQ(OnScreen(strip).width, 15360);
+  EXPECT_EQ(strip.State().place.width, 15360 / 2);
+  strip.SetWindowState(ShowState::kNormal);
+  EXPECT_EQ(strip.Place(), place);
+}
+
+TEST_F(FormTextSizeTest, TheFocusStaysAndNothingIsRaisedWhereNothingHasChanged) {
+  form_.Show();
+  Press(form_, win32::kVkTab);
+  const std::string focus = Focus(form_);
+  const int resizes = form_.resizes;
+  host_.ChangeTextSize(150);
+  EXPECT_EQ(Focus(form_), focus);
+  host_.ChangeTextSize(150);
+  EXPECT_LE(form_.resizes, resizes + 2);
+}
+
+}  // namespace
+}  // namespace korvale

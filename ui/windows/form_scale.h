@@ -1,0 +1,42 @@
+#pragma once
+
+#include <windows.h>
+
+#include "platform/form_model.h"
+#include "platform/windows/handles.h"
+
+namespace korvale {
+
+/// How large a form is shown on its monitor.
+class FormScale {
+ public:
+  /// Nothing known yet.
+  FormScale() = default;
+  /// As the user has it now; `window` is null for a form that has none yet.
+  FormScale(const FormState& form, HWND window);
+
+  /// The dots per inch of places and sizes.
+  UINT Dpi() const { return dpi_; }
+  /// The font of messages and of tool tips, no larger than goes with Dpi().
+  UniqueFont MakeMessageFont() const { return MakeFont(metrics_.lfMessageFont); }
+  UniqueFont MakeToolTipFont() const { return MakeFont(metrics_.lfStatusFont); }
+
+  /// Nothing that the looks of a form depend on differs.
+  friend bool operator==(const FormScale& one, const FormScale& other);
+
+ private:
+  UniqueFont MakeFont(LOGFONTW font) const;
+
+  NONCLIENTMETRICSW metrics_{};
+  UINT dpi_ = USER_DEFAULT_SCREEN_DPI;
+};
+
+/// The style bits and extended style bits of the form's window.
+DWORD FormStyle(const FormState& form);
+DWORD FormExStyle(const FormState& form);
+
+/// What the frame of a form, and one row of its menu bar, add to each side of its client area, in
+/// pixels (AdjustWindowRectExForDpi).
+RECT FormFrame(const FormState& form, UINT dpi);
+
+}  // namespace korvale
