@@ -35,7 +35,7 @@ MainParts::MainParts(Platform& platform, FormCollection& forms, MainWindow& main
       hotKeys(platform.hotKeys, options, mainWindow),
       toggle(hotKeys, options, hotKeyActions),
       dispatch(desktop, suspension, hotKeyActions, toggle, errors),
-      hook(platform.hotKeys, platform.dialogs, mainWindow, hotKeys, dispatch,
+      hook(platform.hotKeys, platform.dialogs, mainWindow, hotKeys, dispatch, hotKeyActions,
            [&forms] { forms.ReportUncaught(); }) {}
 
 }  // namespace korvale

@@ -60,9 +60,26 @@ void HotKeyTable::AddHotKey(std::string_view name, std::int16_t modifiers, std::
     return other.modifiers == modifiers && other.key == key;
   });
   registered_.push_back({std::string(name), modifiers, key, false, chosenBefore});
-  registered_.back().accepted = hotKeys_->RegisterHotKey(mainWindow_->MainHandle(), hotKeyCount_,
-                                                         static_cast<std::uint32_t>(modifiers),
-                                                         static_cast<std::uint32_t>(key));
+  registered_.back().accepted = Register(count);
+}
+
+bool HotKeyTable::Register(std::size_t identifier) {
+  const RegisteredHotKey& hotKey = registered_[identifier - 1];
+  return hotKeys_->RegisterHotKey(mainWindow_->MainHandle(), static_cast<int>(identifier),
+                                  static_cast<std::uint32_t>(hotKey.modifiers),
+                                  static_cast<std::uint32_t>(hotKey.key));
+}
+
+bool HotKeyTable::RetryRefused() {
+  bool changed = false;
+  for (std::size_t identifier = 1; identifier <= registered_.size(); ++identifier) {
+    RegisteredHotKey& hotKey = registered_[identifier - 1];
+    if (hotKey.accepted || hotKey.chosenBefore || !Register(identifier)) continue;
+    hotKey.accepted = changed = true;
+    const auto same = std::ranges::find(lastSet_, hotKey.name, &RegisteredHotKey::name);
+    if (same != lastSet_.end()) same->accepted = true;
+  }
+  return changed;
 }
 
 void HotKeyTable::Remove() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -41,6 +42,10 @@ class HotKeyTable {
   /// The same for the hot key that the options give an operation; does nothing when they give none.
   void AddOperation(const OperationRow& operation);
 
+  /// Registers each refused hot key again under its identifier, in case its combination is free
+  /// now; touches no other. True when one was accepted.
+  bool RetryRefused();
+
   /// True when the parameters of a WM_HOTKEY are those of a hot key of the last registration: its
   /// identifier, and the modifiers (low word) and key (high word) that it was registered with.
   bool IsPress(std::uintptr_t wParam, std::intptr_t lParam) const;
@@ -56,7 +61,7 @@ class HotKeyTable {
   bool HotKeysActive() const { return hotKeysActive_; }
   void SetHotKeysActive(bool active) { hotKeysActive_ = active; }
 
-  /// What the last registration asked for and what became of it.
+  /// What the last registration asked for and what has become of it.
   const std::vector<RegisteredHotKey>& Registered() const { return registered_; }
   /// The same for the last time that all enabled hot keys were registered ("SET"); kept while they
   /// are switched off.
@@ -65,6 +70,7 @@ class HotKeyTable {
  private:
   void Set();
   void Remove();
+  bool Register(std::size_t identifier);
 
   HotKeyApi* hotKeys_;
   const OptionsHolder* options_;

@@ -7,23 +7,46 @@
 #include "platform/win32_constants.h"
 
 namespace korvale {
+namespace {
+
+/// Whether a message says that the user is back at this desktop. Other programs have lost or given
+/// up hot keys meanwhile, as they do when the computer sleeps or the session is locked.
+bool IsReturn(std::uint32_t message, std::uintptr_t event) {
+  switch (message) {
+    case win32::kWmPowerBroadcast:
+      return event == win32::kPbtApmResumeAutomatic || event == win32::kPbtApmResumeSuspend;
+    case win32::kWmWtsSessionChange:
+      return event == win32::kWtsConsoleConnect || event == win32::kWtsRemoteConnect ||
+             event == win32::kWtsSessionUnlock;
+    default:
+      return false;
+  }
+}
+
+}  // namespace
 
 WindowProcHook::WindowProcHook(HotKeyApi& hotKeys, SystemDialogs& dialogs,
-                               const MainWindow& mainWindow, const HotKeyTable& table,
-                               HotKeyProcessor& processor, std::function<void()> reportUncaught)
+                               const MainWindow& mainWindow, HotKeyTable& table,
+                               HotKeyProcessor& processor, HotKeyActions& actions,
+                               std::function<void()> reportUncaught)
     : hotKeys_(&hotKeys),
       dialogs_(&dialogs),
       mainWindow_(&mainWindow),
       table_(&table),
       processor_(&processor),
+      actions_(&actions),
       reportUncaught_(std::move(reportUncaught)) {}
 
 void WindowProcHook::HookWindowProc(std::string_view mode, WindowHandle hWnd) {
   if (mode == "SET") {
     // A second hook would find itself as the previous procedure and call itself for ever.
-    if (prevWindowProc_ == 0) prevWindowProc_ = hotKeys_->SetWindowLongPtrA(hWnd, *this);
+    if (prevWindowProc_ != 0) return;
+    prevWindowProc_ = hotKeys_->SetWindowLongPtrA(hWnd, *this);
+    hotKeys_->WTSRegisterSessionNotification(hWnd);
   } else if (mode == "REMOVE") {
-    if (prevWindowProc_ != 0) hotKeys_->SetWindowLongPtrA(hWnd, prevWindowProc_);
+    if (prevWindowProc_ == 0) return;
+    hotKeys_->WTSUnRegisterSessionNotification(hWnd);
+    hotKeys_->SetWindowLongPtrA(hWnd, prevWindowProc_);
     prevWindowProc_ = 0;
   }
 }
@@ -32,7 +55,10 @@ std::intptr_t WindowProcHook::HotKeyWindowProc(WindowHandle hWnd, std::uint32_t 
                                                std::uintptr_t wParam, std::intptr_t lParam) {
   // A hot key may end the program, which removes the hook.
   const PreviousProcedure previous = prevWindowProc_;
-  if (uMsg == win32::kWmHotKey && hWnd == mainWindow_->MainHandle()) Dispatch(wParam, lParam);
+  if (hWnd == mainWindow_->MainHandle()) {
+    if (uMsg == win32::kWmHotKey) Dispatch(wParam, lParam);
+    if (IsReturn(uMsg, wParam)) RetryRefused();
+  }
   return hotKeys_->CallWindowProcA(previous, hWnd, uMsg, wParam, lParam);
 }
 
@@ -47,6 +73,14 @@ void WindowProcHook::Dispatch(std::uintptr_t identifier, std::intptr_t lParam) {
     } else {
       processor_->udmProcessHotKey(name, true, false, "");
     }
+  } catch (...) {
+    reportUncaught_();
+  }
+}
+
+void WindowProcHook::RetryRefused() {
+  try {
+    if (table_->RetryRefused()) actions_->HotKeysRegistered();
   } catch (...) {
     reportUncaught_();
   }

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "desktop/main_window.h"
+#include "hotkeys/hot_key_actions.h"
 #include "hotkeys/hot_key_processor.h"
 #include "hotkeys/hot_key_table.h"
 #include "platform/hot_key_api.h"
@@ -17,17 +18,20 @@ class WindowProcHook : public WindowProcedure {
  public:
   /// `reportUncaught` is called inside a catch block and must not throw.
   WindowProcHook(HotKeyApi& hotKeys, SystemDialogs& dialogs, const MainWindow& mainWindow,
-                 const HotKeyTable& table, HotKeyProcessor& processor,
+                 HotKeyTable& table, HotKeyProcessor& processor, HotKeyActions& actions,
                  std::function<void()> reportUncaught);
 
   /// "SET" installs the hot-key window procedure on the main window, "REMOVE" puts the former one
-  /// back (SetWindowLongPtrA). Any other mode does nothing, nor does a second "SET" in a row or a
+  /// back (SetWindowLongPtrA), and the window hears of its session (WTSRegisterSessionNotification)
+  /// meanwhile. Any other mode does nothing, nor does a second "SET" in a row or a
   /// "REMOVE" without "SET".
   void HookWindowProc(std::string_view mode, WindowHandle hWnd);
 
-  /// Hands a WM_HOTKEY of the main window to the processor, then passes every message on
-  /// (CallWindowProcA), even when that failed. One that arrives while a menu is open closes the
-  /// menu and is posted again, with those behind it, to be carried out once the menu is gone.
+  /// Hands a WM_HOTKEY of the main window to the processor; when the user is back after sleep, a
+  /// locked session or another connection, has refused hot keys registered again. Passes every
+  /// message on then (CallWindowProcA), even when that failed. A WM_HOTKEY that arrives while a
+  /// menu is open closes the menu and is posted again, with those behind it, to be carried out once
+  /// the menu is gone.
   std::intptr_t HotKeyWindowProc(WindowHandle hWnd, std::uint32_t uMsg, std::uintptr_t wParam,
                                  std::intptr_t lParam);
 
@@ -37,13 +41,15 @@ class WindowProcHook : public WindowProcedure {
 
  private:
   void Dispatch(std::uintptr_t identifier, std::intptr_t lParam);
+  void RetryRefused();
   void Postpone(const QueuedMessage& hotKey);
 
   HotKeyApi* hotKeys_;
   SystemDialogs* dialogs_;
   const MainWindow* mainWindow_;
-  const HotKeyTable* table_;
+  HotKeyTable* table_;
   HotKeyProcessor* processor_;
+  HotKeyActions* actions_;
   std::function<void()> reportUncaught_;
   PreviousProcedure prevWindowProc_ = 0;
 };

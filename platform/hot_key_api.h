@@ -44,6 +44,12 @@ class HotKeyApi {
   /// False when no hot key of this id belongs to the window.
   virtual bool UnregisterHotKey(WindowHandle hwnd, int id) = 0;
 
+  /// From now on the window hears of changes of its session (WM_WTSSESSION_CHANGE), as when the
+  /// user unlocks it; false when this Windows tells nobody. To be taken back before the window
+  /// goes.
+  virtual bool WTSRegisterSessionNotification(WindowHandle hwnd) = 0;
+  virtual void WTSUnRegisterSessionNotification(WindowHandle hwnd) = 0;
+
   /// Takes the oldest message of this kind out of the window's queue; nothing when there is none
   /// (PeekMessageW with PM_REMOVE).
   virtual std::optional<QueuedMessage> PeekMessageW(WindowHandle hwnd, std::uint32_t message) = 0;

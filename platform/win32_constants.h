@@ -56,6 +56,13 @@ inline constexpr std::uint32_t kModWin = 8;
 
 // Messages
 inline constexpr std::uint32_t kWmNull = 0x0000;
+inline constexpr std::uint32_t kWmPowerBroadcast = 0x0218;
+inline constexpr std::uint32_t kPbtApmResumeSuspend = 0x0007;
+inline constexpr std::uint32_t kPbtApmResumeAutomatic = 0x0012;
+inline constexpr std::uint32_t kWmWtsSessionChange = 0x02B1;
+inline constexpr std::uint32_t kWtsConsoleConnect = 1;
+inline constexpr std::uint32_t kWtsRemoteConnect = 3;
+inline constexpr std::uint32_t kWtsSessionUnlock = 8;
 inline constexpr std::uint32_t kWmHotKey = 0x0312;
 
 // MessageBox

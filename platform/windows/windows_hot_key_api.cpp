@@ -1,6 +1,8 @@
 #include "platform/windows/windows_hot_key_api.h"
 
 #include <windows.h>
+// After windows.h, which it needs.
+#include <wtsapi32.h>
 
 #include "platform/windows/handles.h"
 
@@ -57,6 +59,18 @@ bool WindowsHotKeyApi::RegisterHotKey(WindowHandle hwnd, int id, std::uint32_t m
 
 bool WindowsHotKeyApi::UnregisterHotKey(WindowHandle hwnd, int id) {
   return ::UnregisterHotKey(ToHwnd(hwnd), id) != FALSE;
+}
+
+bool WindowsHotKeyApi::WTSRegisterSessionNotification(WindowHandle hwnd) {
+  auto* const start =
+      sessions_.Find<decltype(::WTSRegisterSessionNotification)>("WTSRegisterSessionNotification");
+  return start != nullptr && start(ToHwnd(hwnd), NOTIFY_FOR_THIS_SESSION) != FALSE;
+}
+
+void WindowsHotKeyApi::WTSUnRegisterSessionNotification(WindowHandle hwnd) {
+  auto* const stop = sessions_.Find<decltype(::WTSUnRegisterSessionNotification)>(
+      "WTSUnRegisterSessionNotification");
+  if (stop != nullptr) stop(ToHwnd(hwnd));
 }
 
 std::optional<QueuedMessage> WindowsHotKeyApi::PeekMessageW(WindowHandle hwnd,

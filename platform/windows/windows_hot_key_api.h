@@ -4,11 +4,12 @@
 #include <memory>
 
 #include "platform/hot_key_api.h"
+#include "platform/windows/system_library.h"
 
 namespace korvale {
 
-/// Hot keys and the window procedure in front of a window through user32. A window has one such
-/// procedure at a time; a second one replaces the first.
+/// Hot keys and the window procedure in front of a window through user32, the session through
+/// wtsapi32. A window has one such procedure at a time; a second one replaces the first.
 class WindowsHotKeyApi final : public HotKeyApi {
  public:
   WindowsHotKeyApi();
@@ -17,6 +18,8 @@ class WindowsHotKeyApi final : public HotKeyApi {
   bool RegisterHotKey(WindowHandle hwnd, int id, std::uint32_t modifiers,
                       std::uint32_t key) override;
   bool UnregisterHotKey(WindowHandle hwnd, int id) override;
+  bool WTSRegisterSessionNotification(WindowHandle hwnd) override;
+  void WTSUnRegisterSessionNotification(WindowHandle hwnd) override;
   std::optional<QueuedMessage> PeekMessageW(WindowHandle hwnd, std::uint32_t message) override;
   PreviousProcedure SetWindowLongPtrA(WindowHandle hwnd, WindowProcedure& procedure) override;
   void SetWindowLongPtrA(WindowHandle hwnd, PreviousProcedure previous) override;
@@ -30,6 +33,7 @@ class WindowsHotKeyApi final : public HotKeyApi {
 
  private:
   std::map<WindowHandle, std::shared_ptr<Hook>> hooks_;
+  SystemLibrary sessions_{L"wtsapi32.dll"};
 };
 
 }  // namespace korvale

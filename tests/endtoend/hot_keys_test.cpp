@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <optional>
 #include <stdexcept>
 
 #include "tests/endtoend/korvale_test.h"
@@ -63,6 +64,40 @@ TEST_F(HotKeys, OfDisabledTagsAreLeftToOthersAndTheRestStillSelectTheirWindows) 
   EXPECT_TRUE(InFront(two));
   Press(TagKey(4));
   EXPECT_TRUE(InFront(four));
+}
+
+TEST_F(HotKeys, ThatWereTakenWorkOnceTheComputerWakesUpAndTheyAreFree) {
+  installation_.StoreTag(1, "Alpha", kClass);
+  installation_.settings().Set("Startup", "DisplayTips", "False");
+  auto holder = std::make_optional<TestProgram>();
+  ASSERT_TRUE(holder->TakeHotKey(TagKey(1)));
+  Start();
+  const Window alpha = Open("Alpha");
+  const Window beta = Open("Beta");
+  ASSERT_TRUE(WorkIn(beta));
+  holder.reset();
+  ASSERT_TRUE(WaitFor([] { return HotKeyIsFree(TagKey(1)); }));
+  Press(TagKey(1));
+  EXPECT_TRUE(StaysInFront(beta));
+
+  PostMessageW(main().handle(), WM_POWERBROADCAST, PBT_APMRESUMEAUTOMATIC, 0);
+
+  EXPECT_TRUE(WaitFor([] { return !HotKeyIsFree(TagKey(1)); }));
+  Press(TagKey(1));
+  EXPECT_TRUE(InFront(alpha));
+}
+
+TEST_F(HotKeys, AreNotDisturbedByTenThousandClaimsThatTheSessionWasUnlocked) {
+  installation_.StoreTag(1, "Alpha", kClass);
+  Start();
+  const Window alpha = Open("Alpha");
+  ASSERT_TRUE(WorkIn(Open("Beta")));
+  for (int count = 0; count < 10'000; ++count) {
+    PostMessageW(main().handle(), WM_WTSSESSION_CHANGE, WTS_SESSION_UNLOCK, -1);
+  }
+  Press(TagKey(1));
+  EXPECT_TRUE(InFront(alpha));
+  EXPECT_TRUE(StaysInFront(alpha));
 }
 
 TEST_F(HotKeys, WithoutAKeyAreNotTaken) {

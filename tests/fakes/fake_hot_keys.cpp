@@ -69,10 +69,23 @@ void FakeHotKeys::ReleaseForeign(std::uint32_t modifiers, std::uint32_t key) {
   std::erase(foreign_, std::pair(modifiers, key));
 }
 
+void FakeHotKeys::EndSleep() {
+  const auto windows = current_;
+  for (const std::uint32_t event : {win32::kPbtApmResumeAutomatic, win32::kPbtApmResumeSuspend}) {
+    for (const auto& [hwnd, procedure] : windows) Deliver(hwnd, win32::kWmPowerBroadcast, event);
+  }
+}
+
+void FakeHotKeys::ChangeSession(std::uintptr_t event) {
+  const auto windows = sessionWatchers_;
+  for (const WindowHandle hwnd : windows) Deliver(hwnd, win32::kWmWtsSessionChange, event, 1);
+}
+
 void FakeHotKeys::ForgetWindow(WindowHandle hwnd) {
   std::erase_if(registered_,
                 [&](const Registration& registration) { return registration.hwnd == hwnd; });
   current_.erase(hwnd);
+  sessionWatchers_.erase(hwnd);
   std::erase_if(queue_, [&](const Queued& message) { return message.hwnd == hwnd; });
 }
 
@@ -94,6 +107,19 @@ bool FakeHotKeys::UnregisterHotKey(WindowHandle hwnd, int id) {
   if (latest == registered_.rend()) return false;
   registered_.erase(std::next(latest).base());
   return true;
+}
+
+bool FakeHotKeys::WTSRegisterSessionNotification(WindowHandle hwnd) {
+  log_.Add("WTSRegisterSessionNotification(" + log_.Window(hwnd) + ")");
+  if (!Exists(hwnd)) return false;
+  sessionWatchers_.insert(hwnd);
+  return true;
+}
+
+void FakeHotKeys::WTSUnRegisterSessionNotification(WindowHandle hwnd) {
+  log_.Add("WTSUnRegisterSessionNotification(" + log_.Window(hwnd) + ")");
+  const auto watch = sessionWatchers_.find(hwnd);
+  if (watch != sessionWatchers_.end()) sessionWatchers_.erase(watch);
 }
 
 std::optional<QueuedMessage> FakeHotKeys::PeekMessageW(WindowHandle hwnd, std::uint32_t message) {

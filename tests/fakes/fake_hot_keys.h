@@ -1,10 +1,12 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <deque>
 #include <functional>
 #include <map>
 #include <optional>
+#include <set>
 #include <utility>
 #include <vector>
 
@@ -47,6 +49,10 @@ class FakeHotKeys : public HotKeyApi {
   /// The shell of Windows 10 and 11 starts: it takes Windows with nearly every letter and digit.
   void StartShell();
   void ReleaseForeign(std::uint32_t modifiers, std::uint32_t key);
+  /// The computer wakes up: the windows are told so.
+  void EndSleep();
+  /// The user unlocks the session, or connects to it: the windows that asked for it are told so.
+  void ChangeSession(std::uintptr_t event);
   /// Drops all that belongs to a window, as its destruction does.
   void ForgetWindow(WindowHandle hwnd);
 
@@ -54,6 +60,8 @@ class FakeHotKeys : public HotKeyApi {
   /// In the order of their registration.
   const std::vector<Registration>& Registered() const { return registered_; }
   bool IsHooked(WindowHandle hwnd) const { return Current(hwnd) != kOwnProcedure; }
+  /// How often a window has asked to be told of its session.
+  std::size_t SessionWatches(WindowHandle hwnd) const { return sessionWatchers_.count(hwnd); }
 
   /// What a window's own procedure returns.
   std::intptr_t answer = 0;
@@ -63,6 +71,8 @@ class FakeHotKeys : public HotKeyApi {
                       std::uint32_t key) override;
   /// Of several registrations of the identifier, the latest one is removed.
   bool UnregisterHotKey(WindowHandle hwnd, int id) override;
+  bool WTSRegisterSessionNotification(WindowHandle hwnd) override;
+  void WTSUnRegisterSessionNotification(WindowHandle hwnd) override;
   std::optional<QueuedMessage> PeekMessageW(WindowHandle hwnd, std::uint32_t message) override;
   PreviousProcedure SetWindowLongPtrA(WindowHandle hwnd, WindowProcedure& procedure) override;
   void SetWindowLongPtrA(WindowHandle hwnd, PreviousProcedure previous) override;
@@ -94,6 +104,7 @@ class FakeHotKeys : public HotKeyApi {
   std::vector<Registration> registered_;
   std::deque<Queued> queue_;
   std::vector<std::pair<std::uint32_t, std::uint32_t>> foreign_;
+  std::multiset<WindowHandle> sessionWatchers_;
   std::map<PreviousProcedure, WindowProcedure*> procedures_;
   std::map<WindowHandle, PreviousProcedure> current_;
   int delivering_ = 0;

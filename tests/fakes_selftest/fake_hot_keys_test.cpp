@@ -119,6 +119,26 @@ TEST_F(FakeHotKeysTest, RefusesUnknownWindowsAndIdentifiersOutOfRange) {
   EXPECT_FALSE(hot_keys_.IsHooked(kGone));
 }
 
+TEST_F(FakeHotKeysTest, EveryWindowHearsOfTheEndOfASleep) {
+  hot_keys_.SetWindowLongPtrA(kMain, procedure_);
+  hot_keys_.EndSleep();
+  EXPECT_EQ(procedure_.calls, (Calls{"256 536 18 0", "256 536 7 0"}));
+}
+
+TEST_F(FakeHotKeysTest, AWindowHearsOfItsSessionAsOftenAsItAskedFor) {
+  hot_keys_.SetWindowLongPtrA(kMain, procedure_);
+  hot_keys_.ChangeSession(8);
+  EXPECT_TRUE(procedure_.calls.empty());
+  EXPECT_TRUE(hot_keys_.WTSRegisterSessionNotification(kMain));
+  EXPECT_TRUE(hot_keys_.WTSRegisterSessionNotification(kMain));
+  EXPECT_FALSE(hot_keys_.WTSRegisterSessionNotification(kGone));
+  hot_keys_.WTSUnRegisterSessionNotification(kMain);
+  hot_keys_.ChangeSession(8);
+  EXPECT_EQ(procedure_.calls, Calls{"256 689 8 1"});
+  hot_keys_.ForgetWindow(kMain);
+  EXPECT_EQ(hot_keys_.SessionWatches(kMain), 0U);
+}
+
 TEST_F(FakeHotKeysTest, TheFlagAgainstRepeatingIsNoPartOfTheCombination) {
   constexpr std::uint32_t kModNoRepeat = 0x4000;
 

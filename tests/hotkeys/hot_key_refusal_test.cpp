@@ -1,5 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <string_view>
+#include <vector>
+
+#include "hotkeys/hot_key_toggle.h"
+#include "tests/fakes/fake_hot_key_actions.h"
 #include "tests/hotkeys/hot_key_table_fixture.h"
 
 namespace korvale {
@@ -52,6 +58,84 @@ TEST_F(HotKeyRefusal, RegistersARefusedHotKeyOnceItIsFree) {
   table.SetHotKeys("SET");
 
   EXPECT_TRUE(table.Registered().at(1).accepted);
+}
+
+class RefusedHotKeysAgain : public HotKeyTableTest {
+ protected:
+  /// The defaults, while another program has Alt+1 and the shell its own.
+  RefusedHotKeysAgain() {
+    hotKeys.RegisterForeign(1, 0x31);
+    hotKeys.StartShell();
+    table.SetHotKeys("SET");
+    log.Clear();
+  }
+  static bool Accepted(const std::vector<RegisteredHotKey>& hotKeys, std::string_view name) {
+    return std::ranges::find(hotKeys, name, &RegisteredHotKey::name)->accepted;
+  }
+};
+
+TEST_F(RefusedHotKeysAgain, AreRegisteredUnderTheirIdentifiersAndNoOthersAreTouched) {
+  hotKeys.ReleaseForeign(1, 0x31);
+
+  EXPECT_TRUE(table.RetryRefused());
+
+  EXPECT_EQ(log.Calls(), (Calls{"RegisterHotKey(main, 2, 1, 49)", "RegisterHotKey(main, 13, 8, 79)",
+                                "RegisterHotKey(main, 14, 8, 87)"}));
+  EXPECT_TRUE(Accepted(table.Registered(), "HOTKEY_PARENT1"));
+  EXPECT_TRUE(Accepted(table.LastSet(), "HOTKEY_PARENT1"));
+  EXPECT_FALSE(Accepted(table.Registered(), "HOTKEY_DISPLAY_OPTIONS"));
+  EXPECT_EQ(table.Registered().size(), 15U);
+  EXPECT_TRUE(table.IsPress(2, 0x00310001));
+  EXPECT_EQ(table.NameOf(2), "HOTKEY_PARENT1");
+}
+
+TEST_F(RefusedHotKeysAgain, ThatAreStillTakenStayRefused) {
+  EXPECT_FALSE(table.RetryRefused());
+  EXPECT_FALSE(Accepted(table.LastSet(), "HOTKEY_PARENT1"));
+  EXPECT_EQ(hotKeys.Registered().size(), 12U);
+}
+
+TEST_F(RefusedHotKeysAgain, AreAskedForOnceOnly) {
+  hotKeys.ReleaseForeign(1, 0x31);
+  EXPECT_TRUE(table.RetryRefused());
+  const auto registered = hotKeys.Registered();
+  for (int time = 0; time < 100; ++time) EXPECT_FALSE(table.RetryRefused());
+  EXPECT_EQ(hotKeys.Registered(), registered);
+}
+
+TEST_F(RefusedHotKeysAgain, DoNotIncludeWhatTheUserChoseTwice) {
+  table.SetHotKeys("REMOVE");
+  hotKeys.RegisterForeign(0, 0x77);
+  Options().intHotKeyModAction = {0, 0};
+  Options().intHotKeyAction = {0x77, 0x77};
+  table.SetHotKeys("SET");
+  hotKeys.ReleaseForeign(0, 0x77);
+  EXPECT_TRUE(table.RetryRefused());
+  EXPECT_TRUE(table.Registered().at(10).accepted);
+  EXPECT_FALSE(table.Registered().at(11).accepted);
+  EXPECT_FALSE(table.RetryRefused());
+}
+
+TEST_F(RefusedHotKeysAgain, AreNoneOnceAllAreRemoved) {
+  table.SetHotKeys("REMOVE");
+  hotKeys.ReleaseForeign(1, 0x31);
+  log.Clear();
+  EXPECT_FALSE(table.RetryRefused());
+  EXPECT_TRUE(log.Calls().empty());
+}
+
+TEST_F(RefusedHotKeysAgain, AreOnlyTheToggleWhileTheOthersAreSwitchedOff) {
+  table.SetHotKeys("REMOVE");
+  hotKeys.RegisterForeign(0, 0x13);
+  table.SetHotKeys("SET");
+  FakeHotKeyActions actions;
+  HotKeyToggle(table, options, actions).ToggleHotKeys(kToggleFromHotKey);
+  hotKeys.ReleaseForeign(0, 0x13);
+  hotKeys.ReleaseForeign(1, 0x31);
+  EXPECT_TRUE(table.RetryRefused());
+  EXPECT_EQ(hotKeys.Registered(), (std::vector<FakeHotKeys::Registration>{{1000, 1, 0, 0x13}}));
+  EXPECT_TRUE(Accepted(table.LastSet(), "HOTKEY_TOGGLE_HOTKEYS"));
+  EXPECT_FALSE(Accepted(table.LastSet(), "HOTKEY_PARENT1"));
 }
 
 }  // namespace

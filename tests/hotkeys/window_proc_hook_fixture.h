@@ -12,6 +12,7 @@
 #include "hotkeys/window_proc_hook.h"
 #include "platform/run_time_error.h"
 #include "platform/win32_constants.h"
+#include "tests/fakes/fake_hot_key_actions.h"
 #include "tests/fakes/headless_form_host.h"
 #include "tests/fakes/plain_desktop.h"
 #include "tests/hotkeys/hot_key_table_fixture.h"
@@ -70,7 +71,9 @@ class WindowProcHookTest : public HotKeyTableTest, protected HotKeyProcessor {
   std::function<void(const std::string&)> inDispatch;
   PlainDesktop screen;
   MenuHost host{screen, log};
-  WindowProcHook hook{hotKeys, host, mainWindow, table, *this, [this] { ReportUncaught(); }};
+  FakeHotKeyActions actions;
+  WindowProcHook hook{
+      hotKeys, host, mainWindow, table, *this, actions, [this] { ReportUncaught(); }};
 };
 
 }  // namespace korvale

@@ -113,7 +113,8 @@ TEST_F(WindowProcHookTest, DispatchesAHotKeyThatArrivesDuringADispatch) {
 TEST_F(WindowProcHookTest, PutsTheFormerProcedureBack) {
   hook.HookWindowProc("REMOVE", kMain);
 
-  EXPECT_EQ(log.Calls(), Calls{"SetWindowLongPtrA(main, previous)"});
+  EXPECT_EQ(log.Calls(),
+            (Calls{"WTSUnRegisterSessionNotification(main)", "SetWindowLongPtrA(main, previous)"}));
 }
 
 TEST_F(WindowProcHookTest, RemovesOnlyOnce) {
@@ -138,7 +139,8 @@ TEST_F(WindowProcHookTest, HooksAgainAfterARemoval) {
 
   hook.HookWindowProc("SET", kMain);
 
-  EXPECT_EQ(log.Calls(), Calls{"SetWindowLongPtrA(main, procedure)"});
+  EXPECT_EQ(log.Calls(),
+            (Calls{"SetWindowLongPtrA(main, procedure)", "WTSRegisterSessionNotification(main)"}));
 }
 
 TEST_F(WindowProcHookTest, DoesNothingInAnyOtherMode) {
@@ -148,7 +150,7 @@ TEST_F(WindowProcHookTest, DoesNothingInAnyOtherMode) {
 }
 
 TEST_F(WindowProcHookTest, RemovesNothingThatWasNeverSet) {
-  WindowProcHook unused(hotKeys, host, mainWindow, table, *this, [] {});
+  WindowProcHook unused(hotKeys, host, mainWindow, table, *this, actions, [] {});
 
   unused.HookWindowProc("REMOVE", kMain);
 

@@ -77,6 +77,52 @@ TEST_F(RefusedHotKeys, AreNotWhatTheUserChoseTwice) {
   EXPECT_TRUE(UsedCopy().Start());
 }
 
+TEST_F(RefusedHotKeys, WorkWhenTheyAreFreeAfterTheUserReturns) {
+  hotKeys.RegisterForeign(win32::kModAlt, '1');
+  KorvaleCopy& korvale = UsedCopy();
+  std::string tip;
+  ReadTip(korvale, tip);
+  EXPECT_TRUE(korvale.Start());
+  hotKeys.Press(win32::kModWin, 'O');
+  class Form& options = korvale.Loaded("frmOptions");
+  EXPECT_EQ(options.Find("lblConflicts").Text(),
+            "Not available, in use by Windows or another program:  Alt+1");
+  hotKeys.ReleaseForeign(win32::kModAlt, '1');
+  EXPECT_FALSE(hotKeys.Press(win32::kModAlt, '1'));
+
+  hotKeys.ChangeSession(win32::kWtsSessionUnlock);
+
+  EXPECT_FALSE(options.Find("lblConflicts").Visible());
+  EXPECT_TRUE(hotKeys.Press(win32::kModAlt, '1'));
+  EXPECT_TRUE(korvale.host.Messages().empty());
+}
+
+TEST_F(RefusedHotKeys, StayOffAfterTheUserReturnsWhileTheyAreSwitchedOff) {
+  hotKeys.RegisterForeign(win32::kModAlt, '1');
+  KorvaleCopy& korvale = UsedCopy();
+  std::string tip;
+  ReadTip(korvale, tip);
+  EXPECT_TRUE(korvale.Start());
+  hotKeys.Press(0, win32::kVkPause);
+  hotKeys.ReleaseForeign(win32::kModAlt, '1');
+
+  hotKeys.EndSleep();
+  EXPECT_EQ(hotKeys.Registered().size(), 1U);
+
+  hotKeys.Press(0, win32::kVkPause);
+  EXPECT_TRUE(hotKeys.Press(win32::kModAlt, '1'));
+}
+
+TEST_F(RefusedHotKeys, AreForgottenWhenTheProgramEnds) {
+  KorvaleCopy& korvale = UsedCopy();
+  EXPECT_TRUE(korvale.Start());
+  const WindowHandle main = korvale.Handle();
+  EXPECT_EQ(hotKeys.SessionWatches(main), 1U);
+  korvale.Exit();
+  EXPECT_EQ(hotKeys.SessionWatches(main), 0U);
+  EXPECT_FALSE(log.CallsOf("WTSUnRegisterSessionNotification(frmMain)").empty());
+}
+
 TEST_F(RefusedHotKeys, EndTheStartWhenTheSessionEndsMeanwhile) {
   hotKeys.StartShell();
   KorvaleCopy& korvale = UsedCopy();

@@ -90,6 +90,11 @@ TEST_F(WindowsHotKeyApiTest, TakesACombinationOnce) {
   EXPECT_TRUE(api_.UnregisterHotKey(Window(), kId + 1));
 }
 
+TEST_F(WindowsHotKeyApiTest, CanBeToldOfTheSession) {
+  EXPECT_TRUE(api_.WTSRegisterSessionNotification(Window()));
+  api_.WTSUnRegisterSessionNotification(Window());
+}
+
 TEST_F(WindowsHotKeyApiTest, AMessageTakenOutTellsWhatCameWithIt) {
   EXPECT_TRUE(api_.PostMessageW(Window(), kMessage, 6, 7));
   EXPECT_TRUE(api_.PostMessageW(Window(), kMessage, 8, 9));
