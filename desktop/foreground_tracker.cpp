@@ -195,7 +195,8 @@ bool ForegroundTracker::IsBehindDialog(WindowHandle hwnd) {
 /// Also true for a window behind its own dialog, and for one that is out of sight because its owner
 /// is minimized: Tag 0 brings the dialog forward and restores the owner.
 bool ForegroundTracker::CanBeReached(const WindowTriple& window) {
-  WindowTriple live = Recorded(&window);
+  // Known by its handle, so any title will do; the next reading may give another one.
+  WindowTriple live{window.handle, "", window.className};
   switch (actions_->ActivateWindow(live, false, false)) {
     case kActivationDone:
       return true;

@@ -64,8 +64,7 @@ ActivationResult WindowActions::ActivatePreviousWindow(WindowTriple& window) {
       requests_->Await(dialog, [&] { return windows_->IsWindowVisible(dialog); });
     }
   }
-  WindowTriple inFrontOfIt{dialog, GetWindowTitle(*windows_, dialog),
-                           GetWindowClass(*windows_, dialog)};
+  WindowTriple inFrontOfIt{dialog, "", GetWindowClass(*windows_, dialog)};
   return ActivateWindow(inFrontOfIt, false, true);
 }
 
@@ -77,8 +76,10 @@ ActivationResult WindowActions::TryActivation(WindowTriple& window, bool act) {
   const ActivationResult restored = act ? RestoreIconicOwner(hwnd) : kActivationDone;
   if (restored != kActivationDone) return restored;
   if (!windows_->IsWindowVisible(hwnd)) return kWindowNotOpen;
-  RefreshRecordedTitle(window);
-  if (!TitleMatches(window.text, GetWindowTitle(*windows_, hwnd), false)) {
+  // Read once: some titles are another one at each reading.
+  const std::string title = GetWindowTitle(*windows_, hwnd);
+  RefreshRecordedTitle(window, title);
+  if (!TitleMatches(window.text, title, false)) {
     window.handle = 0;
     return kActivationFailed;
   }
@@ -99,11 +100,11 @@ ActivationResult WindowActions::RestoreIconicOwner(WindowHandle hwnd) {
 }
 
 /// The recorded windows are known by their handles, so a new title never disqualifies them.
-void WindowActions::RefreshRecordedTitle(WindowTriple& window) {
+void WindowActions::RefreshRecordedTitle(WindowTriple& window, const std::string& title) {
   for (WindowTriple* const recorded : {&previous_->current, &previous_->alternate}) {
     if (recorded->handle != window.handle) continue;
-    recorded->text = GetWindowTitle(*windows_, window.handle);
-    window.text = recorded->text;
+    recorded->text = title;
+    window.text = title;
   }
 }
 

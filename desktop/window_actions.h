@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 #include "desktop/desktop_parts.h"
@@ -56,7 +57,7 @@ class WindowActions {
  private:
   ActivationResult TryActivation(WindowTriple& window, bool act);
   ActivationResult RestoreIconicOwner(WindowHandle hwnd);
-  void RefreshRecordedTitle(WindowTriple& window);
+  void RefreshRecordedTitle(WindowTriple& window, const std::string& title);
   ActivationResult BringForward(WindowHandle hwnd);
   ActivationResult Unfold(WindowHandle hwnd, WindowHandle before);
   bool ChangeAll(EnumerationMode mode);

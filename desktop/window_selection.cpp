@@ -1,5 +1,8 @@
 #include "desktop/window_selection.h"
 
+#include <cstdint>
+#include <string_view>
+
 #include "app/core/identity.h"
 #include "desktop/timer_pause.h"
 #include "desktop/window_readers.h"
@@ -14,9 +17,18 @@ bool IsTheWindow(ActivationResult result) {
   return result == kActivationDone || result == kWindowNotAnswering || result == kWindowDenied;
 }
 
+/// In characters; with much more, the button of a message box would be off the screen.
+constexpr std::int32_t kLongestName = 255;
+constexpr std::string_view kEllipsis = "...";
+
+std::string NameInMessage(const std::string& text) {
+  if (CharacterCount(text) <= kLongestName) return OnOneLine(text);
+  return OnOneLine(LeftCharacters(text, kLongestName - 3)).append(kEllipsis);
+}
+
 }  // namespace
 
-std::string InBrackets(const std::string& text) { return "Window:  [" + text + "]"; }
+std::string InBrackets(const std::string& text) { return "Window:  [" + NameInMessage(text) + "]"; }
 
 WindowSelection::WindowSelection(const DesktopParts& parts, WindowRequests& requests,
                                  WindowEnumeration& enumeration, WindowActions& actions,

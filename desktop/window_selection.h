@@ -11,7 +11,8 @@
 
 namespace korvale {
 
-/// How a message names a window by its title or identification text.
+/// How a message names a window by its title or identification text: on one line, and shortened
+/// when it is very long.
 std::string InBrackets(const std::string& text);
 
 /// Selects the windows of the Tags: looks for them, brings them to the front and moves the Previous

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "app/core/identity.h"
+#include "app/core/stored_tags.h"
 #include "desktop/title_match.h"
 #include "desktop/window_readers.h"
 #include "forms/get_window_design.h"
@@ -37,9 +38,10 @@ std::string AssignedText(std::string_view item) {
 }
 
 std::string ShownChoice(int index, const std::string& identification) {
-  if (index != 1) return ShortenedText(identification, kChoiceColumns);
+  const std::string line = OnOneLine(identification);
+  if (index != 1) return ShortenedText(line, kChoiceColumns);
   const std::string_view left =
-      std::string_view(identification).substr(0, identification.size() - kLeftPartMark.size());
+      std::string_view(line).substr(0, line.size() - kLeftPartMark.size());
   return ShortenedText(left, kChoiceColumns, kLeftPartMark);
 }
 
@@ -93,7 +95,7 @@ void frmGetWindow::FillTags() {
   for (int tag = 1; tag <= kTagCount; ++tag) tags.AddItem(DecimalText(tag), tag);
   context_.tags.mnuWindowParentList.ForEach([&](const MenuItem& entry) {
     if (!IsTag(entry.index)) return;
-    std::string text = IdentificationText(entry);
+    std::string text = OnOneLine(IdentificationText(entry));
     if (text.empty()) text = "(window without a title)";
     tags.SetItemText(entry.index - 1, ListText(entry.index, text));
   });
@@ -144,6 +146,11 @@ void frmGetWindow::LoadThisWindow() {
 void frmGetWindow::OfferPortions(const std::string& title) {
   SetChoice(1, std::string(LeftTitlePart(title)).append(kLeftPartMark));
   SetChoice(2, std::string(kRightPartMark).append(RightTitlePart(title)));
+  // A caption loses the blanks at its ends; without them, some parts would not find their window.
+  for (const int portion : {1, 2}) {
+    const std::string caption = TagCaption(1, choices_[static_cast<std::size_t>(portion)]);
+    Find("optWindow", portion).SetVisible(TitleMatches(caption, title, true));
+  }
 }
 
 void frmGetWindow::HidePortions() {

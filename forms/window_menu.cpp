@@ -51,7 +51,8 @@ void WindowMenu::mnuWindow_Click() {
     addThis.caption.insert(0, static_cast<std::size_t>(blanks), ' ');
   }
 
-  const std::string title = DoubleAmpersands(ShortTitle(desktop_->previous.current.text));
+  const std::string title =
+      DoubleAmpersands(OnOneLine(ShortTitle(desktop_->previous.current.text)));
   form_->Menu("mnuWindowPreviousWindowAlwaysOnTop").caption = "[" + title + "]  Always On &Top";
   form_->Menu("mnuWindowAddToList", kPreviousWindow).caption =
       "Add  [" + title + "]  to &Window menu...";

@@ -29,7 +29,8 @@ struct MenuItem {
   bool checked = false;
   bool enabled = true;
   bool visible = true;
-  /// From this character on, "&" in the caption is shown as such; -1 = nowhere.
+  /// From this character on, "&" in the caption is shown as such, a control character as a blank;
+  /// -1 = nowhere.
   int literalFrom = -1;
   std::vector<std::unique_ptr<MenuItem>> items;
 

@@ -1,5 +1,6 @@
 #include "util/text.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstddef>
@@ -121,6 +122,13 @@ std::string PadText(std::string_view text, std::int16_t width, std::string_view 
   if (mode == "RIGHT_SPACES") return result + Repeated(' ', missing);
   if (mode == "LEFT_ZEROES") return Repeated('0', missing) + result;
   return result;
+}
+
+std::string OnOneLine(std::string_view text) {
+  std::string line(text);
+  std::ranges::replace_if(
+      line, [](unsigned char byte) { return byte < 0x20 || byte == 0x7F; }, ' ');
+  return line;
 }
 
 std::string ReplaceText(std::string_view text, std::string_view sought,

@@ -36,6 +36,10 @@ bool EqualsIgnoreCase(std::string_view left, std::string_view right);
 /// and when the text is longer, it stays unchanged.
 std::string PadText(std::string_view text, std::int16_t width, std::string_view mode);
 
+/// The text as one line shows it: each control character is a blank, since tabs and line ends would
+/// tear a caption or a message apart.
+std::string OnOneLine(std::string_view text);
+
 /// Replaces `sought` by `replacement`, from left to right, each time continuing after the
 /// replacement; with `firstOnly` only once. An empty `sought` occurs nowhere.
 std::string ReplaceText(std::string_view text, std::string_view sought,

@@ -50,6 +50,8 @@ void FakeDesktop::Rename(WindowHandle hwnd, const std::string& title) {
   Existing(hwnd).title = title;
 }
 
+void FakeDesktop::CountReadings(WindowHandle hwnd) { Existing(hwnd).titleReadings = 0; }
+
 void FakeDesktop::UserActivates(WindowHandle hwnd) {
   const FakeWindow& window = Existing(hwnd);
   if (!window.enabled) {

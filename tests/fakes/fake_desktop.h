@@ -31,6 +31,8 @@ class FakeDesktop : public WindowQueries, public WindowCommands {
   void OpenShell();
   void Close(WindowHandle hwnd);
   void Rename(WindowHandle hwnd, const std::string& title);
+  /// From now on each reading of the title finds another one: "1 % - Alpha", "2 % - Alpha".
+  void CountReadings(WindowHandle hwnd);
   /// Clicks the window, or its taskbar button when it is minimized. A disabled window passes the
   /// click on to the dialog that disables it.
   void UserActivates(WindowHandle hwnd);

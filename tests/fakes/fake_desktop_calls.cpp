@@ -8,6 +8,9 @@
 namespace korvale {
 namespace {
 
+/// What a count of readings adds to a title at most.
+constexpr int kLongestCount = 16;
+
 int CopyText(const std::string& text, std::span<char> buffer) {
   if (buffer.empty()) return 0;
   const std::size_t length = std::min(text.size(), buffer.size() - 1);
@@ -77,12 +80,16 @@ std::int32_t FakeDesktop::GetWindowLongA(WindowHandle hwnd, int index) {
 int FakeDesktop::GetWindowTextLengthA(WindowHandle hwnd) {
   const FakeWindow* const window = Read("GetWindowTextLengthA", hwnd);
   if (window == nullptr) return 0;
-  return static_cast<int>(window->title.size()) + window->extraTextLength;
+  const int counted = window->titleReadings < 0 ? 0 : kLongestCount;
+  return static_cast<int>(window->title.size()) + window->extraTextLength + counted;
 }
 
 int FakeDesktop::GetWindowTextA(WindowHandle hwnd, std::span<char> buffer) {
-  const FakeWindow* const window = Read("GetWindowTextA", hwnd, std::to_string(buffer.size()));
-  return CopyText(window == nullptr ? "" : window->title, buffer);
+  Read("GetWindowTextA", hwnd, std::to_string(buffer.size()));
+  FakeWindow* const window = windows_.Find(hwnd);
+  if (window == nullptr) return CopyText("", buffer);
+  if (window->titleReadings < 0) return CopyText(window->title, buffer);
+  return CopyText(std::to_string(++window->titleReadings) + " % - " + window->title, buffer);
 }
 
 int FakeDesktop::GetClassNameA(WindowHandle hwnd, std::span<char> buffer) {

@@ -63,6 +63,7 @@ struct FakeWindow {
   int process = kOtherProcess;
   bool elevated = false;
   int extraTextLength = 0;
+  int titleReadings = -1;  ///< Counted in front of the title; -1 = not counted.
   PixelRect place;
   std::vector<WindowHandle> children;            ///< Topmost first.
   std::vector<std::function<void()>> waiting{};  ///< What others asked for while it was busy.

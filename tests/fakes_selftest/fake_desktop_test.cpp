@@ -30,6 +30,17 @@ TEST_F(FakeDesktopTest, TheWindowThatTheUserClicksComesToTheTop) {
   EXPECT_EQ(desktop_.VisibleTitles(), (Titles{"Alpha", "Gamma", "Beta"}));
 }
 
+TEST_F(FakeDesktopTest, ATitleWhoseReadingsAreCountedIsAnotherOneAtEachReading) {
+  const WindowHandle alpha = desktop_.Open("Alpha");
+  desktop_.CountReadings(alpha);
+  for (const std::string expected : {"1 % - Alpha", "2 % - Alpha"}) {
+    std::string buffer(32, '\0');
+    EXPECT_GE(desktop_.GetWindowTextLengthA(alpha), static_cast<int>(expected.size()));
+    buffer.resize(static_cast<std::size_t>(desktop_.GetWindowTextA(alpha, buffer)));
+    EXPECT_EQ(buffer, expected);
+  }
+}
+
 TEST_F(FakeDesktopTest, ClickingAMinimizedWindowRestoresIt) {
   const WindowHandle alpha = desktop_.Open("Alpha");
   desktop_.UserMinimizes(alpha);

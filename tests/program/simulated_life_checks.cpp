@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <map>
 #include <utility>
 
@@ -145,6 +146,8 @@ void SimulatedLife::CheckAlways() {
   EXPECT_FALSE(korvale_->Suspended());
   const clsOptions& options = korvale_->Options();
   if (options.booAllowNoTextWindow && options.booAllowToolbarWindow) taskbarFollowed_ = true;
+  const auto& classes = korvale_->Tags().ParentWindowClass;
+  if (std::ranges::find(classes, "Shell_TrayWnd") != classes.end()) taskbarFollowed_ = true;
   CheckHotKeys();
   CheckSaving();
 }

@@ -142,5 +142,14 @@ TEST_F(MenuItemArrayTest, AnArrayWithoutElementsGrowsAtTheEndOfItsMenu) {
   EXPECT_EQ(NamesOf(window_).back(), "mnuOther1");
 }
 
+TEST(MenuTextTest, ShowsALiteralPartAsItIsAndOnOneLine) {
+  MenuItem item;
+  item.caption = "&1  R&D\tof\n& \x1f\x7f 日";
+  item.literalFrom = 2;
+  EXPECT_EQ(MenuText(item), "&1  R&&D of &&    日");
+  item.literalFrom = -1;
+  EXPECT_EQ(MenuText(item), item.caption);
+}
+
 }  // namespace
 }  // namespace korvale

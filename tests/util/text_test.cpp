@@ -233,5 +233,11 @@ TEST(ParseBooleanTest, RefusesEverythingElse) {
   EXPECT_EQ(ParseBoolean("Yes"), std::nullopt);
 }
 
+TEST(OnOneLineTest, ReplacesEachControlCharacterByABlankAndNothingElse) {
+  EXPECT_EQ(OnOneLine("a\tb\r\nc\x1f\x7f d"), "a b  c   d");
+  EXPECT_EQ(OnOneLine(std::string("\0x", 2)), " x");
+  EXPECT_EQ(OnOneLine("Ж 日 😀 \u00a0\u200f\xff"), "Ж 日 😀 \u00a0\u200f\xff");
+}
+
 }  // namespace
 }  // namespace korvale
