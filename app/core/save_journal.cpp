@@ -16,6 +16,7 @@
 namespace korvale {
 namespace {
 
+constexpr const char* kJournalSections[] = {kJournalSection, kSecondJournalSection};
 constexpr const char* kCompleteMark = "Complete";
 /// Cannot occur in a folder name, so not in an application name; the key may hold anything.
 constexpr char kSeparator = '\\';
@@ -146,27 +147,44 @@ SaveJournal::SaveJournal(SettingsStore& store, std::string appName)
 
 void SaveJournal::Commit(const std::vector<StoreChange>& newChanges) {
   FinishInterrupted();
+  const char* const refused = CompleteSection();
   const std::vector<StoreChange> changes = BehindRefused(newChanges);
-  if (Exists()) store_->DeleteSection(appName_, kJournalSection);
+  const char* const section = refused == kJournalSection ? kSecondJournalSection : kJournalSection;
+  const bool needsJournal = changes.size() > 1 || refused != nullptr;
   // Two journals must never mix.
-  if (Exists()) throw RunTimeError(RunTimeError::kPermissionDenied);
-  const bool needsJournal = changes.size() > 1;
-  if (needsJournal && !Write(changes)) {
-    store_->DeleteSection(appName_, kJournalSection);
+  bool prepared = Clear(section);
+  prepared = prepared && (!needsJournal || Write(section, changes));
+  prepared = prepared && (refused == nullptr || Clear(refused));
+  if (!prepared) {
+    Clear(section);
     throw RunTimeError(RunTimeError::kPermissionDenied);
   }
   const bool allMade = Apply(changes);
   // What could not be made is tried again by the next save or the next run.
-  if (needsJournal && allMade) store_->DeleteSection(appName_, kJournalSection);
+  if (needsJournal && allMade) Clear(section);
   if (!allMade) throw RunTimeError(RunTimeError::kPermissionDenied);
 }
 
 void SaveJournal::FinishInterrupted() {
-  const SettingsStore::Pairs entries = store_->GetAllSettings(appName_, kJournalSection);
-  if (entries.empty()) return;
-  const auto changes = CompleteChanges(entries);
-  if (changes && !Apply(*changes)) return;
-  store_->DeleteSection(appName_, kJournalSection);
+  const char* const complete = CompleteSection();
+  bool alone = true;
+  for (const char* const section : kJournalSections) {
+    if (section != complete) alone &= Clear(section);
+  }
+  if (complete != nullptr && alone && Apply(Unfinished())) Clear(complete);
+}
+
+std::vector<StoreChange> SaveJournal::Unfinished() const {
+  const char* const section = CompleteSection();
+  if (section == nullptr) return {};
+  return *CompleteChanges(store_->GetAllSettings(appName_, section));
+}
+
+const char* SaveJournal::CompleteSection() const {
+  for (const char* const section : kJournalSections) {
+    if (CompleteChanges(store_->GetAllSettings(appName_, section))) return section;
+  }
+  return nullptr;
 }
 
 /// Changes that the store refused in an earlier save come before the new ones, except those that
@@ -174,8 +192,7 @@ void SaveJournal::FinishInterrupted() {
 /// those can no longer be made.
 std::vector<StoreChange> SaveJournal::BehindRefused(
     const std::vector<StoreChange>& newChanges) const {
-  auto changes = CompleteChanges(store_->GetAllSettings(appName_, kJournalSection))
-                     .value_or(std::vector<StoreChange>());
+  std::vector<StoreChange> changes = Unfinished();
   const bool keepsLast = !LosesAValue(*store_, changes, newChanges);
   std::erase_if(changes, [&](const StoreChange& refused) {
     return refused.last ? !keepsLast : Superseding(newChanges, refused) != nullptr;
@@ -186,19 +203,21 @@ std::vector<StoreChange> SaveJournal::BehindRefused(
   return changes;
 }
 
-bool SaveJournal::Exists() const {
-  return !store_->GetAllSettings(appName_, kJournalSection).empty();
+bool SaveJournal::Clear(const char* section) {
+  const auto holdsAny = [&] { return !store_->GetAllSettings(appName_, section).empty(); };
+  if (!holdsAny()) return true;
+  store_->DeleteSection(appName_, section);
+  return !holdsAny();
 }
 
-bool SaveJournal::Write(const std::vector<StoreChange>& changes) {
+bool SaveJournal::Write(const char* section, const std::vector<StoreChange>& changes) {
   std::int32_t number = 0;
   for (const StoreChange& change : changes) {
-    if (!store_->SaveSetting(appName_, kJournalSection, EntryName(++number, change),
-                             change.value)) {
+    if (!store_->SaveSetting(appName_, section, EntryName(++number, change), change.value)) {
       return false;
     }
   }
-  return store_->SaveSetting(appName_, kJournalSection, kCompleteMark, DecimalText(number));
+  return store_->SaveSetting(appName_, section, kCompleteMark, DecimalText(number));
 }
 
 bool SaveJournal::Apply(const std::vector<StoreChange>& changes) {

@@ -10,12 +10,16 @@ namespace korvale {
 
 /// Section that holds the changes of a save while it is being made; gone once it is done.
 inline constexpr const char* kJournalSection = "Saving";
+/// Takes the next save while the first section holds one that the store has refused.
+inline constexpr const char* kSecondJournalSection = "Saving2";
 
 /// Makes several changes as one: a program killed between any two writes leaves behind either none
 /// of them, or what FinishInterrupted needs to make the rest.
 ///
 /// All changes are first written into the journal section with a mark at the end that counts them,
-/// then made, then the journal is deleted. Making them twice leads to the same state.
+/// then made, then the journal is deleted. Making them twice leads to the same state. A journal
+/// that the store has refused is deleted only once the next one, which contains it, is complete;
+/// until then nothing of the next one is made, so that of two complete ones either may be taken.
 class SaveJournal {
  public:
   /// The journal is stored under `appName`; the changes may concern any application name.
@@ -33,10 +37,17 @@ class SaveJournal {
   /// refuses again; drops an incomplete one. Does nothing when there is none.
   void FinishInterrupted();
 
+  /// The changes of a complete journal, which the store may not have taken yet; none when there is
+  /// no such journal.
+  std::vector<StoreChange> Unfinished() const;
+
  private:
+  /// The section with a complete journal; null when there is none.
+  const char* CompleteSection() const;
   std::vector<StoreChange> BehindRefused(const std::vector<StoreChange>& newChanges) const;
-  bool Exists() const;
-  bool Write(const std::vector<StoreChange>& changes);
+  /// Deletes a journal section; false when the store refuses.
+  bool Clear(const char* section);
+  bool Write(const char* section, const std::vector<StoreChange>& changes);
   bool Apply(const std::vector<StoreChange>& changes);
 
   SettingsStore* store_;

@@ -6,6 +6,7 @@
 
 #include "app/core/save_journal.h"
 #include "app/core/save_scope.h"
+#include "app/core/saved_values.h"
 #include "app/core/setting_rows.h"
 #include "util/text.h"
 
@@ -20,12 +21,11 @@ constexpr std::array kSectionsOfSaveINI = {kStartupSection, "ButtonTags", "Butto
                                            kTagCaptions,    kTagClasses,  "ChildWindowList"};
 
 template <typename Record>
-void Load(SettingsStore& store, const std::string& appName,
-          std::span<const SettingRow<Record>> rows, Record& record) {
+void Load(const SavedValues& saved, std::span<const SettingRow<Record>> rows, Record& record) {
   Record defaults;
   for (const SettingRow<Record>& row : rows) {
     const SettingField field = row.field(record);
-    const auto stored = store.GetSetting(appName, row.section, row.key);
+    const auto stored = saved.GetSetting(row.section, row.key);
     if (!ReadSetting(stored, field, row.least, row.most)) CopySetting(row.field(defaults), field);
   }
 }
@@ -46,9 +46,7 @@ std::string ValueOf(const SettingsStore::Pairs& pairs, const std::string& key) {
 
 }  // namespace
 
-void Settings::LoadOptions(clsOptions& options) const {
-  Load(Store(), AppName(), OptionRows(), options);
-}
+void Settings::LoadOptions(clsOptions& options) const { Load(Saved(), OptionRows(), options); }
 
 void Settings::SaveOptions(const clsOptions& options) {
   SaveScope save(*this);
@@ -64,13 +62,14 @@ void Settings::DeleteOptions() {
 
 StartupSettings Settings::LoadStartup() const {
   StartupSettings startup;
-  Load(Store(), AppName(), StartupRows(), startup);
+  Load(Saved(), StartupRows(), startup);
   return startup;
 }
 
 StoredTagList Settings::LoadTagList() const {
-  const SettingsStore::Pairs captions = Store().GetAllSettings(AppName(), kTagCaptions);
-  const SettingsStore::Pairs classes = Store().GetAllSettings(AppName(), kTagClasses);
+  const SavedValues saved = Saved();
+  const SettingsStore::Pairs captions = saved.GetAllSettings(kTagCaptions);
+  const SettingsStore::Pairs classes = saved.GetAllSettings(kTagClasses);
   StoredTagList tags;
   for (int number = 1; number <= kTagCount; ++number) {
     const std::string key = DecimalText(number);
@@ -115,10 +114,13 @@ void Settings::ForgetPlacement(StartupSettings& startup) {
 }
 
 bool Settings::NothingStored() const {
+  const SavedValues saved = Saved();
   return std::ranges::all_of(
       std::array{kStartupSection, kTagCaptions, kTagClasses, kOptionsSection},
-      [&](const char* section) { return Store().GetAllSettings(AppName(), section).empty(); });
+      [&](const char* section) { return saved.GetAllSettings(section).empty(); });
 }
+
+SavedValues Settings::Saved() const { return SavedValues(Store(), AppName()); }
 
 void Settings::FinishInterruptedSave() { SaveJournal(Store(), AppName()).FinishInterrupted(); }
 

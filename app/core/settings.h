@@ -2,6 +2,7 @@
 
 #include "app/core/options.h"
 #include "app/core/save_scope.h"
+#include "app/core/saved_values.h"
 #include "app/core/startup_settings.h"
 #include "app/core/stored_tags.h"
 #include "platform/settings_store.h"
@@ -14,7 +15,7 @@ namespace korvale {
 /// A save is made as a whole or not at all, even when the program is killed in the middle of it:
 /// FinishInterruptedSave of the next run, or else the next save, completes it. Every save and
 /// deletion belongs to the open SaveScope and is a save of its own when there is none; saving
-/// throws RunTimeError 70 when the store refuses a value.
+/// throws RunTimeError 70 when the store refuses a value. What it refused is loaded all the same.
 class Settings : public SavingStore {
  public:
   using SavingStore::SavingStore;
@@ -44,6 +45,9 @@ class Settings : public SavingStore {
   /// Completes a save under AppName() that a killed run began, or drops it when its journal is
   /// incomplete. Must be called before loading, by the only running copy of the installation.
   void FinishInterruptedSave();
+
+ private:
+  SavedValues Saved() const;
 };
 
 }  // namespace korvale

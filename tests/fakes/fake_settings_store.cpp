@@ -29,7 +29,13 @@ void FakeSettingsStore::RefuseValue(const std::string& appName, const std::strin
   refused_values_.push_back({appName, section, {{key, std::nullopt}}});
 }
 
+void FakeSettingsStore::RefuseAfterWrites(int writes, Refusal refusal) {
+  writes_before_refusal_ = writes;
+  refusal_ = refusal;
+}
+
 void FakeSettingsStore::RefuseNothing() {
+  writes_before_refusal_.reset();
   refuse_writes_ = false;
   refused_values_.clear();
 }
@@ -74,7 +80,8 @@ SettingsStore::Pairs FakeSettingsStore::GetAllSettings(const std::string& appNam
 
 bool FakeSettingsStore::SaveSetting(const std::string& appName, const std::string& section,
                                     const std::string& key, const std::string& value) {
-  if (!BeginWrite(Call("SaveSetting", appName, section) + ", " + key + ", \"" + value + "\")")) {
+  if (!BeginWrite(Call("SaveSetting", appName, section) + ", " + key + ", \"" + value + "\")",
+                  true)) {
     return false;
   }
   if (IsRefused(appName, section, key)) return false;
@@ -130,11 +137,22 @@ void FakeSettingsStore::Write(const std::string& appName, const std::string& sec
   }
 }
 
-bool FakeSettingsStore::BeginWrite(const std::string& call) {
+bool FakeSettingsStore::RefusesNow(bool saves) {
+  if (refuse_writes_) return true;
+  if (!writes_before_refusal_) return false;
+  if (*writes_before_refusal_ > 0) {
+    --*writes_before_refusal_;
+    return false;
+  }
+  if (refusal_ == Refusal::kOne) writes_before_refusal_.reset();
+  return refusal_ != Refusal::kSaves || saves;
+}
+
+bool FakeSettingsStore::BeginWrite(const std::string& call, bool saves) {
   if (writes_left_ == 0) throw KilledBetweenWrites();
   if (writes_left_ > 0) --writes_left_;
   if (log_ != nullptr) log_->Add(call);
-  return !refuse_writes_;
+  return !RefusesNow(saves);
 }
 
 void FakeSettingsStore::LogRead(const std::string& call) {

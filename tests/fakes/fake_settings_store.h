@@ -26,6 +26,10 @@ class FakeSettingsStore : public SettingsStore {
   void RefuseWrites(bool refuse) { refuse_writes_ = refuse; }
   /// Refuses to save this value from now on, and no other.
   void RefuseValue(const std::string& appName, const std::string& section, const std::string& key);
+  /// What is refused: one change, every change, or only saves, as on a full disk.
+  enum class Refusal { kOne, kAll, kSaves };
+  /// Lets this many changes through, then refuses.
+  void RefuseAfterWrites(int writes, Refusal refusal);
   /// Refuses nothing from now on.
   void RefuseNothing();
   /// Lets this many changes through; the next one throws KilledBetweenWrites. -1 = all.
@@ -61,7 +65,8 @@ class FakeSettingsStore : public SettingsStore {
   Section* Find(const std::string& appName, const std::string& section);
   void Write(const std::string& appName, const std::string& section, const Value& value);
   /// Logs a change; false when it is refused.
-  bool BeginWrite(const std::string& call);
+  bool BeginWrite(const std::string& call, bool saves = false);
+  bool RefusesNow(bool saves);
   void LogRead(const std::string& call);
 
   CallLog* log_ = nullptr;
@@ -69,6 +74,8 @@ class FakeSettingsStore : public SettingsStore {
   bool refuse_writes_ = false;
   std::vector<Section> refused_values_;
   int writes_left_ = -1;
+  std::optional<int> writes_before_refusal_;
+  Refusal refusal_ = Refusal::kAll;
 };
 
 }  // namespace korvale

@@ -119,6 +119,22 @@ TEST(FakeSettingsStoreTest, KillsTheProgramBeforeTheNextWrite) {
   EXPECT_TRUE(store.SaveSetting("App", "Options", "b", "1"));
 }
 
+TEST(FakeSettingsStoreTest, RefusesFromAnyWriteOnEverythingOneChangeOrOnlySaves) {
+  using Refusal = FakeSettingsStore::Refusal;
+  for (const Refusal refusal : {Refusal::kOne, Refusal::kAll, Refusal::kSaves}) {
+    FakeSettingsStore store;
+    store.RefuseAfterWrites(2, refusal);
+    EXPECT_TRUE(store.SaveSetting("App", "Options", "a", "1"));
+    EXPECT_TRUE(store.SaveSetting("App", "Options", "b", "1"));
+    EXPECT_FALSE(store.SaveSetting("App", "Options", "c", "1"));
+    EXPECT_EQ(store.SaveSetting("App", "Options", "d", "1"), refusal == Refusal::kOne);
+    EXPECT_EQ(store.DeleteSetting("App", "Options", "a"), refusal != Refusal::kAll);
+    EXPECT_EQ(store.DeleteSection("App", "Options"), refusal != Refusal::kAll);
+    store.RefuseNothing();
+    EXPECT_TRUE(store.SaveSetting("App", "Options", "c", "1"));
+  }
+}
+
 TEST(FakeSettingsStoreTest, LogsChangesAndOnRequestReads) {
   CallLog log;
   FakeSettingsStore store(log);
