@@ -174,6 +174,7 @@ class Form : public FormEvents, public CollectedForm, private ControlOwner {
   void StartOrStopTimer(const Control& timer) final;
   bool IsNews(ShowState state, const TwipsRect& place) const;
   bool TakePress(int control, const MouseInput& input);
+  bool TakesInput() const;
 
   // form_keys.cpp: keys of dialogs, access keys and the focus.
   bool DialogKey(int control, int virtualKey, unsigned shift);

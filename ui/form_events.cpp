@@ -186,7 +186,7 @@ void Form::OnMenuOpened(MenuItem& menu) {
 }
 
 void Form::OnMenuClicked(MenuItem& item) {
-  if (!IsLoaded() || !item.enabled || !item.visible) return;
+  if (!IsLoaded() || !item.enabled || !item.visible || !TakesInput()) return;
   RaiseFor(menuClicked_, item.name, item.index);
 }
 
@@ -253,7 +253,12 @@ void Form::OnSysColorChange() {
   if (IsLoaded()) Form_SysColorChange();
 }
 
-void Form::OnCloseRequested(CloseReason reason) { Unload(reason); }
+void Form::OnCloseRequested(CloseReason reason) {
+  if (reason != CloseReason::kUser || TakesInput()) Unload(reason);
+}
+
+/// A message that was in the queue, or comes from another program, reaches a disabled window, too.
+bool Form::TakesInput() const { return state_.enabled && !forms_->IsBlocked(*this); }
 
 void Form::OnTimer(int control) {
   // Any program may post a tick.
