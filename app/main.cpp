@@ -8,6 +8,7 @@
 #include "platform/windows/windows_hot_key_api.h"
 #include "platform/windows/windows_settings_store.h"
 #include "platform/windows/windows_system_api.h"
+#include "platform/windows/windows_virtual_desktops.h"
 #include "platform/windows/windows_window_api.h"
 #include "ui/windows/windows_ui.h"
 
@@ -44,7 +45,9 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, PWSTR /*commandL
   korvale::WindowsClock clock;
   korvale::WindowsTimers timers;
   korvale::WindowsUi ui(instance);
-  korvale::Platform platform{windows, windows, hotKeys, store,     system,     clock,
-                             timers,  ui.host, ui.loop, ui.screen, ui.dialogs, ui.input};
+  korvale::WindowsVirtualDesktops virtualDesktops;
+  korvale::Platform platform{windows,    windows,  hotKeys,        store,   system,
+                             clock,      timers,   ui.host,        ui.loop, ui.screen,
+                             ui.dialogs, ui.input, virtualDesktops};
   return korvale::RunProgram(platform);
 }

@@ -4,7 +4,6 @@
 #include <iterator>
 
 #include "app/core/installation.h"
-#include "desktop/foreground_return.h"
 #include "desktop/waiting_window.h"
 #include "desktop/window_readers.h"
 #include "platform/win32_constants.h"
@@ -70,8 +69,9 @@ std::uint32_t OtherCopy::Patience(Desktop& desktop) {
 void OtherCopy::BringForward(Desktop& desktop, WindowHandle copy) {
   WindowQueries& windows = platform_->windows;
   if (!windows.IsWindowVisible(copy) || !windows.IsWindowEnabled(copy)) {
-    // The other copy is showing something that must be answered first.
-    ReturnForegroundTo(windows, desktop.requests, FindWaitingWindow(windows, copy));
+    // The other copy is showing something that must be answered first, on whatever desktop.
+    const WindowHandle waiting = FindWaitingWindow(windows, copy);
+    if (waiting != 0) desktop.requests.SetForegroundWindow(waiting);
     return;
   }
   WindowTriple window{copy, GetWindowTitle(windows, copy), GetWindowClass(windows, copy)};

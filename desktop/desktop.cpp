@@ -6,8 +6,8 @@ Desktop::Desktop(const DesktopParts& parts, Clock& clock, const OptionsHolder& o
                  MenuItem& windowMenu)
     : DesktopParts(parts),
       tags{MenuItemArray(windowMenu, "mnuWindowParentList")},
-      tagPasses(tags, windows),
-      filter(windows, options, forms, mainWindow),
+      tagPasses(tags, windows, virtualDesktops),
+      filter(windows, virtualDesktops, options, forms, mainWindow),
       requests(parts, clock),
       enumeration(windows, requests, filter, mainWindow, tagPasses),
       actions(parts, requests, filter, enumeration),

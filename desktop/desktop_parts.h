@@ -4,6 +4,7 @@
 #include "desktop/main_window.h"
 #include "desktop/previous_window.h"
 #include "platform/input_devices.h"
+#include "platform/virtual_desktops.h"
 #include "platform/window_api.h"
 #include "util/forms.h"
 
@@ -18,6 +19,7 @@ struct DesktopParts {
   const LoadedForms& forms;
   MessageBoxes& messages;
   PreviousWindow& previous;
+  VirtualDesktops& virtualDesktops;
 };
 
 }  // namespace korvale

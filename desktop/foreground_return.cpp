@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "desktop/window_visibility.h"
+
 namespace korvale {
 
 bool IsOwnForm(const LoadedForms& forms, WindowHandle hwnd) {
@@ -11,7 +13,7 @@ bool IsOwnForm(const LoadedForms& forms, WindowHandle hwnd) {
 }
 
 bool ReturnForegroundTo(WindowQueries& windows, WindowRequests& requests, WindowHandle hwnd) {
-  const bool canBeInFront = windows.IsWindow(hwnd) && windows.IsWindowVisible(hwnd) &&
+  const bool canBeInFront = windows.IsWindow(hwnd) && IsShownHere(windows, hwnd) &&
                             windows.IsWindowEnabled(hwnd) && !windows.IsIconic(hwnd);
   if (canBeInFront) requests.SetForegroundWindow(hwnd);
   return canBeInFront;

@@ -10,8 +10,9 @@ namespace korvale {
 /// which never counts.
 bool IsOwnForm(const LoadedForms& forms, WindowHandle hwnd);
 
-/// Puts the window in front (SetForegroundWindow) when it still can be: it lives, is visible,
-/// enabled and not minimized. Does nothing and returns false otherwise.
+/// Puts the window in front (SetForegroundWindow) when it still can be: it lives, is shown on the
+/// virtual desktop where the user is, enabled and not minimized. Does nothing and returns false
+/// otherwise.
 bool ReturnForegroundTo(WindowQueries& windows, WindowRequests& requests, WindowHandle hwnd);
 
 }  // namespace korvale

@@ -2,9 +2,11 @@
 
 #include <utility>
 
+#include "desktop/shell_surfaces.h"
 #include "desktop/title_match.h"
 #include "desktop/waiting_window.h"
 #include "desktop/window_readers.h"
+#include "desktop/window_visibility.h"
 #include "platform/win32_constants.h"
 #include "util/text.h"
 
@@ -56,6 +58,8 @@ void ForegroundTracker::LookAtForeground() {
     if (!isMain && foreground != previous_->current.handle) ValidatePreviousWindow();
     return;
   }
+  // A window may be in front before Windows shows it to the user.
+  if (IsCloaked(*windows_, foreground)) return;
   mainWindow_->tmrWindow().SetInterval(kTrackingInterval);
   if (AcceptForeground(foreground, title)) {
     Follow({foreground, title, GetWindowClass(*windows_, foreground)});
@@ -70,9 +74,9 @@ void ForegroundTracker::LookBehindDialog(WindowHandle dialog) {
   WindowHandle behind = windows_->GetWindow(dialog, win32::kGwOwner);
   for (int i = 0; i < kMostOwners && behind != 0 && !windows_->IsWindowEnabled(behind); ++i) {
     const std::string title = GetWindowTitle(*windows_, behind);
-    const bool followed =
-        behind != mainWindow_->MainHandle() && windows_->IsWindowVisible(behind) &&
-        filter_->IsSelectableWindow(behind, false, false) && AcceptForeground(behind, title);
+    const bool followed = behind != mainWindow_->MainHandle() && filter_->IsShown(behind) &&
+                          filter_->IsSelectableWindow(behind, false, false) &&
+                          AcceptForeground(behind, title);
     if (followed) return MoveRecordBehindDialog({behind, title, GetWindowClass(*windows_, behind)});
     behind = windows_->GetWindow(behind, win32::kGwOwner);
   }
@@ -107,7 +111,7 @@ WindowHandle ForegroundTracker::WindowBehind(WindowHandle closing) {
   if (windows_->GetForegroundWindow() != closing) return 0;
   const WindowHandle last = inFront_ == closing ? inFrontBefore_ : inFront_;
   // The bare desktop cannot be selected, yet the user may have been there.
-  if (GetWindowClass(*windows_, last) == kBareDesktopClass) return last;
+  if (IsBareDesktop(GetWindowClass(*windows_, last))) return last;
   const WindowHandle before = FindInputWindow(*windows_, last);
   if (last != closing && CanComeBack(before)) return before;
   const WindowTriple* const worked = worked_.First([&](const WindowTriple& window) {
@@ -126,9 +130,8 @@ void ForegroundTracker::ForgetVisit(WindowHandle closing) {
 }
 
 bool ForegroundTracker::CanComeBack(WindowHandle hwnd) {
-  return filter_->IsSelectableWindow(hwnd, false, false) && windows_->IsWindowVisible(hwnd) &&
-         windows_->IsWindowEnabled(hwnd) && !windows_->IsIconic(hwnd) &&
-         GetWindowClass(*windows_, hwnd) != kTaskbarClass;
+  return filter_->IsSelectableWindow(hwnd, false, false) && IsShownHere(*windows_, hwnd) &&
+         windows_->IsWindowEnabled(hwnd) && !windows_->IsIconic(hwnd);
 }
 
 bool ForegroundTracker::AcceptForeground(WindowHandle hwnd, const std::string& title) const {
@@ -234,7 +237,9 @@ void ForegroundTracker::UpdateRecord() {
   const WindowTriple* const next = worked_.First([&](const WindowTriple& window) {
     return window.handle != lastSeen_ && CanBeReached(window);
   });
-  previous_->tagZeroIsAlternate = next == nullptr || next->handle != current;
+  // The only window worked in is the present one only while it is in front.
+  previous_->tagZeroIsAlternate =
+      next == nullptr ? previous_->InFront(*windows_) == current : next->handle != current;
   if (previous_->alternate.handle == main) previous_->alternate.text = mainWindow_->MainCaption();
 }
 

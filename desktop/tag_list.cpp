@@ -4,6 +4,7 @@
 
 #include "desktop/title_match.h"
 #include "desktop/window_readers.h"
+#include "desktop/window_visibility.h"
 #include "util/text.h"
 
 namespace korvale {
@@ -44,8 +45,9 @@ MenuItem& AddTagEntry(TagList& tags, int number, const std::string& caption) {
   return entry;
 }
 
-TagListPasses::TagListPasses(TagList& tags, WindowQueries& windows)
-    : tags_(&tags), windows_(&windows) {}
+TagListPasses::TagListPasses(TagList& tags, WindowQueries& windows,
+                             VirtualDesktops& virtualDesktops)
+    : tags_(&tags), windows_(&windows), virtualDesktops_(&virtualDesktops) {}
 
 std::int16_t TagListPasses::TagListPass(TagListMode mode, std::int16_t tagNumber,
                                         WindowHandle hwnd) {
@@ -80,6 +82,7 @@ void TagListPasses::Match(MenuItem& entry, WindowHandle hwnd) {
   if (!TitleMatches(entry.caption, GetWindowTitle(*windows_, hwnd), true)) return;
   // Only a window with at least one child window counts.
   if (GetRelatedWindow(*windows_, hwnd, 1) == 0) return;
+  if (IsPutAway(*windows_, *virtualDesktops_, hwnd)) return;
   entry.tag = DecimalText(hwnd);
   if (storedClass.empty()) storedClass = GetWindowClass(*windows_, hwnd);
 }

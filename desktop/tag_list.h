@@ -7,6 +7,7 @@
 #include "app/core/stored_tags.h"
 #include "platform/menu_model.h"
 #include "platform/types.h"
+#include "platform/virtual_desktops.h"
 #include "platform/window_api.h"
 
 namespace korvale {
@@ -47,7 +48,7 @@ enum class TagListMode : std::int16_t {
 /// Passes over the Tag entries 1-9.
 class TagListPasses {
  public:
-  TagListPasses(TagList& tags, WindowQueries& windows);
+  TagListPasses(TagList& tags, WindowQueries& windows, VirtualDesktops& virtualDesktops);
 
   /// One pass in ascending order of the Tags; -1 unless `mode` says otherwise.
   std::int16_t TagListPass(TagListMode mode, std::int16_t tagNumber = 0, WindowHandle hwnd = 0);
@@ -60,6 +61,7 @@ class TagListPasses {
 
   TagList* tags_;
   WindowQueries* windows_;
+  VirtualDesktops* virtualDesktops_;
 };
 
 }  // namespace korvale

@@ -16,6 +16,12 @@ bool IsOwnedBy(WindowQueries& windows, WindowHandle hwnd, WindowHandle owner) {
   return false;
 }
 
+/// A dialog on another virtual desktop is cloaked along with its owner, one that is cloaked alone
+/// is not on the screen.
+bool IsCloakedAlone(WindowQueries& windows, WindowHandle dialog, WindowHandle owner) {
+  return windows.DwmGetWindowAttribute(dialog) != 0 && windows.DwmGetWindowAttribute(owner) == 0;
+}
+
 bool TakesInput(WindowQueries& windows, WindowHandle hwnd) {
   return windows.IsWindowVisible(hwnd) && windows.IsWindowEnabled(hwnd);
 }
@@ -26,10 +32,16 @@ WindowHandle FindInputWindow(WindowQueries& windows, WindowHandle hwnd) {
   if (hwnd == 0 || windows.IsWindowEnabled(hwnd)) return hwnd;
   const WindowHandle last = windows.GetLastActivePopup(hwnd);
   const bool folded = windows.IsIconic(hwnd) && windows.IsWindowEnabled(last);
-  if (last != 0 && last != hwnd && (folded || TakesInput(windows, last))) return last;
+  if (last != 0 && last != hwnd && (folded || TakesInput(windows, last)) &&
+      !IsCloakedAlone(windows, last, hwnd)) {
+    return last;
+  }
   WindowHandle found = 0;
   windows.EnumWindows([&](WindowHandle candidate) {
-    if (TakesInput(windows, candidate) && IsOwnedBy(windows, candidate, hwnd)) found = candidate;
+    if (TakesInput(windows, candidate) && IsOwnedBy(windows, candidate, hwnd) &&
+        !IsCloakedAlone(windows, candidate, hwnd)) {
+      found = candidate;
+    }
     return found == 0;
   });
   return found;

@@ -3,10 +3,12 @@
 #include "app/core/identity.h"
 #include "app/core/operations.h"
 #include "desktop/foreground_return.h"
+#include "desktop/shell_surfaces.h"
 #include "desktop/timer_pause.h"
 #include "desktop/title_match.h"
 #include "desktop/waiting_window.h"
 #include "desktop/window_readers.h"
+#include "desktop/window_visibility.h"
 #include "platform/win32_constants.h"
 
 namespace korvale {
@@ -75,7 +77,7 @@ ActivationResult WindowActions::TryActivation(WindowTriple& window, bool act) {
   if (GetWindowClass(*windows_, hwnd) != window.className) return kActivationFailed;
   const ActivationResult restored = act ? RestoreIconicOwner(hwnd) : kActivationDone;
   if (restored != kActivationDone) return restored;
-  if (!windows_->IsWindowVisible(hwnd)) return kWindowNotOpen;
+  if (!filter_->IsShown(hwnd)) return kWindowNotOpen;
   // Read once: some titles are another one at each reading.
   const std::string title = GetWindowTitle(*windows_, hwnd);
   RefreshRecordedTitle(window, title);
@@ -134,7 +136,7 @@ WindowTriple WindowActions::MinimizeOrMaximizeForeground(std::string_view hotKey
   if (!minimize && hotKeyName != RowOf(Operation::kRestoreMaximize).name) return {};
   const TimerPause pause(*mainWindow_);
   const WindowHandle hwnd = previous_->InFront(*windows_);
-  if (hwnd == 0) return {};
+  if (hwnd == 0 || IsShellSurface(GetWindowClass(*windows_, hwnd))) return {};
   if (minimize) return MinimizeForeground(hwnd);
   MaximizeOrRestoreForeground(hwnd);
   return {};
@@ -153,7 +155,8 @@ WindowTriple WindowActions::MinimizeForeground(WindowHandle hwnd) {
     requests_->AwaitAnswer(target);
   }
   WindowTriple& next = previous_->OfTagZero(mainWindow_->FocusTag() == kGotFocus);
-  if (!windows_->IsWindowVisible(next.handle) || windows_->IsIconic(next.handle)) return {};
+  // Minimizing a window must not take the user to another virtual desktop.
+  if (!IsShownHere(*windows_, next.handle) || windows_->IsIconic(next.handle)) return {};
   return ActivatePreviousWindow(next) == kActivationDone ? next : WindowTriple{};
 }
 

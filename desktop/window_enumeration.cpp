@@ -2,6 +2,7 @@
 
 #include "desktop/title_match.h"
 #include "desktop/window_readers.h"
+#include "desktop/window_visibility.h"
 #include "platform/run_time_error.h"
 #include "platform/win32_constants.h"
 #include "util/raised_flag.h"
@@ -49,7 +50,7 @@ void WindowEnumeration::HandleSelectable(WindowHandle hwnd, std::int32_t mode, c
       break;
     case kSearchTitleAndClass:
     case kSearchTitle:
-      if (windows_->IsWindowVisible(hwnd)) visit(hwnd);
+      if (filter_->IsShown(hwnd)) visit(hwnd);
       break;
     default:
       break;
@@ -127,7 +128,7 @@ bool WindowEnumeration::Restore(WindowHandle hwnd) {
 }
 
 bool WindowEnumeration::CanMinimizeOrRestore(WindowHandle hwnd, bool iconic) const {
-  return windows_->GetParent(hwnd) == 0 && windows_->IsWindowVisible(hwnd) &&
+  return windows_->GetParent(hwnd) == 0 && IsShownHere(*windows_, hwnd) &&
          windows_->IsWindowEnabled(hwnd) && windows_->IsIconic(hwnd) == iconic &&
          (windows_->GetWindowLongA(hwnd, win32::kGwlStyle) & win32::kWsMinimizeBox) != 0 &&
          GetRelatedWindow(*windows_, hwnd, 2) == 0;
@@ -138,9 +139,8 @@ bool WindowEnumeration::FitsTitle(WindowHandle hwnd, const std::string& text) co
 }
 
 bool WindowEnumeration::CanBeTopWindow(WindowHandle hwnd) const {
-  if (!windows_->IsWindowVisible(hwnd) || !windows_->IsWindowEnabled(hwnd) ||
-      windows_->IsIconic(hwnd) || hwnd == mainWindow_->MainHandle() ||
-      GetWindowClass(*windows_, hwnd) == kTaskbarClass) {
+  if (!IsShownHere(*windows_, hwnd) || !windows_->IsWindowEnabled(hwnd) ||
+      windows_->IsIconic(hwnd) || hwnd == mainWindow_->MainHandle()) {
     return false;
   }
   return (windows_->GetWindowLongA(hwnd, win32::kGwlExStyle) & win32::kWsExTopmost) == 0;

@@ -2,14 +2,25 @@
 
 #include <string>
 
+#include "desktop/shell_surfaces.h"
 #include "desktop/window_readers.h"
+#include "desktop/window_visibility.h"
 #include "platform/win32_constants.h"
 
 namespace korvale {
 
-WindowFilter::WindowFilter(WindowQueries& windows, const OptionsHolder& options,
-                           const LoadedForms& forms, const MainWindow& mainWindow)
-    : windows_(&windows), options_(&options), forms_(&forms), mainWindow_(&mainWindow) {}
+WindowFilter::WindowFilter(WindowQueries& windows, VirtualDesktops& virtualDesktops,
+                           const OptionsHolder& options, const LoadedForms& forms,
+                           const MainWindow& mainWindow)
+    : windows_(&windows),
+      virtualDesktops_(&virtualDesktops),
+      options_(&options),
+      forms_(&forms),
+      mainWindow_(&mainWindow) {}
+
+bool WindowFilter::IsShown(WindowHandle hwnd) const {
+  return korvale::IsShown(*windows_, *virtualDesktops_, hwnd);
+}
 
 bool WindowFilter::IsSelectableWindow(WindowHandle hwnd, bool checkOptions,
                                       bool skipBasicChecks) const {
@@ -23,7 +34,7 @@ bool WindowFilter::PassesBasicChecks(WindowHandle hwnd, const std::string& title
   if (hwnd == 0 || !windows_->IsWindow(hwnd)) return false;
   // The hidden window that owns the program's forms.
   if (hwnd == windows_->GetWindow(mainWindow_->MainHandle(), win32::kGwOwner)) return false;
-  if (title == "Program Manager" && className == kBareDesktopClass) return false;
+  if (IsShellSurface(className)) return false;
   if (title.empty() && className == "Static") return false;
   return hwnd != FormHandle(*forms_, "frmMsgBox2");
 }

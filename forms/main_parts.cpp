@@ -29,7 +29,7 @@ MainParts::MainParts(Platform& platform, FormCollection& forms, MainWindow& main
                }),
       errors(messages, errorLog, std::move(shutDown)),
       desktop({platform.windows, platform.commands, platform.input, mainWindow, forms, messages,
-               previous},
+               previous, platform.virtualDesktops},
               platform.clock, options, windowMenu),
       display(forms, desktop, desktop.requests, suspension, startup.AlwaysOnTop),
       hotKeys(platform.hotKeys, options, mainWindow),

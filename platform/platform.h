@@ -9,6 +9,7 @@
 #include "platform/settings_store.h"
 #include "platform/system_api.h"
 #include "platform/system_dialogs.h"
+#include "platform/virtual_desktops.h"
 #include "platform/window_api.h"
 
 namespace korvale {
@@ -27,6 +28,7 @@ struct Platform {
   ScreenQueries& screen;
   SystemDialogs& dialogs;
   InputDevices& input;
+  VirtualDesktops& virtualDesktops;
 };
 
 }  // namespace korvale

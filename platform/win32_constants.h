@@ -29,6 +29,11 @@ inline constexpr std::int32_t kDsSysModal = 0x00000002;
 inline constexpr std::int32_t kWsExTopmost = 0x00000008;
 inline constexpr std::int32_t kWsExToolWindow = 0x00000080;
 
+// DwmGetWindowAttribute
+inline constexpr std::uint32_t kDwmCloakedApp = 1;
+inline constexpr std::uint32_t kDwmCloakedShell = 2;
+inline constexpr std::uint32_t kDwmCloakedInherited = 4;
+
 // ShowWindow
 inline constexpr int kSwHide = 0;
 inline constexpr int kSwShowNormal = 1;

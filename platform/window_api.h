@@ -34,6 +34,9 @@ class WindowQueries {
   virtual int GetClassNameA(WindowHandle hwnd, std::span<char> buffer) = 0;
   virtual bool IsWindow(WindowHandle hwnd) = 0;
   virtual bool IsWindowVisible(WindowHandle hwnd) = 0;
+  /// Why Windows keeps a visible window off the screen (DWMWA_CLOAKED), a sum of DWM_CLOAKED_
+  /// values; 0 for a window on the screen, and where Windows cannot tell.
+  virtual std::uint32_t DwmGetWindowAttribute(WindowHandle hwnd) = 0;
   virtual bool IsWindowEnabled(WindowHandle hwnd) = 0;
   virtual bool IsIconic(WindowHandle hwnd) = 0;
   virtual bool IsZoomed(WindowHandle hwnd) = 0;

@@ -1,4 +1,6 @@
 #include <windows.h>
+// After windows.h, which it needs.
+#include <dwmapi.h>
 
 #include "platform/form_host.h"
 #include "platform/win32_constants.h"
@@ -20,6 +22,9 @@ static_assert(kDsModalFrame == DS_MODALFRAME);
 static_assert(kDsSysModal == DS_SYSMODAL);
 static_assert(kWsExTopmost == WS_EX_TOPMOST);
 static_assert(kWsExToolWindow == WS_EX_TOOLWINDOW);
+static_assert(kDwmCloakedApp == DWM_CLOAKED_APP);
+static_assert(kDwmCloakedShell == DWM_CLOAKED_SHELL);
+static_assert(kDwmCloakedInherited == DWM_CLOAKED_INHERITED);
 static_assert(kSwHide == SW_HIDE);
 static_assert(kSwShowNormal == SW_SHOWNORMAL);
 static_assert(kSwMaximize == SW_MAXIMIZE);

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <windows.h>
+// After windows.h, which it needs.
+#include <unknwn.h>
 
 #include <utility>
 
@@ -15,6 +17,8 @@ inline WindowHandle ToWindowHandle(HWND hwnd) { return HandleToLong(hwnd); }
 struct Closer {
   void operator()(HKEY key) const { RegCloseKey(key); }
   void operator()(HANDLE handle) const { CloseHandle(handle); }
+  void operator()(HMODULE library) const { FreeLibrary(library); }
+  void operator()(IUnknown* object) const { object->Release(); }
   void operator()(HBRUSH brush) const { DeleteObject(brush); }
   void operator()(HFONT font) const { DeleteObject(font); }
   void operator()(HICON icon) const { DestroyIcon(icon); }
@@ -66,5 +70,6 @@ using UniqueMenu = UniqueHandle<HMENU>;
 using UniqueModule = UniqueHandle<HMODULE>;
 using UniqueWindow = UniqueHandle<HWND>;
 using UniqueHook = UniqueHandle<HHOOK>;
+using UniqueLibrary = UniqueHandle<HMODULE>;
 
 }  // namespace korvale

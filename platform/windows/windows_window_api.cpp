@@ -5,7 +5,6 @@
 #include <array>
 #include <exception>
 
-#include "platform/windows/handles.h"
 #include "platform/windows/text.h"
 
 namespace korvale {
@@ -30,6 +29,13 @@ BOOL CALLBACK VisitWindow(HWND hwnd, LPARAM parameter) {
 }
 
 }  // namespace
+
+WindowsWindowApi::WindowsWindowApi()
+    : dwmapi_(LoadLibraryExW(L"dwmapi.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32)) {
+  if (!dwmapi_) return;
+  dwmGetWindowAttribute_ = reinterpret_cast<decltype(dwmGetWindowAttribute_)>(
+      reinterpret_cast<void (*)()>(GetProcAddress(dwmapi_.Get(), "DwmGetWindowAttribute")));
+}
 
 void WindowsWindowApi::EnumWindows(const std::function<bool(WindowHandle)>& visit) {
   Enumeration enumeration{&visit, nullptr};
@@ -76,6 +82,15 @@ bool WindowsWindowApi::IsWindow(WindowHandle hwnd) { return ::IsWindow(ToHwnd(hw
 
 bool WindowsWindowApi::IsWindowVisible(WindowHandle hwnd) {
   return ::IsWindowVisible(ToHwnd(hwnd)) != FALSE;
+}
+
+std::uint32_t WindowsWindowApi::DwmGetWindowAttribute(WindowHandle hwnd) {
+  constexpr DWORD kCloaked = 14;  // DWMWA_CLOAKED
+  DWORD value = 0;
+  const bool known =
+      dwmGetWindowAttribute_ != nullptr &&
+      SUCCEEDED(dwmGetWindowAttribute_(ToHwnd(hwnd), kCloaked, &value, sizeof value));
+  return known ? value : 0;
 }
 
 bool WindowsWindowApi::IsWindowEnabled(WindowHandle hwnd) {

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <windows.h>
+
 #include "platform/window_api.h"
+#include "platform/windows/handles.h"
 
 namespace korvale {
 
@@ -8,6 +11,8 @@ namespace korvale {
 /// as UTF-8, so that they do not depend on the code page of the process.
 class WindowsWindowApi final : public WindowQueries, public WindowCommands {
  public:
+  WindowsWindowApi();
+
   void EnumWindows(const std::function<bool(WindowHandle)>& visit) override;
   WindowHandle GetWindow(WindowHandle hwnd, std::uint32_t command) override;
   WindowHandle GetParent(WindowHandle hwnd) override;
@@ -18,6 +23,7 @@ class WindowsWindowApi final : public WindowQueries, public WindowCommands {
   int GetClassNameA(WindowHandle hwnd, std::span<char> buffer) override;
   bool IsWindow(WindowHandle hwnd) override;
   bool IsWindowVisible(WindowHandle hwnd) override;
+  std::uint32_t DwmGetWindowAttribute(WindowHandle hwnd) override;
   bool IsWindowEnabled(WindowHandle hwnd) override;
   bool IsIconic(WindowHandle hwnd) override;
   bool IsZoomed(WindowHandle hwnd) override;
@@ -34,6 +40,11 @@ class WindowsWindowApi final : public WindowQueries, public WindowCommands {
   bool SendMessageTimeoutW(WindowHandle hwnd, std::uint32_t message,
                            std::uint32_t milliseconds) override;
   bool PostMessageW(WindowHandle hwnd, std::uint32_t message) override;
+
+ private:
+  /// dwmapi.dll of the system folder, which need not be there, and its function.
+  UniqueLibrary dwmapi_;
+  HRESULT(WINAPI* dwmGetWindowAttribute_)(HWND, DWORD, PVOID, DWORD) = nullptr;
 };
 
 }  // namespace korvale

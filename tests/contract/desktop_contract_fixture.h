@@ -75,6 +75,7 @@ class DesktopContract : public testing::Test {
   std::unique_ptr<DesktopUnderTest> desktop_ = MakeDesktopUnderTest();
   WindowQueries& queries_ = desktop_->Queries();
   WindowCommands& commands_ = desktop_->Commands();
+  VirtualDesktops& desktops_ = desktop_->Desktops();
   std::vector<WindowHandle> opened_;
 };
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <optional>
 #include <string>
 
 #include "platform/types.h"
@@ -172,6 +173,20 @@ TEST_F(DesktopContract, TellsVisibleFromHiddenAndEnabledFromDisabled) {
   EXPECT_TRUE(queries_.IsWindowEnabled(hidden));
   EXPECT_FALSE(queries_.IsWindowVisible(queries_.GetWindow(hidden, win32::kGwChild)));
   EXPECT_FALSE(queries_.IsHungAppWindow(shown));
+}
+
+TEST_F(DesktopContract, CloaksNoOrdinaryWindow) {
+  const WindowHandle shown = OpenPlain("Shown");
+  const WindowHandle hidden = Open({.title = "Hidden", .visible = false});
+  const WindowHandle gone = OpenPlain("Gone");
+  Close(gone);
+  for (const WindowHandle hwnd : {shown, hidden, gone}) {
+    EXPECT_EQ(queries_.DwmGetWindowAttribute(hwnd), 0U);
+    EXPECT_TRUE(desktops_.IsWindowOnCurrentVirtualDesktop(hwnd));
+  }
+  EXPECT_EQ(desktops_.GetWindowDesktopId(hidden), std::nullopt);
+  EXPECT_EQ(desktops_.GetWindowDesktopId(gone), std::nullopt);
+  EXPECT_FALSE(desktops_.MoveWindowToDesktop(gone, {1}));
 }
 
 TEST_F(DesktopContract, TellsTheStylesOfAWindow) {

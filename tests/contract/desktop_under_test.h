@@ -4,6 +4,7 @@
 #include <string>
 
 #include "platform/types.h"
+#include "platform/virtual_desktops.h"
 #include "platform/window_api.h"
 
 namespace korvale {
@@ -29,6 +30,7 @@ class DesktopUnderTest {
 
   virtual WindowQueries& Queries() = 0;
   virtual WindowCommands& Commands() = 0;
+  virtual VirtualDesktops& Desktops() = 0;
 
   /// Opens a window and, when it is visible, brings it to the foreground as the user does.
   virtual WindowHandle Open(const ContractWindow& window) = 0;

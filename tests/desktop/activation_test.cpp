@@ -180,6 +180,7 @@ TEST_F(Activation, StepsComeInTheirOrder) {
                    "GetWindowLongA(Alpha, GWL_STYLE)",
                    "IsIconic(Alpha)",
                    "IsWindowVisible(Gamma)",
+                   "DwmGetWindowAttribute(Gamma)",
                    "GetWindowTextLengthA(Gamma)",
                    "GetWindowTextA(Gamma, 15)",
                    "IsWindowEnabled(Gamma)",

@@ -72,8 +72,10 @@ class DesktopCase : public testing::Test {
   OptionsHolder options;
   PreviousWindow previous;
   MenuItem menu;
-  Desktop routines{
-      {desktop, desktop, input, mainWindow, forms, messages, previous}, clock, options, menu};
+  Desktop routines{{desktop, desktop, input, mainWindow, forms, messages, previous, desktop},
+                   clock,
+                   options,
+                   menu};
   TagList& tags = routines.tags;
   TagListPasses& passes = routines.tagPasses;
   WindowFilter& filter = routines.filter;

@@ -229,6 +229,7 @@ TEST_F(ForegroundTracking, StepsComeInTheirOrder) {
                           "IsWindow(Gamma)",
                           "GetWindow(Main, GW_OWNER)",
                           "IsWindowVisible(Gamma)",
+                          "DwmGetWindowAttribute(Gamma)",
                           "GetWindowTextLengthA(Gamma)",
                           "GetWindowTextA(Gamma, 15)",
                           "GetWindowLongA(Gamma, GWL_EXSTYLE)",

@@ -115,11 +115,12 @@ TEST_F(MinimizeAndRestoreAll, MinimizeAllReadsInItsOrder) {
   const WindowHandle alpha = desktop.Open("Alpha", {.extraTextLength = 9});
   Calls calls = CallsOf([&] { enumeration.EnumWindowsProc(alpha, kMinimizeAll); });
   calls.erase(calls.begin(), calls.begin() + 5);
-  EXPECT_EQ(calls, (Calls{"GetParent(Alpha)", "IsWindowVisible(Alpha)", "IsWindowEnabled(Alpha)",
-                          "IsIconic(Alpha)", "GetWindowLongA(Alpha, GWL_STYLE)",
-                          "GetWindow(Alpha, GW_OWNER)", "GetWindowThreadProcessId(Main)",
-                          "GetWindowThreadProcessId(Alpha)", "IsWindowVisible(Alpha)",
-                          "ShowWindowAsync(Alpha, SW_MINIMIZE)", "IsIconic(Alpha)"}));
+  EXPECT_EQ(calls,
+            (Calls{"GetParent(Alpha)", "IsWindowVisible(Alpha)", "DwmGetWindowAttribute(Alpha)",
+                   "IsWindowEnabled(Alpha)", "IsIconic(Alpha)", "GetWindowLongA(Alpha, GWL_STYLE)",
+                   "GetWindow(Alpha, GW_OWNER)", "GetWindowThreadProcessId(Main)",
+                   "GetWindowThreadProcessId(Alpha)", "IsWindowVisible(Alpha)",
+                   "ShowWindowAsync(Alpha, SW_MINIMIZE)", "IsIconic(Alpha)"}));
 }
 
 }  // namespace

@@ -143,8 +143,9 @@ TEST_F(TagListTest, MatchingReadsInItsOrder) {
   EXPECT_EQ(CallsOf([&] { Match(hwnd); }),
             (Calls{"GetClassNameA(Alpha, 255)", "GetWindowTextLengthA(Alpha)",
                    "GetWindowTextA(Alpha, 15)", "GetWindow(Alpha, GW_CHILD)",
-                   "GetWindowTextLengthA(Alpha)", "GetWindowTextA(Alpha, 15)",
-                   "GetWindow(Alpha, GW_CHILD)", "GetClassNameA(Alpha, 255)"}));
+                   "DwmGetWindowAttribute(Alpha)", "GetWindowTextLengthA(Alpha)",
+                   "GetWindowTextA(Alpha, 15)", "GetWindow(Alpha, GW_CHILD)",
+                   "DwmGetWindowAttribute(Alpha)", "GetClassNameA(Alpha, 255)"}));
 }
 
 TEST_F(TagListTest, MatchingReadsNothingForAResolvedEntry) {

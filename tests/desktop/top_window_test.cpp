@@ -78,7 +78,7 @@ TEST_F(TopWindow, IsNoneOnAnEmptyDesktop) {
 TEST_F(TopWindow, CounterOverflowsInsteadOfWidening) {
   CrowdedDesktop crowded(log);
   crowded.Open("Alpha");
-  const WindowFilter crowdedFilter(crowded, options, forms, mainWindow);
+  const WindowFilter crowdedFilter(crowded, crowded, options, forms, mainWindow);
   WindowEnumeration counting(crowded, routines.requests, crowdedFilter, mainWindow, passes);
   EXPECT_EQ(ErrorOf([&] { counting.FindTopWindow(); }), RunTimeError::kOverflow);
 }
@@ -87,8 +87,9 @@ TEST_F(TopWindow, ReadsInItsOrder) {
   const WindowHandle alpha = desktop.Open("Alpha", {.extraTextLength = 9});
   Calls calls = CallsOf([&] { enumeration.EnumWindowsProc(alpha, kTopWindow); });
   calls.erase(calls.begin(), calls.begin() + 5);
-  EXPECT_EQ(calls, (Calls{"IsWindowVisible(Alpha)", "IsWindowEnabled(Alpha)", "IsIconic(Alpha)",
-                          "GetClassNameA(Alpha, 255)", "GetWindowLongA(Alpha, GWL_EXSTYLE)"}));
+  EXPECT_EQ(calls, (Calls{"IsWindowVisible(Alpha)", "DwmGetWindowAttribute(Alpha)",
+                          "IsWindowEnabled(Alpha)", "IsIconic(Alpha)",
+                          "GetWindowLongA(Alpha, GWL_EXSTYLE)"}));
 }
 
 }  // namespace

@@ -177,9 +177,10 @@ TEST_F(WindowEnumerationTest, SearchByTitleAndClassReadsInItsOrder) {
   desktop.Open("Alpha", {.extraTextLength = 9});
   Calls calls = CallsOf([&] { enumeration.FindByTitleAndClass("Alpha", "Window"); });
   calls.erase(calls.begin(), calls.begin() + 6);
-  calls.resize(4);
-  EXPECT_EQ(calls, (Calls{"IsWindowVisible(Alpha)", "GetClassNameA(Alpha, 255)",
-                          "GetWindowTextLengthA(Alpha)", "GetWindowTextA(Alpha, 15)"}));
+  calls.resize(5);
+  EXPECT_EQ(calls, (Calls{"IsWindowVisible(Alpha)", "DwmGetWindowAttribute(Alpha)",
+                          "GetClassNameA(Alpha, 255)", "GetWindowTextLengthA(Alpha)",
+                          "GetWindowTextA(Alpha, 15)"}));
 }
 
 TEST_F(WindowEnumerationTest, InstanceSearchFindsTheLowestOtherCopy) {

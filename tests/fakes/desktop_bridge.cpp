@@ -11,7 +11,6 @@ namespace {
 constexpr int kTwipsPerPixel = 15;
 constexpr std::int32_t kWsSysMenu = 0x00080000;
 constexpr std::int32_t kWsThickFrame = 0x00040000;
-constexpr std::int32_t kWsExAppWindow = 0x00040000;
 
 std::int32_t StyleOf(const FormState& form) {
   if (form.border == BorderStyle::kNone) return fakes::kWsPopup;
@@ -48,7 +47,7 @@ WindowHandle DesktopBridge::Create(const FormState& form, int children) {
   window.className = "Korvale." + form.name;
   window.owner = OwnerOf(form);
   window.style = StyleOf(form);
-  window.exStyle = form.inTaskbar ? kWsExAppWindow : 0;
+  window.exStyle = form.inTaskbar ? fakes::kWsExAppWindow : 0;
   if (form.aside) window.exStyle |= fakes::kWsExNoActivate | win32::kWsExTopmost;
   window.visible = false;
   window.children = children;
@@ -61,7 +60,7 @@ WindowHandle DesktopBridge::Create(const FormState& form, int children) {
 WindowHandle DesktopBridge::OwnerOf(const FormState& form) const {
   if (form.inTaskbar) return owner_;
   for (const auto& [hwnd, state] : states_) {
-    if ((windows_->Find(hwnd)->exStyle & kWsExAppWindow) != 0) return hwnd;
+    if ((windows_->Find(hwnd)->exStyle & fakes::kWsExAppWindow) != 0) return hwnd;
   }
   return owner_;
 }

@@ -33,8 +33,10 @@ struct DispatchDesktop {
   PreviousWindow previous;
   Suspension suspension;
   FakeMessageBoxes messages;
-  Desktop routines{
-      {desktop, desktop, input, mainWindow, forms, messages, previous}, clock, options, windowMenu};
+  Desktop routines{{desktop, desktop, input, mainWindow, forms, messages, previous, desktop},
+                   clock,
+                   options,
+                   windowMenu};
   TagList& tags = routines.tags;
   ForegroundTracker& tracker = routines.tracker;
 };

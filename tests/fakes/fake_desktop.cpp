@@ -34,11 +34,18 @@ void FakeDesktop::OpenShell() {
                            .style = fakes::kWsPopup,
                            .exStyle = win32::kWsExToolWindow,
                            .activate = false,
-                           .atBottom = true});
+                           .atBottom = true,
+                           .onEveryDesktop = true});
   Open("", {.className = "Shell_TrayWnd",
             .style = fakes::kWsPopup,
             .exStyle = win32::kWsExToolWindow | win32::kWsExTopmost,
-            .activate = false});
+            .activate = false,
+            .onEveryDesktop = true});
+  Open("Start", {.className = "Windows.UI.Core.CoreWindow",
+                 .style = fakes::kWsPopup,
+                 .exStyle = win32::kWsExTopmost,
+                 .activate = false,
+                 .flyout = true});
 }
 
 void FakeDesktop::Close(WindowHandle hwnd) {
@@ -156,7 +163,7 @@ std::string FakeDesktop::Title(WindowHandle hwnd) const {
 std::vector<std::string> FakeDesktop::VisibleTitles() const {
   std::vector<std::string> titles;
   for (const WindowHandle hwnd : windows_.TopLevel()) {
-    if (windows_.IsVisible(hwnd)) titles.push_back(Title(hwnd));
+    if (windows_.IsVisible(hwnd) && windows_.CloakOf(hwnd) == 0) titles.push_back(Title(hwnd));
   }
   return titles;
 }

@@ -2,11 +2,13 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
 
 #include "platform/types.h"
+#include "platform/virtual_desktops.h"
 #include "platform/window_api.h"
 #include "tests/fakes/call_log.h"
 #include "tests/fakes/fake_clock.h"
@@ -17,7 +19,7 @@ namespace korvale {
 
 /// A Windows desktop in memory: answers the calls of a program, logs them, and lets a test act as
 /// the user and as the other programs. What the test does is not logged.
-class FakeDesktop : public WindowQueries, public WindowCommands {
+class FakeDesktop : public WindowQueries, public WindowCommands, public VirtualDesktops {
  public:
   explicit FakeDesktop(CallLog& log) : log_(log) {}
 
@@ -27,7 +29,7 @@ class FakeDesktop : public WindowQueries, public WindowCommands {
   WindowHandle OpenModalDialog(WindowHandle owner, const std::string& title);
   /// Enables the owner again and closes the dialog.
   void CloseModalDialog(WindowHandle dialog);
-  /// Opens the taskbar and the desktop's own window, as they stand on every desktop.
+  /// Opens the taskbar, the desktop's own window and Start, as they stand on every desktop.
   void OpenShell();
   void Close(WindowHandle hwnd);
   void Rename(WindowHandle hwnd, const std::string& title);
@@ -57,12 +59,18 @@ class FakeDesktop : public WindowQueries, public WindowCommands {
   /// While delayed, SetForegroundWindow succeeds at once, but the windows come forward only when
   /// the delay ends, as Windows does with a window of another thread.
   void DelayForeground(bool delayed);
+  /// Goes to a virtual desktop, 1 and up, as with a key; its topmost window comes to the front.
+  void UserSwitchesDesktop(int number) { windows_.SwitchDesktop(number); }
+  /// Windows keeps a suspended Store program's window off the screen; it stays visible otherwise.
+  void SetSuspended(WindowHandle hwnd, bool suspended);
+  /// The manager of virtual desktops does not answer.
+  void LoseVirtualDesktopManager() { has_desktop_manager_ = false; }
 
   // What a test looks at.
   std::string Title(WindowHandle hwnd) const;
   /// "" when nothing is in the foreground.
   std::string ForegroundTitle() const { return Title(windows_.Foreground()); }
-  /// Titles of the visible top-level windows, topmost first.
+  /// Titles of the top-level windows on the screen, topmost first.
   std::vector<std::string> VisibleTitles() const;
   /// How many calls would have waited for a hung window.
   int CallsThatWaited() const { return calls_that_waited_; }
@@ -80,6 +88,7 @@ class FakeDesktop : public WindowQueries, public WindowCommands {
   int GetClassNameA(WindowHandle hwnd, std::span<char> buffer) override;
   bool IsWindow(WindowHandle hwnd) override;
   bool IsWindowVisible(WindowHandle hwnd) override;
+  std::uint32_t DwmGetWindowAttribute(WindowHandle hwnd) override;
   bool IsWindowEnabled(WindowHandle hwnd) override;
   bool IsIconic(WindowHandle hwnd) override;
   bool IsZoomed(WindowHandle hwnd) override;
@@ -98,7 +107,14 @@ class FakeDesktop : public WindowQueries, public WindowCommands {
                            std::uint32_t milliseconds) override;
   bool PostMessageW(WindowHandle hwnd, std::uint32_t message) override;
 
+  // VirtualDesktops
+  bool IsWindowOnCurrentVirtualDesktop(WindowHandle hwnd) override;
+  std::optional<VirtualDesktopId> GetWindowDesktopId(WindowHandle hwnd) override;
+  bool MoveWindowToDesktop(WindowHandle hwnd, const VirtualDesktopId& desktop) override;
+
  private:
+  /// The window when it has a virtual desktop of its own, else null.
+  const FakeWindow* View(const FakeWindow* window) const;
   /// Logs a reading call on a window, then gives the window, null when it is gone.
   const FakeWindow* Read(const char* call, WindowHandle hwnd, const std::string& argument = "");
   FakeWindow& Existing(WindowHandle hwnd);
@@ -117,6 +133,7 @@ class FakeDesktop : public WindowQueries, public WindowCommands {
   FakeWindows windows_;
   FakeClock* clock_ = nullptr;
   bool foreground_delayed_ = false;
+  bool has_desktop_manager_ = true;
   std::vector<WindowHandle> coming_forward_;
   int calls_that_waited_ = 0;
 };

@@ -103,6 +103,10 @@ bool FakeDesktop::IsWindowVisible(WindowHandle hwnd) {
   return Read("IsWindowVisible", hwnd) != nullptr && windows_.IsVisible(hwnd);
 }
 
+std::uint32_t FakeDesktop::DwmGetWindowAttribute(WindowHandle hwnd) {
+  return Read("DwmGetWindowAttribute", hwnd) == nullptr ? 0 : windows_.CloakOf(hwnd);
+}
+
 bool FakeDesktop::IsWindowEnabled(WindowHandle hwnd) {
   const FakeWindow* const window = Read("IsWindowEnabled", hwnd);
   return window != nullptr && window->enabled;

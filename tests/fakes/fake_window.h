@@ -28,6 +28,8 @@ struct NewWindow {
   int children = 1;              ///< Child windows made along with it.
   int process = kOtherProcess;   ///< kOtherProcess, or a number of one of our programs.
   bool elevated = false;         ///< Its program runs as administrator.
+  bool onEveryDesktop = false;   ///< On all virtual desktops, like the taskbar.
+  bool flyout = false;           ///< Cloaked unless it is in front, like Start.
   int extraTextLength = 0;       ///< Added by GetWindowTextLengthA.
   WindowHandle reuseHandle = 0;  ///< Takes this handle of a window that is gone.
 };
@@ -62,6 +64,9 @@ struct FakeWindow {
   bool atBottom = false;
   int process = kOtherProcess;
   bool elevated = false;
+  int virtualDesktop = 0;     ///< 0 = all of them.
+  std::uint32_t cloaked = 0;  ///< DWM_CLOAKED_ values, but for the virtual desktops.
+  bool flyout = false;
   int extraTextLength = 0;
   int titleReadings = -1;  ///< Counted in front of the title; -1 = not counted.
   PixelRect place;

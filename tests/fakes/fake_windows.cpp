@@ -29,6 +29,8 @@ FakeWindow WindowFrom(WindowHandle handle, const std::string& title, const NewWi
   window.atBottom = options.atBottom;
   window.process = options.process;
   window.elevated = options.elevated;
+  window.flyout = options.flyout;
+  if (options.flyout) window.cloaked = win32::kDwmCloakedShell;
   window.extraTextLength = options.extraTextLength;
   return window;
 }
@@ -52,6 +54,7 @@ WindowHandle FakeWindows::Create(const std::string& title, const NewWindow& opti
     if (owner == nullptr) throw std::logic_error("a window cannot be owned by one that is gone");
     if (IsTopmost(*owner)) window.exStyle |= win32::kWsExTopmost;
   }
+  if (!options.onEveryDesktop && !options.flyout) window.virtualDesktop = current_desktop_;
   order_.Add(handle);
   for (int i = 0; i < options.children; ++i) CreateChild(handle, "Child");
   if (options.visible && options.activate && !options.iconic) Activate(handle);
@@ -126,7 +129,10 @@ bool FakeWindows::IsVisible(WindowHandle hwnd) const {
 void FakeWindows::Activate(WindowHandle hwnd) {
   if (hwnd != 0) order_.Raise(hwnd);
   if (foreground_ == hwnd) return;
+  FakeWindow* const left = Find(foreground_);
+  if (left != nullptr && left->flyout) left->cloaked = win32::kDwmCloakedShell;
   foreground_ = hwnd;
+  FollowToDesktopOf(hwnd);
   if (hwnd != 0) windows_.at(order_.WithOwners(hwnd).back()).lastActivePopup = hwnd;
   Notify([&](DesktopObserver& observer) { observer.OnForegroundChanged(hwnd); });
 }

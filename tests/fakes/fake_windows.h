@@ -76,6 +76,18 @@ class FakeWindows {
   /// The window, or the one of its group that was active last; only for windows without an owner.
   WindowHandle LastActivePopupOf(WindowHandle hwnd) const;
 
+  // fake_windows_desktops.cpp
+  /// The virtual desktop where the user is; they start on the first.
+  int CurrentDesktop() const { return current_desktop_; }
+  void SwitchDesktop(int desktop);
+  /// The window, or the owner along with which Windows shows it, as it is not in the taskbar
+  /// itself.
+  WindowHandle ViewOf(WindowHandle hwnd) const;
+  /// The window is on this virtual desktop, 0 = on all of them.
+  int DesktopOf(WindowHandle hwnd) const;
+  /// Why the window is not on the screen, a sum of DWM_CLOAKED_ values.
+  std::uint32_t CloakOf(WindowHandle hwnd) const;
+
   void AddObserver(DesktopObserver& observer);
   void RemoveObserver(DesktopObserver& observer);
   void NotifyPosted(WindowHandle hwnd, std::uint32_t message);
@@ -90,6 +102,7 @@ class FakeWindows {
   /// The windows in the order in which they come next when this one goes.
   std::vector<WindowHandle> Following(WindowHandle hwnd) const;
   void ActivateNext(const std::vector<WindowHandle>& candidates);
+  void FollowToDesktopOf(WindowHandle hwnd);
   void EraseWithChildren(WindowHandle hwnd);
 
   void Notify(const std::function<void(DesktopObserver&)>& tell) const;
@@ -98,6 +111,7 @@ class FakeWindows {
   FakeZOrder order_;
   WindowHandle foreground_ = 0;
   ForegroundLock lock_ = ForegroundLock::kNone;
+  int current_desktop_ = 1;
   WindowHandle next_handle_;
   std::vector<DesktopObserver*> observers_;
 };

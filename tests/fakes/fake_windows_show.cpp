@@ -20,7 +20,10 @@ bool LeavesForeground(int command) {
 
 void FakeWindows::Show(WindowHandle hwnd, int command) {
   FakeWindow* const window = Find(hwnd);
+  const bool was_visible = window != nullptr && window->visible;
   if (window == nullptr || !Apply(*window, command)) return;
+  // A window that is shown anew comes up where the user is.
+  if (!was_visible && window->virtualDesktop != 0) window->virtualDesktop = current_desktop_;
   if (window->parent == 0) {
     std::vector<WindowHandle> candidates = Following(hwnd);
     if (command == win32::kSwHide && window->owner != 0) {
@@ -104,6 +107,7 @@ std::vector<WindowHandle> FakeWindows::Following(WindowHandle hwnd) const {
 bool FakeWindows::CanTakeOver(WindowHandle hwnd, bool acceptToolWindows) const {
   const FakeWindow* const window = Find(hwnd);
   if (window == nullptr || !IsVisible(hwnd) || !window->enabled || window->iconic) return false;
+  if (CloakOf(hwnd) != 0) return false;
   if ((window->exStyle & fakes::kWsExNoActivate) != 0) return false;
   if ((window->exStyle & win32::kWsExToolWindow) == 0) return true;
   return acceptToolWindows && (window->exStyle & win32::kWsExTopmost) == 0;

@@ -14,6 +14,7 @@ inline constexpr std::int32_t kWsDisabled = 0x08000000;
 inline constexpr std::int32_t kWsMaximize = 0x01000000;
 inline constexpr std::int32_t kWsCaption = 0x00C00000;
 inline constexpr std::int32_t kWsOverlappedWindow = 0x00CF0000;
+inline constexpr std::int32_t kWsExAppWindow = 0x00040000;
 inline constexpr std::int32_t kWsExNoActivate = 0x08000000;
 
 inline constexpr int kSwShowMinimized = 2;

@@ -15,6 +15,7 @@ class FakeDesktopUnderTest : public DesktopUnderTest {
  public:
   WindowQueries& Queries() override { return desktop_; }
   WindowCommands& Commands() override { return desktop_; }
+  VirtualDesktops& Desktops() override { return desktop_; }
   WindowHandle Open(const ContractWindow& window) override {
     NewWindow options;
     options.className = window.className;

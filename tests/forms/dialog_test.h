@@ -61,7 +61,8 @@ class DialogTest : public testing::Test {
   PreviousWindow previous_;
   FakeMainWindow mainWindow_;
   FakeMessageBoxes messages_;
-  DesktopParts parts_{desktop_, desktop_, host_, mainWindow_, forms_, messages_, previous_};
+  DesktopParts parts_{desktop_, desktop_,  host_,     mainWindow_,
+                      forms_,   messages_, previous_, desktop_};
   WindowRequests requests_{parts_, clock_};
   FormDisplay display_{forms_, parts_, requests_, suspension_, alwaysOnTop_};
 };

@@ -98,7 +98,7 @@ class TwoMonitorsTest : public FormDisplayTest {
   FormCollection forms{host, host, host, clock_};
   Dialog dialog{kDialogDesign, forms};
   Dialog owner{kOwnerDesign, forms};
-  DesktopParts parts{desktop, desktop, host, mainWindow_, forms, messages_, previous_};
+  DesktopParts parts{desktop, desktop, host, mainWindow_, forms, messages_, previous_, desktop};
   WindowRequests requests{parts, clock_};
   FormDisplay display{forms, parts, requests, suspension_, alwaysOnTop_};
 };

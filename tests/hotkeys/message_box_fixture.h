@@ -71,8 +71,10 @@ class MessageBoxTest : public testing::Test {
   OptionsHolder record;
   MenuItem windowMenu;
   SuspendingMessageBoxes messages{routines, host, suspension, [this] { return modal; }};
-  Desktop routines{
-      {desktop, desktop, host, mainWindow, forms, messages, previous}, clock, record, windowMenu};
+  Desktop routines{{desktop, desktop, host, mainWindow, forms, messages, previous, desktop},
+                   clock,
+                   record,
+                   windowMenu};
 };
 
 }  // namespace korvale

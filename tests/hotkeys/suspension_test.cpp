@@ -104,8 +104,10 @@ class HotKeyDuringMessageBoxTest : public HotKeyDispatchTest {
  protected:
   MessageBoxHost host{log};
   SuspendingMessageBoxes boxes{withBoxes, host, suspension, [] { return 0; }};
-  Desktop withBoxes{
-      {desktop, desktop, input, mainWindow, forms, boxes, previous}, clock, options, windowMenu};
+  Desktop withBoxes{{desktop, desktop, input, mainWindow, forms, boxes, previous, desktop},
+                    clock,
+                    options,
+                    windowMenu};
   HotKeyDispatch live{withBoxes, suspension, actions, toggle, errors};
 };
 

@@ -219,6 +219,16 @@ TEST_F(FirstActivationTest, ThePreviousWindowIsSelectedWhenTheOptionSaysSo) {
   EXPECT_EQ(Front(), "Alpha");
 }
 
+TEST_F(FirstActivationTest, AfterAMinimizedStartTheWayBackLeadsToTheOnlyWindowWorkedIn) {
+  store.SaveSetting("Korvale - Work", "Startup", "WindowState", "1");
+  Open("Alpha");
+  Open("Tool", {.exStyle = win32::kWsExToolWindow});
+  StartedCopy();
+  EXPECT_EQ(Front(), "Tool");
+  ExpectTagLeadsTo(0, "Alpha");
+  ExpectTagLeadsTo(0, "Alpha");
+}
+
 TEST_F(FirstActivationTest, TheSessionCanEndWhileTheReviewIsOffered) {
   KorvaleCopy& korvale = NewCopy();
   int boxes = 0;

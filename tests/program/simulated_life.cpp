@@ -54,7 +54,6 @@ void SimulatedLife::Note(std::string what) {
 void SimulatedLife::StartKorvale() {
   korvale_ = &NewCopy();
   workedIn_.ForgetAll();
-  taskbarFollowed_ = false;
   korvale_->host.SetIdle([this] { return LiveInDialog(); });
   noMoreBoxes_ = false;
   WaitForBoxes();

@@ -116,8 +116,6 @@ class SimulatedLife : public KorvaleWorld {
   /// What other programs have taken; Korvale may not have asked again since.
   std::set<Combination> taken_;
   Kept saved_;
-  /// The taskbar is an untitled palette: a user who has asked for both kinds may get to it as well.
-  bool taskbarFollowed_ = false;
   bool noMoreBoxes_ = false;
 };
 

@@ -148,15 +148,16 @@ std::string SimulatedPrograms::Bother(WindowHandle hwnd) {
   return CloseWindow(hwnd);
 }
 
-/// A click into the taskbar or onto the bare desktop.
+/// A click into the taskbar or onto the bare desktop, or a look into Start.
 std::string SimulatedPrograms::VisitShell() {
-  const char* const name = dice_->OneIn(2) ? "Shell_TrayWnd" : "Progman";
+  constexpr std::array kPlaces = {"Shell_TrayWnd", "Progman", "Windows.UI.Core.CoreWindow"};
+  const std::string name = dice_->Pick(kPlaces);
   for (const WindowHandle hwnd : desktop_->Windows().TopLevel()) {
     if (desktop_->Windows().Find(hwnd)->className != name) continue;
     desktop_->UserActivates(hwnd);
     break;
   }
-  return "is left for " + std::string(name);
+  return "is left for " + name;
 }
 
 std::string SimulatedPrograms::LockForeground() {

@@ -4,6 +4,7 @@
 
 #include "platform/windows/handles.h"
 #include "platform/windows/text.h"
+#include "platform/windows/windows_virtual_desktops.h"
 #include "platform/windows/windows_window_api.h"
 #include "tests/contract/desktop_changing_contract.h"
 #include "tests/contract/desktop_reading_contract.h"
@@ -55,6 +56,7 @@ class WindowsDesktopUnderTest final : public DesktopUnderTest {
 
   WindowQueries& Queries() override { return api_; }
   WindowCommands& Commands() override { return api_; }
+  VirtualDesktops& Desktops() override { return virtualDesktops_; }
 
   WindowHandle Open(const ContractWindow& window) override {
     HWND hwnd = nullptr;
@@ -101,6 +103,7 @@ class WindowsDesktopUnderTest final : public DesktopUnderTest {
   }
 
   WindowsWindowApi api_;
+  WindowsVirtualDesktops virtualDesktops_;
   WindowThread thread_;
   std::set<HWND> opened_;
 };

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <windows.h>
+// After windows.h, which it needs.
+#include <shobjidl.h>
+
+#include "platform/virtual_desktops.h"
+#include "platform/windows/handles.h"
+
+namespace korvale {
+
+/// The virtual desktops through the shell's manager, which is made when it is first needed; COM
+/// must be ready then. Explorer answers, which may be ending or just starting.
+class WindowsVirtualDesktops final : public VirtualDesktops {
+ public:
+  bool IsWindowOnCurrentVirtualDesktop(WindowHandle hwnd) override;
+  std::optional<VirtualDesktopId> GetWindowDesktopId(WindowHandle hwnd) override;
+  bool MoveWindowToDesktop(WindowHandle hwnd, const VirtualDesktopId& desktop) override;
+
+ private:
+  bool HasManager();
+  /// Whether the call succeeded; a manager that has lost Explorer is made anew next time.
+  bool Keep(HRESULT result);
+
+  UniqueHandle<IVirtualDesktopManager*> manager_;
+};
+
+}  // namespace korvale

@@ -1,0 +1,48 @@
+#include "platform/win32_constants.h"
+#include "tests/fakes/fake_desktop.h"
+
+namespace korvale {
+namespace {
+
+/// As long as that of a real desktop, and never empty.
+VirtualDesktopId IdOf(int desktop) { return {0xD0, static_cast<std::uint8_t>(desktop)}; }
+
+/// What Windows answers for a window that the user has put on every desktop.
+constexpr VirtualDesktopId kEveryDesktop = {0xE0};
+
+}  // namespace
+
+void FakeDesktop::SetSuspended(WindowHandle hwnd, bool suspended) {
+  Existing(hwnd).cloaked = suspended ? win32::kDwmCloakedShell : 0;
+  if (suspended && windows_.Foreground() == hwnd) windows_.Activate(0);
+}
+
+/// Windows knows the desktop only of windows that its taskbar shows, and not of its own.
+const FakeWindow* FakeDesktop::View(const FakeWindow* window) const {
+  const bool known = window != nullptr && has_desktop_manager_ && window->parent == 0 &&
+                     window->visible && windows_.ViewOf(window->handle) == window->handle &&
+                     (window->exStyle & win32::kWsExToolWindow) == 0 && !window->flyout;
+  return known ? window : nullptr;
+}
+
+bool FakeDesktop::IsWindowOnCurrentVirtualDesktop(WindowHandle hwnd) {
+  const FakeWindow* const view = View(Read("IsWindowOnCurrentVirtualDesktop", hwnd));
+  return view == nullptr || view->virtualDesktop == 0 ||
+         view->virtualDesktop == windows_.CurrentDesktop();
+}
+
+std::optional<VirtualDesktopId> FakeDesktop::GetWindowDesktopId(WindowHandle hwnd) {
+  const FakeWindow* const view = View(Read("GetWindowDesktopId", hwnd));
+  if (view == nullptr) return std::nullopt;
+  return view->virtualDesktop == 0 ? kEveryDesktop : IdOf(view->virtualDesktop);
+}
+
+bool FakeDesktop::MoveWindowToDesktop(WindowHandle hwnd, const VirtualDesktopId& desktop) {
+  log_.Add("MoveWindowToDesktop(" + log_.Window(hwnd) + ")");
+  const FakeWindow* const view = View(windows_.Find(hwnd));
+  if (view == nullptr || view->process == kOtherProcess || desktop == kEveryDesktop) return false;
+  Existing(hwnd).virtualDesktop = desktop[1];
+  return true;
+}
+
+}  // namespace korvale
