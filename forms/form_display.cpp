@@ -1,6 +1,7 @@
 #include "forms/form_display.h"
 
 #include "desktop/foreground_return.h"
+#include "desktop/user_desktop.h"
 #include "platform/win32_constants.h"
 #include "util/raised_flag.h"
 
@@ -17,6 +18,7 @@ FormDisplay::FormDisplay(FormCollection& forms, const DesktopParts& desktop,
 std::string FormDisplay::ShowFormModal(Form& form, const DisplaySwitches& switches,
                                        std::int32_t /*milliseconds*/, const PlaceHints& hints,
                                        Form* owner) {
+  ComeToUser();
   if (form.Visible()) {
     // A second loop for the same form would never see its end.
     BringToFront(form, switches);
@@ -37,6 +39,7 @@ std::string FormDisplay::ShowFormModal(Form& form, const DisplaySwitches& switch
 }
 
 void FormDisplay::ShowFormAside(Form& form) {
+  ComeToUser();
   // A second loop for the same form would only hold up what waits for the first.
   if (form.Visible()) return;
   const RaisedFlag shown(suspension_->DialogShown);
@@ -48,6 +51,7 @@ void FormDisplay::ShowFormAside(Form& form) {
 
 void FormDisplay::ShowFormNonModal(Form& form, const DisplaySwitches& switches, Form* owner) {
   if (!form.IsLoaded()) return;
+  ComeToUser();
   if (!form.Visible()) {
     Place(form, switches, {}, owner);
     if (switches.takeForeground != 0) {
@@ -64,6 +68,12 @@ void FormDisplay::ShowFormNonModal(Form& form, const DisplaySwitches& switches, 
     KeepInWorkArea(form);
   }
   BringToFront(form, switches);
+}
+
+/// All forms hang on the main window: where that is, they are.
+void FormDisplay::ComeToUser() {
+  BringToUsersDesktop(desktop_->windows, desktop_->virtualDesktops,
+                      desktop_->mainWindow.MainHandle());
 }
 
 void FormDisplay::Place(Form& form, const DisplaySwitches& switches, const PlaceHints& hints,

@@ -23,7 +23,8 @@ struct DisplaySwitches {
   std::int16_t takeForeground = 1;  ///< Made the foreground window; 0 = not even active.
 };
 
-/// Places and shows the forms of the program.
+/// Places and shows the forms of the program, on the virtual desktop where the user is; the main
+/// window, which owns them all, comes along.
 class FormDisplay {
  public:
   /// `alwaysOnTop` is the live state of the main window.
@@ -46,6 +47,7 @@ class FormDisplay {
   void ShowFormNonModal(Form& form, const DisplaySwitches& switches, Form* owner);
 
  private:
+  void ComeToUser();
   void Place(Form& form, const DisplaySwitches& switches, const PlaceHints& hints,
              const Form* owner);
   void BringToFront(Form& form, const DisplaySwitches& switches);

@@ -4,6 +4,7 @@
 
 #include "app/core/identity.h"
 #include "desktop/foreground_return.h"
+#include "desktop/user_desktop.h"
 #include "desktop/window_readers.h"
 #include "hotkeys/hot_key_names.h"
 #include "platform/run_time_error.h"
@@ -153,6 +154,7 @@ void HotKeyDispatch::PopUpWindowMenu() {
   const WindowHandle left = desktop_->windows.GetForegroundWindow();
   const WindowHandle before = desktop_->previous.InFront(desktop_->windows);
   WindowHandle selected = 0;
+  BringToUsersDesktop(desktop_->windows, desktop_->virtualDesktops, main);
   desktop_->requests.SetForegroundWindow(main);
   actions_->SetWindowMenuTag(kHotKeyWindowMenuPopup);
   try {

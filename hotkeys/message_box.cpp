@@ -3,7 +3,9 @@
 #include <utility>
 
 #include "desktop/foreground_return.h"
+#include "desktop/user_desktop.h"
 #include "desktop/waiting_window.h"
+#include "desktop/window_visibility.h"
 #include "platform/run_time_error.h"
 
 namespace korvale {
@@ -87,16 +89,22 @@ std::int16_t SuspendingMessageBoxes::Show(const std::string& prompt, std::int32_
 /// Windows enables the owner of a closed box and brings it to the front, so the owner must be what
 /// the user sees below the box: another box or a dialog of Windows, a dialog of ours, or the main
 /// window. A main window that is still hidden would be activated when its box closes, and then not
-/// when it is shown.
+/// when it is shown, and one on another virtual desktop stays there, as it is disabled anyway; a
+/// box without an owner comes up where the user is.
 WindowHandle SuspendingMessageBoxes::Owner() {
   const WindowHandle main = desktop_->mainWindow.MainHandle();
   const bool overAnother = suspension_->MessageBoxDepth > 1 || suspension_->DialogShown;
   const WindowHandle below =
       overAnother ? FindWaitingWindow(desktop_->windows, main, kDialogClass) : 0;
-  for (const WindowHandle owner : {below, dialogOnTop_(), main}) {
-    if (owner != 0 && desktop_->windows.IsWindowVisible(owner)) return owner;
+  for (const WindowHandle owner : {below, dialogOnTop_()}) {
+    if (owner == 0 || !desktop_->windows.IsWindowVisible(owner)) continue;
+    BringToUsersDesktop(desktop_->windows, desktop_->virtualDesktops, owner);
+    return owner;
   }
-  return 0;
+  const bool visible = desktop_->windows.IsWindowVisible(main);
+  const bool elsewhere =
+      visible && FindOnOtherDesktop(desktop_->windows, desktop_->virtualDesktops, main) != 0;
+  return visible && !elsewhere ? main : 0;
 }
 
 void SuspendingMessageBoxes::GiveForegroundBack(WindowHandle before) {

@@ -1,0 +1,25 @@
+#include "desktop/user_desktop.h"
+
+#include <optional>
+
+#include "desktop/window_visibility.h"
+
+namespace korvale {
+
+void BringToUsersDesktop(WindowQueries& windows, VirtualDesktops& desktops, WindowHandle hwnd) {
+  const WindowHandle away = FindOnOtherDesktop(windows, desktops, hwnd);
+  if (away == 0) return;
+  std::optional<VirtualDesktopId> tried;
+  // A window that the user has put on every desktop has an id to which no other can be moved.
+  const auto movesBeside = [&](WindowHandle other) {
+    if (!IsShownHere(windows, other)) return false;
+    const std::optional<VirtualDesktopId> desktop = desktops.GetWindowDesktopId(other);
+    if (!desktop || desktop == tried) return false;
+    tried = desktop;
+    return desktops.MoveWindowToDesktop(away, *desktop);
+  };
+  if (movesBeside(windows.GetForegroundWindow())) return;
+  windows.EnumWindows([&](WindowHandle other) { return !movesBeside(other); });
+}
+
+}  // namespace korvale
