@@ -1,6 +1,7 @@
 #include "tests/endtoend/harness/color_dialog.h"
 #include "tests/endtoend/harness/main_window.h"
 #include "tests/endtoend/harness/screen.h"
+#include "tests/endtoend/harness/system_color.h"
 #include "tests/endtoend/korvale_test.h"
 
 namespace korvale::endtoend {
@@ -75,21 +76,6 @@ TEST_F(Colors, ChosenForABoxAreShownAtOnceAndStoredByTheNextMenuCommand) {
   Start();
   EXPECT_TRUE(Shows(TitleBox(), kRed));
 }
-
-/// A system colour that the user has changed, for what starts from now on.
-class SystemColor {
- public:
-  SystemColor(int index, COLORREF color) : index_(index), before_(GetSysColor(index)) {
-    SetSysColors(1, &index_, &color);
-  }
-  SystemColor(const SystemColor&) = delete;
-  SystemColor& operator=(const SystemColor&) = delete;
-  ~SystemColor() { SetSysColors(1, &index_, &before_); }
-
- private:
-  int index_;
-  COLORREF before_;
-};
 
 TEST_F(Colors, OfTheTextStandOffFromThePaleBoxesUnderWhiteSystemText) {
   const SystemColor white(COLOR_WINDOWTEXT, RGB(255, 255, 255));

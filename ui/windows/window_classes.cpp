@@ -1,6 +1,7 @@
 #include "ui/windows/window_classes.h"
 
 #include <algorithm>
+#include <cstdint>
 
 #include "platform/windows/text.h"
 
@@ -43,7 +44,9 @@ std::wstring WindowClasses::Register(std::string_view name, WNDPROC procedure) {
   description.hIcon = large_.Get();
   description.hIconSm = small_.Get();
   description.hCursor = LoadPointer(nullptr, MousePointer::kDefault);
-  description.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
+  // The number of the colour instead of a brush, which is only good until the colours change.
+  description.hbrBackground =
+      reinterpret_cast<HBRUSH>(static_cast<std::uintptr_t>(COLOR_BTNFACE) + 1);
   description.lpszClassName = fullName.c_str();
   if (RegisterClassExW(&description) != 0) registered_.push_back(fullName);
   return fullName;

@@ -5,6 +5,7 @@
 
 #include "platform/windows/text.h"
 #include "tests/endtoend/contract/real_form.h"
+#include "tests/endtoend/harness/system_color.h"
 
 namespace korvale {
 namespace {
@@ -53,6 +54,38 @@ TEST_F(WindowsFormLookTest, ALabelThatLosesItsBorderShowsNothingOfItsFormerColor
     for (const LONG y : {area.top, area.bottom - 1}) EXPECT_EQ(GetPixel(screen, x, y), face) << x;
   }
   ReleaseDC(nullptr, screen);
+}
+
+TEST_F(WindowsFormLookTest, AnOpenFormTakesOnOtherSystemColorsAndKeepsTheUsersOwn) {
+  ShowForm();
+  form_.Find("lblClick").SetText("");
+  form_.Find("txtFixed").SetBackColor(0x9FFFFF);
+  {
+    const endtoend::SystemColor face(COLOR_BTNFACE, RGB(0, 0, 0));
+    EXPECT_EQ(ColorOf(Control("lblClick")), RGB(0, 0, 0));
+    EXPECT_EQ(ColorOf(Hwnd()), RGB(0, 0, 0));
+    EXPECT_EQ(ColorOf(Control("txtFixed")), 0x9FFFFFU);
+  }
+  EXPECT_EQ(ColorOf(Control("lblClick")), GetSysColor(COLOR_BTNFACE));
+}
+
+TEST_F(WindowsFormLookTest, AnOpenFormIsToldWhenHighContrastIsTurnedOnAndOff) {
+  ShowForm();
+  HIGHCONTRASTW before{};
+  before.cbSize = sizeof(before);
+  SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof(before), &before, 0);
+  for (const DWORD flags : {before.dwFlags | HCF_HIGHCONTRASTON, before.dwFlags}) {
+    const int changes = form_.colorChanges;
+    HIGHCONTRASTW contrast = before;
+    contrast.dwFlags = flags;
+    if (SystemParametersInfoW(SPI_SETHIGHCONTRAST, sizeof(contrast), &contrast, SPIF_SENDCHANGE) ==
+        FALSE) {
+      GTEST_SKIP() << "the system has no high contrast";
+    }
+    User().LetPass(100);
+    EXPECT_EQ(Screen().HighContrast(), (flags & HCF_HIGHCONTRASTON) != 0);
+    EXPECT_GT(form_.colorChanges, changes);
+  }
 }
 
 TEST_F(WindowsFormLookTest, AToolTipInOneLineIsShownAsItIsWritten) {
