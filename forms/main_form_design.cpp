@@ -70,6 +70,7 @@ FormDesign MainFormDesign() {
   design.modalFrame = false;
   design.inTaskbar = true;
   design.exactHeight = true;
+  design.role = FormRole::kWindow;
   design.controls = kStripControls;
   design.menu = kMenus;
   return design;

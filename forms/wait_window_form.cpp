@@ -15,6 +15,7 @@ constexpr FormDesign kWaitWindowDesign = {.name = "frmWaitWindow",
                                           .caption = "",
                                           .place = {0, 0, 4800, 1450},
                                           .aside = true,
+                                          .role = FormRole::kAlert,
                                           .controls = kWaitControls};
 
 }  // namespace

@@ -116,6 +116,10 @@ enum class BorderStyle { kSizable, kFixedDialog, kNone };
 
 enum class ShowState { kNormal = 0, kMinimized = 1, kMaximized = 2 };
 
+/// What a form is to a screen reader: a window to work in; a dialog, whose texts are read out when
+/// the user gets there; or an alert, which is read out when it appears, wherever the user works.
+enum class FormRole { kWindow, kDialog, kAlert };
+
 /// The sizes that the user, or maximizing, can give a form, in twips; 0 = any.
 struct SizeLimits {
   Twips minimumWidth = 0;
@@ -141,6 +145,7 @@ struct FormState {
   /// Stands above all windows, and becomes active neither when shown nor when clicked
   /// (WS_EX_TOPMOST, WS_EX_NOACTIVATE).
   bool aside = false;
+  FormRole role = FormRole::kDialog;
   bool visible = false;
   bool enabled = true;
   ShowState windowState = ShowState::kNormal;

@@ -70,6 +70,7 @@ void Form::BuildFromDesign() {
   state_.modalFrame = design_.modalFrame;
   state_.inTaskbar = design_.inTaskbar;
   state_.aside = design_.aside;
+  state_.role = design_.role;
   state_.menu = MenuBar(design_.menu);
   place_ = design_.place;
   focused_ = 0;

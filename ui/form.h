@@ -36,6 +36,7 @@ struct FormDesign {
   /// The height counts the frame and menu that the window really has; otherwise it counts the
   /// classic frame (400 twips) and the window grows with a higher one, so that no control is cut.
   bool exactHeight = false;
+  FormRole role = FormRole::kDialog;
   std::span<const ControlRow> controls = {};
   std::span<const MenuRow> menu = {};
 };

@@ -151,6 +151,16 @@ void HeadlessFormHost::UpdateControl(WindowHandle hwnd, int control, ControlProp
   CopyProperty(shown, window.form->controls[static_cast<std::size_t>(control) - 1], property);
   // An open list that is given a new place closes without a notification.
   if (property == ControlProperty::kPlace) shown.dropped = false;
+  if (property == ControlProperty::kText) Announce(window);
+}
+
+void HeadlessFormHost::Announce(const HeadlessWindow& window) {
+  if (window.form->role != FormRole::kAlert || !desktop_->IsShown(window.handle)) return;
+  std::string text = window.form->caption;
+  for (const HeadlessControl& control : window.controls) {
+    if (control.shown.kind == ControlKind::kLabel) text += ": " + control.shown.text;
+  }
+  announced_.push_back(text);
 }
 
 void HeadlessFormHost::SetWindowTextW(WindowHandle hwnd) {
@@ -192,7 +202,10 @@ void HeadlessFormHost::EnableWindow(WindowHandle hwnd, bool enable) {
 void HeadlessFormHost::ShowWindow(WindowHandle hwnd, int command) {
   log_->Add("ShowWindow(" + log_->Window(hwnd) + ", " + ShowCommandText(command) + ")");
   Window(hwnd);
+  const bool shown = desktop_->IsShown(hwnd);
   desktop_->Show(hwnd, command);
+  const HeadlessWindow* const window = FindWindow(hwnd);
+  if (!shown && window != nullptr) Announce(*window);
 }
 
 void HeadlessFormHost::WindowActivated(WindowHandle hwnd) {

@@ -85,6 +85,8 @@ class HeadlessFormHost : public FormHost,
   /// Every message box so far.
   const std::vector<ShownMessage>& Messages() const { return messages_; }
   bool MessageBoxUp() const { return !boxes_.empty(); }
+  /// The texts of the alerts that a screen reader has been told of.
+  const std::vector<std::string>& Announced() const { return announced_; }
   /// A tick of a timer, as the clock gives it.
   void DeliverTimer(WindowHandle hwnd, int id);
 
@@ -144,6 +146,8 @@ class HeadlessFormHost : public FormHost,
     std::function<void()> action;
   };
 
+  /// Tells the screen reader of an alert that is shown; no other form is one.
+  void Announce(const HeadlessWindow& window);
   void TellColorsChanged();
   void TellMetricsChanged();
   /// The frame of a form in twips of the usual text.
@@ -177,6 +181,7 @@ class HeadlessFormHost : public FormHost,
   bool popUpEnded_ = false;
   std::vector<ShownMessage> messages_;
   std::vector<ShownMessage> boxes_;
+  std::vector<std::string> announced_;
   TwipsRect frame_ = {45, 355, 90, 400};
   Twips menuHeight_ = 300;
   TwipsRect workArea_ = {0, 0, 15360, 11100};

@@ -29,6 +29,21 @@ TEST_F(WaitWindowTest, ShowsCaptionAndText) {
   ShowWaitWindow();
 }
 
+TEST_F(WaitWindowTest, IsReadOutToThoseWhoDoNotSeeIt) {
+  host_.WhenWaiting([] {});
+  ShowWaitWindow();
+  EXPECT_EQ(host_.Announced(),
+            (std::vector<std::string>{"Korvale - Hot Keys (OFF): Hot Keys are now Deactivated"}));
+}
+
+TEST_F(WaitWindowTest, IsReadOutAgainWithAnotherText) {
+  host_.WhenWaiting(
+      [&] { form_.ShowWaitWindow("Korvale - Hot Keys (ON)", "Hot Keys are now Activated", 800); });
+  ShowWaitWindow();
+  ASSERT_EQ(host_.Announced().size(), 2U);
+  EXPECT_EQ(host_.Announced().back(), "Korvale - Hot Keys (ON): Hot Keys are now Activated");
+}
+
 TEST_F(WaitWindowTest, SuspendsTheHotKeys) {
   host_.WhenWaiting([&] { EXPECT_TRUE(suspension_.DialogShown); });
   ShowWaitWindow();

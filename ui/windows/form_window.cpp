@@ -6,6 +6,7 @@
 #include "platform/windows/text.h"
 #include "ui/windows/control_window.h"
 #include "ui/windows/message_guard.h"
+#include "ui/windows/screen_reader.h"
 
 namespace korvale {
 
@@ -47,6 +48,7 @@ HWND FormWindow::Create(HWND owner, FormEvents& events) {
                             FormStyle(*form_), place.left, place.top, place.width, place.height,
                             owner, nullptr, classes_->Instance(), this);
   if (hwnd_ == nullptr) return nullptr;
+  if (form_->role != FormRole::kWindow) TellRole(hwnd_, form_->role);
   scale_ = FormScale(*form_, hwnd_);
   ShowIcons();
   // Underlines of access keys and focus frames appear once the keyboard is used.
@@ -90,7 +92,13 @@ void FormWindow::ShowMenuBar() {
 void FormWindow::Show(int command) {
   // A window that comes up under the mouse does not mean that the mouse has moved.
   GetCursorPos(&lastMouse_);
+  const bool shown = IsWindowVisible(hwnd_) != FALSE;
   ::ShowWindow(hwnd_, command);
+  if (!shown) Announce();
+}
+
+void FormWindow::Announce() const {
+  if (form_->role == FormRole::kAlert && IsWindowVisible(hwnd_) != FALSE) AnnounceAlert(hwnd_);
 }
 
 void FormWindow::SetFocus(int control) {
@@ -186,6 +194,7 @@ std::optional<LRESULT> FormWindow::HandleEnd(UINT message, WPARAM wParam) {
       return 0;
     case WM_DESTROY:
       events_.Disconnect();
+      if (form_->role != FormRole::kWindow) ForgetRole(hwnd_);
       menu_.DropBar(hwnd_);
       controls_.Drop();
       return 0;

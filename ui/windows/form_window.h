@@ -41,6 +41,8 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   void ShowPlace();
   void ShowMenuBar();
   void Show(int command);
+  /// Lets screen readers read an alert that is shown; no other form is one.
+  void Announce() const;
   void SetFocus(int control);
   void TrackPopup(MenuItem& menu);
   void RequestClose(CloseReason reason);

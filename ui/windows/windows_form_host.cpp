@@ -79,7 +79,10 @@ void WindowsFormHost::DestroyWindow(WindowHandle hwnd) {
 }
 
 void WindowsFormHost::UpdateControl(WindowHandle hwnd, int control, ControlProperty property) {
-  if (const auto form = forms_->Find(hwnd)) form->Controls().Update(control, property);
+  const auto form = forms_->Find(hwnd);
+  if (form == nullptr) return;
+  form->Controls().Update(control, property);
+  if (property == ControlProperty::kText) form->Announce();
 }
 
 void WindowsFormHost::SetWindowTextW(WindowHandle hwnd) {

@@ -1,0 +1,111 @@
+#include <gtest/gtest.h>
+#include <windows.h>
+// After windows.h, which they need; the first makes the others define their identifiers.
+#include <initguid.h>
+#include <objbase.h>
+#include <oleacc.h>
+
+#include <utility>
+#include <vector>
+
+#include "platform/windows/handles.h"
+#include "tests/endtoend/contract/real_form.h"
+
+namespace korvale {
+namespace {
+
+constexpr FormDesign WithRole(FormRole role) {
+  FormDesign design = DialogDesign("frmRole");
+  design.role = role;
+  return design;
+}
+
+/// What a screen reader gets of real windows.
+class WindowsScreenReaderTest : public RealForm {
+ protected:
+  WindowsScreenReaderTest() : com_(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)) {
+    told_.clear();
+    hook_ = SetWinEventHook(EVENT_SYSTEM_ALERT, EVENT_SYSTEM_ALERT, nullptr, Note,
+                            GetCurrentProcessId(), 0, WINEVENT_OUTOFCONTEXT);
+  }
+  ~WindowsScreenReaderTest() override {
+    UnhookWinEvent(hook_);
+    if (SUCCEEDED(com_)) CoUninitialize();
+  }
+
+  /// The windows of the alerts that have been told of since the last call.
+  std::vector<HWND> Told() {
+    User().LetPass(100);
+    return std::exchange(told_, {});
+  }
+  /// False where the system keeps no roles, as Wine does.
+  static bool SystemKeepsRoles(HWND window) {
+    IAccPropServices* services = nullptr;
+    if (FAILED(CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER,
+                                IID_IAccPropServices, reinterpret_cast<void**>(&services)))) {
+      return false;
+    }
+    const HRESULT cleared = services->ClearHwndProps(window, static_cast<DWORD>(OBJID_CURSOR),
+                                                     CHILDID_SELF, &PROPID_ACC_ROLE, 1);
+    services->Release();
+    return SUCCEEDED(cleared);
+  }
+  static LONG RoleOf(HWND window) {
+    const HMODULE library = LoadLibraryW(L"oleacc.dll");
+    using Get = HRESULT(WINAPI*)(HWND, DWORD, REFIID, void**);
+    const auto get = reinterpret_cast<Get>(
+        reinterpret_cast<void*>(GetProcAddress(library, "AccessibleObjectFromWindow")));
+    IAccessible* object = nullptr;
+    get(window, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible,
+        reinterpret_cast<void**>(&object));
+    VARIANT self{};
+    self.vt = VT_I4;
+    VARIANT role{};
+    object->get_accRole(self, &role);
+    object->Release();
+    return role.lVal;
+  }
+
+  HRESULT com_;
+
+ private:
+  static void CALLBACK Note(HWINEVENTHOOK, DWORD, HWND window, LONG, LONG, DWORD, DWORD) {
+    told_.push_back(window);
+  }
+
+  static inline std::vector<HWND> told_;
+  HWINEVENTHOOK hook_ = nullptr;
+};
+
+TEST_F(WindowsScreenReaderTest, IsToldOfAnAlertThatComesUpAndOfEveryOtherTextInIt) {
+  RecordingForm alert(WithRole(FormRole::kAlert), forms_);
+  alert.Load();
+  alert.Find("cmdOK").SetText("Fine");
+  EXPECT_TRUE(Told().empty());
+  alert.Show();
+  EXPECT_EQ(Told(), std::vector{ToHwnd(alert.Handle())});
+  alert.Find("cmdOK").SetText("Well");
+  EXPECT_EQ(Told(), std::vector{ToHwnd(alert.Handle())});
+}
+
+TEST_F(WindowsScreenReaderTest, IsNotDisturbedByOtherForms) {
+  for (const FormRole role : {FormRole::kDialog, FormRole::kWindow}) {
+    RecordingForm form(WithRole(role), forms_);
+    form.Show();
+    form.Find("cmdOK").SetText("Fine");
+    EXPECT_TRUE(Told().empty());
+  }
+}
+
+TEST_F(WindowsScreenReaderTest, LearnsTheRoleOfAForm) {
+  RecordingForm dialog(WithRole(FormRole::kDialog), forms_);
+  dialog.Show();
+  if (!SystemKeepsRoles(ToHwnd(dialog.Handle()))) GTEST_SKIP() << "the system keeps no roles";
+  EXPECT_EQ(RoleOf(ToHwnd(dialog.Handle())), ROLE_SYSTEM_DIALOG);
+  RecordingForm alert(WithRole(FormRole::kAlert), forms_);
+  alert.Show();
+  EXPECT_EQ(RoleOf(ToHwnd(alert.Handle())), ROLE_SYSTEM_ALERT);
+}
+
+}  // namespace
+}  // namespace korvale
