@@ -13,6 +13,7 @@
 #include "ui/windows/form_menu.h"
 #include "ui/windows/form_scale.h"
 #include "ui/windows/key_filter.h"
+#include "ui/windows/system_colors.h"
 #include "ui/windows/window_classes.h"
 
 namespace korvale {
@@ -102,6 +103,7 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   const MousePointer* pointer_;
   EventSink events_;
   FormScale scale_;
+  SystemColors colors_ = SystemColors::Now();
   FormControls controls_;
   FormMenu menu_;
   std::optional<KeyFilter> keys_;

@@ -12,18 +12,11 @@ void FormWindow::HandleLook(UINT message, WPARAM wParam, LPARAM lParam) {
       OnDpiChanged(LOWORD(wParam), lParam);
       break;
     case WM_SETTINGCHANGE:
-      // Whoever sends it: what counts is what has changed, not what the message says.
-      OnMetricsChanged();
-      if (wParam == SPI_SETHIGHCONTRAST) OnColorsChanged();
-      break;
     case WM_DISPLAYCHANGE:
-      OnMetricsChanged();
-      break;
     case WM_THEMECHANGED:
-      OnMetricsChanged();
-      OnColorsChanged();
-      break;
     case WM_SYSCOLORCHANGE:
+      // Whoever sends them: what counts is what has changed, not what the message says.
+      OnMetricsChanged();
       OnColorsChanged();
       break;
     default:
@@ -105,6 +98,9 @@ void FormWindow::OnMetricsChanged() {
 }
 
 void FormWindow::OnColorsChanged() {
+  const SystemColors now = SystemColors::Now();
+  if (now == colors_) return;
+  colors_ = now;
   brushes_->Clear();
   controls_.TellSysColorChange();
   RedrawWindow(hwnd_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);

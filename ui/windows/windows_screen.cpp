@@ -6,6 +6,7 @@
 #include "platform/windows/text.h"
 #include "ui/windows/brush_cache.h"
 #include "ui/windows/form_window.h"
+#include "ui/windows/system_colors.h"
 #include "ui/windows/system_fonts.h"
 #include "ui/windows/units.h"
 
@@ -50,11 +51,6 @@ Twips WindowsScreen::GetTextExtentPoint32W(WindowHandle hwnd, const std::string&
 
 Color WindowsScreen::GetSysColor(Color color) { return static_cast<Color>(ToColorRef(color)); }
 
-bool WindowsScreen::HighContrast() {
-  HIGHCONTRASTW contrast{};
-  contrast.cbSize = sizeof(contrast);
-  return SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof(contrast), &contrast, 0) != FALSE &&
-         (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0;
-}
+bool WindowsScreen::HighContrast() { return IsHighContrastOn(); }
 
 }  // namespace korvale
