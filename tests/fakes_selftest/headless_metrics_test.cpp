@@ -1,0 +1,75 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "tests/contract/contract_form.h"
+#include "tests/fakes/fake_clock.h"
+#include "tests/fakes/headless_form_host.h"
+#include "tests/fakes/headless_user.h"
+#include "tests/fakes/plain_desktop.h"
+
+namespace korvale {
+namespace {
+
+/// A screen whose user has chosen other sizes.
+class HeadlessMetricsTest : public testing::Test {
+ protected:
+  CallLog log_;
+  PlainDesktop desktop_;
+  FakeClock clock_;
+  HeadlessFormHost host_{desktop_, log_};
+  HeadlessUser user_{host_, clock_};
+  FormCollection forms_{host_, host_, host_, clock_};
+  RecordingForm strip_{kStripDesign, forms_};
+};
+
+TEST_F(HeadlessMetricsTest, BiggerTextMakesTwipsOfAFormLargerAndItsFrameNot) {
+  strip_.Show();
+  host_.ChangeTextSize(200);
+  EXPECT_EQ(host_.GetDpiForWindow(strip_.Handle()), 192);
+  EXPECT_EQ(host_.AdjustWindowRectEx(strip_.State()), (TwipsRect{23, 178, 45, 200}));
+  EXPECT_EQ(host_.GetWindowRect(strip_.Handle()), (TwipsRect{1500, 900, 12000, 3000}));
+  EXPECT_EQ(host_.GetTextExtentPoint32W(strip_.Handle(), "menu"), 800);
+}
+
+TEST_F(HeadlessMetricsTest, OnAFineScreenBiggerTextCountsFromItsDots) {
+  host_.SetDpi(144);
+  strip_.Show();
+  host_.ChangeTextSize(150);
+  EXPECT_EQ(host_.GetDpiForWindow(strip_.Handle()), 216);
+  EXPECT_EQ(host_.GetWindowRect(strip_.Handle()).width, 9000);
+}
+
+TEST_F(HeadlessMetricsTest, AFormOfAFixedSizeGrowsOnlyIntoTheWorkArea) {
+  RecordingForm dialog(DialogDesign("frmDialog"), forms_);
+  dialog.Show();
+  host_.SetWorkArea({0, 0, 3000, 1500});
+  host_.ChangeTextSize(225);
+  EXPECT_EQ(host_.GetDpiForWindow(dialog.Handle()), 96);
+}
+
+TEST_F(HeadlessMetricsTest, EveryFormIsToldOnce) {
+  strip_.Show();
+  const int before = strip_.resizes;
+  host_.ChangeTextSize(150);
+  EXPECT_EQ(strip_.resizes, before + 1);
+}
+
+TEST_F(HeadlessMetricsTest, OnlyShownAlertsAreAnnounced) {
+  FormDesign design = DialogDesign("frmAlert");
+  design.role = FormRole::kAlert;
+  design.caption = "Alert";
+  RecordingForm alert(design, forms_);
+  alert.Load();
+  alert.Find("cmdOK").SetText("Fine");
+  strip_.Show();
+  EXPECT_TRUE(host_.Announced().empty());
+  alert.Show();
+  EXPECT_EQ(host_.Announced(), std::vector<std::string>{"Alert"});
+  alert.Show();
+  EXPECT_EQ(host_.Announced().size(), 1U);
+}
+
+}  // namespace
+}  // namespace korvale
