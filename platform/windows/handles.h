@@ -17,7 +17,6 @@ inline WindowHandle ToWindowHandle(HWND hwnd) { return HandleToLong(hwnd); }
 struct Closer {
   void operator()(HKEY key) const { RegCloseKey(key); }
   void operator()(HANDLE handle) const { CloseHandle(handle); }
-  void operator()(HMODULE library) const { FreeLibrary(library); }
   void operator()(IUnknown* object) const { object->Release(); }
   void operator()(HBRUSH brush) const { DeleteObject(brush); }
   void operator()(HFONT font) const { DeleteObject(font); }
@@ -70,6 +69,5 @@ using UniqueMenu = UniqueHandle<HMENU>;
 using UniqueModule = UniqueHandle<HMODULE>;
 using UniqueWindow = UniqueHandle<HWND>;
 using UniqueHook = UniqueHandle<HHOOK>;
-using UniqueLibrary = UniqueHandle<HMODULE>;
 
 }  // namespace korvale

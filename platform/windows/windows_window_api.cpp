@@ -30,13 +30,6 @@ BOOL CALLBACK VisitWindow(HWND hwnd, LPARAM parameter) {
 
 }  // namespace
 
-WindowsWindowApi::WindowsWindowApi()
-    : dwmapi_(LoadLibraryExW(L"dwmapi.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32)) {
-  if (!dwmapi_) return;
-  dwmGetWindowAttribute_ = reinterpret_cast<decltype(dwmGetWindowAttribute_)>(
-      reinterpret_cast<void (*)()>(GetProcAddress(dwmapi_.Get(), "DwmGetWindowAttribute")));
-}
-
 void WindowsWindowApi::EnumWindows(const std::function<bool(WindowHandle)>& visit) {
   Enumeration enumeration{&visit, nullptr};
   ::EnumWindows(VisitWindow, reinterpret_cast<LPARAM>(&enumeration));
@@ -85,11 +78,10 @@ bool WindowsWindowApi::IsWindowVisible(WindowHandle hwnd) {
 }
 
 std::uint32_t WindowsWindowApi::DwmGetWindowAttribute(WindowHandle hwnd) {
-  constexpr DWORD kCloaked = 14;  // DWMWA_CLOAKED
   DWORD value = 0;
   const bool known =
       dwmGetWindowAttribute_ != nullptr &&
-      SUCCEEDED(dwmGetWindowAttribute_(ToHwnd(hwnd), kCloaked, &value, sizeof value));
+      SUCCEEDED(dwmGetWindowAttribute_(ToHwnd(hwnd), DWMWA_CLOAKED, &value, sizeof(value)));
   return known ? value : 0;
 }
 

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <windows.h>
+// After windows.h, which it needs.
+#include <dwmapi.h>
 
 #include "platform/window_api.h"
-#include "platform/windows/handles.h"
+#include "platform/windows/system_library.h"
 
 namespace korvale {
 
@@ -11,8 +13,6 @@ namespace korvale {
 /// as UTF-8, so that they do not depend on the code page of the process.
 class WindowsWindowApi final : public WindowQueries, public WindowCommands {
  public:
-  WindowsWindowApi();
-
   void EnumWindows(const std::function<bool(WindowHandle)>& visit) override;
   WindowHandle GetWindow(WindowHandle hwnd, std::uint32_t command) override;
   WindowHandle GetParent(WindowHandle hwnd) override;
@@ -42,9 +42,9 @@ class WindowsWindowApi final : public WindowQueries, public WindowCommands {
   bool PostMessageW(WindowHandle hwnd, std::uint32_t message) override;
 
  private:
-  /// dwmapi.dll of the system folder, which need not be there, and its function.
-  UniqueLibrary dwmapi_;
-  HRESULT(WINAPI* dwmGetWindowAttribute_)(HWND, DWORD, PVOID, DWORD) = nullptr;
+  SystemLibrary dwmapi_{L"dwmapi.dll"};
+  decltype(::DwmGetWindowAttribute)* const dwmGetWindowAttribute_ =
+      dwmapi_.Find<decltype(::DwmGetWindowAttribute)>("DwmGetWindowAttribute");
 };
 
 }  // namespace korvale
