@@ -3,10 +3,12 @@
 #include <optional>
 
 #include "desktop/window_visibility.h"
+#include "platform/win32_constants.h"
 
 namespace korvale {
 
-void BringToUsersDesktop(WindowQueries& windows, VirtualDesktops& desktops, WindowHandle hwnd) {
+void BringToUsersDesktop(WindowQueries& windows, WindowCommands& commands,
+                         VirtualDesktops& desktops, WindowHandle hwnd) {
   const WindowHandle away = FindOnOtherDesktop(windows, desktops, hwnd);
   if (away == 0) return;
   std::optional<VirtualDesktopId> tried;
@@ -18,8 +20,16 @@ void BringToUsersDesktop(WindowQueries& windows, VirtualDesktops& desktops, Wind
     tried = desktop;
     return desktops.MoveWindowToDesktop(away, *desktop);
   };
-  if (movesBeside(windows.GetForegroundWindow())) return;
-  windows.EnumWindows([&](WindowHandle other) { return !movesBeside(other); });
+  bool moved = movesBeside(windows.GetForegroundWindow());
+  if (!moved) {
+    windows.EnumWindows([&](WindowHandle other) {
+      moved = movesBeside(other);
+      return !moved;
+    });
+  }
+  if (moved) return;
+  commands.ShowWindow(away, win32::kSwHide);
+  commands.ShowWindow(away, win32::kSwShowNa);
 }
 
 }  // namespace korvale

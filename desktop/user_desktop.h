@@ -7,8 +7,9 @@ namespace korvale {
 
 /// Moves a window of ours to the virtual desktop where the user is (MoveWindowToDesktop), with the
 /// windows that it owns and along with its owners, so that showing it does not take the user to
-/// another desktop. Nothing moves when it is there already, or when no window tells which desktop
-/// that is.
-void BringToUsersDesktop(WindowQueries& windows, VirtualDesktops& desktops, WindowHandle hwnd);
+/// another desktop. Does nothing when it is there already. Where no window tells which desktop that
+/// is, it is hidden and shown again, which Windows does where the user is.
+void BringToUsersDesktop(WindowQueries& windows, WindowCommands& commands,
+                         VirtualDesktops& desktops, WindowHandle hwnd);
 
 }  // namespace korvale

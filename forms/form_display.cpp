@@ -72,7 +72,7 @@ void FormDisplay::ShowFormNonModal(Form& form, const DisplaySwitches& switches, 
 
 /// All forms hang on the main window: where that is, they are.
 void FormDisplay::ComeToUser() {
-  BringToUsersDesktop(desktop_->windows, desktop_->virtualDesktops,
+  BringToUsersDesktop(desktop_->windows, desktop_->commands, desktop_->virtualDesktops,
                       desktop_->mainWindow.MainHandle());
 }
 

@@ -154,7 +154,7 @@ void HotKeyDispatch::PopUpWindowMenu() {
   const WindowHandle left = desktop_->windows.GetForegroundWindow();
   const WindowHandle before = desktop_->previous.InFront(desktop_->windows);
   WindowHandle selected = 0;
-  BringToUsersDesktop(desktop_->windows, desktop_->virtualDesktops, main);
+  BringToUsersDesktop(desktop_->windows, desktop_->commands, desktop_->virtualDesktops, main);
   desktop_->requests.SetForegroundWindow(main);
   actions_->SetWindowMenuTag(kHotKeyWindowMenuPopup);
   try {

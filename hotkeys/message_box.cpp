@@ -98,7 +98,7 @@ WindowHandle SuspendingMessageBoxes::Owner() {
       overAnother ? FindWaitingWindow(desktop_->windows, main, kDialogClass) : 0;
   for (const WindowHandle owner : {below, dialogOnTop_()}) {
     if (owner == 0 || !desktop_->windows.IsWindowVisible(owner)) continue;
-    BringToUsersDesktop(desktop_->windows, desktop_->virtualDesktops, owner);
+    BringToUsersDesktop(desktop_->windows, desktop_->commands, desktop_->virtualDesktops, owner);
     return owner;
   }
   const bool visible = desktop_->windows.IsWindowVisible(main);

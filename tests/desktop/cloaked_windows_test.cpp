@@ -115,8 +115,8 @@ TEST_F(CloakedWindows, TheManagerIsAskedOnlyAboutCloakedWindows) {
 }
 
 TEST_F(CloakedWindows, TheForegroundIsNotReturnedAcrossDesktops) {
-  EXPECT_FALSE(ReturnForegroundTo(desktop, routines.requests, alpha));
-  EXPECT_FALSE(ReturnForegroundTo(desktop, routines.requests, mail));
+  EXPECT_FALSE(ReturnForegroundTo(desktop, routines.requests, Know(desktop, alpha)));
+  EXPECT_FALSE(ReturnForegroundTo(desktop, routines.requests, Know(desktop, mail)));
   EXPECT_EQ(log.CallsOf("SetForegroundWindow"), Calls{});
 }
 

@@ -14,14 +14,16 @@ constexpr VirtualDesktopId kEveryDesktop = {0xE0};
 
 void FakeDesktop::SetSuspended(WindowHandle hwnd, bool suspended) {
   Existing(hwnd).cloaked = suspended ? win32::kDwmCloakedShell : 0;
-  if (suspended && windows_.Foreground() == hwnd) windows_.Activate(0);
+  const WindowHandle front = windows_.Foreground();
+  if (front != 0 && windows_.CloakOf(front) != 0) windows_.Activate(0);
 }
 
-/// Windows knows the desktop only of windows that its taskbar shows, and not of its own.
+/// Windows knows the desktop only of windows that its taskbar shows: not of its own, nor of
+/// suspended ones.
 const FakeWindow* FakeDesktop::View(const FakeWindow* window) const {
   const bool known = window != nullptr && has_desktop_manager_ && window->parent == 0 &&
                      window->visible && windows_.ViewOf(window->handle) == window->handle &&
-                     (window->exStyle & win32::kWsExToolWindow) == 0 && !window->flyout;
+                     (window->exStyle & win32::kWsExToolWindow) == 0 && window->cloaked == 0;
   return known ? window : nullptr;
 }
 

@@ -96,6 +96,7 @@ class SimulatedLife : public KorvaleWorld {
   void CheckSelectedTag(const Before& before, const MenuItem& entry);
   void CheckPreviousSelected(const Before& before);
   bool IsOnDesktop(WindowHandle hwnd);
+  bool IsSuspended(WindowHandle hwnd);
   bool IsOptions(WindowHandle hwnd);
   bool IsFollowed(WindowHandle hwnd);
   bool CanBeSelected(WindowHandle hwnd);

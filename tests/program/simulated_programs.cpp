@@ -35,7 +35,7 @@ std::string SimulatedPrograms::Act() {
   if (open_.size() < 2) return OpenWindow();
   if (locked_ && dice_->OneIn(3)) return LockForeground();
   const WindowHandle hwnd = dice_->Pick(open_);
-  switch (dice_->Below(15)) {
+  switch (dice_->Below(16)) {
     case 0:
     case 1:
       return open_.size() < kMostWindows ? OpenWindow() : CloseWindow(hwnd);
@@ -53,8 +53,11 @@ std::string SimulatedPrograms::Act() {
       return dice_->OneIn(4) ? LockForeground() : Show(hwnd);
     case 9:
       return VisitShell();
+    case 10:
+      return dice_->OneIn(2) ? SwitchDesktop() : Suspend(hwnd);
     default:
       if (!desktop_->Windows().IsVisible(hwnd)) return Show(hwnd);
+      desktop_->SetSuspended(hwnd, false);
       desktop_->UserActivates(hwnd);
       return "activates " + desktop_->Log().Window(hwnd);
   }
@@ -158,6 +161,20 @@ std::string SimulatedPrograms::VisitShell() {
     break;
   }
   return "is left for " + name;
+}
+
+std::string SimulatedPrograms::SwitchDesktop() {
+  const int number = 1 + dice_->Below(3);
+  desktop_->UserSwitchesDesktop(number);
+  return "are left for virtual desktop " + std::to_string(number);
+}
+
+std::string SimulatedPrograms::Suspend(WindowHandle hwnd) {
+  // A Store program's window has no owner.
+  if (desktop_->Windows().Find(hwnd)->owner != 0) return ChangeWindow(hwnd);
+  const bool suspend = desktop_->Windows().Find(hwnd)->cloaked == 0;
+  desktop_->SetSuspended(hwnd, suspend);
+  return (suspend ? "suspends " : "wakes ") + desktop_->Log().Window(hwnd);
 }
 
 std::string SimulatedPrograms::LockForeground() {

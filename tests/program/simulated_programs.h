@@ -32,6 +32,8 @@ class SimulatedPrograms {
   std::string Show(WindowHandle hwnd);
   std::string Bother(WindowHandle hwnd);
   std::string VisitShell();
+  std::string SwitchDesktop();
+  std::string Suspend(WindowHandle hwnd);
   std::string LockForeground();
 
   FakeDesktop* desktop_;

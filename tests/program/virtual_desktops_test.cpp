@@ -187,6 +187,25 @@ TEST_F(VirtualDesktopsTest, AWindowOnEveryDesktopDoesNotTellWhichOneIsTheUsers) 
   EXPECT_EQ(DesktopOf(korvale.Handle()), 2);
 }
 
+TEST_F(VirtualDesktopsTest, OnAnEmptyDesktopTheDialogAndThePopUpComeToTheUserToo) {
+  desktop.Close(beta);
+  SwitchDesktop(3);
+  OpenOptions();
+  EXPECT_EQ(Front(), "Korvale - Options");
+  EXPECT_EQ(Desktop(), 3);
+  SwitchDesktop(4);
+  OpenOptions();
+  EXPECT_EQ(Front(), "Korvale - Options");
+  EXPECT_EQ(Desktop(), 4);
+  SwitchDesktop(5);
+  korvale.host.WhenPopupMenu([&](const std::vector<ShownMenuItem>&) {
+    EXPECT_EQ(Desktop(), 5);
+    return "";
+  });
+  PressHotKey(win32::kModWin, 'W');
+  EXPECT_EQ(Desktop(), 5);
+}
+
 TEST_F(VirtualDesktopsTest, OnTheSameDesktopNothingIsMoved) {
   SwitchDesktop(1);
   log.Clear();
