@@ -12,8 +12,10 @@ bool IsOwnForm(const LoadedForms& forms, WindowHandle hwnd) {
                              [&](const LoadedForm& form) { return form.handle == hwnd; });
 }
 
-bool ReturnForegroundTo(WindowQueries& windows, WindowRequests& requests, WindowHandle hwnd) {
-  const bool canBeInFront = windows.IsWindow(hwnd) && IsShownHere(windows, hwnd) &&
+bool ReturnForegroundTo(WindowQueries& windows, WindowRequests& requests,
+                        const KnownWindow& window) {
+  const WindowHandle hwnd = window.handle;
+  const bool canBeInFront = StillExists(windows, window) && IsShownHere(windows, hwnd) &&
                             windows.IsWindowEnabled(hwnd) && !windows.IsIconic(hwnd);
   if (canBeInFront) requests.SetForegroundWindow(hwnd);
   return canBeInFront;

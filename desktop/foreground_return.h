@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/window_readers.h"
 #include "desktop/window_requests.h"
 #include "platform/window_api.h"
 #include "util/forms.h"
@@ -13,6 +14,7 @@ bool IsOwnForm(const LoadedForms& forms, WindowHandle hwnd);
 /// Puts the window in front (SetForegroundWindow) when it still can be: it lives, is shown on the
 /// virtual desktop where the user is, enabled and not minimized. Does nothing and returns false
 /// otherwise.
-bool ReturnForegroundTo(WindowQueries& windows, WindowRequests& requests, WindowHandle hwnd);
+bool ReturnForegroundTo(WindowQueries& windows, WindowRequests& requests,
+                        const KnownWindow& window);
 
 }  // namespace korvale

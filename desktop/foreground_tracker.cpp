@@ -103,22 +103,27 @@ WindowHandle ForegroundTracker::WindowInFront() {
 }
 
 void ForegroundTracker::NoteInFront(WindowHandle foreground) {
-  if (foreground == 0 || foreground == inFront_) return;
-  inFrontBefore_ = std::exchange(inFront_, foreground);
+  if (foreground == 0 || foreground == inFront_.handle) return;
+  inFrontBefore_ = std::exchange(inFront_, Know(*windows_, foreground));
 }
 
-WindowHandle ForegroundTracker::WindowBehind(WindowHandle closing) {
-  if (windows_->GetForegroundWindow() != closing) return 0;
-  const WindowHandle last = inFront_ == closing ? inFrontBefore_ : inFront_;
+KnownWindow ForegroundTracker::WindowBehind(WindowHandle closing) {
+  if (windows_->GetForegroundWindow() != closing) return {};
+  const KnownWindow& last = inFront_.handle == closing ? inFrontBefore_ : inFront_;
   // The bare desktop cannot be selected, yet the user may have been there.
-  if (IsBareDesktop(GetWindowClass(*windows_, last))) return last;
-  const WindowHandle before = FindInputWindow(*windows_, last);
-  if (last != closing && CanComeBack(before)) return before;
+  if (IsBareDesktop(GetWindowClass(*windows_, last.handle))) return last;
+  const WindowHandle before = FindInputWindow(*windows_, last.handle);
+  if (last.handle != closing && StillExists(*windows_, last) && CanComeBack(before)) {
+    return before == last.handle ? last : Know(*windows_, before);
+  }
   const WindowTriple* const worked = worked_.First([&](const WindowTriple& window) {
     return window.handle != closing && !IsGone(window) &&
            CanComeBack(FindInputWindow(*windows_, window.handle));
   });
-  return worked == nullptr ? 0 : FindInputWindow(*windows_, worked->handle);
+  if (worked == nullptr) return {};
+  const WindowHandle input = FindInputWindow(*windows_, worked->handle);
+  if (input == worked->handle) return {input, worked->className};
+  return Know(*windows_, input);
 }
 
 void ForegroundTracker::ForgetVisit(WindowHandle closing) {
@@ -175,7 +180,7 @@ void ForegroundTracker::RecordSelection(const WindowTriple& window) {
 void ForegroundTracker::PopUpClosed() {
   const WindowHandle main = mainWindow_->MainHandle();
   if (mainWindow_->FocusTag() == kGotFocus || windows_->GetForegroundWindow() != main) return;
-  if (!previous_->menuSelection) previous_->coming = inFront_;
+  if (!previous_->menuSelection) previous_->coming = inFront_.handle;
   previous_->leaving = main;
   previous_->menuSelection = true;
 }
@@ -218,7 +223,10 @@ bool ForegroundTracker::CanBeReached(const WindowTriple& window) {
 /// The window with its present title.
 WindowTriple ForegroundTracker::Recorded(const WindowTriple* window) {
   if (window == nullptr) return {};
-  return {window->handle, GetWindowTitle(*windows_, window->handle), window->className};
+  const std::string title = GetWindowTitle(*windows_, window->handle);
+  // One that has just gone keeps its title for the messages about it.
+  const bool gone = title.empty() && !windows_->IsWindow(window->handle);
+  return {window->handle, gone ? window->text : title, window->className};
 }
 
 void ForegroundTracker::UpdateRecord() {

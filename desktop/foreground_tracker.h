@@ -7,6 +7,7 @@
 #include "desktop/tag_list.h"
 #include "desktop/window_actions.h"
 #include "desktop/window_filter.h"
+#include "desktop/window_readers.h"
 #include "desktop/worked_windows.h"
 #include "platform/types.h"
 
@@ -38,8 +39,9 @@ class ForegroundTracker {
   WindowHandle WindowInFront();
 
   /// The window to bring forward when `closing`, a window of ours, goes: the one that was in front
-  /// before it, else the one last worked in. 0 when `closing` is not in front, or nothing is left.
-  WindowHandle WindowBehind(WindowHandle closing);
+  /// before it, else the one last worked in. None when `closing` is not in front, or nothing is
+  /// left.
+  KnownWindow WindowBehind(WindowHandle closing);
 
   /// Makes the record as if `closing`, a window of ours, had never come forward.
   void ForgetVisit(WindowHandle closing);
@@ -93,8 +95,8 @@ class ForegroundTracker {
   WindowHandle lastSeen_ = 0;
   bool firstTick_ = true;
   /// What was in front last and before that, followed or not.
-  WindowHandle inFront_ = 0;
-  WindowHandle inFrontBefore_ = 0;
+  KnownWindow inFront_;
+  KnownWindow inFrontBefore_;
 };
 
 }  // namespace korvale

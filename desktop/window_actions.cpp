@@ -59,6 +59,8 @@ ActivationResult WindowActions::ActivatePreviousWindow(WindowTriple& window) {
   const WindowHandle dialog =
       result == kWindowNotEnabled ? FindInputWindow(*windows_, window.handle) : 0;
   if (dialog == 0) return result;
+  // It has been enabled meanwhile, or another window has got its handle.
+  if (dialog == window.handle) return ActivateWindow(window, false, true);
   if (windows_->IsIconic(window.handle)) {
     const RequestResult restored = requests_->Show(window.handle, win32::kSwRestore);
     if (restored == RequestResult::kDenied) return kWindowDenied;
@@ -85,7 +87,9 @@ ActivationResult WindowActions::TryActivation(WindowTriple& window, bool act) {
     window.handle = 0;
     return kActivationFailed;
   }
-  if (!windows_->IsWindowEnabled(hwnd)) return kWindowNotEnabled;
+  if (!windows_->IsWindowEnabled(hwnd)) {
+    return windows_->IsWindow(hwnd) ? kWindowNotEnabled : kWindowNotOpen;
+  }
   return act ? BringForward(hwnd) : kActivationDone;
 }
 
@@ -124,7 +128,7 @@ ActivationResult WindowActions::BringForward(WindowHandle hwnd) {
 ActivationResult WindowActions::Unfold(WindowHandle hwnd, WindowHandle before) {
   const RequestResult restored = requests_->Show(hwnd, win32::kSwRestore);
   if (restored == RequestResult::kDenied) {
-    if (before != hwnd) ReturnForegroundTo(*windows_, *requests_, before);
+    if (before != hwnd) ReturnForegroundTo(*windows_, *requests_, Know(*windows_, before));
     return kWindowDenied;
   }
   requests_->Await(hwnd, [&] { return !windows_->IsIconic(hwnd); });

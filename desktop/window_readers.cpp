@@ -67,6 +67,15 @@ std::string GetWindowClass(WindowQueries& windows, WindowHandle hwnd) {
   return buffer;
 }
 
+KnownWindow Know(WindowQueries& windows, WindowHandle hwnd) {
+  return {hwnd, GetWindowClass(windows, hwnd)};
+}
+
+bool StillExists(WindowQueries& windows, const KnownWindow& window) {
+  return windows.IsWindow(window.handle) &&
+         GetWindowClass(windows, window.handle) == window.className;
+}
+
 WindowHandle GetRelatedWindow(WindowQueries& windows, WindowHandle hwnd, std::int16_t which) {
   if (which == 1) return windows.GetWindow(hwnd, win32::kGwChild);
   if (which != 2) return 0;

@@ -15,6 +15,15 @@ std::string GetWindowTitle(WindowQueries& windows, WindowHandle hwnd);
 /// The class name of a window (GetClassNameA); "" when the window is gone.
 std::string GetWindowClass(WindowQueries& windows, WindowHandle hwnd);
 
+/// A window and its class, by which another one that has got its handle is told apart.
+struct KnownWindow {
+  WindowHandle handle = 0;
+  std::string className;
+};
+
+KnownWindow Know(WindowQueries& windows, WindowHandle hwnd);
+bool StillExists(WindowQueries& windows, const KnownWindow& window);
+
 /// `which` 1: the first child window; 2: the owner if it has a minimize box; 0 when there is none,
 /// and for any other `which` (GetWindow, GetWindowLongA).
 WindowHandle GetRelatedWindow(WindowQueries& windows, WindowHandle hwnd, std::int16_t which);

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string_view>
+#include <utility>
 
 #include "app/core/identity.h"
 #include "desktop/timer_pause.h"
@@ -113,8 +114,15 @@ ActivationResult WindowSelection::ActivateOrSearch(MenuItem& entry) {
   const WindowHandle found = enumeration_->FindByTitle(IdentificationText(entry));
   if (found == 0) return result;
   entry.tag = DecimalText(found);
-  TagClass(*tags_, entry) = GetWindowClass(*windows_, found);
-  return Activate(entry);
+  const std::string former =
+      std::exchange(TagClass(*tags_, entry), GetWindowClass(*windows_, found));
+  result = Activate(entry);
+  if (result == kActivationFailed || result == kWindowNotOpen) {
+    // It has gone meanwhile, and its handle may be that of another window.
+    entry.tag = "0";
+    TagClass(*tags_, entry) = former;
+  }
+  return result;
 }
 
 void WindowSelection::TellFailure(const MenuItem& entry, ActivationResult result) {

@@ -24,7 +24,7 @@ std::string FormDisplay::ShowFormModal(Form& form, const DisplaySwitches& switch
     BringToFront(form, switches);
     return form.Tag();
   }
-  const WindowHandle before = desktop_->previous.InFront(desktop_->windows);
+  const KnownWindow before = Know(desktop_->windows, desktop_->previous.InFront(desktop_->windows));
   {
     const RaisedFlag shown(suspension_->DialogShown);
     form.Load();
@@ -99,9 +99,9 @@ void FormDisplay::FollowTopmost(WindowHandle hwnd) {
                                   0, 0, 0, 0, win32::kSwpNoMove | win32::kSwpNoSize);
 }
 
-void FormDisplay::GiveForegroundBack(WindowHandle before) {
+void FormDisplay::GiveForegroundBack(const KnownWindow& before) {
   const WindowHandle now = desktop_->windows.GetForegroundWindow();
-  if (before == 0 || now == before || (now != 0 && !IsOwnForm(*forms_, now))) return;
+  if (before.handle == 0 || now == before.handle || (now != 0 && !IsOwnForm(*forms_, now))) return;
   ReturnForegroundTo(desktop_->windows, *requests_, before);
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "desktop/desktop_parts.h"
+#include "desktop/window_readers.h"
 #include "desktop/window_requests.h"
 #include "hotkeys/suspension.h"
 #include "ui/form.h"
@@ -52,7 +53,7 @@ class FormDisplay {
              const Form* owner);
   void BringToFront(Form& form, const DisplaySwitches& switches);
   void FollowTopmost(WindowHandle hwnd);
-  void GiveForegroundBack(WindowHandle before);
+  void GiveForegroundBack(const KnownWindow& before);
 
   FormCollection* forms_;
   const DesktopParts* desktop_;

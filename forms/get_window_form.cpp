@@ -123,6 +123,7 @@ void frmGetWindow::LoadPreviousWindow() {
   SetTag("PREVIOUS_WINDOW");
   const WindowTriple& previous = context_.previous.current;
   window_ = previous.handle;
+  windowClass_ = previous.className;
   Find("txtWindow").SetText(previous.text);
   Find("txtWindowClass").SetText(previous.className);
   SetChoice(0, previous.text);
@@ -136,9 +137,10 @@ void frmGetWindow::LoadPreviousWindow() {
 void frmGetWindow::LoadThisWindow() {
   SetTag("THIS_WINDOW");
   window_ = context_.mainWindow.MainHandle();
+  windowClass_ = GetWindowClass(context_.windows, window_);
   const std::string title = context_.mainWindow.MainCaption();
   Find("txtWindow").SetText(title);
-  Find("txtWindowClass").SetText(GetWindowClass(context_.windows, window_));
+  Find("txtWindowClass").SetText(windowClass_);
   SetChoice(0, title);
   HidePortions();
 }
@@ -185,8 +187,10 @@ void frmGetWindow::AddEntry(int tag, const std::string& caption) {
   MenuItem& entry = AddTagEntry(context_.tags, tag, caption);
   // Deliberately, only a window with a child window is stored with its handle and class.
   const bool hasChild = GetRelatedWindow(context_.windows, window_, 1) != 0;
-  entry.tag = hasChild ? DecimalText(window_) : "0";
-  TagClass(context_.tags, entry) = hasChild ? GetWindowClass(context_.windows, window_) : "";
+  // Another window may have got the handle while the dialog was open.
+  const bool known = hasChild && GetWindowClass(context_.windows, window_) == windowClass_;
+  entry.tag = known ? DecimalText(window_) : "0";
+  TagClass(context_.tags, entry) = known ? windowClass_ : "";
 }
 
 void frmGetWindow::RemoveEntry(int tag) {

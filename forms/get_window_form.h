@@ -47,6 +47,7 @@ class frmGetWindow : public Form {
   AddWindowContext context_;
   /// The window that gets the Tag.
   WindowHandle window_ = 0;
+  std::string windowClass_;
   /// The identification texts that the option buttons stand for; a caption may show less.
   std::array<std::string, 3> choices_;
   Twips designWidthOfTags_ = 0;

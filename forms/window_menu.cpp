@@ -76,6 +76,7 @@ void WindowMenu::mnuWindowAddToList_Click(std::int16_t Index) {
 
 bool WindowMenu::PreviousCanBeAdded() {
   WindowTriple& previous = desktop_->previous.current;
+  const std::string window = InBrackets(previous.text);
   const ActivationResult result = desktop_->actions.ActivateWindow(previous, false, false);
   if (result == kActivationDone) return true;
   if (previous.handle == 0) {
@@ -83,11 +84,9 @@ bool WindowMenu::PreviousCanBeAdded() {
         "Please select a 'Previous' window to add to the list, then try this operation again.",
         win32::kMbOk, kProductName);
   } else if (result == kWindowNotEnabled) {
-    desktop_->messages.ShowMessageBox(InBrackets(previous.text) + "  is not enabled.", win32::kMbOk,
-                                      kProductName);
+    desktop_->messages.ShowMessageBox(window + "  is not enabled.", win32::kMbOk, kProductName);
   } else if (result == kWindowNotOpen) {
-    desktop_->messages.ShowMessageBox(InBrackets(previous.text) + "  is not open.", win32::kMbOk,
-                                      kProductName);
+    desktop_->messages.ShowMessageBox(window + "  is not open.", win32::kMbOk, kProductName);
   } else {
     desktop_->actions.ReportFailure();
   }

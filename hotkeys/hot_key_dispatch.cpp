@@ -152,7 +152,7 @@ void HotKeyDispatch::ShowOptions() {
 void HotKeyDispatch::PopUpWindowMenu() {
   const WindowHandle main = desktop_->mainWindow.MainHandle();
   const WindowHandle left = desktop_->windows.GetForegroundWindow();
-  const WindowHandle before = desktop_->previous.InFront(desktop_->windows);
+  const KnownWindow before = Know(desktop_->windows, desktop_->previous.InFront(desktop_->windows));
   WindowHandle selected = 0;
   BringToUsersDesktop(desktop_->windows, desktop_->commands, desktop_->virtualDesktops, main);
   desktop_->requests.SetForegroundWindow(main);
@@ -170,7 +170,7 @@ void HotKeyDispatch::PopUpWindowMenu() {
   // window meanwhile, by an entry or by a click, keeps it.
   const WindowHandle now = desktop_->windows.GetForegroundWindow();
   const bool stays = now != main && now != left;
-  if (selected == 0 && before != main && !stays &&
+  if (selected == 0 && before.handle != main && !stays &&
       !ReturnForegroundTo(desktop_->windows, desktop_->requests, before)) {
     // It has gone while the menu was open.
     ReturnForegroundTo(desktop_->windows, desktop_->requests, desktop_->tracker.WindowBehind(main));

@@ -61,7 +61,8 @@ std::int16_t SuspendingMessageBoxes::ShowOutermost(const std::string& prompt, st
 
 SuspendingMessageBoxes::Remembered SuspendingMessageBoxes::Remember() {
   const TimerControl& timer = desktop_->mainWindow.tmrWindow();
-  return {timer.Enabled(), timer.Tag(), desktop_->previous.InFront(desktop_->windows)};
+  return {timer.Enabled(), timer.Tag(),
+          Know(desktop_->windows, desktop_->previous.InFront(desktop_->windows))};
 }
 
 void SuspendingMessageBoxes::Suspend() {
@@ -107,13 +108,14 @@ WindowHandle SuspendingMessageBoxes::Owner() {
   return visible && !elsewhere ? main : 0;
 }
 
-void SuspendingMessageBoxes::GiveForegroundBack(WindowHandle before) {
+void SuspendingMessageBoxes::GiveForegroundBack(const KnownWindow& before) {
   const WindowHandle now = desktop_->windows.GetForegroundWindow();
-  if (before == 0 || now == before) return;
+  if (before.handle == 0 || now == before.handle) return;
   // A change from our windows to another program's, back, or to the main window, which took no
   // input meanwhile, comes from closing the box; any other is the user's.
-  const bool passedOn = now == 0 || now == desktop_->mainWindow.MainHandle() ||
-                        IsOwnForm(desktop_->forms, now) != IsOwnForm(desktop_->forms, before);
+  const bool passedOn =
+      now == 0 || now == desktop_->mainWindow.MainHandle() ||
+      IsOwnForm(desktop_->forms, now) != IsOwnForm(desktop_->forms, before.handle);
   if (passedOn) ReturnForegroundTo(desktop_->windows, desktop_->requests, before);
 }
 

@@ -6,6 +6,7 @@
 
 #include "app/core/message_boxes.h"
 #include "desktop/desktop.h"
+#include "desktop/window_readers.h"
 #include "hotkeys/suspension.h"
 #include "platform/system_dialogs.h"
 
@@ -32,7 +33,7 @@ class SuspendingMessageBoxes : public MessageBoxes {
   struct Remembered {
     bool timerEnabled = false;
     std::string timerTag;
-    WindowHandle foreground = 0;
+    KnownWindow foreground;
   };
 
   Remembered Remember();
@@ -42,7 +43,7 @@ class SuspendingMessageBoxes : public MessageBoxes {
                              const std::string& title);
   std::int16_t Show(const std::string& prompt, std::int32_t buttons, const std::string& title);
   WindowHandle Owner();
-  void GiveForegroundBack(WindowHandle before);
+  void GiveForegroundBack(const KnownWindow& before);
 
   Desktop* desktop_;
   SystemDialogs* dialogs_;

@@ -223,6 +223,7 @@ TEST_F(ForegroundTracking, StepsComeInTheirOrder) {
   const Calls expected = {"GetForegroundWindow()",
                           "GetWindowTextLengthA(Gamma)",
                           "GetWindowTextA(Gamma, 15)",
+                          "GetClassNameA(Gamma, 255)",
                           "GetWindowTextLengthA(Gamma)",
                           "GetWindowTextA(Gamma, 15)",
                           "GetClassNameA(Gamma, 255)",

@@ -6,6 +6,7 @@
 
 #include "platform/win32_constants.h"
 #include "tests/fakes/windows_numbers.h"
+#include "util/raised_flag.h"
 #include "util/text.h"
 
 namespace korvale {
@@ -32,7 +33,15 @@ void CallLog::WhenCalled(std::string prefix, std::function<void()> action) {
   actions_.push_back({std::move(prefix), std::move(action)});
 }
 
+void CallLog::BeforeEachCall(std::function<void(const std::string& call)> action) {
+  before_call_ = std::move(action);
+}
+
 void CallLog::RunActions(const std::string& call) {
+  if (before_call_ && !told_) {
+    const RaisedFlag telling(told_);
+    before_call_(call);
+  }
   std::vector<Action> due;
   std::erase_if(actions_, [&](const Action& action) {
     if (!call.starts_with(action.prefix)) return false;

@@ -20,7 +20,7 @@ class CallLog {
   /// A call that only reads; left out unless IncludeReads(true).
   void AddRead(std::string call);
   /// Whether a read would be written or watched for; fakes that are read often ask first.
-  bool TakesReads() const { return include_reads_ || !actions_.empty(); }
+  bool TakesReads() const { return include_reads_ || !actions_.empty() || before_call_; }
 
   void IncludeReads(bool include) { include_reads_ = include; }
   /// Writes `name` for this window from now on; "" goes back to its number.
@@ -29,6 +29,10 @@ class CallLog {
   /// Does something once, right before answering the next call that begins with `prefix`, reads
   /// included, so that a window can vanish in the middle of an operation.
   void WhenCalled(std::string prefix, std::function<void()> action);
+
+  /// Does something before answering each call from now on, reads included, which it is told as
+  /// the log writes it; what it causes itself is not told. Null ends this.
+  void BeforeEachCall(std::function<void(const std::string& call)> action);
 
   const std::vector<std::string>& Calls() const { return calls_; }
   /// The calls so far; the log is empty afterwards.
@@ -50,6 +54,8 @@ class CallLog {
 
   std::vector<std::string> calls_;
   std::vector<Action> actions_;
+  std::function<void(const std::string&)> before_call_;
+  bool told_ = false;
   std::map<WindowHandle, std::string> names_;
   bool include_reads_ = false;
 };
