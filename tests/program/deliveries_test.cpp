@@ -1,3 +1,4 @@
+#include <cstddef>
 #include <functional>
 #include <optional>
 #include <string>
@@ -69,6 +70,15 @@ class BoxAndDelivery : public StartTest {
     PressHotKey(0, win32::kVkPause);
     if (korvale_->Form().IsLoaded()) PressHotKey(0, win32::kVkPause);
   }
+  void ShowTipOfTheStart(const Meanwhile& meanwhile) {
+    OpenWindows();
+    hotKeys.RegisterForeign(win32::kModWin, 'W');
+    hotKeyCount_ = 14;
+    korvale_ = &UsedCopy();
+    CloseAfter("frmMsgTip", meanwhile);
+    korvale_->Start();
+    LetTick();
+  }
   void ShowReviewQuestion(const Meanwhile& meanwhile) {
     OpenWindows();
     korvale_ = &NewCopy();
@@ -97,8 +107,7 @@ class BoxAndDelivery : public StartTest {
   // The deliveries.
   void PressHotKeys() {
     const std::size_t before = korvale_->host.Messages().size();
-    const bool noticeUp = desktop.FindWindowA("Korvale     ") != 0;
-    const bool expected = !noticeUp && !starting_;
+    const bool expected = desktop.FindWindowA("Korvale     ") == 0 && !starting_;
     if (expected) {
       Answer(
           [&] {
@@ -138,7 +147,7 @@ class BoxAndDelivery : public StartTest {
     korvale_->host.ChangeHighContrast(true);
     korvale_->host.ChangeSysColor(kButtonFaceColor, 0);
   }
-  void MinimizeAndRestoreOthers() {
+  void ChangeOtherWindows() {
     desktop.UserMinimizes(beta_);
     desktop.UserRestores(beta_);
     desktop.LoseForeground();
@@ -163,7 +172,7 @@ class BoxAndDelivery : public StartTest {
     EXPECT_TRUE(korvale_->user.IsEnabled(korvale_->Handle()));
     EXPECT_TRUE(korvale_->Form().tmrWindow().Enabled());
     EXPECT_EQ(korvale_->Form().tmrWindow().Tag(), "ON");
-    EXPECT_EQ(hotKeys.Registered().size(), 15U);
+    EXPECT_EQ(hotKeys.Registered().size(), hotKeyCount_);
     WorkIn(beta_);
     PressHotKey(win32::kModWin, 'O');
     EXPECT_EQ(Front(), "Korvale - Options");
@@ -185,6 +194,7 @@ class BoxAndDelivery : public StartTest {
   KorvaleCopy* korvale_ = nullptr;
   bool optionsBefore_ = false;
   bool mainIsUsable_ = false;
+  std::size_t hotKeyCount_ = 15;
 
  private:
   void OpenWindows() {
@@ -238,9 +248,6 @@ struct Delivery {
   Ends ends = Ends::kNever;
 };
 
-void PrintTo(const Box& box, std::ostream* out) { *out << box.name; }
-void PrintTo(const Delivery& delivery, std::ostream* out) { *out << delivery.name; }
-
 class Deliveries : public BoxAndDelivery,
                    public testing::WithParamInterface<std::tuple<Box, Delivery>> {};
 
@@ -271,6 +278,7 @@ INSTANTIATE_TEST_SUITE_P(
                         Box{"AddWindow", &BoxAndDelivery::ShowAddWindow},
                         Box{"TheColorDialog", &BoxAndDelivery::ShowColorDialog},
                         Box{"TheWaitWindow", &BoxAndDelivery::ShowWaitWindow},
+                        Box{"ATipOfTheStart", &BoxAndDelivery::ShowTipOfTheStart},
                         Box{"TheReviewQuestion", &BoxAndDelivery::ShowReviewQuestion},
                         Box{"TheImportQuestion", &BoxAndDelivery::ShowImportQuestion}),
         testing::Values(
@@ -280,7 +288,7 @@ INSTANTIATE_TEST_SUITE_P(
             Delivery{"MenuCommands", &BoxAndDelivery::ChooseFromMenu, Ends::kWhenMainIsUsable},
             Delivery{"TheCloseBox", &BoxAndDelivery::CloseMainWindow, Ends::kWhenMainIsUsable},
             Delivery{"NewColors", &BoxAndDelivery::ChangeColors},
-            Delivery{"OtherWindows", &BoxAndDelivery::MinimizeAndRestoreOthers},
+            Delivery{"OtherWindows", &BoxAndDelivery::ChangeOtherWindows},
             Delivery{"ASecondStart", &BoxAndDelivery::StartAgain},
             Delivery{"TheEndOfTheSession", &BoxAndDelivery::EndSession, Ends::kAlways},
             Delivery{"TheEndOfTheTask", &BoxAndDelivery::EndTask, Ends::kAlways},
