@@ -1,0 +1,110 @@
+#include <windows.h>
+
+#include <string>
+
+#include "tests/endtoend/korvale_test.h"
+
+namespace korvale::endtoend {
+namespace {
+
+constexpr char kClass[] = "Test.Window";
+constexpr char kNoticeTitle[] = "Korvale     ";
+/// As many messages as Windows keeps in a queue.
+constexpr int kFlood = 10'000;
+
+class HotKeyFlood : public KorvaleTest {
+ protected:
+  void StartBesideAlpha() {
+    installation_.StoreTag(1, "Nowhere", kClass);
+    installation_.StoreTag(2, "Alpha", kClass);
+    Start();
+    alpha_ = Open("Alpha");
+    ASSERT_TRUE(WorkIn(Open("Beta")));
+  }
+
+  /// Posts the press of a Tag's hot key, as Windows does.
+  void Flood(int tag, int presses) {
+    for (int i = 0; i < presses; ++i) {
+      PostMessageW(main().handle(), WM_HOTKEY, static_cast<WPARAM>(tag) + 1,
+                   MAKELPARAM(MOD_ALT, '0' + tag));
+    }
+  }
+
+  bool IsDragged() {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof(info);
+    GetGUIThreadInfo(GetWindowThreadProcessId(main().handle(), nullptr), &info);
+    return (info.flags & GUI_INMOVESIZE) != 0;
+  }
+
+  void ExpectKeysToWork() {
+    ASSERT_TRUE(WorkIn(Open("Gamma")));
+    Press(TagKey(2));
+    EXPECT_TRUE(InFront(alpha_));
+  }
+
+  Window alpha_;
+};
+
+TEST_F(HotKeyFlood, OfATagWithoutAWindowShowsItsMessageAndOneNotice) {
+  StartBesideAlpha();
+  Flood(1, kFlood);
+  ASSERT_TRUE(WaitFor([this] { return korvale_->MessageBoxes(kNoticeTitle).size() == 1; }));
+  EXPECT_EQ(korvale_->MessageBoxes("Korvale").size(), 1U);
+  const Window notice = korvale_->MessageBoxes(kNoticeTitle).front();
+  ASSERT_TRUE(WaitFor([&] { return notice.Responds(); }));
+  EXPECT_TRUE(HoldsFor([this] { return korvale_->MessageBoxes(kNoticeTitle).size() == 1; }));
+  EXPECT_TRUE(AnswerBox(notice, IDOK));
+  EXPECT_TRUE(Says("Window:  [Nowhere]  is not open."));
+  EXPECT_TRUE(HoldsFor([this] { return !korvale_->HasMessageBox(); }));
+  Press(TagKey(2));
+  EXPECT_TRUE(InFront(alpha_));
+}
+
+TEST_F(HotKeyFlood, OfATagLeadsToItsWindowBeforeWhatIsPressedNext) {
+  StartBesideAlpha();
+  Flood(2, kFlood / 100);
+  Press(kOptionsKey);
+  const Window options = korvale_->Form("frmOptions");
+  ASSERT_TRUE(options);
+  EXPECT_TRUE(InFront(options));
+  Press({0, VK_ESCAPE});
+  EXPECT_TRUE(InFront(alpha_));
+  EXPECT_FALSE(korvale_->HasMessageBox());
+  ExpectKeysToWork();
+}
+
+TEST_F(HotKeyFlood, DuringADragOfTheMainWindowLetsItEnd) {
+  StartBesideAlpha();
+  ASSERT_TRUE(BringToFront(main()));
+  RECT before{};
+  GetWindowRect(main().handle(), &before);
+  const POINT from{before.left + 60, before.top + 10};
+  bool pressed = false;
+  Drag(from, {from.x + 80, from.y + 60}, [&] {
+    if (!pressed) Press(TagKey(2));
+    pressed = true;
+  });
+  EXPECT_TRUE(WaitFor([this] { return !IsDragged(); }));
+  EXPECT_TRUE(main().Responds());
+  EXPECT_FALSE(korvale_->HasMessageBox());
+  ExpectKeysToWork();
+}
+
+class RequestsBehindABox : public HotKeyFlood {};
+
+TEST_F(RequestsBehindABox, ToCloseTheMainWindowLeaveTheMessageToTheUser) {
+  StartBesideAlpha();
+  Press(TagKey(1));
+  ASSERT_TRUE(korvale_->MessageBox());
+  PostMessageW(main().handle(), WM_CLOSE, 0, 0);
+  PostMessageW(main().handle(), WM_SYSCOMMAND, SC_CLOSE, 0);
+  EXPECT_TRUE(HoldsFor([this] { return korvale_->process().Running(); }));
+  EXPECT_TRUE(Says("Window:  [Nowhere]  is not open."));
+  Press(TagKey(2));
+  EXPECT_TRUE(InFront(alpha_));
+  EXPECT_TRUE(Exit());
+}
+
+}  // namespace
+}  // namespace korvale::endtoend
