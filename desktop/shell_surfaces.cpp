@@ -1,6 +1,7 @@
 #include "desktop/shell_surfaces.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace korvale {
 namespace {

@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "desktop/window_readers.h"
+#include "desktop/window_visibility.h"
 #include "platform/win32_constants.h"
 
 namespace korvale {
@@ -19,7 +20,7 @@ bool IsOwnedBy(WindowQueries& windows, WindowHandle hwnd, WindowHandle owner) {
 /// A dialog on another virtual desktop is cloaked along with its owner, one that is cloaked alone
 /// is not on the screen.
 bool IsCloakedAlone(WindowQueries& windows, WindowHandle dialog, WindowHandle owner) {
-  return windows.DwmGetWindowAttribute(dialog) != 0 && windows.DwmGetWindowAttribute(owner) == 0;
+  return IsCloaked(windows, dialog) && !IsCloaked(windows, owner);
 }
 
 bool TakesInput(WindowQueries& windows, WindowHandle hwnd) {

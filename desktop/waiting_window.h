@@ -6,9 +6,6 @@
 
 namespace korvale {
 
-/// No program has a longer chain of owners.
-inline constexpr int kMostOwners = 16;
-
 /// The topmost window that takes input (visible and enabled) among those of the thread that made
 /// `hwnd`, such as a box, tip or dialog that waits for the user. With a class name, only windows of
 /// exactly this class count. 0 when there is none.

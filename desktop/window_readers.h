@@ -8,6 +8,9 @@
 
 namespace korvale {
 
+/// No program has a longer chain of owners.
+inline constexpr int kMostOwners = 16;
+
 /// The whole title of a window, read now (GetWindowTextLengthA, GetWindowTextA); "" when the window
 /// is gone or untitled. A title that grew between the two calls is read again, never cut.
 std::string GetWindowTitle(WindowQueries& windows, WindowHandle hwnd);

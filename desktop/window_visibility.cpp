@@ -1,6 +1,8 @@
 #include "desktop/window_visibility.h"
 
-#include "desktop/waiting_window.h"
+#include <cstdint>
+
+#include "desktop/window_readers.h"
 #include "platform/win32_constants.h"
 
 namespace korvale {

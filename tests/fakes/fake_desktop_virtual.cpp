@@ -1,3 +1,5 @@
+#include <cstdint>
+
 #include "platform/win32_constants.h"
 #include "tests/fakes/fake_desktop.h"
 
