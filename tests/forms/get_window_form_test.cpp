@@ -145,6 +145,17 @@ TEST_F(AddWindowTest, StoresNeitherHandleNorClassOfAWindowWithoutChildWindows) {
   EXPECT_EQ(ClassOf(1), "");
 }
 
+TEST_F(AddWindowTest, StoresNeitherHandleNorClassOfAnotherWindowThatGotTheHandle) {
+  const WindowHandle previous = OpenPrevious("one - Editor");
+  OpenDialog();
+  desktop_.Close(previous);
+  desktop_.Open("Newcomer", {.className = "Another", .activate = false, .reuseHandle = previous});
+  Click(dialog_, "cmdOK");
+  EXPECT_EQ(Entry(1).caption, "&1  one - Editor");
+  EXPECT_EQ(Entry(1).tag, "0");
+  EXPECT_EQ(ClassOf(1), "");
+}
+
 TEST_F(AddWindowTest, LeavesOutTheAccessKeyForAChildWindow) {
   OpenPrevious("Notes");
   mode_ = AddWindowMode::kPreviousWindow;
