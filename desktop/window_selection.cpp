@@ -8,6 +8,7 @@
 #include "desktop/timer_pause.h"
 #include "desktop/window_readers.h"
 #include "platform/win32_constants.h"
+#include "util/characters.h"
 #include "util/text.h"
 
 namespace korvale {
@@ -18,13 +19,26 @@ bool IsTheWindow(ActivationResult result) {
   return result == kActivationDone || result == kWindowNotAnswering || result == kWindowDenied;
 }
 
-/// In characters; with much more, the button of a message box would be off the screen.
+// In characters; with much more, a message box would not fit on the screen.
 constexpr std::int32_t kLongestName = 255;
-constexpr std::string_view kEllipsis = "...";
+constexpr std::int32_t kLongestWord = 100;
+
+/// How many characters of the text a message shows.
+std::int32_t ShownLength(std::string_view text) {
+  std::int32_t shown = 0;
+  std::int32_t word = 0;
+  for (const std::string_view character : SplitCharacters(text)) {
+    word = character == " " ? 0 : word + 1;
+    if (shown == kLongestName || word > kLongestWord) break;
+    ++shown;
+  }
+  return shown;
+}
 
 std::string NameInMessage(const std::string& text) {
-  if (CharacterCount(text) <= kLongestName) return OnOneLine(text);
-  return OnOneLine(LeftCharacters(text, kLongestName - 3)).append(kEllipsis);
+  const std::string beginning = LeftCharacters(text, ShownLength(text));
+  const std::string name = WithDirectionsEnded(OnOneLine(beginning));
+  return beginning == text ? name : name + "...";
 }
 
 }  // namespace

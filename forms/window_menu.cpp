@@ -52,7 +52,7 @@ void WindowMenu::mnuWindow_Click() {
   }
 
   const std::string title =
-      DoubleAmpersands(OnOneLine(ShortTitle(desktop_->previous.current.text)));
+      DoubleAmpersands(WithDirectionsEnded(OnOneLine(ShortTitle(desktop_->previous.current.text))));
   form_->Menu("mnuWindowPreviousWindowAlwaysOnTop").caption = "[" + title + "]  Always On &Top";
   form_->Menu("mnuWindowAddToList", kPreviousWindow).caption =
       "Add  [" + title + "]  to &Window menu...";

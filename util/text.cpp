@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cstddef>
+#include <iterator>
 #include <system_error>
 #include <vector>
 
@@ -129,6 +130,29 @@ std::string OnOneLine(std::string_view text) {
   std::ranges::replace_if(
       line, [](unsigned char byte) { return byte < 0x20 || byte == 0x7F; }, ' ');
   return line;
+}
+
+std::string WithDirectionsEnded(std::string_view text) {
+  constexpr char32_t kEndOfEmbedding = 0x202C;
+  constexpr char32_t kEndOfIsolate = 0x2069;
+  std::vector<char32_t> ends;
+  for (const std::string_view bytes : SplitCharacters(text)) {
+    const char32_t character = FirstCharacter(bytes).codePoint;
+    if (character >= 0x202A && character <= 0x202E && character != kEndOfEmbedding) {
+      ends.push_back(kEndOfEmbedding);
+    } else if (character >= 0x2066 && character <= 0x2068) {
+      ends.push_back(kEndOfIsolate);
+    } else if (character == kEndOfEmbedding && !ends.empty() && ends.back() == kEndOfEmbedding) {
+      ends.pop_back();
+    } else if (character == kEndOfIsolate) {
+      // Ends the embeddings inside as well.
+      const auto isolate = std::find(ends.rbegin(), ends.rend(), kEndOfIsolate);
+      if (isolate != ends.rend()) ends.erase(std::next(isolate).base(), ends.end());
+    }
+  }
+  std::string ended(text);
+  for (; !ends.empty(); ends.pop_back()) ended += EncodeUtf8(ends.back());
+  return ended;
 }
 
 std::string ReplaceText(std::string_view text, std::string_view sought,

@@ -40,6 +40,10 @@ std::string PadText(std::string_view text, std::int16_t width, std::string_view 
 /// tear a caption or a message apart.
 std::string OnOneLine(std::string_view text);
 
+/// The text with every change of the writing direction that it leaves open ended, so that what
+/// stands behind it is not turned around.
+std::string WithDirectionsEnded(std::string_view text);
+
 /// Replaces `sought` by `replacement`, from left to right, each time continuing after the
 /// replacement; with `firstOnly` only once. An empty `sought` occurs nowhere.
 std::string ReplaceText(std::string_view text, std::string_view sought,

@@ -102,14 +102,25 @@ TEST(TitleFuzz, AMessageNamesAnyTitleOnOneLineWithoutBreakingACharacter) {
     EXPECT_TRUE(named.starts_with("Window:  [") && named.ends_with("]")) << named;
     EXPECT_TRUE(std::ranges::none_of(named, [](char c) { return c >= 0 && c < ' '; })) << named;
     EXPECT_TRUE(IsWhole(named) || !IsWhole(title)) << named;
-    EXPECT_LE(CharacterCount(named), 10 + 255 + 1);
+    EXPECT_LE(CharacterCount(named), 10 + 2 * 255 + 4);
   }
 }
 
 TEST(InBracketsTest, NamesAWindowInFullUpTo255Characters) {
-  const std::string longest = std::string(254, 'x') + "日";
+  std::string longest;
+  for (int i = 0; i < 51; ++i) longest += "日四四四 ";
   EXPECT_EQ(InBrackets(longest), "Window:  [" + longest + "]");
-  EXPECT_EQ(InBrackets(longest + "y"), "Window:  [" + std::string(252, 'x') + "...]");
+  EXPECT_EQ(InBrackets(longest + "y"), "Window:  [" + longest + "...]");
+}
+
+TEST(InBracketsTest, ShowsNoWordThatIsLongerThan100Characters) {
+  const std::string word = std::string(99, 'x') + "日";
+  EXPECT_EQ(InBrackets("a " + word + " b"), "Window:  [a " + word + " b]");
+  EXPECT_EQ(InBrackets("a " + word + "y b"), "Window:  [a " + word + "...]");
+}
+
+TEST(InBracketsTest, KeepsTheDirectionOfATitleFromTheWordsBehindIt) {
+  EXPECT_EQ(InBrackets("\u202eabc"), "Window:  [\u202eabc\u202c]");
 }
 
 }  // namespace

@@ -239,5 +239,15 @@ TEST(OnOneLineTest, ReplacesEachControlCharacterByABlankAndNothingElse) {
   EXPECT_EQ(OnOneLine("Ж 日 😀 \u00a0\u200f\xff"), "Ж 日 😀 \u00a0\u200f\xff");
 }
 
+TEST(WithDirectionsEndedTest, EndsWhatIsLeftOpenAndNothingElse) {
+  EXPECT_EQ(WithDirectionsEnded("שלום \u200f x"), "שלום \u200f x");
+  EXPECT_EQ(WithDirectionsEnded("\u202bשלום\u202c"), "\u202bשלום\u202c");
+  EXPECT_EQ(WithDirectionsEnded("\u202eabc"), "\u202eabc\u202c");
+  EXPECT_EQ(WithDirectionsEnded("\u202aa\u2067b\u202ec"),
+            "\u202aa\u2067b\u202ec\u202c\u2069\u202c");
+  EXPECT_EQ(WithDirectionsEnded("\u2068a\u202eb\u2069c"), "\u2068a\u202eb\u2069c");
+  EXPECT_EQ(WithDirectionsEnded("\u202c\u2069\u202ea"), "\u202c\u2069\u202ea\u202c");
+}
+
 }  // namespace
 }  // namespace korvale

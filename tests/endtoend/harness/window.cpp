@@ -31,10 +31,13 @@ void EarnForeground() {
 }  // namespace
 
 std::string Window::Title() const {
-  std::wstring buffer(2048, L'\0');
-  const int length = InternalGetWindowText(handle_, buffer.data(), static_cast<int>(buffer.size()));
-  buffer.resize(static_cast<size_t>(length));
-  return Utf8(buffer);
+  for (size_t size = 2048;; size *= 8) {
+    std::wstring buffer(size, L'\0');
+    const int length = InternalGetWindowText(handle_, buffer.data(), static_cast<int>(size));
+    if (static_cast<size_t>(length) + 1 >= size) continue;
+    buffer.resize(static_cast<size_t>(length));
+    return Utf8(buffer);
+  }
 }
 
 std::string Window::ClassName() const {
@@ -45,7 +48,7 @@ std::string Window::ClassName() const {
 }
 
 std::string Window::Text() const {
-  std::wstring buffer(4096, L'\0');
+  std::wstring buffer(static_cast<size_t>(Send(WM_GETTEXTLENGTH)) + 4096, L'\0');
   const LRESULT length = Send(WM_GETTEXT, buffer.size(), reinterpret_cast<LPARAM>(buffer.data()));
   buffer.resize(static_cast<size_t>(length));
   return Utf8(buffer);
