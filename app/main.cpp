@@ -5,6 +5,7 @@
 
 #include "app/program.h"
 #include "platform/windows/windows_clock.h"
+#include "platform/windows/windows_crash_api.h"
 #include "platform/windows/windows_hot_key_api.h"
 #include "platform/windows/windows_settings_store.h"
 #include "platform/windows/windows_system_api.h"
@@ -42,12 +43,13 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, PWSTR /*commandL
   korvale::WindowsHotKeyApi hotKeys;
   korvale::WindowsSettingsStore store;
   korvale::WindowsSystemApi system;
+  korvale::WindowsCrashApi crashes;
   korvale::WindowsClock clock;
   korvale::WindowsTimers timers;
   korvale::WindowsUi ui(instance);
   korvale::WindowsVirtualDesktops virtualDesktops;
-  korvale::Platform platform{windows,    windows,  hotKeys,        store,   system,
-                             clock,      timers,   ui.host,        ui.loop, ui.screen,
-                             ui.dialogs, ui.input, virtualDesktops};
+  korvale::Platform platform{windows,   windows,    hotKeys,  store,          system,
+                             crashes,   clock,      timers,   ui.host,        ui.loop,
+                             ui.screen, ui.dialogs, ui.input, virtualDesktops};
   return korvale::RunProgram(platform);
 }

@@ -1,31 +1,11 @@
 #include "app/program.h"
 
-#include <cstdint>
-#include <exception>
 #include <string>
 
 #include "app/core/error_reporting.h"
-#include "app/core/identity.h"
 #include "platform/run_time_error.h"
-#include "util/text.h"
 
 namespace korvale {
-
-namespace {
-
-std::string HexText(std::uint64_t value) { return "0x" + UpperCase(HexadecimalText(value)); }
-
-/// Describes the current exception, which nothing caught.
-std::string DescribeUncaught() {
-  if (!std::current_exception()) return "terminated";
-  try {
-    return DescribeCaught();
-  } catch (const ProgramEnded&) {
-    return "the end of the program was not caught";
-  }
-}
-
-}  // namespace
 
 Program::Program(Platform& platform)
     : platform_(&platform),
@@ -33,10 +13,11 @@ Program::Program(Platform& platform)
       startUp_(platform),
       form_(platform, forms_, startUp_) {
   forms_.SetUncaughtHandler([this] { ReportUncaught(); });
-  platform_->system.SetUnhandledExceptionFilter([this](const Crash& crash) { ReportCrash(crash); });
+  platform_->crashes.SetUnhandledExceptionFilter(
+      [this](const Crash& crash) { form_.ReportCrash(crash); });
 }
 
-Program::~Program() { platform_->system.SetUnhandledExceptionFilter({}); }
+Program::~Program() { platform_->crashes.SetUnhandledExceptionFilter({}); }
 
 bool Program::Start() {
   return Guarded([this] {
@@ -84,19 +65,6 @@ void Program::ReportUncaught() {
     }
   } catch (const ProgramEnded&) {
     platform_->loop.PostQuitMessage();
-  }
-}
-
-void Program::ReportCrash(const Crash& crash) {
-  const std::string description = crash.code == 0 ? "uncaught exception: " + DescribeUncaught()
-                                                  : "exception " + HexText(crash.code);
-  try {
-    form_.udmFatalError(ErrorPlace::kCrash, RunTimeError::kInternalError,
-                        {description, "address = " + HexText(crash.address),
-                         "Korvale cannot go on and will be closed."});
-  } catch (...) {
-    // The error is reported and the program taken down; nobody is left to hear of another one.
-    return;
   }
 }
 

@@ -29,7 +29,6 @@ class Program {
  private:
   bool Guarded(const std::function<void()>& step);
   void ReportUncaught();
-  void ReportCrash(const Crash& crash);
 
   Platform* platform_;
   FormCollection forms_;

@@ -66,6 +66,8 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   void udmNonFatalError(ErrorPlace intErrorNumber, std::int16_t intVB_ErrNumber);
   [[noreturn]] void udmFatalError(ErrorPlace intErrorNumber, std::int16_t intVB_ErrNumber,
                                   const FatalErrorTexts& texts);
+  /// Reports from a thread of its own that the program has crashed.
+  void ReportCrash(const Crash& crash) { parts_.crashes.Report(crash); }
   /// Reads what the program knows about itself; may be called before there is a window.
   void ReadIdentity();
 

@@ -28,6 +28,7 @@ MainParts::MainParts(Platform& platform, FormCollection& forms, MainWindow& main
                  return ErrorLogState{state.firstActivation, startup.Menu, state.lastAnswer};
                }),
       errors(messages, errorLog, std::move(shutDown)),
+      crashes(platform.dialogs, errorLog, platform.system, platform.crashes, platform.clock),
       desktop({platform.windows, platform.commands, platform.input, mainWindow, forms, messages,
                previous, platform.virtualDesktops},
               platform.clock, options, windowMenu),

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 
+#include "app/core/crash_reports.h"
 #include "app/core/error_log.h"
 #include "app/core/error_reports.h"
 #include "app/core/identity.h"
@@ -55,6 +56,7 @@ struct MainParts {
   SuspendingMessageBoxes messages;
   ErrorLog errorLog;
   ErrorReports errors;
+  CrashReports crashes;
 
   Desktop desktop;
   FormDisplay display;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/clock.h"
+#include "platform/crash_api.h"
 #include "platform/form_host.h"
 #include "platform/hot_key_api.h"
 #include "platform/input_devices.h"
@@ -21,6 +22,7 @@ struct Platform {
   HotKeyApi& hotKeys;
   SettingsStore& store;
   SystemApi& system;
+  CrashApi& crashes;
   Clock& clock;
   TimerApi& timers;
   FormHost& host;

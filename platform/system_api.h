@@ -1,10 +1,10 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <span>
 #include <string>
+#include <vector>
 
 #include "platform/types.h"
 
@@ -37,15 +37,6 @@ struct FolderInfo {
   /// It could not be opened, although something of this name exists: a link or an unreadable
   /// folder.
   bool isLink = false;
-};
-
-/// A fault that no handler foresaw.
-struct Crash {
-  /// The code of the exception (0xC0000005 = access violation); 0 for a C++ exception that nothing
-  /// caught, which is then the current one.
-  std::uint32_t code = 0;
-  /// The instruction where it happened; 0 when that is not known.
-  std::uint64_t address = 0;
 };
 
 /// A named system object that at most one process holds. Released when destroyed.
@@ -84,15 +75,23 @@ class SystemApi {
   /// other; failing to write one does not stop the others. False when the file could not be opened
   /// (CreateFileW, WriteFile).
   virtual bool AppendToFile(const std::string& path, std::span<const std::string> pieces) = 0;
+  /// Whether AppendToFile could open this file now; neither creates nor changes anything
+  /// (CreateFileW on the file, or on its folder when there is no such file).
+  virtual bool CanAppendToFile(const std::string& path) = 0;
+  /// Makes a folder; true when it is there afterwards.
+  virtual bool CreateDirectoryW(const std::string& path) = 0;
+  /// The names of the files that match a path whose last component may hold "*" and "?".
+  virtual std::vector<std::string> FindFirstFileW(const std::string& pattern) = 0;
+  virtual bool DeleteFileW(const std::string& path) = 0;
+  /// The user's own folder for data of programs on this computer, without a closing backslash; ""
+  /// on failure (FOLDERID_LocalAppData).
+  virtual std::string SHGetKnownFolderPath() = 0;
   /// Opens a folder, through links if need be, and reads what it really is (CreateFileW,
   /// GetFinalPathNameByHandleW, GetFileInformationByHandle).
   virtual FolderInfo GetFinalPathNameByHandleW(const std::string& folder) = 0;
   /// Opens or creates the named mutex of this session without waiting for it (CreateMutexA); null
   /// when the system refused.
   virtual std::unique_ptr<SystemMutex> CreateMutexA(const std::string& name) = 0;
-  /// When the program crashes, `filter` is called on the thread that crashed; the process ends when
-  /// it returns, and at once when it crashes too. An empty one takes the former one back.
-  virtual void SetUnhandledExceptionFilter(std::function<void(const Crash&)> filter) = 0;
 };
 
 }  // namespace korvale

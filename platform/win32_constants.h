@@ -76,6 +76,7 @@ inline constexpr std::int32_t kMbOkCancel = 1;
 inline constexpr std::int32_t kMbYesNo = 4;
 inline constexpr std::int32_t kMbDefButton2 = 0x100;
 inline constexpr std::int32_t kMbSetForeground = 0x10000;
+inline constexpr std::int32_t kMbTopmost = 0x40000;
 inline constexpr std::int16_t kIdOk = 1;
 inline constexpr std::int16_t kIdCancel = 2;
 inline constexpr std::int16_t kIdYes = 6;

@@ -34,6 +34,21 @@ ErrorLog::ErrorLog(const ProgramIdentity& identity, SystemApi& system, Clock& cl
                    std::function<ErrorLogState()> state)
     : identity_(&identity), system_(&system), clock_(&clock), state_(std::move(state)) {}
 
+std::string ErrorLog::Folder() const {
+  const std::string& own = identity_->programFolder;
+  if (system_->CanAppendToFile(own + kFileName)) return own;
+  const std::string data = system_->SHGetKnownFolderPath();
+  return data.empty() ? own : data + "\\" + kProductName + "\\";
+}
+
+std::string ErrorLog::OtherFolderText() const {
+  std::string folder = Folder();
+  if (folder == identity_->programFolder) return "";
+  folder.pop_back();
+  return "The error is recorded in the folder " + folder +
+         ", because the folder of Korvale cannot be written.";
+}
+
 void ErrorLog::Append(const std::string& errorNumber, const std::string& problem,
                       const std::string& locals) {
   const ErrorLogState state = state_();
@@ -50,7 +65,9 @@ void ErrorLog::Append(const std::string& errorNumber, const std::string& problem
       "0000005 = " + DecimalText(state.lastAnswer),
   };
   for (std::string& line : lines) line += "\r\n";
-  if (!system_->AppendToFile(identity_->programFolder + kFileName, lines)) {
+  const std::string folder = Folder();
+  if (folder != identity_->programFolder) system_->CreateDirectoryW(folder);
+  if (!system_->AppendToFile(folder + kFileName, lines)) {
     throw RunTimeError(RunTimeError::kPathFileAccess);
   }
 }

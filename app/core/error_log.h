@@ -20,12 +20,18 @@ struct ErrorLogState {
   std::int16_t lastAnswer = 0;
 };
 
-/// Appends records to "Error.log" in the program's folder, lines ended by CR LF.
+/// Appends records to the file "Error.log", lines ended by CR LF.
 class ErrorLog {
  public:
   /// `state` is called once for each record.
   ErrorLog(const ProgramIdentity& identity, SystemApi& system, Clock& clock,
            std::function<ErrorLogState()> state);
+
+  /// Where the next record goes, with a closing backslash: the program's folder or, when the log
+  /// cannot be written there, the folder "Korvale" of the user's data.
+  std::string Folder() const;
+  /// A sentence that tells the user of the other folder; "" for the program's.
+  std::string OtherFolderText() const;
 
   /// Appends one record, with the file open only while it does. Throws RunTimeError 75 (Path/File
   /// access error) when the file cannot be opened; errors while writing are ignored.

@@ -17,6 +17,10 @@ std::string RunTimeErrorText(std::int16_t number) {
   return "VB ERROR " + DecimalText(number) + " - " + RunTimeErrorDescription(number);
 }
 
+std::string JoinSentences(const std::string& first, const std::string& second) {
+  return first + (first.empty() || second.empty() ? "" : "  ") + second;
+}
+
 // For the last steps of a program that ends no matter how they turn out.
 void RunAndForgetErrors(const std::function<void()>& step) {
   try {
@@ -39,8 +43,10 @@ void ErrorReports::udmFatalError(ErrorPlace intErrorNumber, std::int16_t intVB_E
                                  const FatalErrorTexts& texts) {
   const std::string runTimeError = intVB_ErrNumber != 0 ? RunTimeErrorText(intVB_ErrNumber) : "";
   const std::string place = PlaceText(intErrorNumber);
-  RunAndForgetErrors(
-      [&] { Show(runTimeError + "\r\rKorvale Error #" + place + "\r" + texts.strUserMessage); });
+  RunAndForgetErrors([&] {
+    Show(runTimeError + "\r\rKorvale Error #" + place + "\r" +
+         JoinSentences(texts.strUserMessage, log_->OtherFolderText()));
+  });
   const std::string problem = runTimeError + " -- " + texts.strDescForErrorLog;
   RunAndForgetErrors([&] { log_->Append(place, problem, texts.strLocalsForErrorLog); });
   RunAndForgetErrors(shutDown_);

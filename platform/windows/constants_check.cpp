@@ -55,6 +55,7 @@ static_assert(kMbOkCancel == MB_OKCANCEL);
 static_assert(kMbYesNo == MB_YESNO);
 static_assert(kMbDefButton2 == MB_DEFBUTTON2);
 static_assert(kMbSetForeground == MB_SETFOREGROUND);
+static_assert(kMbTopmost == MB_TOPMOST);
 static_assert(kIdOk == IDOK);
 static_assert(kIdCancel == IDCANCEL);
 static_assert(kIdYes == IDYES);

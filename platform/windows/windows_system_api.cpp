@@ -1,8 +1,10 @@
 #include "platform/windows/windows_system_api.h"
 
 #include <windows.h>
-// After windows.h, which it needs.
+// After windows.h, which they need.
+#include <objbase.h>
 #include <shellapi.h>
+#include <shlobj.h>
 
 #include <cstddef>
 #include <span>
@@ -10,7 +12,6 @@
 
 #include "platform/version_resource.h"
 #include "platform/windows/command_line.h"
-#include "platform/windows/crash_filter.h"
 #include "platform/windows/handles.h"
 #include "platform/windows/text.h"
 
@@ -56,6 +57,15 @@ std::string FinalPath(HANDLE folder) {
   if (length >= path.size()) return "";
   path.resize(length);
   return ToUtf8(path);
+}
+
+bool Opens(const std::wstring& path, DWORD access, DWORD flags) {
+  constexpr DWORD kShare = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  const HANDLE opened =
+      ::CreateFileW(path.c_str(), access, kShare, nullptr, OPEN_EXISTING, flags, nullptr);
+  if (opened == INVALID_HANDLE_VALUE) return false;
+  CloseHandle(opened);
+  return true;
 }
 
 /// Over the network, too, only this call asks the other computer for its own numbers.
@@ -142,6 +152,47 @@ bool WindowsSystemApi::AppendToFile(const std::string& path, std::span<const std
   return true;
 }
 
+bool WindowsSystemApi::CanAppendToFile(const std::string& path) {
+  const std::wstring file = ToUtf16(path);
+  if (Opens(file, FILE_APPEND_DATA, FILE_ATTRIBUTE_NORMAL)) return true;
+  if (GetLastError() != ERROR_FILE_NOT_FOUND) return false;
+  const std::wstring folder = file.substr(0, file.rfind(L'\\') + 1);
+  return Opens(folder, FILE_ADD_FILE, FILE_FLAG_BACKUP_SEMANTICS);
+}
+
+bool WindowsSystemApi::CreateDirectoryW(const std::string& path) {
+  const std::wstring folder = ToUtf16(path);
+  if (::CreateDirectoryW(folder.c_str(), nullptr) != FALSE) return true;
+  const DWORD attributes = GetFileAttributesW(folder.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+std::vector<std::string> WindowsSystemApi::FindFirstFileW(const std::string& pattern) {
+  std::vector<std::string> names;
+  WIN32_FIND_DATAW found{};
+  const HANDLE search = ::FindFirstFileW(ToUtf16(pattern).c_str(), &found);
+  if (search == INVALID_HANDLE_VALUE) return names;
+  do {
+    if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) {
+      names.push_back(ToUtf8(found.cFileName));
+    }
+  } while (FindNextFileW(search, &found) != FALSE);
+  FindClose(search);
+  return names;
+}
+
+bool WindowsSystemApi::DeleteFileW(const std::string& path) {
+  return ::DeleteFileW(ToUtf16(path).c_str()) != FALSE;
+}
+
+std::string WindowsSystemApi::SHGetKnownFolderPath() {
+  wchar_t* path = nullptr;
+  const HRESULT result = ::SHGetKnownFolderPath(FOLDERID_LocalAppData, 0, nullptr, &path);
+  const std::string text = SUCCEEDED(result) && path != nullptr ? ToUtf8(path) : "";
+  CoTaskMemFree(path);
+  return text;
+}
+
 FolderInfo WindowsSystemApi::GetFinalPathNameByHandleW(const std::string& folder) {
   const std::wstring path = ToUtf16(folder);
   constexpr DWORD kShare = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
@@ -163,10 +214,6 @@ std::unique_ptr<SystemMutex> WindowsSystemApi::CreateMutexA(const std::string& n
   UniqueKernelHandle handle(::CreateMutexW(nullptr, FALSE, ToUtf16(name).c_str()));
   if (!handle) return nullptr;
   return std::make_unique<WindowsMutex>(std::move(handle));
-}
-
-void WindowsSystemApi::SetUnhandledExceptionFilter(std::function<void(const Crash&)> filter) {
-  SetCrashFilter(std::move(filter));
 }
 
 }  // namespace korvale

@@ -17,9 +17,13 @@ class WindowsSystemApi final : public SystemApi {
                      int showCommand) override;
   bool FileExists(const std::string& path) override;
   bool AppendToFile(const std::string& path, std::span<const std::string> pieces) override;
+  bool CanAppendToFile(const std::string& path) override;
+  bool CreateDirectoryW(const std::string& path) override;
+  std::vector<std::string> FindFirstFileW(const std::string& pattern) override;
+  bool DeleteFileW(const std::string& path) override;
+  std::string SHGetKnownFolderPath() override;
   FolderInfo GetFinalPathNameByHandleW(const std::string& folder) override;
   std::unique_ptr<SystemMutex> CreateMutexA(const std::string& name) override;
-  void SetUnhandledExceptionFilter(std::function<void(const Crash&)> filter) override;
 };
 
 }  // namespace korvale

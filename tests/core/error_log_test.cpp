@@ -91,12 +91,38 @@ TEST_F(ErrorLogTest, StandsInTheFolderOfTheProgram) {
 }
 
 TEST_F(ErrorLogTest, ThatCannotBeOpenedIsAPathFileAccessError) {
+  system_.localAppData = "C:\\None";
   identity_.programFolder = "D:\\None\\";
   EXPECT_EQ(AppendError(), 75);
   StartFrom("D:\\Work\\");
   system_.files.insert(std::string(kPath) + "\\Folder in its place");
   EXPECT_EQ(AppendError(), 75);
   EXPECT_EQ(Content(), "");
+}
+
+TEST_F(ErrorLogTest, StandsInTheUsersFolderWhenTheProgramsCannotBeWritten) {
+  const std::string other = "C:\\Users\\Ann\\AppData\\Local\\Korvale\\";
+  EXPECT_EQ(log_.Folder(), "D:\\Work\\");
+  EXPECT_EQ(log_.OtherFolderText(), "");
+  system_.readOnly = {"D:\\Work"};
+  EXPECT_EQ(log_.Folder(), other);
+  EXPECT_EQ(log_.OtherFolderText(),
+            "The error is recorded in the folder C:\\Users\\Ann\\AppData\\Local\\Korvale, "
+            "because the folder of Korvale cannot be written.");
+  EXPECT_TRUE(calls_.Calls().empty());
+  EXPECT_EQ(AppendError(), 0);
+  EXPECT_EQ(AppendError(), 0);
+  const std::string content = system_.Session().contents[other + "Error.log"];
+  EXPECT_NE(content.find("0000002 = D:\\Work\\\r\n"), std::string::npos) << content;
+  EXPECT_EQ(Content(), "");
+}
+
+TEST_F(ErrorLogTest, StaysInTheProgramsFolderWhenTheUserHasNone) {
+  system_.readOnly = {"D:\\Work"};
+  system_.localAppData = "";
+  EXPECT_EQ(log_.Folder(), "D:\\Work\\");
+  EXPECT_EQ(log_.OtherFolderText(), "");
+  EXPECT_EQ(AppendError(), 75);
 }
 
 TEST_F(ErrorLogTest, ErrorsWhileWritingAreIgnored) {

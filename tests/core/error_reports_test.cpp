@@ -82,6 +82,22 @@ TEST_F(ErrorReportsTest, FatalErrorOfTheProgramsOwnHasNoRunTimeErrorText) {
   EXPECT_NE(Content().find("\r\nProblem:   -- description\r\n"), std::string::npos) << Content();
 }
 
+TEST_F(ErrorReportsTest, TheMessageTellsWhereElseTheErrorIsRecorded) {
+  const std::string where =
+      "The error is recorded in the folder C:\\Users\\Ann\\AppData\\Local\\Korvale, because the "
+      "folder of Korvale cannot be written.";
+  system_.readOnly = {"D:\\Work"};
+  messages_.whileShown = {};
+  ErrorReports reports(messages_, log_, [this] { ++shutDowns_; });
+  EXPECT_THROW(reports.udmFatalError(ErrorPlace::kProgramEntry, 0, {"", "", "Start again."}),
+               ProgramEnded);
+  EXPECT_THROW(reports.udmFatalError(ErrorPlace::kProgramEntry, 0, {}), ProgramEnded);
+  ASSERT_EQ(messages_.shown.size(), 2U);
+  EXPECT_EQ(messages_.shown[0].prompt, "\r\rKorvale Error #1\rStart again.  " + where);
+  EXPECT_EQ(messages_.shown[1].prompt, "\r\rKorvale Error #1\r" + where);
+  EXPECT_TRUE(system_.files.contains("C:\\Users\\Ann\\AppData\\Local\\Korvale\\Error.log"));
+}
+
 TEST_F(ErrorReportsTest, ProgramEndsEvenWhenTheLogCannotBeWritten) {
   identity_.programFolder = "D:\\None\\";
   ErrorReports reports(messages_, log_, [this] { ++shutDowns_; });

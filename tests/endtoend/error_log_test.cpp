@@ -1,6 +1,11 @@
+#include <algorithm>
+#include <chrono>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <string>
+#include <vector>
 
 #include "tests/endtoend/harness/crash.h"
 #include "tests/endtoend/harness/refusing_store.h"
@@ -18,6 +23,9 @@ constexpr char kMessage[] =
 constexpr char kNotSaved[] = "VB ERROR 70 - Permission denied\r\rKorvale Error #";
 
 constexpr DWORD kAccessViolation = 0xC0000005;
+
+/// Wine takes long for a dump.
+constexpr std::chrono::seconds kUntilDumped(60);
 
 /// The date line of a record written at that time.
 std::string DateLine(const SYSTEMTIME& time) {
@@ -57,9 +65,25 @@ class ErrorLog : public KorvaleTest {
  protected:
   fs::path File() const { return fs::path(Wide(installation_.folder() + "Error.log")); }
 
-  std::string Written() const {
-    std::ifstream file(File(), std::ios::binary);
+  fs::path Folder() const { return File().parent_path(); }
+  static std::string Content(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
+  }
+  std::string Written() const { return Content(File()); }
+  static fs::path OtherFolder() { return fs::path(_wgetenv(L"LOCALAPPDATA")) / "Korvale"; }
+  static std::string MessageOfOtherFolder() {
+    return std::string(kMessage) + "  The error is recorded in the folder " +
+           OtherFolder().string() + ", because the folder of Korvale cannot be written.";
+  }
+  /// In the order of their names.
+  static std::vector<fs::path> Dumps(const fs::path& folder) {
+    std::vector<fs::path> dumps;
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
+      if (entry.path().extension() == ".dmp") dumps.push_back(entry.path());
+    }
+    std::ranges::sort(dumps);
+    return dumps;
   }
 
   /// The record of a crash at that time and place; nothing had been asked before.
@@ -78,14 +102,25 @@ class ErrorLog : public KorvaleTest {
   }
 
   /// Starts the program, crashes it, and confirms the message of the crash.
-  ::testing::AssertionResult StartAndCrash() {
+  ::testing::AssertionResult StartAndCrash(const std::string& message = kMessage) {
     Start();
     if (!Crash(main())) return ::testing::AssertionFailure() << "it does not crash";
-    const Window box = korvale_->MessageBox();
-    EXPECT_EQ(box.Title(), "Korvale - ERROR");
-    EXPECT_EQ(LabelText(box), kMessage);
+    return EndsWithMessage(message);
+  }
+
+  ::testing::AssertionResult EndsWithMessage(const std::string& message = kMessage) {
+    Window box;
+    const bool shown = WaitFor([&] {
+      const std::vector<Window> boxes = korvale_->MessageBoxes("Korvale - ERROR");
+      if (!boxes.empty()) box = boxes.front();
+      return !boxes.empty();
+    });
+    if (!shown) return ::testing::AssertionFailure() << "no message";
+    EXPECT_EQ(LabelText(box), message);
     if (!AnswerBox(box, IDOK)) return ::testing::AssertionFailure() << "the message does not go";
-    if (korvale_->process().WaitForExit() == kAccessViolation) return ::testing::AssertionSuccess();
+    if (korvale_->process().WaitForExit(kUntilDumped) == kAccessViolation) {
+      return ::testing::AssertionSuccess();
+    }
     return ::testing::AssertionFailure() << "the program does not end as a crash does";
   }
 
@@ -115,11 +150,15 @@ TEST_F(ErrorLog, GetsARecordOfEachCrash) {
   EXPECT_TRUE(IsRecord(both.substr(first.size()), before));
 }
 
-TEST_F(ErrorLog, ThatCannotBeWrittenStillLetsTheProgramTellAndEnd) {
+TEST_F(ErrorLog, ThatCannotBeWrittenIsInTheUsersFolderAndTheMessageSaysSo) {
   fs::create_directory(File());
-  EXPECT_TRUE(StartAndCrash());
+  EXPECT_TRUE(StartAndCrash(MessageOfOtherFolder()));
   EXPECT_TRUE(fs::is_empty(File()));
+  EXPECT_NE(Content(OtherFolder() / "Error.log").find(installation_.folder()), std::string::npos);
+  EXPECT_EQ(Dumps(OtherFolder()).size(), 1U);
+  EXPECT_TRUE(Dumps(Folder()).empty());
   EXPECT_TRUE(HotKeyIsFree(TagKey(1)));
+  fs::remove_all(OtherFolder());
 }
 
 TEST_F(ErrorLog, ThatAnotherProgramHoldsStaysAsItIs) {
@@ -127,10 +166,42 @@ TEST_F(ErrorLog, ThatAnotherProgramHoldsStaysAsItIs) {
   {
     const Handle held(
         CreateFileW(File().c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
-    EXPECT_TRUE(StartAndCrash());
+    EXPECT_TRUE(StartAndCrash(MessageOfOtherFolder()));
   }
   EXPECT_EQ(Written(), "kept");
   EXPECT_TRUE(HotKeyIsFree(TagKey(1)));
+  fs::remove_all(OtherFolder());
+}
+
+TEST_F(ErrorLog, HasADumpOfTheCrashBesideItAndFewOfFormerOnes) {
+  for (const char* const year : {"2001", "2002", "2003", "2004"}) {
+    std::ofstream(Folder() / ("Korvale " + std::string(year) + "-01-02 03.04.05.dmp")) << "old";
+  }
+  std::ofstream(Folder() / "Korvale of the user.dmp") << "mine";
+  ASSERT_TRUE(StartAndCrash());
+  const std::vector<fs::path> dumps = Dumps(Folder());
+  ASSERT_EQ(dumps.size(), 4U);
+  EXPECT_EQ(dumps[0].filename(), "Korvale 2003-01-02 03.04.05.dmp");
+  EXPECT_EQ(dumps[1].filename(), "Korvale 2004-01-02 03.04.05.dmp");
+  EXPECT_TRUE(Content(dumps[2]).starts_with("MDMP"));
+  EXPECT_EQ(dumps[3].filename(), "Korvale of the user.dmp");
+}
+
+TEST_F(ErrorLog, GetsTheCrashOfASecondThread) {
+  Start();
+  ASSERT_TRUE(CrashInSecondThread(main()));
+  EXPECT_TRUE(EndsWithMessage());
+  EXPECT_NE(Written().find("exception 0xC0000005"), std::string::npos);
+}
+
+TEST_F(ErrorLog, GetsACrashInTheWindowProcedureWhileAMessageIsShown) {
+  installation_.StoreTag(1, "Nowhere", "Test.Window");
+  Start();
+  Press(TagKey(1));
+  ASSERT_TRUE(korvale_->MessageBox());
+  ASSERT_TRUE(CrashInWindowProcedure(main()));
+  EXPECT_TRUE(EndsWithMessage());
+  EXPECT_NE(Written().find("exception 0xC0000005"), std::string::npos);
 }
 
 TEST_F(ErrorLog, IsWrittenAfterTheMessageAndNothingElseIsStored) {
@@ -142,7 +213,7 @@ TEST_F(ErrorLog, IsWrittenAfterTheMessageAndNothingElseIsStored) {
   ASSERT_TRUE(box);
   EXPECT_FALSE(fs::exists(File()));
   EXPECT_TRUE(AnswerBox(box, IDOK));
-  EXPECT_EQ(korvale_->process().WaitForExit(), kAccessViolation);
+  EXPECT_EQ(korvale_->process().WaitForExit(kUntilDumped), kAccessViolation);
   EXPECT_TRUE(fs::exists(File()));
   EXPECT_EQ(installation_.settings().Get("ParentWindowList", "2"), std::nullopt);
 }

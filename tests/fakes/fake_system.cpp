@@ -126,13 +126,58 @@ bool FakeSystem::FileExists(const std::string& path) {
 
 bool FakeSystem::AppendToFile(const std::string& path, std::span<const std::string> pieces) {
   log_.Add("AppendToFile(" + path + ")");
+  if (!Writable(path)) return false;
   const std::string real = InPlaceOf(shares, RealPath(path));
-  const std::string folder = real.substr(0, real.find_last_of('\\'));
-  const bool isFolder = !Spelled(files, drives, real).empty();
-  if (Reach(real) != 0 || isFolder || Spelled(files, drives, folder).empty()) return false;
   files.insert(real);
   std::string& content = session_->contents[real];
   for (const std::string& piece : pieces) content += session_->diskFull ? "" : piece;
+  return true;
+}
+
+bool FakeSystem::CanAppendToFile(const std::string& path) {
+  log_.AddRead("CanAppendToFile(" + path + ")");
+  return Writable(path);
+}
+
+bool FakeSystem::CreateDirectoryW(const std::string& path) {
+  log_.Add("CreateDirectoryW(" + path + ")");
+  const std::string folder = InPlaceOf(shares, RealPath(path));
+  if (IsFolder(folder)) return true;
+  if (!Writable(folder)) return false;
+  folders.insert(folder);
+  return true;
+}
+
+std::vector<std::string> FakeSystem::FindFirstFileW(const std::string& pattern) {
+  log_.AddRead("FindFirstFileW(" + pattern + ")");
+  const std::string real = InPlaceOf(shares, RealPath(pattern));
+  std::vector<std::string> names;
+  for (const std::string& file : files) {
+    const bool matches = std::ranges::equal(
+        file, real, [](char unit, char wanted) { return wanted == unit || wanted == '?'; });
+    if (matches) names.push_back(file.substr(file.find_last_of('\\') + 1));
+  }
+  return names;
+}
+
+bool FakeSystem::DeleteFileW(const std::string& path) {
+  log_.Add("DeleteFileW(" + path + ")");
+  const std::string real = InPlaceOf(shares, RealPath(path));
+  session_->contents.erase(real);
+  return Writable(path) && files.erase(real) != 0;
+}
+
+std::string FakeSystem::SHGetKnownFolderPath() {
+  log_.AddRead("SHGetKnownFolderPath()");
+  return localAppData;
+}
+
+bool FakeSystem::MiniDumpWriteDump(const std::string& path) {
+  log_.Add("MiniDumpWriteDump(" + path + ")");
+  if (!Writable(path)) return false;
+  const std::string real = InPlaceOf(shares, RealPath(path));
+  files.insert(real);
+  session_->contents[real] = "dump";
   return true;
 }
 
@@ -156,6 +201,17 @@ FolderInfo FakeSystem::GetFinalPathNameByHandleW(const std::string& folder) {
 
 std::string FakeSystem::RealPath(const std::string& path) const {
   return InPlaceOf(links, WithoutPrefix(path));
+}
+
+bool FakeSystem::IsFolder(const std::string& path) const {
+  return folders.contains(path) || !Spelled(files, drives, path).empty();
+}
+
+/// Whether a file of this path could be opened for writing.
+bool FakeSystem::Writable(const std::string& path) const {
+  const std::string real = InPlaceOf(shares, RealPath(path));
+  const std::string folder = real.substr(0, real.find_last_of('\\'));
+  return Reach(real) == 0 && !IsFolder(real) && IsFolder(folder) && !readOnly.contains(folder);
 }
 
 std::uint32_t FakeSystem::Reach(const std::string& path) const {

@@ -8,7 +8,9 @@
 #include <span>
 #include <string>
 #include <utility>
+#include <vector>
 
+#include "platform/crash_api.h"
 #include "platform/system_api.h"
 #include "tests/fakes/call_log.h"
 
@@ -47,7 +49,7 @@ class FakeSession {
 };
 
 /// What one program finds around itself. When the program dies, its mutexes are released.
-class FakeSystem : public SystemApi {
+class FakeSystem : public SystemApi, public CrashApi {
  public:
   FakeSystem(CallLog& log, std::shared_ptr<FakeSession> session);
   explicit FakeSystem(CallLog& log) : FakeSystem(log, std::make_shared<FakeSession>()) {}
@@ -69,11 +71,19 @@ class FakeSystem : public SystemApi {
                      int showCommand) override;
   bool FileExists(const std::string& path) override;
   bool AppendToFile(const std::string& path, std::span<const std::string> pieces) override;
+  bool CanAppendToFile(const std::string& path) override;
+  bool CreateDirectoryW(const std::string& path) override;
+  std::vector<std::string> FindFirstFileW(const std::string& pattern) override;
+  bool DeleteFileW(const std::string& path) override;
+  std::string SHGetKnownFolderPath() override;
   FolderInfo GetFinalPathNameByHandleW(const std::string& folder) override;
   std::unique_ptr<SystemMutex> CreateMutexA(const std::string& name) override;
+
+  // CrashApi
   void SetUnhandledExceptionFilter(std::function<void(const Crash&)> filter) override {
     crashFilter = std::move(filter);
   }
+  bool MiniDumpWriteDump(const std::string& path) override;
 
   std::string executablePath = "C:\\Programs\\Work\\Korvale.exe";
   std::string commandLine;
@@ -81,6 +91,12 @@ class FakeSystem : public SystemApi {
   OsVersion osVersion{2, 10};
   std::string windowsFolder = "C:\\Windows";
   std::set<std::string> files;
+  /// Folders that are there although they hold nothing.
+  std::set<std::string> folders = {"C:\\Users\\Ann\\AppData\\Local"};
+  /// Folders where nothing can be created or written.
+  std::set<std::string> readOnly;
+  /// "" when Windows cannot tell.
+  std::string localAppData = "C:\\Users\\Ann\\AppData\\Local";
   /// Drives that are there.
   std::set<std::string> drives = {"C:", "D:"};
   /// Other spellings (substituted drive, junction, short name) -> folder, which the system
@@ -97,6 +113,8 @@ class FakeSystem : public SystemApi {
  private:
   std::string RealPath(const std::string& path) const;
   std::uint32_t Reach(const std::string& path) const;
+  bool IsFolder(const std::string& path) const;
+  bool Writable(const std::string& path) const;
 
   CallLog& log_;
   std::shared_ptr<FakeSession> session_;

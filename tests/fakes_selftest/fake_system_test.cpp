@@ -52,6 +52,53 @@ TEST_F(FakeSystemTest, AppendsToFilesOfFoldersThatAreThere) {
             (std::map<std::string, std::string>{{"C:\\Log", "abab"}, {"C:\\Programs\\Log", "ab"}}));
 }
 
+TEST_F(FakeSystemTest, KnowsWhatCouldBeAppendedToAndChangesNothing) {
+  system_.files = {"C:\\Programs\\Readme.htm"};
+  EXPECT_TRUE(system_.CanAppendToFile("C:\\Programs\\Readme.htm"));
+  EXPECT_TRUE(system_.CanAppendToFile("C:\\Programs\\Log"));
+  EXPECT_FALSE(system_.CanAppendToFile("C:\\Programs"));
+  EXPECT_FALSE(system_.CanAppendToFile("C:\\None\\Log"));
+  EXPECT_FALSE(system_.CanAppendToFile("E:\\Log"));
+  EXPECT_EQ(system_.files.size(), 1U);
+  EXPECT_TRUE(session_->contents.empty());
+}
+
+TEST_F(FakeSystemTest, ChangesNothingInAReadOnlyFolder) {
+  system_.files = {"C:\\Programs\\Log"};
+  system_.readOnly = {"C:\\Programs"};
+  EXPECT_FALSE(system_.CanAppendToFile("C:\\Programs\\Log"));
+  EXPECT_FALSE(system_.AppendToFile("C:\\Programs\\Log", std::vector<std::string>{"a"}));
+  EXPECT_FALSE(system_.CreateDirectoryW("C:\\Programs\\Folder"));
+  EXPECT_FALSE(system_.MiniDumpWriteDump("C:\\Programs\\Dump"));
+  EXPECT_FALSE(system_.DeleteFileW("C:\\Programs\\Log"));
+  EXPECT_EQ(system_.files.size(), 1U);
+}
+
+TEST_F(FakeSystemTest, MakesFoldersInFoldersThatAreThere) {
+  EXPECT_TRUE(system_.CreateDirectoryW(system_.SHGetKnownFolderPath() + "\\Korvale"));
+  EXPECT_TRUE(system_.CreateDirectoryW(system_.SHGetKnownFolderPath() + "\\Korvale"));
+  EXPECT_TRUE(system_.CanAppendToFile(system_.localAppData + "\\Korvale\\Log"));
+  EXPECT_FALSE(system_.CreateDirectoryW("C:\\None\\Korvale"));
+}
+
+TEST_F(FakeSystemTest, FindsAndDeletesFiles) {
+  system_.files = {"C:\\Programs\\a1.dmp", "C:\\Programs\\a2.dmp", "C:\\Programs\\b1.dmp",
+                   "C:\\Other\\a1.dmp"};
+  EXPECT_EQ(system_.FindFirstFileW("C:\\Programs\\a?.dmp"),
+            (std::vector<std::string>{"a1.dmp", "a2.dmp"}));
+  EXPECT_TRUE(system_.DeleteFileW("C:\\Programs\\a1.dmp"));
+  EXPECT_FALSE(system_.DeleteFileW("C:\\Programs\\a1.dmp"));
+  EXPECT_EQ(system_.FindFirstFileW("C:\\Programs\\a?.dmp"), std::vector<std::string>{"a2.dmp"});
+}
+
+TEST_F(FakeSystemTest, WritesADumpInPlaceOfAFormerOne) {
+  system_.files = {"C:\\Programs\\Readme.htm"};
+  EXPECT_TRUE(system_.MiniDumpWriteDump("C:\\Programs\\Dump"));
+  EXPECT_TRUE(system_.MiniDumpWriteDump("C:\\Programs\\Dump"));
+  EXPECT_EQ(session_->contents["C:\\Programs\\Dump"], "dump");
+  EXPECT_TRUE(system_.FileExists("C:\\Programs\\Dump"));
+}
+
 TEST_F(FakeSystemTest, LogsWhatItOpens) {
   system_.ShellExecuteA(0x10, "Open", "readme.htm", 1);
 

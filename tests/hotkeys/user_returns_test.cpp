@@ -71,9 +71,7 @@ TEST_F(UserReturns, OnlyByTheEventsThatSaySo) {
 TEST_F(UserReturns, AsOftenAsAStrangerClaimsChangesNothing) {
   const auto registered = hotKeys.Registered();
   for (int time = 0; time < 10'000; ++time) {
-    for (const auto& [message, event] : kReturns) {
-      hook.HotKeyWindowProc(kMain, message, event, -1);
-    }
+    for (const auto& [message, event] : kReturns) hook.HotKeyWindowProc(kMain, message, event, -1);
   }
   EXPECT_EQ(hotKeys.Registered(), registered);
   EXPECT_TRUE(actions.log.empty());

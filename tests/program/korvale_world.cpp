@@ -9,9 +9,9 @@ KorvaleCopy::KorvaleCopy(KorvaleWorld& world, const std::string& folder, int pro
       bridge(world.desktop.Windows(), process),
       host(bridge, world.log),
       user(host, world.clock),
-      platform{world.desktop, world.desktop, world.hotKeys, world.store, system,
-               world.clock,   world.clock,   host,          host,        host,
-               host,          host,          world.desktop},
+      platform{world.desktop, world.desktop, world.hotKeys, world.store,  system,
+               system,        world.clock,   world.clock,   host,         host,
+               host,          host,          host,          world.desktop},
       program(platform) {
   system.executablePath = "C:\\Programs\\" + folder + "\\Korvale.exe";
   system.files.insert(system.executablePath);

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <span>
 #include <string>
@@ -25,7 +24,6 @@ class SystemOfTest : public SystemApi {
     buffer_size_ = bufferSize;
     return folder_.size() < bufferSize ? folder_ : "";
   }
-  void SetUnhandledExceptionFilter(std::function<void(const Crash&)> /*filter*/) override {}
   void ShellExecuteA(WindowHandle hwnd, const std::string& verb, const std::string& file,
                      int showCommand) override {
     opened_.push_back(std::to_string(hwnd) + " " + verb + " " + file + " " +
@@ -35,6 +33,11 @@ class SystemOfTest : public SystemApi {
   bool AppendToFile(const std::string& /*path*/, std::span<const std::string> /*pieces*/) override {
     return false;
   }
+  bool CanAppendToFile(const std::string& /*path*/) override { return false; }
+  bool CreateDirectoryW(const std::string& /*path*/) override { return false; }
+  std::vector<std::string> FindFirstFileW(const std::string& /*pattern*/) override { return {}; }
+  bool DeleteFileW(const std::string& /*path*/) override { return false; }
+  std::string SHGetKnownFolderPath() override { return ""; }
   FolderInfo GetFinalPathNameByHandleW(const std::string& /*folder*/) override { return {}; }
   std::unique_ptr<SystemMutex> CreateMutexA(const std::string& /*name*/) override { return {}; }
 

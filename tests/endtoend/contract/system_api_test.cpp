@@ -49,6 +49,47 @@ TEST(WindowsSystemApi, AppendsToAFile) {
   EXPECT_FALSE(system.AppendToFile(program + ".none\\Error.log", pieces));
 }
 
+TEST(WindowsSystemApi, TellsWhatCouldBeAppendedToAndLeavesItAlone) {
+  WindowsSystemApi system;
+  const std::string program = system.GetModuleFileNameA();
+  const std::string folder = program.substr(0, program.rfind('\\'));
+  EXPECT_TRUE(system.CanAppendToFile(folder + "\\none.log"));
+  EXPECT_FALSE(system.FileExists(folder + "\\none.log"));
+  EXPECT_FALSE(system.CanAppendToFile(folder));
+  EXPECT_FALSE(system.CanAppendToFile(folder + "\\none\\Error.log"));
+  const HANDLE held = CreateFileA((folder + "\\held.log").c_str(), GENERIC_WRITE, 0, nullptr,
+                                  CREATE_ALWAYS, FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+  EXPECT_FALSE(system.CanAppendToFile(folder + "\\held.log"));
+  CloseHandle(held);
+}
+
+TEST(WindowsSystemApi, MakesFoldersAndFindsAndDeletesFiles) {
+  WindowsSystemApi system;
+  const std::string program = system.GetModuleFileNameA();
+  const std::string folder = program + ".Папка";
+  EXPECT_TRUE(system.CreateDirectoryW(folder));
+  EXPECT_TRUE(system.CreateDirectoryW(folder));
+  EXPECT_FALSE(system.CreateDirectoryW(program));
+  EXPECT_FALSE(system.CreateDirectoryW(folder + "\\none\\none"));
+  EXPECT_TRUE(system.CreateDirectoryW(folder + "\\a3.dmp"));
+  for (const char* const name : {"\\a1.dmp", "\\a2.dmp", "\\b1.dmp"}) {
+    EXPECT_TRUE(system.AppendToFile(folder + name, {}));
+  }
+  EXPECT_EQ(system.FindFirstFileW(folder + "\\a?.dmp"),
+            (std::vector<std::string>{"a1.dmp", "a2.dmp"}));
+  EXPECT_TRUE(system.FindFirstFileW(folder + "\\c?.dmp").empty());
+  EXPECT_TRUE(system.DeleteFileW(folder + "\\a1.dmp"));
+  EXPECT_FALSE(system.DeleteFileW(folder + "\\a1.dmp"));
+  std::filesystem::remove_all(std::u8string(folder.begin(), folder.end()));
+}
+
+TEST(WindowsSystemApi, KnowsTheUsersFolderForData) {
+  const std::string folder = WindowsSystemApi().SHGetKnownFolderPath();
+  ASSERT_FALSE(folder.empty());
+  EXPECT_NE(folder.back(), '\\');
+  EXPECT_TRUE(WindowsSystemApi().CanAppendToFile(folder + "\\none.log"));
+}
+
 TEST(WindowsSystemApi, KnowsAFolderByEveryPath) {
   WindowsSystemApi system;
   const std::string path = system.GetModuleFileNameA();

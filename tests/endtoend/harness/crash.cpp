@@ -13,6 +13,8 @@
 namespace korvale::endtoend {
 namespace {
 
+constexpr ULONGLONG kNoPlaceInMemory = 8;
+
 /// The program file of another process, as it is laid out in that process's memory.
 class LoadedProgram {
  public:
@@ -81,8 +83,21 @@ class LoadedProgram {
 
 }  // namespace
 
+bool CrashInSecondThread(Window window) {
+  const Handle process(OpenProcess(PROCESS_CREATE_THREAD | PROCESS_QUERY_INFORMATION |
+                                       PROCESS_VM_OPERATION | PROCESS_VM_READ | PROCESS_VM_WRITE,
+                                   FALSE, window.ProcessId()));
+  const auto start = reinterpret_cast<LPTHREAD_START_ROUTINE>(kNoPlaceInMemory);
+  const Handle thread(CreateRemoteThread(process.get(), nullptr, 0, start, nullptr, 0, nullptr));
+  return thread.get() != nullptr;
+}
+
+bool CrashInWindowProcedure(Window window) {
+  return LoadedProgram(window.ProcessId()).Redirect("CallWindowProcA", kNoPlaceInMemory) &&
+         PostMessageW(window.handle(), WM_NULL, 0, 0) != 0;
+}
+
 bool Crash(Window window) {
-  constexpr ULONGLONG kNoPlaceInMemory = 8;
   // Called once for each message, and only by the loop. If the loop keeps an address for all its
   // rounds, as it may that of GetMessageW, it would not notice that the call was redirected.
   return LoadedProgram(window.ProcessId()).Redirect("TranslateMessage", kNoPlaceInMemory) &&

@@ -8,4 +8,10 @@ namespace korvale::endtoend {
 /// address without memory. False when that cannot be arranged.
 bool Crash(Window window);
 
+/// The same inside the window procedure of that window.
+bool CrashInWindowProcedure(Window window);
+
+/// The same on a new thread of that program.
+bool CrashInSecondThread(Window window);
+
 }  // namespace korvale::endtoend

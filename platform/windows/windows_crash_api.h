@@ -1,0 +1,27 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "platform/crash_api.h"
+
+namespace korvale {
+
+/// Crashes through kernel32, the runtime library of C++ and dbghelp. Corrupted heaps and failed
+/// security checks end the process without asking anybody. A process has one of these.
+class WindowsCrashApi final : public CrashApi {
+ public:
+  class Reporter;
+
+  WindowsCrashApi();
+  ~WindowsCrashApi() override;
+
+  void SetUnhandledExceptionFilter(std::function<void(const Crash&)> filter) override;
+  bool MiniDumpWriteDump(const std::string& path) override;
+
+ private:
+  std::unique_ptr<Reporter> reporter_;
+};
+
+}  // namespace korvale

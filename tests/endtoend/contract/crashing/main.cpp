@@ -1,0 +1,112 @@
+// Crashes in the way that its first argument names and reports it to the file of the second one.
+#include <windows.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <map>
+#include <stdexcept>
+#include <string>
+#include <thread>
+
+#include "platform/windows/windows_crash_api.h"
+
+// With internal linkage the compiler would know the only function that can be meant.
+struct Base {
+  Base() {
+    Base* volatile self = this;
+    self->Pure();
+  }
+  virtual ~Base() = default;
+  virtual void Pure() = 0;
+};
+struct Derived : Base {
+  void Pure() override {}
+};
+
+namespace {
+
+// The compiler must not see that this page is never there, and that this depth is never reached.
+int* volatile nowhere = reinterpret_cast<int*>(8);
+volatile int deepest = -1;
+
+void Access() { *nowhere = 1; }
+
+/// With `left` bytes of the stack left, says what Windows says when there are none.
+// NOLINTNEXTLINE(misc-no-recursion): it is meant to need more stack than there is.
+int Overflow(int depth, ULONG_PTR left) {
+  ULONG_PTR end = 0;
+  ULONG_PTR begin = 0;
+  GetCurrentThreadStackLimits(&end, &begin);
+  volatile char room[512];
+  room[0] = static_cast<char>(depth);
+  if (reinterpret_cast<ULONG_PTR>(&room) - end < left) {
+    RaiseException(static_cast<DWORD>(STATUS_STACK_OVERFLOW), 0, 0, nullptr);
+  }
+  return depth == deepest ? 0 : Overflow(depth + 1, left) + room[0];
+}
+
+void ThrowUncaught() { throw std::runtime_error("nobody expected this"); }
+
+const std::map<std::string, void (*)()> kCrashes = {
+    {"access", Access},
+    {"overflow", [] { Overflow(1, 0); }},
+    {"used up stack", [] { Overflow(1, 48 * 1024); }},
+    {"thread", [] { std::thread(Access).join(); }},
+    {"exception", ThrowUncaught},
+    {"terminate", [] { std::terminate(); }},
+    {"abort", [] { std::abort(); }},
+    {"pure call", [] { Derived object; }},
+};
+
+std::string Caught() {
+  if (!std::current_exception()) return "";
+  try {
+    throw;
+  } catch (const std::exception& error) {
+    return error.what();
+  }
+}
+
+void Append(const std::string& path, const std::string& text) {
+  if (FILE* const file = std::fopen(path.c_str(), "ab")) {
+    std::fputs(text.c_str(), file);
+    std::fclose(file);
+  }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc < 4) return 2;
+  const std::string crash = argv[1];
+  const std::string report = argv[2];
+  const std::string inFilter = argv[3];
+  const DWORD mainThread = GetCurrentThreadId();
+  korvale::WindowsCrashApi api;
+  api.SetUnhandledExceptionFilter([&](const korvale::Crash& crashed) {
+    char code[16];
+    std::snprintf(code, sizeof(code), "%08X", static_cast<unsigned>(crashed.code));
+    const bool other = GetCurrentThreadId() != mainThread;
+    Append(report, std::string(code) + (other ? " " : " on the same thread ") + Caught() + "\n");
+    if (inFilter == "dump") {
+      const bool written = api.MiniDumpWriteDump(report + ".dmp");
+      Append(report, written ? "dumped\n" : "not dumped\n");
+    } else if (inFilter == "wait") {
+      // Another thread crashes meanwhile, which waits for the end too.
+      std::thread(Access).detach();
+      Sleep(300);
+      Append(report, "waited\n");
+    } else if (inFilter == "throw") {
+      throw std::runtime_error("again");
+    } else if (inFilter != "-") {
+      kCrashes.at(inFilter)();
+    }
+  });
+  if (crash == "taken back") {
+    api.SetUnhandledExceptionFilter({});
+  } else if (crash != "none") {
+    kCrashes.at(crash)();
+  }
+  return 7;
+}
