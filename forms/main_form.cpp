@@ -47,9 +47,7 @@ void frmMain::Form_Load() {
 
 void frmMain::Form_Activate() { lifetime_->FirstActivation(*this, parts_); }
 
-void frmMain::Form_QueryUnload(bool& cancel, CloseReason reason) {
-  // A modal dialog must be answered first; only what ends the whole program overrides it.
-  cancel = reason == CloseReason::kUser && Collection().AnyModal();
+void frmMain::Form_QueryUnload(bool& /*cancel*/, CloseReason reason) {
   endsUnattended_ = reason == CloseReason::kSession || reason == CloseReason::kTaskManager;
 }
 

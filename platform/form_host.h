@@ -31,6 +31,8 @@ class FormHost {
   /// Shows or hides the menu bar and redraws its captions (SetMenu, DrawMenuBar).
   virtual void DrawMenuBar(WindowHandle hwnd) = 0;
   virtual void EnableWindow(WindowHandle hwnd, bool enable) = 0;
+  /// False also while Windows itself has disabled the form, the owner of a message box or dialog.
+  virtual bool IsWindowEnabled(WindowHandle hwnd) = 0;
   /// `command` is one of the SW_ values. Tells screen readers of an alert that comes up, as does
   /// every other text of one that is shown (NotifyWinEvent with EVENT_SYSTEM_ALERT).
   virtual void ShowWindow(WindowHandle hwnd, int command) = 0;

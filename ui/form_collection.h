@@ -51,8 +51,6 @@ class FormCollection : public LoadedForms {
   /// Runs a dialog of Windows, which disables its owner itself, and keeps all other forms disabled
   /// meanwhile.
   void RunSystemDialog(const CollectedForm& owner, const std::function<void()>& dialog);
-  /// True while a form is shown modally or a dialog of Windows is on the screen.
-  bool AnyModal() const { return !modal_.empty(); }
   /// The form shown modally on top, null when there is none.
   CollectedForm* TopModal() const { return modal_.empty() ? nullptr : modal_.back().form; }
 

@@ -76,7 +76,7 @@ bool Form::IsControl(int control) const {
 }
 
 void Form::OnClick(int control) {
-  if (!IsControl(control) || !CanTakeInput(StateOf(control))) return;
+  if (!IsControl(control) || !TakesInput() || !CanTakeInput(StateOf(control))) return;
   Control& clicked = ById(control);
   switch (clicked.State().kind) {
     case ControlKind::kCheckBox:
@@ -94,6 +94,7 @@ void Form::OnTextTyped(int control, const std::string& text) {
   if (!IsControl(control)) return;
   ControlState& state = StateOf(control);
   if (state.text == text) return;
+  if (!TakesInput()) return ById(control).Changed(ControlProperty::kText);
   state.text = text;
   if (state.kind == ControlKind::kComboBox) state.listIndex = -1;
   RaiseClick(ById(control));
@@ -102,6 +103,7 @@ void Form::OnTextTyped(int control, const std::string& text) {
 void Form::OnListPicked(int control, int listIndex) {
   if (!IsControl(control)) return;
   Control& list = ById(control);
+  if (!TakesInput()) return list.Changed(ControlProperty::kListIndex);
   if (listIndex >= static_cast<int>(list.Items().size())) {
     // Another program has put an entry into the list.
     list.Changed(ControlProperty::kItems);
@@ -112,7 +114,7 @@ void Form::OnListPicked(int control, int listIndex) {
 }
 
 void Form::OnListDropDown(int control) {
-  if (!IsControl(control)) return;
+  if (!IsControl(control) || !TakesInput()) return;
   RaiseFor(droppedDown_, StateOf(control).name, StateOf(control).index);
 }
 
@@ -122,6 +124,7 @@ void Form::OnListClosedUp(int control) {
 
 bool Form::OnKeyDown(int control, int virtualKey, unsigned shift, bool repeated) {
   if (!IsLoaded() || (control != 0 && !IsControl(control))) return false;
+  if (!TakesInput()) return true;
   if (virtualKey == win32::kVkMenu) altUsed_ = false;
   int key = virtualKey;
   keyRepeats_ = repeated;
@@ -133,6 +136,7 @@ bool Form::OnKeyDown(int control, int virtualKey, unsigned shift, bool repeated)
 
 bool Form::OnCharacter(int control, char32_t character, unsigned shift) {
   if (!IsLoaded() || (control != 0 && !IsControl(control))) return false;
+  if (!TakesInput()) return true;
   // Latin letters and digits have been handled as keys, whatever the keyboard layout.
   constexpr char32_t kFirstBeyondAscii = 0x80;
   if (character < kFirstBeyondAscii) {
@@ -145,6 +149,7 @@ bool Form::OnCharacter(int control, char32_t character, unsigned shift) {
 
 bool Form::OnKeyUp(int control, int virtualKey, unsigned shift) {
   if (!IsLoaded() || (control != 0 && !IsControl(control))) return false;
+  if (!TakesInput()) return true;
   // Windows has not seen the key pressed with Alt, so it would take Alt for one pressed alone,
   // which opens the menu.
   const bool altUsed = virtualKey == win32::kVkMenu && std::exchange(altUsed_, false);
@@ -154,7 +159,7 @@ bool Form::OnKeyUp(int control, int virtualKey, unsigned shift) {
 }
 
 void Form::OnMouse(int control, const MouseInput& input) {
-  if (!IsLoaded()) return;
+  if (!TakesInput()) return;
   // Settled first: an error in a handler ends this event and must leave nothing for the next.
   const bool clicked = TakePress(control, input);
   if (IsControl(control)) {
@@ -186,7 +191,7 @@ void Form::OnMenuOpened(MenuItem& menu) {
 }
 
 void Form::OnMenuClicked(MenuItem& item) {
-  if (!IsLoaded() || !item.enabled || !item.visible || !TakesInput()) return;
+  if (!TakesInput() || !item.enabled || !item.visible) return;
   RaiseFor(menuClicked_, item.name, item.index);
 }
 
@@ -258,7 +263,11 @@ void Form::OnCloseRequested(CloseReason reason) {
 }
 
 /// A message that was in the queue, or comes from another program, reaches a disabled window, too.
-bool Form::TakesInput() const { return state_.enabled && !forms_->IsBlocked(*this); }
+/// Windows disables the owner of a box, and any program can enable what we have disabled.
+bool Form::TakesInput() const {
+  return IsLoaded() && state_.enabled && !forms_->IsBlocked(*this) &&
+         forms_->Host().IsWindowEnabled(handle_);
+}
 
 void Form::OnTimer(int control) {
   // Any program may post a tick.

@@ -230,7 +230,7 @@ TEST_F(FormHostContract, AMessageBoxShowsWhatItWasToldAndGivesTheButton) {
   bool ownerEnabled = true;
   User().WhenMessageBox([&](const ShownMessage& message) {
     shown = message;
-    ownerEnabled = User().IsEnabled(Window());
+    ownerEnabled = User().IsEnabled(Window()) || Host().IsWindowEnabled(Window());
     return win32::kIdNo;
   });
   const std::int32_t style = win32::kMbYesNo + win32::kMbDefButton2;
@@ -242,6 +242,7 @@ TEST_F(FormHostContract, AMessageBoxShowsWhatItWasToldAndGivesTheButton) {
   EXPECT_EQ(shown.owner, Window());
   EXPECT_FALSE(ownerEnabled);
   EXPECT_TRUE(User().IsEnabled(Window()));
+  EXPECT_TRUE(Host().IsWindowEnabled(Window()));
 }
 
 TEST_F(FormHostContract, TheWorkAreaHoldsTheForm) {

@@ -1,5 +1,6 @@
 #include <utility>
 
+#include "tests/fakes/disabled_owner.h"
 #include "tests/fakes/headless_form_host.h"
 
 namespace korvale {
@@ -13,6 +14,7 @@ std::optional<Color> HeadlessFormHost::ChooseColorW(WindowHandle owner, Color in
   if (colors_.empty()) FailTest("nobody answers the colour dialog");
   const auto choose = std::move(colors_.front());
   colors_.pop_front();
+  const DisabledOwner below(*desktop_, owner);
   return choose(initial);
 }
 

@@ -109,6 +109,7 @@ class HeadlessFormHost : public FormHost,
   void MoveWindow(WindowHandle hwnd) override;
   void DrawMenuBar(WindowHandle hwnd) override;
   void EnableWindow(WindowHandle hwnd, bool enable) override;
+  bool IsWindowEnabled(WindowHandle hwnd) override { return desktop_->IsEnabled(hwnd); }
   void ShowWindow(WindowHandle hwnd, int command) override;
   void SetFocus(WindowHandle hwnd, int control) override;
   /// The control of the form that has the focus, 0 = none.

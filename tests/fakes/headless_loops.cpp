@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "platform/win32_constants.h"
+#include "tests/fakes/disabled_owner.h"
 #include "tests/fakes/headless_form_host.h"
 #include "ui/form.h"
 #include "util/raised_flag.h"
@@ -80,18 +81,17 @@ std::int16_t HeadlessFormHost::MessageBoxW(WindowHandle owner, const std::string
   log_->Add("MessageBoxW(" + log_->Window(owner) + ", \"" + text + "\", \"" + title + "\", " +
             std::to_string(style) + ")");
   const Answer answer = TakeAnswer(message);
-  const bool disables = owner != 0 && desktop_->IsEnabled(owner);
-  if (disables) desktop_->Enable(owner, false);
-  const WindowHandle box = desktop_->OpenBox(owner, title);
+  WindowHandle box = 0;
   std::int16_t button = 0;
   {
+    const DisabledOwner below(*desktop_, owner);
+    box = desktop_->OpenBox(owner, title);
     const BoxOnScreen shown(boxes_, message);
     button = answer(message);
   }
   if (!Offers(style, button)) {
     FailTest("button " + std::to_string(button) + " is not on the " + Quote(message));
   }
-  if (disables) desktop_->Enable(owner, true);
   desktop_->Destroy(box);
   return button;
 }

@@ -181,6 +181,16 @@ TEST_F(HeadlessFormHostTest, ADisabledOwnerStaysDisabledAfterAMessageBox) {
   EXPECT_FALSE(user_.IsEnabled(form_.Handle()));
 }
 
+TEST_F(HeadlessFormHostTest, TheOwnerOfADialogOfWindowsIsDisabledMeanwhile) {
+  form_.Show();
+  host_.WhenColorDialog([&](Color) -> std::optional<Color> {
+    EXPECT_FALSE(host_.IsWindowEnabled(form_.Handle()));
+    return std::nullopt;
+  });
+  host_.ChooseColorW(form_.Handle(), 0);
+  EXPECT_TRUE(host_.IsWindowEnabled(form_.Handle()));
+}
+
 TEST_F(HeadlessFormHostTest, CallsAreLoggedInTheirOrder) {
   dialog_.Show();
   dialog_.SetCaption("New");

@@ -1,111 +1,23 @@
-#include <cstddef>
-#include <functional>
-#include <optional>
 #include <string>
 #include <tuple>
+#include <vector>
 
 #include "platform/win32_constants.h"
-#include "tests/program/start_test.h"
+#include "tests/program/boxes_up.h"
 
 namespace korvale {
 namespace {
 
 constexpr const char* kHeldNotice =
     "Hot Keys are temporarily suspended when Korvale has a message box or a dialog box displayed.";
+/// A stored width that only a save of the program replaces.
+constexpr const char* kUnsaved = "unsaved";
 
 /// Everything that the message loop can deliver, while each of the boxes is up.
-class BoxAndDelivery : public StartTest {
+class BoxAndDelivery : public BoxesUp {
  public:
-  using Meanwhile = std::function<void()>;
-
-  // The boxes. Each shows itself, lets `meanwhile` happen, and is answered.
-  void ShowMessage(const Meanwhile& meanwhile) {
-    StartAmongWindows();
-    Answer(meanwhile, win32::kIdOk);
-    PressTag(1);
-  }
-  void ShowNotice(const Meanwhile& meanwhile) {
-    StartAmongWindows();
-    Answer(
-        [&] {
-          Answer(meanwhile, win32::kIdOk);
-          PressTag(2);
-        },
-        win32::kIdOk);
-    PressTag(1);
-  }
-  void ShowTip(const Meanwhile& meanwhile) {
-    StartAmongWindows();
-    WorkIn(korvale_->Handle());
-    CloseAfter("frmMsgTip", meanwhile);
-    korvale_->user.ChooseMenu(korvale_->Handle(), {"View", "Customize Colors - C"});
-  }
-  void ShowOptionsQuestion(const Meanwhile& meanwhile) {
-    StartAmongWindows();
-    PressHotKey(win32::kModWin, 'O');
-    class Form& options = korvale_->Loaded("frmOptions");
-    Answer(meanwhile, win32::kIdCancel);
-    korvale_->user.Click(options.Handle(), korvale_->Id(options, "cmdReset"));
-    if (options.IsLoaded()) options.Unload();
-  }
-  void ShowAddWindow(const Meanwhile& meanwhile) {
-    StartAmongWindows();
-    WorkIn(korvale_->Handle());
-    CloseAfter("frmGetWindow", meanwhile);
-    korvale_->ChooseLate("mnuWindowAddToList", 2);
-  }
-  void ShowColorDialog(const Meanwhile& meanwhile) {
-    StartAmongWindows();
-    korvale_->host.WhenColorDialog([&](Color) -> std::optional<Color> {
-      meanwhile();
-      return std::nullopt;
-    });
-    korvale_->Form().udmShowColorPalette(0);
-  }
-  void ShowWaitWindow(const Meanwhile& meanwhile) {
-    StartAmongWindows();
-    // It takes nothing from the user, who may go on in the main window.
-    mainIsUsable_ = true;
-    korvale_->host.WhenWaiting(meanwhile);
-    PressHotKey(0, win32::kVkPause);
-    if (korvale_->Form().IsLoaded()) PressHotKey(0, win32::kVkPause);
-  }
-  void ShowTipOfTheStart(const Meanwhile& meanwhile) {
-    OpenWindows();
-    hotKeys.RegisterForeign(win32::kModWin, 'W');
-    hotKeyCount_ = 14;
-    korvale_ = &UsedCopy();
-    CloseAfter("frmMsgTip", meanwhile);
-    korvale_->Start();
-    LetTick();
-  }
-  void ShowReviewQuestion(const Meanwhile& meanwhile) {
-    OpenWindows();
-    korvale_ = &NewCopy();
-    Answer(meanwhile, win32::kIdNo);
-    korvale_->Start();
-    LetTick();
-  }
-  void ShowImportQuestion(const Meanwhile& meanwhile) {
-    store.SaveSetting("Korvale Installations", "0", "Korvale - Old", "C:\\Gone\\Old");
-    store.SaveSetting("Korvale - Old", "Options", "SplashScreen", "False");
-    OpenWindows();
-    korvale_ = &NewCopy();
-    starting_ = true;
-    Answer(
-        [&] {
-          meanwhile();
-          if (korvale_->Form().IsLoaded() && !korvale_->host.QuitPosted()) {
-            korvale_->host.AnswerNext(win32::kIdNo);
-          }
-        },
-        win32::kIdNo);
-    korvale_->Start();
-    LetTick();
-  }
-
-  // The deliveries.
   void PressHotKeys() {
+    if (hotKeysWork_) return ExpectTagLeadsTo(2, "Gamma");
     const std::size_t before = korvale_->host.Messages().size();
     const bool expected = desktop.FindWindowA("Korvale     ") == 0 && !starting_;
     if (expected) {
@@ -120,7 +32,6 @@ class BoxAndDelivery : public StartTest {
     PressHotKey(0, win32::kVkPause);
     EXPECT_EQ(korvale_->host.Messages().size(), before + (expected ? 1 : 0));
     EXPECT_NE(Front(), "Gamma");
-    EXPECT_EQ(korvale_->FindForm("frmOptions") != nullptr, optionsBefore_);
   }
   void PostForeignHotKeys() {
     for (const int id : {-1, 0, 1, 200, 65536}) {
@@ -140,12 +51,46 @@ class BoxAndDelivery : public StartTest {
       korvale_->ChooseLate(entry);
     }
     EXPECT_EQ(korvale_->Startup().WindowInfo, targetWindow);
-    EXPECT_EQ(korvale_->FindForm("frmOptions") != nullptr, optionsBefore_);
+  }
+  /// What was in the queue when the box came up, or comes from another program.
+  void UseWhatIsBelow() {
+    int below = 0;
+    for (const LoadedForm& form : korvale_->Form().Collection().List()) {
+      if (korvale_->user.IsEnabled(form.handle)) continue;
+      ++below;
+      UseEverythingOf(korvale_->Loaded(form.name));
+    }
+    EXPECT_EQ(below > 0, !mainIsUsable_);
   }
   void CloseMainWindow() { korvale_->Form().OnCloseRequested(CloseReason::kUser); }
   void ChangeColors() {
     korvale_->host.ChangeHighContrast(true);
     korvale_->host.ChangeSysColor(kButtonFaceColor, 0);
+  }
+  void ChangeMetrics() {
+    korvale_->host.ChangeTextSize(150);
+    korvale_->host.ChangeWorkArea({0, 0, 12000, 9000});
+  }
+  void ChangeDpi() {
+    korvale_->host.SetDpi(192);
+    for (const LoadedForm& form : korvale_->Form().Collection().List()) {
+      korvale_->host.Tell(form.handle, [](FormEvents& events) { events.OnDpiChanged(); });
+    }
+  }
+  void ActivateMainWindow() {
+    korvale_->host.Tell(korvale_->Handle(), [](FormEvents& events) { events.OnActivated(); });
+  }
+  void MinimizeAndRestoreMainWindow() {
+    const bool shown = desktop.IsWindowVisible(korvale_->Handle());
+    if (!shown) return;
+    desktop.ShowWindow(korvale_->Handle(), win32::kSwMinimize);
+    LetTick();
+    desktop.ShowWindow(korvale_->Handle(), win32::kSwRestore);
+    LetTick();
+  }
+  void ReturnToTheComputer() {
+    hotKeys.EndSleep();
+    hotKeys.ChangeSession(win32::kWtsSessionUnlock);
   }
   void ChangeOtherWindows() {
     desktop.UserMinimizes(beta_);
@@ -166,6 +111,30 @@ class BoxAndDelivery : public StartTest {
   void QuitThread() { korvale_->user.QuitThread(); }
 
  protected:
+  /// What must stay as it is while something is up, whatever is delivered.
+  struct Shown {
+    std::vector<std::string> forms;
+    bool box = false;
+    WindowTriple current;
+    WindowTriple alternate;
+
+    friend bool operator==(const Shown&, const Shown&) = default;
+  };
+
+  Shown Look() {
+    Shown shown;
+    for (const LoadedForm& form : korvale_->Form().Collection().List()) {
+      // It goes by itself.
+      if (form.name != "frmWaitWindow") shown.forms.push_back(form.name);
+    }
+    shown.box = korvale_->host.MessageBoxUp();
+    // Behind the other windows the user goes on, and Tag 0 follows them.
+    if (!shown.box) return shown;
+    shown.current = korvale_->Record().current;
+    shown.alternate = korvale_->Record().alternate;
+    return shown;
+  }
+
   void ExpectToGoOn() {
     ASSERT_TRUE(korvale_->Form().IsLoaded());
     EXPECT_FALSE(korvale_->Suspended());
@@ -186,41 +155,12 @@ class BoxAndDelivery : public StartTest {
     if (korvale_->host.QuitPosted()) korvale_->program.Run();
     ExpectEnded(*korvale_);
     EXPECT_FALSE(clock.AdvanceToNextTick());
-    // A program that was still starting has nothing of its own to save.
-    if (starting_) return;
-    EXPECT_NE(Stored("Startup", "Width"), "(missing)");
+    // A program that was still starting has nothing of its own to save, and one that was exiting
+    // has been refused it.
+    EXPECT_TRUE(starting_ || exiting_ || Stored("Startup", "Width") != kUnsaved);
   }
-
-  KorvaleCopy* korvale_ = nullptr;
-  bool optionsBefore_ = false;
-  bool mainIsUsable_ = false;
-  std::size_t hotKeyCount_ = 15;
 
  private:
-  void OpenWindows() {
-    gamma_ = Open("Gamma");
-    beta_ = Open("Beta");
-  }
-  void StartAmongWindows() {
-    StoreTag(1, "Nowhere");
-    StoreTag(2, "Gamma");
-    OpenWindows();
-    korvale_ = &StartedCopy();
-    WorkIn(gamma_);
-    WorkIn(beta_);
-  }
-  void Answer(const Meanwhile& meanwhile, std::int16_t button) {
-    korvale_->host.WhenMessageBox([=](const ShownMessage&) {
-      meanwhile();
-      return button;
-    });
-  }
-  void CloseAfter(const char* name, const Meanwhile& meanwhile) {
-    korvale_->host.WhenModal(name, [=, this](class Form& form) {
-      meanwhile();
-      if (form.IsLoaded() && !korvale_->host.QuitPosted()) form.Unload();
-    });
-  }
   void PressAll() {
     PressTag(1);
     PressTag(2);
@@ -229,15 +169,42 @@ class BoxAndDelivery : public StartTest {
     PressHotKey(win32::kModWin, 'W');
     PressHotKey(0, win32::kVkPause);
   }
-
-  WindowHandle beta_ = 0;
-  WindowHandle gamma_ = 0;
-  bool starting_ = false;
+  void UseEverythingOf(class Form& form) {
+    const auto texts = [&] {
+      std::vector<std::string> all;
+      for (const Control& control : form.Controls()) {
+        all.push_back(control.Text() + "|" + std::to_string(control.Value()) + "|" +
+                      std::to_string(control.ListIndex()));
+      }
+      return all;
+    };
+    const std::vector<std::string> before = texts();
+    for (const Control& control : form.Controls()) UseControl(form.Handle(), control.Id());
+    form.OnCloseRequested(CloseReason::kUser);
+    EXPECT_EQ(texts(), before) << form.Name();
+  }
+  void UseControl(WindowHandle hwnd, int control) {
+    korvale_->host.Tell(hwnd, [&](FormEvents& events) {
+      events.OnMouse(control, {MouseEvent::kDown, MouseButton::kLeft});
+      events.OnMouse(control, {MouseEvent::kUp, MouseButton::kLeft});
+      events.OnClick(control);
+      events.OnTextTyped(control, "typed");
+      events.OnListDropDown(control);
+      events.OnListPicked(control, 0);
+      events.OnListClosedUp(control);
+      for (const int key : {win32::kVkEscape, win32::kVkReturn}) {
+        EXPECT_TRUE(events.OnKeyDown(control, key, kNoShift, false));
+        EXPECT_TRUE(events.OnKeyUp(control, key, kNoShift));
+      }
+      EXPECT_TRUE(events.OnKeyDown(control, win32::kVkF4, kAlt, false));
+      EXPECT_TRUE(events.OnCharacter(control, U'\u00E4', kNoShift));
+    });
+  }
 };
 
 struct Box {
   const char* name;
-  void (BoxAndDelivery::*show)(const BoxAndDelivery::Meanwhile&);
+  void (BoxesUp::*show)(const BoxesUp::Meanwhile&);
 };
 
 enum class Ends { kNever, kWhenMainIsUsable, kAlways };
@@ -253,13 +220,17 @@ class Deliveries : public BoxAndDelivery,
 
 TEST_P(Deliveries, DisturbNoBoxAndOnlyTheEndEndsTheProgram) {
   const auto& [box, delivery] = GetParam();
-  (this->*box.show)([&, deliver = delivery.deliver] {
-    optionsBefore_ = korvale_->FindForm("frmOptions") != nullptr;
-    (this->*deliver)();
+  bool ends = false;
+  (this->*box.show)([&, row = delivery] {
+    ends = row.ends == Ends::kAlways || (row.ends == Ends::kWhenMainIsUsable && mainIsUsable_);
+    if (ends && !starting_ && !exiting_) {
+      store.SaveSetting("Korvale - Work", "Startup", "Width", kUnsaved);
+    }
+    const Shown before = Look();
+    (this->*row.deliver)();
+    EXPECT_TRUE(ends || Look() == before);
   });
-  const bool ends =
-      delivery.ends == Ends::kAlways || (delivery.ends == Ends::kWhenMainIsUsable && mainIsUsable_);
-  if (ends) return ExpectToHaveEnded();
+  if (ends || exiting_) return ExpectToHaveEnded();
   ExpectToGoOn();
 }
 
@@ -271,22 +242,32 @@ std::string PairName(const testing::TestParamInfo<std::tuple<Box, Delivery>>& te
 INSTANTIATE_TEST_SUITE_P(
     All, Deliveries,
     testing::Combine(
-        testing::Values(Box{"AMessage", &BoxAndDelivery::ShowMessage},
-                        Box{"TheNotice", &BoxAndDelivery::ShowNotice},
-                        Box{"ATip", &BoxAndDelivery::ShowTip},
-                        Box{"AQuestionOfTheOptions", &BoxAndDelivery::ShowOptionsQuestion},
-                        Box{"AddWindow", &BoxAndDelivery::ShowAddWindow},
-                        Box{"TheColorDialog", &BoxAndDelivery::ShowColorDialog},
-                        Box{"TheWaitWindow", &BoxAndDelivery::ShowWaitWindow},
-                        Box{"ATipOfTheStart", &BoxAndDelivery::ShowTipOfTheStart},
-                        Box{"TheReviewQuestion", &BoxAndDelivery::ShowReviewQuestion},
-                        Box{"TheImportQuestion", &BoxAndDelivery::ShowImportQuestion}),
+        testing::Values(Box{"AMessage", &BoxesUp::ShowMessage},
+                        Box{"TheNotice", &BoxesUp::ShowNotice}, Box{"ATip", &BoxesUp::ShowTip},
+                        Box{"AQuestionOfTheOptions", &BoxesUp::ShowOptionsQuestion},
+                        Box{"AddWindow", &BoxesUp::ShowAddWindow},
+                        Box{"TheColorDialog", &BoxesUp::ShowColorDialog},
+                        Box{"TheWaitWindow", &BoxesUp::ShowWaitWindow},
+                        Box{"ATipOfTheStart", &BoxesUp::ShowTipOfTheStart},
+                        Box{"TheReviewQuestion", &BoxesUp::ShowReviewQuestion},
+                        Box{"TheImportQuestion", &BoxesUp::ShowImportQuestion},
+                        Box{"ANoticeOverATip", &BoxesUp::ShowNoticeOverTip},
+                        Box{"ANoticeOverAddWindow", &BoxesUp::ShowNoticeOverAddWindow},
+                        Box{"TheErrorOfTheExit", &BoxesUp::ShowErrorOfTheExit},
+                        Box{"About", &BoxesUp::ShowAbout}, Box{"TheSplash", &BoxesUp::ShowSplash},
+                        Box{"CustomizeColors", &BoxesUp::CustomizeColors}),
         testing::Values(
             Delivery{"HotKeys", &BoxAndDelivery::PressHotKeys},
             Delivery{"ForeignHotKeys", &BoxAndDelivery::PostForeignHotKeys},
             Delivery{"Ticks", &BoxAndDelivery::LetTimersTick},
             Delivery{"MenuCommands", &BoxAndDelivery::ChooseFromMenu, Ends::kWhenMainIsUsable},
             Delivery{"TheCloseBox", &BoxAndDelivery::CloseMainWindow, Ends::kWhenMainIsUsable},
+            Delivery{"InputBelow", &BoxAndDelivery::UseWhatIsBelow},
+            Delivery{"NewMetrics", &BoxAndDelivery::ChangeMetrics},
+            Delivery{"NewDpi", &BoxAndDelivery::ChangeDpi},
+            Delivery{"TheActivation", &BoxAndDelivery::ActivateMainWindow},
+            Delivery{"MinimizeAndRestore", &BoxAndDelivery::MinimizeAndRestoreMainWindow},
+            Delivery{"TheReturn", &BoxAndDelivery::ReturnToTheComputer},
             Delivery{"NewColors", &BoxAndDelivery::ChangeColors},
             Delivery{"OtherWindows", &BoxAndDelivery::ChangeOtherWindows},
             Delivery{"ASecondStart", &BoxAndDelivery::StartAgain},

@@ -53,6 +53,38 @@ TEST_F(FormStrayEventsTest, ATickOfWhatIsNoTimerClicksNothing) {
   EXPECT_EQ(form_.Take(), Lines{});
 }
 
+TEST_F(FormStrayEventsTest, AFormBelowABoxTakesNoInput) {
+  form_.Show();
+  form_.Find("cboSize").AddItem("one");
+  form_.Find("txtName").SetText("name");
+  form_.Take();
+  bool asked = false;
+  form_.onMouse = [&](const MouseInput&) { asked = true; };
+  form_.onKeyUp = [&](int&, unsigned) { asked = true; };
+  host_.WhenMessageBox([&](const ShownMessage&) {
+    for (const Control& control : form_.Controls()) {
+      const bool timer = control.State().kind == ControlKind::kTimer;
+      if (!timer) TellAll(form_, control.Id());
+      EXPECT_TRUE(form_.OnKeyDown(control.Id(), win32::kVkReturn, kNoShift, false));
+      EXPECT_TRUE(form_.OnKeyUp(control.Id(), win32::kVkReturn, kNoShift));
+      EXPECT_TRUE(form_.OnCharacter(control.Id(), U'x', kNoShift));
+    }
+    form_.OnMenuClicked(form_.Menu("mnuFileOpen"));
+    form_.OnCloseRequested(CloseReason::kUser);
+    return win32::kIdOk;
+  });
+  host_.MessageBoxW(form_.Handle(), "text", "title", win32::kMbOk);
+  EXPECT_EQ(form_.Take(), Lines{});
+  EXPECT_FALSE(asked);
+  EXPECT_EQ(form_.Find("txtName").Text(), "name");
+  EXPECT_EQ(Look(form_, "txtName").text, "name");
+  EXPECT_EQ(form_.Find("cboSize").ListIndex(), -1);
+  EXPECT_EQ(form_.Find("chkDaily").Value(), 0);
+  ASSERT_TRUE(form_.IsLoaded());
+  Click(form_, "cmdStay");
+  EXPECT_EQ(form_.Take(), Lines{"click cmdStay"});
+}
+
 /// The form's handlers fail at one kind of mouse event.
 class FormWithFailingMouseTest : public FormTest {
  protected:

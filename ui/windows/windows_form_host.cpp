@@ -101,6 +101,10 @@ void WindowsFormHost::EnableWindow(WindowHandle hwnd, bool enable) {
   ::EnableWindow(ToHwnd(hwnd), enable ? TRUE : FALSE);
 }
 
+bool WindowsFormHost::IsWindowEnabled(WindowHandle hwnd) {
+  return ::IsWindowEnabled(ToHwnd(hwnd)) != FALSE;
+}
+
 void WindowsFormHost::ShowWindow(WindowHandle hwnd, int command) {
   if (const auto form = forms_->Find(hwnd)) form->Show(command);
   WakeLoops();

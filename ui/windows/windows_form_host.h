@@ -26,6 +26,7 @@ class WindowsFormHost : public FormHost {
   void MoveWindow(WindowHandle hwnd) override;
   void DrawMenuBar(WindowHandle hwnd) override;
   void EnableWindow(WindowHandle hwnd, bool enable) override;
+  bool IsWindowEnabled(WindowHandle hwnd) override;
   void ShowWindow(WindowHandle hwnd, int command) override;
   void SetFocus(WindowHandle hwnd, int control) override;
   bool GetDroppedState(WindowHandle hwnd, int control) override;
