@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "desktop/desktop.h"
 #include "desktop/window_visibility.h"
 
 namespace korvale {
@@ -19,6 +20,14 @@ bool ReturnForegroundTo(WindowQueries& windows, WindowRequests& requests,
                             windows.IsWindowEnabled(hwnd) && !windows.IsIconic(hwnd);
   if (canBeInFront) requests.SetForegroundWindow(hwnd);
   return canBeInFront;
+}
+
+void ReturnUserTo(Desktop& desktop, const KnownWindow& before) {
+  if (ReturnForegroundTo(desktop.windows, desktop.requests, before)) return;
+  const WindowHandle now = desktop.windows.GetForegroundWindow();
+  const bool inMain = desktop.mainWindow.FocusTag() == kGotFocus;
+  if (inMain || (now != 0 && !IsOwnForm(desktop.forms, now))) return;
+  ReturnForegroundTo(desktop.windows, desktop.requests, desktop.tracker.LastWorkedIn());
 }
 
 }  // namespace korvale

@@ -48,14 +48,15 @@ void ForegroundTracker::LookAtForeground() {
   if (!isMain) previous_->lastOtherForeground = foreground;
   NoteInFront(foreground);
   if (std::exchange(firstTick_, false) && isMain) lastSeen_ = foreground;
-  if (IsGone(previous_->current) || IsGone(previous_->alternate)) ValidatePreviousWindow();
+  if (RecordIsOutdated()) ValidatePreviousWindow();
   if (!filter_->IsSelectableWindow(foreground, false, false) ||
       !windows_->IsWindowVisible(foreground)) {
     return;
   }
   if (foreground == lastSeen_) {
     // It was passed over while it was disabled or hidden.
-    if (!isMain && foreground != previous_->current.handle) ValidatePreviousWindow();
+    const bool passedOver = !isMain && foreground != previous_->current.handle;
+    if (passedOver && CanBeReached(Know(*windows_, foreground))) ValidatePreviousWindow();
     return;
   }
   // A window may be in front before Windows shows it to the user.
@@ -116,11 +117,15 @@ KnownWindow ForegroundTracker::WindowBehind(WindowHandle closing) {
   if (last.handle != closing && StillExists(*windows_, last) && CanComeBack(before)) {
     return before == last.handle ? last : Know(*windows_, before);
   }
-  const WindowTriple* const worked = worked_.First([&](const WindowTriple& window) {
-    return window.handle != closing && !IsGone(window) &&
+  return LastWorkedIn(closing);
+}
+
+KnownWindow ForegroundTracker::LastWorkedIn(WindowHandle except) {
+  const std::optional<WindowTriple> worked = worked_.First([&](const WindowTriple& window) {
+    return window.handle != except && !IsGone(window) &&
            CanComeBack(FindInputWindow(*windows_, window.handle));
   });
-  if (worked == nullptr) return {};
+  if (!worked) return {};
   const WindowHandle input = FindInputWindow(*windows_, worked->handle);
   if (input == worked->handle) return {input, worked->className};
   return Know(*windows_, input);
@@ -129,8 +134,8 @@ KnownWindow ForegroundTracker::WindowBehind(WindowHandle closing) {
 void ForegroundTracker::ForgetVisit(WindowHandle closing) {
   worked_.Remove(closing);
   if (lastSeen_ != closing) return;
-  const WindowTriple* const before = worked_.First([](const WindowTriple&) { return true; });
-  const bool unseen = before == nullptr || before->handle == mainWindow_->MainHandle();
+  const auto before = worked_.First([](const WindowTriple&) { return true; });
+  const bool unseen = !before || before->handle == mainWindow_->MainHandle();
   lastSeen_ = unseen ? 0 : before->handle;
 }
 
@@ -191,18 +196,30 @@ bool ForegroundTracker::IsGone(const WindowTriple& window) {
                                 GetWindowClass(*windows_, window.handle) != window.className);
 }
 
+/// A window of it has gone, or Windows has taken it off the screen or put it there: the user closed
+/// a Store program, which leaves its window behind, or changed virtual desktops.
+bool ForegroundTracker::RecordIsOutdated() {
+  return IsGone(previous_->current) || IsGone(previous_->alternate) || RecordCloaks() != cloaks_;
+}
+
+ForegroundTracker::Cloaks ForegroundTracker::RecordCloaks() {
+  const auto cloak = [this](WindowHandle hwnd) {
+    return hwnd == 0 ? 0 : windows_->DwmGetWindowAttribute(hwnd);
+  };
+  return {cloak(previous_->current.handle), cloak(previous_->alternate.handle)};
+}
+
 /// A dialog that the user was followed into counts as itself.
 bool ForegroundTracker::IsBehindDialog(WindowHandle hwnd) {
   const WindowHandle dialog = FindInputWindow(*windows_, hwnd);
   const bool restores = windows_->IsWindowVisible(dialog) || !windows_->IsHungAppWindow(hwnd);
   return restores && filter_->IsSelectableWindow(dialog, false, false) &&
-         worked_.First([&](const WindowTriple& other) { return other.handle == dialog; }) ==
-             nullptr;
+         !worked_.First([&](const WindowTriple& other) { return other.handle == dialog; });
 }
 
 /// Also true for a window behind its own dialog, and for one that is out of sight because its owner
 /// is minimized: Tag 0 brings the dialog forward and restores the owner.
-bool ForegroundTracker::CanBeReached(const WindowTriple& window) {
+bool ForegroundTracker::CanBeReached(const KnownWindow& window) {
   // Known by its handle, so any title will do; the next reading may give another one.
   WindowTriple live{window.handle, "", window.className};
   switch (actions_->ActivateWindow(live, false, false)) {
@@ -221,8 +238,8 @@ bool ForegroundTracker::CanBeReached(const WindowTriple& window) {
 }
 
 /// The window with its present title.
-WindowTriple ForegroundTracker::Recorded(const WindowTriple* window) {
-  if (window == nullptr) return {};
+WindowTriple ForegroundTracker::Recorded(const std::optional<WindowTriple>& window) {
+  if (!window) return {};
   const std::string title = GetWindowTitle(*windows_, window->handle);
   // One that has just gone keeps its title for the messages about it.
   const bool gone = title.empty() && !windows_->IsWindow(window->handle);
@@ -236,19 +253,21 @@ void ForegroundTracker::UpdateRecord() {
     return gone;
   });
   const WindowHandle main = mainWindow_->MainHandle();
-  previous_->current = Recorded(worked_.First(
-      [&](const WindowTriple& window) { return window.handle != main && CanBeReached(window); }));
+  previous_->current = Recorded(worked_.First([&](const WindowTriple& window) {
+    return window.handle != main && CanBeReached({window.handle, window.className});
+  }));
   const WindowHandle current = previous_->current.handle;
   previous_->alternate = Recorded(worked_.First([&](const WindowTriple& window) {
-    return window.handle != current && CanBeReached(window);
+    return window.handle != current && CanBeReached({window.handle, window.className});
   }));
-  const WindowTriple* const next = worked_.First([&](const WindowTriple& window) {
-    return window.handle != lastSeen_ && CanBeReached(window);
+  const std::optional<WindowTriple> next = worked_.First([&](const WindowTriple& window) {
+    return window.handle != lastSeen_ && CanBeReached({window.handle, window.className});
   });
   // The only window worked in is the present one only while it is in front.
   previous_->tagZeroIsAlternate =
-      next == nullptr ? previous_->InFront(*windows_) == current : next->handle != current;
+      !next ? previous_->InFront(*windows_) == current : next->handle != current;
   if (previous_->alternate.handle == main) previous_->alternate.text = mainWindow_->MainCaption();
+  cloaks_ = RecordCloaks();
 }
 
 void ForegroundTracker::ValidatePreviousWindow() {

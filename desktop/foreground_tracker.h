@@ -1,6 +1,8 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "desktop/desktop_parts.h"
@@ -43,6 +45,10 @@ class ForegroundTracker {
   /// left.
   KnownWindow WindowBehind(WindowHandle closing);
 
+  /// The window last worked in, or the dialog that takes its input, that can be in front where the
+  /// user is; `except` does not count. None when there is none.
+  KnownWindow LastWorkedIn(WindowHandle except = 0);
+
   /// Makes the record as if `closing`, a window of ours, had never come forward.
   void ForgetVisit(WindowHandle closing);
 
@@ -71,6 +77,9 @@ class ForegroundTracker {
   void PopUpClosed();
 
  private:
+  /// Why the current window and the alternate are not on the screen (DWM_CLOAKED_ values).
+  using Cloaks = std::array<std::uint32_t, 2>;
+
   /// The user is in `window` now. Unless that is the main window, it becomes the Previous Window,
   /// and the window before it, or the main window when that had the focus, the alternate.
   void MoveRecordTo(const WindowTriple& window);
@@ -78,10 +87,12 @@ class ForegroundTracker {
   void MoveRecordBehindDialog(const WindowTriple& window);
   void NoteInFront(WindowHandle foreground);
   bool IsGone(const WindowTriple& window);
+  bool RecordIsOutdated();
+  Cloaks RecordCloaks();
   bool IsBehindDialog(WindowHandle hwnd);
-  bool CanBeReached(const WindowTriple& window);
+  bool CanBeReached(const KnownWindow& window);
   bool CanComeBack(WindowHandle hwnd);
-  WindowTriple Recorded(const WindowTriple* window);
+  WindowTriple Recorded(const std::optional<WindowTriple>& window);
   void ShowRecord();
 
   WindowQueries* windows_;
@@ -94,6 +105,8 @@ class ForegroundTracker {
   /// The window that the user was seen in last.
   WindowHandle lastSeen_ = 0;
   bool firstTick_ = true;
+  /// As the record was last validated.
+  Cloaks cloaks_{};
   /// What was in front last and before that, followed or not.
   KnownWindow inFront_;
   KnownWindow inFrontBefore_;

@@ -13,7 +13,8 @@ namespace {
 template <typename Visit>
 void ForEachTag(const TagList& tags, Visit visit) {
   for (const int index : tags.mnuWindowParentList.Indexes()) {
-    if (IsTag(index)) visit(*tags.mnuWindowParentList.Find(index));
+    MenuItem* const entry = tags.mnuWindowParentList.Find(index);
+    if (IsTag(index) && entry != nullptr) visit(*entry);
   }
 }
 
@@ -82,8 +83,12 @@ void TagListPasses::Match(MenuItem& entry, WindowHandle hwnd) {
   if (!TitleMatches(entry.caption, GetWindowTitle(*windows_, hwnd), true)) return;
   // Only a window with at least one child window counts.
   if (GetRelatedWindow(*windows_, hwnd, 1) == 0) return;
+  const int index = entry.index;
   if (IsPutAway(*windows_, *virtualDesktops_, hwnd)) return;
-  entry.tag = DecimalText(hwnd);
+  // The question may have let the user remove the Tag.
+  MenuItem* const matched = tags_->mnuWindowParentList.Find(index);
+  if (matched == nullptr) return;
+  matched->tag = DecimalText(hwnd);
   if (storedClass.empty()) storedClass = GetWindowClass(*windows_, hwnd);
 }
 

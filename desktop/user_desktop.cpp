@@ -16,7 +16,9 @@ void BringToUsersDesktop(WindowQueries& windows, WindowCommands& commands,
   const auto movesBeside = [&](WindowHandle other) {
     if (!IsShownHere(windows, other)) return false;
     const std::optional<VirtualDesktopId> desktop = desktops.GetWindowDesktopId(other);
-    if (!desktop || desktop == tried) return false;
+    if (!desktop || desktop == kNoVirtualDesktop || desktop == tried) return false;
+    // Windows still shows those of the desktop that the user is just leaving.
+    if (desktops.IsWindowOnCurrentVirtualDesktop(other) == false) return false;
     tried = desktop;
     return desktops.MoveWindowToDesktop(away, *desktop);
   };

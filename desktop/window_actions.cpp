@@ -116,8 +116,9 @@ void WindowActions::RefreshRecordedTitle(WindowTriple& window, const std::string
 
 ActivationResult WindowActions::BringForward(WindowHandle hwnd) {
   const WindowHandle before = previous_->InFront(*windows_);
-  // What is in front now may be on its way to the back, when another selection came just before.
-  if (before != hwnd || previous_->menuSelection) {
+  // What is in front now may be on its way to the back, when another selection came just before,
+  // or not on the screen, when the user has just left its virtual desktop.
+  if (before != hwnd || previous_->menuSelection || IsCloaked(*windows_, hwnd)) {
     const RequestResult inFront = requests_->SetForegroundWindow(hwnd);
     if (inFront != RequestResult::kDone) return ResultOf(inFront);
   }
@@ -141,6 +142,10 @@ WindowTriple WindowActions::MinimizeOrMaximizeForeground(std::string_view hotKey
   const TimerPause pause(*mainWindow_);
   const WindowHandle hwnd = previous_->InFront(*windows_);
   if (hwnd == 0 || IsShellSurface(GetWindowClass(*windows_, hwnd))) return {};
+  // The user does not see what they have left on another virtual desktop; what they have just
+  // selected there is about to come.
+  const bool coming = previous_->menuSelection && hwnd == previous_->coming;
+  if (!coming && IsCloaked(*windows_, hwnd)) return {};
   if (minimize) return MinimizeForeground(hwnd);
   MaximizeOrRestoreForeground(hwnd);
   return {};
@@ -158,7 +163,7 @@ WindowTriple WindowActions::MinimizeForeground(WindowHandle hwnd) {
   if (requests_->Await(target, [&] { return windows_->IsIconic(target); })) {
     requests_->AwaitAnswer(target);
   }
-  WindowTriple& next = previous_->OfTagZero(mainWindow_->FocusTag() == kGotFocus);
+  WindowTriple next = previous_->OfTagZero(mainWindow_->FocusTag() == kGotFocus);
   // Minimizing a window must not take the user to another virtual desktop.
   if (!IsShownHere(*windows_, next.handle) || windows_->IsIconic(next.handle)) return {};
   return ActivatePreviousWindow(next) == kActivationDone ? next : WindowTriple{};

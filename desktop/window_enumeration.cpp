@@ -50,7 +50,7 @@ void WindowEnumeration::HandleSelectable(WindowHandle hwnd, std::int32_t mode, c
       break;
     case kSearchTitleAndClass:
     case kSearchTitle:
-      if (filter_->IsShown(hwnd)) visit(hwnd);
+      if (windows_->IsWindowVisible(hwnd)) visit(hwnd);
       break;
     default:
       break;
@@ -70,7 +70,7 @@ void WindowEnumeration::RefreshTags() {
 WindowHandle WindowEnumeration::FindByTitle(const std::string& identificationText) {
   WindowHandle last = 0;
   EnumWindows(kSearchTitle, [&](WindowHandle hwnd) {
-    if (FitsTitle(hwnd, identificationText)) last = hwnd;
+    if (FitsTitle(hwnd, identificationText) && !filter_->IsPutAway(hwnd)) last = hwnd;
   });
   return last;
 }
@@ -79,7 +79,8 @@ WindowHandle WindowEnumeration::FindByTitleAndClass(const std::string& title,
                                                     const std::string& className) {
   WindowHandle last = 0;
   EnumWindows(kSearchTitleAndClass, [&](WindowHandle hwnd) {
-    if (GetWindowClass(*windows_, hwnd) == className && FitsTitle(hwnd, title)) last = hwnd;
+    const bool fits = GetWindowClass(*windows_, hwnd) == className && FitsTitle(hwnd, title);
+    if (fits && !filter_->IsPutAway(hwnd)) last = hwnd;
   });
   return last;
 }

@@ -38,7 +38,7 @@ class WindowEnumeration {
   /// nested: error 5.
   void EnumWindows(std::int32_t mode, const Visit& visit = PassOver);
 
-  /// Does what `mode` says with a selectable window; the search modes pass candidates to `visit`,
+  /// Does what `mode` says with a selectable window; the search modes pass visible ones to `visit`,
   /// those that minimize or restore the windows that Windows denied.
   /// Always true, so that an enumeration visits all windows.
   bool EnumWindowsProc(WindowHandle hwnd, std::int32_t mode, const Visit& visit = PassOver);

@@ -18,6 +18,10 @@ WindowFilter::WindowFilter(WindowQueries& windows, VirtualDesktops& virtualDeskt
       forms_(&forms),
       mainWindow_(&mainWindow) {}
 
+bool WindowFilter::IsPutAway(WindowHandle hwnd) const {
+  return korvale::IsPutAway(*windows_, *virtualDesktops_, hwnd);
+}
+
 bool WindowFilter::IsShown(WindowHandle hwnd) const {
   return korvale::IsShown(*windows_, *virtualDesktops_, hwnd);
 }

@@ -19,6 +19,8 @@ class WindowFilter {
   /// (hwnd, false, false) makes the basic checks alone, (hwnd, true, true) the option checks alone.
   bool IsSelectableWindow(WindowHandle hwnd, bool checkOptions, bool skipBasicChecks) const;
 
+  /// IsPutAway of window_visibility.h: the user cannot see the window on any virtual desktop.
+  bool IsPutAway(WindowHandle hwnd) const;
   /// IsShown of window_visibility.h: the user can see the window, here or on another virtual
   /// desktop.
   bool IsShown(WindowHandle hwnd) const;

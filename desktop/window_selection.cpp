@@ -7,6 +7,7 @@
 #include "app/core/identity.h"
 #include "desktop/timer_pause.h"
 #include "desktop/window_readers.h"
+#include "desktop/window_visibility.h"
 #include "platform/win32_constants.h"
 #include "util/characters.h"
 #include "util/text.h"
@@ -62,7 +63,7 @@ void WindowSelection::SelectTag(std::int16_t tag) {
   const TimerPause pause(*mainWindow_);
   if (tag == 0) {
     SelectPrevious();
-  } else if (MenuItem* const entry = tags_->mnuWindowParentList.Find(tag); entry != nullptr) {
+  } else if (const MenuItem* const entry = Entry(tag); entry != nullptr) {
     SelectEntry(*entry);
   }
   tracker_->ValidatePreviousWindow();
@@ -94,16 +95,24 @@ void WindowSelection::SelectAtStart() {
   }
 }
 
-void WindowSelection::SelectEntry(MenuItem& entry) {
-  const WindowHandle foreground = tracker_->WindowInFront();
+/// Windows may deliver messages during the activation, so the entry is looked up anew afterwards.
+void WindowSelection::SelectEntry(const MenuItem& entry) {
+  const int tag = entry.index;
+  const std::string identification = IdentificationText(entry);
+  const WindowHandle front = tracker_->WindowInFront();
+  // After a change of virtual desktops, what is in front need not be on the screen.
+  const bool unseen = front != 0 && front == TagHandle(entry) && IsCloaked(*windows_, front);
+  const WindowHandle foreground = unseen ? 0 : front;
   if (TagHandle(entry) == foreground && foreground != 0) {
     selected = foreground;
     return RestoreInFront(foreground);
   }
-  const ActivationResult result = ActivateOrSearch(entry);
-  if (result != kActivationDone) return TellFailure(entry, result);
-  if (TagHandle(entry) == foreground) return;
-  selected = TagHandle(entry);
+  const ActivationResult result = ActivateOrSearch(tag, identification);
+  const MenuItem* const selectedEntry = Entry(tag);
+  if (selectedEntry == nullptr) return;
+  if (result != kActivationDone) return TellFailure(identification, result);
+  if (TagHandle(*selectedEntry) == foreground) return;
+  selected = TagHandle(*selectedEntry);
   tracker_->RecordSelection(
       {selected, GetWindowTitle(*windows_, selected), GetWindowClass(*windows_, selected)});
 }
@@ -114,33 +123,41 @@ void WindowSelection::RestoreInFront(WindowHandle hwnd) {
   if (denied) actions_->ReportFailure();
 }
 
-ActivationResult WindowSelection::Activate(const MenuItem& entry) {
-  WindowTriple window{TagHandle(entry), IdentificationText(entry), TagClass(*tags_, entry)};
+ActivationResult WindowSelection::Activate(int tag, const std::string& identification) {
+  const MenuItem* const entry = Entry(tag);
+  if (entry == nullptr) return kActivationFailed;
+  WindowTriple window{TagHandle(*entry), identification, TagClass(*tags_, *entry)};
   return actions_->ActivateWindow(window, false, true);
 }
 
-ActivationResult WindowSelection::ActivateOrSearch(MenuItem& entry) {
-  ActivationResult result = Activate(entry);
+ActivationResult WindowSelection::ActivateOrSearch(int tag, const std::string& identification) {
+  ActivationResult result = Activate(tag, identification);
   if (IsTheWindow(result) || windowSearch) return result;
   enumeration_->RefreshTags();
-  result = Activate(entry);
+  result = Activate(tag, identification);
   if (IsTheWindow(result)) return result;
-  const WindowHandle found = enumeration_->FindByTitle(IdentificationText(entry));
-  if (found == 0) return result;
+  const WindowHandle found = enumeration_->FindByTitle(identification);
+  MenuItem* const entry = Entry(tag);
+  return found == 0 || entry == nullptr ? result : ActivateFound(*entry, found);
+}
+
+ActivationResult WindowSelection::ActivateFound(MenuItem& entry, WindowHandle found) {
+  const int tag = entry.index;
   entry.tag = DecimalText(found);
   const std::string former =
       std::exchange(TagClass(*tags_, entry), GetWindowClass(*windows_, found));
-  result = Activate(entry);
-  if (result == kActivationFailed || result == kWindowNotOpen) {
+  const ActivationResult result = Activate(tag, IdentificationText(entry));
+  MenuItem* const left = Entry(tag);
+  if (left != nullptr && (result == kActivationFailed || result == kWindowNotOpen)) {
     // It has gone meanwhile, and its handle may be that of another window.
-    entry.tag = "0";
-    TagClass(*tags_, entry) = former;
+    left->tag = "0";
+    TagClass(*tags_, *left) = former;
   }
   return result;
 }
 
-void WindowSelection::TellFailure(const MenuItem& entry, ActivationResult result) {
-  const std::string window = InBrackets(IdentificationText(entry));
+void WindowSelection::TellFailure(const std::string& identification, ActivationResult result) {
+  const std::string window = InBrackets(identification);
   if (result == kWindowNotEnabled) {
     messages_->ShowMessageBox(window + "  is not enabled, and currently cannot be selected.",
                               win32::kMbSetForeground, kProductName);

@@ -38,11 +38,13 @@ class WindowSelection {
 
  private:
   void SelectPrevious();
-  void SelectEntry(MenuItem& entry);
+  MenuItem* Entry(int tag) { return tags_->mnuWindowParentList.Find(tag); }
+  void SelectEntry(const MenuItem& entry);
   void RestoreInFront(WindowHandle hwnd);
-  ActivationResult Activate(const MenuItem& entry);
-  ActivationResult ActivateOrSearch(MenuItem& entry);
-  void TellFailure(const MenuItem& entry, ActivationResult result);
+  ActivationResult Activate(int tag, const std::string& identification);
+  ActivationResult ActivateOrSearch(int tag, const std::string& identification);
+  ActivationResult ActivateFound(MenuItem& entry, WindowHandle found);
+  void TellFailure(const std::string& identification, ActivationResult result);
 
   WindowQueries* windows_;
   MainWindow* mainWindow_;

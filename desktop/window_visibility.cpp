@@ -1,6 +1,7 @@
 #include "desktop/window_visibility.h"
 
 #include <cstdint>
+#include <optional>
 
 #include "desktop/window_readers.h"
 #include "platform/win32_constants.h"
@@ -15,6 +16,28 @@ bool IsCloakedByShell(WindowQueries& windows, WindowHandle hwnd) {
   return (cloaked & kByShell) != 0 && (cloaked & win32::kDwmCloakedApp) == 0;
 }
 
+/// What the virtual desktops tell about a window and its owners.
+struct Search {
+  WindowHandle found = 0;
+  bool answered = true;
+};
+
+Search SearchOtherDesktops(WindowQueries& windows, VirtualDesktops& desktops, WindowHandle hwnd) {
+  Search search;
+  for (int i = 0; i < kMostOwners && hwnd != 0 && IsCloakedByShell(windows, hwnd); ++i) {
+    const std::optional<bool> here = desktops.IsWindowOnCurrentVirtualDesktop(hwnd);
+    const std::optional<VirtualDesktopId> desktop =
+        here == false ? desktops.GetWindowDesktopId(hwnd) : kNoVirtualDesktop;
+    if (!here || !desktop) {
+      search.answered = false;
+    } else if (*desktop != kNoVirtualDesktop) {
+      search.found = hwnd;
+    }
+    hwnd = windows.GetWindow(hwnd, win32::kGwOwner);
+  }
+  return search;
+}
+
 }  // namespace
 
 bool IsCloaked(WindowQueries& windows, WindowHandle hwnd) {
@@ -27,18 +50,13 @@ bool IsShownHere(WindowQueries& windows, WindowHandle hwnd) {
 
 WindowHandle FindOnOtherDesktop(WindowQueries& windows, VirtualDesktops& desktops,
                                 WindowHandle hwnd) {
-  WindowHandle found = 0;
-  for (int i = 0; i < kMostOwners && hwnd != 0 && IsCloakedByShell(windows, hwnd); ++i) {
-    const bool elsewhere =
-        !desktops.IsWindowOnCurrentVirtualDesktop(hwnd) && desktops.GetWindowDesktopId(hwnd);
-    if (elsewhere) found = hwnd;
-    hwnd = windows.GetWindow(hwnd, win32::kGwOwner);
-  }
-  return found;
+  return SearchOtherDesktops(windows, desktops, hwnd).found;
 }
 
 bool IsPutAway(WindowQueries& windows, VirtualDesktops& desktops, WindowHandle hwnd) {
-  return IsCloaked(windows, hwnd) && FindOnOtherDesktop(windows, desktops, hwnd) == 0;
+  if (!IsCloaked(windows, hwnd)) return false;
+  const Search search = SearchOtherDesktops(windows, desktops, hwnd);
+  return search.found == 0 && search.answered;
 }
 
 bool IsShown(WindowQueries& windows, VirtualDesktops& desktops, WindowHandle hwnd) {

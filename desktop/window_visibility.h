@@ -19,7 +19,8 @@ WindowHandle FindOnOtherDesktop(WindowQueries& windows, VirtualDesktops& desktop
                                 WindowHandle hwnd);
 
 /// Windows keeps the window off the screen wherever the user goes, as those of suspended Store
-/// programs, which are visible to everyone but the user.
+/// programs, which are visible to everyone but the user. False when Windows does not tell why a
+/// window is cloaked.
 bool IsPutAway(WindowQueries& windows, VirtualDesktops& desktops, WindowHandle hwnd);
 
 /// Visible (IsWindowVisible) here or on another virtual desktop.

@@ -24,9 +24,11 @@ void WorkedWindows::Remove(WindowHandle hwnd) {
 
 void WorkedWindows::RemoveIf(const Test& test) { std::erase_if(windows_, test); }
 
-const WindowTriple* WorkedWindows::First(const Test& test) const {
-  const auto found = std::ranges::find_if(windows_, test);
-  return found == windows_.end() ? nullptr : &*found;
+std::optional<WindowTriple> WorkedWindows::First(const Test& test) const {
+  const std::vector<WindowTriple> windows = windows_;
+  const auto found = std::ranges::find_if(windows, test);
+  if (found == windows.end()) return std::nullopt;
+  return *found;
 }
 
 }  // namespace korvale

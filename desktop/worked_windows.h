@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "desktop/previous_window.h"
@@ -17,8 +18,8 @@ class WorkedWindows {
   void PutFirst(const WindowTriple& window);
   void Remove(WindowHandle hwnd);
   void RemoveIf(const Test& test);
-  /// The latest one that passes, null when none does.
-  const WindowTriple* First(const Test& test) const;
+  /// The latest one that passes. The test may change what is in here.
+  std::optional<WindowTriple> First(const Test& test) const;
 
  private:
   std::vector<WindowTriple> windows_;

@@ -7,13 +7,9 @@
 
 namespace korvale {
 
-FormDisplay::FormDisplay(FormCollection& forms, const DesktopParts& desktop,
-                         WindowRequests& requests, Suspension& suspension, const bool& alwaysOnTop)
-    : forms_(&forms),
-      desktop_(&desktop),
-      requests_(&requests),
-      suspension_(&suspension),
-      alwaysOnTop_(&alwaysOnTop) {}
+FormDisplay::FormDisplay(FormCollection& forms, Desktop& desktop, Suspension& suspension,
+                         const bool& alwaysOnTop)
+    : forms_(&forms), desktop_(&desktop), suspension_(&suspension), alwaysOnTop_(&alwaysOnTop) {}
 
 std::string FormDisplay::ShowFormModal(Form& form, const DisplaySwitches& switches,
                                        std::int32_t /*milliseconds*/, const PlaceHints& hints,
@@ -86,7 +82,7 @@ void FormDisplay::Place(Form& form, const DisplaySwitches& switches, const Place
 void FormDisplay::BringToFront(Form& form, const DisplaySwitches& switches) {
   if (form.IsLoaded() && switches.followTopmost != 0) FollowTopmost(form.Handle());
   if (form.IsLoaded() && switches.takeForeground != 0) {
-    requests_->SetForegroundWindow(form.Handle());
+    desktop_->requests.SetForegroundWindow(form.Handle());
   }
 }
 
@@ -102,7 +98,7 @@ void FormDisplay::FollowTopmost(WindowHandle hwnd) {
 void FormDisplay::GiveForegroundBack(const KnownWindow& before) {
   const WindowHandle now = desktop_->windows.GetForegroundWindow();
   if (before.handle == 0 || now == before.handle || (now != 0 && !IsOwnForm(*forms_, now))) return;
-  ReturnForegroundTo(desktop_->windows, *requests_, before);
+  ReturnUserTo(*desktop_, before);
 }
 
 }  // namespace korvale

@@ -3,9 +3,8 @@
 #include <cstdint>
 #include <string>
 
-#include "desktop/desktop_parts.h"
+#include "desktop/desktop.h"
 #include "desktop/window_readers.h"
-#include "desktop/window_requests.h"
 #include "hotkeys/suspension.h"
 #include "ui/form.h"
 #include "ui/form_collection.h"
@@ -24,18 +23,19 @@ struct DisplaySwitches {
   std::int16_t takeForeground = 1;  ///< Made the foreground window; 0 = not even active.
 };
 
-/// Places and shows the forms of the program, on the virtual desktop where the user is; the main
-/// window, which owns them all, comes along.
+/// Places and shows the forms of the program on the virtual desktop where the user is. The main
+/// window, which owns them all, comes there along with the forms that are shown already.
 class FormDisplay {
  public:
   /// `alwaysOnTop` is the live state of the main window.
-  FormDisplay(FormCollection& forms, const DesktopParts& desktop, WindowRequests& requests,
-              Suspension& suspension, const bool& alwaysOnTop);
+  FormDisplay(FormCollection& forms, Desktop& desktop, Suspension& suspension,
+              const bool& alwaysOnTop);
 
   /// Shows the form above its owner until it closes, and returns the tag that it has then, its
   /// result. Hot keys are suspended meanwhile. When no other window has taken the foreground by
-  /// then, the one that had it before gets it back. `milliseconds` has no effect: Windows grants or
-  /// refuses the foreground at once. A form that is shown already is only brought to the front.
+  /// then, the one that had it before gets it back (ReturnUserTo). `milliseconds` has no effect:
+  /// Windows grants or refuses the foreground at once. A form that is shown already is only brought
+  /// to the front.
   std::string ShowFormModal(Form& form, const DisplaySwitches& switches, std::int32_t milliseconds,
                             const PlaceHints& hints, Form* owner);
 
@@ -56,8 +56,7 @@ class FormDisplay {
   void GiveForegroundBack(const KnownWindow& before);
 
   FormCollection* forms_;
-  const DesktopParts* desktop_;
-  WindowRequests* requests_;
+  Desktop* desktop_;
   Suspension* suspension_;
   const bool* alwaysOnTop_;
 };

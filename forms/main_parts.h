@@ -12,6 +12,7 @@
 #include "app/core/startup_settings.h"
 #include "desktop/desktop.h"
 #include "desktop/previous_window.h"
+#include "desktop/responsive_desktops.h"
 #include "forms/form_display.h"
 #include "hotkeys/hot_key_dispatch.h"
 #include "hotkeys/hot_key_table.h"
@@ -58,6 +59,7 @@ struct MainParts {
   ErrorReports errors;
   CrashReports crashes;
 
+  ResponsiveDesktops virtualDesktops;
   Desktop desktop;
   FormDisplay display;
 

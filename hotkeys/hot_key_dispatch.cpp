@@ -6,6 +6,7 @@
 #include "desktop/foreground_return.h"
 #include "desktop/user_desktop.h"
 #include "desktop/window_readers.h"
+#include "desktop/window_visibility.h"
 #include "hotkeys/hot_key_names.h"
 #include "platform/run_time_error.h"
 #include "platform/win32_constants.h"
@@ -63,11 +64,22 @@ std::string HotKeyDispatch::Process(const std::string& name, bool doAction, bool
 
 void HotKeyDispatch::ShowSuspensionNotice() {
   const std::string caption = std::string(kProductName) + kNoticeMark;
-  if (desktop_->windows.FindWindowA(caption) != 0) return;
+  const WindowHandle notice = desktop_->windows.FindWindowA(caption);
+  if (notice != 0) return BringNoticeToUser(notice);
   desktop_->messages.ShowMessageBox(
       "Hot Keys are temporarily suspended when Korvale has a message box or a dialog box "
       "displayed.",
       win32::kMbOk, caption);
+}
+
+/// The user may have left it on another virtual desktop.
+void HotKeyDispatch::BringNoticeToUser(WindowHandle notice) {
+  WindowQueries& windows = desktop_->windows;
+  const bool ours = windows.GetWindowThreadProcessId(notice) ==
+                    windows.GetWindowThreadProcessId(desktop_->mainWindow.MainHandle());
+  if (!ours || FindOnOtherDesktop(windows, desktop_->virtualDesktops, notice) == 0) return;
+  BringToUsersDesktop(windows, desktop_->commands, desktop_->virtualDesktops, notice);
+  desktop_->requests.SetForegroundWindow(notice);
 }
 
 WindowTriple HotKeyDispatch::ChooseWindow(const std::string& suppliedText) {

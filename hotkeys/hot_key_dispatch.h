@@ -30,6 +30,7 @@ class HotKeyDispatch : public HotKeyProcessor {
   std::string Process(const std::string& name, bool doAction, bool returnWindow,
                       const std::string& suppliedText);
   void ShowSuspensionNotice();
+  void BringNoticeToUser(WindowHandle notice);
   WindowTriple ChooseWindow(const std::string& suppliedText);
   bool IdentifyForeground(WindowTriple& chosen);
   void ShowNotRecognized(const std::string& title);

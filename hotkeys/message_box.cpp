@@ -84,23 +84,25 @@ void SuspendingMessageBoxes::Resume(const Remembered& before) {
 
 std::int16_t SuspendingMessageBoxes::Show(const std::string& prompt, std::int32_t buttons,
                                           const std::string& title) {
-  return dialogs_->MessageBoxW(Owner(), prompt, title, buttons);
+  const WindowHandle owner = Owner();
+  if (owner != 0) {
+    BringToUsersDesktop(desktop_->windows, desktop_->commands, desktop_->virtualDesktops, owner);
+  }
+  return dialogs_->MessageBoxW(owner, prompt, title, buttons);
 }
 
 /// Windows enables the owner of a closed box and brings it to the front, so the owner must be what
 /// the user sees below the box: another box or a dialog of Windows, a dialog of ours, or the main
 /// window. A main window that is still hidden would be activated when its box closes, and then not
-/// when it is shown, and one on another virtual desktop stays there, as it is disabled anyway; a
-/// box without an owner comes up where the user is.
+/// when it is shown. One on another virtual desktop stays there, as it is disabled anyway: a box
+/// without an owner comes up where the user is.
 WindowHandle SuspendingMessageBoxes::Owner() {
   const WindowHandle main = desktop_->mainWindow.MainHandle();
   const bool overAnother = suspension_->MessageBoxDepth > 1 || suspension_->DialogShown;
   const WindowHandle below =
       overAnother ? FindWaitingWindow(desktop_->windows, main, kDialogClass) : 0;
   for (const WindowHandle owner : {below, dialogOnTop_()}) {
-    if (owner == 0 || !desktop_->windows.IsWindowVisible(owner)) continue;
-    BringToUsersDesktop(desktop_->windows, desktop_->commands, desktop_->virtualDesktops, owner);
-    return owner;
+    if (owner != 0 && desktop_->windows.IsWindowVisible(owner)) return owner;
   }
   const bool visible = desktop_->windows.IsWindowVisible(main);
   const bool elsewhere =
@@ -116,7 +118,7 @@ void SuspendingMessageBoxes::GiveForegroundBack(const KnownWindow& before) {
   const bool passedOn =
       now == 0 || now == desktop_->mainWindow.MainHandle() ||
       IsOwnForm(desktop_->forms, now) != IsOwnForm(desktop_->forms, before.handle);
-  if (passedOn) ReturnForegroundTo(desktop_->windows, desktop_->requests, before);
+  if (passedOn) ReturnUserTo(*desktop_, before);
 }
 
 }  // namespace korvale

@@ -23,8 +23,10 @@ class SuspendingMessageBoxes : public MessageBoxes {
   /// Besides what every message box does: when the outermost box closes, Windows brings another
   /// program to the front over the disabled main window, or the main window over the program where
   /// the user works; the window that was in front before is put there again
-  /// (SetForegroundWindow). An inner box belongs to the one below it, which cannot be answered
-  /// before and comes to the front behind it. Error 6 beyond 32767 nested boxes.
+  /// (SetForegroundWindow), or the one last worked in when that is not possible. A box over another
+  /// one or over a dialog brings these to the virtual desktop where the user is. An inner box
+  /// belongs to the one below it, which cannot be answered before and comes to the front behind it.
+  /// Error 6 beyond 32767 nested boxes.
   std::int16_t ShowMessageBox(const std::string& prompt, std::int32_t buttons,
                               const std::string& title) override;
 

@@ -45,6 +45,8 @@ class WindowQueries {
   /// True when the window's thread has not taken a message for about five seconds.
   virtual bool IsHungAppWindow(WindowHandle hwnd) = 0;
   virtual WindowHandle GetForegroundWindow() = 0;
+  /// The desktop's own window of the shell (Progman); 0 while the shell is not running.
+  virtual WindowHandle GetShellWindow() = 0;
   /// The topmost top-level window with exactly this title, of any class; 0 when there is none.
   virtual WindowHandle FindWindowA(const std::string& title) = 0;
 };

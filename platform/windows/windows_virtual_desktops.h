@@ -4,6 +4,8 @@
 // After windows.h, which it needs.
 #include <shobjidl.h>
 
+#include <optional>
+
 #include "platform/virtual_desktops.h"
 #include "platform/windows/handles.h"
 
@@ -13,14 +15,16 @@ namespace korvale {
 /// must be ready then. Explorer answers, which may be ending or just starting.
 class WindowsVirtualDesktops final : public VirtualDesktops {
  public:
-  bool IsWindowOnCurrentVirtualDesktop(WindowHandle hwnd) override;
+  std::optional<bool> IsWindowOnCurrentVirtualDesktop(WindowHandle hwnd) override;
   std::optional<VirtualDesktopId> GetWindowDesktopId(WindowHandle hwnd) override;
   bool MoveWindowToDesktop(WindowHandle hwnd, const VirtualDesktopId& desktop) override;
 
  private:
   bool HasManager();
-  /// Whether the call succeeded; a manager that has lost Explorer is made anew next time.
-  bool Keep(HRESULT result);
+  /// The result of a call of the manager; one that has lost Explorer is made anew and asked once
+  /// more.
+  template <typename Call>
+  HRESULT Ask(Call call);
 
   UniqueHandle<IVirtualDesktopManager*> manager_;
 };

@@ -105,6 +105,8 @@ WindowHandle WindowsWindowApi::GetForegroundWindow() {
   return ToWindowHandle(::GetForegroundWindow());
 }
 
+WindowHandle WindowsWindowApi::GetShellWindow() { return ToWindowHandle(::GetShellWindow()); }
+
 WindowHandle WindowsWindowApi::FindWindowA(const std::string& title) {
   return ToWindowHandle(::FindWindowW(nullptr, ToUtf16(title).c_str()));
 }

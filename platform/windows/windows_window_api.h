@@ -30,6 +30,7 @@ class WindowsWindowApi final : public WindowQueries, public WindowCommands {
   bool IsHungAppWindow(WindowHandle hwnd) override;
   std::uint32_t GetWindowThreadProcessId(WindowHandle hwnd) override;
   WindowHandle GetForegroundWindow() override;
+  WindowHandle GetShellWindow() override;
   WindowHandle FindWindowA(const std::string& title) override;
 
   bool ShowWindow(WindowHandle hwnd, int command) override;

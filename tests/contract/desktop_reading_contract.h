@@ -182,10 +182,12 @@ TEST_F(DesktopContract, CloaksNoOrdinaryWindow) {
   Close(gone);
   for (const WindowHandle hwnd : {shown, hidden, gone}) {
     EXPECT_EQ(queries_.DwmGetWindowAttribute(hwnd), 0U);
-    EXPECT_TRUE(desktops_.IsWindowOnCurrentVirtualDesktop(hwnd));
+    EXPECT_NE(desktops_.IsWindowOnCurrentVirtualDesktop(hwnd), false);
+    EXPECT_NE(queries_.GetShellWindow(), hwnd);
   }
-  EXPECT_EQ(desktops_.GetWindowDesktopId(hidden), std::nullopt);
-  EXPECT_EQ(desktops_.GetWindowDesktopId(gone), std::nullopt);
+  for (const WindowHandle hwnd : {hidden, gone}) {
+    EXPECT_EQ(desktops_.GetWindowDesktopId(hwnd).value_or(kNoVirtualDesktop), kNoVirtualDesktop);
+  }
   EXPECT_FALSE(desktops_.MoveWindowToDesktop(gone, {1}));
 }
 

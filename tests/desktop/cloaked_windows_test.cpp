@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <string>
 
 #include "desktop/foreground_return.h"
@@ -98,20 +99,86 @@ TEST_F(CloakedWindows, AWindowOfAnotherDesktopComesForwardThere) {
   EXPECT_EQ(desktop.Windows().CurrentDesktop(), 1);
 }
 
-TEST_F(CloakedWindows, WithoutAManagerOfDesktopsACloakedWindowIsNotOpen) {
+TEST_F(CloakedWindows, WithoutAnAnswerACloakedWindowIsAsVisibleAsEver) {
+  MenuItem& tag = AddTag(1, "Alpha");
+  for (const char* const lost : {"", "IsWindowOnCurrentVirtualDesktop", "GetWindowDesktopId"}) {
+    desktop.LoseVirtualDesktopManager(lost);
+    EXPECT_EQ(Activate(alpha, false), kActivationDone) << lost;
+    EXPECT_EQ(enumeration.FindByTitle("Alpha"), alpha) << lost;
+    EXPECT_EQ(enumeration.FindByTitleAndClass("Alpha", "Window"), alpha) << lost;
+    tag.tag = "0";
+    enumeration.RefreshTags();
+    EXPECT_EQ(HandleOfTag(1), alpha) << lost;
+  }
+}
+
+TEST_F(CloakedWindows, WithoutAnAnswerAWindowThatItsOwnProgramCloaksIsStillNotOpen) {
   desktop.LoseVirtualDesktopManager();
+  desktop.Windows().Find(alpha)->cloaked = win32::kDwmCloakedApp;
   EXPECT_EQ(Activate(alpha, false), kWindowNotOpen);
 }
 
 TEST_F(CloakedWindows, TheManagerIsAskedOnlyAboutCloakedWindows) {
-  log.IncludeReads(true);
-  Activate(beta, true);
-  enumeration.FindByTitle("Beta");
-  log.IncludeReads(false);
-  const Calls calls = log.CallsOf("IsWindowOnCurrentVirtualDesktop");
-  for (const std::string& call : calls) {
-    EXPECT_EQ(call.find("(Beta)"), std::string::npos) << call;
+  const Calls calls = CallsOf([this] {
+    Activate(beta, true);
+    Activate(alpha, false);
+  });
+  EXPECT_EQ(std::ranges::count(calls, "IsWindowOnCurrentVirtualDesktop(Beta)"), 0);
+  EXPECT_EQ(std::ranges::count(calls, "IsWindowOnCurrentVirtualDesktop(Alpha)"), 1);
+}
+
+TEST_F(CloakedWindows, ASearchAsksOnlyAboutTheWindowsThatFit) {
+  const Calls calls = CallsOf([this] {
+    enumeration.FindByTitle("Beta");
+    enumeration.FindByTitleAndClass("Alpha", "Notepad");
+  });
+  EXPECT_EQ(std::ranges::count(calls, "DwmGetWindowAttribute(Beta)"), 1);
+  for (const char* const title : {"Alpha", "Mail"}) {
+    EXPECT_EQ(std::ranges::count(calls, std::string("DwmGetWindowAttribute(") + title + ")"), 0);
   }
+}
+
+TEST_F(CloakedWindows, AnotherEntryMayGoWhileTheManagerIsAsked) {
+  for (const int tag : {1, 2, 3}) AddTag(tag, "Alpha");
+  log.WhenCalled("IsWindowOnCurrentVirtualDesktop", [this] {
+    for (const int tag : {1, 2}) tags.mnuWindowParentList.Unload(tag);
+  });
+  enumeration.RefreshTags();
+  EXPECT_EQ(tags.mnuWindowParentList.Find(1), nullptr);
+  EXPECT_EQ(HandleOfTag(3), alpha);
+}
+
+TEST_F(CloakedWindows, TheEntryMayGoWhileItIsSelected) {
+  for (int question = 1; question <= 6; ++question) {
+    AddTag(1, "Alpha");
+    int asked = 0;
+    log.BeforeEachCall([&](const std::string& call) {
+      const bool now = call.starts_with("IsWindowOnCurrentVirtualDesktop(Alpha") &&
+                       ++asked == question && tags.mnuWindowParentList.Find(1) != nullptr;
+      if (now) tags.mnuWindowParentList.Unload(1);
+    });
+    routines.selection.SelectTag(1);
+    log.BeforeEachCall(nullptr);
+    EXPECT_TRUE(messages.shown.empty());
+    if (tags.mnuWindowParentList.Find(1) != nullptr) tags.mnuWindowParentList.Unload(1);
+    desktop.UserSwitchesDesktop(2);
+  }
+}
+
+TEST_F(CloakedWindows, AWindowWorkedInMayBeForgottenWhileTheManagerIsAsked) {
+  for (const WindowHandle hwnd : {alpha, beta}) {
+    desktop.UserActivates(hwnd);
+    tracker.tmrWindow_Timer();
+  }
+  desktop.UserSwitchesDesktop(2);
+  tracker.tmrWindow_Timer();
+  log.WhenCalled("IsWindowOnCurrentVirtualDesktop(Alpha", [this] {
+    tracker.ForgetVisit(beta);
+    tracker.ForgetVisit(alpha);
+  });
+  tracker.UpdateRecord();
+  tracker.UpdateRecord();
+  EXPECT_EQ(previous.current.handle, 0);
 }
 
 TEST_F(CloakedWindows, TheForegroundIsNotReturnedAcrossDesktops) {
@@ -131,6 +198,58 @@ TEST_F(CloakedWindows, ADialogOnAnotherDesktopTakesTheInputOfItsOwner) {
   const WindowHandle dialog = desktop.OpenModalDialog(alpha, "Save As");
   desktop.UserSwitchesDesktop(2);
   EXPECT_EQ(FindInputWindow(desktop, alpha), dialog);
+}
+
+TEST_F(CloakedWindows, AWindowJustSelectedOnAnotherDesktopCanBeMinimizedAtOnce) {
+  AddTag(1, "Alpha");
+  desktop.DelayForeground(true);
+  routines.selection.SelectTag(1);
+  actions.MinimizeOrMaximizeForeground("HOTKEY_MINIMIZE_PARENT");
+  EXPECT_TRUE(desktop.IsIconic(alpha));
+  EXPECT_FALSE(desktop.IsIconic(beta));
+}
+
+TEST_F(CloakedWindows, AWindowThatItsUserClosedButWindowsKeepsLeavesTheRecord) {
+  for (const WindowHandle hwnd : {beta, mail}) {
+    desktop.SetSuspended(mail, false);
+    desktop.UserActivates(hwnd);
+    tracker.tmrWindow_Timer();
+  }
+  EXPECT_EQ(previous.current.handle, mail);
+  desktop.SetSuspended(mail, true);
+  tracker.tmrWindow_Timer();
+  EXPECT_EQ(previous.current.handle, beta);
+}
+
+TEST_F(CloakedWindows, ATickAsksOnceWhyAWindowOfTheRecordIsCloaked) {
+  for (const WindowHandle hwnd : {alpha, beta}) {
+    desktop.UserActivates(hwnd);
+    tracker.tmrWindow_Timer();
+  }
+  desktop.UserSwitchesDesktop(2);
+  tracker.tmrWindow_Timer();
+  const Calls calls = CallsOf([this] {
+    for (int tick = 0; tick < 10; ++tick) tracker.tmrWindow_Timer();
+  });
+  EXPECT_EQ(std::ranges::count(calls, "IsWindowOnCurrentVirtualDesktop(Alpha)"), 0);
+}
+
+TEST_F(CloakedWindows, AWindowInFrontThatCannotBeReachedIsAllThatATickAsksAbout) {
+  const WindowHandle gamma = desktop.Open("Gamma");
+  const WindowHandle delta = desktop.Open("Delta");
+  for (const WindowHandle hwnd : {alpha, beta, gamma, delta}) {
+    desktop.UserActivates(hwnd);
+    tracker.tmrWindow_Timer();
+  }
+  desktop.SetEnabled(delta, false);
+  tracker.ValidatePreviousWindow();
+  const Calls calls = CallsOf([this] { tracker.tmrWindow_Timer(); });
+  EXPECT_LE(std::ranges::count(calls, "EnumWindows()"), 1) << "looking for its dialog";
+  EXPECT_EQ(std::ranges::count(calls, "IsWindow(Alpha)"), 0);
+  EXPECT_EQ(std::ranges::count(calls, "GetClassNameA(Alpha, 255)"), 0);
+  desktop.SetEnabled(delta, true);
+  tracker.tmrWindow_Timer();
+  EXPECT_EQ(previous.current.handle, delta);
 }
 
 TEST_F(CloakedWindows, AreFollowedOnceTheUserSeesThem) {

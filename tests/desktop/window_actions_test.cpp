@@ -169,25 +169,37 @@ TEST_F(ForegroundKeys, TimersRunAgainAfterAnError) {
 
 TEST_F(ForegroundKeys, MinimizeKeyReadsInItsOrder) {
   Calls calls = CallsOf([&] { actions.MinimizeOrMaximizeForeground(kMinimize); });
-  calls.resize(19);
-  EXPECT_EQ(calls,
-            (Calls{"udmTimersEnabled(false)", "GetForegroundWindow()", "GetClassNameA(Alpha, 255)",
-                   "IsWindowEnabled(Alpha)", "IsIconic(Alpha)", "GetWindowLongA(Alpha, GWL_STYLE)",
-                   "GetWindow(Alpha, GW_OWNER)", "GetWindowThreadProcessId(Main)",
-                   "GetWindowThreadProcessId(Alpha)", "IsWindowVisible(Alpha)",
-                   "ShowWindowAsync(Alpha, SW_MINIMIZE)", "IsIconic(Alpha)",
-                   "GetWindowThreadProcessId(Main)", "GetWindowThreadProcessId(Alpha)",
-                   "IsHungAppWindow(Alpha)", "SendMessageTimeoutW(Alpha, 0x0)",
-                   "IsWindowVisible(Beta)", "DwmGetWindowAttribute(Beta)", "IsIconic(Beta)"}));
+  calls.resize(20);
+  EXPECT_EQ(calls, (Calls{"udmTimersEnabled(false)",
+                          "GetForegroundWindow()",
+                          "GetClassNameA(Alpha, 255)",
+                          "DwmGetWindowAttribute(Alpha)",
+                          "IsWindowEnabled(Alpha)",
+                          "IsIconic(Alpha)",
+                          "GetWindowLongA(Alpha, GWL_STYLE)",
+                          "GetWindow(Alpha, GW_OWNER)",
+                          "GetWindowThreadProcessId(Main)",
+                          "GetWindowThreadProcessId(Alpha)",
+                          "IsWindowVisible(Alpha)",
+                          "ShowWindowAsync(Alpha, SW_MINIMIZE)",
+                          "IsIconic(Alpha)",
+                          "GetWindowThreadProcessId(Main)",
+                          "GetWindowThreadProcessId(Alpha)",
+                          "IsHungAppWindow(Alpha)",
+                          "SendMessageTimeoutW(Alpha, 0x0)",
+                          "IsWindowVisible(Beta)",
+                          "DwmGetWindowAttribute(Beta)",
+                          "IsIconic(Beta)"}));
 }
 
 TEST_F(ForegroundKeys, MaximizeKeyReadsInItsOrder) {
   EXPECT_EQ(CallsOf([&] { actions.MinimizeOrMaximizeForeground(kMaximize); }),
             (Calls{"udmTimersEnabled(false)", "GetForegroundWindow()", "GetClassNameA(Alpha, 255)",
-                   "IsWindowEnabled(Alpha)", "IsIconic(Alpha)", "GetWindowLongA(Alpha, GWL_STYLE)",
-                   "IsZoomed(Alpha)", "GetWindowThreadProcessId(Main)",
-                   "GetWindowThreadProcessId(Alpha)", "IsWindowVisible(Alpha)",
-                   "ShowWindowAsync(Alpha, SW_MAXIMIZE)", "udmTimersEnabled(true)"}));
+                   "DwmGetWindowAttribute(Alpha)", "IsWindowEnabled(Alpha)", "IsIconic(Alpha)",
+                   "GetWindowLongA(Alpha, GWL_STYLE)", "IsZoomed(Alpha)",
+                   "GetWindowThreadProcessId(Main)", "GetWindowThreadProcessId(Alpha)",
+                   "IsWindowVisible(Alpha)", "ShowWindowAsync(Alpha, SW_MAXIMIZE)",
+                   "udmTimersEnabled(true)"}));
 }
 
 class AllWindows : public ForegroundKeys {};

@@ -178,9 +178,9 @@ TEST_F(WindowEnumerationTest, SearchByTitleAndClassReadsInItsOrder) {
   Calls calls = CallsOf([&] { enumeration.FindByTitleAndClass("Alpha", "Window"); });
   calls.erase(calls.begin(), calls.begin() + 6);
   calls.resize(5);
-  EXPECT_EQ(calls, (Calls{"IsWindowVisible(Alpha)", "DwmGetWindowAttribute(Alpha)",
-                          "GetClassNameA(Alpha, 255)", "GetWindowTextLengthA(Alpha)",
-                          "GetWindowTextA(Alpha, 15)"}));
+  EXPECT_EQ(calls, (Calls{"IsWindowVisible(Alpha)", "GetClassNameA(Alpha, 255)",
+                          "GetWindowTextLengthA(Alpha)", "GetWindowTextA(Alpha, 15)",
+                          "DwmGetWindowAttribute(Alpha)"}));
 }
 
 TEST_F(WindowEnumerationTest, InstanceSearchFindsTheLowestOtherCopy) {

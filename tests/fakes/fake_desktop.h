@@ -5,6 +5,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/types.h"
@@ -59,12 +60,15 @@ class FakeDesktop : public WindowQueries, public WindowCommands, public VirtualD
   /// While delayed, SetForegroundWindow succeeds at once, but the windows come forward only when
   /// the delay ends, as Windows does with a window of another thread.
   void DelayForeground(bool delayed);
-  /// Goes to a virtual desktop, 1 and up, as with a key; its topmost window comes to the front.
-  void UserSwitchesDesktop(int number) { windows_.SwitchDesktop(number); }
+  /// Goes to a virtual desktop, 1 and up, as with a key; its topmost window comes to the front,
+  /// unless the one that the user has left stays there.
+  void UserSwitchesDesktop(int number, FrontOfLeftDesktop front = FrontOfLeftDesktop::kGoes) {
+    windows_.SwitchDesktop(number, front);
+  }
   /// Windows keeps a suspended Store program's window off the screen; it stays visible otherwise.
   void SetSuspended(WindowHandle hwnd, bool suspended);
-  /// The manager of virtual desktops does not answer.
-  void LoseVirtualDesktopManager() { has_desktop_manager_ = false; }
+  /// From now on calls of the manager of virtual desktops that begin so get no answer.
+  void LoseVirtualDesktopManager(const std::string& calls = "") { lost_desktop_calls_ = calls; }
 
   // What a test looks at.
   std::string Title(WindowHandle hwnd) const;
@@ -95,6 +99,7 @@ class FakeDesktop : public WindowQueries, public WindowCommands, public VirtualD
   bool IsHungAppWindow(WindowHandle hwnd) override;
   std::uint32_t GetWindowThreadProcessId(WindowHandle hwnd) override;
   WindowHandle GetForegroundWindow() override;
+  WindowHandle GetShellWindow() override;
   WindowHandle FindWindowA(const std::string& title) override;
 
   // WindowCommands
@@ -108,11 +113,13 @@ class FakeDesktop : public WindowQueries, public WindowCommands, public VirtualD
   bool PostMessageW(WindowHandle hwnd, std::uint32_t message) override;
 
   // VirtualDesktops
-  bool IsWindowOnCurrentVirtualDesktop(WindowHandle hwnd) override;
+  std::optional<bool> IsWindowOnCurrentVirtualDesktop(WindowHandle hwnd) override;
   std::optional<VirtualDesktopId> GetWindowDesktopId(WindowHandle hwnd) override;
   bool MoveWindowToDesktop(WindowHandle hwnd, const VirtualDesktopId& desktop) override;
 
  private:
+  /// Whether the manager of virtual desktops answers this call.
+  bool Answers(std::string_view call) const;
   /// The window when it has a virtual desktop of its own, else null.
   const FakeWindow* View(const FakeWindow* window) const;
   /// Logs a reading call on a window, then gives the window, null when it is gone.
@@ -133,7 +140,7 @@ class FakeDesktop : public WindowQueries, public WindowCommands, public VirtualD
   FakeWindows windows_;
   FakeClock* clock_ = nullptr;
   bool foreground_delayed_ = false;
-  bool has_desktop_manager_ = true;
+  std::optional<std::string> lost_desktop_calls_;
   std::vector<WindowHandle> coming_forward_;
   int calls_that_waited_ = 0;
 };

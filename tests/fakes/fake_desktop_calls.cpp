@@ -138,6 +138,14 @@ WindowHandle FakeDesktop::GetForegroundWindow() {
   return windows_.Foreground();
 }
 
+WindowHandle FakeDesktop::GetShellWindow() {
+  log_.AddRead("GetShellWindow()");
+  for (const WindowHandle hwnd : windows_.TopLevel()) {
+    if (windows_.Find(hwnd)->className == "Progman") return hwnd;
+  }
+  return 0;
+}
+
 WindowHandle FakeDesktop::FindWindowA(const std::string& title) {
   log_.AddRead("FindWindowA(\"" + title + "\")");
   for (const WindowHandle hwnd : windows_.TopLevel()) {

@@ -128,7 +128,7 @@ bool FakeWindows::IsVisible(WindowHandle hwnd) const {
 
 void FakeWindows::Activate(WindowHandle hwnd) {
   if (hwnd != 0) order_.Raise(hwnd);
-  if (foreground_ == hwnd) return;
+  if (foreground_ == hwnd) return FollowToDesktopOf(hwnd);
   FakeWindow* const left = Find(foreground_);
   if (left != nullptr && left->flyout) left->cloaked = win32::kDwmCloakedShell;
   foreground_ = hwnd;

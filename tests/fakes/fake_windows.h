@@ -19,6 +19,9 @@ enum class ForegroundLock {
   kForGood,
 };
 
+/// Whether the window in front stays there when the user goes to another virtual desktop.
+enum class FrontOfLeftDesktop { kGoes, kStays };
+
 /// Told of what happens to the windows, after it has happened. It may change windows itself.
 class DesktopObserver {
  public:
@@ -79,7 +82,9 @@ class FakeWindows {
   // fake_windows_desktops.cpp
   /// The virtual desktop where the user is; they start on the first.
   int CurrentDesktop() const { return current_desktop_; }
-  void SwitchDesktop(int desktop);
+  void SwitchDesktop(int desktop, FrontOfLeftDesktop front);
+  /// While animated, Windows still shows the desktop that the user has left.
+  void AnimateSwitch(bool animated);
   /// The window, or the owner along with which Windows shows it, as it is not in the taskbar
   /// itself.
   WindowHandle ViewOf(WindowHandle hwnd) const;
@@ -112,6 +117,8 @@ class FakeWindows {
   WindowHandle foreground_ = 0;
   ForegroundLock lock_ = ForegroundLock::kNone;
   int current_desktop_ = 1;
+  int leaving_desktop_ = 0;  ///< Still shown, 0 = none.
+  bool animates_ = false;
   WindowHandle next_handle_;
   std::vector<DesktopObserver*> observers_;
 };

@@ -1,12 +1,20 @@
+#include <utility>
+
 #include "platform/win32_constants.h"
 #include "tests/fakes/fake_windows.h"
 
 namespace korvale {
 
-void FakeWindows::SwitchDesktop(int desktop) {
+void FakeWindows::SwitchDesktop(int desktop, FrontOfLeftDesktop front) {
   if (current_desktop_ == desktop) return;
-  current_desktop_ = desktop;
-  ActivateNext(order_.Windows());
+  const int left = std::exchange(current_desktop_, desktop);
+  if (front == FrontOfLeftDesktop::kGoes) ActivateNext(order_.Windows());
+  if (animates_) leaving_desktop_ = left;
+}
+
+void FakeWindows::AnimateSwitch(bool animated) {
+  animates_ = animated;
+  leaving_desktop_ = 0;
 }
 
 WindowHandle FakeWindows::ViewOf(WindowHandle hwnd) const {
@@ -26,7 +34,8 @@ std::uint32_t FakeWindows::CloakOf(WindowHandle hwnd) const {
   const FakeWindow& window = windows_.at(hwnd);
   if (window.parent != 0) return 0;
   const FakeWindow& view = windows_.at(ViewOf(hwnd));
-  const bool elsewhere = view.virtualDesktop != 0 && view.virtualDesktop != current_desktop_;
+  const bool elsewhere = view.virtualDesktop != 0 && view.virtualDesktop != current_desktop_ &&
+                         view.virtualDesktop != leaving_desktop_;
   if (&view == &window) {
     return elsewhere && window.visible ? window.cloaked | win32::kDwmCloakedShell : window.cloaked;
   }

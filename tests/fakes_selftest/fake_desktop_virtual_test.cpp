@@ -33,17 +33,17 @@ TEST_F(FakeDesktopVirtualTest, CloaksTheWindowsOfOtherDesktops) {
   desktop_.UserSwitchesDesktop(2);
   EXPECT_EQ(desktop_.DwmGetWindowAttribute(alpha_), win32::kDwmCloakedShell);
   EXPECT_TRUE(desktop_.IsWindowVisible(alpha_));
-  EXPECT_FALSE(desktop_.IsWindowOnCurrentVirtualDesktop(alpha_));
+  EXPECT_EQ(desktop_.IsWindowOnCurrentVirtualDesktop(alpha_), false);
   desktop_.UserSwitchesDesktop(1);
   EXPECT_EQ(desktop_.DwmGetWindowAttribute(alpha_), 0U);
-  EXPECT_TRUE(desktop_.IsWindowOnCurrentVirtualDesktop(alpha_));
+  EXPECT_EQ(desktop_.IsWindowOnCurrentVirtualDesktop(alpha_), true);
 }
 
 TEST_F(FakeDesktopVirtualTest, OpensAWindowWhereTheUserIs) {
   desktop_.UserSwitchesDesktop(2);
   const WindowHandle beta = desktop_.Open("Beta");
   EXPECT_EQ(desktop_.DwmGetWindowAttribute(beta), 0U);
-  EXPECT_NE(desktop_.GetWindowDesktopId(beta), std::nullopt);
+  EXPECT_NE(desktop_.GetWindowDesktopId(beta), kNoVirtualDesktop);
   EXPECT_NE(desktop_.GetWindowDesktopId(beta), desktop_.GetWindowDesktopId(alpha_));
 }
 
@@ -76,8 +76,8 @@ TEST_F(FakeDesktopVirtualTest, ShowsAnOwnedWindowAlongWithItsOwner) {
   EXPECT_EQ(Desktop(), 1);
   desktop_.UserSwitchesDesktop(2);
   EXPECT_EQ(desktop_.DwmGetWindowAttribute(dialog), win32::kDwmCloakedInherited);
-  EXPECT_TRUE(desktop_.IsWindowOnCurrentVirtualDesktop(dialog)) << "it has none of its own";
-  EXPECT_EQ(desktop_.GetWindowDesktopId(dialog), std::nullopt);
+  EXPECT_EQ(desktop_.IsWindowOnCurrentVirtualDesktop(dialog), true) << "it has none of its own";
+  EXPECT_EQ(desktop_.GetWindowDesktopId(dialog), kNoVirtualDesktop);
 }
 
 TEST_F(FakeDesktopVirtualTest, MovesAWindowOfTheProgramWithWhatItOwns) {
@@ -109,7 +109,7 @@ TEST_F(FakeDesktopVirtualTest, KeepsAPinnedWindowOnEveryDesktop) {
 TEST_F(FakeDesktopVirtualTest, KnowsNoDesktopOfTheShellsWindows) {
   desktop_.OpenShell();
   for (const char* const title : {"Program Manager", "", "Start"}) {
-    EXPECT_EQ(desktop_.GetWindowDesktopId(desktop_.FindWindowA(title)), std::nullopt);
+    EXPECT_EQ(desktop_.GetWindowDesktopId(desktop_.FindWindowA(title)), kNoVirtualDesktop);
   }
 }
 
@@ -127,19 +127,48 @@ TEST_F(FakeDesktopVirtualTest, CloaksASuspendedWindowOnItsOwnDesktop) {
   desktop_.SetSuspended(alpha_, true);
   EXPECT_EQ(desktop_.DwmGetWindowAttribute(alpha_), win32::kDwmCloakedShell);
   EXPECT_TRUE(desktop_.IsWindowVisible(alpha_));
-  EXPECT_TRUE(desktop_.IsWindowOnCurrentVirtualDesktop(alpha_));
+  EXPECT_EQ(desktop_.IsWindowOnCurrentVirtualDesktop(alpha_), true);
   EXPECT_EQ(desktop_.ForegroundTitle(), "");
   desktop_.SetSuspended(alpha_, false);
   EXPECT_EQ(desktop_.DwmGetWindowAttribute(alpha_), 0U);
 }
 
-TEST_F(FakeDesktopVirtualTest, WithoutAManagerEveryWindowIsWhereTheUserIs) {
+TEST_F(FakeDesktopVirtualTest, WithoutAManagerThereIsNoAnswer) {
   const VirtualDesktopId first = desktop_.GetWindowDesktopId(alpha_).value();
   desktop_.UserSwitchesDesktop(2);
   desktop_.LoseVirtualDesktopManager();
-  EXPECT_TRUE(desktop_.IsWindowOnCurrentVirtualDesktop(alpha_));
+  EXPECT_EQ(desktop_.IsWindowOnCurrentVirtualDesktop(alpha_), std::nullopt);
   EXPECT_EQ(desktop_.GetWindowDesktopId(alpha_), std::nullopt);
   EXPECT_FALSE(desktop_.MoveWindowToDesktop(alpha_, first));
+}
+
+TEST_F(FakeDesktopVirtualTest, TheManagerCanFailToAnswerOneCallAlone) {
+  desktop_.LoseVirtualDesktopManager("GetWindowDesktopId");
+  EXPECT_EQ(desktop_.GetWindowDesktopId(alpha_), std::nullopt);
+  EXPECT_EQ(desktop_.IsWindowOnCurrentVirtualDesktop(alpha_), true);
+}
+
+TEST_F(FakeDesktopVirtualTest, TheShellsOwnWindowIsTheBareDesktop) {
+  EXPECT_EQ(desktop_.GetShellWindow(), 0);
+  desktop_.OpenShell();
+  EXPECT_EQ(desktop_.Title(desktop_.GetShellWindow()), "Program Manager");
+}
+
+TEST_F(FakeDesktopVirtualTest, ShowsTheDesktopThatTheUserLeavesForAMomentMore) {
+  desktop_.Windows().AnimateSwitch(true);
+  desktop_.UserSwitchesDesktop(2);
+  EXPECT_EQ(desktop_.DwmGetWindowAttribute(alpha_), 0U);
+  EXPECT_EQ(desktop_.IsWindowOnCurrentVirtualDesktop(alpha_), false);
+  desktop_.Windows().AnimateSwitch(false);
+  EXPECT_EQ(desktop_.DwmGetWindowAttribute(alpha_), win32::kDwmCloakedShell);
+}
+
+TEST_F(FakeDesktopVirtualTest, MayLeaveAWindowInFrontThatTheUserHasLeft) {
+  desktop_.UserSwitchesDesktop(2, FrontOfLeftDesktop::kStays);
+  EXPECT_EQ(desktop_.GetForegroundWindow(), alpha_);
+  EXPECT_EQ(desktop_.DwmGetWindowAttribute(alpha_), win32::kDwmCloakedShell);
+  desktop_.SetForegroundWindow(alpha_);
+  EXPECT_EQ(Desktop(), 1);
 }
 
 }  // namespace

@@ -61,10 +61,14 @@ class DialogTest : public testing::Test {
   PreviousWindow previous_;
   FakeMainWindow mainWindow_;
   FakeMessageBoxes messages_;
-  DesktopParts parts_{desktop_, desktop_,  host_,     mainWindow_,
-                      forms_,   messages_, previous_, desktop_};
-  WindowRequests requests_{parts_, clock_};
-  FormDisplay display_{forms_, parts_, requests_, suspension_, alwaysOnTop_};
+  OptionsHolder options_;
+  MenuItem windowMenu_;
+  Desktop routines_{
+      {desktop_, desktop_, host_, mainWindow_, forms_, messages_, previous_, desktop_},
+      clock_,
+      options_,
+      windowMenu_};
+  FormDisplay display_{forms_, routines_, suspension_, alwaysOnTop_};
 };
 
 }  // namespace korvale

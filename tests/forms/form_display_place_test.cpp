@@ -98,9 +98,11 @@ class TwoMonitorsTest : public FormDisplayTest {
   FormCollection forms{host, host, host, clock_};
   Dialog dialog{kDialogDesign, forms};
   Dialog owner{kOwnerDesign, forms};
-  DesktopParts parts{desktop, desktop, host, mainWindow_, forms, messages_, previous_, desktop};
-  WindowRequests requests{parts, clock_};
-  FormDisplay display{forms, parts, requests, suspension_, alwaysOnTop_};
+  Desktop routines{{desktop, desktop, host, mainWindow_, forms, messages_, previous_, desktop},
+                   clock_,
+                   options_,
+                   windowMenu_};
+  FormDisplay display{forms, routines, suspension_, alwaysOnTop_};
 };
 
 TEST_F(TwoMonitorsTest, AFormComesUpWhereTheUserWorksWithTheSizeThatItHasThere) {

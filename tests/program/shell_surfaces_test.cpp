@@ -137,5 +137,70 @@ TEST_P(ShellSurfaceTest, OnceOptionsClosesOverItTheUserIsBack) {
   ExpectTagLeadsTo(0, "Beta");
 }
 
+/// The user works in Alpha, then opens Start, which goes as soon as anything else comes forward.
+class OverStart : public KorvaleWorld {
+ protected:
+  OverStart() {
+    WorkIn(korvale.Handle());
+    WorkIn(alpha);
+    AddTagEntry(korvale.Tags(), 3, "&3  Nothing");
+    desktop.UserActivates(desktop.FindWindowA("Start"));
+  }
+
+  const WindowHandle alpha = Open("Alpha");
+  KorvaleCopy& korvale = StartedCopy();
+};
+
+TEST_F(OverStart, TheUserIsBackInTheirWindowAfterAMessage) {
+  for (const bool noticed : {false, true}) {
+    desktop.UserActivates(desktop.FindWindowA("Start"));
+    if (noticed) LetTick();
+    korvale.ExpectBox("Window:  [Nothing]  is not open.", win32::kIdOk);
+    PressTag(3);
+    EXPECT_EQ(Front(), "Alpha") << noticed;
+  }
+}
+
+TEST_F(OverStart, TheUserIsBackInOptionsAfterAMessageAboveIt) {
+  PressHotKey(win32::kModWin, 'O');
+  LetTick();
+  const std::string options = Front();
+  desktop.UserActivates(desktop.FindWindowA("Start"));
+  LetTick();
+  korvale.ExpectBox("Window:  [Nothing]  is not open.", win32::kIdOk);
+  PressTag(3);
+  EXPECT_EQ(options, "Korvale - Options");
+  EXPECT_EQ(Front(), options);
+}
+
+TEST_F(OverStart, TheUserIsBackInTheirWindowAfterThePopUp) {
+  korvale.host.WhenPopupMenu([](const std::vector<ShownMenuItem>&) { return ""; });
+  PressHotKey(win32::kModWin, 'W');
+  EXPECT_EQ(Front(), "Alpha");
+}
+
+class OverStartATip : public OverStart {
+ protected:
+  void SeeATip() {
+    korvale.host.WhenModal("frmMsgTip", [&](class Form& tip) {
+      korvale.user.PressKey(tip.Handle(), win32::kVkEscape);
+    });
+    korvale.Form().ShowTip(TipNumber::kCommandLine, "Text", "TIP", 3000);
+  }
+};
+
+TEST_F(OverStartATip, TheUserIsBackInTheirWindow) {
+  SeeATip();
+  EXPECT_EQ(Front(), "Alpha");
+}
+
+TEST_F(OverStartATip, AUserWhoCameFromTheMainWindowIsBackThere) {
+  WorkIn(korvale.Handle());
+  desktop.UserActivates(desktop.FindWindowA("Start"));
+  LetTick();
+  SeeATip();
+  EXPECT_EQ(desktop.GetForegroundWindow(), korvale.Handle());
+}
+
 }  // namespace
 }  // namespace korvale

@@ -28,12 +28,14 @@ SimulatedLife::Before SimulatedLife::LookBefore(int tag) {
   const WindowHandle foreground = desktop.Windows().Foreground();
   const bool sure = IsFollowed(foreground) && foreground != korvale_->Handle();
   if (sure) workedIn_.Work(foreground);
+  std::set<WindowHandle> known = {foreground, record.current.handle, record.alternate.handle};
+  if (korvale_->Form().FocusTag() == kGotFocus) known.insert(korvale_->Handle());
   return {.tag = tag,
           .foreground = foreground,
           .present = sure ? foreground : 0,
           .boxes = korvale_->host.Messages().size(),
           .locked = programs_->ForegroundLocked(),
-          .known = {foreground, record.current.handle, record.alternate.handle},
+          .known = std::move(known),
           .hidden = std::move(hidden)};
 }
 

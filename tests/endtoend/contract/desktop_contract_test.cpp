@@ -46,6 +46,20 @@ HWND Make(const ContractWindow& window) {
   return hwnd;
 }
 
+/// COM for the manager of virtual desktops, as the program has it.
+class Com {
+ public:
+  Com() = default;
+  ~Com() {
+    if (SUCCEEDED(ready_)) CoUninitialize();
+  }
+  Com(const Com&) = delete;
+  Com& operator=(const Com&) = delete;
+
+ private:
+  HRESULT ready_ = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+};
+
 class WindowsDesktopUnderTest final : public DesktopUnderTest {
  public:
   ~WindowsDesktopUnderTest() override {
@@ -103,6 +117,7 @@ class WindowsDesktopUnderTest final : public DesktopUnderTest {
   }
 
   WindowsWindowApi api_;
+  Com com_;
   WindowsVirtualDesktops virtualDesktops_;
   WindowThread thread_;
   std::set<HWND> opened_;
