@@ -42,10 +42,13 @@ void WindowProcHook::HookWindowProc(std::string_view mode, WindowHandle hWnd) {
     // A second hook would find itself as the previous procedure and call itself for ever.
     if (prevWindowProc_ != 0) return;
     prevWindowProc_ = hotKeys_->SetWindowLongPtrA(hWnd, *this);
-    hotKeys_->WTSRegisterSessionNotification(hWnd);
+    if (prevWindowProc_ == 0) return;
+    hearsOfSession_ = hotKeys_->WTSRegisterSessionNotification(hWnd);
+    hearsOfSleep_ = hotKeys_->RegisterSuspendResumeNotification(hWnd);
   } else if (mode == "REMOVE") {
     if (prevWindowProc_ == 0) return;
-    hotKeys_->WTSUnRegisterSessionNotification(hWnd);
+    if (hearsOfSession_) hotKeys_->WTSUnRegisterSessionNotification(hWnd);
+    if (hearsOfSleep_) hotKeys_->UnregisterSuspendResumeNotification(hWnd);
     hotKeys_->SetWindowLongPtrA(hWnd, prevWindowProc_);
     prevWindowProc_ = 0;
   }

@@ -22,9 +22,9 @@ class WindowProcHook : public WindowProcedure {
                  std::function<void()> reportUncaught);
 
   /// "SET" installs the hot-key window procedure on the main window, "REMOVE" puts the former one
-  /// back (SetWindowLongPtrA), and the window hears of its session (WTSRegisterSessionNotification)
-  /// meanwhile. Any other mode does nothing, nor does a second "SET" in a row or a
-  /// "REMOVE" without "SET".
+  /// back (SetWindowLongPtrA), and the window hears of its session and of sleep meanwhile
+  /// (WTSRegisterSessionNotification, RegisterSuspendResumeNotification). Any other mode does
+  /// nothing, nor does a second "SET" in a row or a "REMOVE" without "SET".
   void HookWindowProc(std::string_view mode, WindowHandle hWnd);
 
   /// Hands a WM_HOTKEY of the main window to the processor; when the user is back after sleep, a
@@ -52,6 +52,8 @@ class WindowProcHook : public WindowProcedure {
   HotKeyActions* actions_;
   std::function<void()> reportUncaught_;
   PreviousProcedure prevWindowProc_ = 0;
+  bool hearsOfSession_ = false;
+  bool hearsOfSleep_ = false;
 };
 
 }  // namespace korvale

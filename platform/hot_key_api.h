@@ -48,7 +48,15 @@ class HotKeyApi {
   /// user unlocks it; false when this Windows tells nobody. To be taken back before the window
   /// goes.
   virtual bool WTSRegisterSessionNotification(WindowHandle hwnd) = 0;
+  /// Takes one such registration back; the window must still be there.
   virtual void WTSUnRegisterSessionNotification(WindowHandle hwnd) = 0;
+
+  /// From now on the window hears when the computer falls asleep and wakes up
+  /// (WM_POWERBROADCAST), also where Modern Standby tells only the windows that asked for it; false
+  /// when Windows refused. Asking again changes nothing.
+  virtual bool RegisterSuspendResumeNotification(WindowHandle hwnd) = 0;
+  /// Takes this back.
+  virtual void UnregisterSuspendResumeNotification(WindowHandle hwnd) = 0;
 
   /// Takes the oldest message of this kind out of the window's queue; nothing when there is none
   /// (PeekMessageW with PM_REMOVE).

@@ -73,6 +73,23 @@ void WindowsHotKeyApi::WTSUnRegisterSessionNotification(WindowHandle hwnd) {
   if (stop != nullptr) stop(ToHwnd(hwnd));
 }
 
+void WindowsHotKeyApi::StopPowerNotification::operator()(void* registration) const {
+  ::UnregisterSuspendResumeNotification(registration);
+}
+
+bool WindowsHotKeyApi::RegisterSuspendResumeNotification(WindowHandle hwnd) {
+  auto& registration = powerNotifications_[hwnd];
+  if (registration == nullptr) {
+    registration.reset(
+        ::RegisterSuspendResumeNotification(ToHwnd(hwnd), DEVICE_NOTIFY_WINDOW_HANDLE));
+  }
+  return registration != nullptr;
+}
+
+void WindowsHotKeyApi::UnregisterSuspendResumeNotification(WindowHandle hwnd) {
+  powerNotifications_.erase(hwnd);
+}
+
 std::optional<QueuedMessage> WindowsHotKeyApi::PeekMessageW(WindowHandle hwnd,
                                                             std::uint32_t message) {
   // Peeking also delivers messages that other threads send, which nothing here expects.

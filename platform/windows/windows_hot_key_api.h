@@ -20,6 +20,8 @@ class WindowsHotKeyApi final : public HotKeyApi {
   bool UnregisterHotKey(WindowHandle hwnd, int id) override;
   bool WTSRegisterSessionNotification(WindowHandle hwnd) override;
   void WTSUnRegisterSessionNotification(WindowHandle hwnd) override;
+  bool RegisterSuspendResumeNotification(WindowHandle hwnd) override;
+  void UnregisterSuspendResumeNotification(WindowHandle hwnd) override;
   std::optional<QueuedMessage> PeekMessageW(WindowHandle hwnd, std::uint32_t message) override;
   PreviousProcedure SetWindowLongPtrA(WindowHandle hwnd, WindowProcedure& procedure) override;
   void SetWindowLongPtrA(WindowHandle hwnd, PreviousProcedure previous) override;
@@ -32,7 +34,12 @@ class WindowsHotKeyApi final : public HotKeyApi {
   struct Hook;
 
  private:
+  struct StopPowerNotification {
+    void operator()(void* registration) const;
+  };
+
   std::map<WindowHandle, std::shared_ptr<Hook>> hooks_;
+  std::map<WindowHandle, std::unique_ptr<void, StopPowerNotification>> powerNotifications_;
   SystemLibrary sessions_{L"wtsapi32.dll"};
 };
 

@@ -70,9 +70,12 @@ void FakeHotKeys::ReleaseForeign(std::uint32_t modifiers, std::uint32_t key) {
 }
 
 void FakeHotKeys::EndSleep() {
-  const auto windows = current_;
+  std::set<WindowHandle> windows = sleepWatchers_;
+  if (!modernStandby) {
+    for (const auto& [hwnd, procedure] : current_) windows.insert(hwnd);
+  }
   for (const std::uint32_t event : {win32::kPbtApmResumeAutomatic, win32::kPbtApmResumeSuspend}) {
-    for (const auto& [hwnd, procedure] : windows) Deliver(hwnd, win32::kWmPowerBroadcast, event);
+    for (const WindowHandle hwnd : windows) Deliver(hwnd, win32::kWmPowerBroadcast, event);
   }
 }
 
@@ -86,6 +89,7 @@ void FakeHotKeys::ForgetWindow(WindowHandle hwnd) {
                 [&](const Registration& registration) { return registration.hwnd == hwnd; });
   current_.erase(hwnd);
   sessionWatchers_.erase(hwnd);
+  sleepWatchers_.erase(hwnd);
   std::erase_if(queue_, [&](const Queued& message) { return message.hwnd == hwnd; });
 }
 
@@ -111,7 +115,7 @@ bool FakeHotKeys::UnregisterHotKey(WindowHandle hwnd, int id) {
 
 bool FakeHotKeys::WTSRegisterSessionNotification(WindowHandle hwnd) {
   log_.Add("WTSRegisterSessionNotification(" + log_.Window(hwnd) + ")");
-  if (!Exists(hwnd)) return false;
+  if (!Exists(hwnd) || refuseNotifications) return false;
   sessionWatchers_.insert(hwnd);
   return true;
 }
@@ -120,6 +124,18 @@ void FakeHotKeys::WTSUnRegisterSessionNotification(WindowHandle hwnd) {
   log_.Add("WTSUnRegisterSessionNotification(" + log_.Window(hwnd) + ")");
   const auto watch = sessionWatchers_.find(hwnd);
   if (watch != sessionWatchers_.end()) sessionWatchers_.erase(watch);
+}
+
+bool FakeHotKeys::RegisterSuspendResumeNotification(WindowHandle hwnd) {
+  log_.Add("RegisterSuspendResumeNotification(" + log_.Window(hwnd) + ")");
+  if (!Exists(hwnd) || refuseNotifications) return false;
+  sleepWatchers_.insert(hwnd);
+  return true;
+}
+
+void FakeHotKeys::UnregisterSuspendResumeNotification(WindowHandle hwnd) {
+  log_.Add("UnregisterSuspendResumeNotification(" + log_.Window(hwnd) + ")");
+  sleepWatchers_.erase(hwnd);
 }
 
 std::optional<QueuedMessage> FakeHotKeys::PeekMessageW(WindowHandle hwnd, std::uint32_t message) {

@@ -49,7 +49,8 @@ class FakeHotKeys : public HotKeyApi {
   /// The shell of Windows 10 and 11 starts: it takes Windows with nearly every letter and digit.
   void StartShell();
   void ReleaseForeign(std::uint32_t modifiers, std::uint32_t key);
-  /// The computer wakes up: the windows are told so.
+  /// The computer wakes up: the windows that asked for it are told so, and all others, too, unless
+  /// it has Modern Standby.
   void EndSleep();
   /// The user unlocks the session, or connects to it: the windows that asked for it are told so.
   void ChangeSession(std::uintptr_t event);
@@ -63,6 +64,11 @@ class FakeHotKeys : public HotKeyApi {
   /// How often a window has asked to be told of its session.
   std::size_t SessionWatches(WindowHandle hwnd) const { return sessionWatchers_.count(hwnd); }
 
+  bool HearsOfSleep(WindowHandle hwnd) const { return sleepWatchers_.contains(hwnd); }
+
+  bool modernStandby = true;
+  /// Windows tells nobody of sleep and session, as while its services are starting.
+  bool refuseNotifications = false;
   /// What a window's own procedure returns.
   std::intptr_t answer = 0;
 
@@ -73,6 +79,8 @@ class FakeHotKeys : public HotKeyApi {
   bool UnregisterHotKey(WindowHandle hwnd, int id) override;
   bool WTSRegisterSessionNotification(WindowHandle hwnd) override;
   void WTSUnRegisterSessionNotification(WindowHandle hwnd) override;
+  bool RegisterSuspendResumeNotification(WindowHandle hwnd) override;
+  void UnregisterSuspendResumeNotification(WindowHandle hwnd) override;
   std::optional<QueuedMessage> PeekMessageW(WindowHandle hwnd, std::uint32_t message) override;
   PreviousProcedure SetWindowLongPtrA(WindowHandle hwnd, WindowProcedure& procedure) override;
   void SetWindowLongPtrA(WindowHandle hwnd, PreviousProcedure previous) override;
@@ -105,6 +113,7 @@ class FakeHotKeys : public HotKeyApi {
   std::deque<Queued> queue_;
   std::vector<std::pair<std::uint32_t, std::uint32_t>> foreign_;
   std::multiset<WindowHandle> sessionWatchers_;
+  std::set<WindowHandle> sleepWatchers_;
   std::map<PreviousProcedure, WindowProcedure*> procedures_;
   std::map<WindowHandle, PreviousProcedure> current_;
   int delivering_ = 0;

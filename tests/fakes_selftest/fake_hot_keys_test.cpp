@@ -119,10 +119,36 @@ TEST_F(FakeHotKeysTest, RefusesUnknownWindowsAndIdentifiersOutOfRange) {
   EXPECT_FALSE(hot_keys_.IsHooked(kGone));
 }
 
-TEST_F(FakeHotKeysTest, EveryWindowHearsOfTheEndOfASleep) {
+TEST_F(FakeHotKeysTest, EveryWindowHearsOfTheEndOfAClassicSleep) {
+  hot_keys_.modernStandby = false;
   hot_keys_.SetWindowLongPtrA(kMain, procedure_);
   hot_keys_.EndSleep();
   EXPECT_EQ(procedure_.calls, (Calls{"256 536 18 0", "256 536 7 0"}));
+}
+
+TEST_F(FakeHotKeysTest, AWindowHearsOfModernStandbyWhileItIsRegistered) {
+  hot_keys_.SetWindowLongPtrA(kMain, procedure_);
+  hot_keys_.EndSleep();
+  EXPECT_TRUE(procedure_.calls.empty());
+  EXPECT_FALSE(hot_keys_.RegisterSuspendResumeNotification(kGone));
+  EXPECT_TRUE(hot_keys_.RegisterSuspendResumeNotification(kMain));
+  EXPECT_TRUE(hot_keys_.RegisterSuspendResumeNotification(kMain));
+  hot_keys_.EndSleep();
+  EXPECT_EQ(procedure_.calls, (Calls{"256 536 18 0", "256 536 7 0"}));
+  hot_keys_.UnregisterSuspendResumeNotification(kMain);
+  hot_keys_.EndSleep();
+  EXPECT_EQ(procedure_.calls.size(), 2U);
+  hot_keys_.RegisterSuspendResumeNotification(kMain);
+  hot_keys_.ForgetWindow(kMain);
+  EXPECT_FALSE(hot_keys_.HearsOfSleep(kMain));
+}
+
+TEST_F(FakeHotKeysTest, TellsNobodyWhileNotificationsAreRefused) {
+  hot_keys_.refuseNotifications = true;
+  EXPECT_FALSE(hot_keys_.WTSRegisterSessionNotification(kMain));
+  EXPECT_FALSE(hot_keys_.RegisterSuspendResumeNotification(kMain));
+  EXPECT_EQ(hot_keys_.SessionWatches(kMain), 0U);
+  EXPECT_FALSE(hot_keys_.HearsOfSleep(kMain));
 }
 
 TEST_F(FakeHotKeysTest, AWindowHearsOfItsSessionAsOftenAsItAskedFor) {

@@ -97,5 +97,23 @@ TEST_F(UserReturns, ToldBySessionsForAsLongAsTheHookIsThere) {
   EXPECT_EQ(hotKeys.SessionWatches(kMain), 0U);
 }
 
+TEST_F(UserReturns, FromModernStandbyForAsLongAsTheHookIsThere) {
+  hotKeys.ReleaseForeign(1, 0x31);
+  hotKeys.EndSleep();
+  EXPECT_TRUE(AltAndOneIsOurs());
+  hook.HookWindowProc("REMOVE", kMain);
+  EXPECT_FALSE(hotKeys.HearsOfSleep(kMain));
+}
+
+TEST_F(UserReturns, FromAClassicSleepAlsoWhenWindowsRefusedToTell) {
+  hook.HookWindowProc("REMOVE", kMain);
+  hotKeys.refuseNotifications = true;
+  hotKeys.modernStandby = false;
+  hook.HookWindowProc("SET", kMain);
+  hotKeys.ReleaseForeign(1, 0x31);
+  hotKeys.EndSleep();
+  EXPECT_TRUE(AltAndOneIsOurs());
+}
+
 }  // namespace
 }  // namespace korvale

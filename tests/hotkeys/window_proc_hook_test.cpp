@@ -113,8 +113,9 @@ TEST_F(WindowProcHookTest, DispatchesAHotKeyThatArrivesDuringADispatch) {
 TEST_F(WindowProcHookTest, PutsTheFormerProcedureBack) {
   hook.HookWindowProc("REMOVE", kMain);
 
-  EXPECT_EQ(log.Calls(),
-            (Calls{"WTSUnRegisterSessionNotification(main)", "SetWindowLongPtrA(main, previous)"}));
+  EXPECT_EQ(log.Calls(), (Calls{"WTSUnRegisterSessionNotification(main)",
+                                "UnregisterSuspendResumeNotification(main)",
+                                "SetWindowLongPtrA(main, previous)"}));
 }
 
 TEST_F(WindowProcHookTest, RemovesOnlyOnce) {
@@ -140,7 +141,27 @@ TEST_F(WindowProcHookTest, HooksAgainAfterARemoval) {
   hook.HookWindowProc("SET", kMain);
 
   EXPECT_EQ(log.Calls(),
-            (Calls{"SetWindowLongPtrA(main, procedure)", "WTSRegisterSessionNotification(main)"}));
+            (Calls{"SetWindowLongPtrA(main, procedure)", "WTSRegisterSessionNotification(main)",
+                   "RegisterSuspendResumeNotification(main)"}));
+}
+
+TEST_F(WindowProcHookTest, ThatCannotBeSetAsksForNothing) {
+  FakeHotKeys windowless(log, [](WindowHandle) { return false; });
+  WindowProcHook refused(windowless, host, mainWindow, table, *this, actions, [] {});
+  const Calls attempt = {"SetWindowLongPtrA(main, procedure)"};
+  refused.HookWindowProc("SET", kMain);
+  EXPECT_EQ(log.Calls(), attempt);
+  refused.HookWindowProc("REMOVE", kMain);
+  EXPECT_EQ(log.Calls(), attempt);
+}
+
+TEST_F(WindowProcHookTest, TakesBackOnlyWhatWindowsGranted) {
+  hook.HookWindowProc("REMOVE", kMain);
+  hotKeys.refuseNotifications = true;
+  hook.HookWindowProc("SET", kMain);
+  log.Clear();
+  hook.HookWindowProc("REMOVE", kMain);
+  EXPECT_EQ(log.Calls(), Calls{"SetWindowLongPtrA(main, previous)"});
 }
 
 TEST_F(WindowProcHookTest, DoesNothingInAnyOtherMode) {

@@ -118,8 +118,10 @@ TEST_F(RefusedHotKeys, AreForgottenWhenTheProgramEnds) {
   EXPECT_TRUE(korvale.Start());
   const WindowHandle main = korvale.Handle();
   EXPECT_EQ(hotKeys.SessionWatches(main), 1U);
+  EXPECT_TRUE(hotKeys.HearsOfSleep(main));
   korvale.Exit();
   EXPECT_EQ(hotKeys.SessionWatches(main), 0U);
+  EXPECT_FALSE(log.CallsOf("UnregisterSuspendResumeNotification(frmMain)").empty());
   EXPECT_FALSE(log.CallsOf("WTSUnRegisterSessionNotification(frmMain)").empty());
 }
 

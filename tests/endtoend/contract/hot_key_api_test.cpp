@@ -95,6 +95,13 @@ TEST_F(WindowsHotKeyApiTest, CanBeToldOfTheSession) {
   api_.WTSUnRegisterSessionNotification(Window());
 }
 
+TEST_F(WindowsHotKeyApiTest, CanBeToldOfTheEndOfASleep) {
+  EXPECT_TRUE(api_.RegisterSuspendResumeNotification(Window()));
+  EXPECT_TRUE(api_.RegisterSuspendResumeNotification(Window()));
+  api_.UnregisterSuspendResumeNotification(Window());
+  api_.UnregisterSuspendResumeNotification(Window());
+}
+
 TEST_F(WindowsHotKeyApiTest, AMessageTakenOutTellsWhatCameWithIt) {
   EXPECT_TRUE(api_.PostMessageW(Window(), kMessage, 6, 7));
   EXPECT_TRUE(api_.PostMessageW(Window(), kMessage, 8, 9));
