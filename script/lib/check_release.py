@@ -3,9 +3,10 @@
 - Windows loads the imported libraries before the program can say where from. It takes only those
   that it knows from its own folder; any other could lie beside the program in a download folder.
 - The program says that it is made for Windows 8 or later, and takes part in its protections.
-- It has one manifest.
+- It has one manifest, which names what BY_MANIFEST needs.
 """
 
+import pathlib
 import re
 import subprocess
 import sys
@@ -15,8 +16,8 @@ KNOWN = set(
     "advapi32 combase comdlg32 gdi32 imm32 kernel32 msvcrt ole32 oleaut32 rpcrt4 sechost shcore "
     "shell32 shlwapi user32 ws2_32".split()
 )
-# Not one of them, but the manifest names its assembly: Windows takes it from there.
-BY_MANIFEST = {"comctl32"}
+# Not one of them, but with its assembly in the manifest Windows takes it from there.
+BY_MANIFEST = {"comctl32": "Microsoft.Windows.Common-Controls"}
 PROTECTIONS = ("DYNAMIC_BASE", "HIGH_ENTROPY_VA", "NX_COMPAT")
 OLDEST = (6, 2)
 # The entry of this type among the types of resources, with one name in one language.
@@ -25,16 +26,28 @@ MANIFEST = re.compile(
 )
 
 
-def problems(dump):
-    imports = re.findall(r"DLL Name: (\S+)", dump)
+def imported(dump):
+    for name in re.findall(r"DLL Name: (\S+)", dump):
+        yield name, name.lower().removesuffix(".dll")
+
+
+def problems(dump, manifest):
+    imports = list(imported(dump))
     if not imports:
         yield "no imports found"
-    for name in imports:
-        if name.lower().removesuffix(".dll") not in KNOWN | BY_MANIFEST:
+    for name, library in imports:
+        if library in BY_MANIFEST:
+            if f'name="{BY_MANIFEST[library]}"' not in manifest:
+                yield f"imports {name} without its assembly"
+        elif library not in KNOWN:
             yield f"imports {name}"
+    # Their names are not in the dump.
+    if not re.search(r"^Entry d 0+ 0+ Delay Import Directory$", dump, re.M):
+        yield "delays imports"
     for version in ("OSystemVersion", "SubsystemVersion"):
         found = tuple(
-            int(re.search(rf"^{part}{version}\s+(\d+)", dump, re.M)[1]) for part in ("Major", "Minor")
+            int(re.search(rf"^{part}{version}\s+(\d+)", dump, re.M)[1])
+            for part in ("Major", "Minor")
         )
         if found < OLDEST:
             yield f"{version} is {found[0]}.{found[1]:02}"
@@ -50,10 +63,13 @@ def main():
     dump = subprocess.run(
         ["x86_64-w64-mingw32-objdump", "-p", program], capture_output=True, text=True, check=True
     ).stdout
-    found = list(problems(dump))
+    content = pathlib.Path(program).read_bytes().decode("latin-1")
+    manifest = "".join(re.findall(r"<assembly\b.*?</assembly>", content, re.S))
+    found = list(problems(dump, manifest))
     for problem in found:
         print(f"{program}: {problem}")
     return 1 if found else 0
 
 
-sys.exit(main())
+if __name__ == "__main__":
+    sys.exit(main())
