@@ -94,7 +94,8 @@ std::optional<std::vector<StoreChange>> CompleteChanges(const SettingsStore::Pai
 }
 
 bool InOneSection(const StoreChange& one, const StoreChange& other) {
-  return one.appName == other.appName && one.section == other.section;
+  return EqualsIgnoreCase(one.appName, other.appName) &&
+         EqualsIgnoreCase(one.section, other.section);
 }
 
 /// True when nothing is left of `older` once `newer` has been made.
@@ -102,7 +103,7 @@ bool Supersedes(const StoreChange& newer, const StoreChange& older) {
   if (newer.last || !InOneSection(newer, older)) return false;
   using Kind = StoreChange::Kind;
   return newer.kind == Kind::kDeleteSection ||
-         (older.kind != Kind::kDeleteSection && newer.key == older.key);
+         (older.kind != Kind::kDeleteSection && EqualsIgnoreCase(newer.key, older.key));
 }
 
 /// The last change after which nothing is left of `older`; null when there is none.
@@ -147,14 +148,17 @@ SaveJournal::SaveJournal(SettingsStore& store, std::string appName)
 
 void SaveJournal::Commit(const std::vector<StoreChange>& newChanges) {
   FinishInterrupted();
-  const char* const refused = CompleteSection();
-  const std::vector<StoreChange> changes = BehindRefused(newChanges);
-  const char* const section = refused == kJournalSection ? kSecondJournalSection : kJournalSection;
-  const bool needsJournal = changes.size() > 1 || refused != nullptr;
+  const std::optional<Journal> refused = LeftBehind();
+  const char* const old = refused ? refused->section : nullptr;
+  const std::vector<StoreChange> changes =
+      Behind(refused ? refused->changes : std::vector<StoreChange>(), newChanges);
+  const char* const section = old == kJournalSection ? kSecondJournalSection : kJournalSection;
+  const bool needsJournal = changes.size() > 1 || refused;
   // Two journals must never mix.
   bool prepared = Clear(section);
   prepared = prepared && (!needsJournal || Write(section, changes));
-  prepared = prepared && (refused == nullptr || Clear(refused));
+  // One that is only half deleted does not count any more; the new one holds what is left of it.
+  prepared = prepared && (!refused || Clear(old) || !ChangesIn(old));
   if (!prepared) {
     Clear(section);
     throw RunTimeError(RunTimeError::kPermissionDenied);
@@ -166,33 +170,35 @@ void SaveJournal::Commit(const std::vector<StoreChange>& newChanges) {
 }
 
 void SaveJournal::FinishInterrupted() {
-  const char* const complete = CompleteSection();
+  const std::optional<Journal> complete = LeftBehind();
   bool alone = true;
   for (const char* const section : kJournalSections) {
-    if (section != complete) alone &= Clear(section);
+    if (!complete || section != complete->section) alone &= Clear(section);
   }
-  if (complete != nullptr && alone && Apply(Unfinished())) Clear(complete);
+  if (complete && alone && Apply(complete->changes)) Clear(complete->section);
 }
 
 std::vector<StoreChange> SaveJournal::Unfinished() const {
-  const char* const section = CompleteSection();
-  if (section == nullptr) return {};
-  return *CompleteChanges(store_->GetAllSettings(appName_, section));
+  std::optional<Journal> complete = LeftBehind();
+  return complete ? std::move(complete->changes) : std::vector<StoreChange>();
 }
 
-const char* SaveJournal::CompleteSection() const {
+std::optional<SaveJournal::Journal> SaveJournal::LeftBehind() const {
   for (const char* const section : kJournalSections) {
-    if (CompleteChanges(store_->GetAllSettings(appName_, section))) return section;
+    if (auto changes = ChangesIn(section)) return Journal{section, std::move(*changes)};
   }
-  return nullptr;
+  return std::nullopt;
+}
+
+std::optional<std::vector<StoreChange>> SaveJournal::ChangesIn(const char* section) const {
+  return CompleteChanges(store_->GetAllSettings(appName_, section));
 }
 
 /// Changes that the store refused in an earlier save come before the new ones, except those that
 /// the new ones replace or delete. A deletion that waits for all others is dropped when one of
 /// those can no longer be made.
-std::vector<StoreChange> SaveJournal::BehindRefused(
-    const std::vector<StoreChange>& newChanges) const {
-  std::vector<StoreChange> changes = Unfinished();
+std::vector<StoreChange> SaveJournal::Behind(std::vector<StoreChange> changes,
+                                             const std::vector<StoreChange>& newChanges) const {
   const bool keepsLast = !LosesAValue(*store_, changes, newChanges);
   std::erase_if(changes, [&](const StoreChange& refused) {
     return refused.last ? !keepsLast : Superseding(newChanges, refused) != nullptr;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -42,9 +43,18 @@ class SaveJournal {
   std::vector<StoreChange> Unfinished() const;
 
  private:
-  /// The section with a complete journal; null when there is none.
-  const char* CompleteSection() const;
-  std::vector<StoreChange> BehindRefused(const std::vector<StoreChange>& newChanges) const;
+  struct Journal {
+    const char* section;
+    std::vector<StoreChange> changes;
+  };
+
+  /// The complete journal, of which another copy may have written or deleted some when the store is
+  /// read again; nothing when there is none.
+  std::optional<Journal> LeftBehind() const;
+  /// The changes in a section; nothing when the journal there is incomplete.
+  std::optional<std::vector<StoreChange>> ChangesIn(const char* section) const;
+  std::vector<StoreChange> Behind(std::vector<StoreChange> refused,
+                                  const std::vector<StoreChange>& newChanges) const;
   /// Deletes a journal section; false when the store refuses.
   bool Clear(const char* section);
   bool Write(const char* section, const std::vector<StoreChange>& changes);
