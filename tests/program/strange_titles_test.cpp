@@ -270,8 +270,9 @@ TEST_F(LongClasses, OfAnyWritingIdentifyTheirWindowAfterARestart) {
     EXPECT_EQ(desktop.GetForegroundWindow(), window);
     next.Exit();
     EndCopy(next);
-    for (const WindowHandle hwnd : {window, lower, desktop.FindWindowA("Beta")})
+    for (const WindowHandle hwnd : {window, lower, desktop.FindWindowA("Beta")}) {
       desktop.Close(hwnd);
+    }
   }
 }
 
