@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "hotkeys/hot_key_names.h"
 #include "platform/win32_constants.h"
 
 namespace korvale {
@@ -91,14 +92,22 @@ void WindowProcHook::RetryRefused() {
 
 /// The menu's own loop is still running: Windows shows no second menu inside it, and what showed
 /// the first one must have ended before the next command begins. Hot keys that were pressed after
-/// this one stay behind it.
+/// this one stay behind it. Of presses of the pop-up in a row, which a held key leaves in a busy
+/// program's queue, one does: each further one would only close its menu and pop it up again.
 void WindowProcHook::Postpone(const QueuedMessage& hotKey) {
   const WindowHandle main = mainWindow_->MainHandle();
   std::vector<QueuedMessage> hotKeys = {hotKey};
-  while (const auto next = hotKeys_->PeekMessageW(main, win32::kWmHotKey)) hotKeys.push_back(*next);
+  while (const auto next = hotKeys_->PeekMessageW(main, win32::kWmHotKey)) {
+    if (*next != hotKeys.back() || !IsPressOfPopUp(*next)) hotKeys.push_back(*next);
+  }
   for (const QueuedMessage& each : hotKeys) {
     hotKeys_->PostMessageW(main, win32::kWmHotKey, each.wParam, each.lParam);
   }
+}
+
+bool WindowProcHook::IsPressOfPopUp(const QueuedMessage& hotKey) const {
+  return table_->IsPress(hotKey.wParam, hotKey.lParam) &&
+         table_->NameOf(hotKey.wParam) == kHotKeyWindowMenuPopup;
 }
 
 std::intptr_t WindowProcHook::Call(WindowHandle hwnd, std::uint32_t message, std::uintptr_t wParam,

@@ -43,6 +43,7 @@ class WindowProcHook : public WindowProcedure {
   void Dispatch(std::uintptr_t identifier, std::intptr_t lParam);
   void RetryRefused();
   void Postpone(const QueuedMessage& hotKey);
+  bool IsPressOfPopUp(const QueuedMessage& hotKey) const;
 
   HotKeyApi* hotKeys_;
   SystemDialogs* dialogs_;

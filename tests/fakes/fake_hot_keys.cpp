@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <limits>
 #include <string>
 #include <string_view>
 
@@ -31,17 +32,20 @@ bool FakeHotKeys::PressWhileBusy(std::uint32_t modifiers, std::uint32_t key) {
   });
   if (pressed == registered_.end()) return false;
   queue_.push_back({pressed->hwnd, win32::kWmHotKey, static_cast<std::uintptr_t>(pressed->id),
-                    static_cast<std::intptr_t>(modifiers | key << 16U)});
+                    static_cast<std::intptr_t>(modifiers | key << 16U), posted_++});
   return true;
 }
 
 void FakeHotKeys::DeliverQueued() {
   // A loop inside the handling of a message does not reach what was posted meanwhile.
-  for (std::size_t waiting = queue_.size(); waiting > 0 && !queue_.empty(); --waiting) {
+  const std::uint64_t end = delivering_ > 0 ? posted_ : std::numeric_limits<std::uint64_t>::max();
+  ++delivering_;
+  while (!queue_.empty() && queue_.front().number < end) {
     const Queued message = queue_.front();
     queue_.pop_front();
     Deliver(message.hwnd, message.message, message.wParam, message.lParam);
   }
+  --delivering_;
 }
 
 std::intptr_t FakeHotKeys::Deliver(WindowHandle hwnd, std::uint32_t message, std::uintptr_t wParam,
@@ -177,7 +181,7 @@ bool FakeHotKeys::PostMessageW(WindowHandle hwnd, std::uint32_t message, std::ui
   log_.Add("PostMessageW(" + log_.Window(hwnd) + ", " + HexText(message) + ", " +
            std::to_string(wParam) + ", " + std::to_string(lParam) + ")");
   if (!Exists(hwnd)) return false;
-  queue_.push_back({hwnd, message, wParam, lParam});
+  queue_.push_back({hwnd, message, wParam, lParam, posted_++});
   return true;
 }
 

@@ -97,6 +97,7 @@ class FakeHotKeys : public HotKeyApi {
     std::uint32_t message = 0;
     std::uintptr_t wParam = 0;
     std::intptr_t lParam = 0;
+    std::uint64_t number = 0;  ///< In the order in which they were posted.
   };
 
   static constexpr PreviousProcedure kOwnProcedure = 0x7000;
@@ -116,6 +117,7 @@ class FakeHotKeys : public HotKeyApi {
   std::set<WindowHandle> sleepWatchers_;
   std::map<PreviousProcedure, WindowProcedure*> procedures_;
   std::map<WindowHandle, PreviousProcedure> current_;
+  std::uint64_t posted_ = 0;
   int delivering_ = 0;
 };
 

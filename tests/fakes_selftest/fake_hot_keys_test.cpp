@@ -202,6 +202,16 @@ TEST_F(FakeHotKeysTest, APostedMessageComesBehindWhatWaits) {
   EXPECT_EQ(procedure_.calls.back(), "256 5 6 7");
 }
 
+TEST_F(FakeHotKeysTest, ALongQueueIsDeliveredWithoutNesting) {
+  constexpr std::size_t kMany = 10'000;
+  hot_keys_.SetWindowLongPtrA(kMain, procedure_);
+  for (std::size_t i = 0; i < kMany; ++i) hot_keys_.PostMessageW(kMain, 5, 6, 7);
+
+  hot_keys_.DeliverQueued();
+
+  EXPECT_EQ(procedure_.calls.size(), kMany);
+}
+
 TEST_F(FakeHotKeysTest, AMessageTakenOutTellsWhatCameWithIt) {
   hot_keys_.PostMessageW(kMain, 5, 6, 7);
   hot_keys_.PostMessageW(kMain, 5, 8, 9);

@@ -32,6 +32,19 @@ TEST_F(WindowProcHookTest, HotKeysOverAnOpenMenuKeepTheirOrder) {
             (Calls{"process HOTKEY_PARENT3", "process HOTKEY_PARENT2", "process HOTKEY_PARENT5"}));
 }
 
+TEST_F(WindowProcHookTest, PressesOfThePopUpInARowOverAnOpenMenuAreOne) {
+  host.menuOpen = true;
+  for (const char key : {'W', 'W', 'O', 'O', 'W', 'W', 'W'}) {
+    hotKeys.PressWhileBusy(win32::kModWin, static_cast<std::uint32_t>(key));
+  }
+
+  hotKeys.DeliverQueued();
+
+  EXPECT_EQ(log.CallsOf("process"),
+            (Calls{"process HOTKEY_WINDOW_MENU_POPUP", "process HOTKEY_DISPLAY_OPTIONS",
+                   "process HOTKEY_DISPLAY_OPTIONS", "process HOTKEY_WINDOW_MENU_POPUP"}));
+}
+
 TEST_F(WindowProcHookTest, PassesOtherMessagesOnUnseen) {
   EXPECT_EQ(hook.HotKeyWindowProc(kMain, win32::kWmNull, 4, 5), 77);
 
