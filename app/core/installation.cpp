@@ -1,5 +1,6 @@
 #include "app/core/installation.h"
 
+#include "app/core/save_journal.h"
 #include "app/core/save_scope.h"
 #include "platform/win32_constants.h"
 #include "util/text.h"
@@ -136,6 +137,7 @@ InstallationSettings TakeOver(Settings& settings, const std::string& other) {
   const PointedAt removed(settings, other);
   settings.DeleteINI();
   settings.DeleteOptions();
+  for (const char* const journal : kJournalSections) save.DeleteSection(other, journal);
   save.Commit();
   return taken;
 }

@@ -16,7 +16,6 @@
 namespace korvale {
 namespace {
 
-constexpr const char* kJournalSections[] = {kJournalSection, kSecondJournalSection};
 constexpr const char* kCompleteMark = "Complete";
 /// Cannot occur in a folder name, so not in an application name; the key may hold anything.
 constexpr char kSeparator = '\\';

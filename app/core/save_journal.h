@@ -13,6 +13,7 @@ namespace korvale {
 inline constexpr const char* kJournalSection = "Saving";
 /// Takes the next save while the first section holds one that the store has refused.
 inline constexpr const char* kSecondJournalSection = "Saving2";
+inline constexpr const char* kJournalSections[] = {kJournalSection, kSecondJournalSection};
 
 /// Makes several changes as one: a program killed between any two writes leaves behind either none
 /// of them, or what FinishInterrupted needs to make the rest.

@@ -271,5 +271,21 @@ TEST_F(RenamedInstallationTest, SaveOfTheOtherInstallationIsFinishedBeforeItIsTa
   EXPECT_EQ(ValuesOf(store_, kOld), StoredValues());
 }
 
+TEST_F(RenamedInstallationTest, WhatTheStoreRefusedTheOtherInstallationIsTakenOverWithTheRest) {
+  for (const char* const journal : {"Saving", "Saving2"}) {
+    FakeSettingsStore store = store_;
+    store.RefuseValue(kOld, "ParentWindowList", "9");
+    store.SaveSetting(kOld, journal, "1\\S\\Korvale - Old\\ParentWindowList\\9", "&9  Late");
+    store.SaveSetting(kOld, journal, "Complete", "1");
+    messages_.answers = {kYes};
+    RunOn(store);
+    EXPECT_EQ(store.GetSetting(kWork, "ParentWindowList", "9"), "&9  Late");
+    EXPECT_EQ(ValuesOf(store, kOld), StoredValues());
+    store.RefuseNothing();
+    Settings(store, kOld).FinishInterruptedSave();
+    EXPECT_EQ(ValuesOf(store, kOld), StoredValues());
+  }
+}
+
 }  // namespace
 }  // namespace korvale
