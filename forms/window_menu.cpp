@@ -7,6 +7,7 @@
 #include "desktop/window_selection.h"
 #include "hotkeys/hot_key_names.h"
 #include "platform/win32_constants.h"
+#include "ui/menu_text.h"
 #include "util/text.h"
 
 namespace korvale {
@@ -19,15 +20,11 @@ constexpr int kPreviousWindow = 2;
 /// How much wider than the application name the pop-up's first Add entry is padded.
 constexpr int kPopUpPadding = 20;
 
-std::string DoubleAmpersands(const std::string& text) {
-  return ReplaceText(text, "&", "&&", false, true);
-}
-
 }  // namespace
 
 std::string ShortTitle(const std::string& title) {
   if (CharacterCount(title) <= kShortTitleLength) return title;
-  return LeftCharacters(title, kShortTitleLength - 3) + "...";
+  return LeftCharacters(title, kShortTitleLength - CharacterCount(kEllipsis)) + kEllipsis;
 }
 
 WindowMenu::WindowMenu(Desktop& desktop, Form& form, bool& alwaysOnTop,
@@ -52,7 +49,7 @@ void WindowMenu::mnuWindow_Click() {
   }
 
   const std::string title =
-      DoubleAmpersands(WithDirectionsEnded(OnOneLine(ShortTitle(desktop_->previous.current.text))));
+      LiteralMenuText(WithDirectionsEnded(ShortTitle(desktop_->previous.current.text)));
   form_->Menu("mnuWindowPreviousWindowAlwaysOnTop").caption = "[" + title + "]  Always On &Top";
   form_->Menu("mnuWindowAddToList", kPreviousWindow).caption =
       "Add  [" + title + "]  to &Window menu...";

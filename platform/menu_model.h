@@ -37,10 +37,6 @@ struct MenuItem {
   bool IsSeparator() const { return caption == "-"; }
 };
 
-/// The caption as Windows' menus take it: "&" marks the access key, "&&" stands for itself. Hosts
-/// show this text, never the caption itself.
-std::string MenuText(const MenuItem& item);
-
 /// A menu bar: the root has no caption, its items are the menus.
 class MenuBar {
  public:

@@ -22,7 +22,8 @@ class ScreenQueries {
   /// The dots per inch with which a form is shown: those of its window, more where the user has
   /// chosen bigger text (GetDpiForWindow).
   virtual int GetDpiForWindow(WindowHandle hwnd) = 0;
-  /// The width of a text in the menus of a form, in twips of the system's dots per inch.
+  /// The width of a text in the menus of a form, in twips of the system's dots per inch; 0 when
+  /// Windows cannot tell.
   virtual Twips GetTextExtentPoint32W(WindowHandle hwnd, const std::string& text) = 0;
   /// The colour that is shown on this screen, 0x00BBGGRR; colours other than system colours are
   /// returned unchanged (GetSysColor).

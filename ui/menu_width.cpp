@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "util/characters.h"
+#include "util/text.h"
 
 namespace korvale {
 namespace {
@@ -17,7 +18,8 @@ constexpr Twips kBesideText = 2400;
 std::string Fitting(ScreenQueries& screen, WindowHandle hwnd, const std::string& caption,
                     Twips room) {
   const auto fits = [&](const std::string& text) {
-    return screen.GetTextExtentPoint32W(hwnd, text) <= room;
+    const Twips width = screen.GetTextExtentPoint32W(hwnd, text);
+    return width <= room && (width > 0 || text.empty());
   };
   if (fits(caption)) return caption;
   std::size_t shortest = 0;
@@ -28,7 +30,7 @@ std::string Fitting(ScreenQueries& screen, WindowHandle hwnd, const std::string&
       if (characters-- == 0) break;
       text += character;
     }
-    return text + "...";
+    return text + kEllipsis;
   };
   while (tooLong - shortest > 1) {
     const std::size_t middle = (shortest + tooLong) / 2;

@@ -3,11 +3,10 @@
 #include <algorithm>
 
 #include "util/characters.h"
+#include "util/text.h"
 
 namespace korvale {
 namespace {
-
-constexpr std::string_view kEllipsis = "...";
 
 struct CodePointRange {
   char32_t first;

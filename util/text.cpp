@@ -41,6 +41,12 @@ bool OccursAt(const std::vector<std::string_view>& text, std::size_t position,
   return true;
 }
 
+/// Control characters, and the separators of lines and paragraphs.
+bool TearsLines(char32_t character) {
+  return character < 0x20 || (character >= 0x7F && character < 0xA0) || character == 0x2028 ||
+         character == 0x2029;
+}
+
 template <typename Integer>
 std::optional<Integer> ParseInteger(std::string_view text) {
   const std::string trimmed = Trim(text);
@@ -126,9 +132,12 @@ std::string PadText(std::string_view text, std::int16_t width, std::string_view 
 }
 
 std::string OnOneLine(std::string_view text) {
-  std::string line(text);
-  std::ranges::replace_if(
-      line, [](unsigned char byte) { return byte < 0x20 || byte == 0x7F; }, ' ');
+  std::string line;
+  line.reserve(text.size());
+  for (; !text.empty(); text.remove_prefix(FirstCharacter(text).bytes.size())) {
+    const Character character = FirstCharacter(text);
+    line += character.valid && TearsLines(character.codePoint) ? " " : character.bytes;
+  }
   return line;
 }
 

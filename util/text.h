@@ -36,8 +36,11 @@ bool EqualsIgnoreCase(std::string_view left, std::string_view right);
 /// and when the text is longer, it stays unchanged.
 std::string PadText(std::string_view text, std::int16_t width, std::string_view mode);
 
-/// The text as one line shows it: each control character is a blank, since tabs and line ends would
-/// tear a caption or a message apart.
+/// Stands for the rest of a text that is cut.
+inline constexpr const char* kEllipsis = "...";
+
+/// The text as one line shows it: each control character and each separator of lines is a blank,
+/// since tabs and line ends would tear a caption or a message apart.
 std::string OnOneLine(std::string_view text);
 
 /// The text with every change of the writing direction that it leaves open ended, so that what

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <deque>
 #include <functional>
+#include <limits>
 #include <map>
 #include <memory>
 #include <optional>
@@ -71,6 +72,8 @@ class HeadlessFormHost : public FormHost,
   /// The user makes all text so many percent of its usual size; tells every form. Frame and menus
   /// keep their size until SetFrame gives another.
   void ChangeTextSize(int percent);
+  /// Longer texts cannot be measured from now on.
+  void MeasureUpTo(std::int32_t characters) { measurable_ = characters; }
   /// The user changes a system colour; tells every form.
   void ChangeSysColor(Color system, Color shown);
   /// The user turns high contrast on or off; tells every form.
@@ -188,6 +191,7 @@ class HeadlessFormHost : public FormHost,
   TwipsRect workArea_ = {0, 0, 15360, 11100};
   int dpi_ = 96;
   int textPercent_ = 100;
+  std::int32_t measurable_ = std::numeric_limits<std::int32_t>::max();
   std::map<Color, Color> sysColors_ = {
       {kButtonFaceColor, 0xF0F0F0}, {kButtonTextColor, 0x000000}, {kWindowColor, 0xFFFFFF},
       {kWindowTextColor, 0x000000}, {kHighlightColor, 0xD77800},  {kHighlightTextColor, 0xFFFFFF}};

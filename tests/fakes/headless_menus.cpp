@@ -3,6 +3,7 @@
 #include "platform/win32_constants.h"
 #include "tests/fakes/headless_user.h"
 #include "ui/access_key.h"
+#include "ui/menu_text.h"
 #include "util/characters.h"
 
 namespace korvale {

@@ -81,7 +81,8 @@ TwipsRect HeadlessFormHost::AdjustWindowRectEx(const FormState& form) {
 
 Twips HeadlessFormHost::GetTextExtentPoint32W(WindowHandle hwnd, const std::string& text) {
   Window(hwnd);
-  return textPercent_ * CharacterCount(text);
+  const std::int32_t characters = CharacterCount(text);
+  return characters > measurable_ ? 0 : textPercent_ * characters;
 }
 
 TwipsRect HeadlessFormHost::GetMonitorInfoW(WindowHandle /*hwnd*/) { return workArea_; }

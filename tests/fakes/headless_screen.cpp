@@ -6,6 +6,7 @@
 #include <cstddef>
 
 #include "ui/access_key.h"
+#include "ui/menu_text.h"
 
 namespace korvale {
 namespace {

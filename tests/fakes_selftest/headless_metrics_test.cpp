@@ -33,6 +33,13 @@ TEST_F(HeadlessMetricsTest, BiggerTextMakesTwipsOfAFormLargerAndItsFrameNot) {
   EXPECT_EQ(host_.GetTextExtentPoint32W(strip_.Handle(), "menu"), 800);
 }
 
+TEST_F(HeadlessMetricsTest, ATextThatIsTooLongHasNoWidth) {
+  strip_.Show();
+  host_.MeasureUpTo(4);
+  EXPECT_EQ(host_.GetTextExtentPoint32W(strip_.Handle(), "menu"), 400);
+  EXPECT_EQ(host_.GetTextExtentPoint32W(strip_.Handle(), "menus"), 0);
+}
+
 TEST_F(HeadlessMetricsTest, OnAFineScreenBiggerTextCountsFromItsDots) {
   host_.SetDpi(144);
   strip_.Show();

@@ -9,6 +9,7 @@
 #include "platform/form_model.h"
 #include "platform/run_time_error.h"
 #include "tests/fakes/error_of.h"
+#include "ui/menu_text.h"
 
 namespace korvale {
 namespace {

@@ -236,6 +236,7 @@ TEST(ParseBooleanTest, RefusesEverythingElse) {
 TEST(OnOneLineTest, ReplacesEachControlCharacterByABlankAndNothingElse) {
   EXPECT_EQ(OnOneLine("a\tb\r\nc\x1f\x7f d"), "a b  c   d");
   EXPECT_EQ(OnOneLine(std::string("\0x", 2)), " x");
+  EXPECT_EQ(OnOneLine("a\u0080b\u0085c\u009fd\u2028e\u2029f"), "a b c d e f");
   EXPECT_EQ(OnOneLine("Ж 日 😀 \u00a0\u200f\xff"), "Ж 日 😀 \u00a0\u200f\xff");
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "platform/windows/text.h"
+#include "ui/menu_text.h"
 
 namespace korvale {
 namespace {
