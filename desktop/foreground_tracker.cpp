@@ -280,8 +280,7 @@ void ForegroundTracker::ShowRecord() {
   const bool valid = current.handle != 0;
   mainWindow_->EnablePreviousWindowItems(valid);
   const bool untitled = valid && current.text.empty();
-  mainWindow_->ShowTargetWindow(untitled ? "(window without a title)" : current.text,
-                                current.className);
+  mainWindow_->ShowTargetWindow(untitled ? kUntitled : current.text, current.className);
 }
 
 void ForegroundTracker::udmRefreshAlwaysOnTopMenuChecked() {

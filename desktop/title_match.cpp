@@ -1,6 +1,7 @@
 #include "desktop/title_match.h"
 
 #include "app/core/stored_tags.h"
+#include "util/text.h"
 
 namespace korvale {
 namespace {
@@ -8,6 +9,8 @@ namespace {
 constexpr std::string_view kSeparator = " - ";
 
 bool Matches(std::string_view text, std::string_view title) {
+  // A whole title may look like a mark; kept as a caption, it has lost the blanks at its ends.
+  if (text == title || text == Trim(title)) return true;
   if (text.ends_with(kLeftPartMark)) {
     text.remove_suffix(kLeftPartMark.size());
     return LeftTitlePart(title) == text;

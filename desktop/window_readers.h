@@ -11,6 +11,9 @@ namespace korvale {
 /// No program has a longer chain of owners.
 inline constexpr int kMostOwners = 16;
 
+/// Stands where a title is shown that is empty.
+inline constexpr const char* kUntitled = "(window without a title)";
+
 /// The whole title of a window, read now (GetWindowTextLengthA, GetWindowTextA); "" when the window
 /// is gone or untitled. A title that grew between the two calls is read again, never cut.
 std::string GetWindowTitle(WindowQueries& windows, WindowHandle hwnd);

@@ -36,13 +36,13 @@ std::int32_t ShownLength(std::string_view text) {
   return shown;
 }
 
+}  // namespace
+
 std::string NameInMessage(const std::string& text) {
   const std::string beginning = LeftCharacters(text, ShownLength(text));
   const std::string name = WithDirectionsEnded(OnOneLine(beginning));
-  return beginning == text ? name : name + "...";
+  return beginning == text ? name : name + kEllipsis;
 }
-
-}  // namespace
 
 std::string InBrackets(const std::string& text) { return "Window:  [" + NameInMessage(text) + "]"; }
 

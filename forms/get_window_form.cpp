@@ -96,7 +96,7 @@ void frmGetWindow::FillTags() {
   context_.tags.mnuWindowParentList.ForEach([&](const MenuItem& entry) {
     if (!IsTag(entry.index)) return;
     std::string text = OnOneLine(IdentificationText(entry));
-    if (text.empty()) text = "(window without a title)";
+    if (Trim(text).empty()) text = kUntitled;
     tags.SetItemText(entry.index - 1, ListText(entry.index, text));
   });
 }

@@ -6,6 +6,7 @@
 #include "desktop/foreground_return.h"
 #include "desktop/user_desktop.h"
 #include "desktop/window_readers.h"
+#include "desktop/window_selection.h"
 #include "desktop/window_visibility.h"
 #include "hotkeys/hot_key_names.h"
 #include "platform/run_time_error.h"
@@ -106,7 +107,7 @@ bool HotKeyDispatch::IdentifyForeground(WindowTriple& chosen) {
 
 void HotKeyDispatch::ShowNotRecognized(const std::string& title) {
   desktop_->messages.ShowMessageBox(
-      "Korvale does not recognize the Window: [" + title +
+      "Korvale does not recognize the Window: [" + NameInMessage(title) +
           "].  Try changing options under 'Window Identification' on the General tab of the "
           "Options dialog box.",
       win32::kMbSetForeground, kProductName);

@@ -41,8 +41,15 @@ class RandomTitles {
   std::mt19937 dice_{1};
 };
 
+std::string WithoutBlanksAtItsEnds(std::string text) {
+  while (text.starts_with(' ')) text.erase(0, 1);
+  while (text.ends_with(' ')) text.pop_back();
+  return text;
+}
+
 /// The rule as it reads, on the text of a caption without blanks at its ends.
 bool Identifies(const std::string& text, const std::string& title) {
+  if (text == title || text == WithoutBlanksAtItsEnds(title)) return true;
   const std::string separator = " - ";
   if (text.size() >= 6 && text.substr(text.size() - 6) == " - ***") {
     return title.substr(0, title.find(separator)) == text.substr(0, text.size() - 6);
@@ -52,12 +59,6 @@ bool Identifies(const std::string& text, const std::string& title) {
     return (last == std::string::npos ? title : title.substr(last + 3)) == text.substr(6);
   }
   return title.find(text) != std::string::npos;
-}
-
-std::string WithoutBlanksAtItsEnds(std::string text) {
-  while (text.starts_with(' ')) text.erase(0, 1);
-  while (text.ends_with(' ')) text.pop_back();
-  return text;
 }
 
 bool IsWhole(std::string_view text) {
@@ -75,6 +76,15 @@ TEST(TitleFuzz, AnyTextIsMatchedByTheRuleWithAndWithoutItsPrefix) {
     EXPECT_EQ(TitleMatches(TagCaption(7, text), title, true),
               Identifies(WithoutBlanksAtItsEnds(text), title))
         << text << "|" << title;
+  }
+}
+
+TEST(TitleFuzz, AnyTitleFindsItself) {
+  RandomTitles titles;
+  for (int round = 0; round < kRounds; ++round) {
+    const std::string title = titles.Next();
+    EXPECT_TRUE(TitleMatches(TagCaption(1, title), title, true)) << title;
+    EXPECT_TRUE(TitleMatches(WithoutTagPrefix(TagCaption(1, title)), title, false)) << title;
   }
 }
 

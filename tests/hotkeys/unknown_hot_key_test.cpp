@@ -117,6 +117,20 @@ TEST_F(UnknownHotKeyTest, TellsThatAnExcludedWindowIsNotRecognized) {
   EXPECT_EQ(previous.current.handle, target);
 }
 
+TEST_F(UnknownHotKeyTest, NamesAnExcludedWindowAsOtherMessagesDo) {
+  desktop.UserActivates(
+      Open("\u202ePal\nette " + std::string(101, 'x'), "Tool", "tool", win32::kWsExToolWindow));
+
+  Press("NO_HOT_KEY");
+
+  ASSERT_EQ(messages.shown.size(), 1U);
+  EXPECT_EQ(
+      messages.shown.front().prompt,
+      "Korvale does not recognize the Window: [\u202ePal ette " + std::string(100, 'x') +
+          "\u202c...].  Try changing options under 'Window Identification' on the General tab "
+          "of the Options dialog box.");
+}
+
 TEST_F(UnknownHotKeyTest, RecognizesAnExcludedWindowThatTheUserTagged) {
   const WindowHandle tool = OpenToolWindow();
   AddTag(5, "Palette", tool);

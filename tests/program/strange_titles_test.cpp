@@ -49,6 +49,9 @@ const StrangeTitle kStrangeTitles[] = {
     {"OnlyTheLeftMark", " - ***", "1   - ***", true, false},
     {"OnlyStars", "***", "1  ***"},
     {"BothMarks", "*** - ***", "1  *** - ***"},
+    {"RightMarkAndTwoParts", "*** - a - b", "1  *** - a - b"},
+    {"TwoPartsAndLeftMark", "a - b - ***", "1  a - b - ***", true, false},
+    {"RightMarkBehindBlanks", "  *** - a - b", "1    *** - a - b", false, true},
     {"NothingLeft", " - Editor", "1   - Editor", false, true},
     {"NothingRight", "Editor - ", "1  Editor - ", true, false},
     {"BlanksAtItsEnds", "  a - b  ", "1    a - b  ", false, false},
@@ -110,6 +113,25 @@ class StrangeTitles : public KorvaleWorld,
     }
   }
 
+  /// The user opens the dialog for another Tag, and then looks at the first.
+  void ExpectDialogToShowItTaken(KorvaleCopy& korvale) {
+    korvale.host.WhenModal("frmGetWindow", [&](class Form& dialog) {
+      const int tags = korvale.Id(dialog, "cboWindow");
+      EXPECT_EQ(dialog.Find("cboWindow").SelectedText(), "2");
+      const std::string item = korvale.user.ListEntries(dialog.Handle(), tags).front();
+      EXPECT_TRUE(item.starts_with("1  "));
+      EXPECT_TRUE(IsOneLine(item, IsUtf8(Case().title)));
+      EXPECT_NE(item.find_first_not_of(' ', 1), std::string::npos);
+      korvale.user.Pick(dialog.Handle(), tags, 0);
+      const std::string shown = dialog.Find("lblWindow").Text();
+      EXPECT_NE(shown, "Available");
+      EXPECT_NE(shown.find_first_not_of(' '), std::string::npos);
+      EXPECT_TRUE(dialog.Find("cmdRemove").Enabled());
+      korvale.user.Click(dialog.Handle(), korvale.Id(dialog, "cmdClose"));
+    });
+    korvale.ChooseLate("mnuWindowAddToList", 1);
+  }
+
   void ExpectKeyToLeadToIt() {
     WorkIn(desktop.FindWindowA("Beta"));
     PressTag(1);
@@ -130,6 +152,7 @@ TEST_P(StrangeTitles, AreTaggedFoundAgainAndToldOf) {
   Tag(korvale);
   if (!Offered()) return;
   ExpectMenuToShowIt(korvale);
+  ExpectDialogToShowItTaken(korvale);
   ExpectKeyToLeadToIt();
   korvale.Exit();
   EndCopy(korvale);
@@ -247,33 +270,6 @@ TEST_F(ThousandWindows, OfOneTitleAloneTheLowestIsFoundWithoutAskingEachForEver)
   PressTag(9);
   EXPECT_EQ(desktop.GetForegroundWindow(), windows_.front());
   EXPECT_LT(log.Calls().size(), kQuestions * kWindows);
-}
-
-using LongClasses = KorvaleWorld;
-
-TEST_F(LongClasses, OfAnyWritingIdentifyTheirWindowAfterARestart) {
-  for (const std::string& name : {Times(255, "c"), Times(256, "c"), Times(128, "Ж"),
-                                  Times(256, "メ"), "c" + Times(100, "🦊")}) {
-    store = FakeSettingsStore(log);
-    const WindowHandle window = Open("Alpha", {.className = name});
-    KorvaleCopy& korvale = StartedAfter(window);
-    EXPECT_TRUE(name.starts_with(korvale.TargetClass()));
-    EXPECT_GT(korvale.TargetClass().size(), 250U);
-    EXPECT_TRUE(IsUtf8(korvale.TargetClass()));
-    korvale.TagPrevious();
-    korvale.Exit();
-    EndCopy(korvale);
-    KorvaleCopy& next = StartedCopy();
-    const WindowHandle lower = Open("Alpha", {.className = "Other", .activate = false});
-    WorkIn(Open("Beta"));
-    PressTag(1);
-    EXPECT_EQ(desktop.GetForegroundWindow(), window);
-    next.Exit();
-    EndCopy(next);
-    for (const WindowHandle hwnd : {window, lower, desktop.FindWindowA("Beta")}) {
-      desktop.Close(hwnd);
-    }
-  }
 }
 
 }  // namespace
