@@ -71,11 +71,15 @@ void OtherCopy::BringForward(Desktop& desktop, WindowHandle copy) {
   if (!windows.IsWindowVisible(copy) || !windows.IsWindowEnabled(copy)) {
     // The other copy is showing something that must be answered first, on whatever desktop.
     const WindowHandle waiting = FindWaitingWindow(windows, copy);
-    if (waiting != 0) desktop.requests.SetForegroundWindow(waiting);
+    const bool denied =
+        waiting != 0 && desktop.requests.SetForegroundWindow(waiting) == RequestResult::kDenied;
+    if (denied) desktop.actions.ReportFailure();
     return;
   }
   WindowTriple window{copy, GetWindowTitle(windows, copy), GetWindowClass(windows, copy)};
-  desktop.actions.ActivateWindow(window, false, true);
+  if (desktop.actions.ActivateWindow(window, false, true) == kWindowDenied) {
+    desktop.actions.ReportFailure();
+  }
 }
 
 }  // namespace korvale

@@ -92,6 +92,9 @@ class SystemApi {
   /// Opens or creates the named mutex of this session without waiting for it (CreateMutexA); null
   /// when the system refused.
   virtual std::unique_ptr<SystemMutex> CreateMutexA(const std::string& name) = 0;
+  /// Opens the named mutex only to wait for it, which is allowed also when a program with more
+  /// rights has made it (OpenMutexA, SYNCHRONIZE); null when there is none or the system refused.
+  virtual std::unique_ptr<SystemMutex> OpenMutexA(const std::string& name) = 0;
 };
 
 }  // namespace korvale

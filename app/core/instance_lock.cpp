@@ -34,7 +34,10 @@ std::vector<std::string> InstanceLockNames(const FolderIdentity& folder) {
 
 InstanceLock::InstanceLock(SystemApi& system, const FolderIdentity& folder) {
   for (const std::string& name : InstanceLockNames(folder)) {
-    if (auto mutex = system.CreateMutexA(name)) wanted_.push_back(std::move(mutex));
+    auto mutex = system.CreateMutexA(name);
+    // Refused also when a copy that runs as administrator has made it.
+    if (mutex == nullptr) mutex = system.OpenMutexA(name);
+    if (mutex != nullptr) wanted_.push_back(std::move(mutex));
   }
 }
 

@@ -216,4 +216,10 @@ std::unique_ptr<SystemMutex> WindowsSystemApi::CreateMutexA(const std::string& n
   return std::make_unique<WindowsMutex>(std::move(handle));
 }
 
+std::unique_ptr<SystemMutex> WindowsSystemApi::OpenMutexA(const std::string& name) {
+  UniqueKernelHandle handle(::OpenMutexW(SYNCHRONIZE, FALSE, ToUtf16(name).c_str()));
+  if (!handle) return nullptr;
+  return std::make_unique<WindowsMutex>(std::move(handle));
+}
+
 }  // namespace korvale

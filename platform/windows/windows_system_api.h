@@ -24,6 +24,7 @@ class WindowsSystemApi final : public SystemApi {
   std::string SHGetKnownFolderPath() override;
   FolderInfo GetFinalPathNameByHandleW(const std::string& folder) override;
   std::unique_ptr<SystemMutex> CreateMutexA(const std::string& name) override;
+  std::unique_ptr<SystemMutex> OpenMutexA(const std::string& name) override;
 };
 
 }  // namespace korvale

@@ -92,6 +92,7 @@ void FakeSession::LetGo(const std::string& name, int program) {
 
 void FakeSession::LetGoOfAll(int program) {
   std::erase_if(holders_, [&](const auto& entry) { return entry.second.program == program; });
+  std::erase_if(elevated_, [&](const auto& entry) { return entry.second == program; });
 }
 
 FakeSystem::FakeSystem(CallLog& log, std::shared_ptr<FakeSession> session)
@@ -223,7 +224,14 @@ std::uint32_t FakeSystem::Reach(const std::string& path) const {
 
 std::unique_ptr<SystemMutex> FakeSystem::CreateMutexA(const std::string& name) {
   log_.AddRead("CreateMutexA(" + name + ")");
-  if (refuseMutexes) return nullptr;
+  if (refuseMutexes || (!elevated && session_->elevated_.contains(name))) return nullptr;
+  if (elevated) session_->elevated_.try_emplace(name, program_);
+  return std::make_unique<FakeMutex>(session_, name, program_);
+}
+
+std::unique_ptr<SystemMutex> FakeSystem::OpenMutexA(const std::string& name) {
+  log_.AddRead("OpenMutexA(" + name + ")");
+  if (refuseMutexes || !session_->Exists(name)) return nullptr;
   return std::make_unique<FakeMutex>(session_, name, program_);
 }
 

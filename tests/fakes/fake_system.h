@@ -42,8 +42,12 @@ class FakeSession {
   bool Wait(const std::string& name, int program);
   void LetGo(const std::string& name, int program);
   void LetGoOfAll(int program);
+  bool Exists(const std::string& name) const {
+    return holders_.contains(name) || elevated_.contains(name);
+  }
 
   std::map<std::string, Holder> holders_;
+  std::map<std::string, int> elevated_;  // Mutexes of programs with more rights.
   std::function<void()> when_waiting_;
   int last_program_ = 0;
 };
@@ -78,6 +82,7 @@ class FakeSystem : public SystemApi, public CrashApi {
   std::string SHGetKnownFolderPath() override;
   FolderInfo GetFinalPathNameByHandleW(const std::string& folder) override;
   std::unique_ptr<SystemMutex> CreateMutexA(const std::string& name) override;
+  std::unique_ptr<SystemMutex> OpenMutexA(const std::string& name) override;
 
   // CrashApi
   void SetUnhandledExceptionFilter(std::function<void(const Crash&)> filter) override {
@@ -107,6 +112,8 @@ class FakeSystem : public SystemApi, public CrashApi {
   /// Drives, computers and shares that cannot be reached, and the error when trying.
   std::map<std::string, std::uint32_t> unreachable;
   bool refuseMutexes = false;
+  /// The program runs as administrator: others may wait for its mutexes, but not change them.
+  bool elevated = false;
   /// Called for a crash of the program; empty when there is none.
   std::function<void(const Crash&)> crashFilter;
 

@@ -170,6 +170,24 @@ TEST_F(FakeSystemTest, MutexesCanBeRefused) {
   system_.refuseMutexes = true;
 
   EXPECT_EQ(system_.CreateMutexA("Korvale"), nullptr);
+  EXPECT_EQ(system_.OpenMutexA("Korvale"), nullptr);
+}
+
+TEST_F(FakeSystemTest, TheMutexOfAnElevatedProgramIsOnlyWaitedFor) {
+  FakeSystem admin(log_, session_);
+  admin.elevated = true;
+  EXPECT_EQ(system_.OpenMutexA("Korvale"), nullptr);
+  const std::unique_ptr<SystemMutex> theirs = admin.CreateMutexA("Korvale");
+  theirs->WaitForSingleObject(0);
+
+  EXPECT_EQ(system_.CreateMutexA("Korvale"), nullptr);
+  const std::unique_ptr<SystemMutex> mine = system_.OpenMutexA("Korvale");
+  ASSERT_NE(mine, nullptr);
+  EXPECT_FALSE(mine->WaitForSingleObject(0));
+
+  admin.Die();
+
+  EXPECT_TRUE(mine->WaitForSingleObject(0));
 }
 
 }  // namespace

@@ -32,6 +32,66 @@ TEST_F(SecondStartTest, AHolderOfTheLockWithoutAWindowIsToldAtOnce) {
   EXPECT_LE(waits, 6);
 }
 
+/// Runs as administrator.
+KorvaleCopy& Elevate(FakeDesktop& desktop, KorvaleCopy& copy) {
+  copy.system.elevated = true;
+  EXPECT_TRUE(copy.Start());
+  desktop.Windows().Find(copy.Handle())->elevated = true;
+  return copy;
+}
+
+TEST_F(SecondStartTest, ACopyThatRunsAsAdministratorComesForwardToo) {
+  KorvaleCopy& first = Elevate(desktop, UsedCopy());
+  WorkIn(Open("Alpha"));
+  KorvaleCopy& second = NewCopy();
+  second.ExpectBox("'Korvale - Work' is already open.", win32::kIdOk);
+
+  EXPECT_FALSE(second.Start());
+
+  EXPECT_EQ(second.host.Messages().size(), 1U);
+  EXPECT_EQ(desktop.GetForegroundWindow(), first.Handle());
+}
+
+TEST_F(SecondStartTest, AnElevatedCopyThatCannotComeForwardIsTold) {
+  KorvaleCopy& first = Elevate(desktop, UsedCopy());
+  desktop.UserMinimizes(first.Handle());
+  WorkIn(Open("Alpha"));
+  KorvaleCopy& second = NewCopy();
+  second.ExpectBox("'Korvale - Work' is already open.", win32::kIdOk);
+  second.ExpectBox("The window operation was not successful.  Please try again.", win32::kIdOk);
+
+  EXPECT_FALSE(second.Start());
+
+  EXPECT_EQ(second.host.Messages().size(), 2U);
+  EXPECT_EQ(desktop.ForegroundTitle(), "Alpha");
+}
+
+TEST_F(SecondStartTest, AnElevatedCopyThatIsJustStartingIsNotMissed) {
+  FakeSystem admin(log, session);
+  KorvaleCopy& second = UsedCopy();
+  admin.files = second.system.files;
+  admin.elevated = true;
+  InstanceLock lock = LockOfWork(admin);
+  ASSERT_TRUE(lock.TryHold(0));
+  second.ExpectBox("'Korvale - Work' is already open.", win32::kIdOk);
+
+  EXPECT_FALSE(second.Start());
+}
+
+TEST_F(SecondStartTest, ARefusedForegroundIsTold) {
+  StartedCopy();
+  WorkIn(Open("Alpha"));
+  desktop.LockForeground(ForegroundLock::kForGood);
+  KorvaleCopy& second = NewCopy();
+  second.ExpectBox("'Korvale - Work' is already open.", win32::kIdOk);
+  second.ExpectBox("The window operation was not successful.  Please try again.", win32::kIdOk);
+
+  EXPECT_FALSE(second.Start());
+
+  EXPECT_EQ(second.host.Messages().size(), 2U);
+  EXPECT_EQ(desktop.ForegroundTitle(), "Alpha");
+}
+
 TEST_F(SecondStartTest, ACopyThatIsEndingIsWaitedFor) {
   KorvaleCopy& second = UsedCopy();
   auto ending = std::make_unique<FakeSystem>(log, session);

@@ -40,6 +40,7 @@ class SystemOfTest : public SystemApi {
   std::string SHGetKnownFolderPath() override { return ""; }
   FolderInfo GetFinalPathNameByHandleW(const std::string& /*folder*/) override { return {}; }
   std::unique_ptr<SystemMutex> CreateMutexA(const std::string& /*name*/) override { return {}; }
+  std::unique_ptr<SystemMutex> OpenMutexA(const std::string& /*name*/) override { return {}; }
 
   OsVersion version_;
   std::uint32_t structure_size_ = 0;

@@ -144,6 +144,18 @@ TEST(WindowsSystemApi, LetsOneHolderHaveAMutex) {
   EXPECT_TRUE(taken);
 }
 
+TEST(WindowsSystemApi, OpensAMutexThatIsThere) {
+  WindowsSystemApi system;
+  EXPECT_EQ(system.OpenMutexA("Korvale contract Щ"), nullptr);
+  const auto first = system.CreateMutexA("Korvale contract Щ");
+  ASSERT_TRUE(first->WaitForSingleObject(0));
+  bool taken = true;
+  std::thread([&] {
+    taken = system.OpenMutexA("Korvale contract Щ")->WaitForSingleObject(0);
+  }).join();
+  EXPECT_FALSE(taken);
+}
+
 TEST(WindowsSystemApi, TakesAMutexWhoseHolderDied) {
   const HANDLE left = CreateMutexW(nullptr, FALSE, L"Korvale contract dead");
   std::thread([left] { WaitForSingleObject(left, 0); }).join();
