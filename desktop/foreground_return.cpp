@@ -13,17 +13,17 @@ bool IsOwnForm(const LoadedForms& forms, WindowHandle hwnd) {
                              [&](const LoadedForm& form) { return form.handle == hwnd; });
 }
 
-bool ReturnForegroundTo(WindowQueries& windows, WindowRequests& requests,
-                        const KnownWindow& window) {
+RequestResult ReturnForegroundTo(WindowQueries& windows, WindowRequests& requests,
+                                 const KnownWindow& window) {
   const WindowHandle hwnd = window.handle;
   const bool canBeInFront = StillExists(windows, window) && IsShownHere(windows, hwnd) &&
                             windows.IsWindowEnabled(hwnd) && !windows.IsIconic(hwnd);
-  if (canBeInFront) requests.SetForegroundWindow(hwnd);
-  return canBeInFront;
+  return canBeInFront ? requests.SetForegroundWindow(hwnd) : RequestResult::kFailed;
 }
 
 void ReturnUserTo(Desktop& desktop, const KnownWindow& before) {
-  if (ReturnForegroundTo(desktop.windows, desktop.requests, before)) return;
+  const RequestResult back = ReturnForegroundTo(desktop.windows, desktop.requests, before);
+  if (back != RequestResult::kFailed) return;
   const WindowHandle now = desktop.windows.GetForegroundWindow();
   const bool inMain = desktop.mainWindow.FocusTag() == kGotFocus;
   if (inMain || (now != 0 && !IsOwnForm(desktop.forms, now))) return;

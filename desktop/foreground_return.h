@@ -14,10 +14,9 @@ struct Desktop;
 bool IsOwnForm(const LoadedForms& forms, WindowHandle hwnd);
 
 /// Puts the window in front (SetForegroundWindow) when it still can be: it lives, is shown on the
-/// virtual desktop where the user is, enabled and not minimized. Does nothing and returns false
-/// otherwise.
-bool ReturnForegroundTo(WindowQueries& windows, WindowRequests& requests,
-                        const KnownWindow& window);
+/// virtual desktop where the user is, enabled and not minimized. Does nothing and fails otherwise.
+RequestResult ReturnForegroundTo(WindowQueries& windows, WindowRequests& requests,
+                                 const KnownWindow& window);
 
 /// Puts `before`, where the user was before a window of ours came up, in front again. When it
 /// cannot be, as Start once it has lost the front, it is the window last worked in, unless that is

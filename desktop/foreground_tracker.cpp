@@ -192,8 +192,7 @@ void ForegroundTracker::PopUpClosed() {
 
 /// True also when another window has got the handle.
 bool ForegroundTracker::IsGone(const WindowTriple& window) {
-  return window.handle != 0 && (!windows_->IsWindow(window.handle) ||
-                                GetWindowClass(*windows_, window.handle) != window.className);
+  return window.handle != 0 && !StillExists(*windows_, {window.handle, window.className});
 }
 
 /// A window of it has gone, or Windows has taken it off the screen or put it there: the user closed

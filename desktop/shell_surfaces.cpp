@@ -32,6 +32,8 @@ constexpr std::string_view kOtherSurfaces[] = {
     "TaskSwitcherWnd",
     "#32771",
     "ForegroundStaging",
+    // Stands in for a window that hangs and that Windows hides meanwhile.
+    "Ghost",
 };
 
 }  // namespace

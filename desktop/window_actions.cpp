@@ -7,7 +7,6 @@
 #include "desktop/timer_pause.h"
 #include "desktop/title_match.h"
 #include "desktop/waiting_window.h"
-#include "desktop/window_readers.h"
 #include "desktop/window_visibility.h"
 #include "platform/win32_constants.h"
 
@@ -54,6 +53,10 @@ void WindowActions::ReportFailure() {
                             win32::kMbSetForeground, kProductName);
 }
 
+void WindowActions::ReportFailureOf(WindowTriple& window) {
+  if (ActivateWindow(window, true, false) == kActivationDone) ReportFailure();
+}
+
 ActivationResult WindowActions::ActivatePreviousWindow(WindowTriple& window) {
   const ActivationResult result = ActivateWindow(window, false, true);
   const WindowHandle dialog =
@@ -79,9 +82,14 @@ ActivationResult WindowActions::TryActivation(WindowTriple& window, bool act) {
   if (GetWindowClass(*windows_, hwnd) != window.className) return kActivationFailed;
   const ActivationResult restored = act ? RestoreIconicOwner(hwnd) : kActivationDone;
   if (restored != kActivationDone) return restored;
-  if (!filter_->IsShown(hwnd)) return kWindowNotOpen;
+  if (!filter_->IsShown(hwnd)) {
+    // Windows hides a window that hangs behind the ghost that stands in for it.
+    return windows_->IsHungAppWindow(hwnd) ? kWindowNotAnswering : kWindowNotOpen;
+  }
   // Read once: some titles are another one at each reading.
   const std::string title = GetWindowTitle(*windows_, hwnd);
+  // One that has just gone keeps its title for the messages about it.
+  if (title.empty() && !windows_->IsWindow(hwnd)) return kWindowNotOpen;
   RefreshRecordedTitle(window, title);
   if (!TitleMatches(window.text, title, false)) {
     window.handle = 0;
@@ -115,10 +123,15 @@ void WindowActions::RefreshRecordedTitle(WindowTriple& window, const std::string
 }
 
 ActivationResult WindowActions::BringForward(WindowHandle hwnd) {
-  const WindowHandle before = previous_->InFront(*windows_);
+  const KnownWindow before = Know(*windows_, previous_->InFront(*windows_));
+  if (windows_->IsIconic(hwnd)) {
+    // Learnt only once it is in front, a denial would have taken the user from where they are.
+    const RequestResult allowed = requests_->ChangeNothing(hwnd);
+    if (allowed != RequestResult::kDone) return ResultOf(allowed);
+  }
   // What is in front now may be on its way to the back, when another selection came just before,
   // or not on the screen, when the user has just left its virtual desktop.
-  if (before != hwnd || previous_->menuSelection || IsCloaked(*windows_, hwnd)) {
+  if (before.handle != hwnd || previous_->menuSelection || IsCloaked(*windows_, hwnd)) {
     const RequestResult inFront = requests_->SetForegroundWindow(hwnd);
     if (inFront != RequestResult::kDone) return ResultOf(inFront);
   }
@@ -126,14 +139,19 @@ ActivationResult WindowActions::BringForward(WindowHandle hwnd) {
 }
 
 /// Restores a window for which `before` has left the foreground.
-ActivationResult WindowActions::Unfold(WindowHandle hwnd, WindowHandle before) {
+ActivationResult WindowActions::Unfold(WindowHandle hwnd, const KnownWindow& before) {
   const RequestResult restored = requests_->Show(hwnd, win32::kSwRestore);
-  if (restored == RequestResult::kDenied) {
-    if (before != hwnd) ReturnForegroundTo(*windows_, *requests_, Know(*windows_, before));
-    return kWindowDenied;
-  }
-  requests_->Await(hwnd, [&] { return !windows_->IsIconic(hwnd); });
-  return ResultOf(restored);
+  if (restored != RequestResult::kDenied && !StaysMinimized(hwnd)) return ResultOf(restored);
+  if (before.handle != hwnd) ReturnForegroundTo(*windows_, *requests_, before);
+  return kWindowDenied;
+}
+
+/// Waits until a window is restored. True when it is not, although its thread takes messages: its
+/// program does not let it, or Windows has denied it without a word.
+bool WindowActions::StaysMinimized(WindowHandle hwnd) {
+  const auto restored = [&] { return !windows_->IsIconic(hwnd); };
+  return !requests_->AwaitOneOfMany(hwnd, restored) && requests_->AwaitAnswer(hwnd) &&
+         !requests_->Await(hwnd, restored);
 }
 
 WindowTriple WindowActions::MinimizeOrMaximizeForeground(std::string_view hotKeyName) {

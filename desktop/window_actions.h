@@ -7,6 +7,7 @@
 #include "desktop/desktop_parts.h"
 #include "desktop/window_enumeration.h"
 #include "desktop/window_filter.h"
+#include "desktop/window_readers.h"
 #include "desktop/window_requests.h"
 #include "platform/types.h"
 
@@ -46,6 +47,9 @@ class WindowActions {
 
   /// Tells the user that an operation was not carried out.
   void ReportFailure();
+  /// The same after an activation that failed: validates the window once more, and tells in any
+  /// case.
+  void ReportFailureOf(WindowTriple& window);
 
   /// Minimizes every window of the desktop that can be minimized, with the timers stopped. When
   /// Windows denies one, the user is told once, after all others.
@@ -59,7 +63,8 @@ class WindowActions {
   ActivationResult RestoreIconicOwner(WindowHandle hwnd);
   void RefreshRecordedTitle(WindowTriple& window, const std::string& title);
   ActivationResult BringForward(WindowHandle hwnd);
-  ActivationResult Unfold(WindowHandle hwnd, WindowHandle before);
+  ActivationResult Unfold(WindowHandle hwnd, const KnownWindow& before);
+  bool StaysMinimized(WindowHandle hwnd);
   bool ChangeAll(EnumerationMode mode);
   WindowTriple MinimizeForeground(WindowHandle hwnd);
   void MaximizeOrRestoreForeground(WindowHandle hwnd);

@@ -27,7 +27,10 @@ struct KnownWindow {
   std::string className;
 };
 
+/// The window that has this handle now (GetClassNameA); without a class when there is none.
 KnownWindow Know(WindowQueries& windows, WindowHandle hwnd);
+/// False when the window is gone, also when another one of another class has got its handle
+/// (IsWindow, GetClassNameA).
 bool StillExists(WindowQueries& windows, const KnownWindow& window);
 
 /// `which` 1: the first child window; 2: the owner if it has a minimize box; 0 when there is none,

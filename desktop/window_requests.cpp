@@ -31,6 +31,14 @@ RequestResult WindowRequests::Show(WindowHandle hwnd, int command) {
   return wasVisible ? RequestResult::kDone : RequestResult::kFailed;
 }
 
+RequestResult WindowRequests::ChangeNothing(WindowHandle hwnd) {
+  if (IsOurs(hwnd)) return RequestResult::kDone;
+  constexpr std::uint32_t kNothing = win32::kSwpNoSize | win32::kSwpNoMove | win32::kSwpNoZOrder |
+                                     win32::kSwpNoActivate | win32::kSwpAsyncWindowPos;
+  const bool allowed = commands_->SetWindowPos(hwnd, win32::kHwndTop, 0, 0, 0, 0, kNothing);
+  return allowed ? RequestResult::kDone : Refused(hwnd);
+}
+
 RequestResult WindowRequests::SetTopmost(WindowHandle hwnd, bool topmost) {
   std::uint32_t flags = win32::kSwpNoSize | win32::kSwpNoMove;
   if (!IsOurs(hwnd)) flags |= win32::kSwpAsyncWindowPos;

@@ -28,6 +28,9 @@ class WindowRequests {
   /// ShowWindow for our own windows, ShowWindowAsync for others. `command` is one of the SW_
   /// values; fails when the window was hidden before or is gone.
   RequestResult Show(WindowHandle hwnd, int command);
+  /// Finds out whether Windows lets this program change a window: asks for nothing, which an
+  /// elevated program's window denies as it would any change (SetWindowPos). Our own are not asked.
+  RequestResult ChangeNothing(WindowHandle hwnd);
   /// Makes a window topmost or not, without moving it (SetWindowPos), and waits until it is. A
   /// hidden window is not activated.
   RequestResult SetTopmost(WindowHandle hwnd, bool topmost);

@@ -98,7 +98,6 @@ void WindowSelection::SelectAtStart() {
 /// Windows may deliver messages during the activation, so the entry is looked up anew afterwards.
 void WindowSelection::SelectEntry(const MenuItem& entry) {
   const int tag = entry.index;
-  const std::string identification = IdentificationText(entry);
   const WindowHandle front = tracker_->WindowInFront();
   // After a change of virtual desktops, what is in front need not be on the screen.
   const bool unseen = front != 0 && front == TagHandle(entry) && IsCloaked(*windows_, front);
@@ -107,10 +106,10 @@ void WindowSelection::SelectEntry(const MenuItem& entry) {
     selected = foreground;
     return RestoreInFront(foreground);
   }
-  const ActivationResult result = ActivateOrSearch(tag, identification);
+  const ActivationResult result = ActivateOrSearch(tag);
   const MenuItem* const selectedEntry = Entry(tag);
   if (selectedEntry == nullptr) return;
-  if (result != kActivationDone) return TellFailure(identification, result);
+  if (result != kActivationDone) return TellFailure(*selectedEntry, result);
   if (TagHandle(*selectedEntry) == foreground) return;
   selected = TagHandle(*selectedEntry);
   tracker_->RecordSelection(
@@ -123,20 +122,25 @@ void WindowSelection::RestoreInFront(WindowHandle hwnd) {
   if (denied) actions_->ReportFailure();
 }
 
-ActivationResult WindowSelection::Activate(int tag, const std::string& identification) {
+WindowTriple WindowSelection::WindowOf(const MenuItem& entry) const {
+  return {TagHandle(entry), IdentificationText(entry), TagClass(*tags_, entry)};
+}
+
+ActivationResult WindowSelection::Activate(int tag) {
   const MenuItem* const entry = Entry(tag);
   if (entry == nullptr) return kActivationFailed;
-  WindowTriple window{TagHandle(*entry), identification, TagClass(*tags_, *entry)};
+  WindowTriple window = WindowOf(*entry);
   return actions_->ActivateWindow(window, false, true);
 }
 
-ActivationResult WindowSelection::ActivateOrSearch(int tag, const std::string& identification) {
-  ActivationResult result = Activate(tag, identification);
+ActivationResult WindowSelection::ActivateOrSearch(int tag) {
+  ActivationResult result = Activate(tag);
   if (IsTheWindow(result) || windowSearch) return result;
   enumeration_->RefreshTags();
-  result = Activate(tag, identification);
-  if (IsTheWindow(result)) return result;
-  const WindowHandle found = enumeration_->FindByTitle(identification);
+  result = Activate(tag);
+  const MenuItem* const unresolved = Entry(tag);
+  if (IsTheWindow(result) || unresolved == nullptr) return result;
+  const WindowHandle found = enumeration_->FindByTitle(IdentificationText(*unresolved));
   MenuItem* const entry = Entry(tag);
   return found == 0 || entry == nullptr ? result : ActivateFound(*entry, found);
 }
@@ -144,11 +148,13 @@ ActivationResult WindowSelection::ActivateOrSearch(int tag, const std::string& i
 ActivationResult WindowSelection::ActivateFound(MenuItem& entry, WindowHandle found) {
   const int tag = entry.index;
   entry.tag = DecimalText(found);
-  const std::string former =
-      std::exchange(TagClass(*tags_, entry), GetWindowClass(*windows_, found));
-  const ActivationResult result = Activate(tag, IdentificationText(entry));
+  const KnownWindow candidate = Know(*windows_, found);
+  const std::string former = std::exchange(TagClass(*tags_, entry), candidate.className);
+  WindowTriple window = WindowOf(entry);
+  const ActivationResult result = actions_->ActivateWindow(window, false, true);
+  const bool fits = window.handle != 0 && StillExists(*windows_, candidate);
   MenuItem* const left = Entry(tag);
-  if (left != nullptr && (result == kActivationFailed || result == kWindowNotOpen)) {
+  if (left != nullptr && result != kActivationDone && !fits) {
     // It has gone meanwhile, and its handle may be that of another window.
     left->tag = "0";
     TagClass(*tags_, *left) = former;
@@ -156,15 +162,16 @@ ActivationResult WindowSelection::ActivateFound(MenuItem& entry, WindowHandle fo
   return result;
 }
 
-void WindowSelection::TellFailure(const std::string& identification, ActivationResult result) {
-  const std::string window = InBrackets(identification);
+void WindowSelection::TellFailure(const MenuItem& entry, ActivationResult result) {
+  const std::string window = InBrackets(IdentificationText(entry));
   if (result == kWindowNotEnabled) {
     messages_->ShowMessageBox(window + "  is not enabled, and currently cannot be selected.",
                               win32::kMbSetForeground, kProductName);
   } else if (result == kWindowNotOpen) {
     messages_->ShowMessageBox(window + "  is not open.", win32::kMbSetForeground, kProductName);
   } else {
-    actions_->ReportFailure();
+    WindowTriple triple = WindowOf(entry);
+    actions_->ReportFailureOf(triple);
   }
 }
 

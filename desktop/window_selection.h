@@ -43,10 +43,11 @@ class WindowSelection {
   MenuItem* Entry(int tag) { return tags_->mnuWindowParentList.Find(tag); }
   void SelectEntry(const MenuItem& entry);
   void RestoreInFront(WindowHandle hwnd);
-  ActivationResult Activate(int tag, const std::string& identification);
-  ActivationResult ActivateOrSearch(int tag, const std::string& identification);
+  WindowTriple WindowOf(const MenuItem& entry) const;
+  ActivationResult Activate(int tag);
+  ActivationResult ActivateOrSearch(int tag);
   ActivationResult ActivateFound(MenuItem& entry, WindowHandle found);
-  void TellFailure(const std::string& identification, ActivationResult result);
+  void TellFailure(const MenuItem& entry, ActivationResult result);
 
   WindowQueries* windows_;
   MainWindow* mainWindow_;

@@ -45,8 +45,9 @@ void FormDisplay::ShowFormAside(Form& form) {
   forms_->Loop().RunMessageLoop([&form] { return !form.Visible(); });
 }
 
-void FormDisplay::ShowFormNonModal(Form& form, const DisplaySwitches& switches, Form* owner) {
-  if (!form.IsLoaded()) return;
+RequestResult FormDisplay::ShowFormNonModal(Form& form, const DisplaySwitches& switches,
+                                            Form* owner) {
+  if (!form.IsLoaded()) return RequestResult::kFailed;
   ComeToUser();
   if (!form.Visible()) {
     Place(form, switches, {}, owner);
@@ -63,7 +64,7 @@ void FormDisplay::ShowFormNonModal(Form& form, const DisplaySwitches& switches, 
   } else if (switches.keepInWorkArea != 0) {
     KeepInWorkArea(form);
   }
-  BringToFront(form, switches);
+  return BringToFront(form, switches);
 }
 
 /// All forms hang on the main window: where that is, they are.
@@ -79,11 +80,11 @@ void FormDisplay::Place(Form& form, const DisplaySwitches& switches, const Place
   if (switches.keepInWorkArea != 0) KeepInWorkArea(form);
 }
 
-void FormDisplay::BringToFront(Form& form, const DisplaySwitches& switches) {
+RequestResult FormDisplay::BringToFront(Form& form, const DisplaySwitches& switches) {
   if (form.IsLoaded() && switches.followTopmost != 0) FollowTopmost(form.Handle());
-  if (form.IsLoaded() && switches.takeForeground != 0) {
-    desktop_->requests.SetForegroundWindow(form.Handle());
-  }
+  if (!form.IsLoaded()) return RequestResult::kFailed;
+  if (switches.takeForeground == 0) return RequestResult::kDone;
+  return desktop_->requests.SetForegroundWindow(form.Handle());
 }
 
 void FormDisplay::FollowTopmost(WindowHandle hwnd) {

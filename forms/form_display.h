@@ -44,14 +44,15 @@ class FormDisplay {
   void ShowFormAside(Form& form);
 
   /// Brings a loaded form to the front; does nothing when it is not loaded. A form that the user
-  /// already sees stays where it is, a minimized one is restored.
-  void ShowFormNonModal(Form& form, const DisplaySwitches& switches, Form* owner);
+  /// already sees stays where it is, a minimized one is restored. Denied when it is shown, but
+  /// Windows refuses it the foreground.
+  RequestResult ShowFormNonModal(Form& form, const DisplaySwitches& switches, Form* owner);
 
  private:
   void ComeToUser();
   void Place(Form& form, const DisplaySwitches& switches, const PlaceHints& hints,
              const Form* owner);
-  void BringToFront(Form& form, const DisplaySwitches& switches);
+  RequestResult BringToFront(Form& form, const DisplaySwitches& switches);
   void FollowTopmost(WindowHandle hwnd);
   void GiveForegroundBack(const KnownWindow& before);
 

@@ -188,7 +188,7 @@ void frmGetWindow::AddEntry(int tag, const std::string& caption) {
   // Deliberately, only a window with a child window is stored with its handle and class.
   const bool hasChild = GetRelatedWindow(context_.windows, window_, 1) != 0;
   // Another window may have got the handle while the dialog was open.
-  const bool known = hasChild && GetWindowClass(context_.windows, window_) == windowClass_;
+  const bool known = hasChild && StillExists(context_.windows, {window_, windowClass_});
   entry.tag = known ? DecimalText(window_) : "0";
   TagClass(context_.tags, entry) = known ? windowClass_ : "";
 }

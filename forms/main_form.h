@@ -149,6 +149,7 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   void BindMenus();
   void BindWindowMenu();
   void ShowAddWindow(AddWindowMode mode);
+  void ShowOptions(frmOptions& dialog);
   void OpenWebPage(WebPage page);
   void RefreshToggleCaption();
   void ShowTopLevelMenus(bool shown);

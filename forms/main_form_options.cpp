@@ -20,12 +20,17 @@ void frmMain::udmOptions(const std::string& strMode) {
     openOptions_ = &optionsForm_;
   }
   optionsForm_.LoadFrom(record);
-  parts_.display.ShowFormNonModal(optionsForm_, {}, this);
+  ShowOptions(optionsForm_);
 }
 
 void frmMain::BringOptionsToFront() {
   parts_.desktop.tracker.LookAtForeground();
-  parts_.display.ShowFormNonModal(*openOptions_, {}, this);
+  ShowOptions(*openOptions_);
+}
+
+void frmMain::ShowOptions(frmOptions& dialog) {
+  const RequestResult shown = parts_.display.ShowFormNonModal(dialog, {}, this);
+  if (shown == RequestResult::kDenied) parts_.desktop.actions.ReportFailure();
 }
 
 void frmMain::OptionsDialogClosed() {

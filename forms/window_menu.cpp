@@ -64,18 +64,22 @@ void WindowMenu::mnuWindowAddToList_Click(std::int16_t Index) {
   if (Index != kPreviousWindow || PreviousCanBeAdded()) {
     WindowTriple mainWindow{desktop_->mainWindow.MainHandle(), desktop_->mainWindow.MainCaption(),
                             GetWindowClass(desktop_->windows, desktop_->mainWindow.MainHandle())};
-    desktop_->actions.ActivateWindow(mainWindow, false, true);
-    showAddWindow_(Index == kPreviousWindow ? AddWindowMode::kPreviousWindow
-                                            : AddWindowMode::kThisWindow);
+    if (desktop_->actions.ActivateWindow(mainWindow, false, true) == kWindowDenied) {
+      // The dialog would suspend the hot keys from somewhere behind the other windows.
+      desktop_->actions.ReportFailure();
+    } else {
+      showAddWindow_(Index == kPreviousWindow ? AddWindowMode::kPreviousWindow
+                                              : AddWindowMode::kThisWindow);
+    }
   }
   refreshMenus_();
 }
 
 bool WindowMenu::PreviousCanBeAdded() {
   WindowTriple& previous = desktop_->previous.current;
-  const std::string window = InBrackets(previous.text);
   const ActivationResult result = desktop_->actions.ActivateWindow(previous, false, false);
   if (result == kActivationDone) return true;
+  const std::string window = InBrackets(previous.text);
   if (previous.handle == 0) {
     desktop_->messages.ShowMessageBox(
         "Please select a 'Previous' window to add to the list, then try this operation again.",
@@ -85,7 +89,7 @@ bool WindowMenu::PreviousCanBeAdded() {
   } else if (result == kWindowNotOpen) {
     desktop_->messages.ShowMessageBox(window + "  is not open.", win32::kMbOk, kProductName);
   } else {
-    desktop_->actions.ReportFailure();
+    desktop_->actions.ReportFailureOf(previous);
   }
   return false;
 }
@@ -102,13 +106,14 @@ void WindowMenu::mnuWindowPreviousWindowAlwaysOnTop_Click() {
   WindowTriple& previous = desktop_->previous.current;
   if (desktop_->actions.ActivateWindow(previous, true, true) == kActivationDone) {
     MenuItem& item = form_->Menu("mnuWindowPreviousWindowAlwaysOnTop");
-    const bool done =
-        desktop_->requests.SetTopmost(previous.handle, !item.checked) == RequestResult::kDone;
-    if (done) item.checked = !item.checked;
+    const bool denied =
+        desktop_->requests.SetTopmost(previous.handle, !item.checked) == RequestResult::kDenied;
+    if (!denied) item.checked = !item.checked;
+    // Where Windows refuses it, the user still sees what they asked for.
     if (desktop_->mainWindow.FocusTag() == kGotFocus) {
       desktop_->requests.SetForegroundWindow(desktop_->mainWindow.MainHandle());
     }
-    if (!done) desktop_->actions.ReportFailure();
+    if (denied) desktop_->actions.ReportFailure();
   }
   refreshMenus_();
 }

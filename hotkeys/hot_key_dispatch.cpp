@@ -168,7 +168,10 @@ void HotKeyDispatch::PopUpWindowMenu() {
   const KnownWindow before = Know(desktop_->windows, desktop_->previous.InFront(desktop_->windows));
   WindowHandle selected = 0;
   BringToUsersDesktop(desktop_->windows, desktop_->commands, desktop_->virtualDesktops, main);
-  desktop_->requests.SetForegroundWindow(main);
+  if (desktop_->requests.SetForegroundWindow(main) == RequestResult::kDenied) {
+    // The menu would not close when the user clicks elsewhere.
+    return desktop_->actions.ReportFailure();
+  }
   actions_->SetWindowMenuTag(kHotKeyWindowMenuPopup);
   try {
     selected = actions_->PopUpWindowMenu();
@@ -184,7 +187,7 @@ void HotKeyDispatch::PopUpWindowMenu() {
   const WindowHandle now = desktop_->windows.GetForegroundWindow();
   const bool stays = now != main && now != left;
   if (selected == 0 && before.handle != main && !stays &&
-      !ReturnForegroundTo(desktop_->windows, desktop_->requests, before)) {
+      ReturnForegroundTo(desktop_->windows, desktop_->requests, before) == RequestResult::kFailed) {
     // It has gone while the menu was open.
     ReturnForegroundTo(desktop_->windows, desktop_->requests, desktop_->tracker.WindowBehind(main));
   }

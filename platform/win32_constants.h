@@ -46,10 +46,12 @@ inline constexpr int kSwShowNa = 8;
 inline constexpr int kSwRestore = 9;
 
 // SetWindowPos
+inline constexpr WindowHandle kHwndTop = 0;
 inline constexpr WindowHandle kHwndTopmost = -1;
 inline constexpr WindowHandle kHwndNoTopmost = -2;
 inline constexpr std::uint32_t kSwpNoSize = 0x0001;
 inline constexpr std::uint32_t kSwpNoMove = 0x0002;
+inline constexpr std::uint32_t kSwpNoZOrder = 0x0004;
 inline constexpr std::uint32_t kSwpNoActivate = 0x0010;
 inline constexpr std::uint32_t kSwpAsyncWindowPos = 0x4000;
 

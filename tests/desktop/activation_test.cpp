@@ -34,7 +34,8 @@ TEST_F(Activation, MinimizedWindowIsRestored) {
   EXPECT_EQ(Activate(Triple(alpha)), 1);
   EXPECT_FALSE(desktop.IsIconic(alpha));
   EXPECT_EQ(log.Take(),
-            (Calls{"SetForegroundWindow(Alpha)", "ShowWindowAsync(Alpha, SW_RESTORE)"}));
+            (Calls{"SetWindowPos(Alpha, HWND_TOP, 0, 0, 0, 0, 16407)", "SetForegroundWindow(Alpha)",
+                   "ShowWindowAsync(Alpha, SW_RESTORE)"}));
 }
 
 TEST_F(Activation, MinimizedWindowIsNotRestoredWhenNotToAct) {
@@ -136,7 +137,8 @@ TEST_F(Activation, HungWindowIsNotWaitedFor) {
   desktop.SetHung(alpha, true);
   EXPECT_EQ(Activate(Triple(alpha)), 1);
   EXPECT_EQ(log.Take(),
-            (Calls{"SetForegroundWindow(Alpha)", "ShowWindowAsync(Alpha, SW_RESTORE)"}));
+            (Calls{"SetWindowPos(Alpha, HWND_TOP, 0, 0, 0, 0, 16407)", "SetForegroundWindow(Alpha)",
+                   "ShowWindowAsync(Alpha, SW_RESTORE)"}));
   EXPECT_EQ(desktop.CallsThatWaited(), 0);
 }
 
@@ -185,6 +187,11 @@ TEST_F(Activation, StepsComeInTheirOrder) {
                    "GetWindowTextA(Gamma, 15)",
                    "IsWindowEnabled(Gamma)",
                    "GetForegroundWindow()",
+                   "GetClassNameA(Front, 255)",
+                   "IsIconic(Gamma)",
+                   "GetWindowThreadProcessId(Main)",
+                   "GetWindowThreadProcessId(Gamma)",
+                   "SetWindowPos(Gamma, HWND_TOP, 0, 0, 0, 0, 16407)",
                    "SetForegroundWindow(Gamma)",
                    "IsIconic(Gamma)",
                    "GetWindowThreadProcessId(Main)",

@@ -182,8 +182,10 @@ TEST_F(CloakedWindows, AWindowWorkedInMayBeForgottenWhileTheManagerIsAsked) {
 }
 
 TEST_F(CloakedWindows, TheForegroundIsNotReturnedAcrossDesktops) {
-  EXPECT_FALSE(ReturnForegroundTo(desktop, routines.requests, Know(desktop, alpha)));
-  EXPECT_FALSE(ReturnForegroundTo(desktop, routines.requests, Know(desktop, mail)));
+  EXPECT_EQ(ReturnForegroundTo(desktop, routines.requests, Know(desktop, alpha)),
+            RequestResult::kFailed);
+  EXPECT_EQ(ReturnForegroundTo(desktop, routines.requests, Know(desktop, mail)),
+            RequestResult::kFailed);
   EXPECT_EQ(log.CallsOf("SetForegroundWindow"), Calls{});
 }
 

@@ -24,37 +24,58 @@ class DeniedWindows : public Activation {
   const WindowHandle admin = desktop.Open("Admin", {.iconic = true, .elevated = true});
 };
 
-TEST_F(DeniedWindows, AMinimizedOneGivesTheForegroundBack) {
+TEST_F(DeniedWindows, AMinimizedOneIsNotAskedToComeForward) {
   WindowTriple window = Triple(admin, "Admin");
   EXPECT_EQ(Activate(window), kWindowDenied);
   EXPECT_EQ(window, Triple(admin, "Admin"));
   EXPECT_EQ(desktop.ForegroundTitle(), "Beta");
-  EXPECT_EQ(log.Take(), (Calls{"SetForegroundWindow(Admin)", "ShowWindowAsync(Admin, SW_RESTORE)",
-                               "SetForegroundWindow(Beta)"}));
+  EXPECT_EQ(log.Take(), Calls{"SetWindowPos(Admin, HWND_TOP, 0, 0, 0, 0, 16407)"});
   EXPECT_TRUE(messages.shown.empty());
 }
 
-TEST_F(DeniedWindows, AMinimizedOneGivesTheForegroundBackBeforeItComesForward) {
+TEST_F(DeniedWindows, OneThatStaysMinimizedGivesTheForegroundBack) {
+  const WindowHandle stubborn = desktop.Open("Stubborn", {.iconic = true, .staysIconic = true});
+  EXPECT_EQ(Activate(Triple(stubborn, "Stubborn")), kWindowDenied);
+  EXPECT_EQ(desktop.ForegroundTitle(), "Beta");
+  EXPECT_EQ(
+      log.Take(),
+      (Calls{"SetWindowPos(Stubborn, HWND_TOP, 0, 0, 0, 0, 16407)", "SetForegroundWindow(Stubborn)",
+             "ShowWindowAsync(Stubborn, SW_RESTORE)", "SetForegroundWindow(Beta)"}));
+}
+
+TEST_F(DeniedWindows, OneThatStaysMinimizedGivesTheForegroundBackBeforeItComesForward) {
+  const WindowHandle stubborn = desktop.Open("Stubborn", {.iconic = true, .staysIconic = true});
   desktop.DelayForeground(true);
-  EXPECT_EQ(Activate(Triple(admin, "Admin")), kWindowDenied);
+  EXPECT_EQ(Activate(Triple(stubborn, "Stubborn")), kWindowDenied);
   desktop.DelayForeground(false);
   EXPECT_EQ(desktop.ForegroundTitle(), "Beta");
 }
 
 TEST_F(DeniedWindows, TheForegroundGoesBackToTheWindowThatWasOnItsWay) {
+  const WindowHandle stubborn = desktop.Open("Stubborn", {.iconic = true, .staysIconic = true});
   desktop.DelayForeground(true);
   EXPECT_EQ(Activate(Triple(alpha)), kActivationDone);
   tracker.RecordSelection(Triple(alpha));
-  EXPECT_EQ(Activate(Triple(admin, "Admin")), kWindowDenied);
+  EXPECT_EQ(Activate(Triple(stubborn, "Stubborn")), kWindowDenied);
   desktop.DelayForeground(false);
   EXPECT_EQ(desktop.ForegroundTitle(), "Alpha");
+}
+
+TEST_F(DeniedWindows, TheForegroundDoesNotGoBackToAnotherWindowUnderTheHandle) {
+  const WindowHandle stubborn = desktop.Open("Stubborn", {.iconic = true, .staysIconic = true});
+  log.WhenCalled("ShowWindowAsync(Stubborn", [&] {
+    desktop.Close(beta);
+    desktop.Open("Newcomer", {.className = "Another", .activate = false, .reuseHandle = beta});
+  });
+  EXPECT_EQ(Activate(Triple(stubborn, "Stubborn")), kWindowDenied);
+  EXPECT_EQ(desktop.ForegroundTitle(), "Stubborn");
 }
 
 TEST_F(DeniedWindows, AMinimizedOneInFrontStaysThere) {
   desktop.SetForegroundWindow(admin);
   log.Clear();
   EXPECT_EQ(Activate(Triple(admin, "Admin")), kWindowDenied);
-  EXPECT_EQ(log.Take(), Calls{"ShowWindowAsync(Admin, SW_RESTORE)"});
+  EXPECT_EQ(log.Take(), Calls{"SetWindowPos(Admin, HWND_TOP, 0, 0, 0, 0, 16407)"});
 }
 
 TEST_F(DeniedWindows, OneThatIsNotMinimizedComesForward) {
@@ -142,8 +163,9 @@ TEST_F(RefusedForeground, ThatStaysRefusedIsDenied) {
   EXPECT_EQ(Activate(window), kWindowDenied);
   EXPECT_EQ(window.handle, alpha);
   EXPECT_EQ(desktop.ForegroundTitle(), "Beta");
-  EXPECT_EQ(log.Take(), (Calls{"SetForegroundWindow(Alpha)", "SendMouseInput()",
-                               "SetForegroundWindow(Alpha)"}));
+  EXPECT_EQ(log.Take(),
+            (Calls{"SetWindowPos(Alpha, HWND_TOP, 0, 0, 0, 0, 16407)", "SetForegroundWindow(Alpha)",
+                   "SendMouseInput()", "SetForegroundWindow(Alpha)"}));
 }
 
 TEST_F(RefusedForeground, OfAWindowThatHasGoneIsNotAskedForAgain) {

@@ -29,7 +29,7 @@ TEST_F(KnownWindows, AnotherClassMakesAnotherWindow) {
 TEST_F(KnownWindows, TheForegroundIsNotGivenBackToAnother) {
   const KnownWindow known = Know(desktop, alpha);
   GiveHandleOfAlphaAway();
-  EXPECT_FALSE(ReturnForegroundTo(desktop, requests, known));
+  EXPECT_EQ(ReturnForegroundTo(desktop, requests, known), RequestResult::kFailed);
   EXPECT_EQ(desktop.ForegroundTitle(), "Beta");
 }
 

@@ -91,7 +91,7 @@ std::string InsertAfterText(const CallLog& log, WindowHandle insertAfter) {
       return "HWND_TOPMOST";
     case win32::kHwndNoTopmost:
       return "HWND_NOTOPMOST";
-    case fakes::kHwndTop:
+    case win32::kHwndTop:
       return "HWND_TOP";
     default:
       return log.Window(insertAfter);

@@ -65,7 +65,7 @@ void FakeDesktop::UserActivates(WindowHandle hwnd) {
     const WindowHandle popup = windows_.EnabledPopupOf(hwnd);
     if (popup != 0) windows_.Activate(popup);
   } else if (window.iconic) {
-    windows_.Show(hwnd, win32::kSwRestore);
+    UserRestores(hwnd);
   } else {
     windows_.Activate(hwnd);
   }
@@ -79,11 +79,13 @@ void FakeDesktop::UserMinimizes(WindowHandle hwnd) {
 void FakeDesktop::UserMaximizes(WindowHandle hwnd) {
   Existing(hwnd);
   windows_.Show(hwnd, win32::kSwMaximize);
+  windows_.Activate(hwnd);
 }
 
 void FakeDesktop::UserRestores(WindowHandle hwnd) {
   Existing(hwnd);
   windows_.Show(hwnd, win32::kSwRestore);
+  windows_.Activate(hwnd);
 }
 
 void FakeDesktop::Hide(WindowHandle hwnd) {
@@ -101,7 +103,23 @@ void FakeDesktop::SetEnabled(WindowHandle hwnd, bool enabled) { Existing(hwnd).e
 void FakeDesktop::SetHung(WindowHandle hwnd, bool hung) {
   FakeWindow& window = Existing(hwnd);
   window.hung = hung;
-  if (!hung) ServeFreeWindows();
+  if (hung) return;
+  if (const WindowHandle ghost = std::exchange(window.ghost, 0); ghost != 0) {
+    const bool inFront = windows_.Foreground() == ghost;
+    window.visible = true;
+    if (inFront) windows_.Activate(hwnd);
+    windows_.Destroy(ghost);
+  }
+  ServeFreeWindows();
+}
+
+WindowHandle FakeDesktop::ShowGhost(WindowHandle hwnd) {
+  SetHung(hwnd, true);
+  windows_.Show(hwnd, win32::kSwHide);
+  const WindowHandle ghost =
+      Open(Title(hwnd) + " (Not Responding)", {.className = kGhostClass, .children = 0});
+  Existing(hwnd).ghost = ghost;
+  return ghost;
 }
 
 void FakeDesktop::UseClock(FakeClock& clock) {
@@ -171,6 +189,10 @@ std::vector<std::string> FakeDesktop::VisibleTitles() const {
 bool FakeDesktop::CanChange(WindowHandle hwnd) const {
   const FakeWindow* const window = windows_.Find(hwnd);
   return window != nullptr && !window->elevated;
+}
+
+bool FakeDesktop::CanSend(WindowHandle hwnd, std::uint32_t message) const {
+  return message == win32::kWmNull ? windows_.Find(hwnd) != nullptr : CanChange(hwnd);
 }
 
 FakeWindow& FakeDesktop::Existing(WindowHandle hwnd) {

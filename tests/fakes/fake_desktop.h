@@ -24,6 +24,9 @@ class FakeDesktop : public WindowQueries, public WindowCommands, public VirtualD
  public:
   explicit FakeDesktop(CallLog& log) : log_(log) {}
 
+  /// The class of the windows that stand in for hung ones.
+  static constexpr const char* kGhostClass = "Ghost";
+
   // What the user and the programs do.
   WindowHandle Open(const std::string& title, const NewWindow& options = {});
   /// Opens an enabled dialog owned by `owner`, which becomes disabled.
@@ -48,6 +51,9 @@ class FakeDesktop : public WindowQueries, public WindowCommands, public VirtualD
   void SetEnabled(WindowHandle hwnd, bool enabled);
   /// A hung window's thread takes no messages; what waited for it is done when it recovers.
   void SetHung(WindowHandle hwnd, bool hung);
+  /// The user clicks into a hung window: Windows hides it and shows a ghost in its place, which
+  /// takes the click, until the window recovers. Returns the ghost.
+  WindowHandle ShowGhost(WindowHandle hwnd);
   /// The clock by which windows are busy; it must outlive the desktop.
   void UseClock(FakeClock& clock);
   /// A busy window's thread takes no messages for this many ms: a call that waits for it takes as
@@ -127,6 +133,8 @@ class FakeDesktop : public WindowQueries, public WindowCommands, public VirtualD
   FakeWindow& Existing(WindowHandle hwnd);
   /// Whether the window is there and lets programs with fewer rights change it.
   bool CanChange(WindowHandle hwnd) const;
+  /// As CanChange, but for messages: WM_NULL reaches every window.
+  bool CanSend(WindowHandle hwnd, std::uint32_t message) const;
   /// Lets a call wait for the window's thread; false when that never takes it.
   bool WaitFor(WindowHandle hwnd);
   bool IsBusy(const FakeWindow& window) const;

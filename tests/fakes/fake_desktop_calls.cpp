@@ -130,7 +130,7 @@ std::uint32_t FakeDesktop::GetWindowThreadProcessId(WindowHandle hwnd) {
 
 bool FakeDesktop::IsHungAppWindow(WindowHandle hwnd) {
   const FakeWindow* const window = Read("IsHungAppWindow", hwnd);
-  return window != nullptr && window->hung;
+  return window != nullptr && (window->hung || window->className == kGhostClass);
 }
 
 WindowHandle FakeDesktop::GetForegroundWindow() {
@@ -197,14 +197,14 @@ void FakeDesktop::Place(WindowHandle hwnd, WindowHandle insertAfter, const Pixel
     window.place.height = place.height;
   }
   if (window.parent != 0) return;
-  if ((flags & fakes::kSwpNoZOrder) == 0) {
-    if (insertAfter == fakes::kHwndTop) windows_.Raise(hwnd);
+  if ((flags & win32::kSwpNoZOrder) == 0) {
+    if (insertAfter == win32::kHwndTop) windows_.Raise(hwnd);
     if (insertAfter == win32::kHwndTopmost) windows_.SetTopmost(hwnd, true);
     if (insertAfter == win32::kHwndNoTopmost) windows_.SetTopmost(hwnd, false);
   }
   // A hidden window of the program that calls is activated as well.
   const bool reachable = windows_.IsVisible(hwnd) || window.process != kOtherProcess;
-  if ((flags & win32::kSwpNoActivate) == 0 && reachable) windows_.Activate(hwnd);
+  if ((flags & win32::kSwpNoActivate) == 0 && reachable) windows_.ActivateByProgram(hwnd);
 }
 
 bool FakeDesktop::SetForegroundWindow(WindowHandle hwnd) {
@@ -223,7 +223,7 @@ bool FakeDesktop::SendMessageTimeoutW(WindowHandle hwnd, std::uint32_t message,
                                       std::uint32_t milliseconds) {
   log_.AddRead("SendMessageTimeoutW(" + log_.Window(hwnd) + ", " + HexText(message) + ")");
   const FakeWindow* const window = windows_.Find(hwnd);
-  if (!CanChange(hwnd) || window->hung) return false;
+  if (!CanSend(hwnd, message) || window->hung) return false;
   if (!IsBusy(*window)) return true;
   const std::uint64_t busy = window->busyUntil - clock_->GetTickCount64();
   clock_->Sleep(static_cast<std::uint32_t>(std::min<std::uint64_t>(busy, milliseconds)));
@@ -232,7 +232,7 @@ bool FakeDesktop::SendMessageTimeoutW(WindowHandle hwnd, std::uint32_t message,
 
 bool FakeDesktop::PostMessageW(WindowHandle hwnd, std::uint32_t message) {
   log_.Add("PostMessageW(" + log_.Window(hwnd) + ", " + HexText(message) + ")");
-  if (!CanChange(hwnd)) return false;
+  if (!CanSend(hwnd, message)) return false;
   windows_.NotifyPosted(hwnd, message);
   return true;
 }

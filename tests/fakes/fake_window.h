@@ -28,6 +28,7 @@ struct NewWindow {
   int children = 1;              ///< Child windows made along with it.
   int process = kOtherProcess;   ///< kOtherProcess, or a number of one of our programs.
   bool elevated = false;         ///< Its program runs as administrator.
+  bool staysIconic = false;      ///< Its program lets nobody restore it (WM_QUERYOPEN).
   bool onEveryDesktop = false;   ///< On all virtual desktops, like the taskbar.
   bool flyout = false;           ///< Cloaked unless it is in front, like Start.
   int extraTextLength = 0;       ///< Added by GetWindowTextLengthA.
@@ -59,6 +60,8 @@ struct FakeWindow {
   bool restoresToZoomed = false;
   bool hiddenByOwner = false;  ///< Out of sight while its owner is minimized.
   bool hung = false;
+  WindowHandle ghost = 0;  ///< What stands in for it while it hangs.
+  bool staysIconic = false;
   std::uint64_t busyUntil = 0;       ///< A moment of the clock.
   WindowHandle lastActivePopup = 0;  ///< Of those that it owns and itself; kept without an owner.
   bool atBottom = false;

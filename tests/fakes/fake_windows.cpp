@@ -29,6 +29,7 @@ FakeWindow WindowFrom(WindowHandle handle, const std::string& title, const NewWi
   window.atBottom = options.atBottom;
   window.process = options.process;
   window.elevated = options.elevated;
+  window.staysIconic = options.staysIconic;
   window.flyout = options.flyout;
   if (options.flyout) window.cloaked = win32::kDwmCloakedShell;
   window.extraTextLength = options.extraTextLength;
@@ -57,7 +58,7 @@ WindowHandle FakeWindows::Create(const std::string& title, const NewWindow& opti
   if (!options.onEveryDesktop && !options.flyout) window.virtualDesktop = current_desktop_;
   order_.Add(handle);
   for (int i = 0; i < options.children; ++i) CreateChild(handle, "Child");
-  if (options.visible && options.activate && !options.iconic) Activate(handle);
+  if (options.visible && options.activate && !options.iconic) ActivateByProgram(handle);
   return handle;
 }
 
@@ -135,6 +136,10 @@ void FakeWindows::Activate(WindowHandle hwnd) {
   FollowToDesktopOf(hwnd);
   if (hwnd != 0) windows_.at(order_.WithOwners(hwnd).back()).lastActivePopup = hwnd;
   Notify([&](DesktopObserver& observer) { observer.OnForegroundChanged(hwnd); });
+}
+
+void FakeWindows::ActivateByProgram(WindowHandle hwnd) {
+  if (windows_.at(hwnd).process == kOtherProcess || !IsForegroundLocked()) Activate(hwnd);
 }
 
 bool FakeWindows::IsForegroundLocked() const {

@@ -67,6 +67,9 @@ class FakeWindows {
   /// Brings a top-level window to the foreground and to the top; 0 leaves nothing in the
   /// foreground.
   void Activate(WindowHandle hwnd);
+  /// As Activate, as a window does that its program shows; one of ours stays where it is while the
+  /// foreground is locked.
+  void ActivateByProgram(WindowHandle hwnd);
   /// Brings a top-level window to the top of its band.
   void Raise(WindowHandle hwnd);
   /// Moves a window with what it owns into or out of the topmost band; out of it also its owners.

@@ -12,6 +12,11 @@ bool Activates(int command) {
          command == win32::kSwMaximize || command == win32::kSwShow || command == win32::kSwRestore;
 }
 
+bool Restores(int command) {
+  return command == win32::kSwShowNormal || command == win32::kSwRestore ||
+         command == win32::kSwShowNoActivate || command == win32::kSwMaximize;
+}
+
 bool LeavesForeground(int command) {
   return command == win32::kSwHide || command == win32::kSwMinimize;
 }
@@ -21,7 +26,8 @@ bool LeavesForeground(int command) {
 void FakeWindows::Show(WindowHandle hwnd, int command) {
   FakeWindow* const window = Find(hwnd);
   const bool was_visible = window != nullptr && window->visible;
-  if (window == nullptr || !Apply(*window, command)) return;
+  if (window == nullptr || (window->iconic && window->staysIconic && Restores(command))) return;
+  if (!Apply(*window, command)) return;
   // A window that is shown anew comes up where the user is.
   if (!was_visible && window->virtualDesktop != 0) window->virtualDesktop = current_desktop_;
   if (window->parent == 0) {
@@ -31,7 +37,7 @@ void FakeWindows::Show(WindowHandle hwnd, int command) {
     }
     if (command == win32::kSwMinimize) order_.Lower(hwnd);
     if (LeavesForeground(command) && !CanStayInFront(hwnd)) ActivateNext(candidates);
-    if (Activates(command)) Activate(hwnd);
+    if (Activates(command)) ActivateByProgram(hwnd);
   }
   Notify([&](DesktopObserver& observer) { observer.OnShown(hwnd); });
 }

@@ -2,8 +2,6 @@
 
 #include <cstdint>
 
-#include "platform/types.h"
-
 /// Numbers of the Windows API that only a desktop needs, not a program on it.
 namespace korvale::fakes {
 
@@ -18,8 +16,5 @@ inline constexpr std::int32_t kWsExAppWindow = 0x00040000;
 inline constexpr std::int32_t kWsExNoActivate = 0x08000000;
 
 inline constexpr int kSwShowMinimized = 2;
-
-inline constexpr WindowHandle kHwndTop = 0;
-inline constexpr std::uint32_t kSwpNoZOrder = 0x0004;
 
 }  // namespace korvale::fakes

@@ -44,7 +44,7 @@ TEST_F(FakeDesktopLogTest, LogsTheChangesOfTheProgramInTheirOrder) {
   desktop_.SetForegroundWindow(alpha);
   desktop_.SetWindowPos(alpha, win32::kHwndTopmost, 0, 0, 0, 0, 3);
   desktop_.SetWindowPos(alpha, win32::kHwndNoTopmost, 0, 0, 0, 0, 3);
-  desktop_.SetWindowPos(alpha, fakes::kHwndTop, 0, 0, 0, 0, 3);
+  desktop_.SetWindowPos(alpha, win32::kHwndTop, 0, 0, 0, 0, 3);
   desktop_.PostMessageW(alpha, 0);
 
   EXPECT_EQ(log_.Calls(),

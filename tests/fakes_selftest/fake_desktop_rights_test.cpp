@@ -22,8 +22,8 @@ TEST_F(FakeDesktopRightsTest, AnElevatedWindowIsNotChanged) {
   EXPECT_FALSE(desktop_.ShowWindow(hwnd, win32::kSwMinimize));
   EXPECT_FALSE(desktop_.ShowWindowAsync(hwnd, win32::kSwMinimize));
   EXPECT_FALSE(desktop_.SetWindowPos(hwnd, win32::kHwndTopmost, 0, 0, 0, 0, 3));
-  EXPECT_FALSE(desktop_.PostMessageW(hwnd, win32::kWmNull));
-  EXPECT_FALSE(desktop_.SendMessageTimeoutW(hwnd, win32::kWmNull, 10));
+  EXPECT_FALSE(desktop_.PostMessageW(hwnd, win32::kWmPowerBroadcast));
+  EXPECT_FALSE(desktop_.SendMessageTimeoutW(hwnd, win32::kWmPowerBroadcast, 10));
 
   EXPECT_FALSE(desktop_.IsIconic(hwnd));
   EXPECT_EQ(desktop_.GetWindowLongA(hwnd, win32::kGwlExStyle), 0);
@@ -39,6 +39,49 @@ TEST_F(FakeDesktopRightsTest, AnElevatedWindowIsReadAndComesToTheForegroundAsItI
 
   EXPECT_EQ(desktop_.ForegroundTitle(), "Admin");
   EXPECT_TRUE(desktop_.IsIconic(hwnd));
+}
+
+TEST_F(FakeDesktopRightsTest, AMessageThatMeansNothingReachesAnElevatedWindow) {
+  const WindowHandle hwnd = desktop_.Open("Admin", {.elevated = true});
+
+  EXPECT_TRUE(desktop_.PostMessageW(hwnd, win32::kWmNull));
+  EXPECT_TRUE(desktop_.SendMessageTimeoutW(hwnd, win32::kWmNull, 10));
+}
+
+TEST_F(FakeDesktopRightsTest, AProgramMayKeepItsWindowMinimized) {
+  const WindowHandle hwnd = desktop_.Open("Alpha", {.iconic = true, .staysIconic = true});
+
+  EXPECT_TRUE(desktop_.ShowWindowAsync(hwnd, win32::kSwRestore));
+
+  EXPECT_TRUE(desktop_.IsIconic(hwnd));
+}
+
+TEST_F(FakeDesktopRightsTest, OurWindowsDoNotComeThroughTheLockedForegroundEither) {
+  const WindowHandle ours = desktop_.Open("Ours", {.visible = false, .process = 1});
+  desktop_.Open("Beta");
+  desktop_.LockForeground(ForegroundLock::kForGood);
+
+  desktop_.ShowWindow(ours, win32::kSwShow);
+  EXPECT_EQ(desktop_.ForegroundTitle(), "Beta");
+  desktop_.Open("New", {.process = 1});
+  EXPECT_EQ(desktop_.ForegroundTitle(), "Beta");
+  desktop_.SetWindowPos(ours, win32::kHwndTop, 0, 0, 0, 0, 3);
+  EXPECT_EQ(desktop_.ForegroundTitle(), "Beta");
+  EXPECT_TRUE(desktop_.IsWindowVisible(ours));
+
+  desktop_.UserActivates(ours);
+  EXPECT_EQ(desktop_.ForegroundTitle(), "Ours");
+}
+
+TEST_F(FakeDesktopRightsTest, TheUserRestoresOurWindowInALockedForeground) {
+  const WindowHandle ours = desktop_.Open("Ours", {.iconic = true, .process = 1});
+  desktop_.Open("Beta");
+  desktop_.LockForeground(ForegroundLock::kForGood);
+
+  desktop_.UserActivates(ours);
+
+  EXPECT_FALSE(desktop_.IsIconic(ours));
+  EXPECT_EQ(desktop_.ForegroundTitle(), "Ours");
 }
 
 TEST_F(FakeDesktopRightsTest, TheUserMayDoWhatProgramsMayNot) {

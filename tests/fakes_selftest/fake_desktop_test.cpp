@@ -137,9 +137,9 @@ TEST_F(FakeDesktopTest, NothingIsInTheForegroundWhenNoWindowIsLeft) {
 TEST_F(FakeDesktopTest, MovesAndSizesAWindowUnlessToldNotTo) {
   const WindowHandle alpha = desktop_.Open("Alpha");
 
-  desktop_.SetWindowPos(alpha, fakes::kHwndTop, 1, 2, 3, 4, win32::kSwpNoSize);
+  desktop_.SetWindowPos(alpha, win32::kHwndTop, 1, 2, 3, 4, win32::kSwpNoSize);
   EXPECT_EQ(desktop_.Windows().Find(alpha)->place, (PixelRect{1, 2, 200, 100}));
-  desktop_.SetWindowPos(alpha, fakes::kHwndTop, 5, 6, 7, 8, win32::kSwpNoMove);
+  desktop_.SetWindowPos(alpha, win32::kHwndTop, 5, 6, 7, 8, win32::kSwpNoMove);
   EXPECT_EQ(desktop_.Windows().Find(alpha)->place, (PixelRect{1, 2, 7, 8}));
 }
 
@@ -147,10 +147,10 @@ TEST_F(FakeDesktopTest, SetWindowPosActivatesUnlessToldNotTo) {
   const WindowHandle alpha = desktop_.Open("Alpha");
   desktop_.Open("Beta");
 
-  desktop_.SetWindowPos(alpha, fakes::kHwndTop, 0, 0, 0, 0, 3 | win32::kSwpNoActivate);
+  desktop_.SetWindowPos(alpha, win32::kHwndTop, 0, 0, 0, 0, 3 | win32::kSwpNoActivate);
   EXPECT_EQ(desktop_.ForegroundTitle(), "Beta");
   EXPECT_EQ(desktop_.VisibleTitles(), (Titles{"Alpha", "Beta"}));
-  desktop_.SetWindowPos(alpha, fakes::kHwndTop, 0, 0, 0, 0, 3);
+  desktop_.SetWindowPos(alpha, win32::kHwndTop, 0, 0, 0, 0, 3);
   EXPECT_EQ(desktop_.ForegroundTitle(), "Alpha");
 }
 

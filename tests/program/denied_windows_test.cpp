@@ -165,10 +165,13 @@ TEST_F(DeniedWindowsTest, ALockedForegroundOpensToOurOwnInput) {
 
 TEST_F(DeniedWindowsTest, OwnFormsAndThePopUpAskOnceMoreToo) {
   desktop.LockForeground(ForegroundLock::kUntilInput);
+  log.Clear();
   PressHotKey(win32::kModWin, 'O');
   EXPECT_EQ(Front(), "Korvale - Options");
+  EXPECT_EQ(log.CallsOf("SendMouseInput").size(), 1U);
   WorkIn(beta);
   desktop.LockForeground(ForegroundLock::kUntilInput);
+  log.Clear();
   std::string front;
   korvale->host.WhenPopupMenu([&](const auto& /*items*/) {
     front = Front();
@@ -177,6 +180,66 @@ TEST_F(DeniedWindowsTest, OwnFormsAndThePopUpAskOnceMoreToo) {
   PressHotKey(win32::kModWin, 'W');
   EXPECT_EQ(front, desktop.Title(korvale->Handle()));
   EXPECT_EQ(Front(), "Beta");
+  EXPECT_EQ(log.CallsOf("SendMouseInput").size(), 1U);
+}
+
+TEST_F(DeniedWindowsTest, APopUpWithoutTheForegroundIsToldInstead) {
+  desktop.LockForeground(ForegroundLock::kForGood);
+  // A menu that opened would fail the test: nobody chooses from it.
+  ExpectFailureToldOf([&] { PressHotKey(win32::kModWin, 'W'); });
+  EXPECT_EQ(Front(), "Beta");
+  EXPECT_NE(korvale->Form().Menu("mnuWindow").tag, "HOTKEY_WINDOW_MENU_POPUP");
+}
+
+TEST_F(DeniedWindowsTest, OptionsThatStayBehindAreTold) {
+  desktop.LockForeground(ForegroundLock::kForGood);
+  // Loaded and shown first, only shown the second time.
+  for (int i = 0; i < 2; ++i) {
+    ExpectFailureToldOf([&] { PressHotKey(win32::kModWin, 'O'); });
+    EXPECT_EQ(Front(), "Beta");
+    EXPECT_TRUE(korvale->Loaded("frmOptions").Visible());
+  }
+}
+
+TEST_F(DeniedWindowsTest, NoDialogIsOpenedBehindTheOthers) {
+  desktop.LockForeground(ForegroundLock::kForGood);
+  ExpectFailureToldOf([&] { korvale->ChooseLate("mnuWindowAddToList", 1); });
+  EXPECT_EQ(korvale->FindForm("frmGetWindow"), nullptr);
+  EXPECT_EQ(Front(), "Beta");
+}
+
+TEST_F(DeniedWindowsTest, NothingIsToldOfAForegroundThatWasNotTheUsersWish) {
+  const std::size_t told = korvale->host.Messages().size();
+  desktop.LockForeground(ForegroundLock::kForGood);
+  PressHotKey(win32::kModAlt, win32::kVkDown);
+  EXPECT_TRUE(desktop.IsIconic(beta));
+  WorkIn(korvale->Handle());
+  korvale->ChooseLate("mnuWindowPreviousWindowAlwaysOnTop");
+  EXPECT_EQ(Front(), "Alpha");
+  EXPECT_NE(desktop.GetWindowLongA(alpha, win32::kGwlExStyle) & win32::kWsExTopmost, 0);
+  korvale->ChooseLate("mnuWindowRestoreAll");
+  EXPECT_FALSE(desktop.IsIconic(beta));
+  EXPECT_EQ(korvale->host.Messages().size(), told);
+}
+
+TEST_F(DeniedWindowsTest, ATagOfAMinimizedOneLeavesTheForegroundAloneAllTheTime) {
+  desktop.UserMinimizes(admin);
+  WorkIn(beta);
+  korvale->host.WhenMessageBox([](const ShownMessage& /*box*/) { return win32::kIdOk; });
+  log.Clear();
+  PressTag(1);
+  EXPECT_TRUE(log.CallsOf("SetForegroundWindow").empty());
+}
+
+TEST_F(DeniedWindowsTest, AWindowThatStaysMinimizedTellsTheUserAndGivesTheForegroundBack) {
+  desktop.Close(alpha);
+  const WindowHandle stubborn = Open("Stubborn", {.staysIconic = true});
+  korvale->TagPrevious();
+  desktop.UserMinimizes(stubborn);
+  WorkIn(beta);
+  ExpectFailureToldOf([&] { PressTag(2); });
+  EXPECT_EQ(Front(), "Beta");
+  EXPECT_TRUE(desktop.IsIconic(stubborn));
 }
 
 TEST_F(DeniedWindowsTest, AForegroundThatIsGrantedNeedsNoInput) {
