@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "tests/endtoend/harness/options_dialog.h"
 #include "tests/endtoend/korvale_test.h"
 
 namespace korvale::endtoend {
@@ -91,19 +92,75 @@ TEST_F(HotKeyFlood, DuringADragOfTheMainWindowLetsItEnd) {
   ExpectKeysToWork();
 }
 
-class RequestsBehindABox : public HotKeyFlood {};
+TEST_F(HotKeyFlood, DuringAMoveOfTheMainWindowByTheKeyboardLeadsToTheWindow) {
+  StartBesideAlpha();
+  ASSERT_TRUE(BringToFront(main()));
+  PostMessageW(main().handle(), WM_SYSCOMMAND, SC_MOVE, 0);
+  ASSERT_TRUE(WaitFor([this] { return IsDragged(); }));
+  Press(TagKey(2));
+  EXPECT_TRUE(InFront(alpha_));
+  ASSERT_TRUE(BringToFront(main()));
+  Press({0, VK_ESCAPE});
+  EXPECT_TRUE(WaitFor([this] { return !IsDragged(); }));
+  EXPECT_FALSE(korvale_->HasMessageBox());
+  ExpectKeysToWork();
+}
+
+class RequestsBehindABox : public HotKeyFlood {
+ protected:
+  void PostCloseTo(Window window) {
+    PostMessageW(window.handle(), WM_CLOSE, 0, 0);
+    PostMessageW(window.handle(), WM_SYSCOMMAND, SC_CLOSE, 0);
+  }
+};
 
 TEST_F(RequestsBehindABox, ToCloseTheMainWindowLeaveTheMessageToTheUser) {
   StartBesideAlpha();
   Press(TagKey(1));
   ASSERT_TRUE(korvale_->MessageBox());
-  PostMessageW(main().handle(), WM_CLOSE, 0, 0);
-  PostMessageW(main().handle(), WM_SYSCOMMAND, SC_CLOSE, 0);
+  PostCloseTo(main());
   EXPECT_TRUE(HoldsFor([this] { return korvale_->process().Running(); }));
+  EXPECT_FALSE(korvale_->HasForm("frmOptions"));
   EXPECT_TRUE(Says("Window:  [Nowhere]  is not open."));
   Press(TagKey(2));
   EXPECT_TRUE(InFront(alpha_));
   EXPECT_TRUE(Exit());
+}
+
+TEST_F(RequestsBehindABox, ToUseTheOptionsLeaveTheQuestionToTheUser) {
+  StartBesideAlpha();
+  Press(kOptionsKey);
+  const OptionsDialog options(korvale_->Form("frmOptions"));
+  ASSERT_TRUE(InFront(options.form()));
+  ASSERT_TRUE(options.GoTo(OptionsDialog::Page::kHotKeys));
+  Click(options.Button("Reset All Options to Default"));
+  const Window question = korvale_->MessageBox();
+  ASSERT_TRUE(question);
+  for (const char* const caption : {"Cancel", "OK"}) {
+    const Window button = options.Button(caption);
+    PostMessageW(options.form().handle(), WM_COMMAND,
+                 MAKEWPARAM(GetDlgCtrlID(button.handle()), BN_CLICKED),
+                 reinterpret_cast<LPARAM>(button.handle()));
+  }
+  PostCloseTo(options.form());
+  PostMessageW(options.form().handle(), WM_SYSKEYDOWN, VK_F4, 1 << 29);
+  EXPECT_TRUE(HoldsFor([&] { return korvale_->HasForm("frmOptions") && question.Exists(); }));
+  EXPECT_EQ(korvale_->MessageBoxes("Korvale - Options").size(), 1U);
+  ASSERT_TRUE(AnswerBox(question, IDCANCEL));
+  EXPECT_TRUE(InFront(options.form()));
+  EXPECT_TRUE(options.Cancel());
+}
+
+TEST_F(RequestsBehindABox, ToEndTheSessionThatAreWithdrawnLeaveAllAsItIs) {
+  StartBesideAlpha();
+  Press(TagKey(1));
+  ASSERT_TRUE(korvale_->MessageBox());
+  EXPECT_EQ(main().Send(WM_QUERYENDSESSION), TRUE);
+  main().Send(WM_ENDSESSION, FALSE);
+  EXPECT_TRUE(HoldsFor([this] { return korvale_->process().Running(); }));
+  EXPECT_TRUE(Says("Window:  [Nowhere]  is not open."));
+  Press(TagKey(2));
+  EXPECT_TRUE(InFront(alpha_));
 }
 
 }  // namespace
