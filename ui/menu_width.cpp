@@ -11,8 +11,10 @@
 namespace korvale {
 namespace {
 
-/// What check mark, margins and border take beside the text, even where they are large.
+/// What check mark, margins and border take beside the text at the most, as long as the text has
+/// its usual size; otherwise as much as so wide a text.
 constexpr Twips kBesideText = 2400;
+constexpr const char* kAsWideAsBesideText = "mmmmmmmmmmmmmmmm";
 
 /// The longest beginning of the caption that fits with "..." after it; the caption when all fits.
 std::string Fitting(ScreenQueries& screen, WindowHandle hwnd, const std::string& caption,
@@ -44,8 +46,10 @@ std::string Fitting(ScreenQueries& screen, WindowHandle hwnd, const std::string&
 void FitMenuToScreen(ScreenQueries& screen, WindowHandle hwnd, MenuItem& menu) {
   const Twips narrowest =
       std::min(screen.GetMonitorInfoW(hwnd).width, screen.MonitorFromPoint().width);
+  const Twips beside =
+      std::max(kBesideText, screen.GetTextExtentPoint32W(hwnd, kAsWideAsBesideText));
   for (const auto& item : menu.items) {
-    const std::string text = Fitting(screen, hwnd, item->caption, narrowest - kBesideText);
+    const std::string text = Fitting(screen, hwnd, item->caption, narrowest - beside);
     item->shown = text == item->caption ? "" : text;
   }
 }
