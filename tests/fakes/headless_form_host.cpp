@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "platform/win32_constants.h"
+#include "ui/spoken_name.h"
 #include "util/text.h"
 
 namespace korvale {
@@ -156,11 +157,7 @@ void HeadlessFormHost::UpdateControl(WindowHandle hwnd, int control, ControlProp
 
 void HeadlessFormHost::Announce(const HeadlessWindow& window) {
   if (window.form->role != FormRole::kAlert || !desktop_->IsShown(window.handle)) return;
-  std::string text = window.form->caption;
-  for (const HeadlessControl& control : window.controls) {
-    if (control.shown.kind == ControlKind::kLabel) text += ": " + control.shown.text;
-  }
-  announced_.push_back(text);
+  announced_.push_back(SpokenName(*window.form));
 }
 
 void HeadlessFormHost::SetWindowTextW(WindowHandle hwnd) {

@@ -5,7 +5,10 @@
 #include <objbase.h>
 #include <oleacc.h>
 
+#include <array>
 #include <memory>
+
+#include "platform/windows/text.h"
 
 namespace korvale {
 namespace {
@@ -36,10 +39,18 @@ void TellRole(HWND window, FormRole role) {
   services->SetHwndProp(window, kClient, CHILDID_SELF, PROPID_ACC_ROLE, value);
 }
 
+void TellName(HWND window, const std::string& name) {
+  const auto services = PropServices();
+  if (services == nullptr) return;
+  services->SetHwndPropStr(window, kClient, CHILDID_SELF, PROPID_ACC_NAME, ToUtf16(name).c_str());
+}
+
 void ForgetRole(HWND window) {
   const auto services = PropServices();
   if (services == nullptr) return;
-  services->ClearHwndProps(window, kClient, CHILDID_SELF, &PROPID_ACC_ROLE, 1);
+  const std::array given = {PROPID_ACC_ROLE, PROPID_ACC_NAME};
+  services->ClearHwndProps(window, kClient, CHILDID_SELF, given.data(),
+                           static_cast<int>(given.size()));
 }
 
 void AnnounceAlert(HWND window) {

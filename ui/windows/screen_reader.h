@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <string>
+
 #include "platform/form_model.h"
 
 namespace korvale {
@@ -9,7 +11,9 @@ namespace korvale {
 /// Gives a form's window its role (IAccPropServices::SetHwndProp). A window of a class of its own
 /// would have none. Does nothing where Windows has no such service.
 void TellRole(HWND window, FormRole role);
-/// Must be called before a window that has a role is destroyed.
+/// Gives it the name that screen readers say (IAccPropServices::SetHwndPropStr).
+void TellName(HWND window, const std::string& name);
+/// Must be called before a window that has a role or name is destroyed.
 void ForgetRole(HWND window);
 
 /// Lets screen readers read out what an alert shows (NotifyWinEvent).
