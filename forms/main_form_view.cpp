@@ -24,9 +24,12 @@ Twips AsStored(Twips length) { return std::clamp(length, -kFarthestPlace, kFarth
 /// several rows, makes the window higher. What counts is the bar on the screen, even if it is shown
 /// only for a moment.
 Twips frmMain::HeightForContent(const TwipsRect& frame) {
-  Twips height = kClassicFrameHeight + (State().menuShown ? kClassicMenuHeight : 0);
+  ScreenQueries& screen = Collection().Screen();
+  const int dpi = screen.GetDpiOfForm(Handle());
+  const Twips classic = kClassicFrameHeight + (State().menuShown ? kClassicMenuHeight : 0);
+  // Bigger text makes the twips of the form larger, but not its frame.
+  Twips height = classic * screen.GetDpiForWindow(Handle()) / dpi;
   const Twips higher = frame.height - height;
-  const int dpi = Collection().Screen().GetDpiForWindow(Handle());
   // Rounding to twips may make a difference of less than half a pixel.
   if (2 * higher * dpi > kTwipsPerInch) height += higher;
   if (parts_.startup.WindowInfo) height += Find("txtWindow").Place().height + kRoomAroundFields;
@@ -79,9 +82,10 @@ void frmMain::RememberPlace() {
   StartupSettings& startup = parts_.startup;
   startup.WindowState = static_cast<std::int32_t>(WindowState());
   if (WindowState() == ShowState::kNormal) {
-    startup.Left = AsStored(Place().left);
-    startup.Top = AsStored(Place().top);
-    startup.Width = AsStored(Place().width);
+    const TwipsRect place = PlaceToKeep();
+    startup.Left = AsStored(place.left);
+    startup.Top = AsStored(place.top);
+    startup.Width = AsStored(place.width);
     startup.Height = AsStored(Place().height);
   }
 }
@@ -96,6 +100,8 @@ void frmMain::ApplyPlacement() {
   place.height = HeightForContent(Collection().Host().AdjustWindowRectEx(State()));
   SetPlace(place);
   BringOntoMonitor(*this);
+  // Bigger text must not take the end of a window that the user has put on the screen off it.
+  if (IsWithin(Place(), Collection().Screen().GetMonitorInfoW(Handle()))) FitIntoWorkArea();
   place = Place();
   place.height = startup.Height;
   SetPlace(place);

@@ -19,9 +19,12 @@ class ScreenQueries {
   /// Where the form really is, place and size in twips of the system's dots per inch, as the work
   /// areas count them (GetWindowRect).
   virtual TwipsRect GetWindowRect(WindowHandle hwnd) = 0;
-  /// The dots per inch with which a form is shown: those of its window, more where the user has
-  /// chosen bigger text (GetDpiForWindow).
+  /// The dots per inch of the monitor of a form, in which its frame and menus are drawn
+  /// (GetDpiForWindow).
   virtual int GetDpiForWindow(WindowHandle hwnd) = 0;
+  /// The dots per inch by which the places and sizes of a form become pixels: those of its monitor,
+  /// others where the user has chosen bigger text.
+  virtual int GetDpiOfForm(WindowHandle hwnd) = 0;
   /// The width of a text in the menus of a form, in twips of the system's dots per inch; 0 when
   /// Windows cannot tell.
   virtual Twips GetTextExtentPoint32W(WindowHandle hwnd, const std::string& text) = 0;

@@ -77,6 +77,8 @@ void Form::BuildFromDesign() {
   pressed_ = 0;
   altUsed_ = false;
   refused_.reset();
+  wished_.reset();
+  inside_ = false;
   shownBefore_ = false;
   controls_.clear();
   state_.controls.reserve(rows_.size());
@@ -160,6 +162,7 @@ void Form::ShowAs(bool active) {
   const bool takesKeyboard = active && !state_.aside;
   forms_->Host().ShowWindow(handle_,
                             takesKeyboard ? ShowCommand(state_.windowState) : win32::kSwShowNa);
+  NoteWhetherInside();
 }
 
 void Form::ShowModal() {
@@ -199,6 +202,7 @@ void Form::SetPlace(const TwipsRect& place) {
   state_.place = RealPlace();
   forms_->Host().MoveWindow(handle_);
   if (sized && IsLoaded()) Form_Resize();
+  NoteWhetherInside();
 }
 
 void Form::SetSizeLimits(const SizeLimits& limits) {

@@ -74,6 +74,11 @@ class Form : public FormEvents, public CollectedForm, private ControlOwner {
   /// Place and size in twips. Without FormDesign::exactHeight the size counts the classic frame.
   const TwipsRect& Place() const { return place_; }
   void SetPlace(const TwipsRect& place);
+  /// The place to come back to: Place(), or where it would be if the screen had room for it.
+  TwipsRect PlaceToKeep() const { return wished_.value_or(place_); }
+  /// Moves a form that the user sizes into the work area of its monitor, and makes it as narrow as
+  /// that is. It takes its own place again as soon as there is room.
+  void FitIntoWorkArea();
   /// Limits the sizes that the user can give the form, frame included.
   void SetSizeLimits(const SizeLimits& limits);
   bool Enabled() const final { return state_.enabled; }
@@ -168,6 +173,10 @@ class Form : public FormEvents, public CollectedForm, private ControlOwner {
   bool AgreesToUnload(CloseReason reason);
   void Destroy();
 
+  // form_fit.cpp: a form that the user sizes stays where it can be seen.
+  void NoteWhetherInside();
+  void NoteUsersPlace(ShowState state, const TwipsRect& place);
+
   // form_events.cpp: what the user's actions mean.
   static void RaiseFor(const Handlers& handlers, std::string_view name, int index);
   void RaiseClick(Control& control) final;
@@ -209,6 +218,9 @@ class Form : public FormEvents, public CollectedForm, private ControlOwner {
   int pressed_ = 0;                   ///< The control that the left button went down on.
   bool altUsed_ = false;              ///< Alt is held, and a key pressed with it had an effect.
   std::optional<TwipsRect> refused_;  ///< Where Windows put the window instead of where it should.
+  std::optional<TwipsRect> wished_;   ///< Where it would be, had the screen room for it.
+  bool inside_ = false;               ///< All of it was within the work area.
+  bool fitting_ = false;              ///< It is being fitted into the work area.
   bool keyRepeats_ = false;
   bool shownBefore_ = false;
   bool unloading_ = false;

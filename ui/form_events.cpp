@@ -216,6 +216,8 @@ void Form::OnPlaced(ShowState state, const TwipsRect& place) {
   if (!news) return;
   // A hidden window is never minimized or maximized yet; the model says how it will be shown.
   if (!state_.visible) state = state_.windowState;
+  NoteUsersPlace(state, place);
+  const bool restored = state == ShowState::kNormal && state != state_.windowState;
   bool changed = state != state_.windowState;
   bool moved = false;
   state_.windowState = state;
@@ -232,6 +234,9 @@ void Form::OnPlaced(ShowState state, const TwipsRect& place) {
   } else if (moved) {
     Form_Move();
   }
+  // The screen may have become smaller meanwhile.
+  if (restored && inside_) FitIntoWorkArea();
+  NoteWhetherInside();
 }
 
 void Form::OnDpiChanged() {
@@ -245,12 +250,15 @@ void Form::OnDpiChanged() {
 }
 
 void Form::OnMetricsChanged() {
+  const bool inside = inside_;
   OnDpiChanged();
   if (!IsLoaded() || !state_.visible || state_.windowState != ShowState::kNormal) return;
-  if (state_.border == BorderStyle::kSizable) {
-    BringOntoMonitor(*this);
-  } else {
+  if (state_.border != BorderStyle::kSizable) {
     KeepInWorkArea(*this);
+  } else if (inside) {
+    FitIntoWorkArea();
+  } else {
+    BringOntoMonitor(*this);
   }
 }
 

@@ -59,6 +59,16 @@ void KeepInWorkArea(Form& form) {
          Inside(place.top, area.top, area.height, place.height));
 }
 
+bool IsWithin(const TwipsRect& place, const TwipsRect& area) {
+  return Overlap(place.left, place.width, area.left, area.width) == place.width &&
+         Overlap(place.top, place.height, area.top, area.height) == place.height;
+}
+
+bool IsInWorkArea(Form& form) {
+  ScreenQueries& screen = form.Collection().Screen();
+  return IsWithin(screen.GetWindowRect(form.Handle()), screen.GetMonitorInfoW(form.Handle()));
+}
+
 void BringOntoMonitor(Form& form) {
   ScreenQueries& screen = form.Collection().Screen();
   const TwipsRect area = screen.GetMonitorInfoW(form.Handle());

@@ -19,6 +19,12 @@ void PlaceForm(Form& form, WindowHandle workedIn, const PlaceHints& hints, const
 /// Moves a form into the work area of its monitor; a larger one begins where the area does.
 void KeepInWorkArea(Form& form);
 
+/// All of the place, in twips of the screen, lies within the area.
+bool IsWithin(const TwipsRect& place, const TwipsRect& area);
+
+/// All of a form lies within the work area of its monitor.
+bool IsInWorkArea(Form& form);
+
 /// Moves a form onto the monitor nearest to it, when too little of it lies on any to be seen and
 /// dragged.
 void BringOntoMonitor(Form& form);

@@ -123,7 +123,8 @@ class HeadlessFormHost : public FormHost,
   TwipsRect AdjustWindowRectEx(const FormState& form) override;
   Color GetSysColor(Color color) override;
   bool HighContrast() override { return highContrast_; }
-  int GetDpiForWindow(WindowHandle hwnd) override { return DpiOf(*Window(hwnd).form); }
+  int GetDpiForWindow(WindowHandle hwnd) override { return Window(hwnd).handle != 0 ? dpi_ : 0; }
+  int GetDpiOfForm(WindowHandle hwnd) override { return DpiOf(*Window(hwnd).form); }
   TwipsRect GetMonitorInfoW(WindowHandle hwnd) override;
   TwipsRect MonitorFromPoint() override { return workArea_; }
   /// Every character is 100 twips wide, more where the text is bigger.
@@ -154,6 +155,7 @@ class HeadlessFormHost : public FormHost,
   void Announce(const HeadlessWindow& window);
   void TellColorsChanged();
   void TellMetricsChanged();
+  void CloseLists(WindowHandle hwnd);
   /// The frame of a form in twips of the usual text.
   TwipsRect FrameOf(const FormState& form) const;
   int DpiOf(const FormState& form) const;

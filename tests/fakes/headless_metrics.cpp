@@ -1,4 +1,6 @@
+#include <cstddef>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "tests/fakes/headless_form_host.h"
@@ -33,6 +35,7 @@ void HeadlessFormHost::TellMetricsChanged() {
   std::vector<WindowHandle> all;
   for (const auto& window : windows_) all.push_back(window->handle);
   for (const WindowHandle hwnd : all) {
+    CloseLists(hwnd);
     HeadlessWindow* const window = FindWindow(hwnd);
     if (window == nullptr) continue;
     const ShowState state = desktop_->State(hwnd);
@@ -41,6 +44,16 @@ void HeadlessFormHost::TellMetricsChanged() {
     Tell(hwnd, [&](FormEvents& events) { events.OnPlaced(state, taken); });
     if (FindWindow(hwnd) == nullptr) continue;
     Tell(hwnd, [](FormEvents& events) { events.OnMetricsChanged(); });
+  }
+}
+
+/// A list that is open when its combo box is given another size closes first.
+void HeadlessFormHost::CloseLists(WindowHandle hwnd) {
+  const HeadlessWindow* const before = FindWindow(hwnd);
+  const std::size_t controls = before == nullptr ? 0 : before->controls.size();
+  for (int id = 1; id <= static_cast<int>(controls) && FindWindow(hwnd) != nullptr; ++id) {
+    if (!std::exchange(Window(hwnd).Control(id).dropped, false)) continue;
+    Tell(hwnd, [&](FormEvents& events) { events.OnListClosedUp(id); });
   }
 }
 

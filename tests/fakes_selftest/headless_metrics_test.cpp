@@ -27,7 +27,7 @@ class HeadlessMetricsTest : public testing::Test {
 TEST_F(HeadlessMetricsTest, BiggerTextMakesTwipsOfAFormLargerAndItsFrameNot) {
   strip_.Show();
   host_.ChangeTextSize(200);
-  EXPECT_EQ(host_.GetDpiForWindow(strip_.Handle()), 192);
+  EXPECT_EQ(host_.GetDpiOfForm(strip_.Handle()), 192);
   EXPECT_EQ(host_.AdjustWindowRectEx(strip_.State()), (TwipsRect{23, 178, 45, 200}));
   EXPECT_EQ(host_.GetWindowRect(strip_.Handle()), (TwipsRect{1500, 900, 12000, 3000}));
   EXPECT_EQ(host_.GetTextExtentPoint32W(strip_.Handle(), "menu"), 800);
@@ -44,16 +44,17 @@ TEST_F(HeadlessMetricsTest, OnAFineScreenBiggerTextCountsFromItsDots) {
   host_.SetDpi(144);
   strip_.Show();
   host_.ChangeTextSize(150);
-  EXPECT_EQ(host_.GetDpiForWindow(strip_.Handle()), 216);
+  EXPECT_EQ(host_.GetDpiOfForm(strip_.Handle()), 216);
+  EXPECT_EQ(host_.GetDpiForWindow(strip_.Handle()), 144);
   EXPECT_EQ(host_.GetWindowRect(strip_.Handle()).width, 9000);
 }
 
 TEST_F(HeadlessMetricsTest, AFormOfAFixedSizeGrowsOnlyIntoTheWorkArea) {
   RecordingForm dialog(DialogDesign("frmDialog"), forms_);
   dialog.Show();
-  host_.SetWorkArea({0, 0, 3000, 1500});
+  host_.SetWorkArea({0, 0, 3000, 1515});
   host_.ChangeTextSize(225);
-  EXPECT_EQ(host_.GetDpiForWindow(dialog.Handle()), 96);
+  EXPECT_EQ(host_.GetDpiOfForm(dialog.Handle()), 96);
 }
 
 TEST_F(HeadlessMetricsTest, EveryFormIsToldOnce) {

@@ -76,6 +76,45 @@ TEST_F(MainWindowFrameTest, BiggerTextEnlargesItAndLeavesTheStoredSize) {
   EXPECT_EQ(Stored("Height"), "1100");
 }
 
+TEST_F(MainWindowFrameTest, WithBiggerTextAClassicFrameLeavesNoRoomBehind) {
+  KorvaleCopy& korvale = NewCopy();
+  StoreOption("SplashScreen", "False");
+  korvale.host.ChangeTextSize(225);
+  EXPECT_TRUE(korvale.Start());
+  EXPECT_NEAR(korvale.host.GetWindowRect(korvale.Handle()).height, 400 + 300 + 900, 3);
+}
+
+TEST_F(MainWindowFrameTest, WithBiggerTextItComesUpOnTheScreenAndKeepsItsStoredPlace) {
+  Store("Left", "9000");
+  Store("Width", "6000");
+  KorvaleCopy& korvale = NewCopy();
+  StoreOption("SplashScreen", "False");
+  korvale.host.ChangeTextSize(150);
+  EXPECT_TRUE(korvale.Start());
+  EXPECT_EQ(korvale.host.GetWindowRect(korvale.Handle()).left, 15360 - 9000);
+  EXPECT_EQ(korvale.host.GetWindowRect(korvale.Handle()).width, 9000);
+  korvale.Exit();
+  EXPECT_EQ(Stored("Left"), "9000");
+  EXPECT_EQ(Stored("Width"), "6000");
+}
+
+TEST_F(MainWindowFrameTest, WiderThanTheScreenItIsNarrowedAndKeepsItsStoredWidth) {
+  Store("Left", "3000");
+  Store("Width", "9000");
+  KorvaleCopy& korvale = NewCopy();
+  StoreOption("SplashScreen", "False");
+  korvale.host.ChangeTextSize(225);
+  EXPECT_TRUE(korvale.Start());
+  EXPECT_EQ(korvale.host.GetWindowRect(korvale.Handle()).left, 0);
+  EXPECT_NEAR(korvale.host.GetWindowRect(korvale.Handle()).width, 15360, 2);
+  Choose(korvale, {"View", "Target Window"});
+  EXPECT_EQ(Stored("Left"), "3000");
+  EXPECT_EQ(Stored("Width"), "9000");
+  korvale.host.ChangeTextSize(100);
+  EXPECT_EQ(Place(korvale).left, 3000);
+  EXPECT_EQ(Place(korvale).width, 9000);
+}
+
 TEST_F(MainWindowFrameTest, WithBiggerTextEveryPixelOfTheFrameCounts) {
   KorvaleCopy& korvale = NewCopy();
   StoreOption("SplashScreen", "False");

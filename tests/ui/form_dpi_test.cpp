@@ -40,9 +40,37 @@ TEST(FormDpiTest, AFormIsEnlargedOnlyAsFarAsItsContentFits) {
   EXPECT_EQ(FormDpi(96, 27, kDialog, 625, 900), 120);
 }
 
-TEST(FormDpiTest, WithoutRoomAFormKeepsItsUsualSize) {
-  EXPECT_EQ(FormDpi(96, 27, kDialog, 400, 900), 96);
-  EXPECT_EQ(FormDpi(96, 27, kDialog, -20, 0), 96);
+TEST(FormDpiTest, WithoutRoomAFormIsShrunkAsLongAsItsTextCanBeRead) {
+  EXPECT_EQ(FormDpi(96, 27, kDialog, 400, 900), 76);
+  EXPECT_EQ(FormDpi(96, 12, kDialog, 400, 900), 76);
+  // The options, 14010 twips wide, on a screen of 1366 by 768 pixels scaled to 150 %.
+  EXPECT_EQ(FormDpi(144, 18, {13920, 8000}, 1366 - 6, 720), 129);
+  EXPECT_EQ(FormDpi(144, 18, {13920, 7000}, 1366 - 6, 720), 140);
+  EXPECT_EQ(FormDpi(96, 27, kDialog, 100, 900), 64);
+  EXPECT_EQ(FormDpi(96, 27, kDialog, -20, 0), 64);
+}
+
+TEST(FormDpiTest, TheTextOfAFormIsNeverHigherThanItsLayoutHasRoomFor) {
+  EXPECT_EQ(FormTextHeight(96, 96, 12), 12);
+  EXPECT_EQ(FormTextHeight(96, 96, 11), 11);
+  EXPECT_EQ(FormTextHeight(96, 216, 27), 27);
+  // 13.5 and 13.1 pixels.
+  EXPECT_EQ(FormTextHeight(96, 108, 27), 13);
+  EXPECT_EQ(FormTextHeight(96, 105, 27), 13);
+  EXPECT_EQ(FormTextHeight(96, 76, 12), 9);
+  // Windows itself rounds 13.75.
+  EXPECT_EQ(FormTextHeight(110, 110, 14), 14);
+}
+
+TEST(FormDpiTest, AtEverySizeTheTextFitsItsFormAndTheFormItsRoom) {
+  for (int percent = 105; percent <= 225; ++percent) {
+    const int text = 12 * percent / 100;
+    for (int room = 400; room <= 1600; room += 7) {
+      const int dpi = FormDpi(96, text, kDialog, room, 900);
+      EXPECT_LE(500 * dpi, room * 96) << percent << " %, " << room;
+      EXPECT_LE(FormTextHeight(96, dpi, text) * 96, 12 * dpi) << percent << " %, " << room;
+    }
+  }
 }
 
 }  // namespace

@@ -56,16 +56,100 @@ TEST_F(FormTextSizeTest, ADialogBecomesSmallerWithTheWorkAreaAndComesBack) {
   EXPECT_EQ(OnScreen(dialog_).width, 5910);
 }
 
-TEST_F(FormTextSizeTest, AFormThatTheUserSizesKeepsItsTwipsAndGrowsBeyondNoRoom) {
+TEST_F(FormTextSizeTest, AFormThatTheUserSizesKeepsItsTwips) {
   RecordingForm strip(kStripDesign, forms_);
   strip.Show();
-  user_.Drag(strip.Handle(), {300, 300, 9000, strip.Place().height});
+  user_.Drag(strip.Handle(), {300, 300, 6000, strip.Place().height});
   const TwipsRect place = strip.Place();
   for (const int percent : {225, 100, 150, 100}) {
     host_.ChangeTextSize(percent);
     EXPECT_EQ(strip.Place(), place);
-    EXPECT_EQ(OnScreen(strip).width, 9000 * percent / 100);
+    EXPECT_EQ(OnScreen(strip).width, 60 * percent);
   }
+}
+
+/// A form that the user sizes, at the right edge of a screen of 15360 by 11100 twips.
+class StripTextSizeTest : public FormTextSizeTest {
+ protected:
+  StripTextSizeTest() {
+    strip_.Show();
+    user_.Drag(strip_.Handle(), kAtTheRight);
+  }
+
+  static constexpr TwipsRect kAtTheRight{9360, 300, 6000, 1500};
+  RecordingForm strip_{kStripDesign, forms_};
+};
+
+TEST_F(StripTextSizeTest, StaysOnTheScreenAndComesBack) {
+  for (const int percent : {150, 225, 150}) {
+    host_.ChangeTextSize(percent);
+    EXPECT_EQ(OnScreen(strip_).left, 15360 - 60 * percent);
+    EXPECT_EQ(OnScreen(strip_).width, 60 * percent);
+    EXPECT_EQ(strip_.PlaceToKeep(), kAtTheRight);
+  }
+  host_.ChangeTextSize(100);
+  EXPECT_EQ(strip_.Place(), kAtTheRight);
+}
+
+TEST_F(StripTextSizeTest, IsAsNarrowAsTheScreenWhereItMustBe) {
+  user_.Drag(strip_.Handle(), {1500, 300, 9000, 1500});
+  host_.ChangeTextSize(225);
+  EXPECT_EQ(OnScreen(strip_).left, 0);
+  EXPECT_NEAR(OnScreen(strip_).width, 15360, 2);
+  EXPECT_EQ(strip_.PlaceToKeep(), (TwipsRect{1500, 300, 9000, 1500}));
+  host_.ChangeTextSize(150);
+  EXPECT_EQ(OnScreen(strip_).width, 13500);
+  host_.ChangeTextSize(100);
+  EXPECT_EQ(strip_.Place(), (TwipsRect{1500, 300, 9000, 1500}));
+}
+
+TEST_F(StripTextSizeTest, StaysBeyondTheEdgeWhereTheUserHasPutIt) {
+  user_.Drag(strip_.Handle(), {12000, 300, 6000, 1500});
+  host_.ChangeTextSize(150);
+  EXPECT_EQ(strip_.Place(), (TwipsRect{12000, 300, 6000, 1500}));
+}
+
+TEST_F(StripTextSizeTest, FollowsTheWorkAreaThereAndBack) {
+  host_.ChangeWorkArea({0, 0, 13000, 11100});
+  EXPECT_EQ(strip_.Place().left, 7000);
+  host_.ChangeWorkArea({600, 0, 5400, 11100});
+  EXPECT_EQ(OnScreen(strip_), (TwipsRect{600, 300, 5400, 1500}));
+  host_.ChangeWorkArea({0, 0, 15360, 11100});
+  EXPECT_EQ(strip_.Place(), kAtTheRight);
+}
+
+TEST_F(StripTextSizeTest, KeepsTheSizeThatTheUserGivesItMeanwhile) {
+  host_.ChangeTextSize(225);
+  user_.Drag(strip_.Handle(), {300, 600, 4000, 1500});
+  host_.ChangeTextSize(100);
+  EXPECT_EQ(strip_.Place(), (TwipsRect{300, 600, 4000, 1500}));
+}
+
+TEST_F(StripTextSizeTest, KeepsItsWidthWhereTheUserMovesItMeanwhile) {
+  user_.Drag(strip_.Handle(), {1500, 300, 9000, 1500});
+  host_.ChangeTextSize(225);
+  TwipsRect moved = strip_.Place();
+  moved.top = 3000;
+  user_.Drag(strip_.Handle(), moved);
+  host_.ChangeTextSize(100);
+  EXPECT_EQ(strip_.Place(), (TwipsRect{0, 3000, 9000, 1500}));
+}
+
+TEST_F(StripTextSizeTest, ComesUpOnTheScreenWhenItWasMinimizedMeanwhile) {
+  strip_.SetWindowState(ShowState::kMinimized);
+  host_.ChangeTextSize(150);
+  strip_.SetWindowState(ShowState::kNormal);
+  EXPECT_EQ(OnScreen(strip_).left, 15360 - 9000);
+}
+
+TEST_F(FormTextSizeTest, AnOpenListClosesAndItsFormIsTold) {
+  form_.Show();
+  Lines told;
+  form_.WhenClosedUp("cboSize", [&](int) { told.emplace_back("closed"); });
+  user_.OpenList(form_.Handle(), Id(form_, "cboSize"));
+  host_.ChangeTextSize(150);
+  EXPECT_EQ(told, Lines{"closed"});
+  EXPECT_FALSE(user_.IsListOpen(form_.Handle(), Id(form_, "cboSize")));
 }
 
 TEST_F(FormTextSizeTest, AMaximizedFormFillsTheScreenAtEverySize) {

@@ -70,6 +70,13 @@ void FormControls::MakeFont() {
   font_ = std::move(font);
 }
 
+void FormControls::CloseLists() const {
+  for (std::size_t control = 1; control <= windows_.size(); ++control) {
+    const int id = static_cast<int>(control);
+    if (IsListDropped(id)) SendMessageW(Window(id), CB_SHOWDROPDOWN, FALSE, 0);
+  }
+}
+
 void FormControls::Rescale() {
   const bool outer = std::exchange(updating_, true);
   MakeFont();

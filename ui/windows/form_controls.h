@@ -27,6 +27,8 @@ class FormControls {
   void Drop() { toolTips_.Drop(); }
   /// Shows what has changed in the model.
   void Update(int control, ControlProperty property);
+  /// Closes every open list; its owner is told as if the user had done it.
+  void CloseLists() const;
   /// The scale of the form has changed.
   void Rescale();
   /// Common controls learn only from their form that the system's colours have changed.

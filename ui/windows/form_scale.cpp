@@ -1,6 +1,5 @@
 #include "ui/windows/form_scale.h"
 
-#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 
@@ -10,15 +9,20 @@
 namespace korvale {
 namespace {
 
-SIZE WorkAreaAround(HWND window) {
+HMONITOR MonitorOf(HWND window) {
+  // Without a window it is the primary monitor.
+  return window != nullptr ? MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST)
+                           : MonitorFromPoint({}, MONITOR_DEFAULTTOPRIMARY);
+}
+
+RECT WorkAreaOf(HMONITOR monitor) {
   MONITORINFO info{};
   info.cbSize = sizeof(info);
-  // Without a window it is the primary monitor.
-  const HMONITOR monitor = window != nullptr ? MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST)
-                                             : MonitorFromPoint({}, MONITOR_DEFAULTTOPRIMARY);
   GetMonitorInfoW(monitor, &info);
-  return {info.rcWork.right - info.rcWork.left, info.rcWork.bottom - info.rcWork.top};
+  return info.rcWork;
 }
+
+int TextHeight(const LOGFONTW& font) { return static_cast<int>(std::abs(font.lfHeight)); }
 
 }  // namespace
 
@@ -50,25 +54,41 @@ RECT FormFrame(const FormState& form, UINT dpi) {
   return frame;
 }
 
-FormScale::FormScale(const FormState& form, HWND window) {
-  const UINT dpi = window != nullptr ? GetDpiForWindow(window) : GetDpiForSystem();
-  metrics_ = SystemMetricsFor(dpi);
-  const SIZE area = WorkAreaAround(window);
+FormScale::FormScale(const FormState& form, HWND window)
+    : FormScale(form, window, window != nullptr ? GetDpiForWindow(window) : GetDpiForSystem()) {}
+
+FormScale::FormScale(const FormState& form, HWND window, UINT dpi)
+    : metrics_(SystemMetricsFor(dpi)),
+      workArea_(WorkAreaOf(MonitorOf(window))),
+      monitor_(MonitorOf(window)),
+      monitorDpi_(dpi) {
   const RECT frame = FormFrame(form, dpi);
-  dpi_ = static_cast<UINT>(
-      FormDpi(static_cast<int>(dpi), static_cast<int>(std::abs(metrics_.lfMessageFont.lfHeight)),
-              form.content, static_cast<int>(area.cx - (frame.right - frame.left)),
-              static_cast<int>(area.cy - (frame.bottom - frame.top))));
+  const LONG width = workArea_.right - workArea_.left - (frame.right - frame.left);
+  const LONG height = workArea_.bottom - workArea_.top - (frame.bottom - frame.top);
+  dpi_ =
+      static_cast<UINT>(FormDpi(static_cast<int>(dpi), TextHeight(metrics_.lfMessageFont),
+                                form.content, static_cast<int>(width), static_cast<int>(height)));
+}
+
+void FormScale::FollowTo(HWND window) {
+  const HMONITOR monitor = MonitorOf(window);
+  if (monitor == monitor_) return;
+  monitor_ = monitor;
+  workArea_ = WorkAreaOf(monitor);
+}
+
+bool FormScale::LooksLike(const FormScale& other) const {
+  return dpi_ == other.dpi_ && std::memcmp(&metrics_, &other.metrics_, sizeof(metrics_)) == 0;
 }
 
 bool operator==(const FormScale& one, const FormScale& other) {
-  return one.dpi_ == other.dpi_ &&
-         std::memcmp(&one.metrics_, &other.metrics_, sizeof(one.metrics_)) == 0;
+  return one.LooksLike(other) && EqualRect(&one.workArea_, &other.workArea_) != FALSE;
 }
 
 UniqueFont FormScale::MakeFont(LOGFONTW font) const {
-  const LONG highest = UsualTextHeight(static_cast<int>(dpi_));
-  font.lfHeight = std::clamp(font.lfHeight, -highest, highest);
+  const int height =
+      FormTextHeight(static_cast<int>(monitorDpi_), static_cast<int>(dpi_), TextHeight(font));
+  font.lfHeight = font.lfHeight < 0 ? -height : height;
   return UniqueFont(CreateFontIndirectW(&font));
 }
 

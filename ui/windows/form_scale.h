@@ -14,6 +14,8 @@ class FormScale {
   FormScale() = default;
   /// As the user has it now; `window` is null for a form that has none yet.
   FormScale(const FormState& form, HWND window);
+  /// As it would be on a monitor of so many dots per inch.
+  FormScale(const FormState& form, HWND window, UINT dpi);
 
   /// The dots per inch of places and sizes.
   UINT Dpi() const { return dpi_; }
@@ -21,13 +23,21 @@ class FormScale {
   UniqueFont MakeMessageFont() const { return MakeFont(metrics_.lfMessageFont); }
   UniqueFont MakeToolTipFont() const { return MakeFont(metrics_.lfStatusFont); }
 
-  /// Nothing that the looks of a form depend on differs.
+  /// The window has been moved: the work area is that of the monitor where it is now.
+  void FollowTo(HWND window);
+
+  /// The form looks the same.
+  bool LooksLike(const FormScale& other) const;
+  /// Neither the looks of the form nor the work area around it differ.
   friend bool operator==(const FormScale& one, const FormScale& other);
 
  private:
   UniqueFont MakeFont(LOGFONTW font) const;
 
   NONCLIENTMETRICSW metrics_{};
+  RECT workArea_{};
+  HMONITOR monitor_ = nullptr;
+  UINT monitorDpi_ = USER_DEFAULT_SCREEN_DPI;
   UINT dpi_ = USER_DEFAULT_SCREEN_DPI;
 };
 

@@ -4,6 +4,7 @@
 #include <commctrl.h>
 
 #include "platform/windows/text.h"
+#include "ui/spoken_name.h"
 #include "ui/windows/control_window.h"
 #include "ui/windows/message_guard.h"
 #include "ui/windows/screen_reader.h"
@@ -44,6 +45,7 @@ HWND FormWindow::Create(HWND owner, FormEvents& events) {
   const std::wstring className = classes_->Register(form_->name, FormProcedure);
   const std::wstring pageClass = classes_->Register("Page", PageProcedure);
   const PixelPlace place = ToScreenPixels(form_->place, scale_.Dpi());
+  restored_ = {form_->place.width, form_->place.height};
   hwnd_ = ::CreateWindowExW(FormExStyle(*form_), className.c_str(), ToUtf16(form_->caption).c_str(),
                             FormStyle(*form_), place.left, place.top, place.width, place.height,
                             owner, nullptr, classes_->Instance(), this);
@@ -82,7 +84,10 @@ void FormWindow::Watch(HWND control, int id) {
   Watch(FindWindowExW(control, nullptr, WC_EDITW, nullptr), id);
 }
 
-void FormWindow::ShowCaption() { ::SetWindowTextW(hwnd_, ToUtf16(form_->caption).c_str()); }
+void FormWindow::ShowCaption() {
+  ::SetWindowTextW(hwnd_, ToUtf16(form_->caption).c_str());
+  if (IsWindowVisible(hwnd_) != FALSE) TellName();
+}
 
 void FormWindow::ShowMenuBar() {
   barOutdated_ = menuOpen_;  // A menu must not change under the user.
@@ -93,12 +98,19 @@ void FormWindow::Show(int command) {
   // A window that comes up under the mouse does not mean that the mouse has moved.
   GetCursorPos(&lastMouse_);
   const bool shown = IsWindowVisible(hwnd_) != FALSE;
+  if (!shown) TellName();
   ::ShowWindow(hwnd_, command);
   if (!shown) Announce();
 }
 
+void FormWindow::TellName() const {
+  if (form_->role != FormRole::kWindow) korvale::TellName(hwnd_, SpokenName(*form_));
+}
+
 void FormWindow::Announce() const {
-  if (form_->role == FormRole::kAlert && IsWindowVisible(hwnd_) != FALSE) AnnounceAlert(hwnd_);
+  if (form_->role != FormRole::kAlert || IsWindowVisible(hwnd_) == FALSE) return;
+  TellName();
+  AnnounceAlert(hwnd_);
 }
 
 void FormWindow::SetFocus(int control) {
@@ -158,8 +170,12 @@ LRESULT FormWindow::Process(UINT message, WPARAM wParam, LPARAM lParam) {
   if (const auto result = HandleMouse(message, wParam, lParam)) return *result;
   const LRESULT result = DefWindowProcW(hwnd, message, wParam, lParam);
   switch (message) {
+    case WM_GETDPISCALEDSIZE:
+      return ScaledSize(wParam, lParam).value_or(result);
     case WM_ACTIVATE:
       if (LOWORD(wParam) != WA_INACTIVE) {
+        // The message that tells of other sizes may have been missed.
+        HandleLook(message, wParam, lParam);
         events_.Tell([](FormEvents& events) { events.OnActivated(); });
       }
       break;

@@ -42,6 +42,8 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   void ShowPlace();
   void ShowMenuBar();
   void Show(int command);
+  /// Tells screen readers what a form is called that is more than a window to work in.
+  void TellName() const;
   /// Lets screen readers read an alert that is shown; no other form is one.
   void Announce() const;
   void SetFocus(int control);
@@ -89,9 +91,12 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   /// Gives the controls the sizes and fonts that are right now; false when they have them.
   bool Rescale();
   /// The window keeps its size in twips, which was another one in pixels.
-  void Resize(UINT formerDpi);
+  void Resize();
   /// Resizes what a minimized or maximized window will be restored to.
-  void ResizeRestored(UINT formerDpi);
+  void ResizeRestored();
+  /// Tells Windows the size that the form will take at these dots per inch (WM_GETDPISCALEDSIZE);
+  /// nothing where it is in proportion.
+  std::optional<LRESULT> ScaledSize(WPARAM dpi, LPARAM wanted) const;
   void OnDpiChanged(UINT dpi, LPARAM wanted);
   void OnMetricsChanged();
   void OnColorsChanged();
@@ -110,6 +115,7 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   UniqueIcon largeIcon_;
   UniqueIcon smallIcon_;
   HWND hwnd_ = nullptr;
+  TwipsSize restored_;        // The size that it is restored to.
   POINT lastMouse_{};         // The last reported place of the mouse, on the screen.
   bool placing_ = false;      // The window is being placed by the model.
   bool watched_ = false;      // The window and its controls are complete.

@@ -11,13 +11,14 @@ void FormWindow::HandleLook(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_DPICHANGED:
       OnDpiChanged(LOWORD(wParam), lParam);
       break;
+    case WM_ACTIVATE:
     case WM_SETTINGCHANGE:
     case WM_DISPLAYCHANGE:
     case WM_THEMECHANGED:
     case WM_SYSCOLORCHANGE:
       // Whoever sends them: what counts is what has changed, not what the message says.
       OnMetricsChanged();
-      OnColorsChanged();
+      if (hwnd_ != nullptr) OnColorsChanged();
       break;
     default:
       break;
@@ -40,15 +41,16 @@ void FormWindow::ShowIcons() {
 bool FormWindow::Rescale() {
   const FormScale now(*form_, hwnd_);
   if (now == scale_) return false;
+  const bool looksOther = !now.LooksLike(scale_);
   scale_ = now;
-  controls_.Rescale();
+  if (looksOther) controls_.Rescale();
   return true;
 }
 
-void FormWindow::Resize(UINT formerDpi) {
+void FormWindow::Resize() {
   placing_ = true;
   if (IsIconic(hwnd_) != FALSE || IsZoomed(hwnd_) != FALSE) {
-    ResizeRestored(formerDpi);
+    ResizeRestored();
   } else {
     const PixelPlace place = ToScreenPixels(form_->place, scale_.Dpi());
     SetWindowPos(hwnd_, nullptr, place.left, place.top, place.width, place.height,
@@ -58,29 +60,40 @@ void FormWindow::Resize(UINT formerDpi) {
   TellPlaced();
 }
 
-void FormWindow::ResizeRestored(UINT formerDpi) {
+void FormWindow::ResizeRestored() {
   WINDOWPLACEMENT placement{};
   placement.length = sizeof(placement);
   GetWindowPlacement(hwnd_, &placement);
-  const auto scaled = [&](LONG length) {
-    return MulDiv(length, static_cast<int>(scale_.Dpi()), static_cast<int>(formerDpi));
-  };
   RECT& normal = placement.rcNormalPosition;
-  normal.right = normal.left + scaled(normal.right - normal.left);
-  normal.bottom = normal.top + scaled(normal.bottom - normal.top);
+  normal.right = normal.left + ToPixels(restored_.width, scale_.Dpi());
+  normal.bottom = normal.top + ToPixels(restored_.height, scale_.Dpi());
   placement.showCmd = IsWindowVisible(hwnd_) != FALSE ? SW_SHOWNA : SW_HIDE;
   SetWindowPlacement(hwnd_, &placement);
+}
+
+std::optional<LRESULT> FormWindow::ScaledSize(WPARAM dpi, LPARAM wanted) const {
+  constexpr WPARAM kMostDots = 10 * USER_DEFAULT_SCREEN_DPI;
+  // Others cannot know an address in our memory.
+  const bool known = form_->content != TwipsSize{} && wanted != 0 && !IsSentByOthers();
+  if (!known || dpi == 0 || dpi > kMostDots) return std::nullopt;
+  const FormScale scale(*form_, hwnd_, static_cast<UINT>(dpi));
+  *reinterpret_cast<SIZE*>(wanted) = {ToPixels(form_->place.width, scale.Dpi()),
+                                      ToPixels(form_->place.height, scale.Dpi())};
+  return TRUE;
 }
 
 void FormWindow::OnDpiChanged(UINT dpi, LPARAM wanted) {
   RECT place{};
   const bool forged = IsSentByOthers() && dpi != GetDpiForWindow(hwnd_);
   if (forged || !ReadParameter(wanted, place)) return;
+  controls_.CloseLists();
+  if (hwnd_ == nullptr) return;
   scale_ = FormScale(*form_, hwnd_);
   controls_.Rescale();
   ShowIcons();
   SIZE size{place.right - place.left, place.bottom - place.top};
-  // Windows does not know that a dialog grows only as far as there is room for it.
+  // Where Windows has not asked for it first, it does not know that a dialog grows only as far as
+  // there is room for it.
   if (form_->content != TwipsSize{}) {
     size = {ToPixels(form_->place.width, scale_.Dpi()),
             ToPixels(form_->place.height, scale_.Dpi())};
@@ -91,9 +104,12 @@ void FormWindow::OnDpiChanged(UINT dpi, LPARAM wanted) {
 }
 
 void FormWindow::OnMetricsChanged() {
-  const UINT former = scale_.Dpi();
-  if (!Rescale()) return;
-  Resize(former);
+  if (!watched_ || destroying_) return;
+  // A list that is given another size while it is open closes without a notification.
+  if (FormScale(*form_, hwnd_) != scale_) controls_.CloseLists();
+  if (hwnd_ == nullptr || !Rescale()) return;
+  ShowIcons();
+  Resize();
   events_.Tell([](FormEvents& events) { events.OnMetricsChanged(); });
 }
 

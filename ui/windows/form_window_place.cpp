@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "ui/windows/form_window.h"
 #include "ui/windows/message_guard.h"
 #include "ui/windows/units.h"
@@ -10,19 +12,26 @@ void FormWindow::ShowPlace() {
     ::MoveWindow(hwnd_, place.left, place.top, place.width, place.height, TRUE);
   };
   placing_ = true;
-  Rescale();
+  // What the user has changed since then must not be lost to the message that tells of it.
+  const bool changed = Rescale();
   move();
   // It may have come to a monitor with more or less room.
+  scale_.FollowTo(hwnd_);
   const bool other = Rescale();
   if (other) move();
   placing_ = false;
   TellPlaced();
-  if (other) events_.Tell([](FormEvents& events) { events.OnDpiChanged(); });
+  if (changed) {
+    events_.Tell([](FormEvents& events) { events.OnMetricsChanged(); });
+  } else if (other) {
+    events_.Tell([](FormEvents& events) { events.OnDpiChanged(); });
+  }
 }
 
 void FormWindow::TellPlaced() {
   // One placing by the model is one event, reported when all of it is done.
   if (placing_ || !events_.Connected()) return;
+  scale_.FollowTo(hwnd_);
   ShowState state = ShowState::kNormal;
   if (IsIconic(hwnd_) != FALSE) state = ShowState::kMinimized;
   if (IsZoomed(hwnd_) != FALSE) state = ShowState::kMaximized;
@@ -35,6 +44,7 @@ void FormWindow::TellPlaced() {
     const PixelPlace actual = {rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top};
     if (actual != ToScreenPixels(place, dpi)) place = ToScreenTwips(rect, dpi);
   }
+  if (state == ShowState::kNormal) restored_ = {place.width, place.height};
   events_.Tell([&](FormEvents& events) { events.OnPlaced(state, place); });
 }
 
@@ -42,6 +52,8 @@ void FormWindow::LimitSize(MINMAXINFO& limits) const {
   // The form itself decides how small it may be.
   const UINT dpi = scale_.Dpi();
   limits.ptMinTrackSize = {ToPixels(form_->limits.minimumWidth, dpi), 0};
+  limits.ptMaxTrackSize.x =
+      std::max<LONG>(limits.ptMaxTrackSize.x, ToPixels(form_->place.width, dpi));
   if (form_->limits.height == 0) return;
   const LONG height = ToPixels(form_->limits.height, dpi);
   limits.ptMinTrackSize.y = height;

@@ -64,6 +64,7 @@ constexpr UINT kNeverQueued[] = {WM_CREATE,
                                  WM_ENTERSIZEMOVE,
                                  WM_EXITSIZEMOVE,
                                  WM_DPICHANGED,
+                                 WM_GETDPISCALEDSIZE,
                                  WM_PARENTNOTIFY,
                                  WM_UNINITMENUPOPUP};
 

@@ -9,7 +9,7 @@
 namespace korvale {
 
 /// The sizes and fonts that the user has chosen for all windows, at these dots per inch
-/// (SystemParametersInfoForDpi).
+/// (SystemParametersInfoForDpi); the same sizes and fonts are the same bytes.
 NONCLIENTMETRICSW SystemMetricsFor(UINT dpi);
 
 /// The width of a text in one line, in pixels (GetTextExtentPoint32).

@@ -39,8 +39,12 @@ TwipsRect WindowsScreen::GetWindowRect(WindowHandle hwnd) {
 }
 
 int WindowsScreen::GetDpiForWindow(WindowHandle hwnd) {
+  return static_cast<int>(::GetDpiForWindow(ToHwnd(hwnd)));
+}
+
+int WindowsScreen::GetDpiOfForm(WindowHandle hwnd) {
   const auto form = forms_->Find(hwnd);
-  return static_cast<int>(form != nullptr ? form->Scale().Dpi() : ::GetDpiForWindow(ToHwnd(hwnd)));
+  return form != nullptr ? static_cast<int>(form->Scale().Dpi()) : GetDpiForWindow(hwnd);
 }
 
 Twips WindowsScreen::GetTextExtentPoint32W(WindowHandle hwnd, const std::string& text) {

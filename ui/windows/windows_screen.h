@@ -15,6 +15,7 @@ class WindowsScreen : public ScreenQueries {
   TwipsRect MonitorFromPoint() override;
   TwipsRect GetWindowRect(WindowHandle hwnd) override;
   int GetDpiForWindow(WindowHandle hwnd) override;
+  int GetDpiOfForm(WindowHandle hwnd) override;
   Twips GetTextExtentPoint32W(WindowHandle hwnd, const std::string& text) override;
   Color GetSysColor(Color color) override;
   bool HighContrast() override;

@@ -9,6 +9,7 @@
 #include "tests/endtoend/contract/real_form.h"
 #include "tests/endtoend/harness/layout.h"
 #include "tests/endtoend/harness/text_size.h"
+#include "ui/windows/units.h"
 
 namespace korvale {
 namespace {
@@ -21,6 +22,14 @@ class WindowsTextSizeTest : public RealForm {
   void Change(int percent) {
     size_.Change(percent);
     Settle();
+  }
+  /// No window is told.
+  static void ChangeUntold(int percent) {
+    NONCLIENTMETRICSW metrics{};
+    metrics.cbSize = sizeof(metrics);
+    SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof(metrics), &metrics, 0);
+    metrics.lfMessageFont.lfHeight = -12 * percent / 100;
+    SystemParametersInfoW(SPI_SETNONCLIENTMETRICS, sizeof(metrics), &metrics, 0);
   }
   static SIZE SizeOf(HWND window) { return endtoend::SizeOf(endtoend::Window(window)); }
   HWND Strip() const { return ToHwnd(strip_.Handle()); }
@@ -95,6 +104,94 @@ TEST_F(WindowsTextSizeTest, AFormThatTheUserSizesKeepsItsTwips) {
     EXPECT_EQ(SizeOf(Strip()).cx, 400 * percent / 100);
     EXPECT_EQ(strip_.Place(), place);
   }
+}
+
+TEST_F(WindowsTextSizeTest, AFormAtTheRightEdgeStaysOnTheScreenAndComesBack) {
+  strip_.Show();
+  const TwipsRect area = Screen().GetMonitorInfoW(strip_.Handle());
+  TwipsRect place = strip_.Place();
+  place.left = area.left + area.width - place.width;
+  strip_.SetPlace(place);
+  Change(200);
+  EXPECT_EQ(SizeOf(Strip()).cx, 800);
+  EXPECT_EQ(Screen().GetWindowRect(strip_.Handle()).left, area.left + area.width - 12000);
+  Change(100);
+  EXPECT_EQ(strip_.Place(), place);
+}
+
+TEST_F(WindowsTextSizeTest, AFormWiderThanTheScreenIsNarrowedAndComesBack) {
+  strip_.Show();
+  const TwipsRect area = Screen().GetMonitorInfoW(strip_.Handle());
+  const TwipsRect place = {area.left, 900, area.width - 300, 1500};
+  strip_.SetPlace(place);
+  Change(225);
+  EXPECT_NEAR(Screen().GetWindowRect(strip_.Handle()).width, area.width, 15);
+  EXPECT_EQ(strip_.PlaceToKeep(), place);
+  Change(100);
+  EXPECT_EQ(strip_.Place(), place);
+}
+
+TEST_F(WindowsTextSizeTest, FormsFollowTheWorkArea) {
+  strip_.Show();
+  const TwipsRect area = Screen().GetMonitorInfoW(strip_.Handle());
+  TwipsRect place = strip_.Place();
+  place.left = area.left + area.width - place.width;
+  strip_.SetPlace(place);
+  RECT before{};
+  SystemParametersInfoW(SPI_GETWORKAREA, 0, &before, 0);
+  RECT narrow = before;
+  narrow.right -= 100;
+  SystemParametersInfoW(SPI_SETWORKAREA, 0, &narrow, SPIF_SENDCHANGE);
+  Settle();
+  const bool known = Screen().GetMonitorInfoW(strip_.Handle()) != area;
+  const Twips left = strip_.Place().left;
+  SystemParametersInfoW(SPI_SETWORKAREA, 0, &before, SPIF_SENDCHANGE);
+  Settle();
+  if (!known) GTEST_SKIP() << "the monitors of the system keep their work areas";
+  EXPECT_EQ(left, place.left - 1500);
+  EXPECT_EQ(strip_.Place(), place);
+}
+
+TEST_F(WindowsTextSizeTest, EveryMessageThatMayTellOfItIsHeard) {
+  ShowForm();
+  for (const UINT message :
+       {WM_SETTINGCHANGE, WM_THEMECHANGED, WM_DISPLAYCHANGE, WM_SYSCOLORCHANGE, WM_ACTIVATE}) {
+    ChangeUntold(150);
+    EXPECT_EQ(SizeOf(Control("txtName")).cx, 200) << message;
+    SendMessageW(Hwnd(), message, WA_ACTIVE, 0);
+    EXPECT_EQ(SizeOf(Control("txtName")).cx, 300) << message;
+    Change(100);
+  }
+}
+
+TEST_F(WindowsTextSizeTest, AnOpenListClosesAndItsFormIsTold) {
+  ShowForm();
+  int closed = 0;
+  form_.WhenClosedUp("cboSize", [&](int) { ++closed; });
+  User().OpenList(Window(), Id("cboSize"));
+  Change(150);
+  EXPECT_EQ(closed, 1);
+  EXPECT_FALSE(User().IsListOpen(Window(), Id("cboSize")));
+}
+
+TEST_F(WindowsTextSizeTest, ADialogTellsTheSizeThatItWillTakeOnAnotherMonitor) {
+  ShowForm();
+  strip_.Show();
+  const auto ask = [](HWND window, WPARAM dpi, SIZE& size) {
+    return SendMessageW(window, WM_GETDPISCALEDSIZE, dpi, reinterpret_cast<LPARAM>(&size));
+  };
+  SIZE size{};
+  EXPECT_EQ(ask(Hwnd(), 120, size), TRUE);
+  EXPECT_NEAR(size.cx, SizeOf(Hwnd()).cx * 5 / 4, 1);
+  EXPECT_NEAR(size.cy, SizeOf(Hwnd()).cy * 5 / 4, 1);
+  EXPECT_EQ(ask(Hwnd(), 960, size), TRUE);
+  EXPECT_LE(ToTwips(size.cy, 96), Screen().GetMonitorInfoW(Window()).height);
+  // Windows sizes the others in proportion.
+  EXPECT_EQ(ask(Strip(), 120, size), FALSE);
+  for (const LPARAM wild : {LPARAM{-1}, LPARAM{64}}) {
+    PostMessageW(Hwnd(), WM_GETDPISCALEDSIZE, 120, wild);
+  }
+  Settle();
 }
 
 TEST_F(WindowsTextSizeTest, AMinimizedFormIsRestoredToItsTwipsAndStaysInactive) {
