@@ -68,6 +68,21 @@ TEST_F(AddWindowTest, NarrowsTheListOfTagsThatIsClosedWithoutAChoice) {
   EXPECT_TRUE(RemoveEnabled());
 }
 
+TEST_F(AddWindowTest, IsADialogToScreenReaders) {
+  EXPECT_EQ(dialog_.State().role, FormRole::kDialog);
+}
+
+TEST_F(AddWindowTest, NarrowsTheListOfTagsThatClosesBecauseTheTextChanges) {
+  Assign(1, "Mail");
+  OpenDialogFor("Notes");
+  PickTag(1);
+  const Twips width = TagWidth();
+  user_.OpenList(dialog_.Handle(), Id(dialog_, "cboWindow"));
+  host_.ChangeTextSize(150);
+  EXPECT_EQ(TagWidth(), width);
+  EXPECT_TRUE(RemoveEnabled());
+}
+
 TEST_F(AddWindowTest, TheOpenListStaysWideWhileTheArrowsGoThroughIt) {
   Assign(2, "Mail");
   OpenDialogFor("Notes");

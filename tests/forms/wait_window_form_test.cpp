@@ -30,6 +30,7 @@ TEST_F(WaitWindowTest, ShowsCaptionAndText) {
 }
 
 TEST_F(WaitWindowTest, IsReadOutToThoseWhoDoNotSeeIt) {
+  EXPECT_EQ(form_.State().role, FormRole::kAlert);
   host_.WhenWaiting([] {});
   ShowWaitWindow();
   EXPECT_EQ(host_.Announced(),
