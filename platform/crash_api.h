@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace korvale {
@@ -25,8 +26,11 @@ class CrashApi {
   /// since their thread may be the one that stands still. The process ends when it returns, and at
   /// once when it crashes too. An empty one takes the former one back.
   virtual void SetUnhandledExceptionFilter(std::function<void(const Crash&)> filter) = 0;
+  /// Ends the process after that many milliseconds, even when the filter hangs, unless this is
+  /// called again; never without a number. Only while the filter runs.
+  virtual void TerminateProcessAfter(std::optional<std::uint32_t> milliseconds) = 0;
   /// Writes the state of the program at its crash to a file for a debugger, in place of a former
-  /// one; false when that failed. Only while the filter runs.
+  /// one; false when that failed, which leaves no file. Only while the filter runs.
   virtual bool MiniDumpWriteDump(const std::string& path) = 0;
 };
 

@@ -73,7 +73,7 @@ class SystemApi {
   virtual bool FileExists(const std::string& path) = 0;
   /// Opens a file at its end, creating it when it is missing, and writes the pieces one after the
   /// other; failing to write one does not stop the others. False when the file could not be opened
-  /// (CreateFileW, WriteFile).
+  /// or lacks any of them (CreateFileW, WriteFile).
   virtual bool AppendToFile(const std::string& path, std::span<const std::string> pieces) = 0;
   /// Whether AppendToFile could open this file now; neither creates nor changes anything
   /// (CreateFileW on the file, or on its folder when there is no such file).
@@ -82,6 +82,7 @@ class SystemApi {
   virtual bool CreateDirectoryW(const std::string& path) = 0;
   /// The names of the files that match a path whose last component may hold "*" and "?".
   virtual std::vector<std::string> FindFirstFileW(const std::string& pattern) = 0;
+  /// True when the file was there and is gone.
   virtual bool DeleteFileW(const std::string& path) = 0;
   /// The user's own folder for data of programs on this computer, without a closing backslash; ""
   /// on failure (FOLDERID_LocalAppData).

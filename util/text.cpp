@@ -131,6 +131,8 @@ std::string PadText(std::string_view text, std::int16_t width, std::string_view 
   return result;
 }
 
+std::string TwoDigits(int number) { return PadText(DecimalText(number), 2, "LEFT_ZEROES"); }
+
 std::string OnOneLine(std::string_view text) {
   std::string line;
   line.reserve(text.size());

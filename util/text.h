@@ -36,6 +36,9 @@ bool EqualsIgnoreCase(std::string_view left, std::string_view right);
 /// and when the text is longer, it stays unchanged.
 std::string PadText(std::string_view text, std::int16_t width, std::string_view mode);
 
+/// A number from 0 on with at least two digits, as in dates.
+std::string TwoDigits(int number);
+
 /// Stands for the rest of a text that is cut.
 inline constexpr const char* kEllipsis = "...";
 

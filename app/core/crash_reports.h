@@ -4,7 +4,6 @@
 #include <string>
 
 #include "app/core/error_log.h"
-#include "app/core/error_reports.h"
 #include "app/core/message_boxes.h"
 #include "platform/clock.h"
 #include "platform/crash_api.h"
@@ -14,40 +13,43 @@
 
 namespace korvale {
 
-/// Message boxes that ask nothing of any window, in front of those that are always on top.
+/// Message boxes that ask nothing of any window, in front of those that are always on top. While
+/// one is open, the user may take any time.
 class UnownedMessageBoxes : public MessageBoxes {
  public:
-  explicit UnownedMessageBoxes(SystemDialogs& dialogs) : dialogs_(&dialogs) {}
+  UnownedMessageBoxes(SystemDialogs& dialogs, CrashApi& crashes)
+      : dialogs_(&dialogs), crashes_(&crashes) {}
 
   std::int16_t ShowMessageBox(const std::string& prompt, std::int32_t buttons,
-                              const std::string& title) override {
-    return dialogs_->MessageBoxW(0, prompt, title, buttons | win32::kMbTopmost);
-  }
+                              const std::string& title) override;
 
  private:
   SystemDialogs* dialogs_;
+  CrashApi* crashes_;
 };
 
 /// Reports a crash of the program from a thread beside the one that crashed. What belongs to the
 /// main window's thread, such as hot keys and forms, goes with the process.
 class CrashReports {
  public:
+  /// `log` is only used during a report.
   CrashReports(SystemDialogs& dialogs, ErrorLog& log, SystemApi& system, CrashApi& crashes,
                Clock& clock);
 
-  /// Tells the user, appends a record to the error log and writes a dump beside it; keeps a few
-  /// dumps of former crashes.
+  /// Tells the user, appends a record to the error log and writes a dump beside it or, when that
+  /// fails, into the other folder of the log; keeps a few dumps of former crashes. What takes long
+  /// without the user ends the process.
   void Report(const Crash& crash);
 
  private:
-  void WriteDump();
+  void WriteDump(const std::string& folder);
+  bool WriteDumpInto(const std::string& folder, const std::string& name);
 
   UnownedMessageBoxes messages_;
   ErrorLog* log_;
   SystemApi* system_;
   CrashApi* crashes_;
   Clock* clock_;
-  ErrorReports reports_;
 };
 
 }  // namespace korvale

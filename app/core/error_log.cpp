@@ -15,8 +15,6 @@ constexpr const char* kFileName = "Error.log";
 constexpr std::array<std::string_view, 7> kDayNames = {"Sun", "Mon", "Tue", "Wed",
                                                        "Thu", "Fri", "Sat"};
 
-std::string TwoDigits(int number) { return PadText(DecimalText(number), 2, "LEFT_ZEROES"); }
-
 std::string DateLine(const LocalTime& time) {
   std::string line = "-- ";
   line += kDayNames.at(static_cast<std::size_t>(time.dayOfWeek));
@@ -34,23 +32,33 @@ ErrorLog::ErrorLog(const ProgramIdentity& identity, SystemApi& system, Clock& cl
                    std::function<ErrorLogState()> state)
     : identity_(&identity), system_(&system), clock_(&clock), state_(std::move(state)) {}
 
+std::string ErrorLog::UsersFolder() const {
+  return identity_->localAppData.empty() ? ""
+                                         : identity_->localAppData + "\\" + kProductName + "\\";
+}
+
 std::string ErrorLog::Folder() const {
   const std::string& own = identity_->programFolder;
   if (system_->CanAppendToFile(own + kFileName)) return own;
-  const std::string data = system_->SHGetKnownFolderPath();
-  return data.empty() ? own : data + "\\" + kProductName + "\\";
+  const std::string users = UsersFolder();
+  return users.empty() ? own : users;
 }
 
-std::string ErrorLog::OtherFolderText() const {
-  std::string folder = Folder();
+std::string ErrorLog::OtherFolder(const std::string& folder) {
+  if (folder != identity_->programFolder) return identity_->programFolder;
+  const std::string users = UsersFolder();
+  if (!users.empty()) system_->CreateDirectoryW(users);
+  return users;
+}
+
+std::string ErrorLog::OtherFolderText(const std::string& folder) const {
   if (folder == identity_->programFolder) return "";
-  folder.pop_back();
-  return "The error is recorded in the folder " + folder +
+  return "The error is recorded in the folder " + folder.substr(0, folder.size() - 1) +
          ", because the folder of Korvale cannot be written.";
 }
 
-void ErrorLog::Append(const std::string& errorNumber, const std::string& problem,
-                      const std::string& locals) {
+std::string ErrorLog::Append(const std::string& folder, const std::string& errorNumber,
+                             const std::string& problem, const std::string& locals) {
   const ErrorLogState state = state_();
   std::array<std::string, 10> lines = {
       "",
@@ -65,11 +73,12 @@ void ErrorLog::Append(const std::string& errorNumber, const std::string& problem
       "0000005 = " + DecimalText(state.lastAnswer),
   };
   for (std::string& line : lines) line += "\r\n";
-  const std::string folder = Folder();
   if (folder != identity_->programFolder) system_->CreateDirectoryW(folder);
-  if (!system_->AppendToFile(folder + kFileName, lines)) {
-    throw RunTimeError(RunTimeError::kPathFileAccess);
-  }
+  if (system_->AppendToFile(folder + kFileName, lines)) return folder;
+  const std::string other = OtherFolder(folder);
+  if (!other.empty() && system_->AppendToFile(other + kFileName, lines)) return other;
+  if (system_->CanAppendToFile(folder + kFileName)) return folder;
+  throw RunTimeError(RunTimeError::kPathFileAccess);
 }
 
 }  // namespace korvale

@@ -27,18 +27,25 @@ class ErrorLog {
   ErrorLog(const ProgramIdentity& identity, SystemApi& system, Clock& clock,
            std::function<ErrorLogState()> state);
 
-  /// Where the next record goes, with a closing backslash: the program's folder or, when the log
-  /// cannot be written there, the folder "Korvale" of the user's data.
+  /// The program's folder, with a closing backslash.
+  const std::string& ProgramFolder() const { return identity_->programFolder; }
+  /// Where a record should go, with a closing backslash: the program's folder or, when the log
+  /// cannot be written there, the folder "Korvale" of the user's data. Asked once for each report.
   std::string Folder() const;
-  /// A sentence that tells the user of the other folder; "" for the program's.
-  std::string OtherFolderText() const;
+  /// The other one of these two folders, made when it is missing; "" when the user has none.
+  std::string OtherFolder(const std::string& folder);
+  /// A sentence that tells the user of the folder; "" for the program's.
+  std::string OtherFolderText(const std::string& folder) const;
 
-  /// Appends one record, with the file open only while it does. Throws RunTimeError 75 (Path/File
-  /// access error) when the file cannot be opened; errors while writing are ignored.
-  void Append(const std::string& errorNumber, const std::string& problem,
-              const std::string& locals);
+  /// Appends one record to the log in that folder or, when it does not take all of it, in the other
+  /// one, with the file open only while it does. Returns the folder that has it. Throws
+  /// RunTimeError 75 (Path/File access error) when neither file can be opened; errors while writing
+  /// are ignored.
+  std::string Append(const std::string& folder, const std::string& errorNumber,
+                     const std::string& problem, const std::string& locals);
 
  private:
+  std::string UsersFolder() const;
   const ProgramIdentity* identity_;
   SystemApi* system_;
   Clock* clock_;

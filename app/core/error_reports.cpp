@@ -30,32 +30,46 @@ void RunAndForgetErrors(const std::function<void()>& step) {
   }
 }
 
+void Show(MessageBoxes& messages, const std::string& text) {
+  messages.ShowMessageBox(text, win32::kMbOk | win32::kMbSetForeground,
+                          std::string(kProductName) + " - ERROR");
+}
+
 }  // namespace
+
+std::string TellAndRecord(MessageBoxes& messages, ErrorLog& log, ErrorPlace intErrorNumber,
+                          std::int16_t intVB_ErrNumber, const FatalErrorTexts& texts) {
+  const std::string runTimeError = intVB_ErrNumber != 0 ? RunTimeErrorText(intVB_ErrNumber) : "";
+  const std::string place = PlaceText(intErrorNumber);
+  std::string folder = log.ProgramFolder();
+  std::string where;
+  RunAndForgetErrors([&] {
+    folder = log.Folder();
+    where = log.OtherFolderText(folder);
+  });
+  RunAndForgetErrors([&] {
+    Show(messages, runTimeError + "\r\rKorvale Error #" + place + "\r" +
+                       JoinSentences(texts.strUserMessage, where));
+  });
+  const std::string problem = runTimeError + " -- " + texts.strDescForErrorLog;
+  RunAndForgetErrors(
+      [&] { folder = log.Append(folder, place, problem, texts.strLocalsForErrorLog); });
+  return folder;
+}
 
 ErrorReports::ErrorReports(MessageBoxes& messages, ErrorLog& log, std::function<void()> shutDown)
     : messages_(&messages), log_(&log), shutDown_(std::move(shutDown)) {}
 
 void ErrorReports::udmNonFatalError(ErrorPlace intErrorNumber, std::int16_t intVB_ErrNumber) {
-  Show(RunTimeErrorText(intVB_ErrNumber) + "\r\rKorvale Error #" + PlaceText(intErrorNumber));
+  Show(*messages_,
+       RunTimeErrorText(intVB_ErrNumber) + "\r\rKorvale Error #" + PlaceText(intErrorNumber));
 }
 
 void ErrorReports::udmFatalError(ErrorPlace intErrorNumber, std::int16_t intVB_ErrNumber,
                                  const FatalErrorTexts& texts) {
-  const std::string runTimeError = intVB_ErrNumber != 0 ? RunTimeErrorText(intVB_ErrNumber) : "";
-  const std::string place = PlaceText(intErrorNumber);
-  RunAndForgetErrors([&] {
-    Show(runTimeError + "\r\rKorvale Error #" + place + "\r" +
-         JoinSentences(texts.strUserMessage, log_->OtherFolderText()));
-  });
-  const std::string problem = runTimeError + " -- " + texts.strDescForErrorLog;
-  RunAndForgetErrors([&] { log_->Append(place, problem, texts.strLocalsForErrorLog); });
+  TellAndRecord(*messages_, *log_, intErrorNumber, intVB_ErrNumber, texts);
   RunAndForgetErrors(shutDown_);
   throw ProgramEnded();
-}
-
-void ErrorReports::Show(const std::string& text) {
-  messages_->ShowMessageBox(text, win32::kMbOk | win32::kMbSetForeground,
-                            std::string(kProductName) + " - ERROR");
 }
 
 std::string DescribeCaught() {

@@ -19,6 +19,11 @@ struct FatalErrorTexts {
   std::string strUserMessage;
 };
 
+/// Tells the user of an error that ends the program and appends a record to the log, as far as
+/// either is possible; returns the folder of the record.
+std::string TellAndRecord(MessageBoxes& messages, ErrorLog& log, ErrorPlace intErrorNumber,
+                          std::int16_t intVB_ErrNumber, const FatalErrorTexts& texts);
+
 /// Reports unexpected errors through message boxes and the error log.
 class ErrorReports : public ErrorReporters {
  public:
@@ -33,8 +38,6 @@ class ErrorReports : public ErrorReporters {
                                   const FatalErrorTexts& texts);
 
  private:
-  void Show(const std::string& text);
-
   MessageBoxes* messages_;
   ErrorLog* log_;
   std::function<void()> shutDown_;

@@ -9,6 +9,9 @@
 #include <cstdint>
 #include <cstdlib>
 #include <exception>
+#include <limits>
+#include <string>
+#include <system_error>
 #include <thread>
 #include <utility>
 
@@ -36,6 +39,16 @@ struct CrashSite {
   std::abort();
 }
 
+/// For a report before it has said how long it may take, in milliseconds.
+constexpr ULONGLONG kFirstPatience = 60'000;
+
+/// Both compilers throw C++ exceptions as exceptions of Windows with such a code.
+#if defined(_MSC_VER)
+constexpr DWORD kCppException = 0xE06D7363;
+#else
+constexpr DWORD kCppException = 0x20474343;
+#endif
+
 }  // namespace
 
 /// The thread that reports the crash of another one, which may have no stack left for it.
@@ -50,21 +63,35 @@ class WindowsCrashApi::Reporter {
   Reporter(const Reporter&) = delete;
   Reporter& operator=(const Reporter&) = delete;
 
-  const CrashSite& Site() const { return site_; }
+  bool IsThisThread() const { return GetCurrentThreadId() == reporting_; }
 
   /// The first crash is reported; threads that crash meanwhile wait for the end, too.
   [[noreturn]] void HandOver(const CrashSite& site) {
-    if (GetCurrentThreadId() == reporting_) EndProcess(site.crash.code);
     if (!crashed_.test_and_set()) {
       site_ = site;
+      deadline_ = GetTickCount64() + kFirstPatience;
       SetEvent(toReport_.Get());
     }
-    for (;;) Sleep(INFINITE);
+    // A report that hangs must not keep a frozen program and its hot keys.
+    constexpr DWORD kBetweenLooks = 200;
+    while (GetTickCount64() < deadline_) Sleep(kBetweenLooks);
+    EndProcess(site.crash.code);
+  }
+  void SetDeadline(ULONGLONG ticks) { deadline_ = ticks; }
+
+  bool WriteDump(HANDLE file) const {
+    if (writeDump_ == nullptr) return false;
+    MINIDUMP_EXCEPTION_INFORMATION exception{site_.thread, site_.exception, FALSE};
+    return writeDump_(GetCurrentProcess(), GetCurrentProcessId(), file, MiniDumpNormal,
+                      site_.exception == nullptr ? nullptr : &exception, nullptr, nullptr) != FALSE;
   }
 
  private:
   void WaitAndReport() {
     reporting_ = GetCurrentThreadId();
+    // Not after a crash, when the loader of libraries may be the one that stands still.
+    const SystemLibrary library(L"dbghelp.dll");
+    writeDump_ = library.Find<decltype(::MiniDumpWriteDump)>("MiniDumpWriteDump");
     const HANDLE events[] = {toReport_.Get(), finished_.Get()};
     if (WaitForMultipleObjects(2, events, FALSE, INFINITE) != WAIT_OBJECT_0) return;
     Report();
@@ -85,81 +112,163 @@ class WindowsCrashApi::Reporter {
   UniqueKernelHandle finished_{CreateEventW(nullptr, TRUE, FALSE, nullptr)};
   std::atomic_flag crashed_;
   std::atomic<DWORD> reporting_ = 0;
+  std::atomic<ULONGLONG> deadline_ = std::numeric_limits<ULONGLONG>::max();
   CrashSite site_;
+  decltype(&::MiniDumpWriteDump) writeDump_ = nullptr;
   std::thread thread_;
 };
 
 namespace {
 
-// Windows and the runtime library hand nothing of ours to their handlers, so these must find it by
-// themselves.
-std::atomic<WindowsCrashApi::Reporter*>& CurrentReporter() {
-  static std::atomic<WindowsCrashApi::Reporter*> reporter = nullptr;
-  return reporter;
+/// The reporter. Windows and the runtime library hand nothing of ours to their handlers, so these
+/// must find it by themselves.
+class CurrentReporter {
+ public:
+  static CurrentReporter& Get() {
+    static CurrentReporter current;
+    return current;
+  }
+
+  /// Waits for the end of the process while a crash is being reported.
+  void Set(WindowsCrashApi::Reporter* reporter) {
+    AcquireSRWLockExclusive(&lock_);
+    reporter_ = reporter;
+    ReleaseSRWLockExclusive(&lock_);
+  }
+  /// Returns when there is no reporter.
+  void HandOver(const CrashSite& site) {
+    auto* const reporter = reporter_.load();
+    if (reporter != nullptr && reporter->IsThisThread()) EndProcess(site.crash.code);
+    // Kept until the end of the process, so that the reporter stays.
+    AcquireSRWLockShared(&lock_);
+    if (reporter_ != nullptr) reporter_.load()->HandOver(site);
+    ReleaseSRWLockShared(&lock_);
+  }
+
+ private:
+  SRWLOCK lock_ = SRWLOCK_INIT;
+  std::atomic<WindowsCrashApi::Reporter*> reporter_ = nullptr;
+};
+
+[[noreturn]] void OnTerminate() {
+  CurrentReporter::Get().HandOver({{}, GetCurrentThreadId(), nullptr, std::current_exception()});
+  EndProcess(EXIT_FAILURE);
 }
 
 LONG WINAPI OnUnhandledException(EXCEPTION_POINTERS* exception) {
   const EXCEPTION_RECORD& record = *exception->ExceptionRecord;
+  if (record.ExceptionCode == kCppException) {
+#if defined(_MSC_VER)
+    OnTerminate();
+#else
+    // Where nobody catches it, throwing goes on to std::terminate with the exception at hand.
+    if ((record.ExceptionFlags & EXCEPTION_NONCONTINUABLE) == 0)
+      return EXCEPTION_CONTINUE_EXECUTION;
+#endif
+  }
   const Crash crash{record.ExceptionCode,
                     reinterpret_cast<std::uintptr_t>(record.ExceptionAddress)};
-  if (auto* const reporter = CurrentReporter().load()) {
-    reporter->HandOver({crash, GetCurrentThreadId(), exception, nullptr});
-  }
+  CurrentReporter::Get().HandOver({crash, GetCurrentThreadId(), exception, nullptr});
   return EXCEPTION_EXECUTE_HANDLER;
-}
-
-[[noreturn]] void OnTerminate() {
-  if (auto* const reporter = CurrentReporter().load()) {
-    reporter->HandOver({{}, GetCurrentThreadId(), nullptr, std::current_exception()});
-  }
-  EndProcess(EXIT_FAILURE);
 }
 
 void OnAbort(int /*signal*/) { OnTerminate(); }
 
+#if defined(_MSC_VER)
 void OnInvalidParameter(const wchar_t* /*expression*/, const wchar_t* /*function*/,
                         const wchar_t* /*file*/, unsigned /*line*/, std::uintptr_t /*reserved*/) {
   OnTerminate();
 }
 
-void SetHandlers(bool set) {
-  ::SetUnhandledExceptionFilter(set ? OnUnhandledException : nullptr);
-  std::set_terminate(set ? OnTerminate : std::abort);
-  _set_purecall_handler(set ? OnTerminate : nullptr);
-  _set_invalid_parameter_handler(set ? OnInvalidParameter : nullptr);
-  std::signal(SIGABRT, set ? OnAbort : SIG_DFL);
-}
+/// What the program's own copy of the runtime library calls before it gives up. MinGW's is shared
+/// with libraries of Windows, which may count on it to go on.
+class RuntimeHandlers {
+ public:
+  RuntimeHandlers() { _set_abort_behavior(0, _WRITE_ABORT_MSG | _CALL_REPORTFAULT); }
+  ~RuntimeHandlers() {
+    _set_purecall_handler(pureCall_);
+    _set_invalid_parameter_handler(invalidParameter_);
+  }
+  RuntimeHandlers(const RuntimeHandlers&) = delete;
+  RuntimeHandlers& operator=(const RuntimeHandlers&) = delete;
+
+ private:
+  _purecall_handler pureCall_ = _set_purecall_handler(OnTerminate);
+  _invalid_parameter_handler invalidParameter_ = _set_invalid_parameter_handler(OnInvalidParameter);
+};
+#else
+/// Before abort() raises its signal, it shows a box of its own.
+class RuntimeHandlers {
+ public:
+  RuntimeHandlers() = default;
+  ~RuntimeHandlers() { _set_error_mode(errorMode_); }
+  RuntimeHandlers(const RuntimeHandlers&) = delete;
+  RuntimeHandlers& operator=(const RuntimeHandlers&) = delete;
+
+ private:
+  int errorMode_ = _set_error_mode(_OUT_TO_STDERR);
+};
+#endif
 
 }  // namespace
+
+/// The handlers that are in place, and those that were there before.
+class WindowsCrashApi::Handlers {
+ public:
+  Handlers() = default;
+  ~Handlers() {
+    std::signal(SIGABRT, abort_ == SIG_ERR ? SIG_DFL : abort_);
+    std::set_terminate(terminate_);
+    ::SetUnhandledExceptionFilter(filter_);
+  }
+  Handlers(const Handlers&) = delete;
+  Handlers& operator=(const Handlers&) = delete;
+
+ private:
+  LPTOP_LEVEL_EXCEPTION_FILTER filter_ = ::SetUnhandledExceptionFilter(OnUnhandledException);
+  std::terminate_handler terminate_ = std::set_terminate(OnTerminate);
+  decltype(std::signal(SIGABRT, OnAbort)) abort_ = std::signal(SIGABRT, OnAbort);
+  RuntimeHandlers runtime_;
+};
 
 WindowsCrashApi::WindowsCrashApi() = default;
 
 WindowsCrashApi::~WindowsCrashApi() { SetUnhandledExceptionFilter({}); }
 
 void WindowsCrashApi::SetUnhandledExceptionFilter(std::function<void(const Crash&)> filter) {
-  SetHandlers(false);
-  CurrentReporter() = nullptr;
+  CurrentReporter::Get().Set(nullptr);
+  handlers_.reset();
   reporter_.reset();
   if (!filter) return;
   ULONG stack = kStackForHandingOver;
   SetThreadStackGuarantee(&stack);
-  reporter_ = std::make_unique<Reporter>(std::move(filter));
-  CurrentReporter() = reporter_.get();
-  SetHandlers(true);
+  try {
+    reporter_ = std::make_unique<Reporter>(std::move(filter));
+  } catch (const std::system_error&) {
+    // Without a thread to report its crashes the program is as useful as others are.
+    return;
+  }
+  CurrentReporter::Get().Set(reporter_.get());
+  handlers_ = std::make_unique<Handlers>();
+}
+
+void WindowsCrashApi::TerminateProcessAfter(std::optional<std::uint32_t> milliseconds) {
+  if (!reporter_) return;
+  reporter_->SetDeadline(milliseconds ? GetTickCount64() + *milliseconds
+                                      : std::numeric_limits<ULONGLONG>::max());
 }
 
 bool WindowsCrashApi::MiniDumpWriteDump(const std::string& path) {
-  const SystemLibrary library(L"dbghelp.dll");
-  auto* const write = library.Find<decltype(::MiniDumpWriteDump)>("MiniDumpWriteDump");
-  if (write == nullptr || !reporter_) return false;
-  const HANDLE opened = ::CreateFileW(ToUtf16(path).c_str(), GENERIC_WRITE, 0, nullptr,
-                                      CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (!reporter_) return false;
+  const std::wstring name = ToUtf16(path);
+  const HANDLE opened = ::CreateFileW(name.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+                                      FILE_ATTRIBUTE_NORMAL, nullptr);
   if (opened == INVALID_HANDLE_VALUE) return false;
-  const UniqueKernelHandle file(opened);
-  const CrashSite& site = reporter_->Site();
-  MINIDUMP_EXCEPTION_INFORMATION exception{site.thread, site.exception, FALSE};
-  return write(GetCurrentProcess(), GetCurrentProcessId(), file.Get(), MiniDumpNormal,
-               site.exception == nullptr ? nullptr : &exception, nullptr, nullptr) != FALSE;
+  UniqueKernelHandle file(opened);
+  if (reporter_->WriteDump(file.Get())) return true;
+  file.Reset();
+  ::DeleteFileW(name.c_str());
+  return false;
 }
 
 }  // namespace korvale

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "platform/crash_api.h"
@@ -18,10 +20,14 @@ class WindowsCrashApi final : public CrashApi {
   ~WindowsCrashApi() override;
 
   void SetUnhandledExceptionFilter(std::function<void(const Crash&)> filter) override;
+  void TerminateProcessAfter(std::optional<std::uint32_t> milliseconds) override;
   bool MiniDumpWriteDump(const std::string& path) override;
 
  private:
+  class Handlers;
+
   std::unique_ptr<Reporter> reporter_;
+  std::unique_ptr<Handlers> handlers_;
 };
 
 }  // namespace korvale

@@ -145,11 +145,14 @@ bool WindowsSystemApi::AppendToFile(const std::string& path, std::span<const std
                     nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
   if (opened == INVALID_HANDLE_VALUE) return false;
   const UniqueKernelHandle file(opened);
+  bool complete = true;
   for (const std::string& piece : pieces) {
+    const auto size = static_cast<DWORD>(piece.size());
     DWORD written = 0;
-    WriteFile(file.Get(), piece.data(), static_cast<DWORD>(piece.size()), &written, nullptr);
+    const BOOL done = WriteFile(file.Get(), piece.data(), size, &written, nullptr);
+    complete = complete && done != FALSE && written == size;
   }
-  return true;
+  return complete;
 }
 
 bool WindowsSystemApi::CanAppendToFile(const std::string& path) {

@@ -19,6 +19,7 @@ class ErrorLogTest : public testing::Test {
  protected:
   ErrorLogTest() {
     StartFrom("D:\\Work\\");
+    identity_.localAppData = "C:\\Users\\Ann\\AppData\\Local";
     identity_.versionText = "1.10.0695";
     clock_.SetLocalTime({2001, 12, 15, 14, 3, 27, 6});
   }
@@ -29,9 +30,11 @@ class ErrorLogTest : public testing::Test {
   }
   std::string Content() { return system_.Session().contents[kPath]; }
   std::int16_t AppendError() {
-    return ErrorOf([this] { log_.Append("1", "problem", "locals"); });
+    return ErrorOf([this] { where_ = log_.Append(log_.Folder(), "1", "problem", "locals"); });
   }
 
+  const std::string users_ = "C:\\Users\\Ann\\AppData\\Local\\Korvale\\";
+  std::string where_;
   CallLog calls_;
   FakeSystem system_{calls_};
   ProgramIdentity identity_;
@@ -42,7 +45,7 @@ class ErrorLogTest : public testing::Test {
 
 TEST_F(ErrorLogTest, WritesEveryLineOfARecord) {
   state_ = {true, false, 6};
-  log_.Append("2", "VB ERROR 6 - Overflow -- counting", "i = 7");
+  log_.Append(log_.Folder(), "2", "VB ERROR 6 - Overflow -- counting", "i = 7");
   EXPECT_EQ(Content(),
             "\r\n"
             "-- Sat 12/15/2001 14:03:27 --\r\n"
@@ -58,7 +61,7 @@ TEST_F(ErrorLogTest, WritesEveryLineOfARecord) {
 
 TEST_F(ErrorLogTest, PadsDateAndTimeWithZeroes) {
   clock_.SetLocalTime({2026, 1, 4, 0, 5, 9, 0});
-  log_.Append("1", "", "");
+  log_.Append(log_.Folder(), "1", "", "");
   EXPECT_TRUE(Content().starts_with("\r\n-- Sun 01/04/2026 00:05:09 --\r\n")) << Content();
 }
 
@@ -67,17 +70,17 @@ TEST_F(ErrorLogTest, NamesEveryDayOfTheWeek) {
   for (int day = 0; day < 7; ++day) {
     system_.Session().contents.clear();
     clock_.SetLocalTime({2026, 3, 1 + day, 12, 0, 0, day});
-    log_.Append("1", "", "");
+    log_.Append(log_.Folder(), "1", "", "");
     names += Content().substr(5, 4);
   }
   EXPECT_EQ(names, "Sun Mon Tue Wed Thu Fri Sat ");
 }
 
 TEST_F(ErrorLogTest, RecordsAccumulate) {
-  log_.Append("1", "first", "");
+  log_.Append(log_.Folder(), "1", "first", "");
   const std::string first = Content();
   state_.menuShown = false;
-  log_.Append("2", "second", "");
+  log_.Append(log_.Folder(), "2", "second", "");
   EXPECT_TRUE(Content().starts_with(first + "\r\n-- ")) << Content();
   EXPECT_NE(Content().find("Problem:  second\r\n"), std::string::npos);
 }
@@ -91,9 +94,10 @@ TEST_F(ErrorLogTest, StandsInTheFolderOfTheProgram) {
 }
 
 TEST_F(ErrorLogTest, ThatCannotBeOpenedIsAPathFileAccessError) {
-  system_.localAppData = "C:\\None";
+  identity_.localAppData = "C:\\None";
   identity_.programFolder = "D:\\None\\";
   EXPECT_EQ(AppendError(), 75);
+  identity_.localAppData = "";
   StartFrom("D:\\Work\\");
   system_.files.insert(std::string(kPath) + "\\Folder in its place");
   EXPECT_EQ(AppendError(), 75);
@@ -101,34 +105,47 @@ TEST_F(ErrorLogTest, ThatCannotBeOpenedIsAPathFileAccessError) {
 }
 
 TEST_F(ErrorLogTest, StandsInTheUsersFolderWhenTheProgramsCannotBeWritten) {
-  const std::string other = "C:\\Users\\Ann\\AppData\\Local\\Korvale\\";
   EXPECT_EQ(log_.Folder(), "D:\\Work\\");
-  EXPECT_EQ(log_.OtherFolderText(), "");
+  EXPECT_EQ(log_.OtherFolderText("D:\\Work\\"), "");
   system_.readOnly = {"D:\\Work"};
-  EXPECT_EQ(log_.Folder(), other);
-  EXPECT_EQ(log_.OtherFolderText(),
+  EXPECT_EQ(log_.Folder(), users_);
+  EXPECT_EQ(log_.OtherFolderText(users_),
             "The error is recorded in the folder C:\\Users\\Ann\\AppData\\Local\\Korvale, "
             "because the folder of Korvale cannot be written.");
   EXPECT_TRUE(calls_.Calls().empty());
   EXPECT_EQ(AppendError(), 0);
   EXPECT_EQ(AppendError(), 0);
-  const std::string content = system_.Session().contents[other + "Error.log"];
+  EXPECT_EQ(where_, users_);
+  const std::string content = system_.Session().contents[users_ + "Error.log"];
   EXPECT_NE(content.find("0000002 = D:\\Work\\\r\n"), std::string::npos) << content;
   EXPECT_EQ(Content(), "");
 }
 
 TEST_F(ErrorLogTest, StaysInTheProgramsFolderWhenTheUserHasNone) {
   system_.readOnly = {"D:\\Work"};
-  system_.localAppData = "";
+  identity_.localAppData = "";
   EXPECT_EQ(log_.Folder(), "D:\\Work\\");
-  EXPECT_EQ(log_.OtherFolderText(), "");
   EXPECT_EQ(AppendError(), 75);
+}
+
+TEST_F(ErrorLogTest, GoesToTheOtherFolderWhenItsOwnRefusesAtLast) {
+  system_.guarded = {"D:\\Work"};
+  EXPECT_EQ(log_.Folder(), "D:\\Work\\");
+  EXPECT_EQ(AppendError(), 0);
+  EXPECT_EQ(where_, users_);
+  EXPECT_TRUE(system_.files.contains(users_ + "Error.log"));
+  EXPECT_EQ(log_.Append(users_, "2", "", ""), users_);
+  system_.guarded = {"C:\\Users\\Ann\\AppData\\Local\\Korvale"};
+  EXPECT_EQ(log_.Append(users_, "3", "", ""), "D:\\Work\\");
+  EXPECT_NE(Content().find("Error Code:  3"), std::string::npos);
 }
 
 TEST_F(ErrorLogTest, ErrorsWhileWritingAreIgnored) {
   system_.Session().diskFull = true;
   EXPECT_EQ(AppendError(), 0);
+  EXPECT_EQ(where_, "D:\\Work\\");
   EXPECT_TRUE(system_.files.contains(kPath));
+  EXPECT_TRUE(system_.files.contains(users_ + "Error.log"));
 }
 
 }  // namespace

@@ -19,6 +19,7 @@ class ErrorReportsTest : public testing::Test {
  protected:
   ErrorReportsTest() {
     identity_.programFolder = "D:\\Work\\";
+    identity_.localAppData = system_.localAppData;
     system_.files = {"D:\\Work\\Korvale.exe"};
     messages_.whileShown = [this](const ShownMessageBox& /*box*/) {
       EXPECT_EQ(Content(), "") << "logged before the user was told";
@@ -119,6 +120,23 @@ TEST_F(ErrorReportsTest, AMessageThatCannotBeShownStopsNeitherRecordNorShutDown)
   EXPECT_THROW(Fatal(5), ProgramEnded);
   EXPECT_NE(Content().find("Error Code:  1"), std::string::npos);
   EXPECT_EQ(shutDowns_, 1);
+}
+
+TEST_F(ErrorReportsTest, TheMessageIsShownEvenWhenTheFolderCannotBeChosen) {
+  calls_.WhenCalled("CanAppendToFile", [] { throw RunTimeError(RunTimeError::kOutOfMemory); });
+  EXPECT_THROW(Fatal(0), ProgramEnded);
+  ASSERT_EQ(messages_.shown.size(), 1U);
+  EXPECT_EQ(messages_.shown[0].prompt, "\r\rKorvale Error #1\rPlease start Korvale again.");
+  EXPECT_NE(Content().find("Error Code:  1"), std::string::npos);
+}
+
+TEST_F(ErrorReportsTest, TheFolderOfTheRecordIsChosenOnce) {
+  system_.readOnly = {"D:\\Work"};
+  messages_.whileShown = [this](const ShownMessageBox& /*box*/) { system_.readOnly.clear(); };
+  ErrorReports reports(messages_, log_, [this] { ++shutDowns_; });
+  EXPECT_THROW(reports.udmFatalError(ErrorPlace::kProgramEntry, 0, {}), ProgramEnded);
+  EXPECT_EQ(Content(), "");
+  EXPECT_TRUE(system_.files.contains("C:\\Users\\Ann\\AppData\\Local\\Korvale\\Error.log"));
 }
 
 }  // namespace

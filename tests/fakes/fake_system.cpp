@@ -127,17 +127,19 @@ bool FakeSystem::FileExists(const std::string& path) {
 
 bool FakeSystem::AppendToFile(const std::string& path, std::span<const std::string> pieces) {
   log_.Add("AppendToFile(" + path + ")");
-  if (!Writable(path)) return false;
+  if (!Opens(path)) return false;
   const std::string real = InPlaceOf(shares, RealPath(path));
   files.insert(real);
   std::string& content = session_->contents[real];
   for (const std::string& piece : pieces) content += session_->diskFull ? "" : piece;
-  return true;
+  return !session_->diskFull;
 }
 
 bool FakeSystem::CanAppendToFile(const std::string& path) {
   log_.AddRead("CanAppendToFile(" + path + ")");
-  return Writable(path);
+  const std::string real = InPlaceOf(shares, RealPath(path));
+  if (files.contains(real)) return Opens(path);
+  return Writable(path) && !noNewFiles.contains(real.substr(0, real.find_last_of('\\')));
 }
 
 bool FakeSystem::CreateDirectoryW(const std::string& path) {
@@ -173,10 +175,19 @@ std::string FakeSystem::SHGetKnownFolderPath() {
   return localAppData;
 }
 
+void FakeSystem::TerminateProcessAfter(std::optional<std::uint32_t> milliseconds) {
+  log_.Add("TerminateProcessAfter(" + (milliseconds ? std::to_string(*milliseconds) : "") + ")");
+}
+
 bool FakeSystem::MiniDumpWriteDump(const std::string& path) {
   log_.Add("MiniDumpWriteDump(" + path + ")");
-  if (!Writable(path)) return false;
+  if (!Opens(path)) return false;
   const std::string real = InPlaceOf(shares, RealPath(path));
+  if (session_->diskFull) {
+    files.erase(real);
+    session_->contents.erase(real);
+    return false;
+  }
   files.insert(real);
   session_->contents[real] = "dump";
   return true;
@@ -208,7 +219,15 @@ bool FakeSystem::IsFolder(const std::string& path) const {
   return folders.contains(path) || !Spelled(files, drives, path).empty();
 }
 
-/// Whether a file of this path could be opened for writing.
+/// Whether a file of this path can be opened for writing, and created when it is missing.
+bool FakeSystem::Opens(const std::string& path) const {
+  const std::string real = InPlaceOf(shares, RealPath(path));
+  const std::string folder = real.substr(0, real.find_last_of('\\'));
+  return Writable(path) && !guarded.contains(folder) &&
+         (files.contains(real) || !noNewFiles.contains(folder));
+}
+
+/// Whether a file of this path looks as if it could be opened for writing.
 bool FakeSystem::Writable(const std::string& path) const {
   const std::string real = InPlaceOf(shares, RealPath(path));
   const std::string folder = real.substr(0, real.find_last_of('\\'));

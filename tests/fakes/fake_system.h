@@ -4,6 +4,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <set>
 #include <span>
 #include <string>
@@ -88,6 +89,7 @@ class FakeSystem : public SystemApi, public CrashApi {
   void SetUnhandledExceptionFilter(std::function<void(const Crash&)> filter) override {
     crashFilter = std::move(filter);
   }
+  void TerminateProcessAfter(std::optional<std::uint32_t> milliseconds) override;
   bool MiniDumpWriteDump(const std::string& path) override;
 
   std::string executablePath = "C:\\Programs\\Work\\Korvale.exe";
@@ -100,6 +102,11 @@ class FakeSystem : public SystemApi, public CrashApi {
   std::set<std::string> folders = {"C:\\Users\\Ann\\AppData\\Local"};
   /// Folders where nothing can be created or written.
   std::set<std::string> readOnly;
+  /// Folders whose files can be written, but where none can be created.
+  std::set<std::string> noNewFiles;
+  /// Folders that Windows guards against unknown programs: they look as if one could create files
+  /// there, but every attempt to write one is refused.
+  std::set<std::string> guarded;
   /// "" when Windows cannot tell.
   std::string localAppData = "C:\\Users\\Ann\\AppData\\Local";
   /// Drives that are there.
@@ -122,6 +129,7 @@ class FakeSystem : public SystemApi, public CrashApi {
   std::uint32_t Reach(const std::string& path) const;
   bool IsFolder(const std::string& path) const;
   bool Writable(const std::string& path) const;
+  bool Opens(const std::string& path) const;
 
   CallLog& log_;
   std::shared_ptr<FakeSession> session_;

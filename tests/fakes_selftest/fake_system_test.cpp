@@ -74,6 +74,32 @@ TEST_F(FakeSystemTest, ChangesNothingInAReadOnlyFolder) {
   EXPECT_EQ(system_.files.size(), 1U);
 }
 
+TEST_F(FakeSystemTest, WritesOnlyTheFilesThatAreThereWhereNoneCanBeCreated) {
+  system_.files = {"C:\\Programs\\Log"};
+  system_.noNewFiles = {"C:\\Programs"};
+  EXPECT_TRUE(system_.CanAppendToFile("C:\\Programs\\Log"));
+  EXPECT_TRUE(system_.AppendToFile("C:\\Programs\\Log", std::vector<std::string>{"a"}));
+  EXPECT_FALSE(system_.CanAppendToFile("C:\\Programs\\Other"));
+  EXPECT_FALSE(system_.AppendToFile("C:\\Programs\\Other", std::vector<std::string>{"a"}));
+  EXPECT_FALSE(system_.MiniDumpWriteDump("C:\\Programs\\Dump"));
+}
+
+TEST_F(FakeSystemTest, RefusesAtLastWhatLooksPossibleInAGuardedFolder) {
+  system_.files = {"C:\\Programs\\Log"};
+  system_.guarded = {"C:\\Programs"};
+  EXPECT_FALSE(system_.CanAppendToFile("C:\\Programs\\Log"));
+  EXPECT_TRUE(system_.CanAppendToFile("C:\\Programs\\Other"));
+  EXPECT_FALSE(system_.AppendToFile("C:\\Programs\\Other", std::vector<std::string>{"a"}));
+  EXPECT_FALSE(system_.MiniDumpWriteDump("C:\\Programs\\Dump"));
+}
+
+TEST_F(FakeSystemTest, LeavesNoDumpOnAFullDisk) {
+  system_.files = {"C:\\Programs\\Log"};
+  session_->diskFull = true;
+  EXPECT_FALSE(system_.MiniDumpWriteDump("C:\\Programs\\Dump"));
+  EXPECT_EQ(system_.files, std::set<std::string>{"C:\\Programs\\Log"});
+}
+
 TEST_F(FakeSystemTest, MakesFoldersInFoldersThatAreThere) {
   EXPECT_TRUE(system_.CreateDirectoryW(system_.SHGetKnownFolderPath() + "\\Korvale"));
   EXPECT_TRUE(system_.CreateDirectoryW(system_.SHGetKnownFolderPath() + "\\Korvale"));

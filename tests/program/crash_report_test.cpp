@@ -20,12 +20,11 @@ TEST_F(CrashReport, TheReportAsksNothingOfTheWindowsWhoseThreadStandsStill) {
 
   EXPECT_EQ(log.Calls(),
             (std::vector<std::string>{
-                "CanAppendToFile(C:\\Programs\\Work\\Error.log)",
+                "TerminateProcessAfter(60000)", "CanAppendToFile(C:\\Programs\\Work\\Error.log)",
+                "TerminateProcessAfter()",
                 "MessageBoxW(0, \"VB ERROR 51 - Internal error\r\rKorvale Error #6\rKorvale "
                 "cannot go on and will be closed.\", \"Korvale - ERROR\", 327680)",
-                "CanAppendToFile(C:\\Programs\\Work\\Error.log)",
-                "AppendToFile(C:\\Programs\\Work\\Error.log)",
-                "CanAppendToFile(C:\\Programs\\Work\\Error.log)",
+                "TerminateProcessAfter(60000)", "AppendToFile(C:\\Programs\\Work\\Error.log)",
                 "FindFirstFileW(C:\\Programs\\Work\\Korvale \?\?\?\?-\?\?-\?\? "
                 "\?\?.\?\?.\?\?.dmp)",
                 "MiniDumpWriteDump(C:\\Programs\\Work\\Korvale 2026-11-21 09.05.07.dmp)"}));
@@ -37,7 +36,7 @@ TEST_F(CrashReport, TheLatestDumpsAreKeptBesideTheLog) {
   for (const char* const name :
        {"Korvale 2026-10-01 23.00.00.dmp", "Korvale 2026-09-30 01.00.00.dmp",
         "Korvale 2025-12-31 02.00.00.dmp", "Korvale 2026-11-01 02.00.00.dmp", "Korvale.dmp",
-        "Korvale of the user.dmp"}) {
+        "Korvale of the user.dmp", "Korvale 2025-Ab-cd ef.gh.ij.dmp"}) {
     korvale.system.files.insert(folder + name);
   }
 
@@ -45,11 +44,12 @@ TEST_F(CrashReport, TheLatestDumpsAreKeptBesideTheLog) {
 
   std::set<std::string> dumps = korvale.system.files;
   std::erase_if(dumps, [](const std::string& file) { return !file.ends_with(".dmp"); });
-  EXPECT_EQ(dumps,
-            (std::set<std::string>{folder + "Korvale 2026-10-01 23.00.00.dmp",
-                                   folder + "Korvale 2026-11-01 02.00.00.dmp",
-                                   folder + "Korvale 2026-11-21 09.05.07.dmp",
-                                   folder + "Korvale.dmp", folder + "Korvale of the user.dmp"}));
+  EXPECT_EQ(
+      dumps,
+      (std::set<std::string>{
+          folder + "Korvale 2025-Ab-cd ef.gh.ij.dmp", folder + "Korvale 2026-10-01 23.00.00.dmp",
+          folder + "Korvale 2026-11-01 02.00.00.dmp", folder + "Korvale 2026-11-21 09.05.07.dmp",
+          folder + "Korvale.dmp", folder + "Korvale of the user.dmp"}));
 }
 
 TEST_F(CrashReport, FormerDumpsStayWhenTheNewOneCannotBeWritten) {
@@ -61,6 +61,7 @@ TEST_F(CrashReport, FormerDumpsStayWhenTheNewOneCannotBeWritten) {
   files.insert("C:\\Programs\\Work\\Korvale 2026-11-21 09.05.07.dmp\\Folder in its place");
   std::set<std::string> expected = files;
   expected.insert(kCrashLog);
+  expected.insert("C:\\Users\\Ann\\AppData\\Local\\Korvale\\Korvale 2026-11-21 09.05.07.dmp");
   korvale.system.crashFilter(kAccessViolation);
   EXPECT_EQ(files, expected);
 }
@@ -81,6 +82,26 @@ TEST_F(CrashReport, LogAndDumpGoToTheUsersFolderWhenTheProgramsCannotBeWritten) 
             std::string::npos);
   EXPECT_EQ(session->contents[folder + "Korvale 2026-11-21 09.05.07.dmp"], "dump");
   EXPECT_EQ(Log(), "");
+}
+
+TEST_F(CrashReport, ADumpThatTheProgramsFolderRefusesGoesToTheUsers) {
+  KorvaleCopy& korvale = Running();
+  korvale.system.files.insert(kCrashLog);
+  korvale.system.noNewFiles = {"C:\\Programs\\Work"};
+  korvale.system.crashFilter(kAccessViolation);
+  EXPECT_NE(Log().find("exception 0xC0000005"), std::string::npos);
+  EXPECT_TRUE(korvale.system.files.contains(
+      "C:\\Users\\Ann\\AppData\\Local\\Korvale\\Korvale 2026-11-21 09.05.07.dmp"));
+}
+
+TEST_F(CrashReport, TheDumpLiesBesideTheRecordThatHadToGoElsewhere) {
+  KorvaleCopy& korvale = Running();
+  korvale.system.guarded = {"C:\\Programs\\Work"};
+  korvale.system.crashFilter(kAccessViolation);
+  const std::string folder = "C:\\Users\\Ann\\AppData\\Local\\Korvale\\";
+  EXPECT_TRUE(korvale.system.files.contains(folder + "Error.log"));
+  EXPECT_TRUE(korvale.system.files.contains(folder + "Korvale 2026-11-21 09.05.07.dmp"));
+  EXPECT_EQ(log.CallsOf("MiniDumpWriteDump").size(), 1U);
 }
 
 TEST_F(CrashReport, AFailureToTellStillRecordsTheCrash) {

@@ -91,6 +91,21 @@ TEST_F(WindowsCrashApiTest, ReportsAnUncaughtExceptionWithItsText) {
   EXPECT_EQ(Content(Report()), "00000000 nobody expected this\n");
 }
 
+TEST_F(WindowsCrashApiTest, ReportsAnUncaughtExceptionOfASecondThreadWithItsText) {
+  EXPECT_EQ(Run("exception of a thread"), static_cast<DWORD>(EXIT_FAILURE));
+  EXPECT_EQ(Content(Report()), "00000000 nobody expected this\n");
+}
+
+TEST_F(WindowsCrashApiTest, FinishesItsReportWhenTheProgramEndsMeanwhile) {
+  EXPECT_EQ(Run("thread while the program ends", "dump"), 0xC0000005);
+  EXPECT_EQ(Content(Report()), "C0000005 \ndumped\n");
+}
+
+TEST_F(WindowsCrashApiTest, EndsAReportThatHangsButNotWhileTheUserReads) {
+  EXPECT_EQ(Run("access", "hang"), 0xC0000005);
+  EXPECT_EQ(Content(Report()), "C0000005 \nnot ended\n");
+}
+
 TEST_F(WindowsCrashApiTest, ReportsWhatTheRuntimeLibraryGivesUpOn) {
   for (const char* const crash : {"terminate", "abort"}) {
     EXPECT_EQ(Run(crash), static_cast<DWORD>(EXIT_FAILURE)) << crash;

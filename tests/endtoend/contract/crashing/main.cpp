@@ -1,6 +1,7 @@
 // Crashes in the way that its first argument names and reports it to the file of the second one.
 #include <windows.h>
 
+#include <atomic>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -30,6 +31,8 @@ namespace {
 int* volatile nowhere = reinterpret_cast<int*>(8);
 volatile int deepest = -1;
 
+std::atomic<bool> reporting = false;
+
 void Access() { *nowhere = 1; }
 
 /// With `left` bytes of the stack left, says what Windows says when there are none.
@@ -53,6 +56,12 @@ const std::map<std::string, void (*)()> kCrashes = {
     {"overflow", [] { Overflow(1, 0); }},
     {"used up stack", [] { Overflow(1, 48 * 1024); }},
     {"thread", [] { std::thread(Access).join(); }},
+    {"exception of a thread", [] { std::thread(ThrowUncaught).join(); }},
+    {"thread while the program ends",
+     [] {
+       std::thread(Access).detach();
+       reporting.wait(false);
+     }},
     {"exception", ThrowUncaught},
     {"terminate", [] { std::terminate(); }},
     {"abort", [] { std::abort(); }},
@@ -85,11 +94,15 @@ int main(int argc, char** argv) {
   const DWORD mainThread = GetCurrentThreadId();
   korvale::WindowsCrashApi api;
   api.SetUnhandledExceptionFilter([&](const korvale::Crash& crashed) {
+    reporting = true;
+    reporting.notify_all();
     char code[16];
     std::snprintf(code, sizeof(code), "%08X", static_cast<unsigned>(crashed.code));
     const bool other = GetCurrentThreadId() != mainThread;
     Append(report, std::string(code) + (other ? " " : " on the same thread ") + Caught() + "\n");
     if (inFilter == "dump") {
+      // Whoever ends the program meanwhile has time for it.
+      Sleep(300);
       const bool written = api.MiniDumpWriteDump(report + ".dmp");
       Append(report, written ? "dumped\n" : "not dumped\n");
     } else if (inFilter == "wait") {
@@ -97,6 +110,12 @@ int main(int argc, char** argv) {
       std::thread(Access).detach();
       Sleep(300);
       Append(report, "waited\n");
+    } else if (inFilter == "hang") {
+      api.TerminateProcessAfter(std::nullopt);
+      Sleep(1000);
+      Append(report, "not ended\n");
+      api.TerminateProcessAfter(100);
+      Sleep(INFINITE);
     } else if (inFilter == "throw") {
       throw std::runtime_error("again");
     } else if (inFilter != "-") {
