@@ -108,7 +108,8 @@ void SimulatedLife::PressToggleKey() {
 
 void SimulatedLife::PopUpWindowMenu() {
   const std::optional<HotKey> hotKey = Working("HOTKEY_WINDOW_MENU_POPUP");
-  if (!hotKey) return;
+  // Without the foreground no menu opens.
+  if (!hotKey || programs_->ForegroundLocked()) return;
   korvale_->host.WhenPopupMenu([this](const std::vector<ShownMenuItem>& items) {
     const std::string caption = dice_->OneIn(4) ? "" : SomeEntry(items);
     Note("  chooses [" + caption + "]");
