@@ -7,8 +7,6 @@
 
 namespace korvale {
 
-struct Desktop;
-
 /// True when the window is that of a loaded form of ours. A form without a window has the handle 0,
 /// which never counts.
 bool IsOwnForm(const LoadedForms& forms, WindowHandle hwnd);
@@ -17,10 +15,5 @@ bool IsOwnForm(const LoadedForms& forms, WindowHandle hwnd);
 /// virtual desktop where the user is, enabled and not minimized. Does nothing and fails otherwise.
 RequestResult ReturnForegroundTo(WindowQueries& windows, WindowRequests& requests,
                                  const KnownWindow& window);
-
-/// Puts `before`, where the user was before a window of ours came up, in front again. When it
-/// cannot be, as Start once it has lost the front, it is the window last worked in, unless that is
-/// our main window. Leaves the user in a window of another program.
-void ReturnUserTo(Desktop& desktop, const KnownWindow& before);
 
 }  // namespace korvale

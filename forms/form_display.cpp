@@ -2,6 +2,7 @@
 
 #include "desktop/foreground_return.h"
 #include "desktop/user_desktop.h"
+#include "desktop/user_return.h"
 #include "platform/win32_constants.h"
 #include "util/raised_flag.h"
 

@@ -4,6 +4,7 @@
 
 #include "desktop/foreground_return.h"
 #include "desktop/user_desktop.h"
+#include "desktop/user_return.h"
 #include "desktop/waiting_window.h"
 #include "desktop/window_visibility.h"
 #include "platform/run_time_error.h"

@@ -30,8 +30,9 @@ void Form::FitIntoWorkArea() {
 }
 
 void Form::NoteWhetherInside() {
-  if (fitting_ || !IsLoaded() || !state_.visible || state_.windowState != ShowState::kNormal)
+  if (fitting_ || !IsLoaded() || !state_.visible || state_.windowState != ShowState::kNormal) {
     return;
+  }
   if (state_.border == BorderStyle::kSizable) inside_ = IsInWorkArea(*this);
 }
 

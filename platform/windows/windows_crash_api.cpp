@@ -162,8 +162,9 @@ LONG WINAPI OnUnhandledException(EXCEPTION_POINTERS* exception) {
     OnTerminate();
 #else
     // Where nobody catches it, throwing goes on to std::terminate with the exception at hand.
-    if ((record.ExceptionFlags & EXCEPTION_NONCONTINUABLE) == 0)
+    if ((record.ExceptionFlags & EXCEPTION_NONCONTINUABLE) == 0) {
       return EXCEPTION_CONTINUE_EXECUTION;
+    }
 #endif
   }
   const Crash crash{record.ExceptionCode,
