@@ -46,7 +46,7 @@ std::string ErrorLog::Folder() const {
 
 std::string ErrorLog::OtherFolder(const std::string& folder) {
   if (folder != identity_->programFolder) return identity_->programFolder;
-  const std::string users = UsersFolder();
+  std::string users = UsersFolder();
   if (!users.empty()) system_->CreateDirectoryW(users);
   return users;
 }
@@ -75,7 +75,7 @@ std::string ErrorLog::Append(const std::string& folder, const std::string& error
   for (std::string& line : lines) line += "\r\n";
   if (folder != identity_->programFolder) system_->CreateDirectoryW(folder);
   if (system_->AppendToFile(folder + kFileName, lines)) return folder;
-  const std::string other = OtherFolder(folder);
+  std::string other = OtherFolder(folder);
   if (!other.empty() && system_->AppendToFile(other + kFileName, lines)) return other;
   if (system_->CanAppendToFile(folder + kFileName)) return folder;
   throw RunTimeError(RunTimeError::kPathFileAccess);
