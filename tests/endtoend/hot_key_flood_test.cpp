@@ -127,6 +127,22 @@ TEST_F(RequestsBehindABox, ToCloseTheMainWindowLeaveTheMessageToTheUser) {
   EXPECT_TRUE(Exit());
 }
 
+TEST_F(RequestsBehindABox, ToCarryOutMenuCommandsLeaveTheMessageToTheUser) {
+  StartBesideAlpha();
+  for (int i = 0; i < 3; ++i) {
+    Press(TagKey(1));
+    ASSERT_TRUE(korvale_->MessageBox());
+    for (WPARAM command = 0x1000; command < 0x1040; ++command) {
+      PostMessageW(main().handle(), WM_COMMAND, command, 0);
+    }
+    PostCloseTo(main());
+    ASSERT_TRUE(HoldsFor([this] { return korvale_->process().Running(); })) << i;
+    EXPECT_FALSE(korvale_->HasForm("frmOptions"));
+    ASSERT_TRUE(Says("Window:  [Nowhere]  is not open.")) << i;
+    ASSERT_TRUE(korvale_->process().Running()) << i;
+  }
+}
+
 TEST_F(RequestsBehindABox, ToUseTheOptionsLeaveTheQuestionToTheUser) {
   StartBesideAlpha();
   Press(kOptionsKey);
