@@ -43,7 +43,10 @@ void StartUp::Initialise(frmMain& form, MainParts& parts) {
   parts.hotKeys.SetHotKeys("SET");
   form.RefreshMenus("Form_Load");
   parts.state.startUpFinished = true;
+  const bool unchanged = form.HoldsINI();
   form.Form_Resize();
+  // A place that fits this screen is no change by the user; it is saved at the end.
+  if (unchanged) form.KeepINI();
   if (parts.state.firstRun) SaveFirstRun(form, parts.settings);
   // Before the main window comes up, since the user may be taken to another window then.
   MentionRefusedHotKeys(form, parts.hotKeys);

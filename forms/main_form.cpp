@@ -75,6 +75,14 @@ void frmMain::udmSaveINI() {
   parts_.settings.SaveINI(parts_.startup, TagsToStore(parts_.desktop.tags));
 }
 
+bool frmMain::HoldsINI() const {
+  return parts_.settings.HoldsINI(parts_.startup, TagsToStore(parts_.desktop.tags));
+}
+
+void frmMain::KeepINI() {
+  parts_.settings.KeepINI(parts_.startup, TagsToStore(parts_.desktop.tags));
+}
+
 void frmMain::SaveOrTell() {
   SaveOrTell([this] {
     SaveScope save(parts_.settings);
@@ -104,6 +112,7 @@ void frmMain::SaveOrTellOnce(const std::function<void()>& save) {
 void frmMain::LoadStartupSettings() {
   parts_.startup = parts_.settings.LoadStartup();
   RestoreTagList(parts_.desktop.tags, parts_.settings.LoadTagList());
+  KeepINI();
 }
 
 void frmMain::UseSettings(const InstallationSettings& settings) {

@@ -55,6 +55,10 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   void udmSaveOptions();
   void udmDeleteOptions() override;
   void udmSaveINI();
+  /// Whether the store holds the main window's state and the Tag list as they are now.
+  bool HoldsINI() const;
+  /// From now on they count as stored.
+  void KeepINI();
   void SaveOrTell() override;
   /// Runs a save that the program makes by itself; tells the user when it fails, in whatever step,
   /// unless they know already.

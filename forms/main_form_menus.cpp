@@ -74,7 +74,7 @@ void frmMain::RefreshMenus(std::string_view source) {
   Menu("mnuHelpDisplayTips").checked = parts_.startup.DisplayTips;
   ShowTopLevelMenus(fromKeyboard || parts_.startup.Menu);
   // A command can end while the program has already been taken down, with everything saved.
-  if (fromMenu && !unloaded_) SaveOrTellOnce([this] { udmSaveINI(); });
+  if (fromMenu && !unloaded_ && !HoldsINI()) SaveOrTellOnce([this] { udmSaveINI(); });
 }
 
 void frmMain::ShowTopLevelMenus(bool shown) {

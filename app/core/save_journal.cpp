@@ -168,13 +168,14 @@ void SaveJournal::Commit(const std::vector<StoreChange>& newChanges) {
   if (!allMade) throw RunTimeError(RunTimeError::kPermissionDenied);
 }
 
-void SaveJournal::FinishInterrupted() {
+bool SaveJournal::FinishInterrupted() {
   const std::optional<Journal> complete = LeftBehind();
   bool alone = true;
   for (const char* const section : kJournalSections) {
     if (!complete || section != complete->section) alone &= Clear(section);
   }
-  if (complete && alone && Apply(complete->changes)) Clear(complete->section);
+  if (!complete || !alone) return alone;
+  return Apply(complete->changes) && Clear(complete->section);
 }
 
 std::vector<StoreChange> SaveJournal::Unfinished() const {

@@ -36,8 +36,9 @@ class SaveJournal {
   void Commit(const std::vector<StoreChange>& newChanges);
 
   /// Makes all changes of a complete journal that was left behind and removes it, unless the store
-  /// refuses again; drops an incomplete one. Does nothing when there is none.
-  void FinishInterrupted();
+  /// refuses again; drops an incomplete one. Does nothing when there is none. False when the store
+  /// has refused any of it.
+  bool FinishInterrupted();
 
   /// The changes of a complete journal, which the store may not have taken yet; none when there is
   /// no such journal.

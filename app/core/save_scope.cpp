@@ -12,6 +12,11 @@ SaveScope::SaveScope(SavingStore& store)
       journal_(store.Store(), store.AppName()),
       deletesLast_(outer_ != nullptr && outer_->deletesLast_) {}
 
+SaveScope::~SaveScope() {
+  if (store_ != nullptr) store_->CountLostSave();
+  Close();
+}
+
 void SaveScope::SaveSetting(const std::string& appName, const std::string& section,
                             const std::string& key, const std::string& value) {
   changes_.push_back({StoreChange::Kind::kSaveSetting, appName, section, key, value});
@@ -31,9 +36,18 @@ void SaveScope::Commit() {
     throw RunTimeError(RunTimeError::kInternalError);
   }
   // Closed first, so that what the program saves while it reports a failure is a separate save.
+  SavingStore& store = *store_;
   Close();
-  if (outer_ == nullptr) return journal_.Commit(changes_);
-  outer_->changes_.insert(outer_->changes_.end(), changes_.begin(), changes_.end());
+  if (outer_ != nullptr) {
+    outer_->changes_.insert(outer_->changes_.end(), changes_.begin(), changes_.end());
+    return;
+  }
+  try {
+    journal_.Commit(changes_);
+  } catch (...) {
+    store.CountLostSave();
+    throw;
+  }
 }
 
 void SaveScope::Close() {

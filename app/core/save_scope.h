@@ -27,6 +27,12 @@ class SavingStore {
 
   SettingsStore& Store() const { return *store_; }
 
+  /// How many saves of this run have not reached the store: it refused them, or they were given up.
+  int LostSaves() const { return lostSaves_; }
+
+ protected:
+  void CountLostSave() { ++lostSaves_; }
+
  private:
   friend class SaveScope;
 
@@ -34,6 +40,7 @@ class SavingStore {
   std::string appName_;
   /// The innermost scope; null when none is open.
   SaveScope* openScope_ = nullptr;
+  int lostSaves_ = 0;
 };
 
 /// Saves that belong together. Commit makes, as one save, everything that was saved or deleted
@@ -43,7 +50,7 @@ class SavingStore {
 class SaveScope {
  public:
   explicit SaveScope(SavingStore& store);
-  ~SaveScope() { Close(); }
+  ~SaveScope();
   SaveScope(const SaveScope&) = delete;
   SaveScope& operator=(const SaveScope&) = delete;
 

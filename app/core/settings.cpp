@@ -90,15 +90,26 @@ void Settings::SaveINI(const StartupSettings& startup, const StoredTagList& tags
     if (!tag.className.empty()) save.SaveSetting(AppName(), kTagClasses, key, tag.className);
   }
   save.Commit();
+  storedINI_ = AsStored(startup, tags);
+}
+
+bool Settings::HoldsINI(const StartupSettings& startup, const StoredTagList& tags) const {
+  return storedINI_ == AsStored(startup, tags);
+}
+
+void Settings::KeepINI(const StartupSettings& startup, const StoredTagList& tags) {
+  if (LostSaves() == 0) storedINI_ = AsStored(startup, tags);
 }
 
 void Settings::DeleteINI() {
+  storedINI_.reset();
   SaveScope save(*this);
   for (const char* section : kSectionsOfSaveINI) save.DeleteSection(AppName(), section);
   save.Commit();
 }
 
 void Settings::DeletePlacement() {
+  storedINI_.reset();
   SaveScope save(*this);
   for (const auto& row : StartupRows()) {
     if (row.onImport == OnImport::kDrop) save.DeleteSetting(AppName(), row.section, row.key);
@@ -122,6 +133,8 @@ bool Settings::NothingStored() const {
 
 SavedValues Settings::Saved() const { return SavedValues(Store(), AppName()); }
 
-void Settings::FinishInterruptedSave() { SaveJournal(Store(), AppName()).FinishInterrupted(); }
+void Settings::FinishInterruptedSave() {
+  if (!SaveJournal(Store(), AppName()).FinishInterrupted()) CountLostSave();
+}
 
 }  // namespace korvale

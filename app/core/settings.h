@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "app/core/options.h"
 #include "app/core/save_scope.h"
 #include "app/core/saved_values.h"
@@ -32,6 +35,11 @@ class Settings : public SavingStore {
   /// Deletes the sections of the main window's state, of the Tag list and of earlier designs, then
   /// writes the state and the Tag list.
   void SaveINI(const StartupSettings& startup, const StoredTagList& tags);
+  /// Whether these are what SaveINI stored last in this run, or what KeepINI said. The store is not
+  /// read.
+  bool HoldsINI(const StartupSettings& startup, const StoredTagList& tags) const;
+  /// From now on these count as stored, unless the store lacks anything that it should hold.
+  void KeepINI(const StartupSettings& startup, const StoredTagList& tags);
   /// Only the deletions of SaveINI.
   void DeleteINI();
   /// Deletes the settings that are not taken over from another installation.
@@ -47,7 +55,22 @@ class Settings : public SavingStore {
   void FinishInterruptedSave();
 
  private:
+  /// What SaveINI stored, and how many saves had been lost by then.
+  struct StoredINI {
+    std::string appName;
+    StartupSettings startup;
+    StoredTagList tags;
+    int lostSaves = 0;
+
+    friend bool operator==(const StoredINI&, const StoredINI&) = default;
+  };
+
   SavedValues Saved() const;
+  StoredINI AsStored(const StartupSettings& startup, const StoredTagList& tags) const {
+    return {AppName(), startup, tags, LostSaves()};
+  }
+
+  std::optional<StoredINI> storedINI_;
 };
 
 }  // namespace korvale

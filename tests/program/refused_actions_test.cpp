@@ -18,7 +18,9 @@ class RefusedAction : public StartTest {
     korvale_->user.ChooseMenu(korvale_->Handle(), {"View", "Target Window"});
   }
   void TagAWindow() { korvale_->TagPrevious(); }
+  /// After dragging the window, whose new place is saved then.
   void SelectATag() {
+    korvale_->user.Drag(korvale_->Handle(), {600, 900, 6000, 1100});
     PressTag(1);
     EXPECT_EQ(Front(), "Alpha");
   }

@@ -30,6 +30,8 @@ class WindowMenuActionsTest : public KorvaleWorld {
     return calls;
   }
 
+  /// Changes something that the next menu command saves.
+  static void ChangeColor(KorvaleCopy& korvale) { ++korvale.Startup().LastColorSelected; }
   bool Saved() { return !log.CallsOf("SaveSetting").empty(); }
 };
 
@@ -87,6 +89,7 @@ TEST_F(WindowMenuActionsTest, AlwaysOnTopOfAPreviousWindowThatCannotBeActivatedO
   korvale.ExpectBox("The window operation was not successful.  Please try again.", "Korvale",
                     win32::kMbSetForeground, win32::kIdOk);
   log.Clear();
+  ChangeColor(korvale);
   korvale.ChooseLate("mnuWindowPreviousWindowAlwaysOnTop");
   EXPECT_FALSE(korvale.Form().Menu("mnuWindowPreviousWindowAlwaysOnTop").checked);
   EXPECT_TRUE(log.CallsOf("SetWindowPos").empty());
@@ -100,6 +103,7 @@ TEST_F(WindowMenuActionsTest, AlwaysOnTopOfThePreviousWindowStaysThereWithoutThe
   WorkIn(alpha);
   WorkIn(Open("Beta"));
   log.Clear();
+  ChangeColor(korvale);
   korvale.ChooseLate("mnuWindowPreviousWindowAlwaysOnTop");
   EXPECT_EQ(DesktopCalls(), Calls{"SetWindowPos(Beta, HWND_TOPMOST, 0, 0, 0, 0, 16387)"});
   EXPECT_EQ(Front(), "Beta");
@@ -111,6 +115,7 @@ TEST_F(WindowMenuActionsTest, MinimizeAllMinimizesFromTheTopWithTheTimersStopped
   KorvaleCopy& korvale = StartedAfter(Open("Upper"));
   bool running = true;
   log.WhenCalled("ShowWindowAsync(Upper", [&] { running = korvale.Form().tmrWindow().Enabled(); });
+  ChangeColor(korvale);
   korvale.ChooseLate("mnuWindowMinimizeAll");
   EXPECT_EQ(DesktopCalls(),
             (Calls{"ShowWindow(Korvale, SW_MINIMIZE)", "ShowWindowAsync(Upper, SW_MINIMIZE)",
@@ -127,6 +132,7 @@ TEST_F(WindowMenuActionsTest, RestoreAllEndsInKorvaleBeforeTheTimersRunAgain) {
   log.Clear();
   bool running = true;
   log.WhenCalled("SetForegroundWindow", [&] { running = korvale.Form().tmrWindow().Enabled(); });
+  ChangeColor(korvale);
   korvale.ChooseLate("mnuWindowRestoreAll");
   EXPECT_EQ(DesktopCalls(),
             (Calls{"ShowWindowAsync(Alpha, SW_RESTORE)", "SetForegroundWindow(Korvale)"}));
@@ -142,9 +148,11 @@ TEST_F(WindowMenuActionsTest, WhileASearchIsForbiddenNothingIsMinimizedOrRestore
   desktop.UserMinimizes(alpha);
   korvale.Selection().windowSearch = true;
   log.Clear();
+  ChangeColor(korvale);
   korvale.ChooseLate("mnuWindowMinimizeAll");
   EXPECT_TRUE(Saved());
   log.Clear();
+  ChangeColor(korvale);
   korvale.ChooseLate("mnuWindowRestoreAll");
   EXPECT_TRUE(Saved());
   EXPECT_EQ(DesktopCalls(), Calls{});

@@ -100,7 +100,7 @@ TEST_F(WindowMenuOpeningTest, AnUnresolvedTagIsSearchedForEvenWhenNothingIsInFro
   ExpectTagLeadsTo(1, "Clock");
 }
 
-TEST_F(WindowMenuOpeningTest, EverySelectionIsStoredAlsoAFailedOne) {
+TEST_F(WindowMenuOpeningTest, EverySelectionStoresWhatHasChangedAlsoAFailedOne) {
   const WindowHandle alpha = Open("Alpha");
   KorvaleCopy& korvale = StartedAfter(alpha);
   korvale.TagPrevious();
@@ -109,6 +109,7 @@ TEST_F(WindowMenuOpeningTest, EverySelectionIsStoredAlsoAFailedOne) {
     desktop.SetEnabled(alpha, enabled);
     WorkIn(Open("Beta"));
     if (!enabled) korvale.host.AnswerNext(win32::kIdOk);
+    ++korvale.Startup().LastColorSelected;
     log.Clear();
     PressTag(1);
     EXPECT_FALSE(log.CallsOf("SaveSetting(Korvale - Work, ParentWindowList").empty()) << enabled;
