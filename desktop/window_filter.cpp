@@ -1,13 +1,19 @@
 #include "desktop/window_filter.h"
 
-#include <string>
+#include <string_view>
 
 #include "desktop/shell_surfaces.h"
-#include "desktop/window_readers.h"
 #include "desktop/window_visibility.h"
 #include "platform/win32_constants.h"
 
 namespace korvale {
+namespace {
+
+bool IsOneOf(const OwnWindows& own, WindowHandle hwnd) {
+  return hwnd == own.owner || hwnd == own.about;
+}
+
+}  // namespace
 
 WindowFilter::WindowFilter(WindowQueries& windows, VirtualDesktops& virtualDesktops,
                            const OptionsHolder& options, const LoadedForms& forms,
@@ -28,37 +34,48 @@ bool WindowFilter::IsShown(WindowHandle hwnd) const {
 
 bool WindowFilter::IsSelectableWindow(WindowHandle hwnd, bool checkOptions,
                                       bool skipBasicChecks) const {
-  const std::string title = GetWindowTitle(*windows_, hwnd);
-  if (!skipBasicChecks && !PassesBasicChecks(hwnd, title)) return false;
-  return !checkOptions || PassesOptionChecks(hwnd, title);
+  SeenWindow window(*windows_, hwnd);
+  return IsSelectableWindow(window, checkOptions, skipBasicChecks);
 }
 
-bool WindowFilter::PassesBasicChecks(WindowHandle hwnd, const std::string& title) const {
-  const std::string className = GetWindowClass(*windows_, hwnd);
-  if (hwnd == 0 || !windows_->IsWindow(hwnd)) return false;
-  // The hidden window that owns the program's forms.
-  if (hwnd == windows_->GetWindow(mainWindow_->MainHandle(), win32::kGwOwner)) return false;
+bool WindowFilter::IsSelectableWindow(SeenWindow& window, bool checkOptions,
+                                      bool skipBasicChecks) const {
+  const bool basic =
+      skipBasicChecks || (IsOrdinary(window) && !IsOneOf(FindOwnWindows(), window.Handle()));
+  return basic && (!checkOptions || PassesOptionChecks(window));
+}
+
+OwnWindows WindowFilter::FindOwnWindows() const {
+  return {windows_->GetWindow(mainWindow_->MainHandle(), win32::kGwOwner),
+          FormHandle(*forms_, "frmMsgBox2")};
+}
+
+bool WindowFilter::PassesBasicChecks(SeenWindow& window, const OwnWindows& own) const {
+  return !IsOneOf(own, window.Handle()) && IsOrdinary(window);
+}
+
+bool WindowFilter::IsOrdinary(SeenWindow& window) const {
+  if (window.Handle() == 0) return false;
+  const std::string_view className = window.ClassName();
+  if (className.empty() && !windows_->IsWindow(window.Handle())) return false;
   if (IsShellSurface(className)) return false;
-  if (title.empty() && className == "Static") return false;
-  return hwnd != FormHandle(*forms_, "frmMsgBox2");
+  return className != "Static" || !window.Title().empty();
 }
 
-bool WindowFilter::PassesOptionChecks(WindowHandle hwnd, const std::string& title) const {
+bool WindowFilter::PassesOptionChecks(SeenWindow& window) const {
   const clsOptions& options = options_->Get();
-  if (!options.booAllowNoTextWindow && title.empty()) return false;
-  if (!options.booAllowToolbarWindow) {
-    const std::int32_t exStyle = windows_->GetWindowLongA(hwnd, win32::kGwlExStyle);
-    if ((exStyle & win32::kWsExToolWindow) != 0) return false;
+  if (!options.booAllowNoTextWindow && window.Title().empty()) return false;
+  if (!options.booAllowToolbarWindow && (window.ExStyle() & win32::kWsExToolWindow) != 0) {
+    return false;
   }
-  return options.booAllowModalFrameWindow || PassesModalFrameCheck(hwnd);
+  return options.booAllowModalFrameWindow || PassesModalFrameCheck(window);
 }
 
-bool WindowFilter::PassesModalFrameCheck(WindowHandle hwnd) const {
-  const std::int32_t style = windows_->GetWindowLongA(hwnd, win32::kGwlStyle);
-  const bool modalFrame = (style & win32::kDsModalFrame) != 0;
+bool WindowFilter::PassesModalFrameCheck(SeenWindow& window) const {
+  const bool modalFrame = (window.Style() & win32::kDsModalFrame) != 0;
   // The Options dialog has a modal frame, yet the user works in it as in any other window.
-  if (modalFrame && hwnd != FormHandle(*forms_, "frmOptions")) return false;
-  return (style & win32::kDsSysModal) == 0;
+  if (modalFrame && window.Handle() != FormHandle(*forms_, "frmOptions")) return false;
+  return (window.Style() & win32::kDsSysModal) == 0;
 }
 
 }  // namespace korvale

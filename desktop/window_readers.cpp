@@ -2,27 +2,25 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <span>
 
 #include "platform/win32_constants.h"
 
 namespace korvale {
 namespace {
 
-constexpr std::size_t kClassNameBuffer = 255;
-constexpr std::size_t kSmallestRereadBuffer = 64;
+constexpr std::size_t kSmallestRereadBuffer = 1024;
 constexpr std::size_t kLargestTitleBuffer = 65536;
 constexpr std::size_t kLongestSequence = 4;
 
 /// A longer title may leave the buffer's last bytes unused, too few for its next character.
-bool MayBeCut(const std::string& title, std::size_t bufferSize) {
-  return title.size() + kLongestSequence > bufferSize - 1;
+bool MayBeCut(std::size_t length, std::size_t bufferSize) {
+  return length + kLongestSequence > bufferSize - 1;
 }
 
-std::string ReadTitle(WindowQueries& windows, WindowHandle hwnd, std::size_t bufferSize) {
-  std::string buffer(bufferSize, '\0');
+std::size_t ReadTitle(WindowQueries& windows, WindowHandle hwnd, std::span<char> buffer) {
   const auto copied = static_cast<std::size_t>(std::max(windows.GetWindowTextA(hwnd, buffer), 0));
-  buffer.resize(std::min(copied, bufferSize - 1));
-  return buffer;
+  return std::min(copied, buffer.size() - 1);
 }
 
 std::size_t SequenceLength(char lead) {
@@ -34,37 +32,50 @@ std::size_t SequenceLength(char lead) {
 
 bool IsContinuation(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
 
-/// Drops a character at the end that lacks its last bytes.
-void DropCutSequence(std::string& text) {
+/// The text without a character at its end that lacks its last bytes.
+std::string_view WithoutCutSequence(std::string_view text) {
   std::size_t at = text.size();
   while (at > 0 && text.size() - at < kLongestSequence) {
     --at;
     if (IsContinuation(text[at])) continue;
-    if (SequenceLength(text[at]) > text.size() - at) text.resize(at);
-    return;
+    return SequenceLength(text[at]) > text.size() - at ? text.substr(0, at) : text;
   }
+  return text;
 }
 
 }  // namespace
 
-std::string GetWindowTitle(WindowQueries& windows, WindowHandle hwnd) {
-  const int length = std::max(windows.GetWindowTextLengthA(hwnd), 0);
-  std::size_t bufferSize = static_cast<std::size_t>(length) + 1;
-  std::string title = ReadTitle(windows, hwnd, bufferSize);
-  while (!title.empty() && MayBeCut(title, bufferSize) && bufferSize < kLargestTitleBuffer) {
-    bufferSize = std::clamp(bufferSize * 2, kSmallestRereadBuffer, kLargestTitleBuffer);
-    title = ReadTitle(windows, hwnd, bufferSize);
+std::string_view ReadWindowTitle(WindowQueries& windows, WindowHandle hwnd, TitleBuffer& buffer,
+                                 std::string& longTitle) {
+  std::size_t length = ReadTitle(windows, hwnd, buffer);
+  if (!MayBeCut(length, buffer.size())) return {buffer.data(), length};
+  const auto told = static_cast<std::size_t>(std::max(windows.GetWindowTextLengthA(hwnd), 0));
+  std::size_t bufferSize = std::max(told + kLongestSequence + 1, kSmallestRereadBuffer);
+  longTitle.resize(bufferSize);
+  length = ReadTitle(windows, hwnd, longTitle);
+  while (MayBeCut(length, bufferSize) && bufferSize < kLargestTitleBuffer) {
+    bufferSize = std::min(bufferSize * 2, kLargestTitleBuffer);
+    longTitle.resize(bufferSize);
+    length = ReadTitle(windows, hwnd, longTitle);
   }
-  if (MayBeCut(title, bufferSize)) DropCutSequence(title);
-  return title;
+  const std::string_view title(longTitle.data(), length);
+  return MayBeCut(length, bufferSize) ? WithoutCutSequence(title) : title;
+}
+
+std::string GetWindowTitle(WindowQueries& windows, WindowHandle hwnd) {
+  TitleBuffer buffer{};
+  std::string longTitle;
+  return std::string(ReadWindowTitle(windows, hwnd, buffer, longTitle));
+}
+
+std::string_view ReadWindowClass(WindowQueries& windows, WindowHandle hwnd, ClassBuffer& buffer) {
+  const auto copied = static_cast<std::size_t>(std::max(windows.GetClassNameA(hwnd, buffer), 0));
+  return WithoutCutSequence({buffer.data(), std::min(copied, buffer.size())});
 }
 
 std::string GetWindowClass(WindowQueries& windows, WindowHandle hwnd) {
-  std::string buffer(kClassNameBuffer, '\0');
-  const auto copied = static_cast<std::size_t>(std::max(windows.GetClassNameA(hwnd, buffer), 0));
-  buffer.resize(std::min(copied, kClassNameBuffer));
-  DropCutSequence(buffer);
-  return buffer;
+  ClassBuffer buffer{};
+  return std::string(ReadWindowClass(windows, hwnd, buffer));
 }
 
 KnownWindow Know(WindowQueries& windows, WindowHandle hwnd) {

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "platform/types.h"
 #include "platform/window_api.h"
@@ -14,12 +16,22 @@ inline constexpr int kMostOwners = 16;
 /// Stands where a title is shown that is empty.
 inline constexpr const char* kUntitled = "(window without a title)";
 
-/// The whole title of a window, read now (GetWindowTextLengthA, GetWindowTextA); "" when the window
-/// is gone or untitled. A title that grew between the two calls is read again, never cut.
+/// Holds any ordinary title, and the class name of any window.
+using TitleBuffer = std::array<char, 512>;
+using ClassBuffer = std::array<char, 255>;
+
+/// The whole title of a window, read now (GetWindowTextA); "" when the window is gone or untitled.
+/// One that its buffer may have cut is read again into a larger one (GetWindowTextLengthA), also
+/// when it grows meanwhile.
 std::string GetWindowTitle(WindowQueries& windows, WindowHandle hwnd);
+/// The same without an allocation, unless it is too long for `buffer` and stands in `longTitle`.
+std::string_view ReadWindowTitle(WindowQueries& windows, WindowHandle hwnd, TitleBuffer& buffer,
+                                 std::string& longTitle);
 
 /// The class name of a window (GetClassNameA); "" when the window is gone.
 std::string GetWindowClass(WindowQueries& windows, WindowHandle hwnd);
+/// The same in `buffer`.
+std::string_view ReadWindowClass(WindowQueries& windows, WindowHandle hwnd, ClassBuffer& buffer);
 
 /// A window and its class, by which another one that has got its handle is told apart.
 struct KnownWindow {

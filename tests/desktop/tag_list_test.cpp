@@ -139,12 +139,11 @@ TEST_F(TagListTest, MatchingNeverTouchesTheFirstEntry) {
 TEST_F(TagListTest, MatchingReadsInItsOrder) {
   AddTag(3, "Alpha", "Window");
   AddTag(5, "Alpha");
-  const WindowHandle hwnd = desktop.Open("Alpha", {.extraTextLength = 9});
+  const WindowHandle hwnd = desktop.Open("Alpha");
   EXPECT_EQ(CallsOf([&] { Match(hwnd); }),
-            (Calls{"GetClassNameA(Alpha, 255)", "GetWindowTextLengthA(Alpha)",
-                   "GetWindowTextA(Alpha, 15)", "GetWindow(Alpha, GW_CHILD)",
-                   "DwmGetWindowAttribute(Alpha)", "GetWindowTextLengthA(Alpha)",
-                   "GetWindowTextA(Alpha, 15)", "GetWindow(Alpha, GW_CHILD)",
+            (Calls{"GetClassNameA(Alpha, 255)", "GetWindowTextA(Alpha, 512)",
+                   "GetWindow(Alpha, GW_CHILD)", "DwmGetWindowAttribute(Alpha)",
+                   "GetWindowTextA(Alpha, 512)", "GetWindow(Alpha, GW_CHILD)",
                    "DwmGetWindowAttribute(Alpha)", "GetClassNameA(Alpha, 255)"}));
 }
 
@@ -162,9 +161,8 @@ TEST_F(TagListTest, MatchingReadsNoTitleWhenTheClassDiffers) {
 
 TEST_F(TagListTest, MatchingLooksForNoChildWhenTheTitleDiffers) {
   AddTag(3, "Beta");
-  const WindowHandle hwnd = desktop.Open("Alpha", {.extraTextLength = 9});
-  EXPECT_EQ(CallsOf([&] { Match(hwnd); }),
-            (Calls{"GetWindowTextLengthA(Alpha)", "GetWindowTextA(Alpha, 15)"}));
+  const WindowHandle hwnd = desktop.Open("Alpha");
+  EXPECT_EQ(CallsOf([&] { Match(hwnd); }), (Calls{"GetWindowTextA(Alpha, 512)"}));
 }
 
 TEST_F(TagListTest, UnloadingLeavesTheFirstEntryAlone) {

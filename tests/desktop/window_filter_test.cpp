@@ -153,24 +153,55 @@ TEST_F(WindowFilterTest, OptionChecksNeedTheOptions) {
   EXPECT_THROW(Allowed(hwnd), RunTimeError);
 }
 
-TEST_F(WindowFilterTest, BasicChecksReadInTheirOrder) {
+TEST_F(WindowFilterTest, BasicChecksReadTheClassAndTheOwnerOfTheMainWindow) {
   const WindowHandle hwnd = desktop.Open("Alpha");
-  EXPECT_EQ(
-      CallsOf([&] { Basic(hwnd); }),
-      (Calls{"GetWindowTextLengthA(Alpha)", "GetWindowTextA(Alpha, 6)", "GetWindowTextA(Alpha, 64)",
-             "GetClassNameA(Alpha, 255)", "IsWindow(Alpha)", "GetWindow(Main, GW_OWNER)"}));
+  EXPECT_EQ(CallsOf([&] { Basic(hwnd); }),
+            (Calls{"GetClassNameA(Alpha, 255)", "GetWindow(Main, GW_OWNER)"}));
 }
 
-TEST_F(WindowFilterTest, ClassIsReadEvenOfNoWindow) {
-  EXPECT_EQ(CallsOf([&] { Basic(0); }),
-            (Calls{"GetWindowTextLengthA(0)", "GetWindowTextA(0, 1)", "GetClassNameA(0, 255)"}));
+TEST_F(WindowFilterTest, BasicChecksReadTheTitleOfAStaticWindowAlone) {
+  const WindowHandle hwnd = desktop.Open("Alpha", {.className = "Static"});
+  EXPECT_EQ(CallsOf([&] { Basic(hwnd); }),
+            (Calls{"GetClassNameA(Alpha, 255)", "GetWindowTextA(Alpha, 512)",
+                   "GetWindow(Main, GW_OWNER)"}));
+}
+
+TEST_F(WindowFilterTest, BasicChecksOfAnEnumerationReadTheClassAlone) {
+  const WindowHandle alpha = desktop.Open("Alpha");
+  const OwnWindows own = filter.FindOwnWindows();
+  SeenWindow seen(desktop, alpha);
+  EXPECT_EQ(CallsOf([&] { EXPECT_TRUE(filter.PassesBasicChecks(seen, own)); }),
+            Calls{"GetClassNameA(Alpha, 255)"});
+  SeenWindow hidden(desktop, owner);
+  EXPECT_EQ(CallsOf([&] { EXPECT_FALSE(filter.PassesBasicChecks(hidden, own)); }), Calls{});
+}
+
+TEST_F(WindowFilterTest, NothingIsReadOfNoWindow) {
+  EXPECT_EQ(CallsOf([&] { EXPECT_FALSE(Basic(0)); }), Calls{});
+}
+
+TEST_F(WindowFilterTest, OnlyAWindowWithoutAClassIsAskedWhetherItExists) {
+  EXPECT_EQ(CallsOf([&] { EXPECT_FALSE(Basic(0x7777)); }),
+            (Calls{"GetClassNameA(0x7777, 255)", "IsWindow(0x7777)"}));
 }
 
 TEST_F(WindowFilterTest, OptionChecksReadInTheirOrder) {
-  const WindowHandle hwnd = desktop.Open("Alpha", {.extraTextLength = 9});
+  const WindowHandle hwnd = desktop.Open("Alpha");
   EXPECT_EQ(CallsOf([&] { Allowed(hwnd); }),
-            (Calls{"GetWindowTextLengthA(Alpha)", "GetWindowTextA(Alpha, 15)",
-                   "GetWindowLongA(Alpha, GWL_EXSTYLE)", "GetWindowLongA(Alpha, GWL_STYLE)"}));
+            (Calls{"GetWindowTextA(Alpha, 512)", "GetWindowLongA(Alpha, GWL_EXSTYLE)",
+                   "GetWindowLongA(Alpha, GWL_STYLE)"}));
+}
+
+TEST_F(WindowFilterTest, BothChecksInOneVisitReadEachFactOnce) {
+  const WindowHandle hwnd = desktop.Open("Alpha", {.className = "Static"});
+  EXPECT_EQ(
+      CallsOf([&] {
+        SeenWindow seen(desktop, hwnd);
+        EXPECT_TRUE(filter.IsSelectableWindow(seen, false, false));
+        EXPECT_TRUE(filter.IsSelectableWindow(seen, true, true));
+      }),
+      (Calls{"GetClassNameA(Alpha, 255)", "GetWindowTextA(Alpha, 512)", "GetWindow(Main, GW_OWNER)",
+             "GetWindowLongA(Alpha, GWL_EXSTYLE)", "GetWindowLongA(Alpha, GWL_STYLE)"}));
 }
 
 TEST_F(WindowFilterTest, FailedOptionCheckEndsTheReading) {

@@ -39,26 +39,47 @@ TEST_F(WindowReaders, TitleOfNoWindowIsEmpty) {
   EXPECT_EQ(GetWindowTitle(desktop, 0x7777), "");
 }
 
-TEST_F(WindowReaders, TitleThatIsShorterThanItsReportedLengthIsReadOnce) {
-  const WindowHandle hwnd = desktop.Open("Alpha", {.extraTextLength = 4});
-  std::string title;
-  const Calls calls = CallsOf([&] { title = GetWindowTitle(desktop, hwnd); });
-  EXPECT_EQ(title, "Alpha");
-  EXPECT_EQ(calls, (Calls{"GetWindowTextLengthA(Alpha)", "GetWindowTextA(Alpha, 10)"}));
+TEST_F(WindowReaders, OrdinaryTitleIsReadWithOneCall) {
+  const std::string longest(507, 'x');
+  for (const std::string& title : {std::string("Alpha"), std::string(), longest}) {
+    const WindowHandle hwnd = desktop.Open(title);
+    log.NameWindow(hwnd, "Alpha");
+    std::string read;
+    const Calls calls = CallsOf([&] { read = GetWindowTitle(desktop, hwnd); });
+    EXPECT_EQ(read, title);
+    EXPECT_EQ(calls, Calls{"GetWindowTextA(Alpha, 512)"});
+  }
 }
 
-TEST_F(WindowReaders, TitleThatFillsItsBufferIsReadAgainWithALargerOne) {
-  const WindowHandle hwnd = desktop.Open("Alpha");
-  const Calls calls = CallsOf([&] { GetWindowTitle(desktop, hwnd); });
-  EXPECT_EQ(calls, (Calls{"GetWindowTextLengthA(Alpha)", "GetWindowTextA(Alpha, 6)",
-                          "GetWindowTextA(Alpha, 64)"}));
+TEST_F(WindowReaders, TitleThatMayBeCutIsReadAgainAtItsReportedLength) {
+  for (const std::size_t length : {508U, 511U, 512U, 3000U}) {
+    const WindowHandle hwnd = desktop.Open(std::string(length, 'x'));
+    log.NameWindow(hwnd, "Alpha");
+    std::string read;
+    const Calls calls = CallsOf([&] { read = GetWindowTitle(desktop, hwnd); });
+    EXPECT_EQ(read, std::string(length, 'x'));
+    const std::string size = length < 1000 ? "1024" : "3005";
+    EXPECT_EQ(calls, (Calls{"GetWindowTextA(Alpha, 512)", "GetWindowTextLengthA(Alpha)",
+                            "GetWindowTextA(Alpha, " + size + ")"}));
+  }
 }
 
 TEST_F(WindowReaders, TitleThatGrowsWhileItIsReadIsNotCut) {
-  const WindowHandle hwnd = desktop.Open("Alpha");
-  const std::string grown = Repeated("Жук ", 300);
-  log.WhenCalled("GetWindowTextA(Alpha", [&] { desktop.Rename(hwnd, grown); });
-  EXPECT_EQ(GetWindowTitle(desktop, hwnd), grown);
+  for (const int times : {1, 150, 300, 5000}) {
+    const WindowHandle hwnd = desktop.Open(Repeated("Жук ", 100));
+    log.NameWindow(hwnd, "Alpha");
+    const std::string grown = Repeated("Жук ", times);
+    log.WhenCalled("GetWindowTextLengthA(Alpha", [&] {
+      log.WhenCalled("GetWindowTextA(Alpha", [&] { desktop.Rename(hwnd, grown); });
+    });
+    EXPECT_EQ(GetWindowTitle(desktop, hwnd), grown);
+  }
+}
+
+TEST_F(WindowReaders, LongTitleThatGoesWhileItIsReadIsEmpty) {
+  const WindowHandle hwnd = desktop.Open(Repeated("Жук ", 100));
+  log.WhenCalled("GetWindowTextLengthA", [&] { desktop.Close(hwnd); });
+  EXPECT_EQ(GetWindowTitle(desktop, hwnd), "");
 }
 
 TEST_F(WindowReaders, TitleThatShrinksWhileItIsReadIsTheShortOne) {
@@ -76,8 +97,9 @@ TEST_F(WindowReaders, TitleOfAWindowThatGoesWhileItIsReadIsEmpty) {
 TEST_F(WindowReaders, TitleThatKeepsGrowingEndsAtTheLargestBufferWithAWholeCharacter) {
   for (const char* const character : {"x", "é", "メ", "🦊"}) {
     const std::string all = "xy" + Repeated(character, 70000);
-    const WindowHandle hwnd = desktop.Open("Alpha");
-    log.WhenCalled("GetWindowTextA(Alpha", [&] { desktop.Rename(hwnd, all); });
+    const WindowHandle hwnd = desktop.Open(std::string(600, 'x'));
+    log.WhenCalled("GetWindowTextLengthA",
+                   [&] { log.WhenCalled("GetWindowTextA", [&] { desktop.Rename(hwnd, all); }); });
     const std::string title = GetWindowTitle(desktop, hwnd);
     EXPECT_GT(title.size(), 65530U);
     EXPECT_LT(title.size(), 65536U);

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "desktop/window_readers.h"
+#include "platform/types.h"
+#include "platform/window_api.h"
+
+namespace korvale {
+
+/// One visit of a window: each fact is read when it is first asked for and never again, so that all
+/// who look at the window see the same. Made anew for each visit.
+class SeenWindow {
+ public:
+  SeenWindow(WindowQueries& windows, WindowHandle hwnd) : windows_(&windows), hwnd_(hwnd) {}
+  SeenWindow(const SeenWindow&) = delete;
+  SeenWindow& operator=(const SeenWindow&) = delete;
+
+  WindowHandle Handle() const { return hwnd_; }
+  /// As GetWindowTitle; lives as long as this visit.
+  std::string_view Title();
+  /// As GetWindowClass; lives as long as this visit. A window that exists has a class.
+  std::string_view ClassName();
+  /// GetWindowLongA(GWL_STYLE) and (GWL_EXSTYLE).
+  std::int32_t Style();
+  std::int32_t ExStyle();
+  /// IsWindowVisible; of a top-level window.
+  bool IsVisible();
+  /// Visible, and Windows does not cloak it (IsShownHere of window_visibility.h).
+  bool IsShownHere();
+  /// GetWindow(GW_CHILD).
+  WindowHandle FirstChild();
+  /// DwmGetWindowAttribute: DWM_CLOAKED_ values, 0 for a window on the screen.
+  std::uint32_t Cloak();
+
+ private:
+  WindowQueries* windows_;
+  WindowHandle hwnd_;
+  TitleBuffer titleBuffer_{};
+  std::string longTitle_;
+  ClassBuffer classBuffer_{};
+  std::optional<std::string_view> title_;
+  std::optional<std::string_view> className_;
+  std::optional<std::int32_t> style_;
+  std::optional<std::int32_t> exStyle_;
+  std::optional<bool> visible_;
+  std::optional<WindowHandle> firstChild_;
+  std::optional<std::uint32_t> cloak_;
+};
+
+}  // namespace korvale
