@@ -55,6 +55,8 @@ frmMsgBox2::frmMsgBox2(FormCollection& forms, Clock& clock, const ProgramIdentit
   });
 }
 
+frmMsgBox2::~frmMsgBox2() = default;
+
 void frmMsgBox2::SetWebSite(std::string address, std::function<void()> open) {
   webSite_ = std::move(address);
   openWebSite_ = std::move(open);

@@ -19,6 +19,7 @@ class frmMsgBox2 : public Form {
  public:
   /// `identity` is read each time the box is shown.
   frmMsgBox2(FormCollection& forms, Clock& clock, const ProgramIdentity& identity);
+  ~frmMsgBox2() override;
 
   /// Gives the box an address to show, which `open` opens. Without an address none is shown.
   void SetWebSite(std::string address, std::function<void()> open);

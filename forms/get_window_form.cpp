@@ -59,6 +59,8 @@ frmGetWindow::frmGetWindow(FormCollection& forms, AddWindowContext context)
   WhenClosedUp("cboWindow", [this](int) { cboWindow_CloseUp(); });
 }
 
+frmGetWindow::~frmGetWindow() = default;
+
 void frmGetWindow::PrepareForWindowMenu() {
   SetCaption(std::string(kProductName) + " - Add Window");
   for (const char* const name : {"lblChildWindow", "Line3", "chkChildWindow", "cboChildWindow"}) {

@@ -12,6 +12,7 @@ namespace korvale {
 class frmGetWindow : public Form {
  public:
   frmGetWindow(FormCollection& forms, AddWindowContext context);
+  ~frmGetWindow() override;
 
   /// Gives the loaded dialog the look in which the Window menu opens it: without the section for
   /// child windows.

@@ -33,6 +33,8 @@ frmMain::frmMain(Platform& platform, FormCollection& forms, ProgramLifetime& lif
   WhenClicked("tmrWindow", [this](int) { parts_.desktop.tracker.tmrWindow_Timer(); });
 }
 
+frmMain::~frmMain() = default;
+
 void frmMain::Form_Load() {
   // Present in the menu, but nothing fills it.
   Menu("mnuWindowChildList").visible = false;

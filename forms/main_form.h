@@ -45,6 +45,7 @@ class ProgramLifetime {
 class frmMain : public Form, public MainWindow, public HotKeyActions, public OptionsDialogOwner {
  public:
   frmMain(Platform& platform, FormCollection& forms, ProgramLifetime& lifetime);
+  ~frmMain() override;
 
   /// Only for tests, which look at the records behind the window.
   MainParts& Parts() { return parts_; }

@@ -40,6 +40,8 @@ frmMsgTip::frmMsgTip(FormCollection& forms) : Form(kMsgTipDesign, forms) {
   WhenClicked("cmdOK", [this](int) { cmdOK_Click(); });
 }
 
+frmMsgTip::~frmMsgTip() = default;
+
 void frmMsgTip::Form_Load() { SetTag(""); }
 
 void frmMsgTip::Prepare(std::string_view caption, std::string_view text, Twips height) {

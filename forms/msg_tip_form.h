@@ -13,6 +13,7 @@ class frmMsgTip : public Form {
   static constexpr const char* kNoShow = "NO_SHOW";
 
   explicit frmMsgTip(FormCollection& forms);
+  ~frmMsgTip() override;
 
   /// Fills the loaded form and lays it out for a height in twips, frame included.
   void Prepare(std::string_view caption, std::string_view text, Twips height);

@@ -47,6 +47,8 @@ frmOptions::frmOptions(FormCollection& forms, OptionsDialogOwner& owner)
   }
 }
 
+frmOptions::~frmOptions() = default;
+
 void frmOptions::Form_Load() {
   loading_ = true;
   Control& tabs = Find("tabOptions");

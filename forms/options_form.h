@@ -14,6 +14,7 @@ namespace korvale {
 class frmOptions : public Form {
  public:
   frmOptions(FormCollection& forms, OptionsDialogOwner& owner);
+  ~frmOptions() override;
 
   /// Shows the record in the loaded dialog, on the remembered tab.
   void LoadFrom(const clsOptions& options);

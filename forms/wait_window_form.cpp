@@ -25,6 +25,8 @@ frmWaitWindow::frmWaitWindow(FormCollection& forms, FormDisplay& display)
   WhenClicked("tmrWait", [this](int) { tmrWait_Timer(); });
 }
 
+frmWaitWindow::~frmWaitWindow() = default;
+
 void frmWaitWindow::ShowWaitWindow(const std::string& caption, const std::string& text,
                                    std::uint32_t milliseconds) {
   Load();

@@ -12,6 +12,7 @@ namespace korvale {
 class frmWaitWindow : public Form {
  public:
   frmWaitWindow(FormCollection& forms, FormDisplay& display);
+  ~frmWaitWindow() override;
 
   /// Shows the text and returns when the time is up or the user has closed the window. Hot keys are
   /// suspended meanwhile. A text that is still shown is replaced by the new one.

@@ -60,6 +60,11 @@ Form::Form(const FormDesign& design, FormCollection& forms)
 
 Form::~Form() { Destroy(); }
 
+const std::string& Form::Name() const { return state_.name; }
+WindowHandle Form::Handle() const { return handle_; }
+bool Form::Enabled() const { return state_.enabled; }
+FormHost& Form::Host() const { return forms_->Host(); }
+
 void Form::BuildFromDesign() {
   state_ = FormState();
   state_.name = design_.name;

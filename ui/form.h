@@ -50,10 +50,10 @@ class Form : public FormEvents, public CollectedForm, private ControlOwner {
   Form(const Form&) = delete;
   Form& operator=(const Form&) = delete;
 
-  const std::string& Name() const final { return state_.name; }
+  const std::string& Name() const final;
   bool IsLoaded() const { return handle_ != 0; }
   /// The form's window, 0 while it is not loaded.
-  WindowHandle Handle() const final { return handle_; }
+  WindowHandle Handle() const final;
   const FormState& State() const { return state_; }
 
   /// Makes the window from the design and runs Form_Load; does nothing when it is loaded.
@@ -81,7 +81,7 @@ class Form : public FormEvents, public CollectedForm, private ControlOwner {
   void FitIntoWorkArea();
   /// Limits the sizes that the user can give the form, frame included.
   void SetSizeLimits(const SizeLimits& limits);
-  bool Enabled() const final { return state_.enabled; }
+  bool Enabled() const final;
   void SetEnabled(bool enabled);
   bool Visible() const { return state_.visible; }
   ShowState WindowState() const { return state_.windowState; }
@@ -163,7 +163,7 @@ class Form : public FormEvents, public CollectedForm, private ControlOwner {
 
  private:
   // form.cpp: the life of a form.
-  FormHost& Host() const final { return forms_->Host(); }
+  FormHost& Host() const final;
   void BuildFromDesign();
   int ContainerId(const ControlRow& row) const;
   TwipsRect FrameGrowth() const;

@@ -30,6 +30,9 @@ BOOL CALLBACK VisitWindow(HWND hwnd, LPARAM parameter) {
 
 }  // namespace
 
+WindowsWindowApi::WindowsWindowApi() = default;
+WindowsWindowApi::~WindowsWindowApi() = default;
+
 void WindowsWindowApi::EnumWindows(const std::function<bool(WindowHandle)>& visit) {
   Enumeration enumeration{&visit, nullptr};
   ::EnumWindows(VisitWindow, reinterpret_cast<LPARAM>(&enumeration));

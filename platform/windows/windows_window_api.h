@@ -13,6 +13,11 @@ namespace korvale {
 /// as UTF-8, so that they do not depend on the code page of the process.
 class WindowsWindowApi final : public WindowQueries, public WindowCommands {
  public:
+  WindowsWindowApi();
+  ~WindowsWindowApi() override;
+  WindowsWindowApi(const WindowsWindowApi&) = delete;
+  WindowsWindowApi& operator=(const WindowsWindowApi&) = delete;
+
   void EnumWindows(const std::function<bool(WindowHandle)>& visit) override;
   WindowHandle GetWindow(WindowHandle hwnd, std::uint32_t command) override;
   WindowHandle GetParent(WindowHandle hwnd) override;
