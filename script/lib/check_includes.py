@@ -13,7 +13,9 @@ import sys
 WINDOWS_HEADERS = re.compile(
     r"<(windows|windowsx|winuser|commctrl|commdlg|shellapi|uxtheme|winreg|objbase)\.h>", re.I
 )
-WINDOWS_PLACES = ("platform/windows/", "ui/windows/", "tests/endtoend/")
+WINDOWS_PLACES = (
+    "platform/windows/", "ui/windows/", "tests/endtoend/", "bench/floor/", "bench/measure/"
+)
 INCLUDE = re.compile(r'^\s*#\s*include\s+([<"][^>"]+[>"])', re.M)
 
 

@@ -13,13 +13,13 @@ constexpr char kRegister[] = "Korvale Installations";
 
 }  // namespace
 
-Installation::Installation(const std::string& folder_name)
+Installation::Installation(const std::string& folder_name, const std::string& program)
     : folder_(parent_.path() + folder_name + "\\"),
       name_("Korvale - " + folder_name),
       settings_(name_) {
   namespace fs = std::filesystem;
   fs::create_directories(fs::path(Wide(folder_)));
-  fs::copy_file(fs::path(Wide(KorvaleProgram())), fs::path(Wide(program())));
+  fs::copy_file(fs::path(Wide(program)), fs::path(Wide(this->program())));
   Forget();
 }
 

@@ -12,7 +12,8 @@ namespace korvale::endtoend {
 class Installation {
  public:
   /// Copies the program into a folder of that name. Throws when the program is not there.
-  explicit Installation(const std::string& folder_name = "Probe");
+  explicit Installation(const std::string& folder_name = "Probe",
+                        const std::string& program = KorvaleProgram());
   Installation(const Installation&) = delete;
   Installation& operator=(const Installation&) = delete;
   ~Installation();
