@@ -27,43 +27,49 @@ void OtherCopy::WaitFor(Desktop& desktop, const ProgramIdentity& identity) {
     std::ranges::copy(RegisteredNames(identity, platform_->store, platform_->system),
                       std::back_inserter(captions_));
   }
-  for (std::uint32_t waited = 0; !alone_ && Find(desktop) == 0 && waited < Patience(desktop);
-       waited += kCopyPoll) {
+  for (std::uint32_t waited = 0; !alone_ && !IsSeenOrLate(desktop, waited); waited += kCopyPoll) {
     alone_ = lock_->TryHold(kCopyPoll);
   }
 }
 
-bool OtherCopy::GiveWay(Desktop& desktop) {
-  if (Find(desktop) == 0 && alone_) return false;
+/// The copy that holds the lock can be seen, or has had its time to come or go.
+bool OtherCopy::IsSeenOrLate(Desktop& desktop, std::uint32_t waited) {
+  const WindowHandles copies = FindAll(desktop);
+  if (Find(desktop, copies) != 0) return true;
+  return waited >= (FindByCaption(desktop, copies, false) != 0 ? kCopyPatience : kEndPatience);
+}
+
+WindowHandles OtherCopy::FindAll(Desktop& desktop) {
+  const WindowHandle main = desktop.mainWindow.MainHandle();
+  return desktop.enumeration.FindByClass(GetWindowClass(platform_->windows, main));
+}
+
+bool OtherCopy::GiveWay(Desktop& desktop, const WindowHandles& copies) {
+  if (Find(desktop, copies) == 0 && alone_) return false;
   platform_->loop.DoEvents();
   desktop.messages.ShowMessageBox("'" + desktop.mainWindow.MainCaption() + "' is already open.",
                                   win32::kMbOk, kProductName);
-  BringForward(desktop, Find(desktop));
+  BringForward(desktop, Find(desktop, FindAll(desktop)));
   return true;
 }
 
-WindowHandle OtherCopy::FindByCaption(Desktop& desktop, bool visible,
+WindowHandle OtherCopy::FindByCaption(Desktop& desktop, const WindowHandles& copies, bool visible,
                                       const WindowEnumeration::Test& qualifies) {
-  const std::string className = GetWindowClass(platform_->windows, desktop.mainWindow.MainHandle());
   for (const std::string& caption : captions_) {
     const WindowHandle found =
-        desktop.enumeration.FindInstance(className, caption, visible, qualifies);
+        desktop.enumeration.FindInstanceAmong(copies, caption, visible, qualifies);
     if (found != 0) return found;
   }
   return 0;
 }
 
 /// Also finds a copy whose main window is hidden while a box or tip of its start-up is shown.
-WindowHandle OtherCopy::Find(Desktop& desktop) {
-  const WindowHandle shown = FindByCaption(desktop, true);
+WindowHandle OtherCopy::Find(Desktop& desktop, const WindowHandles& copies) {
+  const WindowHandle shown = FindByCaption(desktop, copies, true);
   if (shown != 0 || alone_) return shown;
-  return FindByCaption(desktop, false, [this](WindowHandle hwnd) {
-    return FindWaitingWindow(platform_->windows, hwnd) != 0;
+  return FindByCaption(desktop, copies, false, [this](SeenWindow& window) {
+    return FindWaitingWindow(platform_->windows, window.Handle()) != 0;
   });
-}
-
-std::uint32_t OtherCopy::Patience(Desktop& desktop) {
-  return FindByCaption(desktop, false) != 0 ? kCopyPatience : kEndPatience;
 }
 
 void OtherCopy::BringForward(Desktop& desktop, WindowHandle copy) {

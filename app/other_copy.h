@@ -25,14 +25,17 @@ class OtherCopy {
   /// No other copy of this installation runs or is about to.
   bool Alone() const { return alone_; }
 
-  /// When another copy runs, tells the user, brings it forward and returns true: this one must end.
-  bool GiveWay(Desktop& desktop);
+  /// The main windows of all copies of Korvale, topmost first.
+  WindowHandles FindAll(Desktop& desktop);
+  /// When another copy of this installation is among `copies`, tells the user, brings it forward
+  /// and returns true: this one must end.
+  bool GiveWay(Desktop& desktop, const WindowHandles& copies);
 
  private:
-  WindowHandle Find(Desktop& desktop);
-  WindowHandle FindByCaption(Desktop& desktop, bool visible,
+  WindowHandle Find(Desktop& desktop, const WindowHandles& copies);
+  WindowHandle FindByCaption(Desktop& desktop, const WindowHandles& copies, bool visible,
                              const WindowEnumeration::Test& qualifies = WindowEnumeration::Any);
-  std::uint32_t Patience(Desktop& desktop);
+  bool IsSeenOrLate(Desktop& desktop, std::uint32_t waited);
   void BringForward(Desktop& desktop, WindowHandle copy);
 
   Platform* platform_;

@@ -29,8 +29,9 @@ void StartUp::Initialise(frmMain& form, MainParts& parts) {
     form.LoadStartupSettings();
     form.udmLoadOptions();
   }
-  if (otherCopy_.GiveWay(parts.desktop)) EndBeforeStart(form);
-  MentionOtherInstallation(form, parts.desktop.enumeration);
+  const WindowHandles copies = otherCopy_.FindAll(parts.desktop);
+  if (otherCopy_.GiveWay(parts.desktop, copies)) EndBeforeStart(form);
+  MentionOtherInstallation(form, parts.desktop.enumeration, copies);
   EndIfUnloaded(form);
   MentionCommandLine(form);
   EndIfUnloaded(form);
@@ -91,9 +92,9 @@ bool StartUp::RunInstallation(frmMain& form, MainParts& parts) {
   return !result.takeOverFrom.empty();
 }
 
-void StartUp::MentionOtherInstallation(frmMain& form, WindowEnumeration& enumeration) {
-  const std::string className = GetWindowClass(platform_->windows, form.Handle());
-  if (enumeration.FindByTitleAndClass(kProductName, className) == 0) return;
+void StartUp::MentionOtherInstallation(frmMain& form, const WindowEnumeration& enumeration,
+                                       const WindowHandles& copies) {
+  if (enumeration.FindByTitleAmong(copies, kProductName) == 0) return;
   form.ShowTip(TipNumber::kOtherInstance,
                "Another instance of Korvale is currently running.  More than one instance of "
                "Korvale can be run to select different sets of windows.  For example, you can use "
@@ -168,8 +169,8 @@ void StartUp::FirstActivation(frmMain& form, MainParts& parts) {
 }
 
 void StartUp::RecordPreviousWindow(frmMain& form, Desktop& desktop, const clsOptions& options) {
-  const WindowHandle before = desktop.enumeration.FindTopWindow([&](WindowHandle hwnd) {
-    return desktop.tracker.AcceptForeground(hwnd, GetWindowTitle(platform_->windows, hwnd));
+  const WindowHandle before = desktop.enumeration.FindTopWindow([&](SeenWindow& window) {
+    return desktop.tracker.AcceptForeground(window.Handle(), std::string(window.Title()));
   });
   if (before != 0) {
     desktop.tracker.Follow({before, GetWindowTitle(platform_->windows, before),

@@ -19,7 +19,8 @@ class StartUp : public ProgramLifetime {
   void EndIfUnloaded(frmMain& form);
   [[noreturn]] static void EndBeforeStart(frmMain& form);
   bool RunInstallation(frmMain& form, MainParts& parts);
-  void MentionOtherInstallation(frmMain& form, WindowEnumeration& enumeration);
+  void MentionOtherInstallation(frmMain& form, const WindowEnumeration& enumeration,
+                                const WindowHandles& copies);
   void MentionCommandLine(frmMain& form);
   static void LayOut(frmMain& form, bool onTop, WindowRequests& requests);
   static void SaveFirstRun(frmMain& form, Settings& settings);

@@ -1,7 +1,5 @@
 #include "desktop/seen_window.h"
 
-#include "platform/win32_constants.h"
-
 namespace korvale {
 namespace {
 
@@ -28,10 +26,6 @@ std::int32_t SeenWindow::Style() {
 
 std::int32_t SeenWindow::ExStyle() {
   return ReadOnce(exStyle_, [this] { return windows_->GetWindowLongA(hwnd_, win32::kGwlExStyle); });
-}
-
-bool SeenWindow::IsVisible() {
-  return ReadOnce(visible_, [this] { return windows_->IsWindowVisible(hwnd_); });
 }
 
 bool SeenWindow::IsShownHere() { return IsVisible() && Cloak() == 0; }

@@ -7,6 +7,7 @@
 
 #include "desktop/window_readers.h"
 #include "platform/types.h"
+#include "platform/win32_constants.h"
 #include "platform/window_api.h"
 
 namespace korvale {
@@ -27,8 +28,12 @@ class SeenWindow {
   /// GetWindowLongA(GWL_STYLE) and (GWL_EXSTYLE).
   std::int32_t Style();
   std::int32_t ExStyle();
-  /// IsWindowVisible; of a top-level window.
-  bool IsVisible();
+  bool HasStyle(std::int32_t bit) { return (Style() & bit) != 0; }
+  /// By its style: IsWindowVisible of a top-level window, the same with IsWindowEnabled, and
+  /// IsIconic.
+  bool IsVisible() { return HasStyle(win32::kWsVisible); }
+  bool TakesInput() { return IsVisible() && !HasStyle(win32::kWsDisabled); }
+  bool IsIconic() { return HasStyle(win32::kWsMinimize); }
   /// Visible, and Windows does not cloak it (IsShownHere of window_visibility.h).
   bool IsShownHere();
   /// GetWindow(GW_CHILD).
@@ -46,7 +51,6 @@ class SeenWindow {
   std::optional<std::string_view> className_;
   std::optional<std::int32_t> style_;
   std::optional<std::int32_t> exStyle_;
-  std::optional<bool> visible_;
   std::optional<WindowHandle> firstChild_;
   std::optional<std::uint32_t> cloak_;
 };

@@ -2,9 +2,8 @@
 
 #include <cstddef>
 
-#include "desktop/title_match.h"
-#include "desktop/window_readers.h"
-#include "desktop/window_visibility.h"
+#include "desktop/seen_window.h"
+#include "desktop/tag_matching.h"
 #include "util/text.h"
 
 namespace korvale {
@@ -29,9 +28,11 @@ bool HasTagCaption(const TagList& tags, int tag) {
   return entry != nullptr && entry->caption.starts_with('&');
 }
 
-std::string& TagClass(TagList& tags, const MenuItem& entry) {
-  return tags.ParentWindowClass.at(static_cast<std::size_t>(entry.index - 1));
+std::string& TagClass(TagList& tags, int tag) {
+  return tags.ParentWindowClass.at(static_cast<std::size_t>(tag - 1));
 }
+
+std::string& TagClass(TagList& tags, const MenuItem& entry) { return TagClass(tags, entry.index); }
 
 const std::string& TagClass(const TagList& tags, const MenuItem& entry) {
   return tags.ParentWindowClass.at(static_cast<std::size_t>(entry.index - 1));
@@ -59,9 +60,11 @@ std::int16_t TagListPasses::TagListPass(TagListMode mode, std::int16_t tagNumber
     case TagListMode::kUnresolve:
       ForEachTag(*tags_, [](MenuItem& entry) { entry.tag = "0"; });
       break;
-    case TagListMode::kMatch:
-      ForEachTag(*tags_, [&](MenuItem& entry) { Match(entry, hwnd); });
+    case TagListMode::kMatch: {
+      SeenWindow window(*windows_, hwnd);
+      BeginMatching().Match(window);
       break;
+    }
     case TagListMode::kUnload:
       ForEachTag(*tags_,
                  [&](const MenuItem& entry) { tags_->mnuWindowParentList.Unload(entry.index); });
@@ -70,26 +73,12 @@ std::int16_t TagListPasses::TagListPass(TagListMode mode, std::int16_t tagNumber
   return -1;
 }
 
+TagMatching TagListPasses::BeginMatching() { return {*tags_, *windows_, *virtualDesktops_}; }
+
 void TagListPasses::RemoveClosed() {
   ForEachTag(*tags_, [&](const MenuItem& entry) {
     if (!windows_->IsWindow(TagHandle(entry))) tags_->mnuWindowParentList.Unload(entry.index);
   });
-}
-
-void TagListPasses::Match(MenuItem& entry, WindowHandle hwnd) {
-  if (TagHandle(entry) != 0) return;
-  std::string& storedClass = TagClass(*tags_, entry);
-  if (!storedClass.empty() && storedClass != GetWindowClass(*windows_, hwnd)) return;
-  if (!TitleMatches(entry.caption, GetWindowTitle(*windows_, hwnd), true)) return;
-  // Only a window with at least one child window counts.
-  if (GetRelatedWindow(*windows_, hwnd, 1) == 0) return;
-  const int index = entry.index;
-  if (IsPutAway(*windows_, *virtualDesktops_, hwnd)) return;
-  // The question may have let the user remove the Tag.
-  MenuItem* const matched = tags_->mnuWindowParentList.Find(index);
-  if (matched == nullptr) return;
-  matched->tag = DecimalText(hwnd);
-  if (storedClass.empty()) storedClass = GetWindowClass(*windows_, hwnd);
 }
 
 }  // namespace korvale

@@ -30,7 +30,8 @@ WindowHandle TagHandle(const MenuItem& entry);
 /// Whether the Tag has an entry whose caption marks an access key; Tag 0 is the Previous Window's.
 bool HasTagCaption(const TagList& tags, int tag);
 
-/// The class stored for a Tag entry, whose index must be 1-9.
+/// The class stored for a Tag, 1-9, or for the entry of one.
+std::string& TagClass(TagList& tags, int tag);
 std::string& TagClass(TagList& tags, const MenuItem& entry);
 const std::string& TagClass(const TagList& tags, const MenuItem& entry);
 
@@ -45,6 +46,8 @@ enum class TagListMode : std::int16_t {
   kUnload = 5,     ///< Removes every entry from the menu.
 };
 
+class TagMatching;
+
 /// Passes over the Tag entries 1-9.
 class TagListPasses {
  public:
@@ -53,12 +56,13 @@ class TagListPasses {
   /// One pass in ascending order of the Tags; -1 unless `mode` says otherwise.
   std::int16_t TagListPass(TagListMode mode, std::int16_t tagNumber = 0, WindowHandle hwnd = 0);
 
+  /// Mode 3 for many windows.
+  TagMatching BeginMatching();
+
   /// Removes the entries whose window no longer exists (IsWindow).
   void RemoveClosed();
 
  private:
-  void Match(MenuItem& entry, WindowHandle hwnd);
-
   TagList* tags_;
   WindowQueries* windows_;
   VirtualDesktops* virtualDesktops_;

@@ -10,7 +10,7 @@ constexpr std::string_view kSeparator = " - ";
 
 bool Matches(std::string_view text, std::string_view title) {
   // A whole title may look like a mark; kept as a caption, it has lost the blanks at its ends.
-  if (text == title || text == Trim(title)) return true;
+  if (text == title || text == TrimmedView(title)) return true;
   if (text.ends_with(kLeftPartMark)) {
     text.remove_suffix(kLeftPartMark.size());
     return LeftTitlePart(title) == text;

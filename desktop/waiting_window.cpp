@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "desktop/seen_window.h"
 #include "desktop/window_readers.h"
 #include "desktop/window_visibility.h"
 #include "platform/win32_constants.h"
@@ -24,7 +25,7 @@ bool IsCloakedAlone(WindowQueries& windows, WindowHandle dialog, WindowHandle ow
 }
 
 bool TakesInput(WindowQueries& windows, WindowHandle hwnd) {
-  return windows.IsWindowVisible(hwnd) && windows.IsWindowEnabled(hwnd);
+  return SeenWindow(windows, hwnd).TakesInput();
 }
 
 }  // namespace
@@ -39,7 +40,8 @@ WindowHandle FindInputWindow(WindowQueries& windows, WindowHandle hwnd) {
   }
   WindowHandle found = 0;
   windows.EnumWindows([&](WindowHandle candidate) {
-    if (TakesInput(windows, candidate) && IsOwnedBy(windows, candidate, hwnd) &&
+    // Most windows have no owner.
+    if (IsOwnedBy(windows, candidate, hwnd) && TakesInput(windows, candidate) &&
         !IsCloakedAlone(windows, candidate, hwnd)) {
       found = candidate;
     }

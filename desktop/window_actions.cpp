@@ -208,7 +208,7 @@ void WindowActions::RestoreAll() {
 /// False when Windows denied one of the windows.
 bool WindowActions::ChangeAll(EnumerationMode mode) {
   bool done = true;
-  enumeration_->EnumWindows(mode, [&](WindowHandle /*denied*/) { done = false; });
+  enumeration_->EnumWindows(mode, [&](SeenWindow& /*denied*/) { done = false; });
   return done;
 }
 

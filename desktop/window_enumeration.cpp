@@ -1,14 +1,22 @@
 #include "desktop/window_enumeration.h"
 
+#include <algorithm>
+
+#include "desktop/tag_matching.h"
 #include "desktop/title_match.h"
 #include "desktop/window_readers.h"
-#include "desktop/window_visibility.h"
 #include "platform/run_time_error.h"
 #include "platform/win32_constants.h"
 #include "util/raised_flag.h"
 #include "util/text.h"
 
 namespace korvale {
+
+/// What all visits of one enumeration share.
+struct WindowEnumeration::Pass {
+  OwnWindows own;
+  TagMatching tags;
+};
 
 WindowEnumeration::WindowEnumeration(WindowQueries& windows, WindowRequests& requests,
                                      const WindowFilter& filter, const MainWindow& mainWindow,
@@ -19,95 +27,142 @@ WindowEnumeration::WindowEnumeration(WindowQueries& windows, WindowRequests& req
       mainWindow_(&mainWindow),
       tagPasses_(&tagPasses) {}
 
-void WindowEnumeration::EnumWindows(std::int32_t mode, const Visit& visit) {
-  Enumerate([&](WindowHandle hwnd) { return EnumWindowsProc(hwnd, mode, visit); });
+WindowEnumeration::Pass WindowEnumeration::BeginPass() const {
+  return {filter_->FindOwnWindows(), tagPasses_->BeginMatching()};
 }
 
-void WindowEnumeration::Enumerate(const Test& visit) {
+void WindowEnumeration::EnumWindows(std::int32_t mode, const Visit& visit) {
+  Pass pass = BeginPass();
+  Enumerate([&](SeenWindow& window) { Handle(window, mode, pass, visit); });
+}
+
+void WindowEnumeration::Enumerate(const Visit& visit) {
   if (enumerating_) throw RunTimeError(RunTimeError::kInvalidCall);
   const RaisedFlag enumerating(enumerating_);
-  windows_->EnumWindows(visit);
+  windows_->EnumWindows([&](WindowHandle hwnd) {
+    SeenWindow window(*windows_, hwnd);
+    visit(window);
+    return true;
+  });
 }
 
 bool WindowEnumeration::EnumWindowsProc(WindowHandle hwnd, std::int32_t mode, const Visit& visit) {
-  if (filter_->IsSelectableWindow(hwnd, false, false)) HandleSelectable(hwnd, mode, visit);
+  Pass pass = BeginPass();
+  SeenWindow window(*windows_, hwnd);
+  Handle(window, mode, pass, visit);
   return true;
 }
 
-void WindowEnumeration::HandleSelectable(WindowHandle hwnd, std::int32_t mode, const Visit& visit) {
+void WindowEnumeration::Handle(SeenWindow& window, std::int32_t mode, Pass& pass,
+                               const Visit& visit) {
+  const auto selectable = [&] { return filter_->PassesBasicChecks(window, pass.own); };
   switch (mode) {
     case kMinimizeAll:
-      if (CanMinimizeOrRestore(hwnd, false) && !Minimize(hwnd)) visit(hwnd);
+      if (CanMinimizeOrRestore(window, false, pass) && !Minimize(window.Handle())) visit(window);
       break;
     case kRestoreAll:
-      if (CanMinimizeOrRestore(hwnd, true) && !Restore(hwnd)) visit(hwnd);
+      if (CanMinimizeOrRestore(window, true, pass) && !Restore(window.Handle())) visit(window);
       break;
     case kTagRefresh:
-      tagPasses_->TagListPass(TagListMode::kMatch, 0, hwnd);
+      if (!pass.tags.IsDone() && selectable()) pass.tags.Match(window);
       break;
     case kTopWindow:
-      if (CanBeTopWindow(hwnd)) visit(hwnd);
+      if (CanBeTopWindow(window, pass)) visit(window);
       break;
     case kSearchTitleAndClass:
     case kSearchTitle:
-      if (windows_->IsWindowVisible(hwnd)) visit(hwnd);
+      if (window.IsVisible() && selectable()) visit(window);
       break;
     default:
       break;
   }
 }
 
-bool WindowEnumeration::EnumInstanceProc(WindowHandle hwnd, std::int32_t mode, const Visit& visit) {
-  if (mode == kSearchTitleAndClass) visit(hwnd);
+bool WindowEnumeration::EnumInstanceProc(SeenWindow& window, std::int32_t mode,
+                                         const Visit& visit) {
+  if (mode == kSearchTitleAndClass) visit(window);
   return true;
 }
 
-void WindowEnumeration::RefreshTags() {
+WindowHandles WindowEnumeration::RefreshTags(int sought) {
   tagPasses_->TagListPass(TagListMode::kUnresolve);
-  EnumWindows(kTagRefresh);
+  Pass pass = BeginPass();
+  WindowHandles found;
+  Enumerate([&](SeenWindow& window) {
+    if (pass.tags.IsDone() || !filter_->PassesBasicChecks(window, pass.own)) return;
+    pass.tags.Match(window);
+    const bool fits = sought != 0 && pass.tags.LooksFor(sought, window) && window.IsVisible();
+    if (fits) found.push_back(window.Handle());
+  });
+  return found;
 }
 
 WindowHandle WindowEnumeration::FindByTitle(const std::string& identificationText) {
-  WindowHandle last = 0;
-  EnumWindows(kSearchTitle, [&](WindowHandle hwnd) {
-    if (FitsTitle(hwnd, identificationText) && !filter_->IsPutAway(hwnd)) last = hwnd;
+  WindowHandles found;
+  EnumWindows(kSearchTitle, [&](SeenWindow& window) {
+    if (TitleMatches(identificationText, window.Title(), false)) found.push_back(window.Handle());
   });
-  return last;
+  return LastOnScreen(found);
+}
+
+WindowHandle WindowEnumeration::LastOnScreen(const WindowHandles& windows) const {
+  const auto last = std::find_if(windows.rbegin(), windows.rend(),
+                                 [&](WindowHandle hwnd) { return !filter_->IsPutAway(hwnd); });
+  return last == windows.rend() ? 0 : *last;
+}
+
+WindowHandles WindowEnumeration::FindByClass(const std::string& className) {
+  WindowHandles found;
+  const Visit keepMatch = [&](SeenWindow& window) {
+    if (window.ClassName() == className) found.push_back(window.Handle());
+  };
+  Enumerate([&](SeenWindow& window) { EnumInstanceProc(window, kSearchTitleAndClass, keepMatch); });
+  return found;
+}
+
+WindowHandle WindowEnumeration::FindByTitleAmong(const WindowHandles& windows,
+                                                 const std::string& title) const {
+  WindowHandles found;
+  for (const WindowHandle hwnd : windows) {
+    SeenWindow window(*windows_, hwnd);
+    const bool fits = window.IsVisible() && TitleMatches(title, window.Title(), false) &&
+                      filter_->IsSelectableWindow(window, false, false);
+    if (fits) found.push_back(hwnd);
+  }
+  return LastOnScreen(found);
 }
 
 WindowHandle WindowEnumeration::FindByTitleAndClass(const std::string& title,
                                                     const std::string& className) {
+  return FindByTitleAmong(FindByClass(className), title);
+}
+
+WindowHandle WindowEnumeration::FindInstanceAmong(const WindowHandles& windows,
+                                                  const std::string& title, bool visible,
+                                                  const Test& qualifies) const {
   WindowHandle last = 0;
-  EnumWindows(kSearchTitleAndClass, [&](WindowHandle hwnd) {
-    const bool fits = GetWindowClass(*windows_, hwnd) == className && FitsTitle(hwnd, title);
-    if (fits && !filter_->IsPutAway(hwnd)) last = hwnd;
-  });
+  for (const WindowHandle hwnd : windows) {
+    SeenWindow window(*windows_, hwnd);
+    if (hwnd != mainWindow_->MainHandle() && window.IsVisible() == visible &&
+        EqualsIgnoreCase(window.Title(), title) && qualifies(window)) {
+      last = hwnd;
+    }
+  }
   return last;
 }
 
 WindowHandle WindowEnumeration::FindInstance(const std::string& className, const std::string& title,
                                              bool visible, const Test& qualifies) {
-  WindowHandle last = 0;
-  const Visit keepMatch = [&](WindowHandle hwnd) {
-    if (windows_->IsWindowVisible(hwnd) == visible &&
-        GetWindowClass(*windows_, hwnd) == className &&
-        EqualsIgnoreCase(GetWindowTitle(*windows_, hwnd), title) &&
-        hwnd != mainWindow_->MainHandle() && qualifies(hwnd)) {
-      last = hwnd;
-    }
-  };
-  Enumerate(
-      [&](WindowHandle hwnd) { return EnumInstanceProc(hwnd, kSearchTitleAndClass, keepMatch); });
-  return last;
+  return FindInstanceAmong(FindByClass(className), title, visible, qualifies);
 }
 
 WindowHandle WindowEnumeration::FindTopWindow(const Test& qualifies) {
   WindowHandle top = 0;
   std::int16_t count = 0;
-  EnumWindows(kTopWindow, [&](WindowHandle hwnd) {
-    if (!qualifies(hwnd)) return;
+  EnumWindows(kTopWindow, [&](SeenWindow& window) {
+    if (count == 0 && !qualifies(window)) return;
     count = AddInt16(count, 1);
-    if (count == 1) top = hwnd;
+    if (count == 1) top = window.Handle();
   });
   return top;
 }
@@ -128,23 +183,19 @@ bool WindowEnumeration::Restore(WindowHandle hwnd) {
   return true;
 }
 
-bool WindowEnumeration::CanMinimizeOrRestore(WindowHandle hwnd, bool iconic) const {
-  return windows_->GetParent(hwnd) == 0 && IsShownHere(*windows_, hwnd) &&
-         windows_->IsWindowEnabled(hwnd) && windows_->IsIconic(hwnd) == iconic &&
-         (windows_->GetWindowLongA(hwnd, win32::kGwlStyle) & win32::kWsMinimizeBox) != 0 &&
-         GetRelatedWindow(*windows_, hwnd, 2) == 0;
+bool WindowEnumeration::CanMinimizeOrRestore(SeenWindow& window, bool iconic,
+                                             const Pass& pass) const {
+  return window.TakesInput() && window.IsIconic() == iconic &&
+         window.HasStyle(win32::kWsMinimizeBox) && filter_->PassesBasicChecks(window, pass.own) &&
+         windows_->GetParent(window.Handle()) == 0 && window.Cloak() == 0 &&
+         GetRelatedWindow(*windows_, window.Handle(), 2) == 0;
 }
 
-bool WindowEnumeration::FitsTitle(WindowHandle hwnd, const std::string& text) const {
-  return TitleMatches(text, GetWindowTitle(*windows_, hwnd), false);
-}
-
-bool WindowEnumeration::CanBeTopWindow(WindowHandle hwnd) const {
-  if (!IsShownHere(*windows_, hwnd) || !windows_->IsWindowEnabled(hwnd) ||
-      windows_->IsIconic(hwnd) || hwnd == mainWindow_->MainHandle()) {
-    return false;
-  }
-  return (windows_->GetWindowLongA(hwnd, win32::kGwlExStyle) & win32::kWsExTopmost) == 0;
+bool WindowEnumeration::CanBeTopWindow(SeenWindow& window, const Pass& pass) const {
+  return window.TakesInput() && !window.IsIconic() &&
+         window.Handle() != mainWindow_->MainHandle() &&
+         (window.ExStyle() & win32::kWsExTopmost) == 0 &&
+         filter_->PassesBasicChecks(window, pass.own) && window.Cloak() == 0;
 }
 
 }  // namespace korvale

@@ -3,8 +3,10 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "desktop/main_window.h"
+#include "desktop/seen_window.h"
 #include "desktop/tag_list.h"
 #include "desktop/window_filter.h"
 #include "desktop/window_requests.h"
@@ -23,13 +25,15 @@ enum EnumerationMode : std::int32_t {
   kSearchTitle = 7,
 };
 
+using WindowHandles = std::vector<WindowHandle>;
+
 /// The one enumeration of the top-level windows through which every search over the desktop runs.
 class WindowEnumeration {
  public:
-  using Visit = std::function<void(WindowHandle)>;
-  using Test = std::function<bool(WindowHandle)>;
-  static void PassOver(WindowHandle /*hwnd*/) {}
-  static bool Any(WindowHandle /*hwnd*/) { return true; }
+  using Visit = std::function<void(SeenWindow&)>;
+  using Test = std::function<bool(SeenWindow&)>;
+  static void PassOver(SeenWindow& /*window*/) {}
+  static bool Any(SeenWindow& /*window*/) { return true; }
 
   WindowEnumeration(WindowQueries& windows, WindowRequests& requests, const WindowFilter& filter,
                     const MainWindow& mainWindow, TagListPasses& tagPasses);
@@ -43,16 +47,27 @@ class WindowEnumeration {
   /// Always true, so that an enumeration visits all windows.
   bool EnumWindowsProc(WindowHandle hwnd, std::int32_t mode, const Visit& visit = PassOver);
   /// Hands any window to `visit` in mode 4; always true.
-  static bool EnumInstanceProc(WindowHandle hwnd, std::int32_t mode, const Visit& visit);
+  static bool EnumInstanceProc(SeenWindow& window, std::int32_t mode, const Visit& visit);
 
-  /// Unresolves every Tag, then matches all of them against the desktop in mode 3.
-  void RefreshTags();
+  /// Unresolves every Tag, then matches all of them against the desktop. What the search by title
+  /// alone (mode 7) finds for Tag `sought` in the same pass is for LastOnScreen; 0 = none sought.
+  WindowHandles RefreshTags(int sought = 0);
   /// Mode 7: the last visible window whose title fits the identification, 0 = none.
   WindowHandle FindByTitle(const std::string& identificationText);
+  /// The last one that Windows does not keep off the screen for good, 0 = none.
+  WindowHandle LastOnScreen(const WindowHandles& windows) const;
+
+  /// The windows of exactly this class, selectable or not, topmost first.
+  WindowHandles FindByClass(const std::string& className);
+  /// Of these windows the last visible and selectable one whose title fits; 0 = none.
+  WindowHandle FindByTitleAmong(const WindowHandles& windows, const std::string& title) const;
   /// Mode 4: the same with an exact class.
   WindowHandle FindByTitleAndClass(const std::string& title, const std::string& className);
-  /// Another copy of the program, by exact class and, since folder names ignore case, by title in
-  /// any case: the last one that `qualifies` and is visible, or not shown yet; 0 = none.
+  /// Of these windows another copy of the program, by title in any case, since folder names ignore
+  /// case: the last one that `qualifies` and is visible, or not shown yet; 0 = none.
+  WindowHandle FindInstanceAmong(const WindowHandles& windows, const std::string& title,
+                                 bool visible = true, const Test& qualifies = Any) const;
+  /// The same with an exact class.
   WindowHandle FindInstance(const std::string& className, const std::string& title,
                             bool visible = true, const Test& qualifies = Any);
   /// Mode 6: the topmost window, below always-on-top ones and other than the main window, that can
@@ -60,13 +75,15 @@ class WindowEnumeration {
   WindowHandle FindTopWindow(const Test& qualifies = Any);
 
  private:
-  void Enumerate(const Test& visit);
-  void HandleSelectable(WindowHandle hwnd, std::int32_t mode, const Visit& visit);
+  struct Pass;
+
+  Pass BeginPass() const;
+  void Enumerate(const Visit& visit);
+  void Handle(SeenWindow& window, std::int32_t mode, Pass& pass, const Visit& visit);
   bool Minimize(WindowHandle hwnd);
   bool Restore(WindowHandle hwnd);
-  bool CanMinimizeOrRestore(WindowHandle hwnd, bool iconic) const;
-  bool FitsTitle(WindowHandle hwnd, const std::string& text) const;
-  bool CanBeTopWindow(WindowHandle hwnd) const;
+  bool CanMinimizeOrRestore(SeenWindow& window, bool iconic, const Pass& pass) const;
+  bool CanBeTopWindow(SeenWindow& window, const Pass& pass) const;
 
   WindowQueries* windows_;
   WindowRequests* requests_;

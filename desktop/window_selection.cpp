@@ -136,11 +136,19 @@ ActivationResult WindowSelection::Activate(int tag) {
 ActivationResult WindowSelection::ActivateOrSearch(int tag) {
   ActivationResult result = Activate(tag);
   if (IsTheWindow(result) || windowSearch) return result;
-  enumeration_->RefreshTags();
+  const MenuItem* const before = Entry(tag);
+  const std::string sought = before == nullptr ? "" : IdentificationText(*before);
+  const WindowHandles fitting = enumeration_->RefreshTags(tag);
+  const MenuItem* const refreshed = Entry(tag);
+  const bool onePass = refreshed != nullptr && TagHandle(*refreshed) == 0;
   result = Activate(tag);
   const MenuItem* const unresolved = Entry(tag);
   if (IsTheWindow(result) || unresolved == nullptr) return result;
-  const WindowHandle found = enumeration_->FindByTitle(IdentificationText(*unresolved));
+  const std::string identification = IdentificationText(*unresolved);
+  // Nothing was done to any window since, nor to the Tag.
+  const WindowHandle found = onePass && identification == sought
+                                 ? enumeration_->LastOnScreen(fitting)
+                                 : enumeration_->FindByTitle(identification);
   MenuItem* const entry = Entry(tag);
   return found == 0 || entry == nullptr ? result : ActivateFound(*entry, found);
 }

@@ -54,7 +54,10 @@ WindowHandle FindOnOtherDesktop(WindowQueries& windows, VirtualDesktops& desktop
 }
 
 bool IsPutAway(WindowQueries& windows, VirtualDesktops& desktops, WindowHandle hwnd) {
-  if (!IsCloaked(windows, hwnd)) return false;
+  return IsCloaked(windows, hwnd) && IsCloakedWindowPutAway(windows, desktops, hwnd);
+}
+
+bool IsCloakedWindowPutAway(WindowQueries& windows, VirtualDesktops& desktops, WindowHandle hwnd) {
   const Search search = SearchOtherDesktops(windows, desktops, hwnd);
   return search.found == 0 && search.answered;
 }

@@ -22,6 +22,9 @@ WindowHandle FindOnOtherDesktop(WindowQueries& windows, VirtualDesktops& desktop
 /// programs, which are visible to everyone but the user. False when Windows does not tell why a
 /// window is cloaked.
 bool IsPutAway(WindowQueries& windows, VirtualDesktops& desktops, WindowHandle hwnd);
+/// The same of a window known to be cloaked; the virtual desktops answer, and messages may be
+/// handled meanwhile.
+bool IsCloakedWindowPutAway(WindowQueries& windows, VirtualDesktops& desktops, WindowHandle hwnd);
 
 /// Visible (IsWindowVisible) here or on another virtual desktop.
 bool IsShown(WindowQueries& windows, VirtualDesktops& desktops, WindowHandle hwnd);

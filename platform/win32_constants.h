@@ -22,6 +22,9 @@ inline constexpr int kGwlExStyle = -20;
 
 // Window styles
 inline constexpr std::int32_t kWsChild = 0x40000000;
+inline constexpr std::int32_t kWsMinimize = 0x20000000;
+inline constexpr std::int32_t kWsVisible = 0x10000000;
+inline constexpr std::int32_t kWsDisabled = 0x08000000;
 inline constexpr std::int32_t kWsMinimizeBox = 0x00020000;
 inline constexpr std::int32_t kWsMaximizeBox = 0x00010000;
 inline constexpr std::int32_t kDsModalFrame = 0x00000080;

@@ -80,10 +80,12 @@ std::string MidCharacters(std::string_view text, std::int32_t from) {
   return std::string(text.substr(PrefixSize(text, from - 1)));
 }
 
-std::string Trim(std::string_view text) {
+std::string Trim(std::string_view text) { return std::string(TrimmedView(text)); }
+
+std::string_view TrimmedView(std::string_view text) {
   const std::size_t first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return "";
-  return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
 std::string UpperCase(std::string_view text) {

@@ -23,6 +23,8 @@ std::string MidCharacters(std::string_view text, std::int32_t from);
 
 /// The text without leading and trailing blanks (U+0020 only; tabs and line ends stay).
 std::string Trim(std::string_view text);
+/// The same as a part of `text`.
+std::string_view TrimmedView(std::string_view text);
 
 /// The text in upper case, character by character: Latin with its common accents, Greek, Cyrillic
 /// and Armenian letters; everything else stays. The number of characters never changes.

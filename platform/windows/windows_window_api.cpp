@@ -4,6 +4,9 @@
 
 #include <array>
 #include <exception>
+#include <span>
+#include <string>
+#include <string_view>
 
 #include "platform/windows/text.h"
 
@@ -12,6 +15,8 @@ namespace {
 
 constexpr int kBytesPerUnit = 3;  // The most UTF-8 bytes that one UTF-16 unit becomes.
 constexpr std::size_t kLongestClassName = 257;
+/// A buffer of this size holds any ordinary title, and is kept on the stack.
+constexpr std::size_t kOrdinaryTitle = 512;
 
 struct Enumeration {
   const std::function<bool(WindowHandle)>* visit;
@@ -26,6 +31,19 @@ BOOL CALLBACK VisitWindow(HWND hwnd, LPARAM parameter) {
     enumeration.error = std::current_exception();
     return FALSE;
   }
+}
+
+/// Copies as much of `text` as fits before a NUL; returns the bytes copied. A text that fits in any
+/// case is converted on the spot.
+int CopyAsUtf8(std::wstring_view text, std::span<char> buffer) {
+  if (text.size() * kBytesPerUnit >= buffer.size()) {
+    return CopyText(ToUtf8(text), buffer.data(), buffer.size());
+  }
+  const int length =
+      WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), buffer.data(),
+                          static_cast<int>(buffer.size() - 1), nullptr, nullptr);
+  buffer[static_cast<std::size_t>(length)] = '\0';
+  return length;
 }
 
 }  // namespace
@@ -61,17 +79,19 @@ int WindowsWindowApi::GetWindowTextLengthA(WindowHandle hwnd) {
 
 int WindowsWindowApi::GetWindowTextA(WindowHandle hwnd, std::span<char> buffer) {
   if (buffer.empty()) return 0;
-  std::wstring text(buffer.size(), L'\0');
+  std::array<wchar_t, kOrdinaryTitle> ordinary{};
+  std::wstring longer;
+  if (buffer.size() > ordinary.size()) longer.resize(buffer.size());
+  const std::span<wchar_t> text =
+      longer.empty() ? std::span(ordinary.data(), buffer.size()) : std::span<wchar_t>(longer);
   const int length = ::GetWindowTextW(ToHwnd(hwnd), text.data(), static_cast<int>(text.size()));
-  text.resize(static_cast<std::size_t>(length));
-  return CopyText(ToUtf8(text), buffer.data(), buffer.size());
+  return CopyAsUtf8({text.data(), static_cast<std::size_t>(length)}, buffer);
 }
 
 int WindowsWindowApi::GetClassNameA(WindowHandle hwnd, std::span<char> buffer) {
   std::array<wchar_t, kLongestClassName> name{};
   const int length = ::GetClassNameW(ToHwnd(hwnd), name.data(), static_cast<int>(name.size()));
-  return CopyText(ToUtf8({name.data(), static_cast<std::size_t>(length)}), buffer.data(),
-                  buffer.size());
+  return CopyAsUtf8({name.data(), static_cast<std::size_t>(length)}, buffer);
 }
 
 bool WindowsWindowApi::IsWindow(WindowHandle hwnd) { return ::IsWindow(ToHwnd(hwnd)) != FALSE; }

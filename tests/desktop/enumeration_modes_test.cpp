@@ -26,7 +26,7 @@ TEST_P(EnumerationOfMode, DoesThatAlone) {
   std::vector<WindowHandle> handedOver;
   log.Clear();
   enumeration.EnumWindowsProc(alpha, GetParam().mode,
-                              [&](WindowHandle hwnd) { handedOver.push_back(hwnd); });
+                              [&](SeenWindow& window) { handedOver.push_back(window.Handle()); });
   const std::vector<WindowHandle> expected(GetParam().handsOver ? 1 : 0, alpha);
   EXPECT_EQ(handedOver, expected);
   EXPECT_EQ(HandleOfTag(1), GetParam().tag ? alpha : 0);

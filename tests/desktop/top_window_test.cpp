@@ -54,9 +54,9 @@ TEST_F(TopWindow, MeetsTheCallersConditionToo) {
   desktop.Open("Upper");
   desktop.Open("Hidden", {.visible = false});
   std::vector<std::string> asked;
-  const WindowHandle found = enumeration.FindTopWindow([&](WindowHandle hwnd) {
-    asked.push_back(desktop.Title(hwnd));
-    return hwnd == lower;
+  const WindowHandle found = enumeration.FindTopWindow([&](SeenWindow& window) {
+    asked.emplace_back(window.Title());
+    return window.Handle() == lower;
   });
   EXPECT_EQ(found, lower);
   EXPECT_EQ(asked, (std::vector<std::string>{"Upper", "Lower"}));
@@ -64,7 +64,7 @@ TEST_F(TopWindow, MeetsTheCallersConditionToo) {
 
 TEST_F(TopWindow, ForgetsTheConditionOfTheLastSearch) {
   const WindowHandle alpha = desktop.Open("Alpha");
-  EXPECT_EQ(enumeration.FindTopWindow([](WindowHandle) { return false; }), 0);
+  EXPECT_EQ(enumeration.FindTopWindow([](SeenWindow&) { return false; }), 0);
   EXPECT_EQ(enumeration.FindTopWindow(), alpha);
 }
 
@@ -85,11 +85,10 @@ TEST_F(TopWindow, CounterOverflowsInsteadOfWidening) {
 
 TEST_F(TopWindow, ReadsInItsOrder) {
   const WindowHandle alpha = desktop.Open("Alpha");
-  Calls calls = CallsOf([&] { enumeration.EnumWindowsProc(alpha, kTopWindow); });
-  calls.erase(calls.begin(), calls.begin() + 2);
-  EXPECT_EQ(calls, (Calls{"IsWindowVisible(Alpha)", "DwmGetWindowAttribute(Alpha)",
-                          "IsWindowEnabled(Alpha)", "IsIconic(Alpha)",
-                          "GetWindowLongA(Alpha, GWL_EXSTYLE)"}));
+  const Calls calls = CallsOf([&] { enumeration.EnumWindowsProc(alpha, kTopWindow); });
+  EXPECT_EQ(calls, (Calls{"GetWindow(Main, GW_OWNER)", "GetWindowLongA(Alpha, GWL_STYLE)",
+                          "GetWindowLongA(Alpha, GWL_EXSTYLE)", "GetClassNameA(Alpha, 255)",
+                          "DwmGetWindowAttribute(Alpha)"}));
 }
 
 }  // namespace

@@ -19,38 +19,37 @@ TEST_F(WindowEnumerationTest, CallbackAlwaysAsksForMore) {
   for (std::int32_t mode = -1; mode <= 9; ++mode) {
     EXPECT_TRUE(enumeration.EnumWindowsProc(hwnd, mode));
     EXPECT_TRUE(enumeration.EnumWindowsProc(0, mode));
-    EXPECT_TRUE(WindowEnumeration::EnumInstanceProc(hwnd, mode, WindowEnumeration::PassOver));
+    SeenWindow window(desktop, hwnd);
+    EXPECT_TRUE(WindowEnumeration::EnumInstanceProc(window, mode, WindowEnumeration::PassOver));
   }
 }
 
-TEST_F(WindowEnumerationTest, FilterRunsFirstInEveryMode) {
-  const WindowHandle hwnd = desktop.Open("Alpha");
-  for (const std::int32_t mode : {0, 1, 2, 3, 4, 5, 6, 7, 8}) {
-    const Calls calls = CallsOf([&] { enumeration.EnumWindowsProc(hwnd, mode); });
-    ASSERT_GE(calls.size(), 2U) << mode;
-    EXPECT_EQ(calls[0], "GetClassNameA(Alpha, 255)") << mode;
-    EXPECT_EQ(calls[1], "GetWindow(Main, GW_OWNER)") << mode;
+TEST_F(WindowEnumerationTest, NoModeActsOnAWindowThatIsNotSelectable) {
+  AddTag(1, "Alpha");
+  const WindowHandle hwnd = desktop.Open("Alpha", {.className = "Progman"});
+  for (std::int32_t mode = 0; mode <= 8; ++mode) {
+    enumeration.EnumWindowsProc(hwnd, mode,
+                                [&](SeenWindow&) { ADD_FAILURE() << "handed over in " << mode; });
   }
+  EXPECT_EQ(HandleOfTag(1), 0);
+  EXPECT_EQ(log.Take(), Calls{});
 }
 
-TEST_F(WindowEnumerationTest, UnknownModesOnlyRunTheFilter) {
+TEST_F(WindowEnumerationTest, UnknownModesReadNothingOfAWindow) {
   const WindowHandle hwnd = desktop.Open("Alpha");
   for (const std::int32_t mode : {-1, 0, 5, 8, 1000}) {
-    EXPECT_EQ(CallsOf([&] { enumeration.EnumWindowsProc(hwnd, mode); }).size(), 2U) << mode;
+    EXPECT_EQ(CallsOf([&] { enumeration.EnumWindowsProc(hwnd, mode); }),
+              Calls{"GetWindow(Main, GW_OWNER)"})
+        << mode;
   }
 }
 
 TEST_F(WindowEnumerationTest, VisitsTheWindowsFromTheTop) {
   desktop.Open("Beta");
   desktop.Open("Alpha");
-  const Calls calls = CallsOf([&] { enumeration.EnumWindows(0); });
-  Calls order;
-  for (const std::string& call : calls) {
-    if (call.starts_with("GetClassNameA")) order.push_back(call);
-  }
-  EXPECT_EQ(calls.front(), "EnumWindows()");
-  EXPECT_EQ(order, (Calls{"GetClassNameA(Alpha, 255)", "GetClassNameA(Beta, 255)",
-                          "GetClassNameA(Main, 255)", "GetClassNameA(Owner, 255)"}));
+  EXPECT_EQ(CallsOf([&] { enumeration.FindByClass("Window"); }),
+            (Calls{"EnumWindows()", "GetClassNameA(Alpha, 255)", "GetClassNameA(Beta, 255)",
+                   "GetClassNameA(Main, 255)", "GetClassNameA(Owner, 255)"}));
 }
 
 TEST_F(WindowEnumerationTest, NestedEnumerationsAreAnError) {
@@ -58,20 +57,20 @@ TEST_F(WindowEnumerationTest, NestedEnumerationsAreAnError) {
   std::int16_t number = 0;
   log.WhenCalled("GetClassNameA",
                  [&] { number = ErrorOf([&] { enumeration.FindByTitle("Alpha"); }); });
-  enumeration.EnumWindows(0);
+  enumeration.EnumWindows(kTopWindow);
   EXPECT_EQ(number, RunTimeError::kInvalidCall);
 }
 
 TEST_F(WindowEnumerationTest, InstanceSearchInsideAnotherOneIsAnErrorToo) {
   desktop.Open("Alpha");
   log.WhenCalled("GetClassNameA", [&] { enumeration.FindInstance("c", "t"); });
-  EXPECT_THROW(enumeration.EnumWindows(0), RunTimeError);
+  EXPECT_THROW(enumeration.EnumWindows(kTopWindow), RunTimeError);
 }
 
 TEST_F(WindowEnumerationTest, EnumeratesAgainAfterAnError) {
   const WindowHandle hwnd = desktop.Open("Alpha");
   log.WhenCalled("GetClassNameA", [&] { throw RunTimeError(RunTimeError::kOutOfMemory); });
-  EXPECT_THROW(enumeration.EnumWindows(0), RunTimeError);
+  EXPECT_THROW(enumeration.EnumWindows(kTopWindow), RunTimeError);
   EXPECT_EQ(enumeration.FindByTitle("Alpha"), hwnd);
 }
 
@@ -173,13 +172,27 @@ TEST_F(WindowEnumerationTest, SearchByTitleAndClassPassesOverHiddenWindows) {
   EXPECT_EQ(enumeration.FindByTitleAndClass("Alpha", "Notepad"), 0);
 }
 
-TEST_F(WindowEnumerationTest, SearchByTitleAndClassReadsInItsOrder) {
+TEST_F(WindowEnumerationTest, SearchByTitleAndClassReadsOnlyTheClassOfAnyOtherWindow) {
   desktop.Open("Alpha");
-  Calls calls = CallsOf([&] { enumeration.FindByTitleAndClass("Alpha", "Window"); });
-  calls.erase(calls.begin(), calls.begin() + 3);
-  calls.resize(4);
-  EXPECT_EQ(calls, (Calls{"IsWindowVisible(Alpha)", "GetClassNameA(Alpha, 255)",
-                          "GetWindowTextA(Alpha, 512)", "DwmGetWindowAttribute(Alpha)"}));
+  EXPECT_EQ(CallsOf([&] { enumeration.FindByTitleAndClass("Alpha", "Window"); }),
+            (Calls{"EnumWindows()", "GetClassNameA(Alpha, 255)", "GetClassNameA(Main, 255)",
+                   "GetClassNameA(Owner, 255)", "GetWindowLongA(Alpha, GWL_STYLE)",
+                   "GetWindowTextA(Alpha, 512)", "GetClassNameA(Alpha, 255)",
+                   "GetWindow(Main, GW_OWNER)", "DwmGetWindowAttribute(Alpha)"}));
+}
+
+TEST_F(WindowEnumerationTest, ARefreshFindsTheLowestMatchByTitleForTheSoughtTagToo) {
+  AddTag(1, "Alpha", "Old");
+  AddTag(2, "Alpha 2", "New");
+  const WindowHandle lower = desktop.Open("Alpha 1", {.className = "New"});
+  const WindowHandle upper = desktop.Open("Alpha 2", {.className = "New"});
+  desktop.Open("Alpha 3", {.className = "New", .visible = false});
+  desktop.Open("Beta");
+  EXPECT_EQ(enumeration.RefreshTags(1), (WindowHandles{upper, lower}));
+  EXPECT_EQ(enumeration.LastOnScreen({upper, lower}), lower);
+  EXPECT_EQ(HandleOfTag(1), 0);
+  EXPECT_EQ(HandleOfTag(2), upper);
+  EXPECT_EQ(enumeration.RefreshTags(), WindowHandles{});
 }
 
 TEST_F(WindowEnumerationTest, InstanceSearchFindsTheLowestOtherCopy) {
@@ -222,7 +235,9 @@ TEST_F(WindowEnumerationTest, InstanceSearchDoesNotApplyTheFilter) {
 TEST_F(WindowEnumerationTest, InstanceSearchActsInMode4Only) {
   for (std::int32_t mode = 0; mode <= 8; ++mode) {
     WindowHandle handedOver = 0;
-    WindowEnumeration::EnumInstanceProc(17, mode, [&](WindowHandle hwnd) { handedOver = hwnd; });
+    SeenWindow window(desktop, 17);
+    WindowEnumeration::EnumInstanceProc(window, mode,
+                                        [&](SeenWindow& handed) { handedOver = handed.Handle(); });
     EXPECT_EQ(handedOver, mode == 4 ? 17 : 0) << mode;
   }
 }
