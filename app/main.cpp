@@ -1,7 +1,6 @@
 #include <windows.h>
-// After windows.h, which they need.
+// After windows.h, which it needs.
 #include <commctrl.h>
-#include <objbase.h>
 
 #include "app/program.h"
 #include "platform/windows/windows_clock.h"
@@ -13,32 +12,12 @@
 #include "platform/windows/windows_window_api.h"
 #include "ui/windows/windows_ui.h"
 
-namespace {
-
-/// The common controls, and COM as the shell wants it for opening documents.
-class SystemLibraries {
- public:
-  SystemLibraries() : com_(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)) {
-    const INITCOMMONCONTROLSEX controls{sizeof(controls), ICC_STANDARD_CLASSES | ICC_TAB_CLASSES};
-    InitCommonControlsEx(&controls);
-  }
-  ~SystemLibraries() {
-    if (SUCCEEDED(com_)) CoUninitialize();
-  }
-  SystemLibraries(const SystemLibraries&) = delete;
-  SystemLibraries& operator=(const SystemLibraries&) = delete;
-
- private:
-  HRESULT com_;
-};
-
-}  // namespace
-
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, PWSTR /*commandLine*/,
                     int /*show*/) {
   // Whatever lies beside a downloaded program must not be taken for one of Windows' libraries.
   SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
-  const SystemLibraries libraries;
+  const INITCOMMONCONTROLSEX controls{sizeof(controls), ICC_STANDARD_CLASSES | ICC_TAB_CLASSES};
+  InitCommonControlsEx(&controls);
   korvale::WindowsWindowApi windows;
   korvale::WindowsHotKeyApi hotKeys;
   korvale::WindowsSettingsStore store;

@@ -33,8 +33,8 @@ ErrorLog::ErrorLog(const ProgramIdentity& identity, SystemApi& system, Clock& cl
     : identity_(&identity), system_(&system), clock_(&clock), state_(std::move(state)) {}
 
 std::string ErrorLog::UsersFolder() const {
-  return identity_->localAppData.empty() ? ""
-                                         : identity_->localAppData + "\\" + kProductName + "\\";
+  const std::string folder = system_->SHGetKnownFolderPath();
+  return folder.empty() ? "" : folder + "\\" + kProductName + "\\";
 }
 
 std::string ErrorLog::Folder() const {

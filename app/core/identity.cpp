@@ -34,7 +34,6 @@ ProgramIdentity ReadProgramIdentity(SystemApi& system) {
   identity.legalNotice = version.legalCopyright;
   identity.fileDescription = version.fileDescription;
   identity.mainCaption = std::string(kProductName) + " - " + identity.installationFolderName;
-  identity.localAppData = system.SHGetKnownFolderPath();
   return identity;
 }
 

@@ -27,9 +27,6 @@ struct ProgramIdentity {
   std::string mainCaption;
   /// File name of the executable without its folder.
   std::string executableName;
-  /// The user's own folder for data of programs, without a closing backslash; "" when Windows names
-  /// none. Known from the start, since a program that has crashed asks Windows for little.
-  std::string localAppData;
 };
 
 /// The last component of a folder, ignoring closing backslashes: "Work" for "D:\Tools\Work\", "C:"

@@ -2,10 +2,8 @@
 
 namespace korvale {
 
-SystemLibrary::SystemLibrary(const wchar_t* fileName)
-    : module_(LoadLibraryExW(fileName, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32)) {}
-
-SystemLibrary::AnyFunction SystemLibrary::Address(const char* name) const {
+SystemLibrary::AnyFunction SystemLibrary::Address(const char* name) {
+  if (!module_) module_.Reset(LoadLibraryExW(fileName_, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32));
   if (!module_) return nullptr;
   return reinterpret_cast<AnyFunction>(GetProcAddress(module_.Get(), name));
 }

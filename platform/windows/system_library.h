@@ -4,17 +4,17 @@
 
 namespace korvale {
 
-/// One of Windows' own libraries, loaded while the program runs. It is looked for in the system
-/// folder only, never beside the executable, where a download may lie next to anything
-/// (LoadLibraryExW with LOAD_LIBRARY_SEARCH_SYSTEM32).
+/// One of Windows' own libraries, loaded when one of its functions is first asked for. It is looked
+/// for in the system folder only, never beside the executable, where a download may lie next to
+/// anything (LoadLibraryExW with LOAD_LIBRARY_SEARCH_SYSTEM32).
 class SystemLibrary {
  public:
-  explicit SystemLibrary(const wchar_t* fileName);
+  explicit SystemLibrary(const wchar_t* fileName) : fileName_(fileName) {}
 
   /// The function of this name, as in Find<decltype(DwmGetWindowAttribute)>(...); null when this
   /// Windows lacks it or the library (GetProcAddress). Usable as long as this object lives.
   template <typename Function>
-  Function* Find(const char* name) const {
+  Function* Find(const char* name) {
     return reinterpret_cast<Function*>(Address(name));
   }
 
@@ -22,8 +22,9 @@ class SystemLibrary {
   // The type that compilers let a function pointer take on its way to its own.
   using AnyFunction = void (*)();
 
-  AnyFunction Address(const char* name) const;
+  AnyFunction Address(const char* name);
 
+  const wchar_t* fileName_;
   UniqueModule module_;
 };
 

@@ -11,13 +11,19 @@
 #include <exception>
 #include <limits>
 #include <string>
-#include <system_error>
-#include <thread>
 #include <utility>
 
 #include "platform/windows/handles.h"
 #include "platform/windows/system_library.h"
 #include "platform/windows/text.h"
+
+#if defined(__GLIBCXX__)
+namespace __gnu_cxx {
+// What std::terminate calls until it is told otherwise. The library's own one prints the type of
+// the exception, for which it would bring along 50 KB that read names of C++.
+void __verbose_terminate_handler() { std::abort(); }  // NOLINT(bugprone-reserved-identifier)
+}  // namespace __gnu_cxx
+#endif
 
 namespace korvale {
 namespace {
@@ -54,15 +60,15 @@ constexpr DWORD kCppException = 0x20474343;
 /// The thread that reports the crash of another one, which may have no stack left for it.
 class WindowsCrashApi::Reporter {
  public:
-  explicit Reporter(std::function<void(const Crash&)> filter)
-      : filter_(std::move(filter)), thread_([this] { WaitAndReport(); }) {}
+  explicit Reporter(std::function<void(const Crash&)> filter) : filter_(std::move(filter)) {}
   ~Reporter() {
     SetEvent(finished_.Get());
-    thread_.join();
+    if (Runs()) WaitForSingleObject(thread_.Get(), INFINITE);
   }
   Reporter(const Reporter&) = delete;
   Reporter& operator=(const Reporter&) = delete;
 
+  bool Runs() const { return static_cast<bool>(thread_); }
   bool IsThisThread() const { return GetCurrentThreadId() == reporting_; }
 
   /// The first crash is reported; threads that crash meanwhile wait for the end, too.
@@ -80,18 +86,22 @@ class WindowsCrashApi::Reporter {
   void SetDeadline(ULONGLONG ticks) { deadline_ = ticks; }
 
   bool WriteDump(HANDLE file) const {
-    if (writeDump_ == nullptr) return false;
+    // If the loader of libraries stands still, too, the deadline ends the process.
+    SystemLibrary library(L"dbghelp.dll");
+    auto* const write = library.Find<decltype(::MiniDumpWriteDump)>("MiniDumpWriteDump");
+    if (write == nullptr) return false;
     MINIDUMP_EXCEPTION_INFORMATION exception{site_.thread, site_.exception, FALSE};
-    return writeDump_(GetCurrentProcess(), GetCurrentProcessId(), file, MiniDumpNormal,
-                      site_.exception == nullptr ? nullptr : &exception, nullptr, nullptr) != FALSE;
+    return write(GetCurrentProcess(), GetCurrentProcessId(), file, MiniDumpNormal,
+                 site_.exception == nullptr ? nullptr : &exception, nullptr, nullptr) != FALSE;
   }
 
  private:
+  static DWORD WINAPI Run(void* reporter) {
+    static_cast<Reporter*>(reporter)->WaitAndReport();
+    return 0;
+  }
   void WaitAndReport() {
     reporting_ = GetCurrentThreadId();
-    // Not after a crash, when the loader of libraries may be the one that stands still.
-    const SystemLibrary library(L"dbghelp.dll");
-    writeDump_ = library.Find<decltype(::MiniDumpWriteDump)>("MiniDumpWriteDump");
     const HANDLE events[] = {toReport_.Get(), finished_.Get()};
     if (WaitForMultipleObjects(2, events, FALSE, INFINITE) != WAIT_OBJECT_0) return;
     Report();
@@ -114,8 +124,7 @@ class WindowsCrashApi::Reporter {
   std::atomic<DWORD> reporting_ = 0;
   std::atomic<ULONGLONG> deadline_ = std::numeric_limits<ULONGLONG>::max();
   CrashSite site_;
-  decltype(&::MiniDumpWriteDump) writeDump_ = nullptr;
-  std::thread thread_;
+  UniqueKernelHandle thread_{CreateThread(nullptr, 0, Run, this, 0, nullptr)};
 };
 
 namespace {
@@ -243,12 +252,10 @@ void WindowsCrashApi::SetUnhandledExceptionFilter(std::function<void(const Crash
   if (!filter) return;
   ULONG stack = kStackForHandingOver;
   SetThreadStackGuarantee(&stack);
-  try {
-    reporter_ = std::make_unique<Reporter>(std::move(filter));
-  } catch (const std::system_error&) {
-    // Without a thread to report its crashes the program is as useful as others are.
-    return;
-  }
+  auto reporter = std::make_unique<Reporter>(std::move(filter));
+  // Without a thread to report its crashes the program is as useful as others are.
+  if (!reporter->Runs()) return;
+  reporter_ = std::move(reporter);
   CurrentReporter::Get().Set(reporter_.get());
   handlers_ = std::make_unique<Handlers>();
 }

@@ -130,8 +130,11 @@ std::string WindowsSystemApi::GetWindowsDirectoryA(std::uint32_t bufferSize) {
 
 void WindowsSystemApi::ShellExecuteA(WindowHandle hwnd, const std::string& verb,
                                      const std::string& file, int showCommand) {
-  ::ShellExecuteW(ToHwnd(hwnd), ToUtf16(verb).c_str(), ToUtf16(file).c_str(), nullptr, nullptr,
-                  showCommand);
+  com_.Start();
+  auto* const execute = shell_.Find<decltype(::ShellExecuteW)>("ShellExecuteW");
+  if (execute == nullptr) return;
+  execute(ToHwnd(hwnd), ToUtf16(verb).c_str(), ToUtf16(file).c_str(), nullptr, nullptr,
+          showCommand);
 }
 
 bool WindowsSystemApi::FileExists(const std::string& path) {
@@ -189,10 +192,12 @@ bool WindowsSystemApi::DeleteFileW(const std::string& path) {
 }
 
 std::string WindowsSystemApi::SHGetKnownFolderPath() {
+  auto* const ask = shell_.Find<decltype(::SHGetKnownFolderPath)>("SHGetKnownFolderPath");
+  if (ask == nullptr) return "";
   wchar_t* path = nullptr;
-  const HRESULT result = ::SHGetKnownFolderPath(FOLDERID_LocalAppData, 0, nullptr, &path);
+  const HRESULT result = ask(FOLDERID_LocalAppData, 0, nullptr, &path);
   const std::string text = SUCCEEDED(result) && path != nullptr ? ToUtf8(path) : "";
-  CoTaskMemFree(path);
+  com_.Free(path);
   return text;
 }
 

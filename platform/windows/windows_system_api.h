@@ -1,6 +1,8 @@
 #pragma once
 
 #include "platform/system_api.h"
+#include "platform/windows/com.h"
+#include "platform/windows/system_library.h"
 
 namespace korvale {
 
@@ -25,6 +27,10 @@ class WindowsSystemApi final : public SystemApi {
   FolderInfo GetFinalPathNameByHandleW(const std::string& folder) override;
   std::unique_ptr<SystemMutex> CreateMutexA(const std::string& name) override;
   std::unique_ptr<SystemMutex> OpenMutexA(const std::string& name) override;
+
+ private:
+  SystemLibrary shell_{L"shell32.dll"};
+  Com com_;
 };
 
 }  // namespace korvale

@@ -30,13 +30,8 @@ bool HasLostShell(HRESULT result) {
 
 bool WindowsVirtualDesktops::HasManager() {
   if (manager_) return true;
-  void* made = nullptr;
-  if (FAILED(CoCreateInstance(kManagerClass, nullptr, CLSCTX_INPROC_SERVER, kManagerInterface,
-                              &made))) {
-    return false;
-  }
-  manager_.Reset(static_cast<IVirtualDesktopManager*>(made));
-  return true;
+  manager_.Reset(com_.Create<IVirtualDesktopManager>(kManagerClass, kManagerInterface));
+  return static_cast<bool>(manager_);
 }
 
 template <typename Call>

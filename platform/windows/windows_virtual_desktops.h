@@ -7,12 +7,13 @@
 #include <optional>
 
 #include "platform/virtual_desktops.h"
+#include "platform/windows/com.h"
 #include "platform/windows/handles.h"
 
 namespace korvale {
 
-/// The virtual desktops through the shell's manager, which is made when it is first needed; COM
-/// must be ready then. Explorer answers, which may be ending or just starting.
+/// The virtual desktops through the shell's manager, which is made when it is first needed.
+/// Explorer answers, which may be ending or just starting.
 class WindowsVirtualDesktops final : public VirtualDesktops {
  public:
   std::optional<bool> IsWindowOnCurrentVirtualDesktop(WindowHandle hwnd) override;
@@ -26,6 +27,7 @@ class WindowsVirtualDesktops final : public VirtualDesktops {
   template <typename Call>
   HRESULT Ask(Call call);
 
+  Com com_;
   UniqueHandle<IVirtualDesktopManager*> manager_;
 };
 

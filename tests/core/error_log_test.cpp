@@ -19,7 +19,6 @@ class ErrorLogTest : public testing::Test {
  protected:
   ErrorLogTest() {
     StartFrom("D:\\Work\\");
-    identity_.localAppData = "C:\\Users\\Ann\\AppData\\Local";
     identity_.versionText = "1.10.0695";
     clock_.SetLocalTime({2001, 12, 15, 14, 3, 27, 6});
   }
@@ -94,10 +93,10 @@ TEST_F(ErrorLogTest, StandsInTheFolderOfTheProgram) {
 }
 
 TEST_F(ErrorLogTest, ThatCannotBeOpenedIsAPathFileAccessError) {
-  identity_.localAppData = "C:\\None";
+  system_.localAppData = "C:\\None";
   identity_.programFolder = "D:\\None\\";
   EXPECT_EQ(AppendError(), 75);
-  identity_.localAppData = "";
+  system_.localAppData = "";
   StartFrom("D:\\Work\\");
   system_.files.insert(std::string(kPath) + "\\Folder in its place");
   EXPECT_EQ(AppendError(), 75);
@@ -123,7 +122,7 @@ TEST_F(ErrorLogTest, StandsInTheUsersFolderWhenTheProgramsCannotBeWritten) {
 
 TEST_F(ErrorLogTest, StaysInTheProgramsFolderWhenTheUserHasNone) {
   system_.readOnly = {"D:\\Work"};
-  identity_.localAppData = "";
+  system_.localAppData = "";
   EXPECT_EQ(log_.Folder(), "D:\\Work\\");
   EXPECT_EQ(AppendError(), 75);
 }

@@ -19,7 +19,6 @@ class ErrorReportsTest : public testing::Test {
  protected:
   ErrorReportsTest() {
     identity_.programFolder = "D:\\Work\\";
-    identity_.localAppData = system_.localAppData;
     system_.files = {"D:\\Work\\Korvale.exe"};
     messages_.whileShown = [this](const ShownMessageBox& /*box*/) {
       EXPECT_EQ(Content(), "") << "logged before the user was told";

@@ -7,7 +7,6 @@
 #include "ui/spoken_name.h"
 #include "ui/windows/control_window.h"
 #include "ui/windows/message_guard.h"
-#include "ui/windows/screen_reader.h"
 
 namespace korvale {
 
@@ -30,10 +29,11 @@ bool IsInMenus() {
 }  // namespace
 
 FormWindow::FormWindow(const FormState& form, WindowClasses& classes, BrushCache& brushes,
-                       const MousePointer& pointer)
+                       ScreenReader& reader, const MousePointer& pointer)
     : form_(&form),
       classes_(&classes),
       brushes_(&brushes),
+      reader_(&reader),
       pointer_(&pointer),
       scale_(form, nullptr),
       controls_(form, classes.Instance(), scale_),
@@ -50,7 +50,7 @@ HWND FormWindow::Create(HWND owner, FormEvents& events) {
                             FormStyle(*form_), place.left, place.top, place.width, place.height,
                             owner, nullptr, classes_->Instance(), this);
   if (hwnd_ == nullptr) return nullptr;
-  if (form_->role != FormRole::kWindow) TellRole(hwnd_, form_->role);
+  if (form_->role != FormRole::kWindow) reader_->TellRole(hwnd_, form_->role);
   scale_ = FormScale(*form_, hwnd_);
   ShowIcons();
   // Underlines of access keys and focus frames appear once the keyboard is used.
@@ -104,7 +104,7 @@ void FormWindow::Show(int command) {
 }
 
 void FormWindow::TellName() const {
-  if (form_->role != FormRole::kWindow) korvale::TellName(hwnd_, SpokenName(*form_));
+  if (form_->role != FormRole::kWindow) reader_->TellName(hwnd_, SpokenName(*form_));
 }
 
 void FormWindow::Announce() const {
@@ -210,7 +210,7 @@ std::optional<LRESULT> FormWindow::HandleEnd(UINT message, WPARAM wParam) {
       return 0;
     case WM_DESTROY:
       events_.Disconnect();
-      if (form_->role != FormRole::kWindow) ForgetRole(hwnd_);
+      if (form_->role != FormRole::kWindow) reader_->ForgetRole(hwnd_);
       menu_.DropBar(hwnd_);
       controls_.Drop();
       return 0;

@@ -13,6 +13,7 @@
 #include "ui/windows/form_menu.h"
 #include "ui/windows/form_scale.h"
 #include "ui/windows/key_filter.h"
+#include "ui/windows/screen_reader.h"
 #include "ui/windows/system_colors.h"
 #include "ui/windows/window_classes.h"
 
@@ -23,7 +24,7 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
  public:
   /// `pointer` is the live mouse pointer over all forms.
   FormWindow(const FormState& form, WindowClasses& classes, BrushCache& brushes,
-             const MousePointer& pointer);
+             ScreenReader& reader, const MousePointer& pointer);
   ~FormWindow();
   FormWindow(const FormWindow&) = delete;
   FormWindow& operator=(const FormWindow&) = delete;
@@ -105,6 +106,7 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   const FormState* form_;
   WindowClasses* classes_;
   BrushCache* brushes_;
+  ScreenReader* reader_;
   const MousePointer* pointer_;
   EventSink events_;
   FormScale scale_;

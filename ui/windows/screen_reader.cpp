@@ -1,56 +1,45 @@
-#include "ui/windows/screen_reader.h"
-
-// After windows.h, which they need; the first makes the others define their identifiers.
+#include <windows.h>
+// After windows.h, which it needs; makes the headers that follow define their identifiers.
 #include <initguid.h>
-#include <objbase.h>
-#include <oleacc.h>
 
 #include <array>
-#include <memory>
 
 #include "platform/windows/text.h"
+#include "ui/windows/screen_reader.h"
 
 namespace korvale {
 namespace {
-
-struct Releaser {
-  void operator()(IUnknown* object) const { object->Release(); }
-};
-
-std::unique_ptr<IAccPropServices, Releaser> PropServices() {
-  void* services = nullptr;
-  if (FAILED(CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER,
-                              IID_IAccPropServices, &services))) {
-    return nullptr;
-  }
-  return std::unique_ptr<IAccPropServices, Releaser>(static_cast<IAccPropServices*>(services));
-}
 
 constexpr auto kClient = static_cast<DWORD>(OBJID_CLIENT);
 
 }  // namespace
 
-void TellRole(HWND window, FormRole role) {
-  const auto services = PropServices();
-  if (services == nullptr) return;
+UniqueHandle<IAccPropServices*> ScreenReader::Services() {
+  return UniqueHandle(com_.Create<IAccPropServices>(CLSID_AccPropServices, IID_IAccPropServices));
+}
+
+void ScreenReader::TellRole(HWND window, FormRole role) {
+  const auto services = Services();
+  if (!services) return;
   VARIANT value{};
   value.vt = VT_I4;
   value.lVal = role == FormRole::kAlert ? ROLE_SYSTEM_ALERT : ROLE_SYSTEM_DIALOG;
-  services->SetHwndProp(window, kClient, CHILDID_SELF, PROPID_ACC_ROLE, value);
+  services.Get()->SetHwndProp(window, kClient, CHILDID_SELF, PROPID_ACC_ROLE, value);
 }
 
-void TellName(HWND window, const std::string& name) {
-  const auto services = PropServices();
-  if (services == nullptr) return;
-  services->SetHwndPropStr(window, kClient, CHILDID_SELF, PROPID_ACC_NAME, ToUtf16(name).c_str());
+void ScreenReader::TellName(HWND window, const std::string& name) {
+  const auto services = Services();
+  if (!services) return;
+  services.Get()->SetHwndPropStr(window, kClient, CHILDID_SELF, PROPID_ACC_NAME,
+                                 ToUtf16(name).c_str());
 }
 
-void ForgetRole(HWND window) {
-  const auto services = PropServices();
-  if (services == nullptr) return;
+void ScreenReader::ForgetRole(HWND window) {
+  const auto services = Services();
+  if (!services) return;
   const std::array given = {PROPID_ACC_ROLE, PROPID_ACC_NAME};
-  services->ClearHwndProps(window, kClient, CHILDID_SELF, given.data(),
-                           static_cast<int>(given.size()));
+  services.Get()->ClearHwndProps(window, kClient, CHILDID_SELF, given.data(),
+                                 static_cast<int>(given.size()));
 }
 
 void AnnounceAlert(HWND window) {

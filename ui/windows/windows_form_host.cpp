@@ -64,7 +64,7 @@ LRESULT CALLBACK WindowsFormHost::OwnerProcedure(HWND hwnd, UINT message, WPARAM
 }
 
 WindowHandle WindowsFormHost::CreateWindowExW(const FormState& form, FormEvents& events) {
-  auto window = std::make_shared<FormWindow>(form, classes_, brushes_, *pointer_);
+  auto window = std::make_shared<FormWindow>(form, classes_, brushes_, reader_, *pointer_);
   const WindowHandle hwnd = ToWindowHandle(window->Create(OwnerOf(form), events));
   if (hwnd != 0) forms_->Add(hwnd, std::move(window));
   return hwnd;

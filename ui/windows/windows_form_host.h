@@ -7,6 +7,7 @@
 #include "platform/windows/handles.h"
 #include "ui/windows/brush_cache.h"
 #include "ui/windows/open_forms.h"
+#include "ui/windows/screen_reader.h"
 #include "ui/windows/window_classes.h"
 
 namespace korvale {
@@ -44,6 +45,7 @@ class WindowsFormHost : public FormHost {
   const MousePointer* pointer_;
   WindowClasses classes_;
   BrushCache brushes_;
+  ScreenReader reader_;
   UniqueWindow owner_;
 };
 

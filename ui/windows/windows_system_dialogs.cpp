@@ -16,13 +16,15 @@ std::int16_t WindowsSystemDialogs::MessageBoxW(WindowHandle owner, const std::st
 }
 
 std::optional<Color> WindowsSystemDialogs::ChooseColorW(WindowHandle owner, Color initial) {
+  auto* const choose = dialogs_.Find<decltype(::ChooseColorW)>("ChooseColorW");
+  if (choose == nullptr) return std::nullopt;
   CHOOSECOLORW dialog{};
   dialog.lStructSize = sizeof dialog;
   dialog.hwndOwner = ToHwnd(owner);
   dialog.rgbResult = static_cast<COLORREF>(initial);
   dialog.lpCustColors = customColors_.data();
   dialog.Flags = CC_RGBINIT | CC_FULLOPEN;
-  if (::ChooseColorW(&dialog) == FALSE) return std::nullopt;
+  if (choose(&dialog) == FALSE) return std::nullopt;
   return static_cast<Color>(dialog.rgbResult);
 }
 

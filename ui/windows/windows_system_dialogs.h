@@ -7,6 +7,7 @@
 #include <string>
 
 #include "platform/system_dialogs.h"
+#include "platform/windows/system_library.h"
 #include "ui/windows/open_forms.h"
 
 namespace korvale {
@@ -23,6 +24,7 @@ class WindowsSystemDialogs : public SystemDialogs {
 
  private:
   const OpenForms* forms_;
+  SystemLibrary dialogs_{L"comdlg32.dll"};
   /// The colours that the user mixed in the colour dialog.
   std::array<COLORREF, 16> customColors_ = {};
 };

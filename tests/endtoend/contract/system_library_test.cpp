@@ -11,7 +11,7 @@ namespace {
 namespace fs = std::filesystem;
 
 TEST(SystemLibrary, FindsTheFunctionsThatWindowsHas) {
-  const SystemLibrary library(L"version.dll");
+  SystemLibrary library(L"version.dll");
   wchar_t name[32];
   auto* const find = library.Find<decltype(VerLanguageNameW)>("VerLanguageNameW");
   ASSERT_NE(find, nullptr);
@@ -20,7 +20,7 @@ TEST(SystemLibrary, FindsTheFunctionsThatWindowsHas) {
 }
 
 TEST(SystemLibrary, ThatIsMissingHasNoFunctions) {
-  const SystemLibrary library(L"no such library.dll");
+  SystemLibrary library(L"no such library.dll");
   EXPECT_EQ(library.Find<decltype(VerLanguageNameW)>("VerLanguageNameW"), nullptr);
 }
 
