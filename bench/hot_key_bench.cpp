@@ -1,21 +1,13 @@
 #include <benchmark/benchmark.h>
 
-#include <chrono>
-
 #include "bench/bench_desktop.h"
+#include "bench/processor_time.h"
 
 namespace korvale {
 namespace {
 
 constexpr int kFewWindows = 20;
 constexpr int kManyWindows = 200;
-
-template <typename Work>
-double Nanoseconds(Work work) {
-  const auto start = std::chrono::steady_clock::now();
-  work();
-  return std::chrono::duration<double, std::nano>(std::chrono::steady_clock::now() - start).count();
-}
 
 double Calls(BenchDesktop& desktop, bool forgetful) {
   if (forgetful) desktop.ForgetHandles();
@@ -30,7 +22,7 @@ void CompareDesktops(benchmark::State& state, bool forgetful) {
   BenchDesktop many(kManyWindows);
   const auto press = [forgetful](BenchDesktop& desktop) {
     if (forgetful) desktop.ForgetHandles();
-    return Nanoseconds([&] { desktop.PressTagKey(); });
+    return ProcessorNanoseconds([&] { desktop.PressTagKey(); });
   };
   double fewTime = 0;
   double manyTime = 0;
