@@ -8,11 +8,9 @@
 
 namespace korvale {
 
-std::vector<LoadedForm> FormCollection::List() const {
-  std::vector<LoadedForm> list;
-  list.reserve(loaded_.size());
-  for (const CollectedForm* form : loaded_) list.push_back({form->Name(), form->Handle()});
-  return list;
+void FormCollection::ForEach(
+    const std::function<void(std::string_view, WindowHandle)>& visit) const {
+  for (const CollectedForm* form : loaded_) visit(form->Name(), form->Handle());
 }
 
 void FormCollection::UnloadAllExcept(std::string_view name) {

@@ -40,8 +40,7 @@ class FormCollection : public LoadedForms {
   ScreenQueries& Screen() { return *screen_; }
   TimerApi& Timers() { return *timers_; }
 
-  /// The loaded forms in the order of their loading.
-  std::vector<LoadedForm> List() const override;
+  void ForEach(const std::function<void(std::string_view, WindowHandle)>& visit) const override;
   /// Unloads every loaded form except the one of this name, the one loaded last first.
   void UnloadAllExcept(std::string_view name);
 

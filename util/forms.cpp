@@ -1,6 +1,5 @@
 #include "util/forms.h"
 
-#include <algorithm>
 #include <optional>
 
 #include "util/text.h"
@@ -8,23 +7,30 @@
 namespace korvale {
 namespace {
 
-std::optional<LoadedForm> FindForm(const LoadedForms& forms, std::string_view name) {
-  const std::vector<LoadedForm> list = forms.List();
-  const auto found = std::ranges::find_if(
-      list, [&](const LoadedForm& form) { return EqualsIgnoreCase(form.name, name); });
-  if (found == list.end()) return std::nullopt;
-  return *found;
+std::optional<WindowHandle> FindForm(const LoadedForms& forms, std::string_view sought) {
+  std::optional<WindowHandle> found;
+  forms.ForEach([&](std::string_view name, WindowHandle handle) {
+    if (!found && EqualsIgnoreCase(name, sought)) found = handle;
+  });
+  return found;
 }
 
 }  // namespace
+
+std::vector<LoadedForm> LoadedForms::List() const {
+  std::vector<LoadedForm> list;
+  ForEach([&](std::string_view name, WindowHandle handle) {
+    list.push_back({std::string(name), handle});
+  });
+  return list;
+}
 
 bool IsFormLoaded(const LoadedForms& forms, std::string_view name, bool /*flag*/) {
   return FindForm(forms, name).has_value();
 }
 
 WindowHandle FormHandle(const LoadedForms& forms, std::string_view name) {
-  const std::optional<LoadedForm> form = FindForm(forms, name);
-  return form ? form->handle : 0;
+  return FindForm(forms, name).value_or(0);
 }
 
 }  // namespace korvale

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,8 +20,11 @@ class LoadedForms {
  public:
   virtual ~LoadedForms() = default;
 
-  /// All loaded forms in the order in which they were loaded.
-  virtual std::vector<LoadedForm> List() const = 0;
+  /// Visits all loaded forms in the order in which they were loaded. The visitor must not load or
+  /// unload.
+  virtual void ForEach(const std::function<void(std::string_view, WindowHandle)>& visit) const = 0;
+  /// The same as a list.
+  std::vector<LoadedForm> List() const;
 };
 
 /// True when a form of this name is loaded, ignoring case. `flag` has no effect.

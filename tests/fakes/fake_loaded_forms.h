@@ -1,6 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -10,7 +12,9 @@ namespace korvale {
 
 class FakeLoadedForms : public LoadedForms {
  public:
-  std::vector<LoadedForm> List() const override { return forms; }
+  void ForEach(const std::function<void(std::string_view, WindowHandle)>& visit) const override {
+    for (const LoadedForm& form : forms) visit(form.name, form.handle);
+  }
 
   void Load(std::string name, WindowHandle handle) { forms.push_back({std::move(name), handle}); }
 

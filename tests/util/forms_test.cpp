@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -12,7 +14,9 @@ class FormsOfTest : public LoadedForms {
  public:
   explicit FormsOfTest(std::vector<LoadedForm> forms) : forms_(std::move(forms)) {}
 
-  std::vector<LoadedForm> List() const override { return forms_; }
+  void ForEach(const std::function<void(std::string_view, WindowHandle)>& visit) const override {
+    for (const LoadedForm& form : forms_) visit(form.name, form.handle);
+  }
 
  private:
   std::vector<LoadedForm> forms_;
