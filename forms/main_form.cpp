@@ -137,9 +137,10 @@ void frmMain::ReadIdentity() { parts_.identity = ReadProgramIdentity(platform_->
 
 void frmMain::udmTimersEnabled(bool booTrueFalse) {
   for (Control& control : Controls()) {
-    if (control.State().kind == ControlKind::kTimer) {
-      control.SetEnabled(booTrueFalse && control.Tag() == "ON");
-    }
+    if (control.State().kind != ControlKind::kTimer) continue;
+    // What stops the timers rarely takes as long as a tick.
+    if (!booTrueFalse) control.Pause();
+    if (booTrueFalse) control.SetEnabled(control.Tag() == "ON");
   }
 }
 

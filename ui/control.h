@@ -53,6 +53,8 @@ class Control : public TimerControl {
   /// Enables the control; for a timer, starts or stops it.
   bool Enabled() const override { return state_->enabled; }
   void SetEnabled(bool enabled) override;
+  /// Disables a timer for a moment: only a tick that comes meanwhile, and is dropped, stops it.
+  void Pause() { state_->enabled = false; }
 
   const TwipsRect& Place() const { return state_->place; }
   void SetPlace(const TwipsRect& place);

@@ -281,7 +281,8 @@ void Form::OnTimer(int control) {
   // Any program may post a tick.
   if (!IsControl(control) || StateOf(control).kind != ControlKind::kTimer) return;
   Control& timer = ById(control);
-  if (timer.Enabled()) RaiseClick(timer);
+  if (timer.Enabled()) return RaiseClick(timer);
+  StartOrStopTimer(timer);
 }
 
 void Form::OnUncaught() noexcept { forms_->ReportUncaught(); }

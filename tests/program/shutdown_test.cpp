@@ -17,7 +17,7 @@ TEST_F(ShutdownTest, ShutdownKeepsItsOrder) {
   log.IncludeReads(true);
   log.Clear();
   bool timerAtSave = true;
-  log.WhenCalled("SaveSetting", [&] { timerAtSave = clock.AnyTimerOf(korvale.Handle()); });
+  log.WhenCalled("SaveSetting", [&] { timerAtSave = korvale.Form().tmrWindow().Enabled(); });
   bool tagAtUnregister = true;
   log.WhenCalled("UnregisterHotKey", [&] { tagAtUnregister = korvale.TagEntry(1) != nullptr; });
   bool optionsAtDestroy = false;

@@ -122,7 +122,10 @@ void SimulatedLife::PopUpWindowMenu() {
 }
 
 void SimulatedLife::GoToKorvale() {
-  desktop.UserActivates(korvale_->Handle());
+  const WindowHandle main = korvale_->Handle();
+  desktop.UserActivates(main);
+  // The first activation, after a start behind another window, may lead on to the Previous Window.
+  if (desktop.Windows().Foreground() != main) desktop.UserActivates(main);
   if (!korvale_->user.MenuBarItems(korvale_->Handle()).empty()) return;
   korvale_->user.PressKey(korvale_->Handle(), 'V', kAlt);
   korvale_->user.PressKey(korvale_->Handle(), win32::kVkEscape);
