@@ -14,7 +14,7 @@ namespace korvale {
 namespace {
 
 /// The entry of the first Tag that has this class stored and fits this title; null when none does.
-MenuItem* IdentifyingEntry(TagList& tags, const std::string& title, const std::string& className) {
+MenuItem* IdentifyingEntry(TagList& tags, std::string_view title, std::string_view className) {
   for (int tag = 1; tag <= kTagCount; ++tag) {
     MenuItem* const entry = tags.mnuWindowParentList.Find(tag);
     if (entry != nullptr && TagClass(tags, *entry) == className &&
@@ -37,57 +37,78 @@ ForegroundTracker::ForegroundTracker(const DesktopParts& parts, const WindowFilt
       tags_(&tags) {}
 
 void ForegroundTracker::tmrWindow_Timer() {
-  LookAtForeground();
+  SeenWindow front(*windows_, WindowInFront());
+  NoteForeground(front);
+  const bool same = std::exchange(tickedOver_, front.Handle()) == front.Handle();
+  const bool outdated = same ? RecordIsOutdatedBehind(front.Handle()) : RecordIsOutdated();
+  if (outdated) ValidatePreviousWindow();
+  FollowForeground(front);
   previous_->menuSelection = false;
 }
 
 void ForegroundTracker::LookAtForeground() {
-  const WindowHandle foreground = WindowInFront();
-  const std::string title = GetWindowTitle(*windows_, foreground);
+  tickedOver_ = 0;
+  SeenWindow front(*windows_, WindowInFront());
+  NoteForeground(front);
+  if (RecordIsOutdated()) ValidatePreviousWindow();
+  FollowForeground(front);
+}
+
+void ForegroundTracker::FollowForeground() {
+  tickedOver_ = 0;
+  SeenWindow front(*windows_, WindowInFront());
+  NoteForeground(front);
+  FollowForeground(front);
+}
+
+void ForegroundTracker::NoteForeground(SeenWindow& front) {
+  const WindowHandle foreground = front.Handle();
   const bool isMain = foreground == mainWindow_->MainHandle();
   if (!isMain) previous_->lastOtherForeground = foreground;
-  NoteInFront(foreground);
-  if (std::exchange(firstTick_, false) && isMain) lastSeen_ = foreground;
-  if (RecordIsOutdated()) ValidatePreviousWindow();
-  if (!filter_->IsSelectableWindow(foreground, false, false) ||
-      !windows_->IsWindowVisible(foreground)) {
-    return;
+  if (foreground != 0 && foreground != inFront_.handle) {
+    KnownWindow known{foreground, std::string(front.ClassName())};
+    inFrontBefore_ = std::exchange(inFront_, std::move(known));
   }
-  if (foreground == lastSeen_) {
-    // It was passed over while it was disabled or hidden.
-    const bool passedOver = !isMain && foreground != previous_->current.handle;
-    if (passedOver && CanBeReached(Know(*windows_, foreground))) ValidatePreviousWindow();
+  if (std::exchange(firstTick_, false) && isMain) lastSeen_ = foreground;
+}
+
+void ForegroundTracker::FollowForeground(SeenWindow& front) {
+  const WindowHandle foreground = front.Handle();
+  if (foreground == 0) return;
+  const bool known = foreground == lastSeen_;
+  // Otherwise it was passed over while it was disabled or hidden.
+  const bool recorded =
+      foreground == mainWindow_->MainHandle() || foreground == previous_->current.handle;
+  if (known && recorded) return;
+  if (!filter_->IsSelectableWindow(front, false, false) || !front.IsVisible()) return;
+  if (known) {
+    if (CanBeReached(front)) ValidatePreviousWindow();
     return;
   }
   // A window may be in front before Windows shows it to the user.
-  if (IsCloaked(*windows_, foreground)) return;
+  if (front.Cloak() != 0) return;
   mainWindow_->tmrWindow().SetInterval(kTrackingInterval);
-  if (AcceptForeground(foreground, title)) {
-    Follow({foreground, title, GetWindowClass(*windows_, foreground)});
-    ValidatePreviousWindow();
-  } else {
-    LookBehindDialog(foreground);
-  }
+  if (!FollowIfAccepted(front)) LookBehindDialog(foreground);
 }
 
 /// To the user, a dialog that is not followed itself and disables its owner is that owner.
 void ForegroundTracker::LookBehindDialog(WindowHandle dialog) {
   WindowHandle behind = windows_->GetWindow(dialog, win32::kGwOwner);
   for (int i = 0; i < kMostOwners && behind != 0 && !windows_->IsWindowEnabled(behind); ++i) {
-    const std::string title = GetWindowTitle(*windows_, behind);
-    const bool followed = behind != mainWindow_->MainHandle() && filter_->IsShown(behind) &&
-                          filter_->IsSelectableWindow(behind, false, false) &&
-                          AcceptForeground(behind, title);
-    if (followed) return MoveRecordBehindDialog({behind, title, GetWindowClass(*windows_, behind)});
+    SeenWindow window(*windows_, behind);
+    const bool followed = behind != mainWindow_->MainHandle() && filter_->IsShown(window) &&
+                          filter_->IsSelectableWindow(window, false, false) && IsAccepted(window);
+    if (followed) return MoveRecordBehindDialog(window);
     behind = windows_->GetWindow(behind, win32::kGwOwner);
   }
 }
 
-void ForegroundTracker::MoveRecordBehindDialog(const WindowTriple& window) {
-  const bool known = window.handle == lastSeen_;
-  if (known && window.handle == previous_->current.handle) return;
-  if (!known) Follow(window);
-  ValidatePreviousWindow();
+void ForegroundTracker::MoveRecordBehindDialog(SeenWindow& window) {
+  if (window.Handle() != lastSeen_) {
+    FollowIfAccepted(window);
+  } else if (window.Handle() != previous_->current.handle) {
+    ValidatePreviousWindow();
+  }
 }
 
 void ForegroundTracker::LookAnew() {
@@ -103,11 +124,6 @@ WindowHandle ForegroundTracker::WindowInFront() {
   return forItsMenu || onItsWayBack ? 0 : foreground;
 }
 
-void ForegroundTracker::NoteInFront(WindowHandle foreground) {
-  if (foreground == 0 || foreground == inFront_.handle) return;
-  inFrontBefore_ = std::exchange(inFront_, Know(*windows_, foreground));
-}
-
 KnownWindow ForegroundTracker::WindowBehind(WindowHandle closing) {
   if (windows_->GetForegroundWindow() != closing) return {};
   const KnownWindow& last = inFront_.handle == closing ? inFrontBefore_ : inFront_;
@@ -121,22 +137,22 @@ KnownWindow ForegroundTracker::WindowBehind(WindowHandle closing) {
 }
 
 KnownWindow ForegroundTracker::LastWorkedIn(WindowHandle except) {
-  const std::optional<WindowTriple> worked = worked_.First([&](const WindowTriple& window) {
-    return window.handle != except && !IsGone(window) &&
-           CanComeBack(FindInputWindow(*windows_, window.handle));
+  KnownWindow last;
+  worked_.ForEach([&](const KnownWindow& window) {
+    if (window.handle == except || !StillExists(*windows_, window)) return true;
+    const WindowHandle input = FindInputWindow(*windows_, window.handle);
+    if (!CanComeBack(input)) return true;
+    last = input == window.handle ? window : Know(*windows_, input);
+    return false;
   });
-  if (!worked) return {};
-  const WindowHandle input = FindInputWindow(*windows_, worked->handle);
-  if (input == worked->handle) return {input, worked->className};
-  return Know(*windows_, input);
+  return last;
 }
 
 void ForegroundTracker::ForgetVisit(WindowHandle closing) {
   worked_.Remove(closing);
   if (lastSeen_ != closing) return;
-  const auto before = worked_.First([](const WindowTriple&) { return true; });
-  const bool unseen = !before || before->handle == mainWindow_->MainHandle();
-  lastSeen_ = unseen ? 0 : before->handle;
+  const WindowHandle before = worked_.Latest();
+  lastSeen_ = before == mainWindow_->MainHandle() ? 0 : before;
 }
 
 bool ForegroundTracker::CanComeBack(WindowHandle hwnd) {
@@ -149,15 +165,27 @@ bool ForegroundTracker::AcceptForeground(WindowHandle hwnd, const std::string& t
          IdentifyingEntry(*tags_, title, GetWindowClass(*windows_, hwnd)) != nullptr;
 }
 
-void ForegroundTracker::Follow(const WindowTriple& window) {
-  MenuItem* const entry = IdentifyingEntry(*tags_, window.text, window.className);
-  if (entry != nullptr && !filter_->IsSelectableWindow(window.handle, true, true)) {
-    entry->tag = DecimalText(window.handle);
-  }
-  MoveRecordTo(window);
+bool ForegroundTracker::IsAccepted(SeenWindow& window) const {
+  return filter_->IsSelectableWindow(window, true, true) ||
+         IdentifyingEntry(*tags_, window.Title(), window.ClassName()) != nullptr;
 }
 
-void ForegroundTracker::MoveRecordTo(const WindowTriple& window) {
+void ForegroundTracker::Follow(const WindowTriple& window) {
+  SeenWindow seen(*windows_, window.handle);
+  if (!FollowIfAccepted(seen)) MoveRecordTo({window.handle, window.className});
+}
+
+bool ForegroundTracker::FollowIfAccepted(SeenWindow& window) {
+  if (!filter_->IsSelectableWindow(window, true, true)) {
+    MenuItem* const entry = IdentifyingEntry(*tags_, window.Title(), window.ClassName());
+    if (entry == nullptr) return false;
+    entry->tag = DecimalText(window.Handle());
+  }
+  MoveRecordTo({window.Handle(), std::string(window.ClassName())});
+  return true;
+}
+
+void ForegroundTracker::MoveRecordTo(const KnownWindow& window) {
   const WindowHandle main = mainWindow_->MainHandle();
   if (window.handle == main) {
     mainWindow_->SetFocusTag(kGotFocus);
@@ -166,16 +194,17 @@ void ForegroundTracker::MoveRecordTo(const WindowTriple& window) {
   } else {
     if (mainWindow_->FocusTag() == kGotFocus) {
       mainWindow_->SetFocusTag("");
-      worked_.PutFirst({main, mainWindow_->MainCaption(), GetWindowClass(*windows_, main)});
+      worked_.PutFirst(Know(*windows_, main));
     }
     worked_.PutFirst(window);
   }
   lastSeen_ = window.handle;
   UpdateRecord();
   if (window.handle != main) udmRefreshAlwaysOnTopMenuChecked();
+  ShowRecord();
 }
 
-void ForegroundTracker::RecordSelection(const WindowTriple& window) {
+void ForegroundTracker::RecordSelection(const KnownWindow& window) {
   previous_->leaving = windows_->GetForegroundWindow();
   previous_->coming = FindInputWindow(*windows_, window.handle);
   previous_->menuSelection = previous_->leaving != previous_->coming;
@@ -188,107 +217,6 @@ void ForegroundTracker::PopUpClosed() {
   if (!previous_->menuSelection) previous_->coming = inFront_.handle;
   previous_->leaving = main;
   previous_->menuSelection = true;
-}
-
-/// True also when another window has got the handle.
-bool ForegroundTracker::IsGone(const WindowTriple& window) {
-  return window.handle != 0 && !StillExists(*windows_, {window.handle, window.className});
-}
-
-/// A window of it has gone, or Windows has taken it off the screen or put it there: the user closed
-/// a Store program, which leaves its window behind, or changed virtual desktops.
-bool ForegroundTracker::RecordIsOutdated() {
-  return IsGone(previous_->current) || IsGone(previous_->alternate) || RecordCloaks() != cloaks_;
-}
-
-ForegroundTracker::Cloaks ForegroundTracker::RecordCloaks() {
-  const auto cloak = [this](WindowHandle hwnd) {
-    return hwnd == 0 ? 0 : windows_->DwmGetWindowAttribute(hwnd);
-  };
-  return {cloak(previous_->current.handle), cloak(previous_->alternate.handle)};
-}
-
-/// A dialog that the user was followed into counts as itself.
-bool ForegroundTracker::IsBehindDialog(WindowHandle hwnd) {
-  const WindowHandle dialog = FindInputWindow(*windows_, hwnd);
-  const bool restores = windows_->IsWindowVisible(dialog) || !windows_->IsHungAppWindow(hwnd);
-  return restores && filter_->IsSelectableWindow(dialog, false, false) &&
-         !worked_.First([&](const WindowTriple& other) { return other.handle == dialog; });
-}
-
-/// Also true for a window behind its own dialog, and for one that is out of sight because its owner
-/// is minimized: Tag 0 brings the dialog forward and restores the owner.
-bool ForegroundTracker::CanBeReached(const KnownWindow& window) {
-  // Known by its handle, so any title will do; the next reading may give another one.
-  WindowTriple live{window.handle, "", window.className};
-  switch (actions_->ActivateWindow(live, false, false)) {
-    case kActivationDone:
-      return true;
-    case kWindowNotEnabled:
-      return IsBehindDialog(window.handle);
-    case kWindowNotOpen: {
-      const WindowHandle owner = GetRelatedWindow(*windows_, window.handle, 2);
-      return windows_->IsIconic(owner) && windows_->IsWindowVisible(owner) &&
-             !windows_->IsHungAppWindow(owner);
-    }
-    default:
-      return false;
-  }
-}
-
-/// The window with its present title.
-WindowTriple ForegroundTracker::Recorded(const std::optional<WindowTriple>& window) {
-  if (!window) return {};
-  const std::string title = GetWindowTitle(*windows_, window->handle);
-  // One that has just gone keeps its title for the messages about it.
-  const bool gone = title.empty() && !windows_->IsWindow(window->handle);
-  return {window->handle, gone ? window->text : title, window->className};
-}
-
-void ForegroundTracker::UpdateRecord() {
-  worked_.RemoveIf([this](const WindowTriple& window) {
-    const bool gone = IsGone(window);
-    if (gone && window.handle == lastSeen_) lastSeen_ = 0;
-    return gone;
-  });
-  const WindowHandle main = mainWindow_->MainHandle();
-  previous_->current = Recorded(worked_.First([&](const WindowTriple& window) {
-    return window.handle != main && CanBeReached({window.handle, window.className});
-  }));
-  const WindowHandle current = previous_->current.handle;
-  previous_->alternate = Recorded(worked_.First([&](const WindowTriple& window) {
-    return window.handle != current && CanBeReached({window.handle, window.className});
-  }));
-  const std::optional<WindowTriple> next = worked_.First([&](const WindowTriple& window) {
-    return window.handle != lastSeen_ && CanBeReached({window.handle, window.className});
-  });
-  // The only window worked in is the present one only while it is in front.
-  previous_->tagZeroIsAlternate =
-      !next ? previous_->InFront(*windows_) == current : next->handle != current;
-  if (previous_->alternate.handle == main) previous_->alternate.text = mainWindow_->MainCaption();
-  cloaks_ = RecordCloaks();
-}
-
-void ForegroundTracker::ValidatePreviousWindow() {
-  UpdateRecord();
-  ShowRecord();
-}
-
-void ForegroundTracker::ShowRecord() {
-  const WindowTriple& current = previous_->current;
-  const bool valid = current.handle != 0;
-  mainWindow_->EnablePreviousWindowItems(valid);
-  const bool untitled = valid && current.text.empty();
-  mainWindow_->ShowTargetWindow(untitled ? kUntitled : current.text, current.className);
-}
-
-void ForegroundTracker::udmRefreshAlwaysOnTopMenuChecked() {
-  const std::int32_t main = windows_->GetWindowLongA(mainWindow_->MainHandle(), win32::kGwlExStyle);
-  // A main window without any extended style keeps its check mark.
-  if (main != 0) mainWindow_->CheckAlwaysOnTop((main & win32::kWsExTopmost) != 0);
-  const std::int32_t previous =
-      windows_->GetWindowLongA(previous_->current.handle, win32::kGwlExStyle);
-  mainWindow_->CheckPreviousWindowAlwaysOnTop((previous & win32::kWsExTopmost) != 0);
 }
 
 }  // namespace korvale

@@ -2,10 +2,10 @@
 
 #include <array>
 #include <cstdint>
-#include <optional>
 #include <string>
 
 #include "desktop/desktop_parts.h"
+#include "desktop/seen_window.h"
 #include "desktop/tag_list.h"
 #include "desktop/window_actions.h"
 #include "desktop/window_filter.h"
@@ -24,12 +24,15 @@ class ForegroundTracker {
   ForegroundTracker(const DesktopParts& parts, const WindowFilter& filter, WindowActions& actions,
                     TagList& tags);
 
-  /// The tick of tmrWindow; also called when the Window menu opens.
+  /// The tick of tmrWindow.
   void tmrWindow_Timer();
 
   /// Takes the present foreground window into the record, as the tick does, so that nothing is lost
-  /// between two ticks; called before a hot key's action.
+  /// between two ticks, and makes sure of the windows in it; called before a hot key's action.
   void LookAtForeground();
+
+  /// As LookAtForeground, when the record is going to be updated or validated anyway.
+  void FollowForeground();
 
   /// Makes the next tick look at the foreground window as if it had just come to the front; called
   /// once the main window has come up in front of the window that the user worked in.
@@ -58,6 +61,10 @@ class ForegroundTracker {
   /// Updates the record, then shows it in the main window.
   void ValidatePreviousWindow();
 
+  /// Takes the present foreground window into the record and updates all that the Window menu shows
+  /// of it; called when the menu opens.
+  void PrepareWindowMenu();
+
   /// Sets both always-on-top check marks from the windows' real state.
   void udmRefreshAlwaysOnTopMenuChecked();
 
@@ -65,13 +72,16 @@ class ForegroundTracker {
   /// allow it, or else a Tag identifies it.
   bool AcceptForeground(WindowHandle hwnd, const std::string& title) const;
 
-  /// Moves the record to a window that AcceptForeground accepts. When the options exclude it, the
-  /// Tag that identifies it takes its handle.
+  /// As Follow when AcceptForeground accepts the window; otherwise does nothing and gives false.
+  bool FollowIfAccepted(SeenWindow& window);
+
+  /// Moves the record to a window that AcceptForeground accepts, and shows it. When the options
+  /// exclude the window, the Tag that identifies it takes its handle.
   void Follow(const WindowTriple& window);
 
   /// Moves the record to a window that was just brought to the front (SetForegroundWindow), which
-  /// Windows may do a moment later.
-  void RecordSelection(const WindowTriple& window);
+  /// Windows may do a moment later, and shows it.
+  void RecordSelection(const KnownWindow& window);
 
   /// The menu has closed for which the main window was in front; it may stay there for a moment.
   void PopUpClosed();
@@ -80,19 +90,23 @@ class ForegroundTracker {
   /// Why the current window and the alternate are not on the screen (DWM_CLOAKED_ values).
   using Cloaks = std::array<std::uint32_t, 2>;
 
+  void NoteForeground(SeenWindow& front);
+  void FollowForeground(SeenWindow& front);
+  bool IsAccepted(SeenWindow& window) const;
   /// The user is in `window` now. Unless that is the main window, it becomes the Previous Window,
   /// and the window before it, or the main window when that had the focus, the alternate.
-  void MoveRecordTo(const WindowTriple& window);
+  void MoveRecordTo(const KnownWindow& window);
   void LookBehindDialog(WindowHandle dialog);
-  void MoveRecordBehindDialog(const WindowTriple& window);
-  void NoteInFront(WindowHandle foreground);
+  void MoveRecordBehindDialog(SeenWindow& window);
   bool IsGone(const WindowTriple& window);
   bool RecordIsOutdated();
+  bool RecordIsOutdatedBehind(WindowHandle foreground);
+  std::uint32_t CloakOf(WindowHandle hwnd);
   Cloaks RecordCloaks();
   bool IsBehindDialog(WindowHandle hwnd);
-  bool CanBeReached(const KnownWindow& window);
+  bool CanBeReached(SeenWindow& window);
   bool CanComeBack(WindowHandle hwnd);
-  WindowTriple Recorded(const std::optional<WindowTriple>& window);
+  std::array<WindowTriple, 2> FindReachable();
   void ShowRecord();
 
   WindowQueries* windows_;
@@ -105,6 +119,8 @@ class ForegroundTracker {
   /// The window that the user was seen in last.
   WindowHandle lastSeen_ = 0;
   bool firstTick_ = true;
+  /// What the last tick found in front; 0 when there has been a hot key or menu since.
+  WindowHandle tickedOver_ = 0;
   /// As the record was last validated.
   Cloaks cloaks_{};
   /// What was in front last and before that, followed or not.

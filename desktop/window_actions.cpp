@@ -77,28 +77,49 @@ ActivationResult WindowActions::ActivatePreviousWindow(WindowTriple& window) {
 
 ActivationResult WindowActions::TryActivation(WindowTriple& window, bool act) {
   const WindowHandle hwnd = window.handle;
-  if (hwnd == 0 || !windows_->IsWindow(hwnd)) return kWindowNotOpen;
-  if (!filter_->IsSelectableWindow(hwnd, false, false)) return kActivationFailed;
-  if (GetWindowClass(*windows_, hwnd) != window.className) return kActivationFailed;
+  SeenWindow found(*windows_, hwnd);
+  const ActivationResult kind = CheckKind(found);
+  if (kind != kActivationDone) return kind;
+  if (found.ClassName() != window.className) return kActivationFailed;
   const ActivationResult restored = act ? RestoreIconicOwner(hwnd) : kActivationDone;
   if (restored != kActivationDone) return restored;
-  if (!filter_->IsShown(hwnd)) {
-    // Windows hides a window that hangs behind the ghost that stands in for it.
-    return windows_->IsHungAppWindow(hwnd) ? kWindowNotAnswering : kWindowNotOpen;
-  }
-  // Read once: some titles are another one at each reading.
-  const std::string title = GetWindowTitle(*windows_, hwnd);
-  // One that has just gone keeps its title for the messages about it.
-  if (title.empty() && !windows_->IsWindow(hwnd)) return kWindowNotOpen;
-  RefreshRecordedTitle(window, title);
-  if (!TitleMatches(window.text, title, false)) {
+  SeenWindow live(*windows_, hwnd);
+  const ActivationResult shown = CheckShown(live);
+  if (shown != kActivationDone) return shown;
+  RefreshRecordedTitle(window, live.Title());
+  if (!TitleMatches(window.text, live.Title(), false)) {
     window.handle = 0;
     return kActivationFailed;
   }
-  if (!windows_->IsWindowEnabled(hwnd)) {
-    return windows_->IsWindow(hwnd) ? kWindowNotEnabled : kWindowNotOpen;
+  const ActivationResult enabled = CheckEnabled(hwnd);
+  return act && enabled == kActivationDone ? BringForward(hwnd) : enabled;
+}
+
+ActivationResult WindowActions::Examine(SeenWindow& window) {
+  ActivationResult result = CheckKind(window);
+  if (result == kActivationDone) result = CheckShown(window);
+  return result == kActivationDone ? CheckEnabled(window.Handle()) : result;
+}
+
+ActivationResult WindowActions::CheckKind(SeenWindow& window) {
+  if (window.Handle() == 0 || window.ClassName().empty()) return kWindowNotOpen;
+  return filter_->IsSelectableWindow(window, false, false) ? kActivationDone : kActivationFailed;
+}
+
+/// Reads the title.
+ActivationResult WindowActions::CheckShown(SeenWindow& window) {
+  const WindowHandle hwnd = window.Handle();
+  if (!filter_->IsShown(window)) {
+    // Windows hides a window that hangs behind the ghost that stands in for it.
+    return windows_->IsHungAppWindow(hwnd) ? kWindowNotAnswering : kWindowNotOpen;
   }
-  return act ? BringForward(hwnd) : kActivationDone;
+  // One that has just gone keeps its title for the messages about it.
+  return window.Title().empty() && !windows_->IsWindow(hwnd) ? kWindowNotOpen : kActivationDone;
+}
+
+ActivationResult WindowActions::CheckEnabled(WindowHandle hwnd) {
+  if (windows_->IsWindowEnabled(hwnd)) return kActivationDone;
+  return windows_->IsWindow(hwnd) ? kWindowNotEnabled : kWindowNotOpen;
 }
 
 /// Also done when there is no owner to restore.
@@ -114,7 +135,7 @@ ActivationResult WindowActions::RestoreIconicOwner(WindowHandle hwnd) {
 }
 
 /// The recorded windows are known by their handles, so a new title never disqualifies them.
-void WindowActions::RefreshRecordedTitle(WindowTriple& window, const std::string& title) {
+void WindowActions::RefreshRecordedTitle(WindowTriple& window, std::string_view title) {
   for (WindowTriple* const recorded : {&previous_->current, &previous_->alternate}) {
     if (recorded->handle != window.handle) continue;
     recorded->text = title;
@@ -123,8 +144,9 @@ void WindowActions::RefreshRecordedTitle(WindowTriple& window, const std::string
 }
 
 ActivationResult WindowActions::BringForward(WindowHandle hwnd) {
-  const KnownWindow before = Know(*windows_, previous_->InFront(*windows_));
+  KnownWindow before{previous_->InFront(*windows_), ""};
   if (windows_->IsIconic(hwnd)) {
+    before = Know(*windows_, before.handle);
     // Learnt only once it is in front, a denial would have taken the user from where they are.
     const RequestResult allowed = requests_->ChangeNothing(hwnd);
     if (allowed != RequestResult::kDone) return ResultOf(allowed);
@@ -135,7 +157,10 @@ ActivationResult WindowActions::BringForward(WindowHandle hwnd) {
     const RequestResult inFront = requests_->SetForegroundWindow(hwnd);
     if (inFront != RequestResult::kDone) return ResultOf(inFront);
   }
-  return windows_->IsIconic(hwnd) ? Unfold(hwnd, before) : kActivationDone;
+  if (!windows_->IsIconic(hwnd)) return kActivationDone;
+  // Minimized only this moment.
+  if (before.className.empty()) before = Know(*windows_, before.handle);
+  return Unfold(hwnd, before);
 }
 
 /// Restores a window for which `before` has left the foreground.

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "desktop/desktop_parts.h"
+#include "desktop/seen_window.h"
 #include "desktop/window_enumeration.h"
 #include "desktop/window_filter.h"
 #include "desktop/window_readers.h"
@@ -36,6 +37,10 @@ class WindowActions {
   /// longer fits. With `reportFailure` a failure is shown to the user.
   ActivationResult ActivateWindow(WindowTriple& window, bool reportFailure, bool act);
 
+  /// As ActivateWindow with `act` false, of a window that is known by its handle, whatever its
+  /// class and title.
+  ActivationResult Examine(SeenWindow& window);
+
   /// Brings the window of Tag 0 to the front, or the dialog that disables it and in which the user
   /// was.
   ActivationResult ActivatePreviousWindow(WindowTriple& window);
@@ -60,8 +65,11 @@ class WindowActions {
 
  private:
   ActivationResult TryActivation(WindowTriple& window, bool act);
+  ActivationResult CheckKind(SeenWindow& window);
+  ActivationResult CheckShown(SeenWindow& window);
+  ActivationResult CheckEnabled(WindowHandle hwnd);
   ActivationResult RestoreIconicOwner(WindowHandle hwnd);
-  void RefreshRecordedTitle(WindowTriple& window, const std::string& title);
+  void RefreshRecordedTitle(WindowTriple& window, std::string_view title);
   ActivationResult BringForward(WindowHandle hwnd);
   ActivationResult Unfold(WindowHandle hwnd, const KnownWindow& before);
   bool StaysMinimized(WindowHandle hwnd);

@@ -32,6 +32,10 @@ bool WindowFilter::IsShown(WindowHandle hwnd) const {
   return korvale::IsShown(*windows_, *virtualDesktops_, hwnd);
 }
 
+bool WindowFilter::IsShown(SeenWindow& window) const {
+  return korvale::IsShown(*windows_, *virtualDesktops_, window);
+}
+
 bool WindowFilter::IsSelectableWindow(WindowHandle hwnd, bool checkOptions,
                                       bool skipBasicChecks) const {
   SeenWindow window(*windows_, hwnd);

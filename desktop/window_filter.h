@@ -38,6 +38,7 @@ class WindowFilter {
   /// IsShown of window_visibility.h: the user can see the window, here or on another virtual
   /// desktop.
   bool IsShown(WindowHandle hwnd) const;
+  bool IsShown(SeenWindow& window) const;
 
  private:
   bool IsOrdinary(SeenWindow& window) const;

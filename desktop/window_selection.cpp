@@ -61,28 +61,28 @@ WindowSelection::WindowSelection(const DesktopParts& parts, WindowRequests& requ
 
 void WindowSelection::SelectTag(std::int16_t tag) {
   const TimerPause pause(*mainWindow_);
-  if (tag == 0) {
-    SelectPrevious();
-  } else if (const MenuItem* const entry = Entry(tag); entry != nullptr) {
-    SelectEntry(*entry);
-  }
-  tracker_->ValidatePreviousWindow();
+  const MenuItem* const entry = tag == 0 ? nullptr : Entry(tag);
+  const bool moved = tag == 0 ? SelectPrevious() : entry != nullptr && SelectEntry(*entry);
+  if (!moved) tracker_->ValidatePreviousWindow();
 }
 
-void WindowSelection::SelectPrevious() {
+bool WindowSelection::SelectPrevious() {
   // Only after its minimized owner is restored does a window prove to be no longer shown; then the
   // one worked in before it is next.
   for (WindowHandle tried = 0;;) {
     tracker_->UpdateRecord();
     WindowTriple window = previous_->OfTagZero(mainWindow_->FocusTag() == kGotFocus);
-    if (window.handle == 0 || window.handle == tried) return;
+    if (window.handle == 0 || window.handle == tried) return false;
     tried = window.handle;
     const ActivationResult result = actions_->ActivatePreviousWindow(window);
-    if (result == kWindowDenied) return actions_->ReportFailure();
+    if (result == kWindowDenied) {
+      actions_->ReportFailure();
+      return false;
+    }
     if (result == kActivationDone) {
       selected = tried;
-      tracker_->RecordSelection(window);
-      return;
+      tracker_->RecordSelection({window.handle, window.className});
+      return true;
     }
   }
 }
@@ -91,12 +91,12 @@ void WindowSelection::SelectAtStart() {
   tracker_->LookAtForeground();
   WindowTriple window = previous_->current;
   if (actions_->ActivatePreviousWindow(window) == kActivationDone) {
-    tracker_->RecordSelection(window);
+    tracker_->RecordSelection({window.handle, window.className});
   }
 }
 
 /// Windows may deliver messages during the activation, so the entry is looked up anew afterwards.
-void WindowSelection::SelectEntry(const MenuItem& entry) {
+bool WindowSelection::SelectEntry(const MenuItem& entry) {
   const int tag = entry.index;
   const WindowHandle front = tracker_->WindowInFront();
   // After a change of virtual desktops, what is in front need not be on the screen.
@@ -104,16 +104,20 @@ void WindowSelection::SelectEntry(const MenuItem& entry) {
   const WindowHandle foreground = unseen ? 0 : front;
   if (TagHandle(entry) == foreground && foreground != 0) {
     selected = foreground;
-    return RestoreInFront(foreground);
+    RestoreInFront(foreground);
+    return false;
   }
   const ActivationResult result = ActivateOrSearch(tag);
   const MenuItem* const selectedEntry = Entry(tag);
-  if (selectedEntry == nullptr) return;
-  if (result != kActivationDone) return TellFailure(*selectedEntry, result);
-  if (TagHandle(*selectedEntry) == foreground) return;
+  if (selectedEntry == nullptr) return false;
+  if (result != kActivationDone) {
+    TellFailure(*selectedEntry, result);
+    return false;
+  }
+  if (TagHandle(*selectedEntry) == foreground) return false;
   selected = TagHandle(*selectedEntry);
-  tracker_->RecordSelection(
-      {selected, GetWindowTitle(*windows_, selected), GetWindowClass(*windows_, selected)});
+  tracker_->RecordSelection({selected, TagClass(*tags_, *selectedEntry)});
+  return true;
 }
 
 void WindowSelection::RestoreInFront(WindowHandle hwnd) {

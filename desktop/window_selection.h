@@ -39,9 +39,10 @@ class WindowSelection {
   WindowHandle selected = 0;
 
  private:
-  void SelectPrevious();
+  /// Both give true when the record has moved to the selected window.
+  bool SelectPrevious();
+  bool SelectEntry(const MenuItem& entry);
   MenuItem* Entry(int tag) { return tags_->mnuWindowParentList.Find(tag); }
-  void SelectEntry(const MenuItem& entry);
   void RestoreInFront(WindowHandle hwnd);
   WindowTriple WindowOf(const MenuItem& entry) const;
   ActivationResult Activate(int tag);

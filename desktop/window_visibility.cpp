@@ -63,7 +63,13 @@ bool IsCloakedWindowPutAway(WindowQueries& windows, VirtualDesktops& desktops, W
 }
 
 bool IsShown(WindowQueries& windows, VirtualDesktops& desktops, WindowHandle hwnd) {
-  return windows.IsWindowVisible(hwnd) && !IsPutAway(windows, desktops, hwnd);
+  SeenWindow window(windows, hwnd);
+  return IsShown(windows, desktops, window);
+}
+
+bool IsShown(WindowQueries& windows, VirtualDesktops& desktops, SeenWindow& window) {
+  if (!window.IsVisible()) return false;
+  return window.Cloak() == 0 || !IsCloakedWindowPutAway(windows, desktops, window.Handle());
 }
 
 }  // namespace korvale

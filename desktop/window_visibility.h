@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/seen_window.h"
 #include "platform/virtual_desktops.h"
 #include "platform/window_api.h"
 
@@ -28,5 +29,6 @@ bool IsCloakedWindowPutAway(WindowQueries& windows, VirtualDesktops& desktops, W
 
 /// Visible (IsWindowVisible) here or on another virtual desktop.
 bool IsShown(WindowQueries& windows, VirtualDesktops& desktops, WindowHandle hwnd);
+bool IsShown(WindowQueries& windows, VirtualDesktops& desktops, SeenWindow& window);
 
 }  // namespace korvale

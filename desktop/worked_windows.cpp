@@ -1,7 +1,7 @@
 #include "desktop/worked_windows.h"
 
 #include <algorithm>
-#include <cstddef>
+#include <utility>
 
 namespace korvale {
 namespace {
@@ -11,24 +11,31 @@ constexpr std::size_t kMostWindows = 64;
 
 }  // namespace
 
-void WorkedWindows::PutFirst(const WindowTriple& window) {
-  const WindowTriple first = window;
-  Remove(first.handle);
-  windows_.insert(windows_.begin(), first);
+std::size_t WorkedWindows::PlaceOf(WindowHandle hwnd) const {
+  const auto found = std::ranges::find(windows_, hwnd, &KnownWindow::handle);
+  return static_cast<std::size_t>(found - windows_.begin());
+}
+
+bool WorkedWindows::Holds(WindowHandle hwnd) const { return PlaceOf(hwnd) < windows_.size(); }
+
+void WorkedWindows::PutFirst(KnownWindow window) {
+  Remove(window.handle);
+  windows_.insert(windows_.begin(), std::move(window));
   if (windows_.size() > kMostWindows) windows_.pop_back();
 }
 
 void WorkedWindows::Remove(WindowHandle hwnd) {
-  std::erase_if(windows_, [&](const WindowTriple& window) { return window.handle == hwnd; });
+  std::erase_if(windows_, [&](const KnownWindow& window) { return window.handle == hwnd; });
 }
 
-void WorkedWindows::RemoveIf(const Test& test) { std::erase_if(windows_, test); }
-
-std::optional<WindowTriple> WorkedWindows::First(const Test& test) const {
-  const std::vector<WindowTriple> windows = windows_;
-  const auto found = std::ranges::find_if(windows, test);
-  if (found == windows.end()) return std::nullopt;
-  return *found;
+void WorkedWindows::ForEach(const Visit& visit) const {
+  for (std::size_t next = 0; next < windows_.size();) {
+    const KnownWindow window = windows_[next];
+    if (!visit(window)) return;
+    // Goes on behind it, wherever it stands now.
+    const std::size_t place = PlaceOf(window.handle);
+    if (place < windows_.size()) next = std::max(next, place + 1);
+  }
 }
 
 }  // namespace korvale

@@ -1,10 +1,10 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
-#include <optional>
 #include <vector>
 
-#include "desktop/previous_window.h"
+#include "desktop/window_readers.h"
 #include "platform/types.h"
 
 namespace korvale {
@@ -12,17 +12,21 @@ namespace korvale {
 /// The windows that the user worked in, the latest first. None is in it twice.
 class WorkedWindows {
  public:
-  using Test = std::function<bool(const WindowTriple&)>;
+  using Visit = std::function<bool(const KnownWindow&)>;
 
   /// Puts a window in front of all others.
-  void PutFirst(const WindowTriple& window);
+  void PutFirst(KnownWindow window);
   void Remove(WindowHandle hwnd);
-  void RemoveIf(const Test& test);
-  /// The latest one that passes. The test may change what is in here.
-  std::optional<WindowTriple> First(const Test& test) const;
+  bool Holds(WindowHandle hwnd) const;
+  /// The latest one; 0 when there is none.
+  WindowHandle Latest() const { return windows_.empty() ? 0 : windows_.front().handle; }
+  /// Hands them to `visit`, which may change what is in here, until it returns false.
+  void ForEach(const Visit& visit) const;
 
  private:
-  std::vector<WindowTriple> windows_;
+  std::size_t PlaceOf(WindowHandle hwnd) const;
+
+  std::vector<KnownWindow> windows_;
 };
 
 }  // namespace korvale

@@ -37,9 +37,7 @@ WindowMenu::WindowMenu(Desktop& desktop, Form& form, bool& alwaysOnTop,
       showAddWindow_(std::move(showAddWindow)) {}
 
 void WindowMenu::mnuWindow_Click() {
-  desktop_->tracker.tmrWindow_Timer();
-  desktop_->tracker.ValidatePreviousWindow();
-  desktop_->tracker.udmRefreshAlwaysOnTopMenuChecked();
+  desktop_->tracker.PrepareWindowMenu();
 
   MenuItem& addThis = form_->Menu("mnuWindowAddToList", kThisWindow);
   addThis.caption = Trim(addThis.caption);

@@ -51,8 +51,9 @@ std::string HotKeyDispatch::Process(const std::string& name, bool doAction, bool
                                     const std::string& suppliedText) {
   desktop_->mainWindow.udmTimersEnabled(false);
   const std::string upperName = UpperCase(name);
-  WindowTriple chosen = ChooseWindow(suppliedText);
-  if (doAction && !IsHotKeyName(upperName) && !IdentifyForeground(chosen)) {
+  const bool unknown = doAction && !IsHotKeyName(upperName);
+  WindowTriple chosen = unknown || returnWindow ? ChooseWindow(suppliedText) : WindowTriple{};
+  if (unknown && !IdentifyForeground(chosen)) {
     ShowNotRecognized(chosen.text);
     desktop_->mainWindow.udmTimersEnabled(true);
     desktop_->actions.ActivateWindow(chosen, false, true);
@@ -94,15 +95,10 @@ WindowTriple HotKeyDispatch::ChooseWindow(const std::string& suppliedText) {
 bool HotKeyDispatch::IdentifyForeground(WindowTriple& chosen) {
   const WindowHandle foreground = desktop_->windows.GetForegroundWindow();
   if (foreground == chosen.handle) return true;
-  chosen = {foreground, GetWindowTitle(desktop_->windows, foreground),
-            GetWindowClass(desktop_->windows, foreground)};
-  if (!desktop_->filter.IsSelectableWindow(foreground, false, false) ||
-      !desktop_->tracker.AcceptForeground(foreground, chosen.text)) {
-    return false;
-  }
-  desktop_->tracker.Follow(chosen);
-  desktop_->tracker.ValidatePreviousWindow();
-  return true;
+  SeenWindow front(desktop_->windows, foreground);
+  chosen = {foreground, std::string(front.Title()), std::string(front.ClassName())};
+  return desktop_->filter.IsSelectableWindow(front, false, false) &&
+         desktop_->tracker.FollowIfAccepted(front);
 }
 
 void HotKeyDispatch::ShowNotRecognized(const std::string& title) {
@@ -138,13 +134,12 @@ void HotKeyDispatch::MinimizeOrMaximize(const std::string& name) {
   const WindowTriple next = desktop_->actions.MinimizeOrMaximizeForeground(name);
   // The user is in the window that Windows itself brought forward, even if only for a moment.
   if (next.handle == 0) return desktop_->tracker.LookAtForeground();
-  desktop_->tracker.RecordSelection(next);
-  desktop_->tracker.ValidatePreviousWindow();
+  desktop_->tracker.RecordSelection({next.handle, next.className});
 }
 
 void HotKeyDispatch::SelectTag(int tag) {
   // The user may have changed windows since the last tick.
-  desktop_->tracker.LookAtForeground();
+  desktop_->tracker.FollowForeground();
   const std::int16_t index = ToInt16(tag);
   if (desktop_->tagPasses.TagListPass(TagListMode::kExists, index) == -1 ||
       !HasTagCaption(desktop_->tags, index)) {

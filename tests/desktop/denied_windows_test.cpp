@@ -55,7 +55,7 @@ TEST_F(DeniedWindows, TheForegroundGoesBackToTheWindowThatWasOnItsWay) {
   const WindowHandle stubborn = desktop.Open("Stubborn", {.iconic = true, .staysIconic = true});
   desktop.DelayForeground(true);
   EXPECT_EQ(Activate(Triple(alpha)), kActivationDone);
-  tracker.RecordSelection(Triple(alpha));
+  tracker.RecordSelection(Know(desktop, alpha));
   EXPECT_EQ(Activate(Triple(stubborn, "Stubborn")), kWindowDenied);
   desktop.DelayForeground(false);
   EXPECT_EQ(desktop.ForegroundTitle(), "Alpha");

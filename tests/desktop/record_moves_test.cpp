@@ -35,10 +35,10 @@ class RecordMovedBySelection : public ForegroundTracking {
   /// What a selection does: the window comes to the front, then the record moves.
   void Select(WindowHandle hwnd) {
     desktop.UserActivates(hwnd);
-    tracker.RecordSelection(Triple(hwnd));
+    tracker.RecordSelection(Know(desktop, hwnd));
   }
   /// The same while Windows takes its time to bring the window to the front.
-  void SelectLate(WindowHandle hwnd) { tracker.RecordSelection(Triple(hwnd)); }
+  void SelectLate(WindowHandle hwnd) { tracker.RecordSelection(Know(desktop, hwnd)); }
 };
 
 class RecordMovedFromAlpha : public RecordMovedBySelection {

@@ -1,0 +1,132 @@
+#include <algorithm>
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "tests/program/window_menu_test.h"
+
+namespace korvale {
+namespace {
+
+/// Calls that read or write the settings.
+bool IsOfTheStore(std::string_view call) {
+  return call.starts_with("GetAllSettings") || call.starts_with("SaveSetting") ||
+         call.starts_with("DeleteSection") || call.starts_with("GetVersionExA");
+}
+
+/// What Windows is asked and told, of the windows and their forms, by what the user does most. The
+/// user has worked in Gamma and then in Beta; Alpha is Tag 1.
+class CallCountsTest : public WindowMenuTest {
+ protected:
+  CallCountsTest() {
+    korvale.TagPrevious();
+    beta = Open("Beta");
+    WorkIn(gamma);
+    WorkIn(beta);
+  }
+
+  template <typename Action>
+  std::vector<std::string> CallsOf(Action action) {
+    log.Clear();
+    log.IncludeReads(true);
+    action();
+    log.IncludeReads(false);
+    std::vector<std::string> calls = log.Take();
+    std::erase_if(calls, IsOfTheStore);
+    return calls;
+  }
+
+  std::vector<std::string> CallsOfKey(std::uint32_t modifiers, std::uint32_t key) {
+    return CallsOf([&] { hotKeys.Press(modifiers, key); });
+  }
+  std::vector<std::string> CallsOfTag(int tag) {
+    return CallsOfKey(win32::kModAlt, static_cast<std::uint32_t>('0' + tag));
+  }
+  std::vector<std::string> CallsOfATick() {
+    return CallsOf([&] { clock.AdvanceToNextTick(); });
+  }
+
+  /// How many of the calls come before the first that begins so.
+  static std::size_t Before(const std::vector<std::string>& calls, std::string_view prefix) {
+    const auto found = std::ranges::find_if(
+        calls, [&](const std::string& call) { return call.starts_with(prefix); });
+    return static_cast<std::size_t>(found - calls.begin());
+  }
+
+  const WindowHandle gamma = Open("Gamma");
+  const WindowHandle alpha = Open("Alpha");
+  KorvaleCopy& korvale = StartedAfter(alpha);
+  WindowHandle beta = 0;
+};
+
+TEST_F(CallCountsTest, ALiveTagIsInFrontAfterWhatDecides) {
+  const std::vector<std::string> calls = CallsOfTag(1);
+  ASSERT_EQ(Front(), "Alpha");
+  EXPECT_LE(Before(calls, "SetForegroundWindow"), 11U) << testing::PrintToString(calls);
+  EXPECT_LE(calls.size(), 34U) << testing::PrintToString(calls);
+}
+
+TEST_F(CallCountsTest, TagZeroAsksForTheWindowBeforeItsWayThere) {
+  const std::vector<std::string> calls = CallsOfTag(0);
+  ASSERT_EQ(Front(), "Gamma");
+  EXPECT_LE(Before(calls, "SetForegroundWindow"), 22U) << testing::PrintToString(calls);
+  EXPECT_LE(calls.size(), 46U) << testing::PrintToString(calls);
+}
+
+TEST_F(CallCountsTest, AQuietTickAsksWhatIsInFrontAndWhetherTheAlternateIsThere) {
+  EXPECT_EQ(CallsOfATick(),
+            (std::vector<std::string>{"GetForegroundWindow()", "GetClassNameA(Gamma, 255)"}));
+}
+
+TEST_F(CallCountsTest, ATitleThatChangesIsNothingToATick) {
+  desktop.CountReadings(beta);
+  EXPECT_EQ(CallsOfATick().size(), 2U);
+  EXPECT_EQ(korvale.TargetWindow(), "Beta");
+}
+
+TEST_F(CallCountsTest, AQuietTickInTheMainWindowLooksAtTheWindowThatItShows) {
+  WorkIn(korvale.Handle());
+  EXPECT_EQ(CallsOfATick(),
+            (std::vector<std::string>{"GetForegroundWindow()", "GetClassNameA(Gamma, 255)",
+                                      "GetClassNameA(Beta, 255)", "DwmGetWindowAttribute(Beta)"}));
+}
+
+TEST_F(CallCountsTest, ATickOverTheBareDesktopReadsItsClass) {
+  WorkIn(desktop.FindWindowA("Program Manager"));
+  EXPECT_LE(CallsOfATick().size(), 6U);
+}
+
+TEST_F(CallCountsTest, ATickOverAWindowThatIsNotFollowedReadsItOnce) {
+  WorkIn(desktop.Open("Tool", {.exStyle = win32::kWsExToolWindow}));
+  EXPECT_LE(CallsOfATick().size(), 13U);
+}
+
+TEST_F(CallCountsTest, ATickReadsAWindowThatHasComeToTheFrontTwice) {
+  desktop.UserActivates(gamma);
+  const std::vector<std::string> calls = CallsOfATick();
+  EXPECT_LE(calls.size(), 28U) << testing::PrintToString(calls);
+}
+
+TEST_F(CallCountsTest, TheWindowMenuReadsEachWindowOfTheRecordOnce) {
+  const std::vector<std::string> calls =
+      CallsOf([&] { korvale.Form().OnMenuOpened(korvale.Form().Menu("mnuWindow")); });
+  EXPECT_LE(calls.size(), 15U) << testing::PrintToString(calls);
+}
+
+TEST_F(CallCountsTest, AltDownMakesSureOfTheRecordFirst) {
+  const std::vector<std::string> calls = CallsOfKey(win32::kModAlt, win32::kVkDown);
+  ASSERT_TRUE(desktop.IsIconic(beta));
+  EXPECT_LE(Before(calls, "ShowWindowAsync"), 15U) << testing::PrintToString(calls);
+  EXPECT_LE(calls.size(), 54U) << testing::PrintToString(calls);
+}
+
+TEST_F(CallCountsTest, TheTimerIsStartedAnewOnceByAPress) {
+  const std::vector<std::string> calls = CallsOfTag(1);
+  EXPECT_EQ(std::ranges::count_if(
+                calls, [](const std::string& call) { return call.starts_with("SetTimer"); }),
+            1);
+}
+
+}  // namespace
+}  // namespace korvale

@@ -1,0 +1,70 @@
+#include <atomic>
+#include <cstddef>
+
+#include "tests/program/korvale_world.h"
+
+/// Only there in a build with a sanitizer.
+extern "C" [[gnu::weak]] int __sanitizer_install_malloc_and_free_hooks(
+    void (*malloc_hook)(const volatile void*, std::size_t),
+    void (*free_hook)(const volatile void*));
+
+namespace korvale {
+namespace {
+
+std::atomic<int> allocations = 0;
+
+void NoteAllocation(const volatile void* /*block*/, std::size_t /*size*/) { ++allocations; }
+void NoteRelease(const volatile void* /*block*/) {}
+
+/// The hooks cannot be taken away again.
+bool CountsAllocations() {
+  static const bool counts =
+      __sanitizer_install_malloc_and_free_hooks != nullptr &&
+      __sanitizer_install_malloc_and_free_hooks(NoteAllocation, NoteRelease) != 0;
+  return counts;
+}
+
+class TickAllocationsTest : public KorvaleWorld {
+ protected:
+  void SetUp() override {
+    if (!CountsAllocations()) GTEST_SKIP() << "this build cannot count allocations";
+    WorkIn(alpha);
+    WorkIn(beta);
+  }
+
+  void ExpectNoneInATick() {
+    const int timer = korvale.Id(korvale.Form(), "tmrWindow");
+    const int before = allocations;
+    for (int tick = 0; tick < 10; ++tick) korvale.Form().OnTimer(timer);
+    EXPECT_EQ(allocations - before, 0);
+  }
+
+  const WindowHandle alpha = Open("Alpha");
+  const WindowHandle beta = Open("Beta");
+  KorvaleCopy& korvale = StartedCopy();
+};
+
+TEST_F(TickAllocationsTest, ThereAreNoneWhenNothingHasChanged) {
+  ExpectNoneInATick();
+  const int before = allocations;
+  const std::vector<int> block(1000);
+  EXPECT_GT(allocations - before, 0) << "the count works";
+}
+
+TEST_F(TickAllocationsTest, ThereAreNoneWhileATitleChanges) {
+  desktop.CountReadings(beta);
+  ExpectNoneInATick();
+}
+
+TEST_F(TickAllocationsTest, ThereAreNoneInTheMainWindow) {
+  WorkIn(korvale.Handle());
+  ExpectNoneInATick();
+}
+
+TEST_F(TickAllocationsTest, ThereAreNoneOverTheBareDesktop) {
+  WorkIn(desktop.FindWindowA("Program Manager"));
+  ExpectNoneInATick();
+}
+
+}  // namespace
+}  // namespace korvale
