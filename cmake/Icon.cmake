@@ -10,6 +10,7 @@ if(KORVALE_RSVG AND KORVALE_ICOTOOL)
   set(drawing ${PROJECT_SOURCE_DIR}/resources/korvale.svg)
   set(KORVALE_ICON ${PROJECT_BINARY_DIR}/korvale.ico)
   set(pictures)
+  set(entries)
   foreach(size ${icon_sizes})
     set(picture ${PROJECT_BINARY_DIR}/icon_${size}.png)
     add_custom_command(
@@ -17,13 +18,17 @@ if(KORVALE_RSVG AND KORVALE_ICOTOOL)
       COMMAND ${KORVALE_RSVG} -w ${size} -h ${size} -o ${picture} ${drawing}
       DEPENDS ${drawing})
     list(APPEND pictures ${picture})
+    # Since Vista, Windows reads compressed pictures of any size. Those that the usual screen shows
+    # all the time need no unpacking.
+    if(size LESS_EQUAL 32)
+      list(APPEND entries ${picture})
+    else()
+      list(APPEND entries --raw=${picture})
+    endif()
   endforeach()
-  # The two large pictures stay compressed inside the icon.
-  set(small ${pictures})
-  list(POP_BACK small huge large)
   add_custom_command(
     OUTPUT ${KORVALE_ICON}
-    COMMAND ${KORVALE_ICOTOOL} -c -o ${KORVALE_ICON} ${small} --raw=${large} --raw=${huge}
+    COMMAND ${KORVALE_ICOTOOL} -c -o ${KORVALE_ICON} ${entries}
     DEPENDS ${pictures})
 
   # The hot spot is the middle of the circle.

@@ -2,6 +2,10 @@
 
 - Windows loads the imported libraries before the program can say where from. It takes only those
   that it knows from its own folder; any other could lie beside the program in a download folder.
+  What a start does not need is loaded when it is first used (SystemLibrary).
+- It has nothing of the parts of the standard library that are large and of no use here. Only a
+  program that is not stripped tells.
+- Stripped it is small.
 - The program says that it is made for Windows 8 or later, and takes part in its protections.
 - It has one manifest, which names what BY_MANIFEST needs.
 """
@@ -11,13 +15,17 @@ import re
 import subprocess
 import sys
 
-# The KnownDLLs of Windows 10 and 11, as far as they are of use here.
-KNOWN = set(
-    "advapi32 combase comdlg32 gdi32 imm32 kernel32 msvcrt ole32 oleaut32 rpcrt4 sechost shcore "
-    "shell32 shlwapi user32 ws2_32".split()
-)
+# Those KnownDLLs of Windows 10 and 11 that every start needs.
+KNOWN = set("advapi32 gdi32 kernel32 msvcrt user32".split())
 # Not one of them, but with its assembly in the manifest Windows takes it from there.
 BY_MANIFEST = {"comctl32": "Microsoft.Windows.Common-Controls"}
+# How their names begin after the compiler's mangling.
+UNUSED = {
+    "iostreams": r"_ZNS[iod]|_Z\w*(St8ios_base|St9basic_ios|\d\dbasic_\w*stream)",
+    "locales": r"_Z\w*St6locale",
+    "filesystem": r"_Z\w*St10filesystem",
+}
+LARGEST = 480 * 1024  # bytes
 PROTECTIONS = ("DYNAMIC_BASE", "HIGH_ENTROPY_VA", "NX_COMPAT")
 OLDEST = (6, 2)
 # The entry of this type among the types of resources, with one name in one language.
@@ -29,6 +37,18 @@ MANIFEST = re.compile(
 def imported(dump):
     for name in re.findall(r"DLL Name: (\S+)", dump):
         yield name, name.lower().removesuffix(".dll")
+
+
+def unused(symbols):
+    for part, names in UNUSED.items():
+        found = re.search(rf"\b(?:{names})\w*", symbols)
+        if found:
+            yield f"has {part}: {found[0]}"
+
+
+def too_large(size):
+    if size > LARGEST:
+        yield f"has {size} bytes, the aim is {LARGEST}"
 
 
 def problems(dump, manifest):
@@ -58,14 +78,24 @@ def problems(dump, manifest):
         yield "not exactly one manifest"
 
 
+def printed(tool, *arguments):
+    return subprocess.run(
+        [f"x86_64-w64-mingw32-{tool}", *arguments], capture_output=True, text=True, check=True
+    ).stdout
+
+
 def main():
     program = sys.argv[1]
-    dump = subprocess.run(
-        ["x86_64-w64-mingw32-objdump", "-p", program], capture_output=True, text=True, check=True
-    ).stdout
-    content = pathlib.Path(program).read_bytes().decode("latin-1")
-    manifest = "".join(re.findall(r"<assembly\b.*?</assembly>", content, re.S))
-    found = list(problems(dump, manifest))
+    dump = printed("objdump", "-p", program)
+    symbols = printed("nm", program)
+    content = pathlib.Path(program).read_bytes()
+    manifest = "".join(
+        re.findall(r"<assembly\b.*?</assembly>", content.decode("latin-1"), re.S)
+    )
+    found = [*problems(dump, manifest), *unused(symbols)]
+    if not symbols:
+        found += too_large(len(content))
+        print(f"{program}: {len(content)} bytes, the aim is at most {LARGEST}")
     for problem in found:
         print(f"{program}: {problem}")
     return 1 if found else 0

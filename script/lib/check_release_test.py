@@ -2,7 +2,7 @@
 
 import unittest
 
-from check_release import problems
+from check_release import LARGEST, problems, too_large, unused
 
 MANIFEST = '<assembly><assemblyIdentity name="Microsoft.Windows.Common-Controls"/></assembly>'
 ONE_MANIFEST = """
@@ -35,6 +35,28 @@ class CheckRelease(unittest.TestCase):
 
     def test_finds_a_library_that_could_lie_beside_the_program(self):
         self.assertEqual(self.found("KERNEL32", "VERSION"), ["imports VERSION.dll"])
+
+    def test_finds_a_library_that_a_start_does_not_need(self):
+        for name in ("ole32", "SHELL32", "comdlg32"):
+            self.assertEqual(self.found("KERNEL32", name), [f"imports {name}.dll"])
+
+    def test_finds_parts_of_the_standard_library_that_are_of_no_use(self):
+        good = "0000000140001000 T _ZN7korvale7frmMainC1Ev\n0000000140002000 T _ZNSsC1ERKSs\n"
+        self.assertEqual(list(unused(good)), [])
+        for part, name in (
+            ("iostreams", "_ZNSt8ios_base4InitC1Ev"),
+            ("iostreams", "_ZNSolsEi"),
+            ("iostreams", "_ZNSt7__cxx1119basic_ostringstreamIcSt11char_traitsIcESaIcEEC1Ev"),
+            ("iostreams", "_ZSt16__ostream_insertIcSt11char_traitsIcEERSt13basic_ostreamIT_T0_ES6_PKS3_l"),
+            ("locales", "_ZNSt6locale5facetD2Ev"),
+            ("filesystem", "_ZNSt10filesystem7__cxx114path14_M_split_cmptsEv"),
+        ):
+            found = list(unused(f"{good}0000000140003000 T {name}\n"))
+            self.assertEqual(found, [f"has {part}: {name}"])
+
+    def test_finds_a_program_that_has_grown(self):
+        self.assertEqual(list(too_large(LARGEST)), [])
+        self.assertEqual(list(too_large(491521)), ["has 491521 bytes, the aim is 491520"])
 
     def test_finds_common_controls_that_the_manifest_does_not_name(self):
         expected = ["imports COMCTL32.dll without its assembly"]
