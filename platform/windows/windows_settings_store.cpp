@@ -15,17 +15,16 @@ std::wstring SectionPath(const std::string& appName, const std::string& section)
   return kBranch + ToUtf16(appName) + L'\\' + ToUtf16(section);
 }
 
-UniqueKey OpenSection(const std::string& appName, const std::string& section, REGSAM access) {
+UniqueKey OpenKey(const std::wstring& path, REGSAM access) {
   UniqueKey key;
-  const std::wstring path = SectionPath(appName, section);
   if (RegOpenKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, access, key.Receive()) != ERROR_SUCCESS) {
     key.Release();
   }
   return key;
 }
 
-/// The text of a value; a value may be stored with or without its closing NUL.
-std::optional<std::string> ReadText(HKEY key, const wchar_t* name) {
+/// Reads the text of a value; a value may be stored with or without its closing NUL.
+LSTATUS ReadText(HKEY key, const wchar_t* name, std::optional<std::string>& result) {
   for (std::size_t units = 256;; units *= 2) {
     std::wstring text(units, L'\0');
     DWORD type = 0;
@@ -33,27 +32,40 @@ std::optional<std::string> ReadText(HKEY key, const wchar_t* name) {
     const LSTATUS status =
         RegQueryValueExW(key, name, nullptr, &type, reinterpret_cast<BYTE*>(text.data()), &size);
     if (status == ERROR_MORE_DATA) continue;
-    if (status != ERROR_SUCCESS || type != REG_SZ) return std::nullopt;
+    if (status != ERROR_SUCCESS || type != REG_SZ) return status;
     text.resize(size / sizeof(wchar_t));
     while (!text.empty() && text.back() == L'\0') text.pop_back();
-    return ToUtf8(text);
+    result = ToUtf8(text);
+    return status;
   }
 }
 
 }  // namespace
 
+bool WindowsSettingsStore::Open(const std::wstring& path) {
+  path_ = path;
+  section_ = OpenKey(path, KEY_QUERY_VALUE);
+  return static_cast<bool>(section_);
+}
+
 std::optional<std::string> WindowsSettingsStore::GetSetting(const std::string& appName,
                                                             const std::string& section,
                                                             const std::string& key) {
-  const UniqueKey branch = OpenSection(appName, section, KEY_QUERY_VALUE);
-  if (!branch) return std::nullopt;
-  return ReadText(branch.Get(), ToUtf16(key).c_str());
+  const std::wstring path = SectionPath(appName, section);
+  const std::wstring name = ToUtf16(key);
+  std::optional<std::string> text;
+  if ((path != path_ || !section_) && !Open(path)) return text;
+  // Somebody may have deleted the section since, and made it again.
+  if (ReadText(section_.Get(), name.c_str(), text) == ERROR_KEY_DELETED && Open(path)) {
+    ReadText(section_.Get(), name.c_str(), text);
+  }
+  return text;
 }
 
 SettingsStore::Pairs WindowsSettingsStore::GetAllSettings(const std::string& appName,
                                                           const std::string& section) {
   Pairs pairs;
-  const UniqueKey branch = OpenSection(appName, section, KEY_QUERY_VALUE);
+  const UniqueKey branch = OpenKey(SectionPath(appName, section), KEY_QUERY_VALUE);
   if (!branch) return pairs;
   std::wstring name(kLongestValueName, L'\0');
   for (DWORD index = 0;; ++index) {
@@ -62,8 +74,9 @@ SettingsStore::Pairs WindowsSettingsStore::GetAllSettings(const std::string& app
                       nullptr) != ERROR_SUCCESS) {
       return pairs;
     }
-    pairs.emplace_back(ToUtf8({name.data(), length}),
-                       ReadText(branch.Get(), name.c_str()).value_or(""));
+    std::optional<std::string> text;
+    ReadText(branch.Get(), name.c_str(), text);
+    pairs.emplace_back(ToUtf8({name.data(), length}), text.value_or(""));
   }
 }
 
@@ -84,7 +97,7 @@ bool WindowsSettingsStore::SaveSetting(const std::string& appName, const std::st
 
 bool WindowsSettingsStore::DeleteSetting(const std::string& appName, const std::string& section,
                                          const std::string& key) {
-  const UniqueKey branch = OpenSection(appName, section, KEY_SET_VALUE);
+  const UniqueKey branch = OpenKey(SectionPath(appName, section), KEY_SET_VALUE);
   return branch && RegDeleteValueW(branch.Get(), ToUtf16(key).c_str()) == ERROR_SUCCESS;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/settings_store.h"
+#include "platform/windows/handles.h"
 
 namespace korvale {
 
@@ -15,6 +16,14 @@ class WindowsSettingsStore final : public SettingsStore {
   bool DeleteSetting(const std::string& appName, const std::string& section,
                      const std::string& key) override;
   bool DeleteSection(const std::string& appName, const std::string& section) override;
+
+ private:
+  /// Opens the section for reading; false when there is none.
+  bool Open(const std::wstring& path);
+
+  // The section that was read last: a program reads all settings of one before those of another.
+  std::wstring path_;
+  UniqueKey section_;
 };
 
 }  // namespace korvale

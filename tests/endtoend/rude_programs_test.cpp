@@ -258,6 +258,7 @@ TEST_F(RudePrograms, LeaveTheColorDialogToTheUser) {
 
 TEST_F(RudePrograms, DoNotSwitchToolTipsOff) {
   Start();
+  ASSERT_TRUE(korvale_->ShowsToolTip(MainWindow(main()).ClassBox(), " Class of Target Window "));
   for (const Window window : AllWindows()) {
     if (window.ClassName() != kToolTips) continue;
     PostMessageW(window.handle(), TTM_ACTIVATE, FALSE, 0);

@@ -40,7 +40,6 @@ void ShowValue(HWND button, const ControlState& control) {
 bool FormControls::Create(HWND form, const std::wstring& pageClass) {
   formWindow_ = form;
   MakeFont();
-  toolTips_.Create(form, instance_);
   return std::ranges::all_of(
       form_->controls, [&](const ControlState& control) { return CreateOne(control, pageClass); });
 }
@@ -183,6 +182,17 @@ void FormControls::ApplyVisible(const ControlState& control) {
 
 void FormControls::ApplyTip(const ControlState& control) {
   toolTips_.Show(Window(control.id), control.toolTip, form_->IsVisible(control));
+}
+
+void FormControls::Relay(const MSG& message) {
+  if (message.message < WM_MOUSEFIRST || message.message > WM_MOUSELAST) return;
+  if (!toolTips_.Created()) {
+    toolTips_.Create(formWindow_, instance_);
+    for (const ControlState& control : form_->controls) {
+      if (Window(control.id) != nullptr) ApplyTip(control);
+    }
+  }
+  toolTips_.Relay(message);
 }
 
 void FormControls::ApplyIcon(const ControlState& control) {

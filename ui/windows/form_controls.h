@@ -44,7 +44,8 @@ class FormControls {
   bool IsListDropped(int control) const;
   /// True while Update runs: events raised then are not the user's.
   bool Updating() const { return updating_; }
-  ToolTips& Tips() { return toolTips_; }
+  /// Sees each message of the form before it is dispatched, for the tool tips.
+  void Relay(const MSG& message);
 
  private:
   UINT Dpi() const { return scale_->Dpi(); }

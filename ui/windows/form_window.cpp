@@ -132,7 +132,7 @@ void FormWindow::RequestClose(CloseReason reason) {
 }
 
 bool FormWindow::Filter(const MSG& message) {
-  controls_.Tips().Relay(message);
+  controls_.Relay(message);
   return keys_->Filter(message);
 }
 

@@ -37,6 +37,7 @@ void ToolTips::Create(HWND form, HINSTANCE instance) {
 }
 
 void ToolTips::Rescale() {
+  if (!Created()) return;
   UniqueFont font = scale_->MakeToolTipFont();
   Send(WM_SETFONT, reinterpret_cast<WPARAM>(font.Get()), FALSE);
   font_ = std::move(font);
@@ -66,6 +67,7 @@ void ToolTips::Send(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 void ToolTips::Show(HWND control, const std::string& text, bool shown) {
+  if (!Created()) return;
   const HWND parent = GetParent(control);
   const HWND field = TextField(control);
   const auto controlId = reinterpret_cast<UINT_PTR>(control);
@@ -85,7 +87,6 @@ void ToolTips::Show(HWND control, const std::string& text, bool shown) {
 }
 
 void ToolTips::Relay(const MSG& message) {
-  if (message.message < WM_MOUSEFIRST || message.message > WM_MOUSELAST) return;
   MSG copy = message;
   Send(TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&copy));
 }

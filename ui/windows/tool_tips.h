@@ -9,7 +9,8 @@
 
 namespace korvale {
 
-/// The tool tips of a form.
+/// The tool tips of a form. Their window is made when the mouse first comes to the form, since most
+/// forms are shown and used by keys.
 class ToolTips {
  public:
   /// `scale` is the live scale of the form.
@@ -17,6 +18,8 @@ class ToolTips {
   ToolTips(const ToolTips&) = delete;
   ToolTips& operator=(const ToolTips&) = delete;
 
+  /// They have their window; until then the other calls do nothing.
+  bool Created() const { return static_cast<bool>(window_); }
   void Create(HWND form, HINSTANCE instance);
   /// The scale of the form has changed.
   void Rescale();
@@ -25,7 +28,8 @@ class ToolTips {
 
   /// Sets the tip of a control, "" = none. `shown` = the control is visible.
   void Show(HWND control, const std::string& text, bool shown);
-  /// Lets the tips follow the mouse; called with each message of the form before it is dispatched.
+  /// Lets the tips follow the mouse; called with each mouse message of the form before it is
+  /// dispatched.
   void Relay(const MSG& message);
 
  private:

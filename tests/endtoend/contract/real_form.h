@@ -1,6 +1,8 @@
 #pragma once
 
 #include <windows.h>
+// After windows.h, which it needs.
+#include <commctrl.h>
 
 #include <string_view>
 
@@ -16,6 +18,20 @@ class RealForm : public FormHostContract {
   HWND Hwnd() const { return ToHwnd(Window()); }
   HWND Control(std::string_view name, int index = -1) {
     return FindControl(Window(), Id(name, index));
+  }
+  /// The window of the form's tool tips, null while it has none.
+  HWND FindToolTips() const {
+    HWND tips = nullptr;
+    do {
+      tips = FindWindowExW(nullptr, tips, TOOLTIPS_CLASSW, nullptr);
+    } while (tips != nullptr && GetWindow(tips, GW_OWNER) != Hwnd());
+    return tips;
+  }
+  /// The same after the mouse has come to the form.
+  HWND ToolTipsUnderTheMouse() {
+    PostMessageW(Hwnd(), WM_MOUSEMOVE, 0, 0);
+    User().LetPass(50);
+    return FindToolTips();
   }
   /// The colour of a control's first pixel.
   COLORREF ColorOf(HWND window) {

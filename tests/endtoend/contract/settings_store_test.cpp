@@ -55,6 +55,20 @@ TEST_F(WindowsSettingsStoreTest, KnowsNothingThatWasNotSaved) {
   EXPECT_FALSE(store_.DeleteSetting(kApp, kSection, "Tag 4"));
 }
 
+TEST_F(WindowsSettingsStoreTest, SeesWhatOthersDoToASectionThatItHasRead) {
+  store_.SaveSetting(kApp, "Raw", "Tag 3", "text");
+  EXPECT_EQ(store_.GetSetting(kApp, "Raw", "Tag 3"), "text");
+  WriteRaw(L"Tag 3", REG_SZ, L"other", sizeof(L"other"));
+  EXPECT_EQ(store_.GetSetting(kApp, "Raw", "Tag 3"), "other");
+  RegDeleteTreeW(HKEY_CURRENT_USER, kKey);
+  EXPECT_EQ(store_.GetSetting(kApp, "Raw", "Tag 3"), std::nullopt);
+  WriteRaw(L"Tag 3", REG_SZ, L"again", sizeof(L"again"));
+  EXPECT_EQ(store_.GetSetting(kApp, "Raw", "Tag 3"), "again");
+  RegDeleteTreeW(HKEY_CURRENT_USER, kKey);
+  WriteRaw(L"Tag 3", REG_SZ, L"anew", sizeof(L"anew"));
+  EXPECT_EQ(store_.GetSetting(kApp, "Raw", "Tag 3"), "anew");
+}
+
 TEST_F(WindowsSettingsStoreTest, ListsASectionInItsOrder) {
   store_.SaveSetting(kApp, kSection, "2", "two");
   store_.SaveSetting(kApp, kSection, "1", "Ж");

@@ -13,14 +13,6 @@ namespace {
 /// What the controls of real windows look like on the screen.
 class WindowsFormLookTest : public RealForm {
  protected:
-  /// The tool tips of the form.
-  HWND FindTips() const {
-    HWND tips = nullptr;
-    do {
-      tips = FindWindowExW(nullptr, tips, TOOLTIPS_CLASSW, nullptr);
-    } while (tips != nullptr && GetWindow(tips, GW_OWNER) != Hwnd());
-    return tips;
-  }
   std::wstring TipOf(std::string_view control) {
     TTTOOLINFOW tool{};
     tool.cbSize = sizeof(tool);
@@ -28,7 +20,7 @@ class WindowsFormLookTest : public RealForm {
     tool.lpszText = text;
     tool.hwnd = Hwnd();
     tool.uId = reinterpret_cast<UINT_PTR>(Control(control));
-    SendMessageW(FindTips(), TTM_GETTEXTW, 256, reinterpret_cast<LPARAM>(&tool));
+    SendMessageW(ToolTipsUnderTheMouse(), TTM_GETTEXTW, 256, reinterpret_cast<LPARAM>(&tool));
     return text;
   }
 };
@@ -88,6 +80,13 @@ TEST_F(WindowsFormLookTest, AnOpenFormIsToldWhenHighContrastIsTurnedOnAndOff) {
   }
 }
 
+TEST_F(WindowsFormLookTest, ToolTipsAreMadeWhenTheMouseComes) {
+  ShowForm();
+  EXPECT_EQ(FindToolTips(), nullptr);
+  form_.Find("txtName").SetText("changed");
+  EXPECT_EQ(TipOf("txtName"), L" the name ");
+}
+
 TEST_F(WindowsFormLookTest, AToolTipInOneLineIsShownAsItIsWritten) {
   ShowForm();
   EXPECT_EQ(TipOf("txtName"), L" the name ");
@@ -102,7 +101,7 @@ TEST_F(WindowsFormLookTest, TheLinesOfALongToolTipBeginBelowEachOther) {
 
 TEST_F(WindowsFormLookTest, AMonitorOfOtherDotsRenewsTheWidthOfToolTips) {
   ShowForm();
-  const HWND tips = FindTips();
+  const HWND tips = ToolTipsUnderTheMouse();
   const LRESULT width = SendMessageW(tips, TTM_GETMAXTIPWIDTH, 0, 0);
   EXPECT_EQ(width, MulDiv(400, static_cast<int>(GetDpiForWindow(Hwnd())), 96));
   SendMessageW(tips, TTM_SETMAXTIPWIDTH, 0, 1);

@@ -85,10 +85,7 @@ TEST_F(WindowsTextSizeTest, FocusAndSelectionStay) {
 
 TEST_F(WindowsTextSizeTest, ToolTipsGrowWithTheText) {
   ShowForm();
-  HWND tips = nullptr;
-  do {
-    tips = FindWindowExW(nullptr, tips, TOOLTIPS_CLASSW, nullptr);
-  } while (tips != nullptr && GetWindow(tips, GW_OWNER) != Hwnd());
+  const HWND tips = ToolTipsUnderTheMouse();
   Change(150);
   LOGFONTW font{};
   GetObjectW(reinterpret_cast<HFONT>(SendMessageW(tips, WM_GETFONT, 0, 0)), sizeof(font), &font);
