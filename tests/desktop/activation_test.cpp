@@ -175,7 +175,7 @@ TEST_F(Activation, StepsComeInTheirOrder) {
                    "GetWindow(Gamma, GW_OWNER)",
                    "GetWindowLongA(Alpha, GWL_STYLE)",
                    "IsIconic(Alpha)",
-                   "IsWindowVisible(Gamma)",
+                   "GetWindowLongA(Gamma, GWL_STYLE)",
                    "DwmGetWindowAttribute(Gamma)",
                    "GetWindowTextA(Gamma, 512)",
                    "IsWindowEnabled(Gamma)",
