@@ -33,7 +33,7 @@ class PassDesktop {
 
   void Filter() {
     int passed = 0;
-    routines_.enumeration.EnumWindows(kSearchTitle, [&](WindowHandle) { ++passed; });
+    routines_.enumeration.EnumWindows(kSearchTitle, [&](const auto&) { ++passed; });
     benchmark::DoNotOptimize(passed);
   }
 

@@ -1,6 +1,8 @@
 #include "bench/measure/session.h"
 
+#include <algorithm>
 #include <iostream>
+#include <numeric>
 #include <stdexcept>
 
 #include "bench/floor/bare_loop.h"
@@ -23,6 +25,11 @@ constexpr DWORD kTitleChangeMs = 100;
 
 }  // namespace
 
+Session::Session(std::span<Subject> subjects, const Plan& plan)
+    : subjects_(subjects), plan_(plan), figures_(subjects.size()), order_(subjects.size()) {
+  std::iota(order_.begin(), order_.end(), 0);
+}
+
 void Session::Run() {
   KeepThreadOn(Side::kUser);
   for (size_t at = 0; at < subjects_.size(); ++at) figures_[at].size = subjects_[at].Size();
@@ -30,13 +37,15 @@ void Session::Run() {
     std::cerr << "round " << round << " of " << plan_.rounds << std::endl;
     for (const int windows : kKeyDesktops) MeasureKeys(windows);
     for (const int windows : kStartDesktops) MeasureStarts(windows);
+    // Nobody always comes first on a fresh desktop.
+    std::reverse(order_.begin(), order_.end());
   }
   MeasureUse();
 }
 
 void Session::MeasureKeys(int windows) {
   Targets targets(windows);
-  for (size_t at = 0; at < subjects_.size(); ++at) {
+  for (const size_t at : order_) {
     subjects_[at].StartAndRest();
     const Switches switches(subjects_[at], targets);
     switches.Live(figures_[at].live[windows]);
@@ -50,7 +59,7 @@ void Session::MeasureKeys(int windows) {
 void Session::MeasureStarts(int windows) {
   const Targets targets(windows);
   for (int start = 0; start < kStartsPerRound; ++start) {
-    for (size_t at = 0; at < subjects_.size(); ++at) {
+    for (const size_t at : order_) {
       figures_[at].start[windows].Add(subjects_[at].StartAndRest());
       subjects_[at].End();
     }

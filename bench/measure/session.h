@@ -46,8 +46,7 @@ class Session {
   static constexpr int kKeyDesktops[] = {9, 200, 1000};
   static constexpr int kStartDesktops[] = {20, 1000};
 
-  Session(std::span<Subject> subjects, const Plan& plan)
-      : subjects_(subjects), plan_(plan), figures_(subjects.size()) {}
+  Session(std::span<Subject> subjects, const Plan& plan);
 
   void Run();
 
@@ -68,6 +67,7 @@ class Session {
   std::span<Subject> subjects_;
   Plan plan_;
   std::vector<Figures> figures_;
+  std::vector<size_t> order_;
   std::map<int, Samples> bareLoop_;
 };
 

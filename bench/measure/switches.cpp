@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "tests/endtoend/harness/keyboard.h"
+#include "tests/endtoend/harness/wait.h"
 
 namespace korvale::bench {
 namespace {
@@ -74,7 +75,10 @@ void Switches::Flood(int count) const {
   int lost = 0;
   StandInLastTag();
   for (int done = 0; done < count; ++done) {
-    while (Press(1 + done % kTags) == 0) {
+    const int tag = 1 + done % kTags;
+    endtoend::Press(endtoend::TagKey(tag));
+    while (!endtoend::WaitFor([&] { return endtoend::Foreground() == targets_.Tagged(tag); })) {
+      endtoend::Press(endtoend::TagKey(tag));
       if (++lost > kPatience) throw std::runtime_error("keys of " + subject_.name() + " are lost");
     }
   }

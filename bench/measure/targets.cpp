@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "bench/measure/processors.h"
+#include "tests/endtoend/harness/resting_screen.h"
 
 namespace korvale::bench {
 namespace {
@@ -22,6 +23,7 @@ const char* Program(int number) {
 Targets::Targets(int count) {
   for (int number = 1; number <= count; ++number) windows_.push_back(Open(number));
   KeepOn(Side::kUser, Tagged(1).ProcessId());
+  endtoend::ScreenComesToRest();
 }
 
 std::string Targets::Title(int number) {
