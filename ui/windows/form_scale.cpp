@@ -59,8 +59,8 @@ FormScale::FormScale(const FormState& form, HWND window)
 
 FormScale::FormScale(const FormState& form, HWND window, UINT dpi)
     : metrics_(SystemMetricsFor(dpi)),
-      workArea_(WorkAreaOf(MonitorOf(window))),
       monitor_(MonitorOf(window)),
+      workArea_(WorkAreaOf(monitor_)),
       monitorDpi_(dpi) {
   const RECT frame = FormFrame(form, dpi);
   const LONG width = workArea_.right - workArea_.left - (frame.right - frame.left);
@@ -70,11 +70,12 @@ FormScale::FormScale(const FormState& form, HWND window, UINT dpi)
                                 form.content, static_cast<int>(width), static_cast<int>(height)));
 }
 
-void FormScale::FollowTo(HWND window) {
+bool FormScale::FollowTo(HWND window) {
   const HMONITOR monitor = MonitorOf(window);
-  if (monitor == monitor_) return;
+  if (monitor == monitor_) return false;
   monitor_ = monitor;
   workArea_ = WorkAreaOf(monitor);
+  return true;
 }
 
 bool FormScale::LooksLike(const FormScale& other) const {

@@ -23,8 +23,9 @@ class FormScale {
   UniqueFont MakeMessageFont() const { return MakeFont(metrics_.lfMessageFont); }
   UniqueFont MakeToolTipFont() const { return MakeFont(metrics_.lfStatusFont); }
 
-  /// The window has been moved: the work area is that of the monitor where it is now.
-  void FollowTo(HWND window);
+  /// The window has been moved: the work area is that of the monitor where it is now. False when it
+  /// is still the same monitor.
+  bool FollowTo(HWND window);
 
   /// The form looks the same.
   bool LooksLike(const FormScale& other) const;
@@ -35,8 +36,8 @@ class FormScale {
   UniqueFont MakeFont(LOGFONTW font) const;
 
   NONCLIENTMETRICSW metrics_{};
-  RECT workArea_{};
   HMONITOR monitor_ = nullptr;
+  RECT workArea_{};
   UINT monitorDpi_ = USER_DEFAULT_SCREEN_DPI;
   UINT dpi_ = USER_DEFAULT_SCREEN_DPI;
 };

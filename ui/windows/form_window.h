@@ -114,8 +114,6 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   FormControls controls_;
   FormMenu menu_;
   std::optional<KeyFilter> keys_;
-  UniqueIcon largeIcon_;
-  UniqueIcon smallIcon_;
   HWND hwnd_ = nullptr;
   TwipsSize restored_;        // The size that it is restored to.
   POINT lastMouse_{};         // The last reported place of the mouse, on the screen.

@@ -1,5 +1,3 @@
-#include <utility>
-
 #include "ui/windows/form_window.h"
 #include "ui/windows/message_guard.h"
 #include "ui/windows/units.h"
@@ -29,13 +27,12 @@ void FormWindow::ShowIcons() {
   // The frame of a dialog shows no icon.
   if (form_->modalFrame) return;
   const UINT dpi = GetDpiForWindow(hwnd_);
-  const auto show = [&](UniqueIcon& icon, WPARAM kind, int metric) {
-    UniqueIcon fresh = LoadProgramIcon(classes_->Instance(), GetSystemMetricsForDpi(metric, dpi));
-    SendMessageW(hwnd_, WM_SETICON, kind, reinterpret_cast<LPARAM>(fresh.Get()));
-    icon = std::move(fresh);
+  const auto show = [&](WPARAM kind, int metric) {
+    HICON icon = classes_->Icon(GetSystemMetricsForDpi(metric, dpi));
+    SendMessageW(hwnd_, WM_SETICON, kind, reinterpret_cast<LPARAM>(icon));
   };
-  show(largeIcon_, ICON_BIG, SM_CXICON);
-  show(smallIcon_, ICON_SMALL, SM_CXSMICON);
+  show(ICON_BIG, SM_CXICON);
+  show(ICON_SMALL, SM_CXSMICON);
 }
 
 bool FormWindow::Rescale() {

@@ -16,8 +16,7 @@ void FormWindow::ShowPlace() {
   const bool changed = Rescale();
   move();
   // It may have come to a monitor with more or less room.
-  scale_.FollowTo(hwnd_);
-  const bool other = Rescale();
+  const bool other = scale_.FollowTo(hwnd_) && Rescale();
   if (other) move();
   placing_ = false;
   TellPlaced();

@@ -25,13 +25,17 @@ HCURSOR LoadPointer(HINSTANCE instance, MousePointer pointer) {
   }
 }
 
-WindowClasses::WindowClasses(HINSTANCE instance)
-    : instance_(instance),
-      large_(LoadProgramIcon(instance, GetSystemMetrics(SM_CXICON))),
-      small_(LoadProgramIcon(instance, GetSystemMetrics(SM_CXSMICON))) {}
+WindowClasses::WindowClasses(HINSTANCE instance) : instance_(instance) {}
 
 WindowClasses::~WindowClasses() {
   for (const std::wstring& name : registered_) UnregisterClassW(name.c_str(), instance_);
+}
+
+HICON WindowClasses::Icon(int size) {
+  for (const auto& [known, icon] : icons_) {
+    if (known == size) return icon.Get();
+  }
+  return icons_.emplace_back(size, LoadProgramIcon(instance_, size)).second.Get();
 }
 
 std::wstring WindowClasses::Register(std::string_view name, WNDPROC procedure) {
@@ -41,8 +45,8 @@ std::wstring WindowClasses::Register(std::string_view name, WNDPROC procedure) {
   description.cbSize = sizeof(description);
   description.lpfnWndProc = procedure;
   description.hInstance = instance_;
-  description.hIcon = large_.Get();
-  description.hIconSm = small_.Get();
+  description.hIcon = Icon(GetSystemMetrics(SM_CXICON));
+  description.hIconSm = Icon(GetSystemMetrics(SM_CXSMICON));
   description.hCursor = LoadPointer(nullptr, MousePointer::kDefault);
   // The number of the colour instead of a brush, which is only good until the colours change.
   description.hbrBackground =

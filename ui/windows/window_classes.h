@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/input_devices.h"
@@ -35,13 +36,14 @@ class WindowClasses {
   WindowClasses& operator=(const WindowClasses&) = delete;
 
   HINSTANCE Instance() const { return instance_; }
+  /// The program's icon at a size in pixels, shared by all windows.
+  HICON Icon(int size);
   /// Class kClassPrefix + `name`, with this procedure.
   std::wstring Register(std::string_view name, WNDPROC procedure);
 
  private:
   HINSTANCE instance_;
-  UniqueIcon large_;
-  UniqueIcon small_;
+  std::vector<std::pair<int, UniqueIcon>> icons_;
   std::vector<std::wstring> registered_;
 };
 
