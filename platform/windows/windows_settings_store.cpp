@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <string_view>
+
 #include "platform/windows/handles.h"
 #include "platform/windows/text.h"
 
@@ -23,19 +25,24 @@ UniqueKey OpenKey(const std::wstring& path, REGSAM access) {
   return key;
 }
 
-/// Reads the text of a value; a value may be stored with or without its closing NUL.
+/// The text of the first `size` bytes; a value may be stored with or without its closing NUL.
+std::string TextOf(std::wstring_view buffer, DWORD size) {
+  std::wstring_view text = buffer.substr(0, size / sizeof(wchar_t));
+  while (text.ends_with(L'\0')) text.remove_suffix(1);
+  return ToUtf8(text);
+}
+
+constexpr std::size_t kUsualText = 256;
+
 LSTATUS ReadText(HKEY key, const wchar_t* name, std::optional<std::string>& result) {
-  for (std::size_t units = 256;; units *= 2) {
-    std::wstring text(units, L'\0');
+  std::wstring buffer(kUsualText, L'\0');
+  for (;; buffer.resize(buffer.size() * 2)) {
     DWORD type = 0;
-    auto size = static_cast<DWORD>(units * sizeof(wchar_t));
+    auto size = static_cast<DWORD>(buffer.size() * sizeof(wchar_t));
     const LSTATUS status =
-        RegQueryValueExW(key, name, nullptr, &type, reinterpret_cast<BYTE*>(text.data()), &size);
+        RegQueryValueExW(key, name, nullptr, &type, reinterpret_cast<BYTE*>(buffer.data()), &size);
     if (status == ERROR_MORE_DATA) continue;
-    if (status != ERROR_SUCCESS || type != REG_SZ) return status;
-    text.resize(size / sizeof(wchar_t));
-    while (!text.empty() && text.back() == L'\0') text.pop_back();
-    result = ToUtf8(text);
+    if (status == ERROR_SUCCESS && type == REG_SZ) result = TextOf(buffer, size);
     return status;
   }
 }
@@ -68,15 +75,20 @@ SettingsStore::Pairs WindowsSettingsStore::GetAllSettings(const std::string& app
   const UniqueKey branch = OpenKey(SectionPath(appName, section), KEY_QUERY_VALUE);
   if (!branch) return pairs;
   std::wstring name(kLongestValueName, L'\0');
-  for (DWORD index = 0;; ++index) {
+  std::wstring buffer(kUsualText, L'\0');
+  for (DWORD index = 0;;) {
     auto length = static_cast<DWORD>(name.size());
-    if (RegEnumValueW(branch.Get(), index, name.data(), &length, nullptr, nullptr, nullptr,
-                      nullptr) != ERROR_SUCCESS) {
-      return pairs;
+    auto size = static_cast<DWORD>(buffer.size() * sizeof(wchar_t));
+    DWORD type = 0;
+    const LSTATUS status = RegEnumValueW(branch.Get(), index, name.data(), &length, nullptr, &type,
+                                         reinterpret_cast<BYTE*>(buffer.data()), &size);
+    if (status == ERROR_MORE_DATA) {
+      buffer.resize(buffer.size() * 2);
+      continue;
     }
-    std::optional<std::string> text;
-    ReadText(branch.Get(), name.c_str(), text);
-    pairs.emplace_back(ToUtf8({name.data(), length}), text.value_or(""));
+    if (status != ERROR_SUCCESS) return pairs;
+    pairs.emplace_back(ToUtf8({name.data(), length}), type == REG_SZ ? TextOf(buffer, size) : "");
+    ++index;
   }
 }
 

@@ -43,6 +43,7 @@ TEST_F(WindowsSettingsStoreTest, KeepsLongTexts) {
   const std::string text(5000, 'x');
   EXPECT_TRUE(store_.SaveSetting(kApp, kSection, "Long", text));
   EXPECT_EQ(store_.GetSetting(kApp, kSection, "Long"), text);
+  EXPECT_EQ(store_.GetAllSettings(kApp, kSection), (SettingsStore::Pairs{{"Long", text}}));
 }
 
 TEST_F(WindowsSettingsStoreTest, KnowsNothingThatWasNotSaved) {
