@@ -21,9 +21,9 @@ int CopyText(const std::string& text, std::span<char> buffer) {
 
 std::int32_t LiveStyle(const FakeWindow& window) {
   std::int32_t style = window.style;
-  if (window.visible && !window.hiddenByOwner) style |= fakes::kWsVisible;
-  if (!window.enabled) style |= fakes::kWsDisabled;
-  if (window.iconic) style |= fakes::kWsMinimize;
+  if (window.visible && !window.hiddenByOwner) style |= win32::kWsVisible;
+  if (!window.enabled) style |= win32::kWsDisabled;
+  if (window.iconic) style |= win32::kWsMinimize;
   if (window.zoomed) style |= fakes::kWsMaximize;
   return style;
 }

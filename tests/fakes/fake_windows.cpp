@@ -11,7 +11,7 @@ namespace {
 
 constexpr WindowHandle kFirstHandle = 0x10010;
 constexpr std::int32_t kStateBits =
-    fakes::kWsVisible | fakes::kWsDisabled | fakes::kWsMinimize | fakes::kWsMaximize;
+    win32::kWsVisible | win32::kWsDisabled | win32::kWsMinimize | fakes::kWsMaximize;
 
 FakeWindow WindowFrom(WindowHandle handle, const std::string& title, const NewWindow& options) {
   FakeWindow window;

@@ -6,9 +6,6 @@
 namespace korvale::fakes {
 
 inline constexpr std::int32_t kWsPopup = static_cast<std::int32_t>(0x80000000U);
-inline constexpr std::int32_t kWsMinimize = 0x20000000;
-inline constexpr std::int32_t kWsVisible = 0x10000000;
-inline constexpr std::int32_t kWsDisabled = 0x08000000;
 inline constexpr std::int32_t kWsMaximize = 0x01000000;
 inline constexpr std::int32_t kWsCaption = 0x00C00000;
 inline constexpr std::int32_t kWsOverlappedWindow = 0x00CF0000;
