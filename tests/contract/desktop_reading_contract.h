@@ -101,7 +101,6 @@ TEST_F(DesktopContract, TellsByTheStyleWhatTheSingleQuestionsTell) {
     EXPECT_EQ(HasStyle(hwnd, win32::kGwlStyle, win32::kWsMinimize), queries_.IsIconic(hwnd));
   }
   EXPECT_TRUE(HasStyle(plain, win32::kGwlStyle, win32::kWsMinimize));
-  EXPECT_FALSE(HasStyle(owned, win32::kGwlStyle, win32::kWsVisible));
 }
 
 TEST_F(DesktopContract, ReadsTheTitleAsItIsNow) {
