@@ -91,14 +91,14 @@ ActivationResult WindowActions::TryActivation(WindowTriple& window, bool act) {
     window.handle = 0;
     return kActivationFailed;
   }
-  const ActivationResult enabled = CheckEnabled(hwnd);
-  return act && enabled == kActivationDone ? BringForward(hwnd) : enabled;
+  const ActivationResult enabled = CheckEnabled(live);
+  return act && enabled == kActivationDone ? BringForward(live) : enabled;
 }
 
 ActivationResult WindowActions::Examine(SeenWindow& window) {
   ActivationResult result = CheckKind(window);
   if (result == kActivationDone) result = CheckShown(window);
-  return result == kActivationDone ? CheckEnabled(window.Handle()) : result;
+  return result == kActivationDone ? CheckEnabled(window) : result;
 }
 
 ActivationResult WindowActions::CheckKind(SeenWindow& window) {
@@ -117,9 +117,10 @@ ActivationResult WindowActions::CheckShown(SeenWindow& window) {
   return window.Title().empty() && !windows_->IsWindow(hwnd) ? kWindowNotOpen : kActivationDone;
 }
 
-ActivationResult WindowActions::CheckEnabled(WindowHandle hwnd) {
-  if (windows_->IsWindowEnabled(hwnd)) return kActivationDone;
-  return windows_->IsWindow(hwnd) ? kWindowNotEnabled : kWindowNotOpen;
+/// Of a window that is shown.
+ActivationResult WindowActions::CheckEnabled(SeenWindow& window) {
+  if (window.TakesInput()) return kActivationDone;
+  return windows_->IsWindow(window.Handle()) ? kWindowNotEnabled : kWindowNotOpen;
 }
 
 /// Also done when there is no owner to restore.
@@ -143,9 +144,10 @@ void WindowActions::RefreshRecordedTitle(WindowTriple& window, std::string_view 
   }
 }
 
-ActivationResult WindowActions::BringForward(WindowHandle hwnd) {
+ActivationResult WindowActions::BringForward(SeenWindow& window) {
+  const WindowHandle hwnd = window.Handle();
   KnownWindow before{previous_->InFront(*windows_), ""};
-  if (windows_->IsIconic(hwnd)) {
+  if (window.IsIconic()) {
     before = Know(*windows_, before.handle);
     // Learnt only once it is in front, a denial would have taken the user from where they are.
     const RequestResult allowed = requests_->ChangeNothing(hwnd);

@@ -67,10 +67,10 @@ class WindowActions {
   ActivationResult TryActivation(WindowTriple& window, bool act);
   ActivationResult CheckKind(SeenWindow& window);
   ActivationResult CheckShown(SeenWindow& window);
-  ActivationResult CheckEnabled(WindowHandle hwnd);
+  ActivationResult CheckEnabled(SeenWindow& window);
   ActivationResult RestoreIconicOwner(WindowHandle hwnd);
   void RefreshRecordedTitle(WindowTriple& window, std::string_view title);
-  ActivationResult BringForward(WindowHandle hwnd);
+  ActivationResult BringForward(SeenWindow& window);
   ActivationResult Unfold(WindowHandle hwnd, const KnownWindow& before);
   bool StaysMinimized(WindowHandle hwnd);
   bool ChangeAll(EnumerationMode mode);
