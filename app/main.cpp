@@ -10,6 +10,7 @@
 #include "platform/windows/windows_system_api.h"
 #include "platform/windows/windows_virtual_desktops.h"
 #include "platform/windows/windows_window_api.h"
+#include "ui/windows/message_guard.h"
 #include "ui/windows/windows_ui.h"
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, PWSTR /*commandLine*/,
@@ -26,7 +27,7 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, PWSTR /*commandL
   korvale::WindowsClock clock;
   korvale::WindowsTimers timers;
   korvale::WindowsUi ui(instance);
-  korvale::WindowsVirtualDesktops virtualDesktops;
+  korvale::WindowsVirtualDesktops virtualDesktops(korvale::WatchQueue);
   korvale::Platform platform{windows,   windows,    hotKeys,  store,          system,
                              crashes,   clock,      timers,   ui.host,        ui.loop,
                              ui.screen, ui.dialogs, ui.input, virtualDesktops};

@@ -16,7 +16,18 @@ struct WindowsHotKeyApi::Hook : std::enable_shared_from_this<Hook> {
 
 namespace {
 
-constexpr const wchar_t* kHookProperty = L"Korvale.WindowProcedure";
+using HookedWindows = std::map<HWND, WindowsHotKeyApi::Hook*>;
+
+/// A window procedure knows nothing but its window, on which any program can put what it likes.
+HookedWindows& HookedOfThread() {
+  static thread_local HookedWindows windows;
+  return windows;
+}
+
+WindowsHotKeyApi::Hook* HookOf(HWND hwnd) {
+  const auto found = HookedOfThread().find(hwnd);
+  return found == HookedOfThread().end() ? nullptr : found->second;
+}
 
 LRESULT PassOn(WNDPROC previous, HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
   if (previous == nullptr) return DefWindowProcA(hwnd, message, wParam, lParam);
@@ -24,11 +35,11 @@ LRESULT PassOn(WNDPROC previous, HWND hwnd, UINT message, WPARAM wParam, LPARAM 
 }
 
 LRESULT CALLBACK CallHook(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
-  auto* found = static_cast<WindowsHotKeyApi::Hook*>(GetPropW(hwnd, kHookProperty));
+  WindowsHotKeyApi::Hook* const found = HookOf(hwnd);
   if (found == nullptr) return DefWindowProcA(hwnd, message, wParam, lParam);
   const std::shared_ptr<WindowsHotKeyApi::Hook> hook = found->shared_from_this();
   // Sent by another program, it does not mean that the window ends.
-  if (message == WM_NCDESTROY && InSendMessage() == FALSE) RemovePropW(hwnd, kHookProperty);
+  if (message == WM_NCDESTROY && InSendMessage() == FALSE) HookedOfThread().erase(hwnd);
   const bool outer = std::exchange(hook->passedOn, false);
   LRESULT result = 0;
   try {
@@ -107,9 +118,9 @@ std::optional<QueuedMessage> WindowsHotKeyApi::PeekMessageW(WindowHandle hwnd,
 PreviousProcedure WindowsHotKeyApi::SetWindowLongPtrA(WindowHandle hwnd,
                                                       WindowProcedure& procedure) {
   std::shared_ptr<Hook>& hook = hooks_[hwnd];
-  if (!hook || GetPropW(ToHwnd(hwnd), kHookProperty) != hook.get()) {
+  if (!hook || HookOf(ToHwnd(hwnd)) != hook.get()) {
     hook = std::make_shared<Hook>();
-    SetPropW(ToHwnd(hwnd), kHookProperty, hook.get());
+    HookedOfThread()[ToHwnd(hwnd)] = hook.get();
     hook->procedure = &procedure;
     hook->previous = reinterpret_cast<WNDPROC>(
         ::SetWindowLongPtrA(ToHwnd(hwnd), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(CallHook)));
@@ -121,9 +132,9 @@ PreviousProcedure WindowsHotKeyApi::SetWindowLongPtrA(WindowHandle hwnd,
 void WindowsHotKeyApi::SetWindowLongPtrA(WindowHandle hwnd, PreviousProcedure previous) {
   const auto found = hooks_.find(hwnd);
   if (found == hooks_.end()) return;
-  if (GetPropW(ToHwnd(hwnd), kHookProperty) == found->second.get()) {
+  if (HookOf(ToHwnd(hwnd)) == found->second.get()) {
     ::SetWindowLongPtrA(ToHwnd(hwnd), GWLP_WNDPROC, previous);
-    RemovePropW(ToHwnd(hwnd), kHookProperty);
+    HookedOfThread().erase(ToHwnd(hwnd));
   }
   hooks_.erase(found);
 }

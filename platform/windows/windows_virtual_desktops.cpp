@@ -37,6 +37,7 @@ bool WindowsVirtualDesktops::HasManager() {
 template <typename Call>
 HRESULT WindowsVirtualDesktops::Ask(Call call) {
   HRESULT result = E_FAIL;
+  beforeWaiting_();
   for (int i = 0; i < 2 && HasManager(); ++i) {
     result = call(*manager_.Get());
     if (!HasLostShell(result)) break;

@@ -4,7 +4,9 @@
 // After windows.h, which it needs.
 #include <shobjidl.h>
 
+#include <functional>
 #include <optional>
+#include <utility>
 
 #include "platform/virtual_desktops.h"
 #include "platform/windows/com.h"
@@ -16,6 +18,10 @@ namespace korvale {
 /// Explorer answers, which may be ending or just starting.
 class WindowsVirtualDesktops final : public VirtualDesktops {
  public:
+  /// `beforeWaiting` is called before messages may be handled while Explorer is waited for.
+  explicit WindowsVirtualDesktops(std::function<void()> beforeWaiting)
+      : beforeWaiting_(std::move(beforeWaiting)) {}
+
   std::optional<bool> IsWindowOnCurrentVirtualDesktop(WindowHandle hwnd) override;
   std::optional<VirtualDesktopId> GetWindowDesktopId(WindowHandle hwnd) override;
   bool MoveWindowToDesktop(WindowHandle hwnd, const VirtualDesktopId& desktop) override;
@@ -27,6 +33,7 @@ class WindowsVirtualDesktops final : public VirtualDesktops {
   template <typename Call>
   HRESULT Ask(Call call);
 
+  std::function<void()> beforeWaiting_;
   Com com_;
   UniqueHandle<IVirtualDesktopManager*> manager_;
 };

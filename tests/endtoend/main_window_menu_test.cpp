@@ -44,6 +44,8 @@ TEST_F(MainWindowMenu, StaysWhenTheCautionIsAnsweredByEnter) {
   EXPECT_TRUE(StaysInFront(main()));
   EXPECT_TRUE(window().HasMenuBar());
   EXPECT_EQ(window().Height(), height);
+  // Nothing has changed, so nothing is saved before the end.
+  ASSERT_TRUE(Exit());
   EXPECT_TRUE(Stored("Menu", "True"));
 }
 

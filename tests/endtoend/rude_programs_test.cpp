@@ -94,6 +94,14 @@ bool IsShownByProgram(Window window) {
          name == "#32770";
 }
 
+/// The user moves or sizes a window of this one's thread.
+bool IsMoved(Window window) {
+  GUITHREADINFO info{};
+  info.cbSize = sizeof(info);
+  const DWORD thread = GetWindowThreadProcessId(window.handle(), nullptr);
+  return GetGUIThreadInfo(thread, &info) != FALSE && (info.flags & GUI_INMOVESIZE) != 0;
+}
+
 bool IsControl(Window window) { return (window.Style() & WS_CHILD) != 0; }
 
 BOOL CALLBACK CollectChild(HWND child, LPARAM windows) {
@@ -253,6 +261,25 @@ TEST_F(RudePrograms, LeaveTheColorDialogToTheUser) {
   EXPECT_TRUE(dialog.Cancel());
   ASSERT_TRUE(Choose('V', {'C'}));
   ASSERT_TRUE(WorkIn(alpha_));
+  ExpectAllToWork();
+}
+
+TEST_F(RudePrograms, ReachNoMenuAndNoMoveThatFollowsAQuietTime) {
+  StartWithTags();
+  const auto postTimer = [&] {
+    PostMessageW(main().handle(), WM_TIMER, 1, 64);  // Windows would call this address.
+    return WaitFor([&] { return main().Responds(); }) && korvale_->process().Running();
+  };
+  ASSERT_TRUE(PopUpWindowMenu());
+  ASSERT_TRUE(postTimer());
+  Press({0, VK_ESCAPE});
+  ASSERT_TRUE(WaitFor([&] { return !korvale_->HasMenu(); }));
+
+  ASSERT_TRUE(BringToFront(main()));
+  PostMessageW(main().handle(), WM_SYSCOMMAND, SC_MOVE, 0);
+  ASSERT_TRUE(WaitFor([&] { return IsMoved(main()); }) && postTimer());
+  Press({0, VK_ESCAPE});
+  ASSERT_TRUE(WaitFor([&] { return !IsMoved(main()); }) && WorkIn(alpha_));
   ExpectAllToWork();
 }
 

@@ -122,6 +122,7 @@ void FormWindow::TrackPopup(MenuItem& menu) {
   const UniqueMenu popup = menu_.MakePopup(menu);
   POINT at{};
   GetCursorPos(&at);
+  WatchQueue();
   const BOOL command = ::TrackPopupMenuEx(popup.Get(), TPM_RETURNCMD, at.x, at.y, hwnd_, nullptr);
   MenuItem* const chosen = menu_.Chosen(static_cast<UINT>(command));
   if (chosen != nullptr) events_.Tell([&](FormEvents& events) { events.OnMenuClicked(*chosen); });

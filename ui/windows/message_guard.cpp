@@ -111,13 +111,14 @@ bool CanOnlyBeForged(const MSG& message) {
   return !forControls || counts || IsNeverQueued(message.message);
 }
 
+/// Hooks know nothing but their thread.
+MessageGuard*& GuardOfThread() {
+  static thread_local MessageGuard* guard = nullptr;
+  return guard;
+}
+
 LRESULT CALLBACK SeeQueued(int code, WPARAM wParam, LPARAM lParam) {
-  auto& message = *reinterpret_cast<MSG*>(lParam);
-  if (code == HC_ACTION && CanOnlyBeForged(message)) {
-    message.message = WM_NULL;
-    message.wParam = 0;
-    message.lParam = 0;
-  }
+  if (code == HC_ACTION) MessageGuard::Disarm(*reinterpret_cast<MSG*>(lParam));
   return CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
@@ -138,6 +139,7 @@ bool IsMadeForUs(HWND window, const CREATESTRUCTW& creation) {
 }
 
 LRESULT CALLBACK SeeWindows(int code, WPARAM wParam, LPARAM lParam) {
+  if (code == HCBT_CREATEWND || code == HCBT_SYSCOMMAND || code == HCBT_MOVESIZE) WatchQueue();
   const auto window = reinterpret_cast<HWND>(wParam);
   if (code == HCBT_CREATEWND) {
     const CREATESTRUCTW& creation = *reinterpret_cast<const CBT_CREATEWNDW*>(lParam)->lpcs;
@@ -155,8 +157,35 @@ LRESULT CALLBACK SeeWindows(int code, WPARAM wParam, LPARAM lParam) {
 }  // namespace
 
 MessageGuard::MessageGuard()
-    : queued_(SetWindowsHookExW(WH_GETMESSAGE, SeeQueued, nullptr, GetCurrentThreadId())),
-      windows_(SetWindowsHookExW(WH_CBT, SeeWindows, nullptr, GetCurrentThreadId())) {}
+    : windows_(SetWindowsHookExW(WH_CBT, SeeWindows, nullptr, GetCurrentThreadId())) {
+  GuardOfThread() = this;
+  Watch();
+}
+
+MessageGuard::~MessageGuard() { GuardOfThread() = nullptr; }
+
+void MessageGuard::Watch() {
+  if (!Rests()) return;
+  queued_.Reset(SetWindowsHookExW(WH_GETMESSAGE, SeeQueued, nullptr, GetCurrentThreadId()));
+}
+
+void MessageGuard::Rest() { queued_.Reset(); }
+
+void MessageGuard::Disarm(MSG& message) {
+  if (!CanOnlyBeForged(message)) return;
+  message.message = WM_NULL;
+  message.wParam = 0;
+  message.lParam = 0;
+}
+
+void WatchQueue() {
+  if (MessageGuard* const guard = GuardOfThread()) guard->Watch();
+}
+
+bool IsOnlyOurLoop() {
+  const MessageGuard* const guard = GuardOfThread();
+  return guard != nullptr && guard->Rests();
+}
 
 bool IsSentByOthers() {
   return (InSendMessageEx(nullptr) & (ISMEX_SEND | ISMEX_NOTIFY | ISMEX_CALLBACK)) != 0;

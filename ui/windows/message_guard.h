@@ -11,15 +11,35 @@ namespace korvale {
 /// a pointer, arrive as WM_NULL, in every message loop of the thread that made it (WH_GETMESSAGE).
 /// Sent ones of these kinds do not reach the message boxes and dialogs of Windows, nor the lists of
 /// combo boxes (WH_CBT); the windows that we make ourselves ask IsForgedForClass. It judges only
-/// who a message comes from, never what it means.
+/// who a message comes from, never what it means. A thread has one at most.
 class MessageGuard {
  public:
   MessageGuard();
+  ~MessageGuard();
+  MessageGuard(const MessageGuard&) = delete;
+  MessageGuard& operator=(const MessageGuard&) = delete;
+
+  /// Sees the messages of every loop, as it does from the beginning.
+  void Watch();
+  /// Sees those of other loops no more until Watch, since each costs the hook. For the outermost
+  /// loop, which hands its own to Disarm; whatever may begin another one wakes the guard: a new
+  /// window, a system command, moving or sizing (WH_CBT), and WatchQueue.
+  void Rest();
+  bool Rests() const { return !queued_; }
+
+  /// Makes a message that can only be forged a WM_NULL.
+  static void Disarm(MSG& message);
 
  private:
   UniqueHook queued_;
   UniqueHook windows_;
 };
+
+/// Wakes the guard of this thread, if it has one: Windows may begin a message loop of its own.
+void WatchQueue();
+
+/// True while no loop but our outermost one can be running on this thread.
+bool IsOnlyOurLoop();
 
 /// True while the message being handled was sent by another thread (InSendMessage).
 bool IsSentByOthers();

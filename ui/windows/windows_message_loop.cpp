@@ -5,6 +5,25 @@
 #include "ui/windows/form_window.h"
 
 namespace korvale {
+namespace {
+
+/// Counts a loop while it runs.
+class Running {
+ public:
+  explicit Running(int& depth) : depth_(&depth) { ++depth; }
+  ~Running() { --*depth_; }
+  Running(const Running&) = delete;
+  Running& operator=(const Running&) = delete;
+
+ private:
+  int* depth_;
+};
+
+/// Handled by this program alone, again and again; a message box or menu that it shows meanwhile
+/// wakes the guard.
+bool IsDaily(UINT message) { return message == WM_TIMER || message == WM_HOTKEY; }
+
+}  // namespace
 
 WindowsMessageLoop::~WindowsMessageLoop() {
   MSG message;
@@ -12,9 +31,16 @@ WindowsMessageLoop::~WindowsMessageLoop() {
 }
 
 void WindowsMessageLoop::RunMessageLoop(const std::function<bool()>& done) {
+  const Running running(depth_);
   while (!quitPosted_ && !done()) {
     MSG message;
     if (GetMessageW(&message, nullptr, 0, 0) > 0) {
+      // Below the outermost loop there is no other one.
+      if (depth_ == 1 && IsDaily(message.message)) {
+        guard_.Rest();
+      } else {
+        guard_.Watch();
+      }
       Dispatch(message);
     } else {
       PostQuitMessage();
@@ -23,11 +49,13 @@ void WindowsMessageLoop::RunMessageLoop(const std::function<bool()>& done) {
 }
 
 void WindowsMessageLoop::DoEvents() {
+  const Running running(depth_);
   MSG message;
   while (!quitPosted_ && PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {
     if (message.message == WM_QUIT) {
       PostQuitMessage();
     } else {
+      guard_.Watch();
       Dispatch(message);
     }
   }
@@ -46,7 +74,8 @@ void WindowsMessageLoop::PostQuitMessage() {
   ::PostQuitMessage(0);
 }
 
-void WindowsMessageLoop::Dispatch(const MSG& message) {
+void WindowsMessageLoop::Dispatch(MSG& message) {
+  MessageGuard::Disarm(message);
   const std::shared_ptr<FormWindow> form = forms_->Around(message.hwnd);
   if (form != nullptr && form->Filter(message)) return;
   TranslateMessage(&message);

@@ -25,10 +25,12 @@ class WindowsMessageLoop : public MessageLoop {
   bool QuitPosted() override;
 
  private:
-  void Dispatch(const MSG& message);
+  void Dispatch(MSG& message);
 
   const OpenForms* forms_;
   MessageGuard guard_;
+  /// Loops of ours that are running, one inside the other.
+  int depth_ = 0;
   bool quitPosted_ = false;
 };
 

@@ -6,6 +6,7 @@
 #include "platform/windows/handles.h"
 #include "platform/windows/text.h"
 #include "ui/windows/form_window.h"
+#include "ui/windows/message_guard.h"
 
 namespace korvale {
 
@@ -33,6 +34,8 @@ void WindowsSystemDialogs::TrackPopupMenuEx(WindowHandle hwnd, MenuItem& menu) {
 }
 
 bool WindowsSystemDialogs::EndMenu() {
+  // A menu has a loop of its own.
+  if (IsOnlyOurLoop()) return false;
   GUITHREADINFO info{};
   info.cbSize = sizeof(info);
   constexpr DWORD kAnyMenu = GUI_INMENUMODE | GUI_SYSTEMMENUMODE | GUI_POPUPMENUMODE;

@@ -118,7 +118,7 @@ class WindowsDesktopUnderTest final : public DesktopUnderTest {
 
   WindowsWindowApi api_;
   Com com_;
-  WindowsVirtualDesktops virtualDesktops_;
+  WindowsVirtualDesktops virtualDesktops_{[] {}};
   WindowThread thread_;
   std::set<HWND> opened_;
 };
