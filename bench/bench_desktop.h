@@ -27,7 +27,7 @@ class BenchDesktop {
     }
     AddTag(1, "*** - Editor 1");
     AddTag(2, "*** - Editor " + DecimalText(windowCount));
-    parts_.routines.enumeration.RefreshTags();
+    parts_.routines.enumeration.RefreshTags(1);
   }
 
   /// Presses the two hot keys in turn, so that each of them changes the foreground.

@@ -43,7 +43,7 @@ class PassDesktop {
     }
   }
 
-  void PassOverTags() { routines_.enumeration.RefreshTags(); }
+  void PassOverTags() { routines_.enumeration.RefreshTags(kTags); }
 
   void MakeCaptions() {
     for (const std::string& title : windows_.Titles()) {

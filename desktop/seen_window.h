@@ -23,6 +23,7 @@ class SeenWindow {
   WindowHandle Handle() const { return hwnd_; }
   /// As GetWindowTitle; lives as long as this visit.
   std::string_view Title();
+  bool HasReadTitle() const { return title_.has_value(); }
   /// As GetWindowClass; lives as long as this visit. A window that exists has a class.
   std::string_view ClassName();
   /// GetWindowLongA(GWL_STYLE) and (GWL_EXSTYLE).

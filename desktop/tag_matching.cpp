@@ -1,6 +1,7 @@
 #include "desktop/tag_matching.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "desktop/title_match.h"
 #include "desktop/window_visibility.h"
@@ -9,41 +10,53 @@
 namespace korvale {
 
 TagMatching::TagMatching(TagList& tags, WindowQueries& windows, VirtualDesktops& virtualDesktops)
-    : tags_(&tags), windows_(&windows), virtualDesktops_(&virtualDesktops) {
-  Prepare();
-}
+    : tags_(&tags),
+      windows_(&windows),
+      virtualDesktops_(&virtualDesktops),
+      unresolved_(Unresolved()) {}
 
-void TagMatching::Prepare() {
-  unresolved_.clear();
-  tags_->mnuWindowParentList.ForEach([this](const MenuItem& entry) {
+std::vector<TagMatching::UnresolvedTag> TagMatching::Unresolved() const {
+  std::vector<UnresolvedTag> unresolved;
+  tags_->mnuWindowParentList.ForEach([&](const MenuItem& entry) {
     if (IsTag(entry.index) && TagHandle(entry) == 0) {
-      unresolved_.push_back({entry.index, IdentificationText(entry)});
+      unresolved.push_back({entry.index, IdentificationText(entry)});
     }
   });
+  return unresolved;
 }
 
-bool TagMatching::LooksFor(int tag, SeenWindow& window) const {
-  return std::ranges::any_of(unresolved_, [&](const UnresolvedTag& unresolved) {
-    return unresolved.number == tag &&
-           TitleMatches(unresolved.identification, window.Title(), false);
-  });
+const TagMatching::UnresolvedTag* TagMatching::Find(int tag) const {
+  const auto found = std::ranges::find(unresolved_, tag, &UnresolvedTag::number);
+  return found == unresolved_.end() ? nullptr : &*found;
 }
 
-void TagMatching::Match(SeenWindow& window) {
+bool TagMatching::FitsByTitle(int tag, SeenWindow& window) const {
+  const UnresolvedTag* const unresolved = Find(tag);
+  // The title of a hidden window is not worth reading.
+  return unresolved != nullptr && (window.HasReadTitle() || window.IsVisible()) &&
+         TitleMatches(unresolved->identification, window.Title(), false) && window.IsVisible();
+}
+
+/// The question may let the user change the Tags.
+bool TagMatching::IsPutAway(SeenWindow& window) {
+  if (window.Cloak() == 0) return false;
+  const bool putAway = IsCloakedWindowPutAway(*windows_, *virtualDesktops_, window.Handle());
+  const std::vector<UnresolvedTag> before = std::exchange(unresolved_, Unresolved());
+  changed_ = changed_ || unresolved_ != before;
+  return putAway;
+}
+
+bool TagMatching::Match(SeenWindow& window) {
   const auto fits = [&](const UnresolvedTag& tag) { return Fits(tag, window); };
   // Only a window with at least one child window counts.
-  if (std::ranges::none_of(unresolved_, fits) || window.FirstChild() == 0) return;
-  if (window.Cloak() != 0) {
-    const bool putAway = IsCloakedWindowPutAway(*windows_, *virtualDesktops_, window.Handle());
-    // The question may have let the user change the Tags.
-    Prepare();
-    if (putAway) return;
-  }
+  if (std::ranges::none_of(unresolved_, fits) || window.FirstChild() == 0) return true;
+  if (IsPutAway(window)) return false;
   std::erase_if(unresolved_, [&](const UnresolvedTag& tag) {
     const bool resolved = fits(tag);
     if (resolved) Resolve(tag.number, window);
     return resolved;
   });
+  return true;
 }
 
 bool TagMatching::Fits(const UnresolvedTag& tag, SeenWindow& window) const {

@@ -15,7 +15,8 @@ namespace korvale {
 /// What all visits of one enumeration share.
 struct WindowEnumeration::Pass {
   OwnWindows own;
-  TagMatching tags;
+  /// Only in a refresh.
+  std::optional<TagMatching> tags;
 };
 
 WindowEnumeration::WindowEnumeration(WindowQueries& windows, WindowRequests& requests,
@@ -27,17 +28,23 @@ WindowEnumeration::WindowEnumeration(WindowQueries& windows, WindowRequests& req
       mainWindow_(&mainWindow),
       tagPasses_(&tagPasses) {}
 
-WindowEnumeration::Pass WindowEnumeration::BeginPass() const {
-  return {filter_->FindOwnWindows(), tagPasses_->BeginMatching()};
+WindowEnumeration::Pass WindowEnumeration::BeginPass(std::int32_t mode) const {
+  Pass pass{filter_->FindOwnWindows(), std::nullopt};
+  if (mode == kTagRefresh) pass.tags.emplace(tagPasses_->BeginMatching());
+  return pass;
 }
 
 void WindowEnumeration::EnumWindows(std::int32_t mode, const Visit& visit) {
-  Pass pass = BeginPass();
+  Pass pass = BeginPass(mode);
   Enumerate([&](SeenWindow& window) { Handle(window, mode, pass, visit); });
 }
 
-void WindowEnumeration::Enumerate(const Visit& visit) {
+void WindowEnumeration::RefuseNested() const {
   if (enumerating_) throw RunTimeError(RunTimeError::kInvalidCall);
+}
+
+void WindowEnumeration::Enumerate(const Visit& visit) {
+  RefuseNested();
   const RaisedFlag enumerating(enumerating_);
   windows_->EnumWindows([&](WindowHandle hwnd) {
     SeenWindow window(*windows_, hwnd);
@@ -47,7 +54,7 @@ void WindowEnumeration::Enumerate(const Visit& visit) {
 }
 
 bool WindowEnumeration::EnumWindowsProc(WindowHandle hwnd, std::int32_t mode, const Visit& visit) {
-  Pass pass = BeginPass();
+  Pass pass = BeginPass(mode);
   SeenWindow window(*windows_, hwnd);
   Handle(window, mode, pass, visit);
   return true;
@@ -64,7 +71,9 @@ void WindowEnumeration::Handle(SeenWindow& window, std::int32_t mode, Pass& pass
       if (CanMinimizeOrRestore(window, true, pass) && !Restore(window.Handle())) visit(window);
       break;
     case kTagRefresh:
-      if (!pass.tags.IsDone() && selectable()) pass.tags.Match(window);
+      if (pass.tags && !pass.tags->IsDone() && selectable() && pass.tags->Match(window)) {
+        visit(window);
+      }
       break;
     case kTopWindow:
       if (CanBeTopWindow(window, pass)) visit(window);
@@ -84,16 +93,17 @@ bool WindowEnumeration::EnumInstanceProc(SeenWindow& window, std::int32_t mode,
   return true;
 }
 
-WindowHandles WindowEnumeration::RefreshTags(int sought) {
+std::optional<WindowHandles> WindowEnumeration::RefreshTags(int sought) {
+  RefuseNested();
   tagPasses_->TagListPass(TagListMode::kUnresolve);
-  Pass pass = BeginPass();
+  Pass pass = BeginPass(kTagRefresh);
   WindowHandles found;
   Enumerate([&](SeenWindow& window) {
-    if (pass.tags.IsDone() || !filter_->PassesBasicChecks(window, pass.own)) return;
-    pass.tags.Match(window);
-    const bool fits = sought != 0 && pass.tags.LooksFor(sought, window) && window.IsVisible();
-    if (fits) found.push_back(window.Handle());
+    Handle(window, kTagRefresh, pass, [&](SeenWindow& seen) {
+      if (pass.tags->FitsByTitle(sought, seen)) found.push_back(seen.Handle());
+    });
   });
+  if (!pass.tags->HasLookedFor(sought)) return std::nullopt;
   return found;
 }
 
@@ -123,18 +133,14 @@ WindowHandles WindowEnumeration::FindByClass(const std::string& className) {
 WindowHandle WindowEnumeration::FindByTitleAmong(const WindowHandles& windows,
                                                  const std::string& title) const {
   WindowHandles found;
+  std::optional<OwnWindows> own;
   for (const WindowHandle hwnd : windows) {
     SeenWindow window(*windows_, hwnd);
-    const bool fits = window.IsVisible() && TitleMatches(title, window.Title(), false) &&
-                      filter_->IsSelectableWindow(window, false, false);
-    if (fits) found.push_back(hwnd);
+    if (!window.IsVisible() || !TitleMatches(title, window.Title(), false)) continue;
+    if (!own) own = filter_->FindOwnWindows();
+    if (filter_->PassesBasicChecks(window, *own)) found.push_back(hwnd);
   }
   return LastOnScreen(found);
-}
-
-WindowHandle WindowEnumeration::FindByTitleAndClass(const std::string& title,
-                                                    const std::string& className) {
-  return FindByTitleAmong(FindByClass(className), title);
 }
 
 WindowHandle WindowEnumeration::FindInstanceAmong(const WindowHandles& windows,
@@ -151,16 +157,11 @@ WindowHandle WindowEnumeration::FindInstanceAmong(const WindowHandles& windows,
   return last;
 }
 
-WindowHandle WindowEnumeration::FindInstance(const std::string& className, const std::string& title,
-                                             bool visible, const Test& qualifies) {
-  return FindInstanceAmong(FindByClass(className), title, visible, qualifies);
-}
-
 WindowHandle WindowEnumeration::FindTopWindow(const Test& qualifies) {
   WindowHandle top = 0;
   std::int16_t count = 0;
   EnumWindows(kTopWindow, [&](SeenWindow& window) {
-    if (count == 0 && !qualifies(window)) return;
+    if (!qualifies(window)) return;
     count = AddInt16(count, 1);
     if (count == 1) top = window.Handle();
   });

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -43,15 +44,17 @@ class WindowEnumeration {
   void EnumWindows(std::int32_t mode, const Visit& visit = PassOver);
 
   /// Does what `mode` says with a selectable window; the search modes pass visible ones to `visit`,
-  /// those that minimize or restore the windows that Windows denied.
+  /// those that minimize or restore the windows that Windows denied, the refresh those that it has
+  /// not found to be kept off the screen for good.
   /// Always true, so that an enumeration visits all windows.
   bool EnumWindowsProc(WindowHandle hwnd, std::int32_t mode, const Visit& visit = PassOver);
   /// Hands any window to `visit` in mode 4; always true.
   static bool EnumInstanceProc(SeenWindow& window, std::int32_t mode, const Visit& visit);
 
-  /// Unresolves every Tag, then matches all of them against the desktop. What the search by title
-  /// alone (mode 7) finds for Tag `sought` in the same pass is for LastOnScreen; 0 = none sought.
-  WindowHandles RefreshTags(int sought = 0);
+  /// Unresolves every Tag, then matches all of them against the desktop (mode 3). The windows that
+  /// the search by title alone (mode 7) finds for Tag `sought` in the same pass, for LastOnScreen;
+  /// none when it cannot tell: the Tag is resolved, or the Tags were changed during the pass.
+  std::optional<WindowHandles> RefreshTags(int sought);
   /// Mode 7: the last visible window whose title fits the identification, 0 = none.
   WindowHandle FindByTitle(const std::string& identificationText);
   /// The last one that Windows does not keep off the screen for good, 0 = none.
@@ -59,17 +62,13 @@ class WindowEnumeration {
 
   /// The windows of exactly this class, selectable or not, topmost first.
   WindowHandles FindByClass(const std::string& className);
-  /// Of these windows the last visible and selectable one whose title fits; 0 = none.
+  /// Mode 4: of these windows of one class the last visible and selectable one whose title fits;
+  /// 0 = none.
   WindowHandle FindByTitleAmong(const WindowHandles& windows, const std::string& title) const;
-  /// Mode 4: the same with an exact class.
-  WindowHandle FindByTitleAndClass(const std::string& title, const std::string& className);
   /// Of these windows another copy of the program, by title in any case, since folder names ignore
   /// case: the last one that `qualifies` and is visible, or not shown yet; 0 = none.
   WindowHandle FindInstanceAmong(const WindowHandles& windows, const std::string& title,
                                  bool visible = true, const Test& qualifies = Any) const;
-  /// The same with an exact class.
-  WindowHandle FindInstance(const std::string& className, const std::string& title,
-                            bool visible = true, const Test& qualifies = Any);
   /// Mode 6: the topmost window, below always-on-top ones and other than the main window, that can
   /// be worked in and `qualifies`; 0 = none.
   WindowHandle FindTopWindow(const Test& qualifies = Any);
@@ -77,7 +76,8 @@ class WindowEnumeration {
  private:
   struct Pass;
 
-  Pass BeginPass() const;
+  Pass BeginPass(std::int32_t mode) const;
+  void RefuseNested() const;
   void Enumerate(const Visit& visit);
   void Handle(SeenWindow& window, std::int32_t mode, Pass& pass, const Visit& visit);
   bool Minimize(WindowHandle hwnd);

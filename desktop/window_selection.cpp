@@ -1,6 +1,7 @@
 #include "desktop/window_selection.h"
 
 #include <cstdint>
+#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -140,19 +141,12 @@ ActivationResult WindowSelection::Activate(int tag) {
 ActivationResult WindowSelection::ActivateOrSearch(int tag) {
   ActivationResult result = Activate(tag);
   if (IsTheWindow(result) || windowSearch) return result;
-  const MenuItem* const before = Entry(tag);
-  const std::string sought = before == nullptr ? "" : IdentificationText(*before);
-  const WindowHandles fitting = enumeration_->RefreshTags(tag);
-  const MenuItem* const refreshed = Entry(tag);
-  const bool onePass = refreshed != nullptr && TagHandle(*refreshed) == 0;
+  const std::optional<WindowHandles> fitting = enumeration_->RefreshTags(tag);
   result = Activate(tag);
   const MenuItem* const unresolved = Entry(tag);
   if (IsTheWindow(result) || unresolved == nullptr) return result;
-  const std::string identification = IdentificationText(*unresolved);
-  // Nothing was done to any window since, nor to the Tag.
-  const WindowHandle found = onePass && identification == sought
-                                 ? enumeration_->LastOnScreen(fitting)
-                                 : enumeration_->FindByTitle(identification);
+  const WindowHandle found = fitting ? enumeration_->LastOnScreen(*fitting)
+                                     : enumeration_->FindByTitle(IdentificationText(*unresolved));
   MenuItem* const entry = Entry(tag);
   return found == 0 || entry == nullptr ? result : ActivateFound(*entry, found);
 }

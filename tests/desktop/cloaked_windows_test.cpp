@@ -3,6 +3,7 @@
 
 #include "desktop/foreground_return.h"
 #include "desktop/waiting_window.h"
+#include "platform/run_time_error.h"
 #include "platform/win32_constants.h"
 #include "tests/desktop/desktop_case.h"
 
@@ -34,14 +35,14 @@ class CloakedWindows : public DesktopCase {
 
 TEST_F(CloakedWindows, SearchesPassOverASuspendedWindow) {
   EXPECT_EQ(enumeration.FindByTitle("Mail"), 0);
-  EXPECT_EQ(enumeration.FindByTitleAndClass("Mail", "ApplicationFrameWindow"), 0);
+  EXPECT_EQ(FindByTitleAndClass("Mail", "ApplicationFrameWindow"), 0);
   desktop.SetSuspended(mail, false);
   EXPECT_EQ(enumeration.FindByTitle("Mail"), mail);
 }
 
 TEST_F(CloakedWindows, SearchesFindAWindowOfAnotherDesktop) {
   EXPECT_EQ(enumeration.FindByTitle("Alpha"), alpha);
-  EXPECT_EQ(enumeration.FindByTitleAndClass("Alpha", "Window"), alpha);
+  EXPECT_EQ(FindByTitleAndClass("Alpha", "Window"), alpha);
 }
 
 TEST_F(CloakedWindows, SearchesFindADialogWhoseOwnerStandsOnAnotherDesktop) {
@@ -61,7 +62,7 @@ TEST_F(CloakedWindows, TheRefreshOfTheTagsDoesTheSame) {
   AddTag(1, "Mail");
   AddTag(2, "Alpha");
   AddTag(3, "Beta");
-  enumeration.RefreshTags();
+  enumeration.RefreshTags(1);
   EXPECT_EQ(HandleOfTag(1), 0);
   EXPECT_EQ(ClassOfTag(1), "");
   EXPECT_EQ(HandleOfTag(2), alpha);
@@ -105,9 +106,9 @@ TEST_F(CloakedWindows, WithoutAnAnswerACloakedWindowIsAsVisibleAsEver) {
     desktop.LoseVirtualDesktopManager(lost);
     EXPECT_EQ(Activate(alpha, false), kActivationDone) << lost;
     EXPECT_EQ(enumeration.FindByTitle("Alpha"), alpha) << lost;
-    EXPECT_EQ(enumeration.FindByTitleAndClass("Alpha", "Window"), alpha) << lost;
+    EXPECT_EQ(FindByTitleAndClass("Alpha", "Window"), alpha) << lost;
     tag.tag = "0";
-    enumeration.RefreshTags();
+    enumeration.RefreshTags(1);
     EXPECT_EQ(HandleOfTag(1), alpha) << lost;
   }
 }
@@ -130,7 +131,7 @@ TEST_F(CloakedWindows, TheManagerIsAskedOnlyAboutCloakedWindows) {
 TEST_F(CloakedWindows, ASearchAsksOnlyAboutTheWindowsThatFit) {
   const Calls calls = CallsOf([this] {
     enumeration.FindByTitle("Beta");
-    enumeration.FindByTitleAndClass("Alpha", "Notepad");
+    FindByTitleAndClass("Alpha", "Notepad");
   });
   EXPECT_EQ(std::ranges::count(calls, "DwmGetWindowAttribute(Beta)"), 1);
   for (const char* const title : {"Alpha", "Mail"}) {
@@ -143,9 +144,46 @@ TEST_F(CloakedWindows, AnotherEntryMayGoWhileTheManagerIsAsked) {
   log.WhenCalled("IsWindowOnCurrentVirtualDesktop", [this] {
     for (const int tag : {1, 2}) tags.mnuWindowParentList.Unload(tag);
   });
-  enumeration.RefreshTags();
+  enumeration.RefreshTags(1);
   EXPECT_EQ(tags.mnuWindowParentList.Find(1), nullptr);
   EXPECT_EQ(HandleOfTag(3), alpha);
+}
+
+TEST_F(CloakedWindows, ATagRenamedWhileTheManagerIsAskedIsFoundByItsNewName) {
+  AddTag(1, "Gone", "Old");
+  AddTag(2, "Alpha");
+  log.WhenCalled("IsWindowOnCurrentVirtualDesktop(Alpha",
+                 [this] { tags.mnuWindowParentList.Find(1)->caption = "&1  Beta"; });
+  const Calls calls = CallsOf([this] { routines.selection.SelectTag(1); });
+  EXPECT_EQ(HandleOfTag(1), beta) << "which the refresh has passed over under the former name";
+  EXPECT_EQ(std::ranges::count(calls, "EnumWindows()"), 2);
+}
+
+TEST_F(CloakedWindows, AQuestionThatChangesNothingTakesNoSecondPass) {
+  AddTag(1, "Gone", "Old");
+  AddTag(2, "Alpha");
+  const Calls calls = CallsOf([this] { routines.selection.SelectTag(1); });
+  EXPECT_EQ(std::ranges::count(calls, "IsWindowOnCurrentVirtualDesktop(Alpha)"), 1);
+  EXPECT_EQ(std::ranges::count(calls, "EnumWindows()"), 1);
+  EXPECT_EQ(messages.shown.size(), 1U);
+}
+
+TEST_F(CloakedWindows, ASearchWhileTheManagerIsAskedLeavesTheTagsResolved) {
+  AddTag(1, "Beta");
+  AddTag(2, "Alpha");
+  log.WhenCalled("IsWindowOnCurrentVirtualDesktop(Alpha",
+                 [this] { EXPECT_THROW(enumeration.RefreshTags(1), RunTimeError); });
+  enumeration.RefreshTags(2);
+  EXPECT_EQ(HandleOfTag(1), beta);
+  EXPECT_EQ(HandleOfTag(2), alpha);
+}
+
+TEST_F(CloakedWindows, TheManagerIsAskedOnceAboutASuspendedWindowThatATagFits) {
+  AddTag(1, "Mail", "ApplicationFrameWindow");
+  const Calls calls = CallsOf([this] { routines.selection.SelectTag(1); });
+  EXPECT_EQ(std::ranges::count(calls, "IsWindowOnCurrentVirtualDesktop(Mail)"), 1);
+  EXPECT_EQ(std::ranges::count(calls, "EnumWindows()"), 1);
+  EXPECT_EQ(messages.shown.size(), 1U);
 }
 
 TEST_F(CloakedWindows, TheEntryMayGoWhileItIsSelected) {

@@ -52,6 +52,10 @@ class DesktopCase : public testing::Test {
 
   WindowHandle HandleOfTag(int tag) const { return TagHandle(*tags.mnuWindowParentList.Find(tag)); }
 
+  WindowHandle FindByTitleAndClass(const std::string& title, const std::string& className) {
+    return enumeration.FindByTitleAmong(enumeration.FindByClass(className), title);
+  }
+
   /// The calls of `action`, reads included.
   template <typename Action>
   std::vector<std::string> CallsOf(Action action) {

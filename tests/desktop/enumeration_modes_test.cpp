@@ -37,7 +37,7 @@ TEST_P(EnumerationOfMode, DoesThatAlone) {
 INSTANTIATE_TEST_SUITE_P(
     Modes, EnumerationOfMode,
     testing::Values(ModeCase{"MinimizeAll", 1, false, false},
-                    ModeCase{"RestoreAll", 2, false, false}, ModeCase{"TagRefresh", 3, false, true},
+                    ModeCase{"RestoreAll", 2, false, false}, ModeCase{"TagRefresh", 3, true, true},
                     ModeCase{"TitleAndClass", 4, true, false}, ModeCase{"Nothing", 5, false, false},
                     ModeCase{"TopWindow", 6, true, false}, ModeCase{"Title", 7, true, false},
                     ModeCase{"PastTheLast", 8, false, false}),

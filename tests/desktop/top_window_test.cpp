@@ -3,6 +3,7 @@
 #include <functional>
 #include <limits>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "desktop/window_enumeration.h"
@@ -60,6 +61,16 @@ TEST_F(TopWindow, MeetsTheCallersConditionToo) {
   });
   EXPECT_EQ(found, lower);
   EXPECT_EQ(asked, (std::vector<std::string>{"Upper", "Lower"}));
+}
+
+TEST_F(TopWindow, OnlyWhatMeetsTheConditionIsCounted) {
+  CrowdedDesktop crowded(log);
+  const WindowHandle alpha = crowded.Open("Alpha");
+  const WindowFilter crowdedFilter(crowded, crowded, options, forms, mainWindow);
+  WindowEnumeration counting(crowded, routines.requests, crowdedFilter, mainWindow, passes);
+  bool first = true;
+  EXPECT_EQ(counting.FindTopWindow([&](SeenWindow&) { return std::exchange(first, false); }),
+            alpha);
 }
 
 TEST_F(TopWindow, ForgetsTheConditionOfTheLastSearch) {

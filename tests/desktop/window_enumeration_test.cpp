@@ -12,7 +12,13 @@
 namespace korvale {
 namespace {
 
-class WindowEnumerationTest : public DesktopCase {};
+class WindowEnumerationTest : public DesktopCase {
+ protected:
+  WindowHandle FindInstance(const std::string& className, const std::string& title,
+                            bool visible = true) {
+    return enumeration.FindInstanceAmong(enumeration.FindByClass(className), title, visible);
+  }
+};
 
 TEST_F(WindowEnumerationTest, CallbackAlwaysAsksForMore) {
   const WindowHandle hwnd = desktop.Open("Alpha");
@@ -63,7 +69,7 @@ TEST_F(WindowEnumerationTest, NestedEnumerationsAreAnError) {
 
 TEST_F(WindowEnumerationTest, InstanceSearchInsideAnotherOneIsAnErrorToo) {
   desktop.Open("Alpha");
-  log.WhenCalled("GetClassNameA", [&] { enumeration.FindInstance("c", "t"); });
+  log.WhenCalled("GetClassNameA", [&] { enumeration.FindByClass("c"); });
   EXPECT_THROW(enumeration.EnumWindows(kTopWindow), RunTimeError);
 }
 
@@ -79,7 +85,7 @@ TEST_F(WindowEnumerationTest, RefreshResolvesEachTagToItsTopmostWindow) {
   AddTag(2, "Beta");
   desktop.Open("Alpha below");
   const WindowHandle above = desktop.Open("Alpha above");
-  enumeration.RefreshTags();
+  enumeration.RefreshTags(1);
   EXPECT_EQ(HandleOfTag(1), above);
   EXPECT_EQ(HandleOfTag(2), 0);
 }
@@ -88,14 +94,14 @@ TEST_F(WindowEnumerationTest, RefreshPassesOverWindowsWithoutChildren) {
   AddTag(1, "Alpha");
   const WindowHandle below = desktop.Open("Alpha below");
   desktop.Open("Alpha above", {.children = 0});
-  enumeration.RefreshTags();
+  enumeration.RefreshTags(1);
   EXPECT_EQ(HandleOfTag(1), below);
 }
 
 TEST_F(WindowEnumerationTest, RefreshFindsHiddenWindowsToo) {
   AddTag(1, "Alpha");
   const WindowHandle hidden = desktop.Open("Alpha", {.visible = false});
-  enumeration.RefreshTags();
+  enumeration.RefreshTags(1);
   EXPECT_EQ(HandleOfTag(1), hidden);
 }
 
@@ -105,7 +111,7 @@ TEST_F(WindowEnumerationTest, RefreshResolvesNineTagsAtOnce) {
     AddTag(tag, "Window " + std::to_string(tag));
     handles.push_back(desktop.Open("Window " + std::to_string(tag)));
   }
-  enumeration.RefreshTags();
+  enumeration.RefreshTags(1);
   for (int tag = 1; tag <= kTagCount; ++tag) {
     EXPECT_EQ(HandleOfTag(tag), handles.at(static_cast<std::size_t>(tag - 1)));
   }
@@ -115,7 +121,7 @@ TEST_F(WindowEnumerationTest, RefreshLearnsTheClassOfTheTopmostWindow) {
   AddTag(1, "Alpha");
   desktop.Open("Alpha", {.className = "Lower"});
   desktop.Open("Alpha", {.className = "Upper"});
-  enumeration.RefreshTags();
+  enumeration.RefreshTags(1);
   EXPECT_EQ(ClassOfTag(1), "Upper");
 }
 
@@ -162,23 +168,23 @@ TEST_F(WindowEnumerationTest, SearchByTitleAndClassFindsTheLowestMatchOfBoth) {
   const WindowHandle lower = desktop.Open("Alpha 1", {.className = "Notepad"});
   desktop.Open("Alpha 2", {.className = "Notepad"});
   desktop.Open("Alpha 3", {.className = "WordPad"});
-  EXPECT_EQ(enumeration.FindByTitleAndClass("Alpha", "Notepad"), lower);
-  EXPECT_EQ(enumeration.FindByTitleAndClass("Alpha", "notepad"), 0);
-  EXPECT_EQ(enumeration.FindByTitleAndClass("Beta", "Notepad"), 0);
+  EXPECT_EQ(FindByTitleAndClass("Alpha", "Notepad"), lower);
+  EXPECT_EQ(FindByTitleAndClass("Alpha", "notepad"), 0);
+  EXPECT_EQ(FindByTitleAndClass("Beta", "Notepad"), 0);
 }
 
 TEST_F(WindowEnumerationTest, SearchByTitleAndClassPassesOverHiddenWindows) {
   desktop.Open("Alpha", {.className = "Notepad", .visible = false});
-  EXPECT_EQ(enumeration.FindByTitleAndClass("Alpha", "Notepad"), 0);
+  EXPECT_EQ(FindByTitleAndClass("Alpha", "Notepad"), 0);
 }
 
 TEST_F(WindowEnumerationTest, SearchByTitleAndClassReadsOnlyTheClassOfAnyOtherWindow) {
   desktop.Open("Alpha");
-  EXPECT_EQ(CallsOf([&] { enumeration.FindByTitleAndClass("Alpha", "Window"); }),
+  EXPECT_EQ(CallsOf([&] { FindByTitleAndClass("Alpha", "Window"); }),
             (Calls{"EnumWindows()", "GetClassNameA(Alpha, 255)", "GetClassNameA(Main, 255)",
                    "GetClassNameA(Owner, 255)", "GetWindowLongA(Alpha, GWL_STYLE)",
-                   "GetWindowTextA(Alpha, 512)", "GetClassNameA(Alpha, 255)",
-                   "GetWindow(Main, GW_OWNER)", "DwmGetWindowAttribute(Alpha)"}));
+                   "GetWindowTextA(Alpha, 512)", "GetWindow(Main, GW_OWNER)",
+                   "GetClassNameA(Alpha, 255)", "DwmGetWindowAttribute(Alpha)"}));
 }
 
 TEST_F(WindowEnumerationTest, ARefreshFindsTheLowestMatchByTitleForTheSoughtTagToo) {
@@ -192,7 +198,18 @@ TEST_F(WindowEnumerationTest, ARefreshFindsTheLowestMatchByTitleForTheSoughtTagT
   EXPECT_EQ(enumeration.LastOnScreen({upper, lower}), lower);
   EXPECT_EQ(HandleOfTag(1), 0);
   EXPECT_EQ(HandleOfTag(2), upper);
-  EXPECT_EQ(enumeration.RefreshTags(), WindowHandles{});
+  EXPECT_EQ(enumeration.RefreshTags(2), std::nullopt) << "it is resolved";
+  EXPECT_EQ(enumeration.RefreshTags(3), std::nullopt) << "there is none";
+}
+
+TEST_F(WindowEnumerationTest, ARefreshInsideAnotherSearchLeavesTheTagsAlone) {
+  AddTag(1, "Alpha").tag = "17";
+  desktop.Open("Alpha");
+  std::int16_t number = 0;
+  log.WhenCalled("GetClassNameA", [&] { number = ErrorOf([&] { enumeration.RefreshTags(1); }); });
+  enumeration.FindByTitle("Alpha");
+  EXPECT_EQ(number, RunTimeError::kInvalidCall);
+  EXPECT_EQ(HandleOfTag(1), 17);
 }
 
 TEST_F(WindowEnumerationTest, InstanceSearchFindsTheLowestOtherCopy) {
@@ -200,36 +217,36 @@ TEST_F(WindowEnumerationTest, InstanceSearchFindsTheLowestOtherCopy) {
   const WindowHandle lower = desktop.Open("Main", copy);
   desktop.Open("Main", copy);
   desktop.UserActivates(mainWindow.handle);
-  EXPECT_EQ(enumeration.FindInstance("Korvale.frmMain", "Main"), lower);
+  EXPECT_EQ(FindInstance("Korvale.frmMain", "Main"), lower);
 }
 
 TEST_F(WindowEnumerationTest, InstanceSearchPassesOverTheProgramItself) {
-  EXPECT_EQ(enumeration.FindInstance("Korvale.frmMain", "Main"), 0);
+  EXPECT_EQ(FindInstance("Korvale.frmMain", "Main"), 0);
 }
 
 TEST_F(WindowEnumerationTest, InstanceSearchNeedsTheExactTitleAndClassOfAVisibleWindow) {
   desktop.Open("Main 2", {.className = "Korvale.frmMain"});
   desktop.Open("Main", {.className = "korvale.frmmain"});
   desktop.Open("Main", {.className = "Korvale.frmMain", .visible = false});
-  EXPECT_EQ(enumeration.FindInstance("Korvale.frmMain", "Main"), 0);
+  EXPECT_EQ(FindInstance("Korvale.frmMain", "Main"), 0);
 }
 
 TEST_F(WindowEnumerationTest, InstanceSearchIgnoresTheCaseOfTheFolder) {
   const WindowHandle hwnd = desktop.Open("MAIN", {.className = "Korvale.frmMain"});
-  EXPECT_EQ(enumeration.FindInstance("Korvale.frmMain", "Main"), hwnd);
+  EXPECT_EQ(FindInstance("Korvale.frmMain", "Main"), hwnd);
 }
 
 TEST_F(WindowEnumerationTest, HiddenInstanceSearchFindsACopyThatIsStarting) {
   desktop.Open("Main", {.className = "Korvale.frmMain"});
-  EXPECT_EQ(enumeration.FindInstance("Korvale.frmMain", "Main", false), 0);
+  EXPECT_EQ(FindInstance("Korvale.frmMain", "Main", false), 0);
   const WindowHandle hidden =
       desktop.Open("Main", {.className = "Korvale.frmMain", .visible = false});
-  EXPECT_EQ(enumeration.FindInstance("Korvale.frmMain", "Main", false), hidden);
+  EXPECT_EQ(FindInstance("Korvale.frmMain", "Main", false), hidden);
 }
 
 TEST_F(WindowEnumerationTest, InstanceSearchDoesNotApplyTheFilter) {
   const WindowHandle hwnd = desktop.Open("Program Manager", {.className = "Progman"});
-  EXPECT_EQ(enumeration.FindInstance("Progman", "Program Manager"), hwnd);
+  EXPECT_EQ(FindInstance("Progman", "Program Manager"), hwnd);
 }
 
 TEST_F(WindowEnumerationTest, InstanceSearchActsInMode4Only) {
@@ -244,9 +261,9 @@ TEST_F(WindowEnumerationTest, InstanceSearchActsInMode4Only) {
 
 TEST_F(WindowEnumerationTest, InstanceSearchForgetsTheLastSearch) {
   const WindowHandle hwnd = desktop.Open("Main", {.className = "Korvale.frmMain"});
-  EXPECT_EQ(enumeration.FindInstance("Korvale.frmMain", "Main"), hwnd);
+  EXPECT_EQ(FindInstance("Korvale.frmMain", "Main"), hwnd);
   desktop.Close(hwnd);
-  EXPECT_EQ(enumeration.FindInstance("Korvale.frmMain", "Main"), 0);
+  EXPECT_EQ(FindInstance("Korvale.frmMain", "Main"), 0);
 }
 
 }  // namespace
