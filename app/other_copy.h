@@ -25,7 +25,8 @@ class OtherCopy {
   /// No other copy of this installation runs or is about to.
   bool Alone() const { return alone_; }
 
-  /// The main windows of all copies of Korvale, topmost first.
+  /// The main windows of all copies of Korvale, this one's included, topmost first. While it
+  /// starts, its own is hidden, so that a search for visible ones passes over it.
   WindowHandles FindAll(Desktop& desktop);
   /// When another copy of this installation is among `copies`, tells the user, brings it forward
   /// and returns true: this one must end.

@@ -4,7 +4,7 @@
 #include "app/core/identity.h"
 #include "app/core/installation.h"
 #include "app/core/save_scope.h"
-#include "desktop/window_readers.h"
+#include "desktop/seen_window.h"
 #include "forms/hot_key_lists.h"
 #include "platform/win32_constants.h"
 #include "util/raised_flag.h"
@@ -169,14 +169,10 @@ void StartUp::FirstActivation(frmMain& form, MainParts& parts) {
 }
 
 void StartUp::RecordPreviousWindow(frmMain& form, Desktop& desktop, const clsOptions& options) {
-  const WindowHandle before = desktop.enumeration.FindTopWindow([&](SeenWindow& window) {
-    return desktop.tracker.AcceptForeground(window.Handle(), std::string(window.Title()));
-  });
-  if (before != 0) {
-    desktop.tracker.Follow({before, GetWindowTitle(platform_->windows, before),
-                            GetWindowClass(platform_->windows, before)});
-    desktop.tracker.ValidatePreviousWindow();
-  }
+  const WindowHandle before = desktop.enumeration.FindTopWindow(
+      [&](SeenWindow& window) { return desktop.tracker.IsAccepted(window); });
+  SeenWindow seen(platform_->windows, before);
+  if (before != 0) desktop.tracker.FollowIfAccepted(seen);
   // The user has come to the main window from another one, as if they had clicked it; not to a
   // minimized one.
   if (form.WindowState() != ShowState::kMinimized) desktop.tracker.LookAnew();

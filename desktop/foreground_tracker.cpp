@@ -160,19 +160,9 @@ bool ForegroundTracker::CanComeBack(WindowHandle hwnd) {
          windows_->IsWindowEnabled(hwnd) && !windows_->IsIconic(hwnd);
 }
 
-bool ForegroundTracker::AcceptForeground(WindowHandle hwnd, const std::string& title) const {
-  return filter_->IsSelectableWindow(hwnd, true, true) ||
-         IdentifyingEntry(*tags_, title, GetWindowClass(*windows_, hwnd)) != nullptr;
-}
-
 bool ForegroundTracker::IsAccepted(SeenWindow& window) const {
   return filter_->IsSelectableWindow(window, true, true) ||
          IdentifyingEntry(*tags_, window.Title(), window.ClassName()) != nullptr;
-}
-
-void ForegroundTracker::Follow(const WindowTriple& window) {
-  SeenWindow seen(*windows_, window.handle);
-  if (!FollowIfAccepted(seen)) MoveRecordTo({window.handle, window.className});
 }
 
 bool ForegroundTracker::FollowIfAccepted(SeenWindow& window) {

@@ -70,14 +70,11 @@ class ForegroundTracker {
 
   /// Whether a window that passed the basic checks may become the Previous Window: the options
   /// allow it, or else a Tag identifies it.
-  bool AcceptForeground(WindowHandle hwnd, const std::string& title) const;
+  bool IsAccepted(SeenWindow& window) const;
 
-  /// As Follow when AcceptForeground accepts the window; otherwise does nothing and gives false.
+  /// Moves the record to a window that is accepted, and shows it; when the options exclude the
+  /// window, the Tag that identifies it takes its handle. Otherwise does nothing and gives false.
   bool FollowIfAccepted(SeenWindow& window);
-
-  /// Moves the record to a window that AcceptForeground accepts, and shows it. When the options
-  /// exclude the window, the Tag that identifies it takes its handle.
-  void Follow(const WindowTriple& window);
 
   /// Moves the record to a window that was just brought to the front (SetForegroundWindow), which
   /// Windows may do a moment later, and shows it.
@@ -92,7 +89,6 @@ class ForegroundTracker {
 
   void NoteForeground(SeenWindow& front);
   void FollowForeground(SeenWindow& front);
-  bool IsAccepted(SeenWindow& window) const;
   /// The user is in `window` now. Unless that is the main window, it becomes the Previous Window,
   /// and the window before it, or the main window when that had the focus, the alternate.
   void MoveRecordTo(const KnownWindow& window);

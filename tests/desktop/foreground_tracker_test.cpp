@@ -186,7 +186,8 @@ TEST_F(ForegroundTracking, OnlyTheFirstFittingTagTakesTheWindow) {
 TEST_F(ForegroundTracking, AskingWhetherAWindowIsAcceptedLeavesItsTagAlone) {
   AddTag(3, "Tool", "Window");
   const WindowHandle tool = desktop.Open("Tool", {.exStyle = win32::kWsExToolWindow});
-  EXPECT_TRUE(tracker.AcceptForeground(tool, "Tool"));
+  SeenWindow seen(desktop, tool);
+  EXPECT_TRUE(tracker.IsAccepted(seen));
   EXPECT_EQ(HandleOfTag(3), 0);
 }
 

@@ -7,18 +7,24 @@
 namespace korvale {
 namespace {
 
-class RecordMoves : public ForegroundTracking {};
+class RecordMoves : public ForegroundTracking {
+ protected:
+  void Follow(WindowHandle hwnd) {
+    SeenWindow window(desktop, hwnd);
+    EXPECT_TRUE(tracker.FollowIfAccepted(window));
+  }
+};
 
 TEST_F(RecordMoves, WindowBeforeBecomesTheAlternate) {
   WorkIn(alpha);
-  tracker.Follow(Triple(beta));
+  Follow(beta);
   ExpectRecord(Triple(beta), Triple(alpha));
 }
 
 TEST_F(RecordMoves, MainWindowBecomesTheAlternateWhileItIsInFront) {
   WorkIn(alpha);
   WorkIn(mainWindow.handle);
-  tracker.Follow(Triple(beta));
+  Follow(beta);
   ExpectRecord(Triple(beta), Triple(mainWindow.handle));
   EXPECT_EQ(mainWindow.focusTag, "");
 }
@@ -26,7 +32,7 @@ TEST_F(RecordMoves, MainWindowBecomesTheAlternateWhileItIsInFront) {
 TEST_F(RecordMoves, AlternateItselfMayBecomeTheCurrentOne) {
   WorkIn(alpha);
   WorkIn(beta);
-  tracker.Follow(previous.alternate);
+  Follow(previous.alternate.handle);
   ExpectRecord(Triple(alpha), Triple(beta));
 }
 

@@ -45,7 +45,8 @@ class HotKeyDispatchTest : public testing::Test, protected DispatchDesktop {
     main = Open("Korvale - Work", "Korvale.frmMain", "main");
     mainWindow.handle = main;
     forms.Load("frmMain", main);
-    tracker.Follow({target, "Target", "Editor"});
+    SeenWindow seen(desktop, target);
+    tracker.FollowIfAccepted(seen);
     desktop.UserActivates(target);
     log.Clear();
     const auto record = [this](const std::string& call) { log.Add(call); };

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -25,6 +26,12 @@ class StartCallCounts : public StartTest {
     calls.erase(registered, calls.end());
     return calls;
   }
+
+  static std::ptrdiff_t CountNaming(const std::vector<std::string>& calls,
+                                    const std::string& window) {
+    return std::ranges::count_if(
+        calls, [&](const std::string& call) { return call.find(window) != std::string::npos; });
+  }
 };
 
 TEST_F(StartCallCounts, AStartLooksOnceOverTheDesktopForOtherCopies) {
@@ -36,6 +43,30 @@ TEST_F(StartCallCounts, AStartLooksOnceOverTheDesktopForOtherCopies) {
   EXPECT_LE(std::ranges::count(calls, "GetClassNameA(Document, 255)"), kWindows);
   EXPECT_EQ(std::ranges::count(calls, "GetWindowTextA(Document, 512)"), 0);
   EXPECT_EQ(std::ranges::count(calls, "IsWindowVisible(Document)"), 0);
+}
+
+/// Each window that could be in front is looked at once, and the one that was becomes the Previous
+/// Window.
+TEST_F(StartCallCounts, TheFirstActivationLooksOnceOverTheDesktop) {
+  constexpr int kWindows = 20;
+  for (int i = 0; i < kWindows; ++i) Open("Document");
+  Open("Alpha");
+  KorvaleCopy& korvale = UsedCopy();
+  log.IncludeReads(true);
+  EXPECT_TRUE(korvale.Start());
+  log.IncludeReads(false);
+  const std::vector<std::string> calls = log.Take();
+  EXPECT_EQ(korvale.TargetWindow(), "Alpha");
+  EXPECT_EQ(std::ranges::count(calls, "EnumWindows()"), 2) << "with that for other copies";
+  constexpr int kClassForOtherCopies = 1;
+  // Style, extended style, class, cloak, title.
+  constexpr int kLook = 5;
+  EXPECT_EQ(CountNaming(calls, "(Document"), (kClassForOtherCopies + kLook) * kWindows);
+  // What accepts it, its class last.
+  constexpr int kFollow = 4;
+  // Whether it can be reached, its title, and whether it is always on top.
+  constexpr int kRecord = 6;
+  EXPECT_EQ(CountNaming(calls, "(Alpha"), kClassForOtherCopies + kLook + kFollow + kRecord);
 }
 
 TEST_F(StartCallCounts, AnotherInstallationThatRunsTakesNoSecondLook) {
