@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -199,6 +200,27 @@ TEST_F(DesktopContract, TellsVisibleFromHiddenAndEnabledFromDisabled) {
   EXPECT_TRUE(queries_.IsWindowEnabled(hidden));
   EXPECT_FALSE(queries_.IsWindowVisible(queries_.GetWindow(hidden, win32::kGwChild)));
   EXPECT_FALSE(queries_.IsHungAppWindow(shown));
+}
+
+TEST_F(DesktopContract, TellsTheSameByTheStyle) {
+  const WindowHandle shown = OpenPlain("Contract Shown");
+  const WindowHandle hidden = Open({.title = "Contract Hidden", .visible = false});
+  const WindowHandle disabled = Open({.title = "Contract Disabled", .enabled = false});
+  const WindowHandle owner = OpenPlain("Contract Owner");
+  const WindowHandle owned = Open({.title = "Contract Owned", .owner = owner, .popup = true});
+  Show(owner, win32::kSwMinimize);
+  const WindowHandle gone = OpenPlain("Contract Gone");
+  Close(gone);
+
+  EXPECT_TRUE(queries_.IsIconic(owner));
+  EXPECT_FALSE(queries_.IsWindowVisible(owned));
+  for (const WindowHandle hwnd : {shown, hidden, disabled, owner, owned, gone}) {
+    const auto has = [&](std::int32_t bit) { return HasStyle(hwnd, win32::kGwlStyle, bit); };
+    EXPECT_EQ(has(win32::kWsVisible), queries_.IsWindowVisible(hwnd)) << Title(hwnd);
+    EXPECT_EQ(has(win32::kWsMinimize), queries_.IsIconic(hwnd)) << Title(hwnd);
+    const bool enabled = queries_.IsWindow(hwnd) && !has(win32::kWsDisabled);
+    EXPECT_EQ(enabled, queries_.IsWindowEnabled(hwnd)) << Title(hwnd);
+  }
 }
 
 TEST_F(DesktopContract, CloaksNoOrdinaryWindow) {

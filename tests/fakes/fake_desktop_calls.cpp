@@ -21,7 +21,7 @@ int CopyText(const std::string& text, std::span<char> buffer) {
 
 std::int32_t LiveStyle(const FakeWindow& window) {
   std::int32_t style = window.style;
-  if (window.visible && !window.hiddenByOwner) style |= win32::kWsVisible;
+  if (window.IsShown()) style |= win32::kWsVisible;
   if (!window.enabled) style |= win32::kWsDisabled;
   if (window.iconic) style |= win32::kWsMinimize;
   if (window.zoomed) style |= fakes::kWsMaximize;
@@ -158,7 +158,7 @@ bool FakeDesktop::ShowWindow(WindowHandle hwnd, int command) {
   log_.Add("ShowWindow(" + log_.Window(hwnd) + ", " + ShowCommandText(command) + ")");
   if (!CanChange(hwnd)) return false;
   const FakeWindow* const window = windows_.Find(hwnd);
-  const bool was_visible = window->visible && !window->hiddenByOwner;
+  const bool was_visible = window->IsShown();
   if (WaitFor(hwnd)) windows_.Show(hwnd, command);
   return was_visible;
 }

@@ -75,6 +75,9 @@ struct FakeWindow {
   PixelRect place;
   std::vector<WindowHandle> children;            ///< Topmost first.
   std::vector<std::function<void()>> waiting{};  ///< What others asked for while it was busy.
+
+  /// WS_VISIBLE.
+  bool IsShown() const { return visible && !hiddenByOwner; }
 };
 
 }  // namespace korvale

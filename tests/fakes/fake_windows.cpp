@@ -123,7 +123,7 @@ const FakeWindow* FakeWindows::Find(WindowHandle hwnd) const {
 
 bool FakeWindows::IsVisible(WindowHandle hwnd) const {
   const FakeWindow* const window = Find(hwnd);
-  if (window == nullptr || !window->visible || window->hiddenByOwner) return false;
+  if (window == nullptr || !window->IsShown()) return false;
   return window->parent == 0 || IsVisible(window->parent);
 }
 
