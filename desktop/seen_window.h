@@ -45,9 +45,10 @@ class SeenWindow {
  private:
   WindowQueries* windows_;
   WindowHandle hwnd_;
-  TitleBuffer titleBuffer_{};
+  // Neither is cleared: what stands there is told by the views below.
+  TitleBuffer titleBuffer_;
   std::string longTitle_;
-  ClassBuffer classBuffer_{};
+  ClassBuffer classBuffer_;
   std::optional<std::string_view> title_;
   std::optional<std::string_view> className_;
   std::optional<std::int32_t> style_;

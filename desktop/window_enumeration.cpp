@@ -98,11 +98,10 @@ std::optional<WindowHandles> WindowEnumeration::RefreshTags(int sought) {
   tagPasses_->TagListPass(TagListMode::kUnresolve);
   Pass pass = BeginPass(kTagRefresh);
   WindowHandles found;
-  Enumerate([&](SeenWindow& window) {
-    Handle(window, kTagRefresh, pass, [&](SeenWindow& seen) {
-      if (pass.tags->FitsByTitle(sought, seen)) found.push_back(seen.Handle());
-    });
-  });
+  const Visit collect = [&](SeenWindow& window) {
+    if (pass.tags->FitsByTitle(sought, window)) found.push_back(window.Handle());
+  };
+  Enumerate([&](SeenWindow& window) { Handle(window, kTagRefresh, pass, collect); });
   if (!pass.tags->HasLookedFor(sought)) return std::nullopt;
   return found;
 }

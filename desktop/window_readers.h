@@ -16,8 +16,8 @@ inline constexpr int kMostOwners = 16;
 /// Stands where a title is shown that is empty.
 inline constexpr const char* kUntitled = "(window without a title)";
 
-/// Holds any ordinary title, and the class name of any window.
-using TitleBuffer = std::array<char, 512>;
+using TitleBuffer = std::array<char, kOrdinaryTitle>;
+/// Holds the class name of any window.
 using ClassBuffer = std::array<char, 255>;
 
 /// The whole title of a window, read now (GetWindowTextA); "" when the window is gone or untitled.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <span>
@@ -8,6 +9,9 @@
 #include "platform/types.h"
 
 namespace korvale {
+
+/// A buffer of this size holds any ordinary title.
+inline constexpr std::size_t kOrdinaryTitle = 512;
 
 /// Reads the windows of the desktop. Every method is the user32 call of its name, but texts are
 /// UTF-8 also where that is an A call; a window that is gone gives the call's own failure value (0

@@ -15,8 +15,6 @@ namespace {
 
 constexpr int kBytesPerUnit = 3;  // The most UTF-8 bytes that one UTF-16 unit becomes.
 constexpr std::size_t kLongestClassName = 257;
-/// A buffer of this size holds any ordinary title, and is kept on the stack.
-constexpr std::size_t kOrdinaryTitle = 512;
 
 struct Enumeration {
   const std::function<bool(WindowHandle)>* visit;
@@ -33,15 +31,14 @@ BOOL CALLBACK VisitWindow(HWND hwnd, LPARAM parameter) {
   }
 }
 
-/// Copies as much of `text` as fits before a NUL; returns the bytes copied. A text that fits in any
-/// case is converted on the spot.
+/// Copies as much of `text` as fits before a NUL; returns the bytes copied. A text that fits is
+/// converted on the spot.
 int CopyAsUtf8(std::wstring_view text, std::span<char> buffer) {
-  if (text.size() * kBytesPerUnit >= buffer.size()) {
-    return CopyText(ToUtf8(text), buffer.data(), buffer.size());
-  }
+  if (text.empty() || buffer.size() < 2) return CopyText("", buffer.data(), buffer.size());
   const int length =
       WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), buffer.data(),
                           static_cast<int>(buffer.size() - 1), nullptr, nullptr);
+  if (length == 0) return CopyText(ToUtf8(text), buffer.data(), buffer.size());
   buffer[static_cast<std::size_t>(length)] = '\0';
   return length;
 }
@@ -79,7 +76,7 @@ int WindowsWindowApi::GetWindowTextLengthA(WindowHandle hwnd) {
 
 int WindowsWindowApi::GetWindowTextA(WindowHandle hwnd, std::span<char> buffer) {
   if (buffer.empty()) return 0;
-  std::array<wchar_t, kOrdinaryTitle> ordinary{};
+  std::array<wchar_t, kOrdinaryTitle> ordinary;
   std::wstring longer;
   if (buffer.size() > ordinary.size()) longer.resize(buffer.size());
   const std::span<wchar_t> text =
@@ -89,7 +86,7 @@ int WindowsWindowApi::GetWindowTextA(WindowHandle hwnd, std::span<char> buffer) 
 }
 
 int WindowsWindowApi::GetClassNameA(WindowHandle hwnd, std::span<char> buffer) {
-  std::array<wchar_t, kLongestClassName> name{};
+  std::array<wchar_t, kLongestClassName> name;
   const int length = ::GetClassNameW(ToHwnd(hwnd), name.data(), static_cast<int>(name.size()));
   return CopyAsUtf8({name.data(), static_cast<std::size_t>(length)}, buffer);
 }

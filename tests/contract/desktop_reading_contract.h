@@ -69,6 +69,17 @@ TEST_F(DesktopContract, ReadsTitlesInAnyScript) {
   }
 }
 
+TEST_F(DesktopContract, ReadsATextThatJustFitsAndCutsALongerOne) {
+  const std::string name(200, 'c');
+  const WindowHandle hwnd = Open({.title = "Блокнот", .className = name});
+
+  EXPECT_EQ(ClassName(hwnd, name.size() + 1), name);
+  EXPECT_EQ(ClassName(hwnd, name.size()), name.substr(1));
+  EXPECT_EQ(Title(hwnd, 15), "Блокнот");
+  EXPECT_EQ(Title(hwnd, 13), "Блокно");
+  EXPECT_EQ(Title(hwnd, 1), "");
+}
+
 TEST_F(DesktopContract, CutsATitleToTheBuffer) {
   const WindowHandle hwnd = OpenPlain("Contract");
   std::array<char, 4> buffer{'?', '?', '?', '?'};

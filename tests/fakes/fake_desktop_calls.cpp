@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cstddef>
+#include <string_view>
 
 #include "platform/win32_constants.h"
 #include "tests/fakes/fake_desktop.h"
@@ -11,7 +12,7 @@ namespace {
 /// What a count of readings adds to a title at most.
 constexpr int kLongestCount = 16;
 
-int CopyText(const std::string& text, std::span<char> buffer) {
+int CopyText(std::string_view text, std::span<char> buffer) {
   if (buffer.empty()) return 0;
   const std::size_t length = std::min(text.size(), buffer.size() - 1);
   std::copy_n(text.begin(), length, buffer.begin());
@@ -94,7 +95,7 @@ int FakeDesktop::GetWindowTextA(WindowHandle hwnd, std::span<char> buffer) {
 
 int FakeDesktop::GetClassNameA(WindowHandle hwnd, std::span<char> buffer) {
   const FakeWindow* const window = Read("GetClassNameA", hwnd, std::to_string(buffer.size()));
-  return CopyText(window == nullptr ? "" : window->className, buffer);
+  return CopyText(window == nullptr ? std::string_view() : window->className, buffer);
 }
 
 bool FakeDesktop::IsWindow(WindowHandle hwnd) { return Read("IsWindow", hwnd) != nullptr; }

@@ -24,10 +24,47 @@ bool CountsAllocations() {
   return counts;
 }
 
-class TickAllocationsTest : public KorvaleWorld {
+class AllocationsTest : public KorvaleWorld {
  protected:
   void SetUp() override {
     if (!CountsAllocations()) GTEST_SKIP() << "this build cannot count allocations";
+  }
+};
+
+class RefreshAllocationsTest : public AllocationsTest {
+ protected:
+  int OfARefresh() {
+    WindowEnumeration& enumeration = korvale.Form().Parts().desktop.enumeration;
+    const int before = allocations;
+    enumeration.RefreshTags(1);
+    return allocations - before;
+  }
+
+  void OpenHundred(const NewWindow& options) {
+    const std::string longTitle(200, 'x');
+    for (int i = 0; i < 100; ++i) desktop.Open(longTitle, options);
+  }
+
+  KorvaleCopy& korvale = StartedCopy();
+};
+
+TEST_F(RefreshAllocationsTest, AreAsManyForAnyNumberOfWindows) {
+  AddTagEntry(korvale.Tags(), 1, "&1  Gone");
+  AddTagEntry(korvale.Tags(), 2, "&2  *** - Nowhere");
+  const int ofFewWindows = OfARefresh();
+  OpenHundred({.activate = false});
+  OpenHundred({.visible = false});
+  OpenHundred({.className = std::string(200, 'c'), .activate = false});
+  EXPECT_EQ(OfARefresh(), ofFewWindows);
+  constexpr int kTagsAndTheList = 16;
+  EXPECT_LE(ofFewWindows, kTagsAndTheList);
+}
+
+class TickAllocationsTest : public AllocationsTest {
+ protected:
+  void SetUp() override {
+    AllocationsTest::SetUp();
+    if (IsSkipped()) return;
     WorkIn(alpha);
     WorkIn(beta);
   }
