@@ -224,7 +224,6 @@ TEST_F(DesktopContract, TellsTheSameByTheStyle) {
   Close(gone);
 
   EXPECT_TRUE(queries_.IsIconic(owner));
-  EXPECT_FALSE(queries_.IsWindowVisible(owned));
   for (const WindowHandle hwnd : {shown, hidden, disabled, owner, owned, gone}) {
     const auto has = [&](std::int32_t bit) { return HasStyle(hwnd, win32::kGwlStyle, bit); };
     EXPECT_EQ(has(win32::kWsVisible), queries_.IsWindowVisible(hwnd)) << Title(hwnd);
