@@ -80,7 +80,7 @@ TEST_F(CallCounts, RefindingReadsTheClassAloneOnceTheSoughtTagIsFound) {
   AddTag(2, "Found", "Editor");
   desktop.Open("Found", {.className = "Editor"});
   const int calls = CountOf([this] { enumeration.RefreshTags(2); });
-  constexpr int classOfMain = 1;
+  const int classOfMain = 1;
   EXPECT_EQ(calls, kPass + 4 + 100 + classOfMain);
 }
 

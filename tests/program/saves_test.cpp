@@ -15,38 +15,118 @@ class SavesTest : public StartTest {
     StoreTag(2, "Beta");
   }
 
-  /// How often the store has been changed since the last call.
-  std::size_t Writes() {
-    const std::vector<std::string> calls = log.Take();
-    return static_cast<std::size_t>(std::ranges::count_if(calls, [](const std::string& call) {
-      return call.starts_with("SaveSetting") || call.starts_with("Delete");
-    }));
+  using Calls = std::vector<std::string>;
+
+  /// What `action` asks of the store and tells it.
+  template <typename Action>
+  Calls StoreCallsOf(Action action) {
+    log.Clear();
+    log.IncludeReads(true);
+    action();
+    log.IncludeReads(false);
+    Calls calls = log.Take();
+    std::erase_if(calls, [](const std::string& call) {
+      return !call.starts_with("GetSetting") && !call.starts_with("GetAllSettings") &&
+             !call.starts_with("SaveSetting") && !call.starts_with("Delete");
+    });
+    return calls;
+  }
+
+  /// The keys of both Tags and the way back.
+  Calls StoreCallsOfTags() {
+    return StoreCallsOf([this] {
+      for (int press = 0; press < 3; ++press) {
+        ExpectTagLeadsTo(1, "Alpha");
+        ExpectTagLeadsTo(2, "Beta");
+        ExpectTagLeadsTo(0, "Alpha");
+      }
+    });
+  }
+
+  void StoreStartup(const std::string& key, const std::string& value) {
+    store.SaveSetting("Korvale - Work", "Startup", key, value);
+  }
+
+  static void Drag(KorvaleCopy& korvale) {
+    korvale.user.Drag(korvale.Handle(), {4005, 2010, 4500, 1100});
   }
 
   const WindowHandle alpha = Open("Alpha");
   const WindowHandle beta = Open("Beta");
 };
 
-TEST_F(SavesTest, ASelectedTagWritesNothing) {
+TEST_F(SavesTest, ASelectedTagLeavesTheStoreAlone) {
   StartedCopy();
-  for (int press = 0; press < 3; ++press) {
-    ExpectTagLeadsTo(1, "Alpha");
-    ExpectTagLeadsTo(2, "Beta");
-    ExpectTagLeadsTo(0, "Alpha");
-  }
-  EXPECT_EQ(Writes(), 0U);
+  EXPECT_EQ(StoreCallsOfTags(), Calls());
 }
 
-TEST_F(SavesTest, ATagThatIsFoundAgainOrMissingWritesNothing) {
+TEST_F(SavesTest, SoItDoesAtEveryScale) {
+  for (const int dpi : {120, 144, 192}) {
+    KorvaleCopy& korvale = UsedCopy();
+    korvale.host.SetDpi(dpi);
+    ASSERT_TRUE(korvale.Start());
+    EXPECT_EQ(StoreCallsOfTags(), Calls()) << dpi;
+    korvale.Exit();
+    EndCopy(korvale);
+  }
+}
+
+TEST_F(SavesTest, SoItDoesAfterAMinimizedStart) {
+  StoreStartup("WindowState", "1");
+  StartedCopy();
+  EXPECT_EQ(StoreCallsOfTags(), Calls());
+}
+
+TEST_F(SavesTest, SoItDoesAfterAMaximizedStart) {
+  StoreStartup("WindowState", "2");
+  StartedCopy();
+  EXPECT_EQ(StoreCallsOfTags(), Calls());
+}
+
+TEST_F(SavesTest, SoItDoesAfterAStartFromAPlaceOffTheScreen) {
+  StoreStartup("Left", "480000");
+  StoreStartup("Top", "-90000");
+  StartedCopy();
+  EXPECT_EQ(StoreCallsOfTags(), Calls());
+}
+
+TEST_F(SavesTest, ATipSilencedAtTheStartIsSavedWithTheFirstCommand) {
+  KorvaleCopy& korvale = UsedCopy();
+  korvale.system.commandLine = "/x";
+  korvale.host.WhenModal("frmMsgTip", [&](class Form& tip) {
+    korvale.user.Click(tip.Handle(), tip.Find("chkStopMsg").Id());
+    korvale.user.Click(tip.Handle(), tip.Find("cmdOK").Id());
+  });
+  ASSERT_TRUE(korvale.Start());
+  EXPECT_EQ(Stored("Startup", "Tips"), "(missing)");
+  ExpectTagLeadsTo(1, "Alpha");
+  EXPECT_EQ(Stored("Startup", "Tips"), korvale.Startup().Tips);
+  EXPECT_NE(korvale.Startup().Tips.find('0'), std::string::npos);
+}
+
+TEST_F(SavesTest, AFullSaveOfNineTagsMakesEachChangeOnceBehindItsJournal) {
+  for (int tag = 3; tag <= 9; ++tag) StoreTag(tag, "Gamma " + std::to_string(tag));
+  KorvaleCopy& korvale = StartedCopy();
+  Drag(korvale);
+  const Calls calls = StoreCallsOf([this] { ExpectTagLeadsTo(1, "Alpha"); });
+  constexpr std::size_t kState = 14;
+  constexpr std::size_t kTags = 2 * 9;
+  constexpr std::size_t kDeletions = 2;
+  // What earlier saves have left, which sections hold anything, and the end of the journal.
+  constexpr std::size_t kAroundIt = 21;
+  EXPECT_EQ(calls.size(), 2 * (kState + kTags + kDeletions) + kAroundIt)
+      << testing::PrintToString(calls);
+}
+
+TEST_F(SavesTest, ATagThatIsFoundAgainOrMissingLeavesTheStoreAlone) {
   KorvaleCopy& korvale = StartedCopy();
   ExpectTagLeadsTo(1, "Alpha");
   desktop.Close(alpha);
   korvale.ExpectBox("Window:  [Alpha]  is not open.", win32::kIdOk);
-  PressTag(1);
+  EXPECT_EQ(StoreCallsOf([this] { PressTag(1); }), Calls());
   Open("Alpha");
   WorkIn(beta);
-  ExpectTagLeadsTo(1, "Alpha");
-  EXPECT_EQ(Writes(), 0U);
+  EXPECT_EQ(StoreCallsOf([this] { ExpectTagLeadsTo(1, "Alpha"); }), Calls());
 }
 
 TEST_F(SavesTest, AFirstRunHasSavedEverythingBeforeTheFirstTag) {
@@ -57,9 +137,7 @@ TEST_F(SavesTest, AFirstRunHasSavedEverythingBeforeTheFirstTag) {
   ASSERT_TRUE(korvale.Start());
   LetTick();
   WorkIn(alpha);
-  log.Clear();
-  ExpectTagLeadsTo(0, "Korvale - Work");
-  EXPECT_EQ(Writes(), 0U);
+  EXPECT_EQ(StoreCallsOf([this] { ExpectTagLeadsTo(0, "Korvale - Work"); }), Calls());
 }
 
 TEST_F(SavesTest, AClassThatATagHasLearntIsSavedAtOnce) {
@@ -67,26 +145,21 @@ TEST_F(SavesTest, AClassThatATagHasLearntIsSavedAtOnce) {
   StartedCopy();
   ExpectTagLeadsTo(1, "Alpha");
   EXPECT_EQ(Stored("ParentWindowClass", "1"), "Window");
-  log.Clear();
   WorkIn(beta);
-  ExpectTagLeadsTo(1, "Alpha");
-  EXPECT_EQ(Writes(), 0U);
+  EXPECT_EQ(StoreCallsOf([this] { ExpectTagLeadsTo(1, "Alpha"); }), Calls());
 }
 
 TEST_F(SavesTest, AWindowThatTheUserHasMovedIsSavedWithTheNextTag) {
   KorvaleCopy& korvale = StartedCopy();
-  korvale.user.Drag(korvale.Handle(), {4005, 2010, 4500, 1100});
-  log.Clear();
+  Drag(korvale);
   ExpectTagLeadsTo(1, "Alpha");
   EXPECT_EQ(Stored("Startup", "Left"), "4005");
-  EXPECT_GT(Writes(), 0U);
-  ExpectTagLeadsTo(2, "Beta");
-  EXPECT_EQ(Writes(), 0U);
+  EXPECT_EQ(StoreCallsOf([this] { ExpectTagLeadsTo(2, "Beta"); }), Calls());
 }
 
 TEST_F(SavesTest, ARefusedSaveIsTriedAgainWithTheNextTag) {
   KorvaleCopy& korvale = StartedCopy();
-  korvale.user.Drag(korvale.Handle(), {4005, 2010, 4500, 1100});
+  Drag(korvale);
   store.RefuseWrites(true);
   korvale.host.AnswerNext(win32::kIdOk);
   ExpectTagLeadsTo(1, "Alpha");
