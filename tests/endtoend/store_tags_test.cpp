@@ -1,3 +1,5 @@
+#include <cstdint>
+
 #include "tests/endtoend/store_test.h"
 
 namespace korvale::endtoend {
@@ -45,6 +47,30 @@ TEST_F(StoredTags, LearnTheirClassFromTheWindowThatTheySelect) {
   ASSERT_TRUE(InFront(alpha));
   ASSERT_TRUE(Exit());
   EXPECT_EQ(Classes(), (Pairs{{"2", kClass}}));
+}
+
+TEST_F(StoredTags, AreNotWrittenAgainByTheirKeysUntilSomethingChanges) {
+  installation_.StoreTag(1, "Alpha", kClass);
+  installation_.StoreTag(2, "Beta", kClass);
+  Start();
+  const Window alpha = Open("Alpha");
+  const Window beta = Open("Beta");
+  ASSERT_TRUE(WorkIn(beta));
+  const std::uint64_t before = settings().LastWritten();
+  ASSERT_NE(before, 0U);
+  for (int press = 0; press < 3; ++press) {
+    Press(TagKey(1));
+    ASSERT_TRUE(InFront(alpha));
+    Press(TagKey(2));
+    ASSERT_TRUE(InFront(beta));
+    Press(TagKey(0));
+    ASSERT_TRUE(InFront(alpha));
+  }
+  EXPECT_EQ(settings().LastWritten(), before);
+  SetWindowPos(main().handle(), nullptr, 150, 210, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+  Press(TagKey(2));
+  ASSERT_TRUE(InFront(beta));
+  EXPECT_TRUE(WaitFor([&] { return settings().LastWritten() > before; }));
 }
 
 TEST_F(StoredTags, ComeOnlyFromTheNumbersOneToNine) {

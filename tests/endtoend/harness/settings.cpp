@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <algorithm>
+
 #include "tests/endtoend/harness/text.h"
 
 namespace korvale::endtoend {
@@ -57,6 +59,22 @@ std::vector<std::string> StoredSettings::Sections() const {
   }
   RegCloseKey(key);
   return sections;
+}
+
+std::uint64_t StoredSettings::LastWritten() const {
+  std::uint64_t latest = 0;
+  std::vector<std::wstring> paths = {kRoot + Wide(application_)};
+  for (const std::string& section : Sections()) paths.push_back(Path(section));
+  for (const std::wstring& path : paths) {
+    HKEY key = nullptr;
+    if (RegOpenKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, KEY_READ, &key) != 0) continue;
+    FILETIME time{};
+    RegQueryInfoKeyW(key, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+                     nullptr, nullptr, &time);
+    RegCloseKey(key);
+    latest = std::max(latest, std::uint64_t{time.dwHighDateTime} << 32 | time.dwLowDateTime);
+  }
+  return latest;
 }
 
 void StoredSettings::Set(const std::string& section, const std::string& key,

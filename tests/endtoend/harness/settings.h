@@ -18,6 +18,8 @@ class StoredSettings {
   std::map<std::string, std::string> Section(const std::string& section) const;
   /// The names of all sections, also of those that hold nothing.
   std::vector<std::string> Sections() const;
+  /// When any section was last written to or deleted, as Windows counts time.
+  std::uint64_t LastWritten() const;
   void Set(const std::string& section, const std::string& key, const std::string& value) const;
   /// Stores a number as registry editors do, which is not how settings are stored.
   void SetNumber(const std::string& section, const std::string& key, std::uint32_t value) const;
