@@ -40,14 +40,13 @@ void ForegroundTracker::tmrWindow_Timer() {
   SeenWindow front(*windows_, WindowInFront());
   NoteForeground(front);
   const bool same = std::exchange(tickedOver_, front.Handle()) == front.Handle();
-  const bool outdated = same ? RecordIsOutdatedBehind(front.Handle()) : RecordIsOutdated();
-  if (outdated) ValidatePreviousWindow();
+  if (same ? RecordIsOutdatedSinceTick() : RecordIsOutdated()) ValidatePreviousWindow();
   FollowForeground(front);
   previous_->menuSelection = false;
 }
 
 void ForegroundTracker::LookAtForeground() {
-  tickedOver_ = 0;
+  tickedOver_.reset();
   SeenWindow front(*windows_, WindowInFront());
   NoteForeground(front);
   if (RecordIsOutdated()) ValidatePreviousWindow();
@@ -55,7 +54,7 @@ void ForegroundTracker::LookAtForeground() {
 }
 
 void ForegroundTracker::FollowForeground() {
-  tickedOver_ = 0;
+  tickedOver_.reset();
   SeenWindow front(*windows_, WindowInFront());
   NoteForeground(front);
   FollowForeground(front);

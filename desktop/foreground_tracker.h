@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "desktop/desktop_parts.h"
@@ -96,9 +97,8 @@ class ForegroundTracker {
   void MoveRecordBehindDialog(SeenWindow& window);
   bool IsGone(const WindowTriple& window);
   bool RecordIsOutdated();
-  bool RecordIsOutdatedBehind(WindowHandle foreground);
+  bool RecordIsOutdatedSinceTick();
   std::uint32_t CloakOf(WindowHandle hwnd);
-  Cloaks RecordCloaks();
   bool IsBehindDialog(WindowHandle hwnd);
   bool CanBeReached(SeenWindow& window);
   bool CanComeBack(WindowHandle hwnd);
@@ -115,8 +115,8 @@ class ForegroundTracker {
   /// The window that the user was seen in last.
   WindowHandle lastSeen_ = 0;
   bool firstTick_ = true;
-  /// What the last tick found in front; 0 when there has been a hot key or menu since.
-  WindowHandle tickedOver_ = 0;
+  /// What the last tick found in front; none when there has been a hot key or menu since.
+  std::optional<WindowHandle> tickedOver_;
   /// As the record was last validated.
   Cloaks cloaks_{};
   /// What was in front last and before that, followed or not.

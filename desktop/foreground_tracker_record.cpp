@@ -27,25 +27,18 @@ bool ForegroundTracker::IsGone(const WindowTriple& window) {
 /// A window of it has gone, or Windows has taken it off the screen or put it there: the user closed
 /// a Store program, which leaves its window behind, or changed virtual desktops.
 bool ForegroundTracker::RecordIsOutdated() {
-  return IsGone(previous_->current) || IsGone(previous_->alternate) || RecordCloaks() != cloaks_;
+  return RecordIsOutdatedSinceTick() || CloakOf(previous_->alternate.handle) != cloaks_.back();
 }
 
-/// The same in the tick after one that found the same window in front. Nothing has happened to a
-/// current window that has stayed there, and whether the alternate is on the screen matters only
-/// when it is used.
-bool ForegroundTracker::RecordIsOutdatedBehind(WindowHandle foreground) {
-  if (IsGone(previous_->alternate)) return true;
-  const WindowHandle current = previous_->current.handle;
-  if (current == foreground) return false;
-  return IsGone(previous_->current) || CloakOf(current) != cloaks_.front();
+/// The same in the tick after one that found the same window in front: whether the alternate is on
+/// the screen, which the user does not see, matters only when it is used.
+bool ForegroundTracker::RecordIsOutdatedSinceTick() {
+  return IsGone(previous_->current) || IsGone(previous_->alternate) ||
+         CloakOf(previous_->current.handle) != cloaks_.front();
 }
 
 std::uint32_t ForegroundTracker::CloakOf(WindowHandle hwnd) {
   return hwnd == 0 ? 0 : windows_->DwmGetWindowAttribute(hwnd);
-}
-
-ForegroundTracker::Cloaks ForegroundTracker::RecordCloaks() {
-  return {CloakOf(previous_->current.handle), CloakOf(previous_->alternate.handle)};
 }
 
 /// A dialog that the user was followed into counts as itself.

@@ -73,6 +73,8 @@ class FakeDesktop : public WindowQueries, public WindowCommands, public VirtualD
   }
   /// Windows keeps a suspended Store program's window off the screen; it stays visible otherwise.
   void SetSuspended(WindowHandle hwnd, bool suspended);
+  /// A program keeps its own window off the screen (DWMWA_CLOAK), which stays in front if it was.
+  void SetCloakedByProgram(WindowHandle hwnd, bool cloaked);
   /// From now on calls of the manager of virtual desktops that begin so get no answer.
   void LoseVirtualDesktopManager(const std::string& calls = "") { lost_desktop_calls_ = calls; }
 

@@ -20,6 +20,10 @@ void FakeDesktop::SetSuspended(WindowHandle hwnd, bool suspended) {
   if (front != 0 && windows_.CloakOf(front) != 0) windows_.Activate(0);
 }
 
+void FakeDesktop::SetCloakedByProgram(WindowHandle hwnd, bool cloaked) {
+  Existing(hwnd).cloaked = cloaked ? win32::kDwmCloakedApp : 0;
+}
+
 /// Windows knows the desktop only of windows that its taskbar shows: not of its own, nor of
 /// suspended ones.
 const FakeWindow* FakeDesktop::View(const FakeWindow* window) const {

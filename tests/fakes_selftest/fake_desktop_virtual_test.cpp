@@ -133,6 +133,16 @@ TEST_F(FakeDesktopVirtualTest, CloaksASuspendedWindowOnItsOwnDesktop) {
   EXPECT_EQ(desktop_.DwmGetWindowAttribute(alpha_), 0U);
 }
 
+TEST_F(FakeDesktopVirtualTest, LeavesAWindowInFrontThatItsProgramCloaks) {
+  desktop_.UserActivates(alpha_);
+  desktop_.SetCloakedByProgram(alpha_, true);
+  EXPECT_EQ(desktop_.DwmGetWindowAttribute(alpha_), win32::kDwmCloakedApp);
+  EXPECT_TRUE(desktop_.IsWindowVisible(alpha_));
+  EXPECT_EQ(desktop_.ForegroundTitle(), "Alpha");
+  desktop_.SetCloakedByProgram(alpha_, false);
+  EXPECT_EQ(desktop_.DwmGetWindowAttribute(alpha_), 0U);
+}
+
 TEST_F(FakeDesktopVirtualTest, WithoutAManagerThereIsNoAnswer) {
   const VirtualDesktopId first = desktop_.GetWindowDesktopId(alpha_).value();
   desktop_.UserSwitchesDesktop(2);
