@@ -100,21 +100,6 @@ TEST_F(DesktopContract, ReadsATitleIntoABufferOfAnySize) {
   for (const std::size_t size : {601U, 602U, 2000U}) EXPECT_EQ(Title(hwnd, size), title) << size;
 }
 
-TEST_F(DesktopContract, TellsByTheStyleWhatTheSingleQuestionsTell) {
-  const WindowHandle plain = OpenPlain("Contract Alpha");
-  const WindowHandle hidden = Open({.title = "Contract Beta", .visible = false});
-  const WindowHandle disabled = Open({.title = "Contract Gamma", .enabled = false});
-  const WindowHandle owned = Open({.title = "Contract Delta", .owner = plain});
-  Show(plain, win32::kSwMinimize);
-
-  for (const WindowHandle hwnd : {plain, hidden, disabled, owned}) {
-    EXPECT_EQ(HasStyle(hwnd, win32::kGwlStyle, win32::kWsVisible), queries_.IsWindowVisible(hwnd));
-    EXPECT_NE(HasStyle(hwnd, win32::kGwlStyle, win32::kWsDisabled), queries_.IsWindowEnabled(hwnd));
-    EXPECT_EQ(HasStyle(hwnd, win32::kGwlStyle, win32::kWsMinimize), queries_.IsIconic(hwnd));
-  }
-  EXPECT_TRUE(HasStyle(plain, win32::kGwlStyle, win32::kWsMinimize));
-}
-
 TEST_F(DesktopContract, ReadsTheTitleAsItIsNow) {
   const WindowHandle hwnd = OpenPlain("Contract Alpha");
 

@@ -21,7 +21,7 @@ constexpr int kPass = 2;
 constexpr int kAroundIt = 6;
 /// The same of a window that was found: whether it is on the screen, its class, what decides
 /// whether it can come forward, its way there and into the record.
-constexpr int kActivation = 31;
+constexpr int kActivation = 28;
 
 /// How many calls to Windows each search makes, at most.
 class CallCounts : public DesktopCase {
