@@ -4,6 +4,7 @@
 #include "desktop/desktop_parts.h"
 #include "desktop/foreground_tracker.h"
 #include "desktop/tag_list.h"
+#include "desktop/tag_list_passes.h"
 #include "desktop/window_actions.h"
 #include "desktop/window_enumeration.h"
 #include "desktop/window_filter.h"

@@ -8,7 +8,7 @@
 
 #include "desktop/main_window.h"
 #include "desktop/seen_window.h"
-#include "desktop/tag_list.h"
+#include "desktop/tag_list_passes.h"
 #include "desktop/window_filter.h"
 #include "desktop/window_requests.h"
 #include "platform/types.h"
