@@ -176,6 +176,7 @@ bool ForegroundTracker::FollowIfAccepted(SeenWindow& window) {
 
 void ForegroundTracker::MoveRecordTo(const KnownWindow& window) {
   const WindowHandle main = mainWindow_->MainHandle();
+  const auto isGone = [this](const KnownWindow& known) { return !StillExists(*windows_, known); };
   if (window.handle == main) {
     mainWindow_->SetFocusTag(kGotFocus);
     // It is where the user is; they have worked in it only once they leave it.
@@ -183,9 +184,9 @@ void ForegroundTracker::MoveRecordTo(const KnownWindow& window) {
   } else {
     if (mainWindow_->FocusTag() == kGotFocus) {
       mainWindow_->SetFocusTag("");
-      worked_.PutFirst(Know(*windows_, main));
+      worked_.PutFirst(Know(*windows_, main), isGone);
     }
-    worked_.PutFirst(window);
+    worked_.PutFirst(window, isGone);
   }
   lastSeen_ = window.handle;
   UpdateRecord();

@@ -1,6 +1,8 @@
 #include "desktop/worked_windows.h"
 
 #include <algorithm>
+#include <array>
+#include <span>
 #include <utility>
 
 namespace korvale {
@@ -18,10 +20,11 @@ std::size_t WorkedWindows::PlaceOf(WindowHandle hwnd) const {
 
 bool WorkedWindows::Holds(WindowHandle hwnd) const { return PlaceOf(hwnd) < windows_.size(); }
 
-void WorkedWindows::PutFirst(KnownWindow window) {
+void WorkedWindows::PutFirst(KnownWindow window, const Visit& isGone) {
   Remove(window.handle);
+  if (windows_.size() == kMostWindows) std::erase_if(windows_, isGone);
+  if (windows_.size() == kMostWindows) windows_.pop_back();
   windows_.insert(windows_.begin(), std::move(window));
-  if (windows_.size() > kMostWindows) windows_.pop_back();
 }
 
 void WorkedWindows::Remove(WindowHandle hwnd) {
@@ -29,12 +32,13 @@ void WorkedWindows::Remove(WindowHandle hwnd) {
 }
 
 void WorkedWindows::ForEach(const Visit& visit) const {
-  for (std::size_t next = 0; next < windows_.size();) {
-    const KnownWindow window = windows_[next];
+  std::array<WindowHandle, kMostWindows> handles{};
+  std::ranges::transform(windows_, handles.begin(), &KnownWindow::handle);
+  for (const WindowHandle hwnd : std::span(handles).first(windows_.size())) {
+    const std::size_t place = PlaceOf(hwnd);
+    if (place == windows_.size()) continue;
+    const KnownWindow window = windows_[place];
     if (!visit(window)) return;
-    // Goes on behind it, wherever it stands now.
-    const std::size_t place = PlaceOf(window.handle);
-    if (place < windows_.size()) next = std::max(next, place + 1);
   }
 }
 
