@@ -77,6 +77,7 @@ bool WindowSelection::SelectPrevious() {
     tried = window.handle;
     const ActivationResult result = actions_->ActivatePreviousWindow(window);
     if (result == kWindowDenied) {
+      tracker_->ValidatePreviousWindow();
       actions_->ReportFailure();
       return false;
     }
@@ -109,6 +110,8 @@ bool WindowSelection::SelectEntry(const MenuItem& entry) {
     return false;
   }
   const ActivationResult result = ActivateOrSearch(tag);
+  // The strip must not show a window that is gone while a message waits for the user.
+  if (result != kActivationDone) tracker_->ValidatePreviousWindow();
   const MenuItem* const selectedEntry = Entry(tag);
   if (selectedEntry == nullptr) return false;
   if (result != kActivationDone) {
@@ -124,7 +127,9 @@ bool WindowSelection::SelectEntry(const MenuItem& entry) {
 void WindowSelection::RestoreInFront(WindowHandle hwnd) {
   const bool denied = windows_->IsIconic(hwnd) &&
                       requests_->Show(hwnd, win32::kSwRestore) == RequestResult::kDenied;
-  if (denied) actions_->ReportFailure();
+  if (!denied) return;
+  tracker_->ValidatePreviousWindow();
+  actions_->ReportFailure();
 }
 
 WindowTriple WindowSelection::WindowOf(const MenuItem& entry) const {

@@ -53,6 +53,33 @@ TEST_F(TagOfAlphaTest, TheWindowInFrontIsOnlyRestored) {
   EXPECT_EQ(korvale.Record().alternate, alternate);
 }
 
+TEST_F(TagOfAlphaTest, TheMessageOfAFailureIsShownOverAStripOfWindowsThatExist) {
+  const WindowHandle gamma = Open("Gamma");
+  WorkIn(gamma);
+  WorkIn(korvale.Handle());
+  desktop.Close(alpha);
+  desktop.Close(gamma);
+  korvale.host.WhenMessageBox([&](const ShownMessage& box) {
+    EXPECT_EQ(box.text, "Window:  [Alpha]  is not open.");
+    EXPECT_EQ(korvale.TargetWindow(), "Beta");
+    return win32::kIdOk;
+  });
+  PressTag(1);
+  EXPECT_EQ(korvale.host.Messages().size(), 1U);
+}
+
+TEST_F(TagOfAlphaTest, NothingTicksWhileTheMessageOfAFailureIsShown) {
+  desktop.Close(alpha);
+  korvale.host.WhenMessageBox([&](const ShownMessage&) {
+    clock.Advance(kTrackingInterval);
+    EXPECT_FALSE(clock.AnyTimerOf(korvale.Handle()));
+    return win32::kIdOk;
+  });
+  PressTag(1);
+  EXPECT_EQ(clock.IntervalOf(korvale.Handle(), korvale.Id(korvale.Form(), "tmrWindow")),
+            kTrackingInterval);
+}
+
 TEST_F(TagOfAlphaTest, AMinimizedWindowIsRestored) {
   desktop.UserMinimizes(alpha);
   ExpectTagLeadsTo(1, "Alpha");
