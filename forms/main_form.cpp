@@ -138,9 +138,12 @@ void frmMain::ReadIdentity() { parts_.identity = ReadProgramIdentity(platform_->
 void frmMain::udmTimersEnabled(bool booTrueFalse) {
   for (Control& control : Controls()) {
     if (control.State().kind != ControlKind::kTimer) continue;
-    // What stops the timers rarely takes as long as a tick.
-    if (!booTrueFalse) control.Pause();
-    if (booTrueFalse) control.SetEnabled(control.Tag() == "ON");
+    if (booTrueFalse) {
+      control.SetEnabled(control.Tag() == "ON");
+    } else {
+      // What stops the timers rarely takes as long as a tick.
+      control.Pause();
+    }
   }
 }
 

@@ -45,6 +45,11 @@ void Control::SetEnabled(bool enabled) {
   Changed(ControlProperty::kEnabled);
 }
 
+void Control::Pause() {
+  if (state_->kind != ControlKind::kTimer) throw RunTimeError(RunTimeError::kInvalidCall);
+  state_->enabled = false;
+}
+
 void Control::SetPlace(const TwipsRect& place) {
   Change(state_->place, place, ControlProperty::kPlace);
 }
@@ -153,7 +158,7 @@ void Control::SetSelection(TextSelection selection) {
 
 void Control::SetInterval(std::uint32_t milliseconds) {
   state_->interval = milliseconds == 0 ? 0 : std::max(milliseconds, kShortestInterval);
-  form_->StartOrStopTimer(*this);
+  if (Enabled()) form_->StartOrStopTimer(*this);
 }
 
 }  // namespace korvale

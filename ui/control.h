@@ -54,7 +54,8 @@ class Control : public TimerControl {
   bool Enabled() const override { return state_->enabled; }
   void SetEnabled(bool enabled) override;
   /// Disables a timer for a moment: only a tick that comes meanwhile, and is dropped, stops it.
-  void Pause() { state_->enabled = false; }
+  /// Error 5 for a control that is none.
+  void Pause();
 
   const TwipsRect& Place() const { return state_->place; }
   void SetPlace(const TwipsRect& place);

@@ -114,7 +114,8 @@ void Form::Load() {
   forms_->Add(*this);
   if (!state_.enabled) forms_->Host().EnableWindow(handle_, false);
   for (const Control& control : controls_) {
-    if (control.State().kind == ControlKind::kTimer) StartOrStopTimer(control);
+    const bool runs = control.State().kind == ControlKind::kTimer && control.Enabled();
+    if (runs) StartOrStopTimer(control);
   }
   try {
     Form_Load();

@@ -6,15 +6,21 @@
 namespace korvale {
 
 void FakeClock::SetTimer(WindowHandle hwnd, int id, std::uint32_t milliseconds) {
-  if (log_ != nullptr) {
-    log_->AddRead("SetTimer(" + log_->Window(hwnd) + ", " + std::to_string(id) + ", " +
-                  std::to_string(milliseconds) + ")");
-  }
-  KillTimer(hwnd, id);
+  if (IsWatched()) Log("SetTimer", hwnd, std::to_string(id) + ", " + std::to_string(milliseconds));
+  Erase(hwnd, id);
   timers_.push_back({hwnd, id, milliseconds, now_ + milliseconds});
 }
 
 void FakeClock::KillTimer(WindowHandle hwnd, int id) {
+  if (IsWatched()) Log("KillTimer", hwnd, std::to_string(id));
+  Erase(hwnd, id);
+}
+
+void FakeClock::Log(const std::string& call, WindowHandle hwnd, const std::string& arguments) {
+  log_->AddRead(call + "(" + log_->Window(hwnd) + ", " + arguments + ")");
+}
+
+void FakeClock::Erase(WindowHandle hwnd, int id) {
   std::erase_if(timers_, [&](const Timer& timer) { return timer.hwnd == hwnd && timer.id == id; });
 }
 

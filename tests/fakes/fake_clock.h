@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "platform/clock.h"
@@ -16,7 +17,7 @@ class FakeClock : public Clock, public TimerApi {
   using Tick = std::function<void(WindowHandle hwnd, int id)>;
 
   FakeClock() = default;
-  /// Logs each start of a timer as a reading call: it changes nothing on the desktop.
+  /// Logs each start and stop of a timer as a reading call: it changes nothing on the desktop.
   explicit FakeClock(CallLog& log) : log_(&log) {}
 
   /// Who gets the ticks.
@@ -48,12 +49,15 @@ class FakeClock : public Clock, public TimerApi {
     std::uint64_t due;
   };
 
+  bool IsWatched() const { return log_ != nullptr && log_->TakesReads(); }
+  void Log(const std::string& call, WindowHandle hwnd, const std::string& arguments);
+  void Erase(WindowHandle hwnd, int id);
   std::vector<Timer>::iterator Earliest();
   void Deliver(std::vector<Timer>::iterator timer);
 
-  CallLog* log_ = nullptr;
   void PassUntil(std::uint64_t moment);
 
+  CallLog* log_ = nullptr;
   Tick tick_;
   std::function<void()> passed_;
   std::uint64_t now_ = 1'000'000;

@@ -91,14 +91,15 @@ TEST_F(FakeClockTest, TellsTheLocalTimeThatWasSet) {
   EXPECT_EQ(clock_.GetLocalTime().hour, 14);
 }
 
-TEST_F(FakeClockTest, TheLogTellsOfTimersThatStart) {
+TEST_F(FakeClockTest, TheLogTellsOfTimersThatStartAndStop) {
   CallLog log;
   log.NameWindow(1, "frmMain");
   log.IncludeReads(true);
   FakeClock clock(log);
   clock.SetTimer(1, 5, 100);
   clock.KillTimer(1, 5);
-  EXPECT_EQ(log.Calls(), std::vector<std::string>{"SetTimer(frmMain, 5, 100)"});
+  EXPECT_EQ(log.Calls(),
+            (std::vector<std::string>{"SetTimer(frmMain, 5, 100)", "KillTimer(frmMain, 5)"}));
 }
 
 }  // namespace

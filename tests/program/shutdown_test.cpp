@@ -17,7 +17,13 @@ TEST_F(ShutdownTest, ShutdownKeepsItsOrder) {
   log.IncludeReads(true);
   log.Clear();
   bool timerAtSave = true;
-  log.WhenCalled("SaveSetting", [&] { timerAtSave = korvale.Form().tmrWindow().Enabled(); });
+  std::vector<std::string> tickAtSave;
+  log.WhenCalled("SaveSetting", [&] {
+    const std::size_t before = log.Calls().size();
+    clock.Advance(2 * kTrackingInterval);
+    tickAtSave.assign(log.Calls().begin() + static_cast<std::ptrdiff_t>(before), log.Calls().end());
+    timerAtSave = clock.AnyTimerOf(korvale.Handle());
+  });
   bool tagAtUnregister = true;
   log.WhenCalled("UnregisterHotKey", [&] { tagAtUnregister = korvale.TagEntry(1) != nullptr; });
   bool optionsAtDestroy = false;
@@ -36,6 +42,7 @@ TEST_F(ShutdownTest, ShutdownKeepsItsOrder) {
       "DestroyWindow(frmMain)",
   };
   EXPECT_EQ(Order(order), order);
+  EXPECT_EQ(tickAtSave.size(), 1U) << "only stops the timer";
   EXPECT_FALSE(timerAtSave);
   EXPECT_FALSE(tagAtUnregister);
   EXPECT_TRUE(optionsAtDestroy);

@@ -123,9 +123,12 @@ void SimulatedLife::PopUpWindowMenu() {
 
 void SimulatedLife::GoToKorvale() {
   const WindowHandle main = korvale_->Handle();
-  desktop.UserActivates(main);
   // The first activation, after a start behind another window, may lead on to the Previous Window.
-  if (desktop.Windows().Foreground() != main) desktop.UserActivates(main);
+  const bool leadsOn =
+      !korvale_->State().firstActivation && korvale_->Options().booSelectPrevWinOnStart;
+  desktop.UserActivates(main);
+  if (leadsOn) desktop.UserActivates(main);
+  EXPECT_EQ(desktop.Windows().Foreground(), main);
   if (!korvale_->user.MenuBarItems(korvale_->Handle()).empty()) return;
   korvale_->user.PressKey(korvale_->Handle(), 'V', kAlt);
   korvale_->user.PressKey(korvale_->Handle(), win32::kVkEscape);

@@ -103,5 +103,17 @@ TEST_F(TickAllocationsTest, ThereAreNoneOverTheBareDesktop) {
   ExpectNoneInATick();
 }
 
+TEST_F(TickAllocationsTest, ThereAreNoneOverAToolWindow) {
+  WorkIn(desktop.Open("Tool", {.exStyle = win32::kWsExToolWindow}));
+  ExpectNoneInATick();
+}
+
+TEST_F(TickAllocationsTest, ThereAreNoneOverADialogThatIsNotFollowed) {
+  WorkIn(desktop.OpenModalDialog(beta, "Save As"));
+  ExpectNoneInATick();
+  WorkIn(desktop.Open("Find", {.owner = alpha, .style = win32::kDsModalFrame}));
+  ExpectNoneInATick();
+}
+
 }  // namespace
 }  // namespace korvale

@@ -180,6 +180,39 @@ TEST_F(ControlTest, SettingTheIntervalStartsARunningTimerAnew) {
   EXPECT_EQ(form_.Take(), Lines{"click tmrTick"});
 }
 
+TEST_F(ControlTest, APausedTimerIsStoppedByTheTickThatIsDropped) {
+  Control& timer = form_.Find("tmrTick");
+  timer.SetInterval(100);
+  timer.SetEnabled(true);
+  timer.Pause();
+  EXPECT_FALSE(timer.Enabled());
+  EXPECT_TRUE(clock_.AnyTimerOf(form_.Handle()));
+  clock_.Advance(100);
+  EXPECT_FALSE(clock_.AnyTimerOf(form_.Handle()));
+  clock_.Advance(1000);
+  EXPECT_EQ(form_.Take(), Lines{});
+  timer.SetEnabled(true);
+  clock_.Advance(100);
+  EXPECT_EQ(form_.Take(), Lines{"click tmrTick"});
+}
+
+TEST_F(ControlTest, ThatATimerIsPausedIsNotToldToWindows) {
+  Control& timer = form_.Find("tmrTick");
+  timer.SetInterval(100);
+  timer.SetEnabled(true);
+  timer.Pause();
+  timer.SetInterval(200);
+  EXPECT_EQ(clock_.IntervalOf(form_.Handle(), timer.Id()), 100U);
+  timer.SetEnabled(true);
+  EXPECT_EQ(clock_.IntervalOf(form_.Handle(), timer.Id()), 200U);
+}
+
+TEST_F(ControlTest, OnlyATimerCanPause) {
+  Control& check = form_.Find("chkDaily");
+  EXPECT_EQ(ErrorOf([&] { check.Pause(); }), 5);
+  EXPECT_TRUE(check.Enabled());
+}
+
 TEST_F(ControlTest, ATickOnItsWayToADisabledTimerIsDropped) {
   form_.OnTimer(Id(form_, "tmrTick"));
   EXPECT_EQ(form_.Take(), Lines{});
