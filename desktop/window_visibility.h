@@ -27,7 +27,7 @@ bool IsPutAway(WindowQueries& windows, VirtualDesktops& desktops, WindowHandle h
 /// handled meanwhile.
 bool IsCloakedWindowPutAway(WindowQueries& windows, VirtualDesktops& desktops, WindowHandle hwnd);
 
-/// Visible (IsWindowVisible) here or on another virtual desktop.
+/// Visible, by its style, here or on another virtual desktop.
 bool IsShown(WindowQueries& windows, VirtualDesktops& desktops, WindowHandle hwnd);
 bool IsShown(WindowQueries& windows, VirtualDesktops& desktops, SeenWindow& window);
 

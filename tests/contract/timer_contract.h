@@ -24,6 +24,20 @@ TEST_F(FormHostContract, ATimerTicksWhileItIsEnabledAndItsFormIsLoaded) {
   EXPECT_EQ(form_.Take(), Lines{});
 }
 
+TEST_F(FormHostContract, APausedTimerRestsUntilItIsEnabledAgain) {
+  form_.Show();
+  form_.Take();
+  Control& timer = form_.Find("tmrTick");
+  timer.SetInterval(50);
+  timer.SetEnabled(true);
+  timer.Pause();
+  User().LetPass(120);
+  EXPECT_EQ(form_.Take(), Lines{});
+  timer.SetEnabled(true);
+  User().LetPass(120);
+  EXPECT_GE(form_.Take().size(), 1U);
+}
+
 TEST_F(FormHostContract, AnErrorInATimerReachesTheReporterAndTheLoopGoesOn) {
   int reported = 0;
   forms_.SetUncaughtHandler([&] { ++reported; });
