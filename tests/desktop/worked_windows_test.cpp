@@ -5,6 +5,8 @@
 #include <functional>
 #include <vector>
 
+#include "tests/desktop/tracking_case.h"
+
 namespace korvale {
 namespace {
 
@@ -111,6 +113,28 @@ TEST_F(TooManyWorkedWindows, AskForGoneOnesOnlyThen) {
   lastGone = 12;
   PutFirst(kMost);
   EXPECT_TRUE(worked.Holds(11));
+}
+
+TEST_F(ForegroundTracking, ClosedWindowsMakeRoomBeforeOneThatIsStillThere) {
+  const auto workInMany = [this] {
+    std::vector<WindowHandle> windows(40);
+    for (WindowHandle& hwnd : windows) WorkIn(hwnd = desktop.Open("Many"));
+    return windows;
+  };
+  const auto close = [this](const std::vector<WindowHandle>& windows) {
+    for (const WindowHandle hwnd : windows) desktop.Close(hwnd);
+  };
+  WorkIn(alpha);
+  const std::vector<WindowHandle> early = workInMany();
+  WorkIn(beta);
+  WorkIn(gamma);
+  close(early);
+  const std::vector<WindowHandle> late = workInMany();
+  WorkIn(mainWindow.handle);
+  close(late);
+  close({beta, gamma});
+  tracker.tmrWindow_Timer();
+  EXPECT_EQ(previous.current, Triple(alpha));
 }
 
 }  // namespace

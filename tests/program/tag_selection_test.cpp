@@ -80,6 +80,17 @@ TEST_F(TagOfAlphaTest, NothingTicksWhileTheMessageOfAFailureIsShown) {
             kTrackingInterval);
 }
 
+TEST_F(TagOfAlphaTest, NothingTicksWhileAPoppedUpMenuIsOpen) {
+  korvale.host.WhenPopupMenu([&](const auto& /*items*/) {
+    clock.Advance(kTrackingInterval);
+    EXPECT_FALSE(clock.AnyTimerOf(korvale.Handle()));
+    return std::string();
+  });
+  PressHotKey(win32::kModWin, 'W');
+  EXPECT_EQ(clock.IntervalOf(korvale.Handle(), korvale.Id(korvale.Form(), "tmrWindow")),
+            kTrackingInterval);
+}
+
 TEST_F(TagOfAlphaTest, AMinimizedWindowIsRestored) {
   desktop.UserMinimizes(alpha);
   ExpectTagLeadsTo(1, "Alpha");
