@@ -34,6 +34,7 @@ std::string TextOf(std::wstring_view buffer, DWORD size) {
 
 constexpr std::size_t kUsualText = 256;
 
+/// Reads a value into `result`, which stays empty when it is no text; returns what Windows says.
 LSTATUS ReadText(HKEY key, const wchar_t* name, std::optional<std::string>& result) {
   std::wstring buffer(kUsualText, L'\0');
   for (;; buffer.resize(buffer.size() * 2)) {
@@ -62,8 +63,9 @@ std::optional<std::string> WindowsSettingsStore::GetSetting(const std::string& a
   const std::wstring name = ToUtf16(key);
   std::optional<std::string> text;
   if ((path != path_ || !section_) && !Open(path)) return text;
+  const LSTATUS status = ReadText(section_.Get(), name.c_str(), text);
   // Somebody may have deleted the section since, and made it again.
-  if (ReadText(section_.Get(), name.c_str(), text) == ERROR_KEY_DELETED && Open(path)) {
+  if (status != ERROR_SUCCESS && status != ERROR_FILE_NOT_FOUND && Open(path)) {
     ReadText(section_.Get(), name.c_str(), text);
   }
   return text;

@@ -98,9 +98,40 @@ TEST_F(WindowsSettingsStoreTest, TakesAValueThatIsNoTextForMissing) {
             (SettingsStore::Pairs{{"Number", ""}, {"Text", "text"}}));
 }
 
+TEST_F(WindowsSettingsStoreTest, TakesATextWithVariablesForMissing) {
+  WriteRaw(L"Path", REG_EXPAND_SZ, L"%PATH%", sizeof(L"%PATH%"));
+  EXPECT_EQ(store_.GetSetting(kApp, "Raw", "Path"), std::nullopt);
+  EXPECT_EQ(store_.GetAllSettings(kApp, "Raw"), (SettingsStore::Pairs{{"Path", ""}}));
+}
+
 TEST_F(WindowsSettingsStoreTest, ReadsATextThatWasStoredWithoutItsEnd) {
   WriteRaw(L"Text", REG_SZ, L"open", 4 * sizeof(wchar_t));
   EXPECT_EQ(store_.GetSetting(kApp, "Raw", "Text"), "open");
+}
+
+TEST_F(WindowsSettingsStoreTest, ReadsTextsOfEveryLengthWithAndWithoutTheirEnd) {
+  for (const std::size_t length : {254U, 255U, 256U, 257U, 512U, 513U}) {
+    const std::wstring text(length, L'x');
+    for (const std::size_t end : {0U, 1U}) {
+      const auto size = static_cast<DWORD>((length + end) * sizeof(wchar_t));
+      WriteRaw(L"Text", REG_SZ, text.c_str(), size);
+      EXPECT_EQ(store_.GetSetting(kApp, "Raw", "Text"), std::string(length, 'x')) << length;
+      EXPECT_EQ(store_.GetAllSettings(kApp, "Raw").front().second, std::string(length, 'x'));
+    }
+  }
+}
+
+TEST_F(WindowsSettingsStoreTest, ReadsWhatComesBehindALongValue) {
+  const std::string bytes(5000, 'x');
+  const std::wstring text(5000, L'y');
+  WriteRaw(L"A", REG_BINARY, bytes.data(), static_cast<DWORD>(bytes.size()));
+  WriteRaw(L"B", REG_SZ, text.data(), static_cast<DWORD>(text.size() * sizeof(wchar_t)));
+  WriteRaw(L"C", REG_SZ, L"last", sizeof(L"last"));
+  EXPECT_EQ(store_.GetSetting(kApp, "Raw", "A"), std::nullopt);
+  EXPECT_EQ(store_.GetSetting(kApp, "Raw", "B"), std::string(5000, 'y'));
+  EXPECT_EQ(store_.GetSetting(kApp, "Raw", "C"), "last");
+  EXPECT_EQ(store_.GetAllSettings(kApp, "Raw"),
+            (SettingsStore::Pairs{{"A", ""}, {"B", std::string(5000, 'y')}, {"C", "last"}}));
 }
 
 }  // namespace
