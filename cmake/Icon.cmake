@@ -18,9 +18,10 @@ if(KORVALE_RSVG AND KORVALE_ICOTOOL)
       COMMAND ${KORVALE_RSVG} -w ${size} -h ${size} -o ${picture} ${drawing}
       DEPENDS ${drawing})
     list(APPEND pictures ${picture})
-    # Since Vista, Windows reads compressed pictures of any size. Those that the usual screen shows
-    # all the time need no unpacking.
-    if(size LESS_EQUAL 32)
+    # Since Vista, Windows reads compressed pictures of any size. Those of windows and the task bar
+    # at up to 150 % need no unpacking, which would load a library for it; the others keep the
+    # program small.
+    if(size LESS_EQUAL 48)
       list(APPEND entries ${picture})
     else()
       list(APPEND entries --raw=${picture})

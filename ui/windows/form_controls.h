@@ -44,7 +44,8 @@ class FormControls {
   bool IsListDropped(int control) const;
   /// True while Update runs: events raised then are not the user's.
   bool Updating() const { return updating_; }
-  /// Sees each message of the form before it is dispatched, for the tool tips.
+  /// Sees each message of the form before it is dispatched; makes the window of the tool tips when
+  /// the mouse first comes.
   void Relay(const MSG& message);
 
  private:

@@ -24,6 +24,7 @@ class ScreenReader {
   void ForgetRole(HWND window);
 
  private:
+  /// A new one each time, which Windows makes from a library (oleacc); empty where it cannot.
   UniqueHandle<IAccPropServices*> Services();
 
   Com com_;

@@ -35,7 +35,9 @@ HICON WindowClasses::Icon(int size) {
   for (const auto& [known, icon] : icons_) {
     if (known == size) return icon.Get();
   }
-  return icons_.emplace_back(size, LoadProgramIcon(instance_, size)).second.Get();
+  UniqueIcon icon = LoadProgramIcon(instance_, size);
+  if (!icon) return nullptr;
+  return icons_.emplace_back(size, std::move(icon)).second.Get();
 }
 
 std::wstring WindowClasses::Register(std::string_view name, WNDPROC procedure) {

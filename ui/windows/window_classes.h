@@ -36,7 +36,8 @@ class WindowClasses {
   WindowClasses& operator=(const WindowClasses&) = delete;
 
   HINSTANCE Instance() const { return instance_; }
-  /// The program's icon at a size in pixels, shared by all windows.
+  /// The program's icon at a size in pixels, shared by all windows; null when it cannot be loaded
+  /// now.
   HICON Icon(int size);
   /// Class kClassPrefix + `name`, with this procedure.
   std::wstring Register(std::string_view name, WNDPROC procedure);
