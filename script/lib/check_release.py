@@ -1,10 +1,12 @@
-"""Checks a program that users unpack anywhere: check_release.py FILE.exe
+"""Checks a program that users unpack anywhere: 
+  check_release.py FILE.exe               as it is handed out, stripped
+  check_release.py --symbols FILE.exe     as it is linked, with symbols
 
 - Windows loads the imported libraries before the program can say where from. It takes only those
   that it knows from its own folder; any other could lie beside the program in a download folder.
   What a start does not need is loaded when it is first used (SystemLibrary).
-- It has nothing of the parts of the standard library that are large and of no use here. Only a
-  program that is not stripped tells.
+- It has nothing of the parts of the standard library that are large and of no use here, as its
+  symbols tell.
 - Stripped it is small.
 - The program says that it is made for Windows 8 or later, and takes part in its protections.
 - It has one manifest, which names what BY_MANIFEST needs.
@@ -46,6 +48,11 @@ def unused(symbols):
             yield f"has {part}: {found[0]}"
 
 
+def wrong_symbols(symbols, expected):
+    if bool(symbols) != expected:
+        yield "has no symbols" if expected else "is not stripped"
+
+
 def too_large(size):
     if size > LARGEST:
         yield f"has {size} bytes, the aim is {LARGEST}"
@@ -85,15 +92,16 @@ def printed(tool, *arguments):
 
 
 def main():
-    program = sys.argv[1]
+    *options, program = sys.argv[1:]
+    linked = "--symbols" in options
     dump = printed("objdump", "-p", program)
     symbols = printed("nm", program)
     content = pathlib.Path(program).read_bytes()
     manifest = "".join(
         re.findall(r"<assembly\b.*?</assembly>", content.decode("latin-1"), re.S)
     )
-    found = [*problems(dump, manifest), *unused(symbols)]
-    if not symbols:
+    found = [*problems(dump, manifest), *wrong_symbols(symbols, linked), *unused(symbols)]
+    if not linked:
         found += too_large(len(content))
         print(f"{program}: {len(content)} bytes, the aim is at most {LARGEST}")
     for problem in found:

@@ -2,7 +2,7 @@
 
 import unittest
 
-from check_release import LARGEST, problems, too_large, unused
+from check_release import LARGEST, problems, too_large, unused, wrong_symbols
 
 MANIFEST = '<assembly><assemblyIdentity name="Microsoft.Windows.Common-Controls"/></assembly>'
 ONE_MANIFEST = """
@@ -53,6 +53,12 @@ class CheckRelease(unittest.TestCase):
         ):
             found = list(unused(f"{good}0000000140003000 T {name}\n"))
             self.assertEqual(found, [f"has {part}: {name}"])
+
+    def test_finds_a_program_whose_symbols_tell_nothing(self):
+        self.assertEqual(list(wrong_symbols("", True)), ["has no symbols"])
+        self.assertEqual(list(wrong_symbols("0 T main\n", False)), ["is not stripped"])
+        self.assertEqual(list(wrong_symbols("0 T main\n", True)), [])
+        self.assertEqual(list(wrong_symbols("", False)), [])
 
     def test_finds_a_program_that_has_grown(self):
         self.assertEqual(list(too_large(LARGEST)), [])
