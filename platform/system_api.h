@@ -84,9 +84,9 @@ class SystemApi {
   virtual std::vector<std::string> FindFirstFileW(const std::string& pattern) = 0;
   /// True when the file was there and is gone.
   virtual bool DeleteFileW(const std::string& path) = 0;
-  /// The user's own folder for data of programs on this computer, without a closing backslash; ""
-  /// on failure (FOLDERID_LocalAppData).
-  virtual std::string SHGetKnownFolderPath() = 0;
+  /// The value of a variable of the program's environment; "" when there is none. Needs no library
+  /// that is not loaded yet, so a program that has crashed can ask, too.
+  virtual std::string GetEnvironmentVariableW(const std::string& name) = 0;
   /// Opens a folder, through links if need be, and reads what it really is (CreateFileW,
   /// GetFinalPathNameByHandleW, GetFileInformationByHandle).
   virtual FolderInfo GetFinalPathNameByHandleW(const std::string& folder) = 0;

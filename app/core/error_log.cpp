@@ -33,7 +33,8 @@ ErrorLog::ErrorLog(const ProgramIdentity& identity, SystemApi& system, Clock& cl
     : identity_(&identity), system_(&system), clock_(&clock), state_(std::move(state)) {}
 
 std::string ErrorLog::UsersFolder() const {
-  const std::string folder = system_->SHGetKnownFolderPath();
+  // The shell knows it, too, but a program that has crashed may be unable to load the shell.
+  const std::string folder = system_->GetEnvironmentVariableW("LOCALAPPDATA");
   return folder.empty() ? "" : folder + "\\" + kProductName + "\\";
 }
 

@@ -26,9 +26,4 @@ void* Com::CreateAny(const CLSID& objectClass, const IID& interfaceId) {
   return made;
 }
 
-void Com::Free(void* memory) {
-  auto* const release = ole_.Find<decltype(::CoTaskMemFree)>("CoTaskMemFree");
-  if (release != nullptr) release(memory);
-}
-
 }  // namespace korvale

@@ -24,8 +24,6 @@ class Com {
   Interface* Create(const CLSID& objectClass, const IID& interfaceId) {
     return static_cast<Interface*>(CreateAny(objectClass, interfaceId));
   }
-  /// Frees what a function of the shell has made (CoTaskMemFree); needs no start.
-  void Free(void* memory);
 
  private:
   void* CreateAny(const CLSID& objectClass, const IID& interfaceId);

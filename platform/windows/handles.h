@@ -22,7 +22,6 @@ struct Closer {
   void operator()(HFONT font) const { DeleteObject(font); }
   void operator()(HICON icon) const { DestroyIcon(icon); }
   void operator()(HMENU menu) const { DestroyMenu(menu); }
-  void operator()(HMODULE module) const { FreeLibrary(module); }
   void operator()(HWND window) const { DestroyWindow(window); }
   void operator()(HHOOK hook) const { UnhookWindowsHookEx(hook); }
 };
@@ -66,7 +65,6 @@ using UniqueBrush = UniqueHandle<HBRUSH>;
 using UniqueFont = UniqueHandle<HFONT>;
 using UniqueIcon = UniqueHandle<HICON>;
 using UniqueMenu = UniqueHandle<HMENU>;
-using UniqueModule = UniqueHandle<HMODULE>;
 using UniqueWindow = UniqueHandle<HWND>;
 using UniqueHook = UniqueHandle<HHOOK>;
 

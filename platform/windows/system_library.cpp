@@ -3,9 +3,13 @@
 namespace korvale {
 
 SystemLibrary::AnyFunction SystemLibrary::Address(const char* name) {
-  if (!module_) module_.Reset(LoadLibraryExW(fileName_, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32));
-  if (!module_) return nullptr;
-  return reinterpret_cast<AnyFunction>(GetProcAddress(module_.Get(), name));
+  HMODULE library = library_;
+  if (library == nullptr) {
+    library = LoadLibraryExW(fileName_, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+    if (library == nullptr) return nullptr;
+    library_ = library;
+  }
+  return reinterpret_cast<AnyFunction>(GetProcAddress(library, name));
 }
 
 }  // namespace korvale

@@ -1,18 +1,21 @@
 #pragma once
 
-#include "platform/windows/handles.h"
+#include <windows.h>
+
+#include <atomic>
 
 namespace korvale {
 
 /// One of Windows' own libraries, loaded when one of its functions is first asked for. It is looked
 /// for in the system folder only, never beside the executable, where a download may lie next to
-/// anything (LoadLibraryExW with LOAD_LIBRARY_SEARCH_SYSTEM32).
+/// anything (LoadLibraryExW with LOAD_LIBRARY_SEARCH_SYSTEM32). It stays until the end of the
+/// process, since some of them leave threads and hooks behind. Any thread may ask.
 class SystemLibrary {
  public:
   explicit SystemLibrary(const wchar_t* fileName) : fileName_(fileName) {}
 
   /// The function of this name, as in Find<decltype(DwmGetWindowAttribute)>(...); null when this
-  /// Windows lacks it or the library (GetProcAddress). Usable as long as this object lives.
+  /// Windows lacks it or the library (GetProcAddress).
   template <typename Function>
   Function* Find(const char* name) {
     return reinterpret_cast<Function*>(Address(name));
@@ -25,7 +28,7 @@ class SystemLibrary {
   AnyFunction Address(const char* name);
 
   const wchar_t* fileName_;
-  UniqueModule module_;
+  std::atomic<HMODULE> library_ = nullptr;
 };
 
 }  // namespace korvale

@@ -86,7 +86,9 @@ class WindowsCrashApi::Reporter {
   void SetDeadline(ULONGLONG ticks) { deadline_ = ticks; }
 
   bool WriteDump(HANDLE file) const {
-    // If the loader of libraries stands still, too, the deadline ends the process.
+    // Loaded only now: it takes memory that every user would pay for, and loads another library by
+    // itself. If the loader of libraries stands still since the crash, the deadline ends the
+    // process without a dump; the user and the log have been told by then.
     SystemLibrary library(L"dbghelp.dll");
     auto* const write = library.Find<decltype(::MiniDumpWriteDump)>("MiniDumpWriteDump");
     if (write == nullptr) return false;

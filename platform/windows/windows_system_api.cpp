@@ -4,7 +4,6 @@
 // After windows.h, which they need.
 #include <objbase.h>
 #include <shellapi.h>
-#include <shlobj.h>
 
 #include <cstddef>
 #include <span>
@@ -191,14 +190,16 @@ bool WindowsSystemApi::DeleteFileW(const std::string& path) {
   return ::DeleteFileW(ToUtf16(path).c_str()) != FALSE;
 }
 
-std::string WindowsSystemApi::SHGetKnownFolderPath() {
-  auto* const ask = shell_.Find<decltype(::SHGetKnownFolderPath)>("SHGetKnownFolderPath");
-  if (ask == nullptr) return "";
-  wchar_t* path = nullptr;
-  const HRESULT result = ask(FOLDERID_LocalAppData, 0, nullptr, &path);
-  const std::string text = SUCCEEDED(result) && path != nullptr ? ToUtf8(path) : "";
-  com_.Free(path);
-  return text;
+std::string WindowsSystemApi::GetEnvironmentVariableW(const std::string& name) {
+  const std::wstring variable = ToUtf16(name);
+  std::wstring value(MAX_PATH, L'\0');
+  for (;;) {
+    const DWORD length =
+        ::GetEnvironmentVariableW(variable.c_str(), value.data(), static_cast<DWORD>(value.size()));
+    const bool complete = length < value.size();
+    value.resize(length);
+    if (complete) return ToUtf8(value);
+  }
 }
 
 FolderInfo WindowsSystemApi::GetFinalPathNameByHandleW(const std::string& folder) {

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/windows/handles.h"
 #include "platform/windows/text.h"
 
 namespace korvale {

@@ -170,9 +170,9 @@ bool FakeSystem::DeleteFileW(const std::string& path) {
   return Writable(path) && files.erase(real) != 0;
 }
 
-std::string FakeSystem::SHGetKnownFolderPath() {
-  log_.AddRead("SHGetKnownFolderPath()");
-  return localAppData;
+std::string FakeSystem::GetEnvironmentVariableW(const std::string& name) {
+  log_.AddRead("GetEnvironmentVariableW(" + name + ")");
+  return name == "LOCALAPPDATA" ? localAppData : "";
 }
 
 void FakeSystem::TerminateProcessAfter(std::optional<std::uint32_t> milliseconds) {

@@ -80,7 +80,7 @@ class FakeSystem : public SystemApi, public CrashApi {
   bool CreateDirectoryW(const std::string& path) override;
   std::vector<std::string> FindFirstFileW(const std::string& pattern) override;
   bool DeleteFileW(const std::string& path) override;
-  std::string SHGetKnownFolderPath() override;
+  std::string GetEnvironmentVariableW(const std::string& name) override;
   FolderInfo GetFinalPathNameByHandleW(const std::string& folder) override;
   std::unique_ptr<SystemMutex> CreateMutexA(const std::string& name) override;
   std::unique_ptr<SystemMutex> OpenMutexA(const std::string& name) override;

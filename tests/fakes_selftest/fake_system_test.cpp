@@ -101,8 +101,10 @@ TEST_F(FakeSystemTest, LeavesNoDumpOnAFullDisk) {
 }
 
 TEST_F(FakeSystemTest, MakesFoldersInFoldersThatAreThere) {
-  EXPECT_TRUE(system_.CreateDirectoryW(system_.SHGetKnownFolderPath() + "\\Korvale"));
-  EXPECT_TRUE(system_.CreateDirectoryW(system_.SHGetKnownFolderPath() + "\\Korvale"));
+  EXPECT_TRUE(
+      system_.CreateDirectoryW(system_.GetEnvironmentVariableW("LOCALAPPDATA") + "\\Korvale"));
+  EXPECT_TRUE(
+      system_.CreateDirectoryW(system_.GetEnvironmentVariableW("LOCALAPPDATA") + "\\Korvale"));
   EXPECT_TRUE(system_.CanAppendToFile(system_.localAppData + "\\Korvale\\Log"));
   EXPECT_FALSE(system_.CreateDirectoryW("C:\\None\\Korvale"));
 }

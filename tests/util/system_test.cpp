@@ -37,7 +37,7 @@ class SystemOfTest : public SystemApi {
   bool CreateDirectoryW(const std::string& /*path*/) override { return false; }
   std::vector<std::string> FindFirstFileW(const std::string& /*pattern*/) override { return {}; }
   bool DeleteFileW(const std::string& /*path*/) override { return false; }
-  std::string SHGetKnownFolderPath() override { return ""; }
+  std::string GetEnvironmentVariableW(const std::string&) override { return ""; }
   FolderInfo GetFinalPathNameByHandleW(const std::string& /*folder*/) override { return {}; }
   std::unique_ptr<SystemMutex> CreateMutexA(const std::string& /*name*/) override { return {}; }
   std::unique_ptr<SystemMutex> OpenMutexA(const std::string& /*name*/) override { return {}; }

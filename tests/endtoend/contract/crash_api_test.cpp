@@ -145,6 +145,12 @@ TEST_F(WindowsCrashApiTest, WritesADump) {
   }
 }
 
+// The box and the log must be possible while no library can be loaded.
+TEST_F(WindowsCrashApiTest, ReportsACrashWhileTheLoaderOfLibrariesStandsStill) {
+  EXPECT_EQ(Run("loader", "log"), 0xC0000005);
+  EXPECT_EQ(Content(Report()), "C0000005 \nlogged\n");
+}
+
 TEST_F(WindowsCrashApiTest, ReportsNothingWhenTheProgramEnds) {
   EXPECT_EQ(Run("none"), 7U);
   EXPECT_EQ(Run("taken back"), 7U);

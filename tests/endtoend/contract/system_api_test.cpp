@@ -1,11 +1,15 @@
 #include <gtest/gtest.h>
 #include <windows.h>
+// After windows.h, which they need.
+#include <objbase.h>
+#include <shlobj.h>
 
 #include <filesystem>
 #include <string>
 #include <thread>
 #include <vector>
 
+#include "platform/windows/text.h"
 #include "platform/windows/windows_clock.h"
 #include "platform/windows/windows_system_api.h"
 
@@ -84,10 +88,25 @@ TEST(WindowsSystemApi, MakesFoldersAndFindsAndDeletesFiles) {
 }
 
 TEST(WindowsSystemApi, KnowsTheUsersFolderForData) {
-  const std::string folder = WindowsSystemApi().SHGetKnownFolderPath();
-  ASSERT_FALSE(folder.empty());
-  EXPECT_NE(folder.back(), '\\');
+  const std::string folder = WindowsSystemApi().GetEnvironmentVariableW("LOCALAPPDATA");
+  wchar_t* known = nullptr;
+  ASSERT_EQ(SHGetKnownFolderPath(FOLDERID_LocalAppData, 0, nullptr, &known), S_OK);
+  EXPECT_EQ(folder, ToUtf8(known));
+  CoTaskMemFree(known);
   EXPECT_TRUE(WindowsSystemApi().CanAppendToFile(folder + "\\none.log"));
+}
+
+TEST(WindowsSystemApi, ReadsVariablesOfAnyLength) {
+  WindowsSystemApi system;
+  for (const int length : {1, 259, 260, 261, 5000}) {
+    const std::string text(static_cast<std::size_t>(length - 1), 'x');
+    SetEnvironmentVariableW(L"Korvale Ж", ToUtf16(text + "ж").c_str());
+    EXPECT_EQ(system.GetEnvironmentVariableW("Korvale Ж"), text + "ж");
+  }
+  SetEnvironmentVariableW(L"Korvale Ж", L"");
+  EXPECT_EQ(system.GetEnvironmentVariableW("Korvale Ж"), "");
+  SetEnvironmentVariableW(L"Korvale Ж", nullptr);
+  EXPECT_EQ(system.GetEnvironmentVariableW("Korvale Ж"), "");
 }
 
 TEST(WindowsSystemApi, KnowsAFolderByEveryPath) {

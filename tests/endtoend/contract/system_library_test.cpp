@@ -24,6 +24,11 @@ TEST(SystemLibrary, ThatIsMissingHasNoFunctions) {
   EXPECT_EQ(library.Find<decltype(VerLanguageNameW)>("VerLanguageNameW"), nullptr);
 }
 
+TEST(SystemLibrary, StaysLoaded) {
+  EXPECT_NE(SystemLibrary(L"msimg32.dll").Find<void()>("AlphaBlend"), nullptr);
+  EXPECT_NE(GetModuleHandleW(L"msimg32.dll"), nullptr);
+}
+
 TEST(SystemLibrary, IsNotTakenFromTheProgramsFolder) {
   wchar_t path[MAX_PATH];
   ASSERT_LT(GetModuleFileNameW(nullptr, path, MAX_PATH), static_cast<DWORD>(MAX_PATH));

@@ -11,6 +11,7 @@
 #include <thread>
 
 #include "platform/windows/windows_crash_api.h"
+#include "platform/windows/windows_system_api.h"
 
 // With internal linkage the compiler would know the only function that can be meant.
 struct Base {
@@ -49,10 +50,22 @@ int Overflow(int depth, ULONG_PTR left) {
   return depth == deepest ? 0 : Overflow(depth + 1, left) + room[0];
 }
 
+/// Crashes while no other thread can load a library.
+void AccessInLoader() {
+  const auto lock =
+      reinterpret_cast<LONG(NTAPI*)(ULONG, ULONG*, ULONG_PTR*)>(reinterpret_cast<void (*)()>(
+          GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "LdrLockLoaderLock")));
+  // A thread cannot begin without the loader, and the one that reports has begun long before.
+  Sleep(300);
+  ULONG_PTR cookie = 0;
+  if (lock(0, nullptr, &cookie) == 0) Access();
+}
+
 void ThrowUncaught() { throw std::runtime_error("nobody expected this"); }
 
 const std::map<std::string, void (*)()> kCrashes = {
     {"access", Access},
+    {"loader", AccessInLoader},
     {"overflow", [] { Overflow(1, 0); }},
     {"used up stack", [] { Overflow(1, 48 * 1024); }},
     {"thread", [] { std::thread(Access).join(); }},
@@ -105,6 +118,12 @@ int main(int argc, char** argv) {
       Sleep(300);
       const bool written = api.MiniDumpWriteDump(report + ".dmp");
       Append(report, written ? "dumped\n" : "not dumped\n");
+    } else if (inFilter == "log") {
+      korvale::WindowsSystemApi system;
+      const bool known = !system.GetEnvironmentVariableW("LOCALAPPDATA").empty();
+      const bool possible = system.CanAppendToFile(report);
+      const std::string line[] = {known && possible ? "logged\n" : "not logged\n"};
+      system.AppendToFile(report, line);
     } else if (inFilter == "wait") {
       // Another thread crashes meanwhile, which waits for the end too.
       std::thread(Access).detach();
