@@ -40,7 +40,8 @@ void ForegroundTracker::tmrWindow_Timer() {
   SeenWindow front(*windows_, WindowInFront());
   NoteForeground(front);
   const bool same = std::exchange(tickedOver_, front.Handle()) == front.Handle();
-  if (same ? RecordIsOutdatedSinceTick() : RecordIsOutdated()) ValidatePreviousWindow();
+  if (same ? RecordIsOutdatedSinceTick(front.Handle()) : RecordIsOutdated())
+    ValidatePreviousWindow();
   FollowForeground(front);
   previous_->menuSelection = false;
 }
@@ -53,11 +54,12 @@ void ForegroundTracker::LookAtForeground() {
   FollowForeground(front);
 }
 
-void ForegroundTracker::FollowForeground() {
+WindowHandle ForegroundTracker::FollowForeground() {
   tickedOver_.reset();
   SeenWindow front(*windows_, WindowInFront());
   NoteForeground(front);
   FollowForeground(front);
+  return front.Handle();
 }
 
 void ForegroundTracker::NoteForeground(SeenWindow& front) {

@@ -32,8 +32,9 @@ class ForegroundTracker {
   /// between two ticks, and makes sure of the windows in it; called before a hot key's action.
   void LookAtForeground();
 
-  /// As LookAtForeground, when the record is going to be updated or validated anyway.
-  void FollowForeground();
+  /// As LookAtForeground, when the record is going to be updated or validated anyway. Returns
+  /// WindowInFront.
+  WindowHandle FollowForeground();
 
   /// Makes the next tick look at the foreground window as if it had just come to the front; called
   /// once the main window has come up in front of the window that the user worked in.
@@ -97,7 +98,7 @@ class ForegroundTracker {
   void MoveRecordBehindDialog(SeenWindow& window);
   bool IsGone(const WindowTriple& window);
   bool RecordIsOutdated();
-  bool RecordIsOutdatedSinceTick();
+  bool RecordIsOutdatedSinceTick(WindowHandle front);
   std::uint32_t CloakOf(WindowHandle hwnd);
   bool IsBehindDialog(WindowHandle hwnd);
   bool CanBeReached(SeenWindow& window);

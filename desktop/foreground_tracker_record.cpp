@@ -27,14 +27,19 @@ bool ForegroundTracker::IsGone(const WindowTriple& window) {
 /// A window of it has gone, or Windows has taken it off the screen or put it there: the user closed
 /// a Store program, which leaves its window behind, or changed virtual desktops.
 bool ForegroundTracker::RecordIsOutdated() {
-  return RecordIsOutdatedSinceTick() || CloakOf(previous_->alternate.handle) != cloaks_.back();
+  return IsGone(previous_->current) || IsGone(previous_->alternate) ||
+         CloakOf(previous_->current.handle) != cloaks_.front() ||
+         CloakOf(previous_->alternate.handle) != cloaks_.back();
 }
 
-/// The same in the tick after one that found the same window in front: whether the alternate is on
-/// the screen, which the user does not see, matters only when it is used.
-bool ForegroundTracker::RecordIsOutdatedSinceTick() {
-  return IsGone(previous_->current) || IsGone(previous_->alternate) ||
-         CloakOf(previous_->current.handle) != cloaks_.front();
+/// The same in the tick after one that found this window in front, too. A window in front is there,
+/// and Windows gives no handle anew from one tick to the next; whether the alternate is on the
+/// screen, which the user does not see, matters only when it is used.
+bool ForegroundTracker::RecordIsOutdatedSinceTick(WindowHandle front) {
+  const WindowHandle current = previous_->current.handle;
+  const WindowHandle alternate = previous_->alternate.handle;
+  return (current != front && IsGone(previous_->current)) ||
+         (alternate != 0 && !windows_->IsWindow(alternate)) || CloakOf(current) != cloaks_.front();
 }
 
 std::uint32_t ForegroundTracker::CloakOf(WindowHandle hwnd) {

@@ -42,8 +42,9 @@ WindowActions::WindowActions(const DesktopParts& parts, WindowRequests& requests
       previous_(&parts.previous),
       messages_(&parts.messages) {}
 
-ActivationResult WindowActions::ActivateWindow(WindowTriple& window, bool reportFailure, bool act) {
-  const ActivationResult result = TryActivation(window, act);
+ActivationResult WindowActions::ActivateWindow(WindowTriple& window, bool reportFailure, bool act,
+                                               WindowHandle inFront) {
+  const ActivationResult result = TryActivation(window, act, inFront);
   if (result != kActivationDone && reportFailure) ReportFailure();
   return result;
 }
@@ -75,7 +76,8 @@ ActivationResult WindowActions::ActivatePreviousWindow(WindowTriple& window) {
   return ActivateWindow(inFrontOfIt, false, true);
 }
 
-ActivationResult WindowActions::TryActivation(WindowTriple& window, bool act) {
+ActivationResult WindowActions::TryActivation(WindowTriple& window, bool act,
+                                              WindowHandle inFront) {
   const WindowHandle hwnd = window.handle;
   SeenWindow found(*windows_, hwnd);
   const ActivationResult kind = CheckKind(found);
@@ -92,7 +94,7 @@ ActivationResult WindowActions::TryActivation(WindowTriple& window, bool act) {
     return kActivationFailed;
   }
   const ActivationResult enabled = CheckEnabled(live);
-  return act && enabled == kActivationDone ? BringForward(live) : enabled;
+  return act && enabled == kActivationDone ? BringForward(live, inFront) : enabled;
 }
 
 ActivationResult WindowActions::Examine(SeenWindow& window) {
@@ -144,9 +146,9 @@ void WindowActions::RefreshRecordedTitle(WindowTriple& window, std::string_view 
   }
 }
 
-ActivationResult WindowActions::BringForward(SeenWindow& window) {
+ActivationResult WindowActions::BringForward(SeenWindow& window, WindowHandle inFront) {
   const WindowHandle hwnd = window.Handle();
-  KnownWindow before{previous_->InFront(*windows_), ""};
+  KnownWindow before{inFront != 0 ? inFront : previous_->InFront(*windows_), ""};
   if (window.IsIconic()) {
     before = Know(*windows_, before.handle);
     // Learnt only once it is in front, a denial would have taken the user from where they are.
@@ -156,8 +158,8 @@ ActivationResult WindowActions::BringForward(SeenWindow& window) {
   // What is in front now may be on its way to the back, when another selection came just before,
   // or not on the screen, when the user has just left its virtual desktop.
   if (before.handle != hwnd || previous_->menuSelection || IsCloaked(*windows_, hwnd)) {
-    const RequestResult inFront = requests_->SetForegroundWindow(hwnd);
-    if (inFront != RequestResult::kDone) return ResultOf(inFront);
+    const RequestResult brought = requests_->SetForegroundWindow(hwnd);
+    if (brought != RequestResult::kDone) return ResultOf(brought);
   }
   if (!windows_->IsIconic(hwnd)) return kActivationDone;
   // Minimized only this moment.

@@ -34,8 +34,10 @@ class WindowActions {
 
   /// Brings a window to the front, or with `act` false only finds out whether it could. The text is
   /// refreshed for the Previous Window and its alternate; the handle becomes 0 when the title no
-  /// longer fits. With `reportFailure` a failure is shown to the user.
-  ActivationResult ActivateWindow(WindowTriple& window, bool reportFailure, bool act);
+  /// longer fits. With `reportFailure` a failure is shown to the user. `inFront` is the window in
+  /// front where that has just been asked, 0 = ask (GetForegroundWindow).
+  ActivationResult ActivateWindow(WindowTriple& window, bool reportFailure, bool act,
+                                  WindowHandle inFront = 0);
 
   /// As ActivateWindow with `act` false, of a window that is known by its handle, whatever its
   /// class and title.
@@ -64,13 +66,13 @@ class WindowActions {
   void RestoreAll();
 
  private:
-  ActivationResult TryActivation(WindowTriple& window, bool act);
+  ActivationResult TryActivation(WindowTriple& window, bool act, WindowHandle inFront);
   ActivationResult CheckKind(SeenWindow& window);
   ActivationResult CheckShown(SeenWindow& window);
   ActivationResult CheckEnabled(SeenWindow& window);
   ActivationResult RestoreIconicOwner(WindowHandle hwnd);
   void RefreshRecordedTitle(WindowTriple& window, std::string_view title);
-  ActivationResult BringForward(SeenWindow& window);
+  ActivationResult BringForward(SeenWindow& window, WindowHandle inFront);
   ActivationResult Unfold(WindowHandle hwnd, const KnownWindow& before);
   bool StaysMinimized(WindowHandle hwnd);
   bool ChangeAll(EnumerationMode mode);

@@ -60,10 +60,14 @@ WindowSelection::WindowSelection(const DesktopParts& parts, WindowRequests& requ
       tracker_(&tracker),
       tags_(&tags) {}
 
-void WindowSelection::SelectTag(std::int16_t tag) {
+void WindowSelection::SelectTag(std::int16_t tag, std::optional<WindowHandle> inFront) {
   const TimerPause pause(*mainWindow_);
-  const MenuItem* const entry = tag == 0 ? nullptr : Entry(tag);
-  const bool moved = tag == 0 ? SelectPrevious() : entry != nullptr && SelectEntry(*entry);
+  bool moved = false;
+  if (tag == 0) {
+    moved = SelectPrevious();
+  } else if (const MenuItem* const entry = Entry(tag); entry != nullptr) {
+    moved = SelectEntry(*entry, inFront ? *inFront : tracker_->WindowInFront());
+  }
   if (!moved) tracker_->ValidatePreviousWindow();
 }
 
@@ -98,18 +102,17 @@ void WindowSelection::SelectAtStart() {
 }
 
 /// Windows may deliver messages during the activation, so the entry is looked up anew afterwards.
-bool WindowSelection::SelectEntry(const MenuItem& entry) {
+bool WindowSelection::SelectEntry(const MenuItem& entry, WindowHandle inFront) {
   const int tag = entry.index;
-  const WindowHandle front = tracker_->WindowInFront();
   // After a change of virtual desktops, what is in front need not be on the screen.
-  const bool unseen = front != 0 && front == TagHandle(entry) && IsCloaked(*windows_, front);
-  const WindowHandle foreground = unseen ? 0 : front;
+  const bool unseen = inFront != 0 && inFront == TagHandle(entry) && IsCloaked(*windows_, inFront);
+  const WindowHandle foreground = unseen ? 0 : inFront;
   if (TagHandle(entry) == foreground && foreground != 0) {
     selected = foreground;
     RestoreInFront(foreground);
     return false;
   }
-  const ActivationResult result = ActivateOrSearch(tag);
+  const ActivationResult result = ActivateOrSearch(tag, foreground);
   // The strip must not show a window that is gone while a message waits for the user.
   if (result != kActivationDone) tracker_->ValidatePreviousWindow();
   const MenuItem* const selectedEntry = Entry(tag);
@@ -136,15 +139,15 @@ WindowTriple WindowSelection::WindowOf(const MenuItem& entry) const {
   return {TagHandle(entry), IdentificationText(entry), TagClass(*tags_, entry)};
 }
 
-ActivationResult WindowSelection::Activate(int tag) {
+ActivationResult WindowSelection::Activate(int tag, WindowHandle inFront) {
   const MenuItem* const entry = Entry(tag);
   if (entry == nullptr) return kActivationFailed;
   WindowTriple window = WindowOf(*entry);
-  return actions_->ActivateWindow(window, false, true);
+  return actions_->ActivateWindow(window, false, true, inFront);
 }
 
-ActivationResult WindowSelection::ActivateOrSearch(int tag) {
-  ActivationResult result = Activate(tag);
+ActivationResult WindowSelection::ActivateOrSearch(int tag, WindowHandle inFront) {
+  ActivationResult result = Activate(tag, inFront);
   if (IsTheWindow(result) || windowSearch) return result;
   const std::optional<WindowHandles> fitting = enumeration_->RefreshTags(tag);
   result = Activate(tag);

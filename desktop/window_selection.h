@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "desktop/desktop_parts.h"
@@ -26,8 +27,9 @@ class WindowSelection {
                   ForegroundTracker& tracker, TagList& tags);
 
   /// Selects the window of Tag `tag` (0-9) with the timers stopped, and tells the user when that is
-  /// not possible. Does nothing for a Tag without an entry.
-  void SelectTag(std::int16_t tag);
+  /// not possible. Does nothing for a Tag without an entry. `inFront` is the tracker's
+  /// WindowInFront where that has just been asked.
+  void SelectTag(std::int16_t tag, std::optional<WindowHandle> inFront = {});
 
   /// Brings the current Previous Window to the front as the program starts; a failure is nothing to
   /// tell.
@@ -41,12 +43,12 @@ class WindowSelection {
  private:
   /// Both give true when the record has moved to the selected window.
   bool SelectPrevious();
-  bool SelectEntry(const MenuItem& entry);
+  bool SelectEntry(const MenuItem& entry, WindowHandle inFront);
   MenuItem* Entry(int tag) { return tags_->mnuWindowParentList.Find(tag); }
   void RestoreInFront(WindowHandle hwnd);
   WindowTriple WindowOf(const MenuItem& entry) const;
-  ActivationResult Activate(int tag);
-  ActivationResult ActivateOrSearch(int tag);
+  ActivationResult Activate(int tag, WindowHandle inFront = 0);
+  ActivationResult ActivateOrSearch(int tag, WindowHandle inFront);
   ActivationResult ActivateFound(MenuItem& entry, WindowHandle found);
   void TellFailure(const MenuItem& entry, ActivationResult result);
 

@@ -139,13 +139,13 @@ void HotKeyDispatch::MinimizeOrMaximize(const std::string& name) {
 
 void HotKeyDispatch::SelectTag(int tag) {
   // The user may have changed windows since the last tick.
-  desktop_->tracker.FollowForeground();
+  const WindowHandle inFront = desktop_->tracker.FollowForeground();
   const std::int16_t index = ToInt16(tag);
   if (desktop_->tagPasses.TagListPass(TagListMode::kExists, index) == -1 ||
       !HasTagCaption(desktop_->tags, index)) {
     return;
   }
-  desktop_->selection.SelectTag(index);
+  desktop_->selection.SelectTag(index, inFront);
   actions_->TagSelected();
 }
 

@@ -78,6 +78,7 @@ TEST_F(TrackingFromAlphaOn, AnotherWindowUnderTheHandleOfTheOldOneIsNotTakenForI
   desktop.Close(alpha);
   desktop.Open("Another", {.className = "Another", .activate = false, .reuseHandle = alpha});
   tracker.tmrWindow_Timer();
+  tracker.LookAtForeground();
   ExpectRecord(Triple(beta), WindowTriple{});
 }
 

@@ -30,10 +30,11 @@ TEST_F(QuietTicks, NoticeThatTheWindowInFrontIsCloakedAndShownAgain) {
   ExpectRecord(Triple(beta), Triple(alpha));
 }
 
-TEST_F(QuietTicks, NoticeAnotherWindowUnderTheHandleOfTheOneInFront) {
+TEST_F(QuietTicks, LeaveAnotherWindowUnderTheHandleOfTheOneInFrontToTheNextUse) {
   desktop.Close(beta);
   desktop.Open("Another", {.className = "Another", .reuseHandle = beta});
   Tick();
+  tracker.LookAtForeground();
   ExpectRecord({beta, "Another", "Another"}, Triple(alpha));
 }
 
