@@ -1,7 +1,31 @@
+#include <windows.h>
+// psapi.h needs windows.h before it.
+#include <psapi.h>
+
+#include <algorithm>
+#include <stdexcept>
+
 #include "tests/endtoend/korvale_test.h"
 
 namespace korvale::endtoend {
 namespace {
+
+/// Whether this library is loaded into the program, as in "shell32.dll".
+bool HasLoaded(const Process& program, const char* library) {
+  const Handle process(
+      OpenProcess(PROCESS_QUERY_INFORMATION | PROCESS_VM_READ, FALSE, program.id()));
+  HMODULE modules[512];
+  DWORD size = 0;
+  if (K32EnumProcessModules(process.get(), modules, sizeof(modules), &size) == 0 ||
+      size > sizeof(modules)) {
+    throw std::runtime_error("the libraries of a program cannot be listed");
+  }
+  return std::any_of(modules, modules + size / sizeof(HMODULE), [&](HMODULE module) {
+    char name[MAX_PATH] = "";
+    K32GetModuleBaseNameA(process.get(), module, name, MAX_PATH);
+    return lstrcmpiA(name, library) == 0;
+  });
+}
 
 constexpr char kReviewQuestion[] =
     "Korvale is installed with Hot Keys active.  It is recommended that you review the Hot Keys "
@@ -30,6 +54,15 @@ class StartUp : public KorvaleTest {
     EXPECT_EQ(second.process().WaitForExit(), 0U);
   }
 };
+
+// Each would take time at every start and memory all day. ole32 is left out: Wine loads it itself.
+TEST_F(StartUp, LoadsNoLibraryThatOnlyLaterUseNeeds) {
+  Start();
+  EXPECT_TRUE(HasLoaded(korvale_->process(), "user32.dll"));
+  for (const char* const library : {"shell32.dll", "comdlg32.dll", "dbghelp.dll", "oleacc.dll"}) {
+    EXPECT_FALSE(HasLoaded(korvale_->process(), library)) << library;
+  }
+}
 
 TEST_F(StartUp, TheMainWindowIsNamedAfterTheFolder) {
   Start();
