@@ -19,9 +19,11 @@
 
 #if defined(__GLIBCXX__)
 namespace __gnu_cxx {
+
 // What std::terminate calls until it is told otherwise. The library's own one prints the type of
 // the exception, for which it would bring along 50 KB that read names of C++.
 void __verbose_terminate_handler() { std::abort(); }  // NOLINT(bugprone-reserved-identifier)
+
 }  // namespace __gnu_cxx
 #endif
 
