@@ -1,5 +1,6 @@
 #include <benchmark/benchmark.h>
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -31,11 +32,7 @@ class PassDesktop {
     }
   }
 
-  void Filter() {
-    int passed = 0;
-    routines_.enumeration.EnumWindows(kSearchTitle, [&](const auto&) { ++passed; });
-    benchmark::DoNotOptimize(passed);
-  }
+  void Filter() { benchmark::DoNotOptimize(Passed()); }
 
   void MatchTitles() {
     for (const std::string& title : windows_.Titles()) {
@@ -53,9 +50,10 @@ class PassDesktop {
     }
   }
 
-  bool AllTagsFound() {
+  /// Whether each window passes the filter and each Tag finds its own.
+  bool AllFound() {
     PassOverTags();
-    bool found = true;
+    bool found = Passed() == windows_.Titles().size();
     for (int tag = 1; tag <= kTags; ++tag) {
       found = found && TagHandle(*routines_.tags.mnuWindowParentList.Find(tag)) != 0;
     }
@@ -63,6 +61,13 @@ class PassDesktop {
   }
 
  private:
+  /// How many windows pass the filter.
+  std::size_t Passed() {
+    std::size_t passed = 0;
+    routines_.enumeration.EnumWindows(kSearchTitle, [&](const auto&) { ++passed; });
+    return passed;
+  }
+
   static std::string Identification(int tag, const std::string& title) {
     if (tag % 3 == 1) return title;
     if (tag % 3 == 2) return std::string(LeftTitlePart(title)).append(kLeftPartMark);
@@ -92,7 +97,7 @@ void PerWindow(benchmark::State& state, void (PassDesktop::*pass)()) {
     });
     time += ProcessorNanoseconds([&] { (desktop.*pass)(); });
   }
-  if (!desktop.AllTagsFound()) state.SkipWithError("a Tag finds no window");
+  if (!desktop.AllFound()) state.SkipWithError("a window is not found");
   state.counters["ns_per_window"] = time / static_cast<double>(state.iterations()) / count;
   state.counters["beside_10"] = time / smallTime;
 }

@@ -39,7 +39,11 @@ class PlainWindows : public WindowQueries {
   }
   WindowHandle GetParent(WindowHandle) override { return 0; }
   WindowHandle GetLastActivePopup(WindowHandle hwnd) override { return hwnd; }
-  std::int32_t GetWindowLongA(WindowHandle, int) override { return 0; }
+  std::int32_t GetWindowLongA(WindowHandle hwnd, int index) override {
+    return index == win32::kGwlStyle && IsWindow(hwnd)
+               ? static_cast<std::int32_t>(win32::kWsVisible)
+               : 0;
+  }
   int GetWindowTextLengthA(WindowHandle hwnd) override {
     return IsWindow(hwnd) ? static_cast<int>(TitleOf(hwnd).size()) : 0;
   }
