@@ -41,12 +41,13 @@ class Writer {
     Starts();
     Space();
     Upkeeps();
+    Astray();
     return text_;
   }
 
  private:
   using Show = std::function<std::string(const Figures&)>;
-  using ByDesktop = std::map<int, Samples> Figures::*;
+  using SamplesOf = ByDesktop Figures::*;
 
   const Figures& Floor() const { return session_.figures().front(); }
 
@@ -72,7 +73,7 @@ class Writer {
     text_.append(" ").append(aim).append(" |\n");
   }
 
-  void TimeRow(const std::string& figure, const std::string& aim, ByDesktop times, int windows) {
+  void TimeRow(const std::string& figure, const std::string& aim, SamplesOf times, int windows) {
     Row(
         figure + ", " + Desktop(windows), aim,
         [=](const Figures& figures) { return Times((figures.*times).at(windows)); },
@@ -82,21 +83,16 @@ class Writer {
         });
   }
 
-  /// Beside the floor stands how many bare loops it takes: from what a larger desktop costs more
-  /// than a small one, so that what is the same on both, such as showing a message, cancels out.
-  /// The floor takes `ofFloor` loops.
-  void LoopRow(const std::string& figure, const std::string& aim, ByDesktop times, int small,
+  /// Beside the floor stands how many bare loops it takes; the floor takes `ofFloor`.
+  void LoopRow(const std::string& figure, const std::string& aim, SamplesOf times, int small,
                int windows, int ofFloor) {
-    const auto growth = [=](const std::map<int, Samples>& samples) {
-      return samples.at(windows).Median() - samples.at(small).Median();
-    };
     Row(
         figure + ", " + Desktop(windows), aim,
         [=](const Figures& figures) { return Times((figures.*times).at(windows)); },
         [=, this](const Figures& figures) {
-          const double more = growth(figures.*times) - growth(Floor().*times);
-          return Number(ofFloor + more / growth(session_.bareLoop()), 1,
-                        ofFloor == 0 ? " loops more" : " loops");
+          const double more =
+              LoopsMore(figures.*times, Floor().*times, session_.bareLoop(), small, windows);
+          return Number(ofFloor + more, 1, ofFloor == 0 ? " loops more" : " loops");
         });
   }
 
@@ -129,18 +125,7 @@ class Writer {
   }
 
   void Space() {
-    const auto megabytes = [](double Figures::*bytes) {
-      return [=](const Figures& figures) { return Number(figures.*bytes / kMegabyte, 1, " MB"); };
-    };
-    const auto more = [this](double Figures::*bytes) {
-      return [=, this](const Figures& figures) {
-        return Number((figures.*bytes - Floor().*bytes) / kMegabyte, 1, " MB more");
-      };
-    };
-    const auto growth = [](const Figures& figures) {
-      const double grown = figures.memoryAfterFlood - figures.memoryAfterStart;
-      return Number(grown / kMegabyte, 1, " MB since its start");
-    };
+    const auto megabytes = [](double bytes) { return Number(bytes / kMegabyte, 1, " MB"); };
     const int switches = session_.plan().floodSwitches;
     Heading("Size, memory, settings");
     Row(
@@ -149,10 +134,20 @@ class Writer {
           return Count(static_cast<long long>(figures.size)) + " bytes";
         },
         [](const Figures&) { return "-"; });
-    Row("resident memory after the start", "4 MB more", megabytes(&Figures::memoryAfterStart),
-        more(&Figures::memoryAfterStart));
-    Row("resident memory after " + Count(switches) + " switches", "constant",
-        megabytes(&Figures::memoryAfterFlood), growth);
+    Row(
+        "resident memory after the start", "4 MB more",
+        [=](const Figures& figures) { return megabytes(figures.memoryAfterStart.Median()); },
+        [=, this](const Figures& figures) {
+          return megabytes(figures.memoryAfterStart.Median() - Floor().memoryAfterStart.Median()) +
+                 " more";
+        });
+    Row(
+        "resident memory after " + Count(switches) + " switches", "constant",
+        [=](const Figures& figures) { return megabytes(figures.memoryAfterFlood); },
+        [=](const Figures& figures) {
+          return megabytes(figures.memoryAfterFlood - figures.memoryBeforeFlood) +
+                 " since its start";
+        });
     Row(
         "changes of the stored settings per selected Tag, at least", "0",
         [](const Figures& figures) { return Number(figures.settingsChangesPerSwitch, 1, ""); },
@@ -179,6 +174,18 @@ class Writer {
     UpkeepRow("title in front changing 10 times a second for " +
                   std::to_string(plan.changingTitleSeconds) + " s",
               "1.5 times, 0 changes", &Figures::changingTitle);
+  }
+
+  void CountRow(const std::string& figure, int Figures::*count) {
+    Row(
+        figure, "-", [=](const Figures& figures) { return Count(figures.*count); },
+        [](const Figures&) { return "-"; });
+  }
+
+  void Astray() {
+    Heading("What went astray and is in no figure above");
+    CountRow("keys that nothing came of", &Figures::lostKeys);
+    CountRow("starts that lacked a hot key and were repeated", &Figures::repeatedStarts);
   }
 
   std::span<const Subject> subjects_;

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <windows.h>
-
+#include <map>
 #include <vector>
 
 namespace korvale::bench {
@@ -10,8 +9,7 @@ namespace korvale::bench {
 class Samples {
  public:
   void Add(double value) { values_.push_back(value); }
-  bool Empty() const { return values_.empty(); }
-  /// 0 when nothing was measured.
+  /// Both throw std::runtime_error when nothing was measured.
   double Median() const;
   double Worst() const;
 
@@ -19,16 +17,12 @@ class Samples {
   std::vector<double> values_;
 };
 
-/// Milliseconds since it was made, as exact as the machine can tell.
-class StopWatch {
- public:
-  StopWatch() : start_(Now()) {}
-  double Milliseconds() const;
+/// Measured values by the number of windows on the desktop.
+using ByDesktop = std::map<int, Samples>;
 
- private:
-  static LONGLONG Now();
-
-  LONGLONG start_;
-};
+/// How many bare loops a program needs more than the floor: from what a larger desktop costs more
+/// than a small one, so that what is the same on both, such as showing a message, cancels out.
+double LoopsMore(const ByDesktop& times, const ByDesktop& ofFloor, const ByDesktop& bareLoop,
+                 int small, int large);
 
 }  // namespace korvale::bench

@@ -7,6 +7,7 @@
 
 #include "bench/floor/bare_loop.h"
 #include "bench/measure/processors.h"
+#include "bench/measure/stop_watch.h"
 #include "bench/measure/switches.h"
 #include "bench/measure/usage.h"
 
@@ -19,8 +20,10 @@ using endtoend::Window;
 constexpr int kUsualWindows = 20;
 constexpr int kStartsPerRound = 3;
 constexpr int kLoopsPerTurn = 3;
+/// Upkeep is measured in so many turns.
+constexpr int kUpkeepTurns = 4;
 /// So that a loop is measured from rest, as a key is.
-constexpr DWORD kRestMs = 100;
+constexpr DWORD kBeforeLoopMs = 100;
 constexpr DWORD kTitleChangeMs = 100;
 
 }  // namespace
@@ -40,17 +43,28 @@ void Session::Run() {
     // Nobody always comes first on a fresh desktop.
     std::reverse(order_.begin(), order_.end());
   }
-  MeasureUse();
+  Targets targets(kUsualWindows);
+  for (int turn = 1; turn <= kUpkeepTurns; ++turn) {
+    std::cerr << "idle use, turn " << turn << " of " << kUpkeepTurns << std::endl;
+    MeasureUse(targets);
+    std::reverse(order_.begin(), order_.end());
+  }
+  for (const size_t at : order_) {
+    std::cerr << "many switches, " << subjects_[at].name() << std::endl;
+    MeasureFlood(at, targets);
+    figures_[at].repeatedStarts = subjects_[at].RepeatedStarts();
+  }
 }
 
 void Session::MeasureKeys(int windows) {
   Targets targets(windows);
   for (const size_t at : order_) {
     subjects_[at].StartAndRest();
-    const Switches switches(subjects_[at], targets);
+    Switches switches(subjects_[at], targets);
     switches.Live(figures_[at].live[windows]);
     switches.Reopened(figures_[at].reopened[windows]);
     switches.NothingFound(figures_[at].nothingFound[windows]);
+    figures_[at].lostKeys += switches.LostKeys();
     subjects_[at].End();
     MeasureBareLoop(windows);
   }
@@ -67,53 +81,57 @@ void Session::MeasureStarts(int windows) {
   }
 }
 
-void Session::MeasureUse() {
-  Targets targets(kUsualWindows);
-  for (size_t at = 0; at < subjects_.size(); ++at) {
-    std::cerr << "memory and idle use, " << subjects_[at].name() << std::endl;
+void Session::MeasureUse(Targets& targets) {
+  for (const size_t at : order_) {
     Figures& figures = figures_[at];
     subjects_[at].StartAndRest();
-    figures.memoryAfterStart = ResidentMemory(subjects_[at].process());
+    figures.memoryAfterStart.Add(ResidentMemory(subjects_[at].process()));
     BringToFront(targets.Tagged(1));
     subjects_[at].Rest();
-    figures.idle = MeasureUpkeep(subjects_[at], plan_.idleSeconds, {});
-    figures.changingTitle =
-        MeasureUpkeep(subjects_[at], plan_.changingTitleSeconds, targets.Tagged(1));
+    MeasureUpkeep(subjects_[at], plan_.idleSeconds, {}, figures.idle);
+    MeasureUpkeep(subjects_[at], plan_.changingTitleSeconds, targets.Tagged(1),
+                  figures.changingTitle);
     targets.Tagged(1).SetTitle(Targets::Title(1));
-    MeasureFlood(at, targets);
     subjects_[at].End();
   }
 }
 
 void Session::MeasureFlood(size_t subject, Targets& targets) {
-  const Subject& program = subjects_[subject];
-  const Switches switches(program, targets);
+  Subject& program = subjects_[subject];
+  Figures& figures = figures_[subject];
+  program.StartAndRest();
+  figures.memoryBeforeFlood = ResidentMemory(program.process());
+  Switches switches(program, targets);
   Samples ignored;
   ChangeCounter changes(program.StoredIn());
   switches.Live(ignored);
   program.Rest();
-  figures_[subject].settingsChangesPerSwitch = static_cast<double>(changes.Count()) / kTags;
+  figures.settingsChangesPerSwitch = static_cast<double>(changes.Count()) / kTags;
   switches.Flood(plan_.floodSwitches);
   program.Rest();
-  figures_[subject].memoryAfterFlood = ResidentMemory(program.process());
+  figures.memoryAfterFlood = ResidentMemory(program.process());
+  figures.lostKeys += switches.LostKeys();
+  program.End();
 }
 
-Upkeep Session::MeasureUpkeep(const Subject& subject, int seconds, Window changing) const {
+void Session::MeasureUpkeep(const Subject& subject, int seconds, Window changing,
+                            Upkeep& upkeep) const {
   ChangeCounter changes(subject.StoredIn());
   const double before = ProcessorTime(subject.process(), subject.program());
   const StopWatch watch;
-  for (int change = 0; watch.Milliseconds() < seconds * 1000.0; ++change) {
+  for (int change = 0; watch.Milliseconds() < seconds * 1000.0 / kUpkeepTurns; ++change) {
     Sleep(kTitleChangeMs);
     if (changing) changing.SetTitle("Page " + std::to_string(change) + " - Editor");
   }
-  return {ProcessorTime(subject.process(), subject.program()) - before, changes.Count()};
+  upkeep.processorMs += ProcessorTime(subject.process(), subject.program()) - before;
+  upkeep.settingsChanges += changes.Count();
 }
 
 void Session::MeasureBareLoop(int windows) {
   KeepThreadOn(Side::kSubject);
   for (int loop = 0; loop < kLoopsPerTurn; ++loop) {
     int found = 0;
-    Sleep(kRestMs);
+    Sleep(kBeforeLoopMs);
     const StopWatch watch;
     BareLoop([&](const BareWindow& window) { found += window.child != nullptr ? 1 : 0; });
     bareLoop_[windows].Add(watch.Milliseconds());

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <map>
 #include <span>
 #include <string>
 #include <vector>
@@ -27,16 +26,20 @@ struct Upkeep {
 
 /// What was measured of one program; times in ms, by the number of windows on the desktop.
 struct Figures {
-  std::map<int, Samples> live;
-  std::map<int, Samples> reopened;
-  std::map<int, Samples> nothingFound;
-  std::map<int, Samples> start;
+  ByDesktop live;
+  ByDesktop reopened;
+  ByDesktop nothingFound;
+  ByDesktop start;
   double size = 0;
-  double memoryAfterStart = 0;
+  Samples memoryAfterStart;
   double memoryAfterFlood = 0;
+  /// What the flood began with, in the same run.
+  double memoryBeforeFlood = 0;
   double settingsChangesPerSwitch = 0;
   Upkeep idle;
   Upkeep changingTitle;
+  int lostKeys = 0;
+  int repeatedStarts = 0;
 };
 
 /// Measures several programs on the same desktops, one after the other in short turns.
@@ -54,21 +57,22 @@ class Session {
   /// In the order of the subjects.
   const std::vector<Figures>& figures() const { return figures_; }
   /// One bare loop over the desktop, in ms.
-  const std::map<int, Samples>& bareLoop() const { return bareLoop_; }
+  const ByDesktop& bareLoop() const { return bareLoop_; }
 
  private:
   void MeasureKeys(int windows);
   void MeasureStarts(int windows);
-  void MeasureUse();
+  void MeasureUse(Targets& targets);
   void MeasureFlood(size_t subject, Targets& targets);
-  Upkeep MeasureUpkeep(const Subject& subject, int seconds, endtoend::Window changing) const;
+  void MeasureUpkeep(const Subject& subject, int seconds, endtoend::Window changing,
+                     Upkeep& upkeep) const;
   void MeasureBareLoop(int windows);
 
   std::span<Subject> subjects_;
   Plan plan_;
   std::vector<Figures> figures_;
   std::vector<size_t> order_;
-  std::map<int, Samples> bareLoop_;
+  ByDesktop bareLoop_;
 };
 
 }  // namespace korvale::bench

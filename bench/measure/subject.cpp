@@ -4,7 +4,7 @@
 #include <stdexcept>
 
 #include "bench/measure/processors.h"
-#include "bench/measure/samples.h"
+#include "bench/measure/stop_watch.h"
 #include "bench/measure/targets.h"
 #include "tests/endtoend/harness/files.h"
 #include "tests/endtoend/harness/keyboard.h"
@@ -20,7 +20,7 @@ using endtoend::WaitFor;
 using endtoend::Window;
 
 /// What a program may have left to do behind a switch, two ticks of its timer included.
-constexpr DWORD kRestMs = 220;
+constexpr DWORD kBehindSwitchMs = 220;
 
 /// How often a start that lacks a hot key is tried again.
 constexpr int kAttempts = 5;
@@ -83,13 +83,14 @@ std::optional<double> Subject::Start() {
 double Subject::StartAndRest() {
   for (int attempt = 0; attempt < kAttempts; ++attempt) {
     if (const std::optional<double> took = Start()) return *took;
+    ++repeatedStarts_;
     End();
   }
   throw std::runtime_error(name_ + " lacks hot keys at each start");
 }
 
 void Subject::Rest() const {
-  Sleep(kRestMs);
+  Sleep(kBehindSwitchMs);
   for (const Window window : endtoend::TopLevelWindows()) {
     if (window.ProcessId() == process_->id()) window.Responds();
   }

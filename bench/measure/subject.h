@@ -31,6 +31,8 @@ class Subject {
   /// Starts it, waits until it rests and returns how many ms passed until it had registered all hot
   /// keys of Tags.
   double StartAndRest();
+  /// How many starts lacked a hot key and were made again.
+  int RepeatedStarts() const { return repeatedStarts_; }
   /// Waits until it has done what it does behind a switch.
   void Rest() const;
   /// Its message box, if there is one.
@@ -49,6 +51,7 @@ class Subject {
   std::string arguments_;
   std::unique_ptr<endtoend::Installation> installation_;
   std::optional<endtoend::Process> process_;
+  int repeatedStarts_ = 0;
 };
 
 }  // namespace korvale::bench

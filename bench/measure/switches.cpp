@@ -2,6 +2,7 @@
 
 #include <stdexcept>
 
+#include "bench/measure/stop_watch.h"
 #include "tests/endtoend/harness/keyboard.h"
 #include "tests/endtoend/harness/wait.h"
 
@@ -39,39 +40,36 @@ double TimeFromKey(int tag, const Condition& condition) {
 
 }  // namespace
 
-void Switches::Live(Samples& samples) const {
+void Switches::Live(Samples& samples) {
   StandInLastTag();
   for (int tag = 1; tag <= kTags; ++tag) {
     subject_.Rest();
-    const double took = Press(tag);
-    if (took != 0) samples.Add(took);
+    Press(tag, samples);
   }
 }
 
-void Switches::Reopened(Samples& samples) const {
+void Switches::Reopened(Samples& samples) {
   StandInLastTag();
   for (int tag = 1; tag <= kTags; ++tag) {
     targets_.Close(tag);
     targets_.Reopen(tag);
     subject_.Rest();
-    const double took = Press(tag);
-    if (took != 0) samples.Add(took);
+    Press(tag, samples);
   }
 }
 
-void Switches::NothingFound(Samples& samples) const {
+void Switches::NothingFound(Samples& samples) {
   StandInLastTag();
   for (int tag = 1; tag <= kTagsWithoutWindow; ++tag) {
     targets_.Close(tag);
     subject_.Rest();
-    const double took = PressForMessage(tag);
-    if (took != 0) samples.Add(took);
+    PressForMessage(tag, samples);
     Dismiss();
   }
   for (int tag = 1; tag <= kTagsWithoutWindow; ++tag) targets_.Reopen(tag);
 }
 
-void Switches::Flood(int count) const {
+void Switches::Flood(int count) {
   int lost = 0;
   StandInLastTag();
   for (int done = 0; done < count; ++done) {
@@ -79,6 +77,7 @@ void Switches::Flood(int count) const {
     endtoend::Press(endtoend::TagKey(tag));
     while (!endtoend::WaitFor([&] { return endtoend::Foreground() == targets_.Tagged(tag); })) {
       endtoend::Press(endtoend::TagKey(tag));
+      ++lostKeys_;
       if (++lost > kPatience) throw std::runtime_error("keys of " + subject_.name() + " are lost");
     }
   }
@@ -89,13 +88,21 @@ void Switches::StandInLastTag() const {
   if (!BringToFront(targets_.Tagged(kTags))) throw std::runtime_error("no window comes forward");
 }
 
-double Switches::Press(int tag) const {
+void Switches::Press(int tag, Samples& samples) {
   const Window target = targets_.Tagged(tag);
-  return TimeFromKey(tag, [&] { return endtoend::Foreground() == target; });
+  Take(TimeFromKey(tag, [&] { return endtoend::Foreground() == target; }), samples);
 }
 
-double Switches::PressForMessage(int tag) const {
-  return TimeFromKey(tag, [&] { return static_cast<bool>(subject_.MessageBox()); });
+void Switches::PressForMessage(int tag, Samples& samples) {
+  Take(TimeFromKey(tag, [&] { return static_cast<bool>(subject_.MessageBox()); }), samples);
+}
+
+void Switches::Take(double time, Samples& samples) {
+  if (time == 0) {
+    ++lostKeys_;
+  } else {
+    samples.Add(time);
+  }
 }
 
 void Switches::Dismiss() const {

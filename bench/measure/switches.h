@@ -13,23 +13,26 @@ class Switches {
 
   /// From the key to the window in front, in ms: all Tags in turn, their windows open since the
   /// start of the subject.
-  void Live(Samples& samples) const;
+  void Live(Samples& samples);
   /// The same with each window closed and opened again before its key is pressed.
-  void Reopened(Samples& samples) const;
+  void Reopened(Samples& samples);
   /// From the key to the message that there is no such window, in ms; some Tags lose their windows.
-  void NothingFound(Samples& samples) const;
+  void NothingFound(Samples& samples);
   /// That many switches, each as soon as the one before has come to the front.
-  void Flood(int count) const;
+  void Flood(int count);
+  /// How many keys nothing came of, and which are in no sample.
+  int LostKeys() const { return lostKeys_; }
 
  private:
   void StandInLastTag() const;
-  /// 0 when the key went astray.
-  double Press(int tag) const;
-  double PressForMessage(int tag) const;
+  void Press(int tag, Samples& samples);
+  void PressForMessage(int tag, Samples& samples);
+  void Take(double time, Samples& samples);
   void Dismiss() const;
 
   const Subject& subject_;
   Targets& targets_;
+  int lostKeys_ = 0;
 };
 
 }  // namespace korvale::bench

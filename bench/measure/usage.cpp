@@ -8,6 +8,7 @@
 #include <fstream>
 #include <iterator>
 #include <optional>
+#include <stdexcept>
 
 #include "tests/endtoend/harness/text.h"
 
@@ -79,29 +80,40 @@ ChangeCounter::ChangeCounter(const std::string& path)
     : changed_(CreateEventW(nullptr, FALSE, FALSE, nullptr)),
       end_(CreateEventW(nullptr, FALSE, FALSE, nullptr)) {
   if (path.empty()) return;
-  RegOpenKeyExW(HKEY_CURRENT_USER, endtoend::Wide(path).c_str(), 0, KEY_NOTIFY, &key_);
+  if (RegOpenKeyExW(HKEY_CURRENT_USER, endtoend::Wide(path).c_str(), 0, KEY_NOTIFY, &key_) !=
+      ERROR_SUCCESS) {
+    throw std::runtime_error("there are no settings at " + path);
+  }
+  if (!Arm()) throw std::runtime_error("the settings cannot be watched");
   thread_ = std::thread([this] { Watch(); });
 }
 
-ChangeCounter::~ChangeCounter() { Count(); }
+ChangeCounter::~ChangeCounter() { Stop(); }
 
 int ChangeCounter::Count() {
-  if (thread_.joinable()) {
-    SetEvent(end_.get());
-    thread_.join();
-    RegCloseKey(key_);
-  }
+  Stop();
+  if (!watched_) throw std::runtime_error("the settings could not be watched any longer");
   return count_;
+}
+
+bool ChangeCounter::Arm() const {
+  return RegNotifyChangeKeyValue(key_, TRUE, REG_NOTIFY_CHANGE_NAME | REG_NOTIFY_CHANGE_LAST_SET,
+                                 changed_.get(), TRUE) == ERROR_SUCCESS;
 }
 
 void ChangeCounter::Watch() {
   const HANDLE events[] = {changed_.get(), end_.get()};
-  for (;;) {
-    RegNotifyChangeKeyValue(key_, TRUE, REG_NOTIFY_CHANGE_NAME | REG_NOTIFY_CHANGE_LAST_SET,
-                            changed_.get(), TRUE);
-    if (WaitForMultipleObjects(2, events, FALSE, INFINITE) != WAIT_OBJECT_0) return;
+  while (watched_ && WaitForMultipleObjects(2, events, FALSE, INFINITE) == WAIT_OBJECT_0) {
     ++count_;
+    watched_ = Arm();
   }
+}
+
+void ChangeCounter::Stop() {
+  if (!thread_.joinable()) return;
+  SetEvent(end_.get());
+  thread_.join();
+  RegCloseKey(key_);
 }
 
 }  // namespace korvale::bench

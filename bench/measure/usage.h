@@ -20,21 +20,26 @@ double ProcessorTime(const endtoend::Process& process, const std::string& progra
 /// been counted goes into the same number, so a few writes in a row may count as one; none is none.
 class ChangeCounter {
  public:
+  /// "" = nothing to count. Throws std::runtime_error when the key cannot be watched; what changes
+  /// from here on counts.
   explicit ChangeCounter(const std::string& path);
   ChangeCounter(const ChangeCounter&) = delete;
   ChangeCounter& operator=(const ChangeCounter&) = delete;
   ~ChangeCounter();
 
-  /// Ends the counting.
+  /// Ends the counting. Throws std::runtime_error when it broke off.
   int Count();
 
  private:
+  bool Arm() const;
   void Watch();
+  void Stop();
 
   HKEY key_ = nullptr;
   endtoend::Handle changed_;
   endtoend::Handle end_;
   int count_ = 0;
+  bool watched_ = true;
   std::thread thread_;
 };
 
