@@ -40,8 +40,8 @@ void ForegroundTracker::tmrWindow_Timer() {
   SeenWindow front(*windows_, WindowInFront());
   NoteForeground(front);
   const bool same = std::exchange(tickedOver_, front.Handle()) == front.Handle();
-  if (same ? RecordIsOutdatedSinceTick(front.Handle()) : RecordIsOutdated())
-    ValidatePreviousWindow();
+  const bool outdated = same ? RecordIsOutdatedSinceTick(front.Handle()) : RecordIsOutdated();
+  if (outdated) ValidatePreviousWindow();
   FollowForeground(front);
   previous_->menuSelection = false;
 }
