@@ -67,7 +67,7 @@ TEST_F(Colors, ChosenForABoxAreShownAtOnceAndStoredByTheNextMenuCommand) {
   EXPECT_EQ(ColorDialog(*korvale_).Shown(), kYellow);
   EXPECT_TRUE(ColorDialog(*korvale_).Choose(kRed));
   EXPECT_TRUE(Shows(TitleBox(), kRed));
-  EXPECT_TRUE(Stored("WI1BackColor", StoredColor(kYellow)));
+  EXPECT_FALSE(installation_.settings().Section("Startup").contains("WI1BackColor"));
   ASSERT_TRUE(Choose('V', {'C'}));
   EXPECT_TRUE(Stored("WI1BackColor", StoredColor(kRed)));
   EXPECT_TRUE(Stored("LastColorSelected", StoredColor(kRed)));
@@ -108,6 +108,7 @@ TEST_F(Colors, AreLeftAloneByCancel) {
   EXPECT_TRUE(ColorDialog(*korvale_).Cancel());
   ASSERT_TRUE(Choose('V', {'C'}));
   EXPECT_TRUE(Shows(ClassBox(), kBlue));
+  ASSERT_TRUE(Exit());
   EXPECT_TRUE(Stored("WI2BackColor", StoredColor(kBlue)));
   EXPECT_TRUE(Stored("LastColorSelected", "16777215"));
 }
