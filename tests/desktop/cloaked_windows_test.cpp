@@ -5,33 +5,10 @@
 #include "desktop/waiting_window.h"
 #include "platform/run_time_error.h"
 #include "platform/win32_constants.h"
-#include "tests/desktop/desktop_case.h"
+#include "tests/desktop/cloaked_case.h"
 
 namespace korvale {
 namespace {
-
-/// Mail is a suspended Store program, Alpha stands on another virtual desktop, Beta where the user
-/// is.
-class CloakedWindows : public DesktopCase {
- protected:
-  CloakedWindows() {
-    desktop.UserSwitchesDesktop(2);
-    mainWindow.handle = desktop.Open("Second main", {.process = kOurProcess});
-    mail = desktop.Open("Mail", {.className = "ApplicationFrameWindow"});
-    beta = desktop.Open("Beta");
-    desktop.SetSuspended(mail, true);
-    log.Clear();
-  }
-
-  ActivationResult Activate(WindowHandle hwnd, bool act) {
-    WindowTriple window{hwnd, desktop.Title(hwnd), desktop.Windows().Find(hwnd)->className};
-    return actions.ActivateWindow(window, false, act);
-  }
-
-  const WindowHandle alpha = desktop.Open("Alpha");
-  WindowHandle mail = 0;
-  WindowHandle beta = 0;
-};
 
 TEST_F(CloakedWindows, SearchesPassOverASuspendedWindow) {
   EXPECT_EQ(enumeration.FindByTitle("Mail"), 0);
@@ -247,60 +224,6 @@ TEST_F(CloakedWindows, AWindowJustSelectedOnAnotherDesktopCanBeMinimizedAtOnce) 
   actions.MinimizeOrMaximizeForeground("HOTKEY_MINIMIZE_PARENT");
   EXPECT_TRUE(desktop.IsIconic(alpha));
   EXPECT_FALSE(desktop.IsIconic(beta));
-}
-
-TEST_F(CloakedWindows, AWindowThatItsUserClosedButWindowsKeepsLeavesTheRecord) {
-  for (const WindowHandle hwnd : {beta, mail}) {
-    desktop.SetSuspended(mail, false);
-    desktop.UserActivates(hwnd);
-    tracker.tmrWindow_Timer();
-  }
-  EXPECT_EQ(previous.current.handle, mail);
-  desktop.SetSuspended(mail, true);
-  tracker.tmrWindow_Timer();
-  EXPECT_EQ(previous.current.handle, beta);
-}
-
-TEST_F(CloakedWindows, ATickAsksOnceWhyAWindowOfTheRecordIsCloaked) {
-  for (const WindowHandle hwnd : {alpha, beta}) {
-    desktop.UserActivates(hwnd);
-    tracker.tmrWindow_Timer();
-  }
-  desktop.UserSwitchesDesktop(2);
-  tracker.tmrWindow_Timer();
-  const Calls calls = CallsOf([this] {
-    for (int tick = 0; tick < 10; ++tick) tracker.tmrWindow_Timer();
-  });
-  EXPECT_EQ(std::ranges::count(calls, "IsWindowOnCurrentVirtualDesktop(Alpha)"), 0);
-}
-
-TEST_F(CloakedWindows, AWindowInFrontThatCannotBeReachedIsAllThatATickAsksAbout) {
-  const WindowHandle gamma = desktop.Open("Gamma");
-  const WindowHandle delta = desktop.Open("Delta");
-  for (const WindowHandle hwnd : {alpha, beta, gamma, delta}) {
-    desktop.UserActivates(hwnd);
-    tracker.tmrWindow_Timer();
-  }
-  desktop.SetEnabled(delta, false);
-  tracker.ValidatePreviousWindow();
-  const Calls calls = CallsOf([this] { tracker.tmrWindow_Timer(); });
-  EXPECT_LE(std::ranges::count(calls, "EnumWindows()"), 1) << "looking for its dialog";
-  EXPECT_EQ(std::ranges::count(calls, "IsWindow(Alpha)"), 0);
-  EXPECT_EQ(std::ranges::count(calls, "GetClassNameA(Alpha, 255)"), 0);
-  desktop.SetEnabled(delta, true);
-  tracker.tmrWindow_Timer();
-  EXPECT_EQ(previous.current.handle, delta);
-}
-
-TEST_F(CloakedWindows, AreFollowedOnceTheUserSeesThem) {
-  desktop.UserActivates(beta);
-  tracker.tmrWindow_Timer();
-  desktop.UserActivates(mail);
-  tracker.tmrWindow_Timer();
-  EXPECT_EQ(previous.current.handle, beta);
-  desktop.SetSuspended(mail, false);
-  tracker.tmrWindow_Timer();
-  EXPECT_EQ(previous.current.handle, mail);
 }
 
 }  // namespace
