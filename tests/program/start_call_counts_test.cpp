@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -10,7 +11,7 @@
 namespace korvale {
 namespace {
 
-/// How many calls to Windows the search for other copies makes, at most.
+/// How many calls to Windows a start makes.
 class StartCallCounts : public StartTest {
  protected:
   /// The reads of a start that comes up, until its first hot key is registered.
@@ -33,6 +34,34 @@ class StartCallCounts : public StartTest {
         calls, [&](const std::string& call) { return call.find(window) != std::string::npos; });
   }
 };
+
+TEST_F(StartCallCounts, AStartMakesTheseCallsAndNoOthersUntilTheHotKeysWork) {
+  for (int window = 1; window <= 20; ++window) Open("Window " + std::to_string(window));
+  KorvaleCopy& korvale = UsedCopy();
+  for (int tag = 1; tag <= 9; ++tag) StoreTag(tag, "Window " + std::to_string(tag));
+  std::map<std::string, int> counts;
+  for (const std::string& call : ReadsUntilHotKeys(korvale))
+    ++counts[call.substr(0, call.find('('))];
+  // One pass reads the class of each window. The shell and the dialogs must wait.
+  const std::map<std::string, int> expected = {
+      {"GetFinalPathNameByHandleW", 1},
+      {"CreateMutexA", 2},
+      {"CreateWindowExW", 1},
+      {"SetWindowTextW", 1},
+      {"UpdateControl", 2},
+      {"GetSetting", 40},
+      {"GetAllSettings", 17},
+      {"SaveSetting", 1},
+      {"EnumWindows", 1},
+      {"GetClassNameA", 26},
+      {"GetWindowLongA", 1},
+      {"SetTimer", 1},
+      {"SetWindowLongPtrA", 1},
+      {"WTSRegisterSessionNotification", 1},
+      {"RegisterSuspendResumeNotification", 1},
+  };
+  EXPECT_EQ(counts, expected);
+}
 
 TEST_F(StartCallCounts, AStartLooksOnceOverTheDesktopForOtherCopies) {
   constexpr int kWindows = 200;
