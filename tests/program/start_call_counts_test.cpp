@@ -40,8 +40,9 @@ TEST_F(StartCallCounts, AStartMakesTheseCallsAndNoOthersUntilTheHotKeysWork) {
   KorvaleCopy& korvale = UsedCopy();
   for (int tag = 1; tag <= 9; ++tag) StoreTag(tag, "Window " + std::to_string(tag));
   std::map<std::string, int> counts;
-  for (const std::string& call : ReadsUntilHotKeys(korvale))
+  for (const std::string& call : ReadsUntilHotKeys(korvale)) {
     ++counts[call.substr(0, call.find('('))];
+  }
   // One pass reads the class of each window. The shell and the dialogs must wait.
   const std::map<std::string, int> expected = {
       {"GetFinalPathNameByHandleW", 1},
