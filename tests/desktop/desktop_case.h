@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -57,13 +58,8 @@ class DesktopCase : public testing::Test {
   }
 
   /// The calls of `action`, reads included.
-  template <typename Action>
-  std::vector<std::string> CallsOf(Action action) {
-    log.Clear();
-    log.IncludeReads(true);
-    action();
-    log.IncludeReads(false);
-    return log.Take();
+  std::vector<std::string> CallsOf(const std::function<void()>& action) {
+    return log.TakeAllOf(action);
   }
 
   CallLog log;

@@ -53,6 +53,14 @@ void CallLog::RunActions(const std::string& call) {
 
 std::vector<std::string> CallLog::Take() { return std::exchange(calls_, {}); }
 
+std::vector<std::string> CallLog::TakeAllOf(const std::function<void()>& action) {
+  Clear();
+  IncludeReads(true);
+  action();
+  IncludeReads(false);
+  return Take();
+}
+
 std::vector<std::string> CallLog::CallsOf(const std::string& prefix) const {
   std::vector<std::string> found;
   std::ranges::copy_if(calls_, std::back_inserter(found),

@@ -37,6 +37,8 @@ class CallLog {
   const std::vector<std::string>& Calls() const { return calls_; }
   /// The calls so far; the log is empty afterwards.
   std::vector<std::string> Take();
+  /// The calls of `action` alone, reads included; the log is empty afterwards.
+  std::vector<std::string> TakeAllOf(const std::function<void()>& action);
   void Clear() { calls_.clear(); }
   /// The calls whose line begins with `prefix`.
   std::vector<std::string> CallsOf(const std::string& prefix) const;

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,13 +21,8 @@ class CallCountsTest : public WindowMenuTest {
     WorkIn(beta);
   }
 
-  template <typename Action>
-  std::vector<std::string> CallsOf(Action action) {
-    log.Clear();
-    log.IncludeReads(true);
-    action();
-    log.IncludeReads(false);
-    return log.Take();
+  std::vector<std::string> CallsOf(const std::function<void()>& action) {
+    return log.TakeAllOf(action);
   }
 
   std::vector<std::string> CallsOfKey(std::uint32_t modifiers, std::uint32_t key) {

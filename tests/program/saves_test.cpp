@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <functional>
 #include <string>
 
 #include "platform/win32_constants.h"
@@ -18,13 +19,8 @@ class SavesTest : public StartTest {
   using Calls = std::vector<std::string>;
 
   /// What `action` asks of the store and tells it.
-  template <typename Action>
-  Calls StoreCallsOf(Action action) {
-    log.Clear();
-    log.IncludeReads(true);
-    action();
-    log.IncludeReads(false);
-    Calls calls = log.Take();
+  Calls StoreCallsOf(const std::function<void()>& action) {
+    Calls calls = log.TakeAllOf(action);
     std::erase_if(calls, [](const std::string& call) {
       return !call.starts_with("GetSetting") && !call.starts_with("GetAllSettings") &&
              !call.starts_with("SaveSetting") && !call.starts_with("Delete");

@@ -16,11 +16,7 @@ class StartCallCounts : public StartTest {
  protected:
   /// The reads of a start that comes up, until its first hot key is registered.
   std::vector<std::string> ReadsUntilHotKeys(KorvaleCopy& korvale) {
-    log.Clear();
-    log.IncludeReads(true);
-    EXPECT_TRUE(korvale.Start());
-    log.IncludeReads(false);
-    std::vector<std::string> calls = log.Take();
+    std::vector<std::string> calls = log.TakeAllOf([&] { EXPECT_TRUE(korvale.Start()); });
     const auto registered = std::ranges::find_if(
         calls, [](const std::string& call) { return call.starts_with("RegisterHotKey"); });
     EXPECT_NE(registered, calls.end());
@@ -82,10 +78,7 @@ TEST_F(StartCallCounts, TheFirstActivationLooksOnceOverTheDesktop) {
   for (int i = 0; i < kWindows; ++i) Open("Document");
   Open("Alpha");
   KorvaleCopy& korvale = UsedCopy();
-  log.IncludeReads(true);
-  EXPECT_TRUE(korvale.Start());
-  log.IncludeReads(false);
-  const std::vector<std::string> calls = log.Take();
+  const std::vector<std::string> calls = log.TakeAllOf([&] { EXPECT_TRUE(korvale.Start()); });
   EXPECT_EQ(korvale.TargetWindow(), "Alpha");
   EXPECT_EQ(std::ranges::count(calls, "EnumWindows()"), 2) << "with that for other copies";
   constexpr int kClassForOtherCopies = 1;
