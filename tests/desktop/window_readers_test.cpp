@@ -76,6 +76,19 @@ TEST_F(WindowReaders, TitleThatGrowsWhileItIsReadIsNotCut) {
   }
 }
 
+TEST_F(WindowReaders, TitleThatGrowsFromEmptyBetweenLengthAndTextIsNotCut) {
+  for (const int times : {1, 150, 300, 5000}) {
+    const WindowHandle hwnd = desktop.Open(Repeated("Жук ", 100));
+    log.NameWindow(hwnd, "Alpha");
+    const std::string grown = Repeated("Жук ", times);
+    log.WhenCalled("GetWindowTextLengthA(Alpha", [&] {
+      desktop.Rename(hwnd, "");
+      log.WhenCalled("GetWindowTextA(Alpha", [&] { desktop.Rename(hwnd, grown); });
+    });
+    EXPECT_EQ(GetWindowTitle(desktop, hwnd), grown);
+  }
+}
+
 TEST_F(WindowReaders, LongTitleThatGoesWhileItIsReadIsEmpty) {
   const WindowHandle hwnd = desktop.Open(Repeated("Жук ", 100));
   log.WhenCalled("GetWindowTextLengthA", [&] { desktop.Close(hwnd); });

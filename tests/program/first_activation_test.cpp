@@ -213,10 +213,15 @@ TEST_F(TaggedToolsAtStart, NoneOfThemHasTheTagWhenAnotherWindowWasInFront) {
 }
 
 TEST_F(FirstActivationTest, ThePreviousWindowIsSelectedWhenTheOptionSaysSo) {
-  Open("Alpha");
+  Open("Below");
+  const WindowHandle alpha = Open("Alpha", {.className = "A"});
   StoreOption("SelectPrevWinOnStart", "True");
-  StartedCopy();
+  KorvaleCopy& korvale = StartedCopy();
   EXPECT_EQ(Front(), "Alpha");
+  EXPECT_EQ(korvale.Record().current, (WindowTriple{alpha, "Alpha", "A"}));
+  EXPECT_EQ(korvale.Record().alternate,
+            (WindowTriple{korvale.Handle(), "Korvale - Work", "Korvale.frmMain"}));
+  EXPECT_EQ(korvale.TargetWindow(), "Alpha");
 }
 
 TEST_F(FirstActivationTest, AfterAMinimizedStartTheWayBackLeadsToTheOnlyWindowWorkedIn) {

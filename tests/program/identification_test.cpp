@@ -182,5 +182,27 @@ TEST_F(IdentificationTest, AMinimizedWindowThatHangsIsNotWaitedFor) {
   EXPECT_EQ(desktop.CallsThatWaited(), 0);
 }
 
+TEST_F(IdentificationTest, AMinimizedOwnerThatHangsIsNotWaitedForAndTheUserIsTold) {
+  const WindowHandle owner = Open("Editor");
+  const WindowHandle alpha = Open("Alpha", {.owner = owner});
+  StoreTag(1, "Alpha");
+  KorvaleCopy& korvale = StartedBesideBeta();
+  WorkIn(alpha);
+  WorkIn(desktop.FindWindowA("Beta"));
+  desktop.UserMinimizes(owner);
+  desktop.SetHung(owner, true);
+  korvale.ExpectBox("The window operation was not successful.  Please try again.", "Korvale",
+                    win32::kMbSetForeground, win32::kIdOk);
+
+  EXPECT_EQ(FrontAfterTag(1), "Beta");
+
+  EXPECT_EQ(korvale.host.Messages().size(), 1U);
+  EXPECT_EQ(desktop.CallsThatWaited(), 0);
+  EXPECT_EQ(TagHandle(*korvale.TagEntry(1)), alpha);
+  EXPECT_EQ(korvale.TargetWindow(), "Beta");
+  desktop.SetHung(owner, false);
+  EXPECT_EQ(FrontAfterTag(1), "Alpha");
+}
+
 }  // namespace
 }  // namespace korvale

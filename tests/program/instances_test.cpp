@@ -38,6 +38,7 @@ TEST_F(InstancesTest, ASecondCopyOfTheSameInstallationBringsTheFirstForwardAndEn
 
   EXPECT_EQ(desktop.GetForegroundWindow(), first.Handle());
   EXPECT_FALSE(second.Form().IsLoaded());
+  EXPECT_FALSE(second.HasOptions());
   EXPECT_EQ(store.Sections("Korvale - Work"), sections);
   EXPECT_TRUE(log.CallsOf("RegisterHotKey").empty());
   EXPECT_TRUE(log.CallsOf("DeleteSection(Korvale - Work").empty());
@@ -203,7 +204,9 @@ TEST_F(InstancesTest, AnotherFolderOfTheSameNameKeepsTheSecondFromRunning) {
 
   EXPECT_TRUE(first.Form().IsLoaded());
   EXPECT_FALSE(second.Form().IsLoaded());
+  EXPECT_FALSE(second.HasOptions());
   EXPECT_TRUE(log.CallsOf("SaveSetting").empty());
+  EXPECT_TRUE(log.CallsOf("DeleteSe").empty());
   EXPECT_TRUE(log.CallsOf("RegisterHotKey").empty());
   EXPECT_TRUE(log.CallsOf("SetWindowLongPtrA").empty());
 }

@@ -146,7 +146,9 @@ TEST_F(TrackingFromAlpha, TheAboutBoxIsNotFollowed) {
   ExpectPrevious(korvale, "Alpha");
 }
 
-TEST_F(TrackingTest, TaskbarDesktopAndHiddenOwnerAreNotFollowed) {
+TEST_F(TrackingTest, TaskbarDesktopAndHiddenOwnerAreNotFollowedWhateverTheOptionsAllow) {
+  StoreOption("AllowNoTextWindow", "True");
+  StoreOption("AllowToolbarWindow", "True");
   KorvaleCopy& korvale = StartedCopy();
   WorkIn(beta);
   WorkIn(alpha);
