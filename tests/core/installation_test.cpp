@@ -189,9 +189,11 @@ TEST_F(RenamedInstallationTest, PlacementIsNotTakenOver) {
 
 TEST_F(RenamedInstallationTest, LivingInstallationNeverLosesItsSettings) {
   system_.files.insert("D:\\Tools\\Old\\Korvale.exe");
-  messages_.answers = {kYes};
+  const StoredValues old = ValuesOf(store_, kOld);
   EXPECT_EQ(Run().lastAnswer, 0);
   EXPECT_TRUE(messages_.shown.empty());
+  EXPECT_EQ(ValuesOf(store_, kOld), old);
+  EXPECT_EQ(Registered(kOld), "D:\\Tools\\Old");
 }
 
 TEST_F(InstallationTest, InstallationWithoutSettingsIsNotOffered) {

@@ -1,5 +1,7 @@
 #include "tests/fakes/call_log.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <iterator>
 #include <utility>
@@ -10,6 +12,11 @@
 #include "util/text.h"
 
 namespace korvale {
+
+CallLog::~CallLog() {
+  if (testing::Test::HasFailure()) return;
+  for (const Action& action : actions_) ADD_FAILURE() << action.prefix << " was never called";
+}
 
 void CallLog::Add(std::string call) {
   RunActions(call);

@@ -15,6 +15,12 @@ namespace korvale {
 /// title as its number.
 class CallLog {
  public:
+  CallLog() = default;
+  CallLog(const CallLog&) = delete;
+  CallLog& operator=(const CallLog&) = delete;
+  /// Fails the test when a call that something waited for never came.
+  ~CallLog();
+
   /// A call that changes something.
   void Add(std::string call);
   /// A call that only reads; left out unless IncludeReads(true).

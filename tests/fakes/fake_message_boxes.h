@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <cstdint>
 #include <deque>
 #include <functional>
@@ -19,8 +21,17 @@ struct ShownMessageBox {
 };
 
 /// Records the message boxes and presses the buttons in `answers`, OK once these have run out.
+/// Fails the test when a button was never asked for.
 class FakeMessageBoxes : public MessageBoxes {
  public:
+  FakeMessageBoxes() = default;
+  FakeMessageBoxes(const FakeMessageBoxes&) = delete;
+  FakeMessageBoxes& operator=(const FakeMessageBoxes&) = delete;
+  ~FakeMessageBoxes() override {
+    if (testing::Test::HasFailure()) return;
+    EXPECT_TRUE(answers.empty()) << answers.size() << " expected message boxes did not come";
+  }
+
   std::int16_t ShowMessageBox(const std::string& prompt, std::int32_t buttons,
                               const std::string& title) override {
     shown.push_back({prompt, buttons, title});

@@ -1,6 +1,8 @@
+#include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 
 #include <array>
+#include <memory>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -117,6 +119,12 @@ TEST_F(FakeDesktopLogTest, AnActionRunsOnce) {
   desktop_.GetForegroundWindow();
 
   EXPECT_EQ(runs, 1);
+}
+
+TEST_F(FakeDesktopLogTest, ACallThatIsWaitedForAndNeverComesFailsTheTest) {
+  auto log = std::make_unique<CallLog>();
+  log->WhenCalled("IsIconic(Alpha", [] {});
+  EXPECT_NONFATAL_FAILURE(log.reset(), "IsIconic(Alpha was never called");
 }
 
 TEST_F(FakeDesktopLogTest, AHandleCanBeUsedAgain) {

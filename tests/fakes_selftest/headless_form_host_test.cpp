@@ -8,6 +8,7 @@
 #include "tests/contract/contract_form.h"
 #include "tests/fakes/desktop_bridge.h"
 #include "tests/fakes/fake_desktop.h"
+#include "tests/fakes/fake_message_boxes.h"
 #include "tests/fakes/headless_user.h"
 
 namespace korvale {
@@ -94,6 +95,9 @@ TEST_F(HeadlessFormHostTest, WhatNeverCameFailsTheTestAtItsEnd) {
   auto host = std::make_unique<HeadlessFormHost>(bridge, log_);
   host->WhenModal("frmDialog", [](Form&) {});
   EXPECT_NONFATAL_FAILURE(host.reset(), "never waited for the user with form frmDialog");
+  auto boxes = std::make_unique<FakeMessageBoxes>();
+  boxes->answers = {win32::kIdOk};
+  EXPECT_NONFATAL_FAILURE(boxes.reset(), "1 expected message boxes did not come");
 }
 
 TEST_F(HeadlessFormHostTest, TheUserComesBetweenPostedMessagesAndIdling) {
