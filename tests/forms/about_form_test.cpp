@@ -41,6 +41,27 @@ TEST_F(ShownAboutTest, ShowsNameVersionAndLegalNotice) {
   EXPECT_EQ(Text(about_, "lblFileDescription"), "Moves you between windows");
 }
 
+TEST_F(ShownAboutTest, ShowsItsPictureBesideTheTexts) {
+  EXPECT_TRUE(Shown(about_, "imaProduct"));
+  EXPECT_EQ(Look(about_, "imaProduct").kind, ControlKind::kImage);
+  // 40 pixels wide and high.
+  EXPECT_EQ(user_.Place(about_.Handle(), Id(about_, "imaProduct")),
+            (TwipsRect{240, 300, 600, 600}));
+  for (const char* const text :
+       {"lblProduct", "lblFileDescription", "lblCopyright", "lblWebSite"}) {
+    EXPECT_EQ(user_.Place(about_.Handle(), Id(about_, text)).left, 1080) << text;
+  }
+}
+
+TEST_F(ShownAboutTest, TheToolTipsSayWhatALinkAndAButtonDo) {
+  EXPECT_EQ(Look(about_, "lblWebSite").toolTip, " opens the web site in your browser  (Click) ");
+  EXPECT_EQ(Look(about_, "cmdOK").toolTip, " Close  (Enter) ");
+  for (const char* const silent :
+       {"imaProduct", "lblProduct", "lblFileDescription", "lblCopyright"}) {
+    EXPECT_EQ(Look(about_, silent).toolTip, "") << silent;
+  }
+}
+
 TEST_F(AboutTest, TheLinkCanBeReadWhenTheSchemeChangesWhileItIsOpen) {
   constexpr Color kBlueOfLinks = 0x00CC6600;
   about_.SetWebSite("https://example.org/", [] {});

@@ -171,11 +171,14 @@ TEST_F(OptionsLookTest, TheAccessKeysOfTheCheckBoxesSetThem) {
 }
 
 TEST_F(OpenOptionsLookTest, EveryControlStandsInsideWhatHoldsIt) {
-  ASSERT_GT(dialog_.Controls().size(), 30U);
+  // 30 that take input, 36 labels, 4 frames and 3 pages.
+  ASSERT_EQ(dialog_.Controls().size(), 73U);
   for (const Control& control : dialog_.Controls()) {
     const ControlState& state = control.State();
     const TwipsRect room = state.container == 0 ? TwipsRect{0, 0, 14100 - 90, 7335 - 400}
                                                 : dialog_.ById(state.container).Place();
+    EXPECT_GE(state.place.left, 0) << state.name << state.index;
+    EXPECT_GE(state.place.top, 0) << state.name << state.index;
     EXPECT_LE(state.place.left + state.place.width, room.width) << state.name << state.index;
     EXPECT_LE(state.place.top + state.place.height, room.height) << state.name << state.index;
   }

@@ -120,6 +120,13 @@ TEST_F(TipsTest, NamesItsControls) {
   ShowTip(TipNumber::kCustomizeColors);
 }
 
+TEST_F(TipsTest, TheToolTipsNameTheKeysOfCheckBoxAndButton) {
+  form_.Load();
+  EXPECT_EQ(Look(form_, "chkStopMsg").toolTip, " Do not show this message again  (Alt+I) ");
+  EXPECT_EQ(Look(form_, "cmdOK").toolTip, " Close  (Enter) ");
+  EXPECT_EQ(Look(form_, "lblTip").toolTip, "");
+}
+
 TEST_F(TipsTest, HasAPlaceholderUntilItIsGivenItsText) {
   form_.Load();
   EXPECT_EQ(Text(form_, "lblTip"), "*get what*");

@@ -111,6 +111,38 @@ TEST_F(CustomizingTest, AltCountsForItsOwnClickOnly) {
   EXPECT_EQ(ColorOf(korvale, "txtWindow"), kRed);
 }
 
+TEST_F(CustomizingTest, AltCountsAsItWasAtThePressNotAtTheRelease) {
+  const MouseInput up = {MouseEvent::kUp, MouseButton::kLeft, kNoShift, 10, 10};
+  const auto with_alt = [](MouseInput input, MouseEvent event) {
+    input.event = event;
+    input.shift = kAlt;
+    return input;
+  };
+  MouseInput down = up;
+  down.event = MouseEvent::kDown;
+  for (const char* const field : {"txtWindow", "txtWindowClass"}) {
+    Tell(korvale, with_alt(up, MouseEvent::kDown), field);
+    Tell(korvale, up, field);
+    EXPECT_EQ(ColorOf(korvale, field), 0xFFFFFF) << "the last colour, and nobody was asked";
+    korvale.host.WhenColorDialog([](Color) { return std::optional<Color>(0x112233); });
+    Tell(korvale, down, field);
+    Tell(korvale, with_alt(up, MouseEvent::kUp), field);
+    EXPECT_EQ(ColorOf(korvale, field), 0x112233);
+    korvale.Startup().LastColorSelected = 0xFFFFFF;
+  }
+}
+
+TEST_F(CustomizingTest, AltWithAnotherModifierAsksForTheColor) {
+  for (const unsigned shift : {kAlt | kShift, kAlt | kCtrl, unsigned{kShift}, unsigned{kCtrl}}) {
+    ChooseNext(korvale, kRed);
+    ClickAt(korvale, "txtWindow", 10, 10, shift);
+    EXPECT_EQ(ColorOf(korvale, "txtWindow"), kRed) << shift;
+    korvale.Startup().LastColorSelected = 0xFFFFFF;
+    Choose(korvale, {"View", "Default Settings", "Target Window/Class Colors"});
+    Toggle(korvale);
+  }
+}
+
 TEST_F(CustomizingTest, TheAltOfAClickBeforeDoesNotCountForAPressOutsideThePointersPlace) {
   ClickAt(korvale, "txtWindow", 10, 10, kAlt);
   EXPECT_EQ(ColorOf(korvale, "txtWindow"), 0xFFFFFF);

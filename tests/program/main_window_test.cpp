@@ -63,13 +63,29 @@ TEST_F(StartedMainWindow, AWidthOf2000TwipsIsRaisedTo2640) {
 }
 
 TEST_F(StartedMainWindow, TheFieldsShareTheWidthSideBySide) {
+  const auto place = [&](const char* field) {
+    return korvale.user.Place(korvale.Handle(), Field(korvale, field));
+  };
   Resize(korvale, 2640, 1100);
-  const TwipsRect title = korvale.user.Place(korvale.Handle(), Field(korvale));
-  const TwipsRect name = korvale.user.Place(korvale.Handle(), Field(korvale, "txtWindowClass"));
-  EXPECT_GT(title.width, name.width);
-  EXPECT_GT(name.width, 600);
-  EXPECT_LT(title.left + title.width, name.left);
-  EXPECT_LE(name.left + name.width, 2640 - 90);
+  EXPECT_EQ(place("txtWindow"), (TwipsRect{45, 45, 1449, 285}));
+  EXPECT_EQ(place("txtWindowClass"), (TwipsRect{1539, 45, 966, 285}));
+  Resize(korvale, 6225, 1100);
+  EXPECT_EQ(place("txtWindow"), (TwipsRect{45, 45, 3600, 285}));
+  EXPECT_EQ(place("txtWindowClass"), (TwipsRect{3690, 45, 2400, 285}));
+}
+
+TEST_F(StartedMainWindow, BothFieldsStandInsideTheClientArea) {
+  // Of the window, the frame and the menu bar take 90 by 700 twips.
+  for (const Twips width : {2640, 2641, 4000, 9000, 30000}) {
+    Resize(korvale, width, 1100);
+    for (const char* const field : {"txtWindow", "txtWindowClass"}) {
+      const TwipsRect place = korvale.user.Place(korvale.Handle(), Field(korvale, field));
+      EXPECT_GT(place.left, 0) << width;
+      EXPECT_LT(place.left + place.width, width - 90) << field << width;
+      EXPECT_GT(place.top, 0) << width;
+      EXPECT_LT(place.top + place.height, 400) << width;
+    }
+  }
 }
 
 TEST_F(StartedMainWindow, TheNewWidthIsStoredByTheNextMenuCommand) {
@@ -247,8 +263,9 @@ TEST_F(StartedMainWindow, TheFieldsAreNamedForScreenReadersAndReadOnly) {
   const ControlState& title = korvale.user.Look(korvale.Handle(), Field(korvale));
   EXPECT_EQ(title.toolTip, " Target Window ");
   EXPECT_NE(title.flags & kReadOnly, 0U);
-  EXPECT_EQ(korvale.user.Look(korvale.Handle(), Field(korvale, "txtWindowClass")).toolTip,
-            " Class of Target Window ");
+  const ControlState& name = korvale.user.Look(korvale.Handle(), Field(korvale, "txtWindowClass"));
+  EXPECT_EQ(name.toolTip, " Class of Target Window ");
+  EXPECT_NE(name.flags & kReadOnly, 0U);
 }
 
 }  // namespace
