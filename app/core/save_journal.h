@@ -10,9 +10,9 @@
 namespace korvale {
 
 /// Section that holds the changes of a save while it is being made; gone once it is done.
-inline constexpr const char* kJournalSection = "Saving";
+inline constexpr char kJournalSection[] = "Saving";
 /// Takes the next save while the first section holds one that the store has refused.
-inline constexpr const char* kSecondJournalSection = "Saving2";
+inline constexpr char kSecondJournalSection[] = "Saving2";
 inline constexpr const char* kJournalSections[] = {kJournalSection, kSecondJournalSection};
 
 /// Makes several changes as one: a program killed between any two writes leaves behind either none
