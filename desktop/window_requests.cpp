@@ -41,7 +41,8 @@ RequestResult WindowRequests::ChangeNothing(WindowHandle hwnd) {
 
 RequestResult WindowRequests::SetTopmost(WindowHandle hwnd, bool topmost) {
   std::uint32_t flags = win32::kSwpNoSize | win32::kSwpNoMove;
-  if (!IsOurs(hwnd)) flags |= win32::kSwpAsyncWindowPos;
+  // What another program does in its own time must not take the foreground from what came next.
+  if (!IsOurs(hwnd)) flags |= win32::kSwpAsyncWindowPos | win32::kSwpNoActivate;
   if (!windows_->IsWindowVisible(hwnd)) flags |= win32::kSwpNoActivate;
   if (!commands_->SetWindowPos(hwnd, topmost ? win32::kHwndTopmost : win32::kHwndNoTopmost, 0, 0, 0,
                                0, flags)) {

@@ -31,8 +31,8 @@ class WindowRequests {
   /// Finds out whether Windows lets this program change a window: asks for nothing, which an
   /// elevated program's window denies as it would any change (SetWindowPos). Our own are not asked.
   RequestResult ChangeNothing(WindowHandle hwnd);
-  /// Makes a window topmost or not, without moving it (SetWindowPos), and waits until it is. A
-  /// hidden window is not activated.
+  /// Makes a window topmost or not, without moving it (SetWindowPos), and waits until it is. Only a
+  /// visible window of our own is activated.
   RequestResult SetTopmost(WindowHandle hwnd, bool topmost);
   /// Brings a window to the front. When Windows refuses, asks once more after an input of our own
   /// (SendMouseInput).

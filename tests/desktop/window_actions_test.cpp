@@ -246,17 +246,17 @@ class Topmost : public ForegroundKeys {};
 
 TEST_F(Topmost, IsSetAndTakenBackWithoutMovingTheWindow) {
   requests.SetTopmost(beta, true);
-  EXPECT_EQ(log.Take(), Calls{"SetWindowPos(Beta, HWND_TOPMOST, 0, 0, 0, 0, 16387)"});
+  EXPECT_EQ(log.Take(), Calls{"SetWindowPos(Beta, HWND_TOPMOST, 0, 0, 0, 0, 16403)"});
   EXPECT_EQ(desktop.GetWindowLongA(beta, win32::kGwlExStyle), win32::kWsExTopmost);
   requests.SetTopmost(beta, false);
-  EXPECT_EQ(log.Take(), Calls{"SetWindowPos(Beta, HWND_NOTOPMOST, 0, 0, 0, 0, 16387)"});
+  EXPECT_EQ(log.Take(), Calls{"SetWindowPos(Beta, HWND_NOTOPMOST, 0, 0, 0, 0, 16403)"});
   EXPECT_EQ(desktop.GetWindowLongA(beta, win32::kGwlExStyle), 0);
 }
 
 TEST_F(Topmost, DoesNotWaitForAHungWindow) {
   desktop.SetHung(beta, true);
   requests.SetTopmost(beta, true);
-  EXPECT_EQ(log.Take(), Calls{"SetWindowPos(Beta, HWND_TOPMOST, 0, 0, 0, 0, 16387)"});
+  EXPECT_EQ(log.Take(), Calls{"SetWindowPos(Beta, HWND_TOPMOST, 0, 0, 0, 0, 16403)"});
   EXPECT_EQ(desktop.CallsThatWaited(), 0);
 }
 

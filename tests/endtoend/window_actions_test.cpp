@@ -96,9 +96,13 @@ TEST_F(WindowActions, TheMainWindowGoesOnTopAndComesDownAgain) {
 
 TEST_F(WindowActions, ThePreviousWindowGoesOnTopAndComesDownAgain) {
   const Window alpha = WorkInNew("Alpha");
+  ASSERT_TRUE(BringToFront(main()));
+  ASSERT_TRUE(StaysInFront(main()));
   ASSERT_TRUE(OpenWindowMenu());
   Press({0, 'T'});
   EXPECT_TRUE(WaitFor([&] { return alpha.Topmost(); }));
+  EXPECT_TRUE(InFront(main()));
+  EXPECT_TRUE(StaysInFront(main()));
   ASSERT_TRUE(OpenWindowMenu());
   Press({0, 'T'});
   EXPECT_TRUE(WaitFor([&] { return !alpha.Topmost(); }));

@@ -71,15 +71,26 @@ TEST_F(WindowMenuActionsTest, AlwaysOnTopOfThePreviousWindowComesBackToTheMainWi
   log.Clear();
   korvale.user.ChooseMenu(korvale.Handle(), {"Window", "[Alpha]  Always On Top"});
   EXPECT_EQ(log.CallsOf("SetWindowPos"),
-            std::vector<std::string>{"SetWindowPos(Alpha, HWND_TOPMOST, 0, 0, 0, 0, 16387)"});
+            std::vector<std::string>{"SetWindowPos(Alpha, HWND_TOPMOST, 0, 0, 0, 0, 16403)"});
   EXPECT_EQ(Front(), "Korvale - Work");
   EXPECT_TRUE(korvale.WindowMenuItems()[1].checked);
   log.Clear();
   korvale.user.ChooseMenu(korvale.Handle(), {"Window", "[Alpha]  Always On Top"});
   EXPECT_EQ(DesktopCalls(), (Calls{"SetForegroundWindow(Alpha)",
-                                   "SetWindowPos(Alpha, HWND_NOTOPMOST, 0, 0, 0, 0, 16387)",
+                                   "SetWindowPos(Alpha, HWND_NOTOPMOST, 0, 0, 0, 0, 16403)",
                                    "SetForegroundWindow(Korvale)"}));
   EXPECT_FALSE(korvale.WindowMenuItems()[1].checked);
+}
+
+TEST_F(WindowMenuActionsTest, ABusyWindowPutOnTopStaysBehindTheMainWindowWhenItAnswers) {
+  const WindowHandle alpha = Open("Alpha");
+  KorvaleCopy& korvale = StartedAfter(alpha);
+  desktop.SetBusy(alpha, 5000);
+  korvale.user.ChooseMenu(korvale.Handle(), {"Window", "[Alpha]  Always On Top"});
+  EXPECT_EQ(Front(), "Korvale - Work");
+  clock.Advance(5000);
+  EXPECT_EQ(desktop.GetWindowLongA(alpha, win32::kGwlExStyle), win32::kWsExTopmost);
+  EXPECT_EQ(Front(), "Korvale - Work");
 }
 
 TEST_F(WindowMenuActionsTest, AlwaysOnTopOfAPreviousWindowThatCannotBeActivatedOnlySaysSo) {
@@ -105,7 +116,7 @@ TEST_F(WindowMenuActionsTest, AlwaysOnTopOfThePreviousWindowStaysThereWithoutThe
   log.Clear();
   ChangeColor(korvale);
   korvale.ChooseLate("mnuWindowPreviousWindowAlwaysOnTop");
-  EXPECT_EQ(DesktopCalls(), Calls{"SetWindowPos(Beta, HWND_TOPMOST, 0, 0, 0, 0, 16387)"});
+  EXPECT_EQ(DesktopCalls(), Calls{"SetWindowPos(Beta, HWND_TOPMOST, 0, 0, 0, 0, 16403)"});
   EXPECT_EQ(Front(), "Beta");
   EXPECT_TRUE(Saved());
 }
