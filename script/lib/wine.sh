@@ -14,7 +14,7 @@ wine_display() {
     return
   fi
   # Xvfb chooses a free number itself and writes it to the descriptor when it is ready.
-  Xvfb -displayfd 5 -screen 0 "${WINE_SCREEN}x24" -nolisten tcp \
+  Xvfb -displayfd 5 -screen 0 "${WINE_SCREEN}x24" -nolisten tcp -noreset \
     5>"$WINE_WORK/display" >/dev/null 2>&1 &
   WINE_XVFB=$!
   local tries=0
@@ -28,6 +28,29 @@ wine_display() {
   done
   DISPLAY=:$(tr -d '[:space:]' <"$WINE_WORK/display")
   export DISPLAY
+  wine_keyboard && wine_pointer
+}
+
+# Whenever a window gets the focus or the pointer, the display tells Wine which of its own keys are
+# down, and Wine lets go of modifiers that only SendInput holds. A keyboard without modifiers has
+# nothing to tell about them.
+wine_keyboard() {
+  xkbcomp -w0 "$DISPLAY" "$WINE_WORK/keyboard.xkb" 2>/dev/null &&
+    sed -Ei '/^xkb_symbols/,$ {
+      /modifier_map (Shift|Control|Mod1|Mod4) /d
+      s/\b(Shift|Control|Alt|Meta|Super|Hyper)_[LR]\b/VoidSymbol/g
+    }' "$WINE_WORK/keyboard.xkb" &&
+    xkbcomp -w0 "$WINE_WORK/keyboard.xkb" "$DISPLAY"
+}
+
+# The display also tells every window late where the pointer was, and Wine puts it back there. Only
+# SendInput and SetCursorPos are to move it.
+wine_pointer() {
+  local kept=$WINE_WORK/pointer
+  mkfifo "$kept"
+  python3 script/lib/keep_pointer.py >"$kept" &
+  WINE_POINTER=$!
+  read -r <"$kept"
 }
 
 # The prefix that every suite starts from. Making one takes long, so it is kept between runs.
@@ -123,6 +146,7 @@ wine_end() {
     WINEPREFIX=$prefix "$WINE_SERVER" -k 2>/dev/null || true
     WINEPREFIX=$prefix "$WINE_SERVER" -w 2>/dev/null || true
   done
+  [ -z "${WINE_POINTER:-}" ] || kill "$WINE_POINTER" 2>/dev/null || true
   [ -z "${WINE_XVFB:-}" ] || kill "$WINE_XVFB" 2>/dev/null || true
   rm -rf "$WINE_WORK"
   exit "$status"

@@ -119,6 +119,39 @@ TEST(Harness, OpensAMenuWithTheKeyboardAndClosesItAgain) {
   EXPECT_TRUE(WaitFor([&] { return !menu_is_open(); }));
 }
 
+TEST(Harness, HoldsAModifierWhileFocusAndPointerMove) {
+  TestProgram one;
+  TestProgram two;
+  const Window alpha = one.Open("Alpha");
+  const Window beta = two.Open("Beta");
+  for (const UINT modifier : {VK_MENU, VK_CONTROL, VK_SHIFT, VK_LWIN}) {
+    const auto is_down = [&] { return IsDown(modifier); };
+    {
+      const HeldKeys held({0, modifier});
+      for (const Window window : {alpha, beta}) {
+        MoveMouse(window, {20, 10});
+        ASSERT_TRUE(BringToFront(window));
+        EXPECT_TRUE(HoldsFor(is_down, std::chrono::milliseconds(100))) << modifier;
+      }
+    }
+    EXPECT_FALSE(is_down());
+  }
+}
+
+TEST(Harness, KeepsThePointerWhereItWasPut) {
+  TestProgram one;
+  TestProgram two;
+  const Window alpha = one.Open("Alpha");
+  const Window beta = two.Open("Beta");
+  for (int x = 100; x < 120; ++x) {
+    MoveMouse(alpha, {20, 10});
+    MoveMouse(beta, {x, 100});
+    const POINT put = Pointer();
+    const auto stays = [&] { return Pointer().x == put.x && Pointer().y == put.y; };
+    EXPECT_TRUE(HoldsFor(stays, std::chrono::milliseconds(20))) << x;
+  }
+}
+
 TEST(Harness, ReadsAndAnswersAMessageBoxOfAnotherProgram) {
   RealProgram notepad = StartNotepad();
   ASSERT_TRUE(BringToFront(notepad.window()));

@@ -65,6 +65,8 @@ std::vector<Chord> AllHotKeys() {
   return chords;
 }
 
+bool IsDown(UINT key) { return GetAsyncKeyState(static_cast<int>(key)) < 0; }
+
 HeldKeys::HeldKeys(Chord chord) : keys_(KeysOf(chord)) {
   std::vector<INPUT> inputs;
   for (const WORD key : keys_) inputs.push_back(KeyInput(key, false));
@@ -109,6 +111,12 @@ void Click(Window window) {
   ClickAt(window, {(area.right - area.left) / 2, (area.bottom - area.top) / 2});
 }
 
+POINT Pointer() {
+  POINT at{};
+  GetCursorPos(&at);
+  return at;
+}
+
 void MoveMouse(Window window, POINT at) { Send({MouseTo(window, at, 0)}); }
 
 void ClickAt(Window window, POINT at) {
@@ -120,8 +128,7 @@ void Drag(POINT from, POINT to, const std::function<void()>& each_step) {
   constexpr int kSteps = 10;
   const auto settle = [](POINT at) {
     WaitFor([&] {
-      POINT now{};
-      GetCursorPos(&now);
+      const POINT now = Pointer();
       return now.x == at.x && now.y == at.y;
     });
   };

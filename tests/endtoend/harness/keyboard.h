@@ -28,6 +28,9 @@ constexpr Chord TagKey(int tag) { return {MOD_ALT, static_cast<UINT>('0' + tag)}
 /// Every hot key that is registered out of the box.
 std::vector<Chord> AllHotKeys();
 
+/// True while that key is down.
+bool IsDown(UINT key);
+
 /// Keys held down, released in reverse when the owner lets go.
 class HeldKeys {
  public:
@@ -53,6 +56,9 @@ void Type(const std::string& text);
 
 /// Clicks the left mouse button on the middle of a window or control.
 void Click(Window window);
+
+/// Where the mouse is on the screen.
+POINT Pointer();
 
 /// Moves the mouse to a place in a window or control, counted in pixels from its left upper corner.
 void MoveMouse(Window window, POINT at);
