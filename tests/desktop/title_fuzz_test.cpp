@@ -1,16 +1,9 @@
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <iterator>
 #include <random>
 #include <string>
 #include <string_view>
 
-#include "app/core/stored_tags.h"
-#include "desktop/title_match.h"
-#include "desktop/window_selection.h"
-#include "util/characters.h"
-#include "util/text.h"
+#include "tests/desktop/title_rule.h"
 
 namespace korvale {
 namespace {
@@ -41,66 +34,23 @@ class RandomTitles {
   std::mt19937 dice_{1};
 };
 
-std::string WithoutBlanksAtItsEnds(std::string text) {
-  while (text.starts_with(' ')) text.erase(0, 1);
-  while (text.ends_with(' ')) text.pop_back();
-  return text;
-}
-
-/// The rule as it reads, on the text of a caption without blanks at its ends.
-bool Identifies(const std::string& text, const std::string& title) {
-  if (text == title || text == WithoutBlanksAtItsEnds(title)) return true;
-  const std::string separator = " - ";
-  if (text.size() >= 6 && text.substr(text.size() - 6) == " - ***") {
-    return title.substr(0, title.find(separator)) == text.substr(0, text.size() - 6);
-  }
-  if (text.substr(0, 6) == "*** - ") {
-    const std::size_t last = title.rfind(separator);
-    return (last == std::string::npos ? title : title.substr(last + 3)) == text.substr(6);
-  }
-  return title.find(text) != std::string::npos;
-}
-
-bool IsWhole(std::string_view text) {
-  return std::ranges::all_of(SplitCharacters(text), [](std::string_view character) {
-    return FirstCharacter(character).valid;
-  });
-}
-
 TEST(TitleFuzz, AnyTextIsMatchedByTheRuleWithAndWithoutItsPrefix) {
   RandomTitles titles;
   for (int round = 0; round < kRounds; ++round) {
     const std::string text = titles.Next();
     const std::string title = round % 2 == 0 ? titles.Next() : text + titles.Next();
-    EXPECT_EQ(TitleMatches(text, title, false), Identifies(text, title)) << text << "|" << title;
-    EXPECT_EQ(TitleMatches(TagCaption(7, text), title, true),
-              Identifies(WithoutBlanksAtItsEnds(text), title))
-        << text << "|" << title;
+    ExpectMatchedByTheRule(text, title);
   }
 }
 
 TEST(TitleFuzz, AnyTitleFindsItself) {
   RandomTitles titles;
-  for (int round = 0; round < kRounds; ++round) {
-    const std::string title = titles.Next();
-    EXPECT_TRUE(TitleMatches(TagCaption(1, title), title, true)) << title;
-    EXPECT_TRUE(TitleMatches(WithoutTagPrefix(TagCaption(1, title)), title, false)) << title;
-  }
+  for (int round = 0; round < kRounds; ++round) ExpectToFindItself(titles.Next());
 }
 
 TEST(TitleFuzz, APartOfAnyTitleFindsItUnlessBlanksOrMarksAreInTheWay) {
   RandomTitles titles;
-  for (int round = 0; round < kRounds; ++round) {
-    const std::string title = titles.Next();
-    const std::string left(LeftTitlePart(title));
-    const std::string right(RightTitlePart(title));
-    if (!left.starts_with(' ') && !left.empty()) {
-      EXPECT_TRUE(TitleMatches(TagCaption(1, left + " - ***"), title, true)) << title;
-    }
-    if (!right.ends_with(' ') && !right.empty() && right != "***") {
-      EXPECT_TRUE(TitleMatches(TagCaption(1, "*** - " + right), title, true)) << title;
-    }
-  }
+  for (int round = 0; round < kRounds; ++round) ExpectPartsToFindIt(titles.Next());
 }
 
 TEST(TitleFuzz, AMessageNamesAnyTitleOnOneLineWithoutBreakingACharacter) {
@@ -109,11 +59,7 @@ TEST(TitleFuzz, AMessageNamesAnyTitleOnOneLineWithoutBreakingACharacter) {
     std::string title;
     while (title.size() < 400) title += titles.Next() + "x";
     if (round % 2 == 0) title.resize(20);
-    const std::string named = InBrackets(title);
-    EXPECT_TRUE(named.starts_with("Window:  [") && named.ends_with("]")) << named;
-    EXPECT_TRUE(std::ranges::none_of(named, [](char c) { return c >= 0 && c < ' '; })) << named;
-    EXPECT_TRUE(IsWhole(named) || !IsWhole(title)) << named;
-    EXPECT_LE(CharacterCount(named), 10 + 2 * 255 + 4);
+    ExpectNamedOnOneLine(title);
   }
 }
 

@@ -3,19 +3,14 @@
 
 #include "app/core/save_journal.h"
 #include "app/core/setting_rows.h"
-#include "platform/win32_constants.h"
+#include "tests/program/any_store.h"
 #include "tests/program/dice.h"
-#include "tests/program/kept.h"
-#include "tests/program/korvale_world.h"
 #include "util/text.h"
 
 namespace korvale {
 namespace {
 
-constexpr const char* kApp = "Korvale - Work";
-constexpr const char* kRegister = "Korvale Installations";
 constexpr int kRounds = 300;
-constexpr std::int32_t kBoxButtonsMask = 0xF;
 
 constexpr const char* kNumbers[] = {
     "",      "0",      "-1",          "1",          "3",           "32767",    "32768", "-32768",
@@ -26,7 +21,7 @@ constexpr const char* kSections[] = {"Options",           "Startup",      "Paren
                                      "ChildWindowList",   kJournalSection};
 
 /// Starts Korvale with anything at all in its settings.
-class StoredSettingsFuzzTest : public KorvaleWorld {
+class StoredSettingsFuzzTest : public AnyStore {
  protected:
   /// One start with a store made from this seed, one save, and one load of what was saved.
   void Round(std::uint32_t seed) {
@@ -34,21 +29,7 @@ class StoredSettingsFuzzTest : public KorvaleWorld {
     store = FakeSettingsStore(log);
     log.Clear();
     FillStore();
-    KorvaleCopy& korvale = NewCopy();
-    korvale.host.SetIdle([&] { return CloseModal(korvale); });
-    Answer(korvale);
-    const bool started = korvale.Start();
-    if (started) {
-      CheckRanges(korvale);
-      const Kept before = KeptBy(korvale);
-      korvale.Exit();
-      ExpectTexts(store, kApp, before);
-      EXPECT_EQ(KeptIn(store, kApp), before);
-    } else {
-      EXPECT_FALSE(korvale.Form().IsLoaded());
-    }
-    EXPECT_TRUE(hotKeys.Registered().empty());
-    End(korvale);
+    Live([this] { return dice_.OneIn(2); });
   }
 
  private:
@@ -105,52 +86,6 @@ class StoredSettingsFuzzTest : public KorvaleWorld {
     for (int i = dice_.Below(3); i > 0; --i) Put(kRegister, "0", "Korvale - " + AnyBytes());
     if (dice_.OneIn(3)) Put(kRegister, "0", kApp);
     if (dice_.OneIn(3)) FillJournal();
-  }
-
-  void Answer(KorvaleCopy& korvale) {
-    korvale.host.WhenMessageBox([this, &korvale](const ShownMessage& box) {
-      if (box.title.empty()) return std::int16_t{win32::kIdOk};
-      Answer(korvale);
-      EXPECT_EQ(box.text.find("VB ERROR"), std::string::npos) << box.text;
-      const bool asks = (box.style & kBoxButtonsMask) == win32::kMbYesNo;
-      return static_cast<std::int16_t>(!asks            ? win32::kIdOk
-                                       : dice_.OneIn(2) ? win32::kIdYes
-                                                        : win32::kIdNo);
-    });
-  }
-  bool CloseModal(KorvaleCopy& korvale) {
-    class Form* const form = static_cast<class Form*>(korvale.Form().Collection().TopModal());
-    if (form == nullptr) return false;
-    korvale.user.PressCloseBox(form->Handle());
-    return true;
-  }
-  void End(KorvaleCopy& korvale) {
-    korvale.host.MessageBoxW(0, "", "", win32::kMbOk);
-    const WindowHandle owner = korvale.bridge.Owner();
-    EndCopy(korvale);
-    desktop.Windows().Destroy(owner);
-  }
-
-  void CheckRanges(KorvaleCopy& korvale) {
-    const StartupSettings& startup = korvale.Startup();
-    EXPECT_GE(startup.WindowState, 0);
-    EXPECT_LE(startup.WindowState, 2);
-    EXPECT_GE(startup.OptionsTab, 1);
-    EXPECT_LE(startup.OptionsTab, 3);
-    korvale.Tags().mnuWindowParentList.ForEach(
-        [&](const MenuItem& entry) { EXPECT_LE(entry.index, 9); });
-    for (const RegisteredHotKey& hotKey : korvale.HotKeys().Registered()) EXPECT_NE(hotKey.key, 0);
-    korvale.Form().udmOptions("LOAD_AND_OR_REFRESH");
-    const clsOptions before = korvale.Options();
-    korvale.Form().udmOptions("UPDATE_OPTIONS");
-    EXPECT_EQ(korvale.Options(), before);
-    korvale.Form().udmSaveOptions();
-    // A user can bring it to where they can use it.
-    desktop.UserActivates(korvale.Handle());
-    if (!startup.Menu) {
-      korvale.user.PressKey(korvale.Handle(), 'V', kAlt);
-      korvale.user.PressKey(korvale.Handle(), win32::kVkEscape);
-    }
   }
 
   Dice dice_{0};

@@ -1,14 +1,11 @@
-#include <algorithm>
 #include <array>
 #include <string>
 #include <string_view>
 #include <tuple>
 #include <vector>
 
-#include "platform/win32_constants.h"
-#include "tests/program/korvale_world.h"
-#include "util/characters.h"
-#include "util/text.h"
+#include "app/core/stored_tags.h"
+#include "tests/program/strange_title_world.h"
 
 namespace korvale {
 namespace {
@@ -62,116 +59,18 @@ const StrangeTitle kStrangeTitles[] = {
      "1  " + Times(12, "👨‍👩‍👧‍👦")},
 };
 
-constexpr int kWhole = 0;
-constexpr int kRight = 2;
-
-/// True when nothing in the text tears it apart or is only a part of a character.
-bool IsOneLine(std::string_view text, bool utf8) {
-  return std::ranges::all_of(SplitCharacters(text), [&](std::string_view character) {
-    const auto first = static_cast<unsigned char>(character.front());
-    return first >= 0x20 && first != 0x7F && (!utf8 || FirstCharacter(character).valid);
-  });
-}
-
-bool IsUtf8(std::string_view text) {
-  return std::ranges::all_of(SplitCharacters(text), [](std::string_view character) {
-    return FirstCharacter(character).valid;
-  });
-}
-
 void PrintTo(const StrangeTitle& title, std::ostream* out) { *out << title.name; }
 
-class StrangeTitles : public KorvaleWorld,
+class StrangeTitles : public StrangeTitleWorld,
                       public testing::WithParamInterface<std::tuple<StrangeTitle, int>> {
  protected:
-  const StrangeTitle& Case() { return std::get<0>(GetParam()); }
-  int Choice() { return std::get<1>(GetParam()); }
-  bool Offered() { return Choice() == kWhole || (Choice() == kRight ? Case().right : Case().left); }
-
-  /// Tags the window by the part under test.
-  void Tag(KorvaleCopy& korvale) {
-    korvale.TagPrevious([&](class Form& dialog) {
-      EXPECT_EQ(dialog.Find("txtWindow").Text(), Case().title);
-      for (int choice = kWhole; choice <= kRight; ++choice) {
-        EXPECT_TRUE(IsOneLine(dialog.Find("optWindow", choice).Text(), IsUtf8(Case().title)));
-      }
-      EXPECT_EQ(korvale.user.IsShown(dialog.Handle(), korvale.Id(dialog, "optWindow", Choice())),
-                Offered());
-      if (Offered()) korvale.user.Click(dialog.Handle(), korvale.Id(dialog, "optWindow", Choice()));
-    });
-  }
-
-  void ExpectMenuToShowIt(KorvaleCopy& korvale) {
-    const std::vector<ShownMenuItem> items = korvale.WindowMenuItems();
-    for (const ShownMenuItem& item : items) {
-      EXPECT_TRUE(IsOneLine(item.caption, IsUtf8(Case().title))) << item.caption;
-      EXPECT_LE(CharacterCount(item.caption), 129);
-    }
-    EXPECT_EQ(items[7].accessKey, "1");
-    if (Choice() == kWhole) {
-      EXPECT_EQ(items[7].caption, Case().entry);
-    }
-  }
-
-  /// The user opens the dialog for another Tag, and then looks at the first.
-  void ExpectDialogToShowItTaken(KorvaleCopy& korvale) {
-    korvale.host.WhenModal("frmGetWindow", [&](class Form& dialog) {
-      const int tags = korvale.Id(dialog, "cboWindow");
-      EXPECT_EQ(dialog.Find("cboWindow").SelectedText(), "2");
-      const std::string item = korvale.user.ListEntries(dialog.Handle(), tags).front();
-      EXPECT_TRUE(item.starts_with("1  "));
-      EXPECT_TRUE(IsOneLine(item, IsUtf8(Case().title)));
-      EXPECT_NE(item.find_first_not_of(' ', 1), std::string::npos);
-      korvale.user.Pick(dialog.Handle(), tags, 0);
-      const std::string shown = dialog.Find("lblWindow").Text();
-      EXPECT_NE(shown, "Available");
-      EXPECT_NE(shown.find_first_not_of(' '), std::string::npos);
-      EXPECT_TRUE(dialog.Find("cmdRemove").Enabled());
-      korvale.user.Click(dialog.Handle(), korvale.Id(dialog, "cmdClose"));
-    });
-    korvale.ChooseLate("mnuWindowAddToList", 1);
-  }
-
-  void ExpectKeyToLeadToIt() {
-    WorkIn(desktop.FindWindowA("Beta"));
-    PressTag(1);
-    EXPECT_EQ(desktop.GetForegroundWindow(), strange_);
-    LetTick();
-  }
-
-  const WindowHandle strange_ = Open(Case().title, {.className = "Strange"});
+  StrangeTitles() : StrangeTitleWorld(std::get<0>(GetParam()).title) {}
 };
 
 TEST_P(StrangeTitles, AreTaggedFoundAgainAndToldOf) {
-  KorvaleCopy& korvale = StartedAfter(strange_);
-  EXPECT_EQ(korvale.TargetWindow(), Case().title);
-  Open("Elsewhere");
-  Open("Beta");
-  WorkIn(strange_);
-  WorkIn(korvale.Handle());
-  Tag(korvale);
-  if (!Offered()) return;
-  ExpectMenuToShowIt(korvale);
-  ExpectDialogToShowItTaken(korvale);
-  ExpectKeyToLeadToIt();
-  korvale.Exit();
-  EndCopy(korvale);
-
-  KorvaleCopy& next = StartedCopy();
-  ExpectKeyToLeadToIt();
-  ExpectMenuToShowIt(next);
-  desktop.Close(strange_);
-  WorkIn(desktop.FindWindowA("Beta"));
-  if (!Case().unique) return;
-  next.host.WhenMessageBox([&](const ShownMessage& box) {
-    EXPECT_TRUE(box.text.starts_with("Window:  [")) << box.text;
-    EXPECT_TRUE(box.text.ends_with("]  is not open.")) << box.text;
-    EXPECT_TRUE(IsOneLine(box.text, IsUtf8(Case().title)));
-    EXPECT_LE(CharacterCount(box.text), 300);
-    return win32::kIdOk;
-  });
-  PressTag(1);
-  EXPECT_EQ(Front(), "Beta");
+  const auto& [title, choice] = GetParam();
+  const bool offered = choice == kWhole || (choice == kRight ? title.right : title.left);
+  TagAndUse(choice, {offered, choice == kWhole ? title.entry : "", title.unique});
 }
 
 std::string CaseName(const testing::TestParamInfo<std::tuple<StrangeTitle, int>>& test) {
@@ -181,8 +80,7 @@ std::string CaseName(const testing::TestParamInfo<std::tuple<StrangeTitle, int>>
 }
 
 INSTANTIATE_TEST_SUITE_P(Titles, StrangeTitles,
-                         testing::Combine(testing::ValuesIn(kStrangeTitles),
-                                          testing::Values(kWhole, 1, kRight)),
+                         testing::Combine(testing::ValuesIn(kStrangeTitles), testing::Range(0, 3)),
                          CaseName);
 
 class RestlessTitle : public KorvaleWorld {
@@ -225,8 +123,8 @@ TEST_F(RestlessTitle, ThePartThatStaysIdentifiesTheWindow) {
   const WindowHandle restless = OpenRestless();
   KorvaleCopy& korvale = StartedAfter(restless);
   korvale.host.WhenModal("frmGetWindow", [&](class Form& dialog) {
-    EXPECT_EQ(dialog.Find("optWindow", kRight).Text(), "*** - Copying");
-    korvale.user.Click(dialog.Handle(), korvale.Id(dialog, "optWindow", kRight));
+    EXPECT_EQ(dialog.Find("optWindow", 2).Text(), "*** - Copying");
+    korvale.user.Click(dialog.Handle(), korvale.Id(dialog, "optWindow", 2));
     korvale.user.Click(dialog.Handle(), korvale.Id(dialog, "cmdOK"));
   });
   korvale.ChooseLate("mnuWindowAddToList", 2);
