@@ -56,6 +56,8 @@ class HeadlessFormHost : public FormHost,
   void WhenPopupMenu(Choose choose);
   /// What the user does with the next colour dialog; nothing = cancels it.
   void WhenColorDialog(std::function<std::optional<Color>(Color initial)> choose);
+  /// The user goes away: drops everything that is still queued.
+  void ForgetQueued();
   MousePointer Pointer() const { return pointer_; }
   /// Gets the keys that the program sends by itself.
   void SetKeyboard(Keyboard keyboard) { keyboard_ = std::move(keyboard); }

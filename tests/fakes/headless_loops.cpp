@@ -67,6 +67,13 @@ void HeadlessFormHost::AnswerNext(std::int16_t button) {
 
 void HeadlessFormHost::WhenPopupMenu(Choose choose) { choices_.push_back(std::move(choose)); }
 
+void HeadlessFormHost::ForgetQueued() {
+  steps_.clear();
+  answers_.clear();
+  choices_.clear();
+  colors_.clear();
+}
+
 HeadlessFormHost::Answer HeadlessFormHost::TakeAnswer(const ShownMessage& message) {
   if (answers_.empty()) FailTest("nobody answers the " + Quote(message));
   Answer answer = std::move(answers_.front());

@@ -1,0 +1,61 @@
+# shellcheck shell=bash
+# The fuzz targets, each a program of the preset "fuzz". Source it from the root of the checkout.
+
+fuzz_targets() { find tests/fuzz -maxdepth 1 -name '*.cpp' -printf '%f\n' | sed 's/\.cpp$//' | sort; }
+
+# fuzzer TARGET: its program.
+fuzzer() { echo "build/fuzz/tests/fuzz/fuzz_$1"; }
+
+# run_fuzzer TARGET FOLDER [options...]: FOLDER takes the inputs that reach something new, the log
+# is build/fuzz/TARGET.log, and an input with a finding becomes build/fuzz/finding-TARGET-*.
+run_fuzzer() {
+  local target=$1 folder=$2
+  shift 2
+  local dictionary=()
+  if [ -f "tests/fuzz/corpus/$target.dict" ]; then
+    dictionary=("-dict=tests/fuzz/corpus/$target.dict")
+  fi
+  rm -f "build/fuzz/finding-$target-"*
+  mkdir -p "$folder"
+  "$(fuzzer "$target")" -max_len=1000 -timeout=60 -rss_limit_mb=3000 "${dictionary[@]}" "$@" \
+    "-artifact_prefix=build/fuzz/finding-$target-" "$folder" "tests/fuzz/corpus/$target" \
+    >"build/fuzz/$target.log" 2>&1
+}
+
+# fuzz_finding TARGET: what it printed of its finding, and how to see it again.
+fuzz_finding() {
+  echo "FAIL  fuzz target $1"
+  grep -vE '^#[0-9]+|^INFO|^$' "build/fuzz/$1.log" | head -60
+  local finding
+  for finding in "build/fuzz/finding-$1-"*; do
+    if [ -f "$finding" ]; then echo "Again: script/fuzz $1 $finding"; fi
+  done
+}
+
+# fuzz_briefly TARGET: all inputs of its corpus, and always the same few more.
+fuzz_briefly() {
+  local runs=20000
+  case $1 in
+    titles) runs=1000 ;;
+    captions | messages | settings | start) runs=200 ;;
+  esac
+  rm -rf "build/fuzz/brief/$1"
+  run_fuzzer "$1" "build/fuzz/brief/$1" -seed=1 "-runs=$runs" ||
+    touch "build/fuzz/brief/$1/failed"
+}
+
+# fuzz_all_briefly: as many targets at a time as there are cores; sets good and bad.
+fuzz_all_briefly() {
+  local target
+  good=0
+  bad=0
+  fuzz_targets | xargs -P "$(nproc)" -I{} bash -c '. script/lib/fuzz.sh; fuzz_briefly {}'
+  for target in $(fuzz_targets); do
+    if [ -d "build/fuzz/brief/$target" ] && [ ! -f "build/fuzz/brief/$target/failed" ]; then
+      good=$((good + 1))
+    else
+      bad=$((bad + 1))
+      fuzz_finding "$target"
+    fi
+  done
+}
