@@ -11,6 +11,8 @@ TEST(ContrastTest, IsThatOfTheAccessibilityGuidelines) {
   EXPECT_NEAR(ContrastRatio(0x767676, 0xFFFFFF), 4.54, 0.01);
   EXPECT_NEAR(ContrastRatio(0x0000FF, 0xFFFFFF), 4.00, 0.01) << "red";
   EXPECT_NEAR(ContrastRatio(0xFFFFFF, 0xFF0000), 8.59, 0.01) << "blue";
+  EXPECT_NEAR(ContrastRatio(0x0A0A0A, 0x000000), 1.06, 0.005) << "the darkest are linear";
+  EXPECT_NEAR(ContrastRatio(0x0B0B0B, 0x000000), 1.07, 0.005);
 }
 
 TEST(ContrastTest, TextIsBlackOnLightColorsAndWhiteOnDarkOnes) {

@@ -21,6 +21,12 @@ TEST(FlagStringTest, NoFlagOfAnEmptyStringIsSetWhenPaddedWithZero) {
   EXPECT_EQ(flags, "000");
 }
 
+TEST(FlagStringTest, OneMissingFlagIsPadded) {
+  std::string flags = "11";
+  EXPECT_FALSE(FlagString(flags, 3, "GET", false, false));
+  EXPECT_EQ(flags, "110");
+}
+
 TEST(FlagStringTest, SilencingTipFourteenLeavesThirteenOnesAndAZero) {
   std::string flags;
   FlagString(flags, 14, "SET", true, false);

@@ -38,6 +38,19 @@ TEST(FormHandleTest, IsTheWindowOfTheForm) {
   EXPECT_EQ(FormHandle(forms, "FrmOptions"), 7);
 }
 
+TEST(FormHandleTest, IsTheFirstOfTwoOfOneName) {
+  EXPECT_EQ(FormHandle(FormsOfTest({{"frmMain", 3}, {"frmMain", 4}}), "frmMain"), 3);
+}
+
+TEST(LoadedFormsTest, AreListedInTheirOrder) {
+  const std::vector<LoadedForm> list = FormsOfTest({{"frmMain", 3}, {"frmOptions", 4}}).List();
+  ASSERT_EQ(list.size(), 2U);
+  EXPECT_EQ(list[0].name, "frmMain");
+  EXPECT_EQ(list[0].handle, 3);
+  EXPECT_EQ(list[1].name, "frmOptions");
+  EXPECT_EQ(list[1].handle, 4);
+}
+
 TEST(FormHandleTest, IsZeroForAFormThatIsNotLoaded) {
   EXPECT_EQ(FormHandle(FormsOfTest({{"frmMain", 1}}), "frmOptions"), 0);
 }

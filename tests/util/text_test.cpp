@@ -32,6 +32,21 @@ TEST(CharacterCountTest, TakesOverlongFormsSurrogatesAndTooLargeValuesAsInvalid)
   EXPECT_EQ(CharacterCount("\xED\xA0\x80"), 3);
   EXPECT_EQ(CharacterCount("\xF4\x90\x80\x80"), 4);
   EXPECT_EQ(CharacterCount("\xF4\x8F\xBF\xBF"), 1);
+  EXPECT_EQ(CharacterCount("\xC1\xBF"), 2);
+  EXPECT_EQ(CharacterCount("\xE0\x9F\xBF"), 3);
+  EXPECT_EQ(CharacterCount("\xED\x9F\xBF"), 1) << "before the surrogates";
+  EXPECT_EQ(CharacterCount("\xED\xBF\xBF"), 3) << "the last surrogate";
+  EXPECT_EQ(CharacterCount("\xEE\x80\x80"), 1) << "behind the surrogates";
+  EXPECT_EQ(CharacterCount("\xF0\x8F\xBF\xBF"), 4);
+  EXPECT_EQ(CharacterCount("\xF8\x88\x80\x80\x80"), 5);
+}
+
+TEST(CharacterCountTest, TakesTheFirstAndLastCharacterOfEachLength) {
+  for (const char* text : {"\x01", "\x7F", "\xC2\x80", "\xDF\xBF", "\xE0\xA0\x80", "\xEF\xBF\xBF",
+                           "\xF0\x90\x80\x80", "\xF1\x80\x80\x80", "\xF3\xBF\xBF\xBF"}) {
+    EXPECT_EQ(CharacterCount(text), 1) << text;
+    EXPECT_EQ(UpperCase(text), text) << "is taken apart and put together again";
+  }
 }
 
 TEST(LeftCharactersTest, CutsByCharacter) {
@@ -74,12 +89,12 @@ TEST_P(UpperCaseTest, UpperCasesEveryLetter) {
 
 INSTANTIATE_TEST_SUITE_P(
     Letters, UpperCaseTest,
-    testing::Values(CasePair{"azAZ019[`{", "AZAZ019[`{"}, CasePair{"àöøþÿ", "ÀÖØÞŸ"},
-                    CasePair{"āėįĳķĺňŋŷźž", "ĀĖĮĲĶĹŇŊŶŹŽ"},
-                    CasePair{"άέίαπρςσωϊϋόύώ", "ΆΈΊΑΠΡΣΣΩΪΫΌΎΏ"},
-                    CasePair{"абяёѐџѡҁҋӂӎӏӑԯ", "АБЯЁЀЏѠҀҊӁӍӀӐԮ"},
-                    CasePair{"աֆ", "ԱՖ"}, CasePair{"ß÷×メモ😀", "ß÷×メモ😀"},
-                    CasePair{"a\xE4\x80", "A\xE4\x80"}));
+    testing::Values(
+        CasePair{"azAZ019[`{", "AZAZ019[`{"}, CasePair{"àáöøùþÿ", "ÀÁÖØÙÞŸ"},
+        CasePair{"āėįĳķĺňŋŷźž", "ĀĖĮĲĶĹŇŊŶŹŽ"}, CasePair{"άέήίαπρςσωϊϋόύώ", "ΆΈΉΊΑΠΡΣΣΩΪΫΌΎΏ"},
+        CasePair{"абяёѐџѡҁҋҿӂӄӎӏӑԯ", "АБЯЁЀЏѠҀҊҾӁӃӍӀӐԮ"},
+        CasePair{"աֆ", "ԱՖ"}, CasePair{"ß÷×ΐΰϏևメモ😀", "ß÷×ΐΰϏևメモ😀"},
+        CasePair{"a\xE4\x80\x80\x80", "A\xE4\x80\x80\x80"}, CasePair{"\x80z", "\x80Z"}));
 
 TEST(EqualsIgnoreCaseTest, TellsDifferentTextsApart) {
   EXPECT_TRUE(EqualsIgnoreCase("frmMsgBox2", "FRMMSGBOX2"));
@@ -248,6 +263,8 @@ TEST(WithDirectionsEndedTest, EndsWhatIsLeftOpenAndNothingElse) {
             "\u202aa\u2067b\u202ec\u202c\u2069\u202c");
   EXPECT_EQ(WithDirectionsEnded("\u2068a\u202eb\u2069c"), "\u2068a\u202eb\u2069c");
   EXPECT_EQ(WithDirectionsEnded("\u202c\u2069\u202ea"), "\u202c\u2069\u202ea\u202c");
+  EXPECT_EQ(WithDirectionsEnded("\u2066a\u2066b\u2069"), "\u2066a\u2066b\u2069\u2069");
+  EXPECT_EQ(WithDirectionsEnded("\u2029 \u202f \u2065 \u206a"), "\u2029 \u202f \u2065 \u206a");
 }
 
 }  // namespace
