@@ -1,10 +1,15 @@
 """Keeps the pointer of the display to itself, so no window hears from the display where it is.
 
-Prints a line once it has the pointer, and lets go of it when it ends.
+  keep_pointer.py FOLDER
+
+Prints a line once it has the pointer. Whoever puts it somewhere makes a file FOLDER/X,Y, which is
+gone once the display has it there too.
 """
 
 import ctypes
-import signal
+import os
+import sys
+import time
 
 ASYNC = 1
 
@@ -17,4 +22,10 @@ nothing = ctypes.c_ulong(0)
 if x11.XGrabPointer(display, root, 0, 0, ASYNC, ASYNC, nothing, nothing, nothing) != 0:
     raise SystemExit("somebody else has the pointer")
 print("the pointer is kept", flush=True)
-signal.pause()
+while True:
+    for place in os.listdir(sys.argv[1]):
+        x, y = map(int, place.split(","))
+        x11.XWarpPointer(display, nothing, root, 0, 0, 0, 0, x, y)
+        x11.XSync(display, 0)
+        os.unlink(os.path.join(sys.argv[1], place))
+    time.sleep(0.002)

@@ -43,14 +43,15 @@ wine_keyboard() {
     xkbcomp -w0 "$WINE_WORK/keyboard.xkb" "$DISPLAY"
 }
 
-# The display also tells every window late where the pointer was, and Wine puts it back there. Only
-# SendInput and SetCursorPos are to move it.
+# The display also tells every window late where the pointer was, and Wine puts it back there. So
+# only the tests tell where it is, Wine by Windows' own calls and the display by KORVALE_POINTER.
 wine_pointer() {
-  local kept=$WINE_WORK/pointer
+  local folder=$WINE_WORK/pointer kept=$WINE_WORK/pointer-kept
+  mkdir "$folder"
   mkfifo "$kept"
-  python3 script/lib/keep_pointer.py >"$kept" &
+  python3 script/lib/keep_pointer.py "$folder" >"$kept" &
   WINE_POINTER=$!
-  read -r <"$kept"
+  read -r <"$kept" && KORVALE_POINTER=$(wine_path "$folder") && export KORVALE_POINTER
 }
 
 # The prefix that every suite starts from. Making one takes long, so it is kept between runs.
@@ -106,6 +107,8 @@ wine_suite() {
   # of buttons.
   cp /usr/share/wine/fonts/marlett.ttf "$WINEPREFIX/drive_c/windows/Fonts/" || true
   [ "$WINE_SCREEN" = "$WINE_USUAL_SCREEN" ] || wine_screen "$WINE_SCREEN"
+  # Where Wine believes the pointer to be at first.
+  [ -z "${KORVALE_POINTER:-}" ] || : >"$WINE_WORK/pointer/0,0"
 }
 
 wine_run() { "$WINE_LOADER" "$@"; }

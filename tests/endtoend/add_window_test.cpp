@@ -37,19 +37,7 @@ class AddWindow : public KorvaleTest {
   /// Opens the list of Tags with the mouse out of its way: Wine chooses the entry that comes up
   /// under the pointer.
   static bool OpensList(const AddWindowDialog& dialog) {
-    RECT away{};
-    GetWindowRect(dialog.RemoveButton().handle(), &away);
-    const auto isAway = [&] {
-      POINT at{};
-      GetCursorPos(&at);
-      return at.x == away.left && at.y == away.top;
-    };
-    // What the screen still has to tell of the old place puts the pointer back.
-    const auto stays = [&] {
-      SetCursorPos(away.left, away.top);
-      return WaitFor(isAway) && HoldsFor(isAway);
-    };
-    if (!WaitFor(stays)) return false;
+    MoveMouse(dialog.RemoveButton(), {});
     Press({0, VK_F4});
     return ListOpens(dialog, true);
   }

@@ -83,9 +83,11 @@ TEST_F(HotKeyFlood, DuringADragOfTheMainWindowLetsItEnd) {
   const POINT from{before.left + 60, before.top + 10};
   bool pressed = false;
   Drag(from, {from.x + 80, from.y + 60}, [&] {
-    if (!pressed) Press(TagKey(2));
-    pressed = true;
+    if (pressed) return;
+    pressed = WaitFor([this] { return IsDragged(); });
+    Press(TagKey(2));
   });
+  EXPECT_TRUE(pressed);
   EXPECT_TRUE(WaitFor([this] { return !IsDragged(); }));
   EXPECT_TRUE(main().Responds());
   EXPECT_FALSE(korvale_->HasMessageBox());

@@ -57,7 +57,7 @@ Window KorvaleTest::WorkInNew(const WindowSpec& spec) {
 }
 
 AssertionResult KorvaleTest::InFront(Window window) {
-  const bool came = WaitFor([&] { return Foreground() == window; });
+  const bool came = WaitFor([&] { return HasInput(window); });
   return Check(came, InsteadOf(window));
 }
 
@@ -120,7 +120,7 @@ AddWindowDialog KorvaleTest::OpenAddWindow() {
 
 AssertionResult KorvaleTest::Exit() {
   if (!BringToFront(main())) return AssertionFailure() << "the main window does not come";
-  PressUntil({MOD_ALT, VK_F4}, [this] { return !korvale_->process().Running(); });
+  Press({MOD_ALT, VK_F4});
   return Check(korvale_->process().WaitForExit() == 0U, "the program does not end with code 0");
 }
 

@@ -11,16 +11,12 @@ using ::testing::AssertionSuccess;
 OptionsDialog OptionsTest::WaitForOptions() {
   const OptionsDialog dialog(korvale_->Form("frmOptions"));
   if (!dialog.form()) throw std::runtime_error("the Options dialog did not come");
-  // A moment later Wine has looked at which keys are down, and no longer releases a modifier.
-  const auto in_front = [&] { return Foreground() == dialog.form(); };
-  if (!WaitFor(in_front) || !HoldsFor(in_front, std::chrono::milliseconds(100))) {
-    throw std::runtime_error("the Options dialog is not in front");
-  }
+  if (!InFront(dialog.form())) throw std::runtime_error("the Options dialog is not in front");
   return dialog;
 }
 
 OptionsDialog OptionsTest::OpenOptions() {
-  PressUntil(kOptionsKey, [this] { return korvale_->HasForm("frmOptions"); });
+  Press(kOptionsKey);
   return WaitForOptions();
 }
 
@@ -47,7 +43,8 @@ AssertionResult OptionsTest::Apply(const OptionsDialog& dialog) {
   // The last key that a save writes shows that it has come this far.
   settings().DeleteValue("Startup", "WindowInfo");
   const auto saved = [this] { return settings().Get("Startup", "WindowInfo").has_value(); };
-  if (!PressUntil({MOD_ALT, 'A'}, saved)) return AssertionFailure() << "nothing is saved";
+  Press({MOD_ALT, 'A'});
+  if (!WaitFor(saved)) return AssertionFailure() << "nothing is saved";
   return TakesKeys(dialog);
 }
 

@@ -51,7 +51,7 @@ TEST_F(WindowMenu, PopsUpAnywhereAndSelectsATaggedWindow) {
 TEST_F(WindowMenu, PopsUpAtTheMouse) {
   Start();
   ASSERT_TRUE(WorkIn(Open("Beta")));
-  SetCursorPos(700, 300);
+  PutPointer({700, 300});
   ASSERT_TRUE(PopUpWindowMenu());
   RECT area{};
   GetWindowRect(korvale_->OpenMenu().handle(), &area);
@@ -126,7 +126,7 @@ TEST_F(WindowMenu, PoppedUpOverAnOpenMenuOfTheBarIsTheOnlyMenu) {
   Start();
   const Window alpha = Open("Alpha");
   ASSERT_TRUE(WorkIn(Open("Beta")));
-  SetCursorPos(700, 300);
+  PutPointer({700, 300});
   ASSERT_TRUE(OpenWindowMenu());
   Press(kMenuKey);
   EXPECT_TRUE(WaitFor([&] { return OpenMenus() == 1 && MenuIsAt(700, 300); }));
@@ -138,14 +138,16 @@ TEST_F(WindowMenu, PoppedUpOverAnOpenMenuOfTheBarIsTheOnlyMenu) {
 TEST_F(WindowMenu, PoppedUpAgainNeverShowsTwoMenus) {
   Start();
   const Window beta = WorkInNew("Beta");
-  SetCursorPos(300, 300);
+  PutPointer({300, 300});
   ASSERT_TRUE(PopUpWindowMenu());
   const Window first = korvale_->OpenMenu();
-  SetCursorPos(700, 350);
+  PutPointer({700, 350});
   Press(kMenuKey);
-  EXPECT_TRUE(WaitFor([&] { return !first.Visible() || MenuIsAt(700, 350); }));
-  EXPECT_TRUE(HoldsFor([&] { return OpenMenus() <= 1; }));
-  PressUntil({0, VK_ESCAPE}, [&] { return OpenMenus() == 0; });
+  EXPECT_TRUE(WaitFor([&] { return MenuIsAt(700, 350); }));
+  EXPECT_FALSE(first.Visible());
+  EXPECT_TRUE(HoldsFor([&] { return OpenMenus() == 1; }));
+  Press({0, VK_ESCAPE});
+  EXPECT_TRUE(WaitFor([&] { return OpenMenus() == 0; }));
   EXPECT_TRUE(InFront(beta));
 }
 
@@ -191,7 +193,7 @@ TEST_F(WindowMenu, IsNeverWiderThanTheScreen) {
   installation_.StoreTag(3, std::string(900, 'M'), kClass);
   Start();
   ASSERT_TRUE(WorkIn(Open("Beta")));
-  SetCursorPos(100, 300);
+  PutPointer({100, 300});
   ASSERT_TRUE(PopUpWindowMenu());
   RECT area{};
   GetWindowRect(korvale_->OpenMenu().handle(), &area);

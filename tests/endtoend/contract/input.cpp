@@ -83,13 +83,6 @@ void PutCharacter(wchar_t character) {
   batch.Send();
 }
 
-bool MovePointer(POINT to) {
-  POINT at{};
-  if (GetCursorPos(&at) != FALSE && at.x == to.x && at.y == to.y) return true;
-  SetCursorPos(to.x, to.y);
-  return false;
-}
-
 void ClickLeft() {
   InputBatch batch;
   batch.Mouse(MOUSEEVENTF_LEFTDOWN);

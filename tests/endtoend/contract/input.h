@@ -16,8 +16,6 @@ bool HasKey(wchar_t character);
 void PressKeyOf(wchar_t character, unsigned shift);
 /// Types a character that has no key.
 void PutCharacter(wchar_t character);
-/// Moves the mouse; true when it is there, false when it is still on its way.
-bool MovePointer(POINT to);
 /// Presses and releases the left button where the mouse is.
 void ClickLeft();
 

@@ -5,6 +5,7 @@
 
 #include "platform/windows/text.h"
 #include "tests/endtoend/contract/input.h"
+#include "tests/endtoend/harness/keyboard.h"
 #include "ui/windows/units.h"
 
 namespace korvale {
@@ -190,15 +191,8 @@ void WindowsUser::ClickAt(POINT at) {
 }
 
 void WindowsUser::MoveTo(POINT at) {
-  // An earlier movement may still be on its way and take the mouse back.
-  constexpr int kQuietTimes = 3;
-  constexpr int kTries = 100;
-  int there = 0;
-  for (int tries = 0; there < kQuietTimes && tries < kTries; ++tries) {
-    there = MovePointer(at) ? there + 1 : 0;
-    Settle();
-  }
-  EXPECT_EQ(there, kQuietTimes) << "The mouse does not get to " << at.x << ", " << at.y;
+  endtoend::PutPointer(at);
+  Settle();
 }
 
 void WindowsUser::Click(WindowHandle hwnd, int control) {

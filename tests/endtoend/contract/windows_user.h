@@ -87,8 +87,8 @@ class WindowsUser final : public UserHands {
   void AnswerMessageBox(HWND box);
   void ContinueInMenu();
   void AnswerPopupMenu();
-  /// Clicks an entry of an open menu; false while the mouse is on its way to it.
-  bool ClickEntry(HWND window, const std::string& caption);
+  /// Clicks an entry of an open menu.
+  void ClickEntry(HWND window, const std::string& caption);
   /// Runs messages until all is quiet.
   void Settle();
   bool IsActive(WindowHandle hwnd);

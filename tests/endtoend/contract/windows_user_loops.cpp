@@ -9,6 +9,7 @@
 #include "tests/endtoend/contract/input.h"
 #include "tests/endtoend/contract/menu_reader.h"
 #include "tests/endtoend/contract/windows_user.h"
+#include "tests/endtoend/harness/keyboard.h"
 
 namespace korvale {
 namespace {
@@ -114,16 +115,15 @@ void WindowsUser::AnswerPopupMenu() {
   if (choice.empty()) {
     PressAndRelease(VK_ESCAPE, kNoShift);
   } else {
-    menuSteps_.emplace_back([=, this] { return ClickEntry(window, choice); });
+    ClickEntry(window, choice);
   }
 }
 
-bool WindowsUser::ClickEntry(HWND window, const std::string& caption) {
+void WindowsUser::ClickEntry(HWND window, const std::string& caption) {
   const int position = FindEntry(MenuOf(window), caption);
   EXPECT_GE(position, 0) << caption;
-  if (!MovePointer(MiddleOfEntry(MenuOf(window), window, position))) return false;
+  endtoend::PutPointer(MiddleOfEntry(MenuOf(window), window, position));
   ClickLeft();
-  return true;
 }
 
 void WindowsUser::Settle() {
@@ -168,7 +168,9 @@ void WindowsUser::WalkMenu(WindowHandle hwnd, const std::vector<std::string>& pa
   for (std::size_t depth = 1; depth < path.size(); ++depth) {
     menuSteps_.emplace_back([=, this, caption = path[depth]] {
       const std::vector<HWND> open = OpenMenus();
-      return open.size() >= depth && ClickEntry(open[depth - 1], caption);
+      if (open.size() < depth) return false;
+      ClickEntry(open[depth - 1], caption);
+      return true;
     });
   }
   if (last) menuSteps_.push_back(last);

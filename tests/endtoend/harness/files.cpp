@@ -59,4 +59,12 @@ bool TakePicture(const std::string& name) {
   return WaitFor([&] { return !fs::exists(request); }, std::chrono::seconds(20));
 }
 
+void PutDisplayPointer(int x, int y) {
+  const std::string folder = Environment(L"KORVALE_POINTER");
+  if (folder.empty()) return;
+  const fs::path request(Wide(folder + "\\" + std::to_string(x) + "," + std::to_string(y)));
+  std::ofstream{request};
+  WaitFor([&] { return !fs::exists(request); });
+}
+
 }  // namespace korvale::endtoend

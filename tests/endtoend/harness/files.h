@@ -32,4 +32,8 @@ class TemporaryFolder {
 /// False when nobody takes pictures: the environment has no KORVALE_PICTURES.
 bool TakePicture(const std::string& name);
 
+/// Tells the script that runs this program where on the screen the mouse has been put, and waits
+/// until the display has its pointer there too. Nothing without KORVALE_POINTER in the environment.
+void PutDisplayPointer(int x, int y);
+
 }  // namespace korvale::endtoend

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "tests/endtoend/harness/files.h"
 #include "tests/endtoend/harness/text.h"
-#include "tests/endtoend/harness/wait.h"
 
 namespace korvale::endtoend {
 namespace {
@@ -41,19 +41,13 @@ std::vector<WORD> KeysOf(Chord chord) {
 // SendInput counts positions in 65536ths of the screen.
 LONG Absolute(int pixel, int metric) { return MulDiv(pixel, 65536, GetSystemMetrics(metric)) + 1; }
 
-INPUT MouseTo(POINT at, DWORD button) {
+void SendMouse(DWORD flags, POINT at = {}) {
   INPUT input{};
   input.type = INPUT_MOUSE;
   input.mi.dx = Absolute(at.x, SM_CXSCREEN);
   input.mi.dy = Absolute(at.y, SM_CYSCREEN);
-  input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | button;
-  return input;
-}
-
-INPUT MouseTo(Window window, POINT at, DWORD button) {
-  RECT area{};
-  GetWindowRect(window.handle(), &area);
-  return MouseTo({area.left + at.x, area.top + at.y}, button);
+  input.mi.dwFlags = flags;
+  Send({input});
 }
 
 }  // namespace
@@ -83,14 +77,6 @@ HeldKeys::~HeldKeys() {
 
 void Press(Chord chord) { const HeldKeys held(chord); }
 
-bool PressUntil(Chord chord, const std::function<bool()>& condition) {
-  for (int attempt = 0; attempt < 5; ++attempt) {
-    Press(chord);
-    if (WaitFor(condition, std::chrono::milliseconds(3000))) return true;
-  }
-  return false;
-}
-
 void Type(const std::string& text) {
   std::vector<INPUT> inputs;
   for (const wchar_t unit : Wide(text)) {
@@ -117,31 +103,33 @@ POINT Pointer() {
   return at;
 }
 
-void MoveMouse(Window window, POINT at) { Send({MouseTo(window, at, 0)}); }
+void PutPointer(POINT at) {
+  SendMouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, at);
+  PutDisplayPointer(at.x, at.y);
+}
+
+void MoveMouse(Window window, POINT at) {
+  RECT area{};
+  GetWindowRect(window.handle(), &area);
+  PutPointer({area.left + at.x, area.top + at.y});
+}
 
 void ClickAt(Window window, POINT at) {
-  Send({MouseTo(window, at, 0), MouseTo(window, at, MOUSEEVENTF_LEFTDOWN),
-        MouseTo(window, at, MOUSEEVENTF_LEFTUP)});
+  MoveMouse(window, at);
+  SendMouse(MOUSEEVENTF_LEFTDOWN);
+  SendMouse(MOUSEEVENTF_LEFTUP);
 }
 
 void Drag(POINT from, POINT to, const std::function<void()>& each_step) {
   constexpr int kSteps = 10;
-  const auto settle = [](POINT at) {
-    WaitFor([&] {
-      const POINT now = Pointer();
-      return now.x == at.x && now.y == at.y;
-    });
-  };
-  Send({MouseTo(from, 0), MouseTo(from, MOUSEEVENTF_LEFTDOWN)});
-  settle(from);
+  PutPointer(from);
+  SendMouse(MOUSEEVENTF_LEFTDOWN);
   for (int step = 1; step <= kSteps; ++step) {
-    const POINT at{from.x + (to.x - from.x) * step / kSteps,
-                   from.y + (to.y - from.y) * step / kSteps};
-    Send({MouseTo(at, 0)});
-    settle(at);
+    PutPointer(
+        {from.x + (to.x - from.x) * step / kSteps, from.y + (to.y - from.y) * step / kSteps});
     if (each_step) each_step();
   }
-  Send({MouseTo(to, MOUSEEVENTF_LEFTUP)});
+  SendMouse(MOUSEEVENTF_LEFTUP);
 }
 
 bool HotKeyIsFree(Chord chord) {

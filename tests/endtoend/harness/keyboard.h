@@ -46,11 +46,6 @@ class HeldKeys {
 /// Presses and releases a chord through SendInput: it reaches whatever is in front.
 void Press(Chord chord);
 
-/// Presses a chord that may safely be repeated until `condition` holds; false when it never does.
-/// When a window has just got the focus, Wine can release modifiers that only SendInput holds, and
-/// the chord is lost.
-bool PressUntil(Chord chord, const std::function<bool()>& condition);
-
 /// Types text into whatever has the focus.
 void Type(const std::string& text);
 
@@ -59,6 +54,9 @@ void Click(Window window);
 
 /// Where the mouse is on the screen.
 POINT Pointer();
+
+/// Moves the mouse to a place on the screen.
+void PutPointer(POINT at);
 
 /// Moves the mouse to a place in a window or control, counted in pixels from its left upper corner.
 void MoveMouse(Window window, POINT at);

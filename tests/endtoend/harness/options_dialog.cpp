@@ -65,7 +65,9 @@ bool OptionsDialog::GoTo(Page page) const {
       const std::optional<Page> now = PageOnScreen();
       return now.has_value() && now != before;
     };
-    if (!BringToFront(form_) || !PressUntil({MOD_CONTROL, VK_TAB}, turned)) return false;
+    if (!BringToFront(form_)) return false;
+    Press({MOD_CONTROL, VK_TAB});
+    if (!WaitFor(turned)) return false;
   }
   return form_.Responds() && CurrentPage() == page;
 }
@@ -79,10 +81,9 @@ Window OptionsDialog::ListBox(List list) const {
 bool OptionsDialog::Focus(List list) const {
   const auto frame = std::ranges::find_if(kFrames, [&](Frame each) { return each.first <= list; });
   const auto has_focus = [this](List each) { return FocusOf(form_) == ListBox(each); };
-  if (!BringToFront(form_) ||
-      !PressUntil({MOD_ALT, frame->accessKey}, [&] { return has_focus(frame->first); })) {
-    return false;
-  }
+  if (!BringToFront(form_)) return false;
+  Press({MOD_ALT, frame->accessKey});
+  if (!WaitFor([&] { return has_focus(frame->first); })) return false;
   for (auto each = static_cast<int>(frame->first); each < static_cast<int>(list);) {
     Press({0, VK_TAB});
     const List next = static_cast<List>(++each);
@@ -134,12 +135,5 @@ bool OptionsDialog::IsGone() const {
 bool IsChecked(Window box) { return box.Send(BM_GETCHECK) == BST_CHECKED; }
 
 bool HasBorder(Window label) { return (label.Style() & WS_BORDER) != 0; }
-
-Window FocusOf(Window window) {
-  GUITHREADINFO info{};
-  info.cbSize = sizeof(info);
-  GetGUIThreadInfo(GetWindowThreadProcessId(window.handle(), nullptr), &info);
-  return Window(info.hwndFocus);
-}
 
 }  // namespace korvale::endtoend

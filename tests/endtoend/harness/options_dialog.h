@@ -73,7 +73,4 @@ bool IsChecked(Window box);
 /// True when the label has the border of an enabled hot key.
 bool HasBorder(Window label);
 
-/// The control that has the focus in the window's program.
-Window FocusOf(Window window);
-
 }  // namespace korvale::endtoend

@@ -48,6 +48,10 @@ Window NewWindow(const std::vector<Window>& before) {
 RealProgram::RealProgram(const std::vector<std::string>& commands)
     : before_(MainWindows()), process_(StartFirst(commands)), window_(NewWindow(before_)) {
   if (!window_) throw std::runtime_error("no window of " + commands.front());
+  // It comes forward by itself, which must not happen later, over what is used next.
+  if (!WaitFor([this] { return HasInput(window_); })) {
+    throw std::runtime_error("the window of " + commands.front() + " does not come forward");
+  }
 }
 
 RealProgram StartNotepad() { return RealProgram({"notepad.exe"}); }

@@ -11,7 +11,7 @@ namespace korvale::endtoend {
 /// A program by somebody else, and its main window.
 class RealProgram {
  public:
-  /// Starts the first of `commands` that Windows can start, and waits for its window.
+  /// Starts the first of `commands` that Windows can start, and waits until its window is in front.
   /// Throws std::runtime_error when none starts or no window comes.
   explicit RealProgram(const std::vector<std::string>& commands);
 

@@ -68,15 +68,11 @@ std::string RunningKorvale::TargetClass() const {
 }
 
 bool RunningKorvale::ShowsToolTip(Window control, const std::string& text) const {
-  const auto shown = [&] {
+  MoveMouse(control, {20, 8});
+  return WaitFor([&] {
     const Window tip = Find("tooltips_class32");
     return tip && tip.Text() == text;
-  };
-  for (int place = 20; place < 25; ++place) {
-    MoveMouse(control, {place, 8});
-    if (WaitFor(shown, std::chrono::milliseconds(2000))) return true;
-  }
-  return false;
+  });
 }
 
 Window RunningKorvale::OpenMenu() const { return Wait(kMenuClass); }
@@ -96,17 +92,10 @@ std::string LabelText(Window dialog) {
 
 bool AnswerBox(Window box, int button) {
   const Window control(GetDlgItem(box.handle(), button));
-  if (!WaitFor([&] { return control.Visible() && control.Enabled(); })) return false;
-  const auto gone = [&] { return !box.Exists() || !box.Visible(); };
-  // A window that comes forward late can lie over the button when it is clicked; click again then.
-  // Wine can refuse the foreground to a box that lies on top of all; the click activates it.
-  for (int attempt = 0; attempt < 5; ++attempt) {
-    if (gone()) return true;
-    BringToFront(box, std::chrono::milliseconds(2000));
-    Click(control);
-    if (WaitFor(gone, std::chrono::milliseconds(2000))) return true;
-  }
-  return false;
+  const auto at_hand = [&] { return control.Visible() && control.Enabled(); };
+  if (!WaitFor(at_hand) || !BringToFront(box)) return false;
+  Click(control);
+  return WaitFor([&] { return !box.Exists() || !box.Visible(); });
 }
 
 }  // namespace korvale::endtoend

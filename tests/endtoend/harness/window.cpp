@@ -10,9 +10,6 @@
 namespace korvale::endtoend {
 namespace {
 
-/// How long the desktop may take to bring a window forward before it is asked again.
-constexpr std::chrono::milliseconds kAsk{1000};
-
 constexpr UINT kAnswerMs = 1000;
 
 BOOL CALLBACK Collect(HWND handle, LPARAM windows) {
@@ -103,16 +100,25 @@ bool Window::Close() const {
 
 Window Foreground() { return Window(GetForegroundWindow()); }
 
-bool BringToFront(Window window, std::chrono::milliseconds limit) {
+Window FocusOf(Window window) {
+  GUITHREADINFO info{};
+  info.cbSize = sizeof(info);
+  GetGUIThreadInfo(GetWindowThreadProcessId(window.handle(), nullptr), &info);
+  return Window(info.hwndFocus);
+}
+
+bool HasInput(Window window) {
   const auto in_front = [&] { return Foreground() == window; };
-  // A dialog that closes meanwhile may pass the foreground on after us; then we ask again.
-  for (auto waited = limit; waited > kPatience.zero(); waited -= kAsk) {
-    if (in_front()) return true;
-    EarnForeground();
-    SetForegroundWindow(window.handle());
-    if (WaitFor(in_front, kAsk)) return true;
-  }
-  return false;
+  const bool takes_focus = window.Enabled() && !window.Minimized();
+  // What the program was told before, it has taken notice of once it answers.
+  return in_front() && window.Responds() && in_front() && (!takes_focus || FocusOf(window));
+}
+
+bool BringToFront(Window window) {
+  if (HasInput(window)) return true;
+  EarnForeground();
+  SetForegroundWindow(window.handle());
+  return WaitFor([&] { return HasInput(window); });
 }
 
 std::vector<Window> TopLevelWindows() {

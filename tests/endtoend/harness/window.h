@@ -58,8 +58,15 @@ class Window {
 /// The foreground window; none while Windows passes the foreground on.
 Window Foreground();
 
-/// Brings the window to the front as a user would; true once it is there.
-bool BringToFront(Window window, std::chrono::milliseconds limit = kPatience);
+/// The control that has the focus in the window's program.
+Window FocusOf(Window window);
+
+/// True when the user can work in the window: it is in front, its program has taken notice of that
+/// and has given it the focus, so keys reach it.
+bool HasInput(Window window);
+
+/// Brings the window to the front as a user would; true once it has the input.
+bool BringToFront(Window window);
 
 /// All top-level windows, topmost first.
 std::vector<Window> TopLevelWindows();

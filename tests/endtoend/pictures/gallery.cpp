@@ -1,6 +1,5 @@
 #include "tests/endtoend/pictures/gallery.h"
 
-#include <cstdlib>
 #include <fstream>
 #include <stdexcept>
 
@@ -28,16 +27,7 @@ void PutMouse(Window window, int left, int top) {
   GetWindowRect(window.handle(), &area);
   const auto dpi = static_cast<int>(GetDpiForSystem());
   const POINT at{MulDiv(left, dpi, 96), MulDiv(top, dpi, 96)};
-  const auto there = [&] {
-    POINT now{};
-    GetCursorPos(&now);
-    return std::abs(now.x - area.left - at.x) <= 2 && std::abs(now.y - area.top - at.y) <= 2;
-  };
-  // The display can still report an earlier place of the mouse.
-  WaitFor([&] {
-    SetCursorPos(area.left + at.x, area.top + at.y);
-    return HoldsFor(there);
-  });
+  PutPointer({area.left + at.x, area.top + at.y});
 }
 
 void Need(bool holds, const std::string& what) {

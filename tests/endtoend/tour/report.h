@@ -13,9 +13,6 @@ namespace korvale::endtoend {
 /// Prints one line a step, keeps the times from key to foreground, and counts the failures.
 class Report {
  public:
-  /// Longest time that a key may take.
-  static constexpr double kLimitMs = 100.0;
-
   void Headline(const std::string& text) const;
   /// A step without a time: prints whether it worked.
   void Step(const std::string& what, bool worked);

@@ -68,21 +68,12 @@ bool Tour::StartKorvale() {
 }
 
 bool Tour::Seen(Window window) const {
-  return WaitFor([&] { return korvale_->TargetTitle() == window.Title(); }) &&
+  return WaitFor([&] { return HasInput(window) && korvale_->TargetTitle() == window.Title(); }) &&
          HoldsFor([&] { return Foreground() == window; });
 }
 
 void Tour::WorkIn(const std::string& name, Window window) {
-  const auto noticed = [&] {
-    return Foreground() == window && korvale_->TargetTitle() == window.Title();
-  };
-  // A program that has just started can come forward late, over the window chosen here.
-  bool works = false;
-  for (int attempt = 0; attempt < 4 && !works; ++attempt) {
-    works = BringToFront(window) && WaitFor(noticed, std::chrono::milliseconds(2500)) &&
-            HoldsFor([&] { return Foreground() == window; });
-  }
-  report_.Step("work in " + name, works);
+  report_.Step("work in " + name, BringToFront(window) && Seen(window));
 }
 
 AddWindowDialog Tour::OpenAddWindow(const std::string& picture) {
@@ -140,7 +131,7 @@ void Tour::MinimizeAndMaximize() {
 void Tour::UseThePopUp() {
   report_.Headline("The Window menu anywhere");
   WorkIn("Registry Editor", regedit_->window());
-  SetCursorPos(400, 300);
+  PutPointer({400, 300});
   report_.KeyUntil("Windows+W: the menu pops up", kMenuKey, [&] { return korvale_->HasMenu(); });
   report_.Picture("pop-up");
   report_.KeyToFront("3: Notepad", {0, '3'}, notepad_->window());
