@@ -82,7 +82,9 @@ void OtherCopy::BringForward(Desktop& desktop, WindowHandle copy) {
     if (denied) desktop.actions.ReportFailure();
     return;
   }
-  WindowTriple window{copy, GetWindowTitle(windows, copy), GetWindowClass(windows, copy)};
+  // Another window may have got the handle meanwhile, but not with the class of a main window.
+  const std::string className = GetWindowClass(windows, desktop.mainWindow.MainHandle());
+  WindowTriple window{copy, GetWindowTitle(windows, copy), className};
   if (desktop.actions.ActivateWindow(window, false, true) == kWindowDenied) {
     desktop.actions.ReportFailure();
   }
