@@ -147,6 +147,22 @@ TEST_F(FirstActivationTest, AlwaysOnTopIsAppliedAtTheFirstActivation) {
   EXPECT_TRUE(korvale.WindowMenuItems().front().checked);
 }
 
+TEST_F(FirstActivationTest, AlwaysOnTopIsAppliedByItself) {
+  store.SaveSetting("Korvale - Work", "Startup", "AlwaysOnTop", "True");
+  KorvaleCopy& korvale = UsedCopy();
+  const auto exStyle = [&]() -> std::int32_t& {
+    return desktop.Windows().Find(korvale.Handle())->exStyle;
+  };
+  log.WhenCalled("RegisterHotKey",
+                 [&] { EXPECT_TRUE(korvale.Form().Menu("mnuWindowAlwaysOnTop").checked); });
+  // What the start has done for the hidden window is undone.
+  log.WhenCalled("ShowWindow(frmMain", [&] { exStyle() &= ~win32::kWsExTopmost; });
+
+  EXPECT_TRUE(korvale.Start());
+
+  EXPECT_NE(exStyle() & win32::kWsExTopmost, 0);
+}
+
 TEST_F(FirstActivationTest, AlwaysOnTopUsesUpNothingOfTheFirstActivation) {
   store.SaveSetting("Korvale - Work", "Startup", "AlwaysOnTop", "True");
   Open("Alpha");
