@@ -30,7 +30,7 @@ class DyingOperations : public DyingWindowTest {
     ReopenTarget({.className = "Target", .iconic = true, .staysIconic = true});
     Retag();
   }
-  void GoToAlphaOfAnOwner() {
+  void GoToOwnedAlpha() {
     const WindowHandle owner = desktop.Open("Owner");
     ReopenTarget(
         {.className = "Target", .owner = owner, .style = fakes::kWsPopup | win32::kWsMinimizeBox});
@@ -47,8 +47,8 @@ class DyingOperations : public DyingWindowTest {
     MinimizeOwnerOfAlpha();
     dying = desktop.FindWindowA("Owner");
   }
-  void GoToAlphaOfAnOwnerThatDies() {
-    GoToAlphaOfAnOwner();
+  void GoToAlphaOfDyingOwner() {
+    GoToOwnedAlpha();
     dying = desktop.FindWindowA("Owner");
   }
   void Retag() {
@@ -63,19 +63,19 @@ class DyingOperations : public DyingWindowTest {
     ComeFromAlpha();
     desktop.UserMinimizes(target);
   }
-  void ComeFromAlphaBehindItsDialog() {
+  void ComeFromDialogOfAlpha() {
     WorkIn(target);
     desktop.OpenModalDialog(target, "Dialog");
     LetTick();
     WorkIn(beta);
   }
-  void ComeFromAlphaBehindADialogThatDies() {
-    ComeFromAlphaBehindItsDialog();
+  void ComeFromDyingDialog() {
+    ComeFromDialogOfAlpha();
     dying = desktop.FindWindowA("Dialog");
   }
   void GoToAlpha() { WorkIn(target); }
   void GoToAlphaBetweenTwoTicks() { desktop.UserActivates(target); }
-  void GoToKorvaleFromAlpha() {
+  void GoToKorvale() {
     WorkIn(target);
     WorkIn(korvale->Handle());
   }

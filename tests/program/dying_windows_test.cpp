@@ -21,19 +21,24 @@ const std::set<std::string> kNowhere = {"Window:  [Nowhere]  is not open."};
 
 class EveryCallTest;
 
+enum class Kind {
+  kSelects,          ///< Alpha comes forward, or the user hears why it does not.
+  kSelectsByRecord,  ///< The same for the window in front, known by its handle: a new title makes
+                     ///< no other window of it.
+  kByRecord,         ///< Only the latter.
+  kBulk,             ///< For all windows alike.
+};
+
 struct DisturbedOperation {
   const char* name;
   void (EveryCallTest::*prepare)();
   void (EveryCallTest::*act)();
+  Kind kind;
   /// Where the user may end. The newcomer in place of Alpha is judged apart; where Alpha was in
   /// front as it went, it is for Windows to choose.
   std::set<std::string> fronts;
   /// What they may be told, at most one of it.
   std::set<std::string> messages = {};
-  bool selectsAlpha = false;
-  /// The window is known by its handle, so that a new title makes no other window of it.
-  bool byRecord = false;
-  bool bulk = false;
   /// Where they may also end when Alpha went while Korvale was about to bring it forward.
   std::set<std::string> lateFronts = {};
 };
@@ -42,13 +47,15 @@ class EveryCallTest : public DyingOperations,
                       public testing::WithParamInterface<std::tuple<DisturbedOperation, Fate>> {
  public:
   static std::vector<DisturbedOperation> All();
+  static std::vector<DisturbedOperation> Keys();
+  static std::vector<DisturbedOperation> Commands();
 
  protected:
   void Check(const DisturbedOperation& operation, Fate fate) {
     CheckMessages(operation);
     CheckFront(operation);
     EXPECT_EQ(desktop.CallsThatWaited(), 0);
-    if (operation.selectsAlpha) {
+    if (operation.kind == Kind::kSelects || operation.kind == Kind::kSelectsByRecord) {
       EXPECT_TRUE(Front() == "Alpha" || !boxes.empty() || HadCome() || Asked("Newcomer") ||
                   wentFromFront)
           << "nobody was told, in front is " << Front();
@@ -78,9 +85,9 @@ class EveryCallTest : public DyingOperations,
   }
 
   void CheckNewcomer(const DisturbedOperation& operation, Fate fate) {
-    if (newcomer == 0 || operation.bulk || !Asked("Newcomer")) return;
+    if (newcomer == 0 || operation.kind == Kind::kBulk || !Asked("Newcomer")) return;
     const bool other = fate == Fate::kHandleGoesToAnotherClass;
-    EXPECT_TRUE((operation.byRecord && !other) ||
+    EXPECT_TRUE((operation.kind != Kind::kSelects && !other) ||
                 CouldNotKnow(other ? "GetClassNameA" : "GetWindowTextA"))
         << "the newcomer was taken for Alpha";
   }
@@ -107,119 +114,76 @@ class EveryCallTest : public DyingOperations,
   }
 };
 
-std::vector<DisturbedOperation> EveryCallTest::All() {
+using Fronts = std::set<std::string>;
+const Fronts kToAlpha = {"Alpha", "Beta"};
+const Fronts kToOwned = {"Alpha", "Beta", "Owner"};
+const Fronts kToMain = {kMainTitle};
+
+std::vector<DisturbedOperation> EveryCallTest::Keys() {
   using T = EveryCallTest;
-  const std::set<std::string> toAlpha = {"Alpha", "Beta"};
-  const std::set<std::string> back = {"Alpha", "Gamma", "Beta"};
+  using enum Kind;
+  const Fronts back = {"Alpha", "Gamma", "Beta"};
+  const Fronts dialog = {"Dialog", "Alpha", "Gamma", "Beta"};
+  const Fronts next = {"Alpha", "Beta", "Gamma"};
+  const Fronts nextOfOwned = {"Alpha", "Beta", "Gamma", "Owner"};
   return {
-      {"TagByHandle", &T::Leave, &T::PressOne, toAlpha, kNotSelected, true},
-      {"TagByLostHandle", &T::LoseHandle, &T::PressOne, toAlpha, kNotSelected, true},
-      {"TagByTitle", &T::ChangeClass, &T::PressOne, toAlpha, kNotSelected, true},
-      {"TagOfMinimized", &T::MinimizeAlpha, &T::PressOne, toAlpha, kNotSelected, true},
-      {"TagOfMinimizedInFront", &T::MinimizeAlphaInFront, &T::PressOne, toAlpha, kNotSelected, true,
-       true},
-      {"TagOfOneThatStaysMinimized", &T::KeepAlphaMinimized, &T::PressOne, toAlpha, kNotSelected,
-       true},
-      {"TagOfOwnedByMinimized",
-       &T::MinimizeOwnerOfAlpha,
-       &T::PressOne,
-       {"Alpha", "Beta", "Owner"},
-       kNotSelected,
-       true},
-      {"TagOfOwnedByDying",
-       &T::MinimizeOwnerThatDies,
-       &T::PressOne,
-       {"Alpha", "Beta", "Owner"},
-       kNotSelected,
-       true},
-      {"TagBehindDyingDialog",
-       &T::ComeFromAlphaBehindADialogThatDies,
-       &T::PressOne,
-       {"Alpha", "Beta", "Dialog"},
-       kNotSelected,
-       true},
-      {"TagZeroOfDyingDialog",
-       &T::ComeFromAlphaBehindADialogThatDies,
-       &T::PressZero,
-       {"Dialog", "Alpha", "Gamma", "Beta"},
-       {},
-       false,
-       true},
-      {"TagZero", &T::ComeFromAlpha, &T::PressZero, back, {}, false, true},
-      {"TagZeroOfMinimized", &T::ComeFromMinimizedAlpha, &T::PressZero, back, {}, false, true},
-      {"TagZeroOfDisabled",
-       &T::ComeFromAlphaBehindItsDialog,
-       &T::PressZero,
-       {"Dialog", "Alpha", "Gamma", "Beta"},
-       {},
-       false,
-       true},
-      {"TagOfNoWindow", &T::GoToAlpha, &T::PressNoWindow, toAlpha, kNowhere, false, true},
-      {"Minimize", &T::GoToAlpha, &T::PressMinimize, {"Alpha", "Beta", "Gamma"}, {}, false, true},
-      {"MinimizeOwner",
-       &T::GoToAlphaOfAnOwner,
-       &T::PressMinimize,
-       {"Alpha", "Beta", "Owner", "Gamma"},
-       {},
-       false,
-       true},
-      {"MinimizeDyingOwner",
-       &T::GoToAlphaOfAnOwnerThatDies,
-       &T::PressMinimize,
-       {"Alpha", "Beta", "Owner", "Gamma"},
-       {},
-       false,
-       true},
-      {"MinimizeBefore", &T::ComeFromAlpha, &T::PressMinimize, {"Alpha", "Gamma"}, {}, false, true},
-      {"RestoreMaximize", &T::GoToAlpha, &T::PressMaximize, toAlpha, {}, false, true},
-      {"AlwaysOnTop",
-       &T::GoToKorvaleFromAlpha,
-       &T::ToggleAlwaysOnTop,
-       {kMainTitle},
-       {},
-       false,
-       true},
-      {"PreviousAlwaysOnTop",
-       &T::GoToKorvaleFromAlpha,
-       &T::TogglePreviousOnTop,
-       {kMainTitle},
-       {kUnsuccessful},
-       false,
-       true},
-      {"MinimizeAll",
-       &T::GoToKorvaleFromAlpha,
-       &T::MinimizeAll,
-       {"Program Manager", "Alpha"},
-       {},
-       false,
-       true,
-       true},
-      {"RestoreAll", &T::MinimizeAlphaAndBeta, &T::RestoreAll, {kMainTitle}, {}, false, true, true},
-      {"PopUp", &T::GoToAlpha, &T::PopUpAndEscape, toAlpha, {}, false, true},
-      {"PopUpChoice", &T::Leave, &T::PopUpAndChoose, toAlpha, kNotSelected, true},
-      {"Tick", &T::GoToAlphaBetweenTwoTicks, &T::Tick, toAlpha, {}, false, true},
-      {"Start", &T::EndKorvale, &T::Start, {kMainTitle}, {}, false, true},
-      {"OptionsOpened", &T::GoToAlpha, &T::OpenOptionsByKey, {kOptionsTitle}, {}, false, true},
-      {"OptionsClosed",
-       &T::OpenOptions,
-       &T::CloseOptionsAgain,
-       toAlpha,
-       {},
-       false,
-       true,
-       false,
-       {kMainTitle}},
-      {"AddWindow",
-       &T::GoToKorvaleFromAlpha,
-       &T::AddPrevious,
-       {kMainTitle},
-       kNotAdded,
-       false,
-       true},
-      {"AddThis", &T::GoToKorvaleFromAlpha, &T::AddThis, {kMainTitle}, {}, false, true},
-      {"DialogClosed", &T::GoToAlpha, &T::OpenAndCloseAddWindow, toAlpha, kNotAdded, false, true},
-      {"Toggle", &T::GoToAlpha, &T::PressPauseTwice, toAlpha, {}, false, true},
+      {"TagByHandle", &T::Leave, &T::PressOne, kSelects, kToAlpha, kNotSelected},
+      {"TagByLostHandle", &T::LoseHandle, &T::PressOne, kSelects, kToAlpha, kNotSelected},
+      {"TagByTitle", &T::ChangeClass, &T::PressOne, kSelects, kToAlpha, kNotSelected},
+      {"TagOfMinimized", &T::MinimizeAlpha, &T::PressOne, kSelects, kToAlpha, kNotSelected},
+      {"TagOfMinimizedInFront", &T::MinimizeAlphaInFront, &T::PressOne, kSelectsByRecord, kToAlpha,
+       kNotSelected},
+      {"TagOfStuck", &T::KeepAlphaMinimized, &T::PressOne, kSelects, kToAlpha, kNotSelected},
+      {"TagOfOwned", &T::MinimizeOwnerOfAlpha, &T::PressOne, kSelects, kToOwned, kNotSelected},
+      {"TagOfDyingOwner", &T::MinimizeOwnerThatDies, &T::PressOne, kSelects, kToOwned,
+       kNotSelected},
+      {"TagBehindDyingDialog", &T::ComeFromDyingDialog, &T::PressOne, kSelects, dialog,
+       kNotSelected},
+      {"TagOfNoWindow", &T::GoToAlpha, &T::PressNoWindow, kByRecord, kToAlpha, kNowhere},
+      {"TagZero", &T::ComeFromAlpha, &T::PressZero, kByRecord, back},
+      {"TagZeroOfMinimized", &T::ComeFromMinimizedAlpha, &T::PressZero, kByRecord, back},
+      {"TagZeroOfDisabled", &T::ComeFromDialogOfAlpha, &T::PressZero, kByRecord, dialog},
+      {"TagZeroOfDyingDialog", &T::ComeFromDyingDialog, &T::PressZero, kByRecord, dialog},
+      {"Minimize", &T::GoToAlpha, &T::PressMinimize, kByRecord, next},
+      {"MinimizeBefore", &T::ComeFromAlpha, &T::PressMinimize, kByRecord, {"Alpha", "Gamma"}},
+      {"MinimizeOwner", &T::GoToOwnedAlpha, &T::PressMinimize, kByRecord, nextOfOwned},
+      {"MinimizeDyingOwner", &T::GoToAlphaOfDyingOwner, &T::PressMinimize, kByRecord, nextOfOwned},
+      {"RestoreMaximize", &T::GoToAlpha, &T::PressMaximize, kByRecord, kToAlpha},
+      {"Toggle", &T::GoToAlpha, &T::PressPauseTwice, kByRecord, kToAlpha},
+      {"PopUp", &T::GoToAlpha, &T::PopUpAndEscape, kByRecord, kToAlpha},
+      {"PopUpChoice", &T::Leave, &T::PopUpAndChoose, kSelects, kToAlpha, kNotSelected},
+      {"OptionsOpened", &T::GoToAlpha, &T::OpenOptionsByKey, kByRecord, {kOptionsTitle}},
   };
+}
+
+std::vector<DisturbedOperation> EveryCallTest::Commands() {
+  using T = EveryCallTest;
+  using enum Kind;
+  const Fronts bare = {"Program Manager", "Alpha"};
+  return {
+      {"AlwaysOnTop", &T::GoToKorvale, &T::ToggleAlwaysOnTop, kByRecord, kToMain},
+      {"PreviousOnTop",
+       &T::GoToKorvale,
+       &T::TogglePreviousOnTop,
+       kByRecord,
+       kToMain,
+       {kUnsuccessful}},
+      {"MinimizeAll", &T::GoToKorvale, &T::MinimizeAll, kBulk, bare},
+      {"RestoreAll", &T::MinimizeAlphaAndBeta, &T::RestoreAll, kBulk, kToMain},
+      {"Tick", &T::GoToAlphaBetweenTwoTicks, &T::Tick, kByRecord, kToAlpha},
+      {"Start", &T::EndKorvale, &T::Start, kByRecord, kToMain},
+      {"OptionsClosed", &T::OpenOptions, &T::CloseOptionsAgain, kByRecord, kToAlpha, {}, kToMain},
+      {"AddWindow", &T::GoToKorvale, &T::AddPrevious, kByRecord, kToMain, kNotAdded},
+      {"AddThis", &T::GoToKorvale, &T::AddThis, kByRecord, kToMain},
+      {"DialogClosed", &T::GoToAlpha, &T::OpenAndCloseAddWindow, kByRecord, kToAlpha, kNotAdded},
+  };
+}
+
+std::vector<DisturbedOperation> EveryCallTest::All() {
+  std::vector<DisturbedOperation> all = Keys();
+  const std::vector<DisturbedOperation> commands = Commands();
+  all.insert(all.end(), commands.begin(), commands.end());
+  return all;
 }
 
 /// Cannot tell whether Alpha has met its fate: a strike before the next call is the same.
