@@ -84,6 +84,19 @@ TEST_F(CrashTest, AnErrorAtTheStartGivesHotKeysAndHookBackBeforeTheWindowGoes) {
   EXPECT_TRUE(hotKeys.Registered().empty());
 }
 
+TEST_F(CrashTest, AnErrorAtTheStartUnloadsTheSplashAndReleasesTheOptions) {
+  KorvaleCopy& korvale = FailingAtStart();
+  StoreOption("SplashScreen", "True");
+
+  EXPECT_FALSE(korvale.Start());
+
+  EXPECT_EQ(Order({"CreateWindowExW(frmMsgBox2)", "MessageBoxW(", "DestroyWindow(frmMsgBox2)",
+                   "DestroyWindow(frmMain)"}),
+            (std::vector<std::string>{"CreateWindowExW(frmMsgBox2)", "MessageBoxW(",
+                                      "DestroyWindow(frmMsgBox2)", "DestroyWindow(frmMain)"}));
+  EXPECT_FALSE(korvale.HasOptions());
+}
+
 TEST_F(CrashTest, AMainWindowThatCannotBeMadeIsToldAndRecorded) {
   KorvaleCopy& korvale = Prepared();
   RecordNextMessage(korvale);
