@@ -151,8 +151,10 @@ TEST_F(AboutTest, OpensTheWebSiteByAClick) {
 }
 
 TEST_F(AboutTest, TakesNoForegroundAsTheSplashWindow) {
+  desktop_.Open("Editor");
   log_.Clear();
   about_.ShowSplash(display_);
+  EXPECT_EQ(desktop_.ForegroundTitle(), "Editor");
   EXPECT_TRUE(user_.IsShown(about_.Handle()));
   EXPECT_EQ(user_.Title(about_.Handle()), "Korvale");
   EXPECT_TRUE(log_.CallsOf("SetForegroundWindow(").empty());

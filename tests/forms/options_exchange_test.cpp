@@ -101,12 +101,25 @@ TEST_F(OptionsExchangeTest, FollowsTheRecordWhenItIsRefreshed) {
   EXPECT_FALSE(Border("lblTagParent", 2));
 }
 
-TEST_F(OptionsExchangeTest, FillsTheListsInTheirOrder) {
+TEST_F(OptionsExchangeTest, FillsEveryListInItsOrder) {
   OpenDialog();
-  const std::vector<std::string> modifiers =
-      user_.ListEntries(dialog_.Handle(), Id(dialog_, "cboHotKeyModGeneral", 2));
-  EXPECT_EQ(modifiers, (std::vector<std::string>{" ", "Alt", "Ctrl", "Shift", "Windows®"}));
-  EXPECT_EQ(user_.ListEntries(dialog_.Handle(), Id(dialog_, "cboHotKeyAction", 1)).size(), 60U);
+  const auto entries = [this](const char* list, int index) {
+    return user_.ListEntries(dialog_.Handle(), Id(dialog_, list, index));
+  };
+  const std::vector<std::string> modifiers = {" ", "Alt", "Ctrl", "Shift", "Windows®"};
+  EXPECT_EQ(entries("cboHotKeyModParent", -1), modifiers);
+  const std::vector<std::string> keys = entries("cboHotKeyAction", 0);
+  ASSERT_EQ(keys.size(), 60U);
+  EXPECT_EQ(keys.front(), " ");
+  EXPECT_EQ(keys.at(1), "F1");
+  EXPECT_EQ(keys.back(), "UpArrow");
+  for (int i = 0; i < 3; ++i) {
+    EXPECT_EQ(entries("cboHotKeyModGeneral", i), modifiers) << i;
+    EXPECT_EQ(entries("cboHotKeyGeneral", i), keys) << i;
+    if (i == 2) continue;
+    EXPECT_EQ(entries("cboHotKeyModAction", i), modifiers) << i;
+    EXPECT_EQ(entries("cboHotKeyAction", i), keys) << i;
+  }
 }
 
 }  // namespace

@@ -13,12 +13,16 @@ constexpr Color kDefault = 0x0080FFFF;
 TEST_F(OptionsLookTest, PaintsEachTagByItsCheckBoxWhateverTheModifier) {
   Record().intHotKeyModParent = 0;
   OpenDialog();
-  EXPECT_EQ(Back("lblTagParent", 4), kDefault);
-  EXPECT_TRUE(Border("lblTagParent", 4));
-  Click(dialog_, "chkHotKeyParent", 4);
-  EXPECT_EQ(Back("lblTagParent", 4), kButtonFaceColor);
-  EXPECT_FALSE(Border("lblTagParent", 4));
-  EXPECT_EQ(Back("lblTagParent", 5), kDefault);
+  for (int tag = 0; tag < 10; ++tag) {
+    EXPECT_EQ(Back("lblTagParent", tag), kDefault) << tag;
+    EXPECT_TRUE(Border("lblTagParent", tag)) << tag;
+  }
+  for (int tag = 0; tag < 10; ++tag) {
+    Click(dialog_, "chkHotKeyParent", tag);
+    EXPECT_EQ(Back("lblTagParent", tag), kButtonFaceColor) << tag;
+    EXPECT_FALSE(Border("lblTagParent", tag)) << tag;
+    EXPECT_EQ(Back("lblTagParent", 9), tag == 9 ? kButtonFaceColor : kDefault) << tag;
+  }
 }
 
 class OpenOptionsLookTest : public OptionsTest {
@@ -27,16 +31,25 @@ class OpenOptionsLookTest : public OptionsTest {
 };
 
 TEST_F(OpenOptionsLookTest, PaintsEachOperationByItsKey) {
-  EXPECT_EQ(Back("lblAction", 1), kDefault);
-  EXPECT_EQ(Back("lblGeneral", 2), kDefault);
-  PickEntry("cboHotKeyAction", 1, 0);
-  PickEntry("cboHotKeyGeneral", 2, 0);
-  EXPECT_EQ(Back("lblAction", 1), kButtonFaceColor);
-  EXPECT_FALSE(Border("lblAction", 1));
-  EXPECT_EQ(Back("lblGeneral", 2), kButtonFaceColor);
-  PickEntry("cboHotKeyModGeneral", 1, 0);
-  EXPECT_EQ(Back("lblGeneral", 1), kDefault);
-  EXPECT_TRUE(Border("lblGeneral", 1));
+  struct Operation {
+    const char* label;
+    const char* modifiers;
+    const char* keys;
+    int index;
+  };
+  for (const Operation& each :
+       {Operation{"lblAction", "cboHotKeyModAction", "cboHotKeyAction", 0},
+        Operation{"lblAction", "cboHotKeyModAction", "cboHotKeyAction", 1},
+        Operation{"lblGeneral", "cboHotKeyModGeneral", "cboHotKeyGeneral", 0},
+        Operation{"lblGeneral", "cboHotKeyModGeneral", "cboHotKeyGeneral", 1},
+        Operation{"lblGeneral", "cboHotKeyModGeneral", "cboHotKeyGeneral", 2}}) {
+    PickEntry(each.modifiers, each.index, 0);
+    EXPECT_EQ(Back(each.label, each.index), kDefault) << each.label << each.index;
+    EXPECT_TRUE(Border(each.label, each.index)) << each.label << each.index;
+    PickEntry(each.keys, each.index, 0);
+    EXPECT_EQ(Back(each.label, each.index), kButtonFaceColor) << each.label << each.index;
+    EXPECT_FALSE(Border(each.label, each.index)) << each.label << each.index;
+  }
 }
 
 TEST_F(OpenOptionsLookTest, PaintsTheLegend) {
@@ -140,9 +153,17 @@ TEST_F(OpenOptionsLookTest, HasTheCaptionsOfItsControls) {
 }
 
 TEST_F(OpenOptionsLookTest, EachHotKeyIsNamedRightBeforeItsLists) {
-  EXPECT_EQ(Id(dialog_, "lblAction", 1) + 1, Id(dialog_, "cboHotKeyModAction", 1));
-  EXPECT_EQ(Id(dialog_, "lblGeneral", 0) + 1, Id(dialog_, "cboHotKeyModGeneral", 0));
-  EXPECT_EQ(Id(dialog_, "lblTagParent", 8) + 1, Id(dialog_, "chkHotKeyParent", 8));
+  for (int i = 0; i < 2; ++i) {
+    EXPECT_EQ(Id(dialog_, "lblAction", i) + 1, Id(dialog_, "cboHotKeyModAction", i));
+    EXPECT_EQ(Id(dialog_, "lblKeyAction", i) + 1, Id(dialog_, "cboHotKeyAction", i));
+  }
+  for (int i = 0; i < 3; ++i) {
+    EXPECT_EQ(Id(dialog_, "lblGeneral", i) + 1, Id(dialog_, "cboHotKeyModGeneral", i));
+    EXPECT_EQ(Id(dialog_, "lblKeyGeneral", i) + 1, Id(dialog_, "cboHotKeyGeneral", i));
+  }
+  for (int tag = 0; tag < 10; ++tag) {
+    EXPECT_EQ(Id(dialog_, "lblTagParent", tag) + 1, Id(dialog_, "chkHotKeyParent", tag));
+  }
   EXPECT_EQ(Id(dialog_, "fraWindowSelection") + 1, Id(dialog_, "cboHotKeyModParent"));
 }
 

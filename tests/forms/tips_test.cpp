@@ -98,6 +98,15 @@ TEST_F(TipsTest, LaysOutForTheHeight) {
   ShowTip(TipNumber::kCustomizeColors, "TIP", 3400);
 }
 
+TEST_F(TipsTest, StandsWhereTheHintsSay) {
+  host_.WhenModal("frmMsgTip", [&](Form& form) {
+    EXPECT_EQ(user_.Place(form.Handle()), (TwipsRect{120, 240, 8400, 3000}));
+    form.Unload();
+  });
+  tips_.ShowTip(TipNumber::kCustomizeColors, "Text", "TIP", 3000, {.left = 120, .top = 240},
+                nullptr);
+}
+
 TEST_F(TipsTest, ShowsTheTextAsItIs) {
   host_.WhenModal("frmMsgTip", [&](Form& form) {
     EXPECT_EQ(Text(form, "lblTip"), "Press & hold.");
