@@ -147,10 +147,14 @@ TEST(VersionResourceTest, WithoutNumbersStillTellsItsTexts) {
 
 TEST(VersionResourceTest, TruncatedGivesNothing) {
   const Content whole = Usual();
+  ASSERT_EQ(ReadVersionResource(whole).fileDescription, u"Жук");
   for (std::size_t size = 0; size < whole.size(); ++size) {
     // On the heap, so that a look behind the end is seen.
     const Content part(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size));
-    EXPECT_EQ(ReadVersionResource(part).major, 0) << size;
+    const VersionResource read = ReadVersionResource(part);
+    EXPECT_EQ(read.major, 0) << size;
+    EXPECT_EQ(read.fileDescription, u"") << size;
+    EXPECT_EQ(read.legalCopyright, u"") << size;
   }
 }
 
