@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <vector>
+
 #include "app/core/settings.h"
 #include "tests/core/saves.h"
 #include "tests/fakes/error_of.h"
@@ -29,12 +32,34 @@ TEST_F(HeldINITest, IsWhatWasSavedLast) {
 
 TEST_F(HeldINITest, DiffersInAnyValue) {
   SaveNew();
-  StartupSettings moved;
-  moved.Left = 100;
-  EXPECT_FALSE(settings_.HoldsINI(moved, NewTags()));
-  StoredTagList renamed = NewTags();
-  renamed.front().className = "Another";
-  EXPECT_FALSE(settings_.HoldsINI(StartupSettings(), renamed));
+  const std::vector<std::function<void(StartupSettings&)>> changes = {
+      [](StartupSettings& startup) { startup.WindowState = 2; },
+      [](StartupSettings& startup) { startup.Left = 100; },
+      [](StartupSettings& startup) { startup.Top = 100; },
+      [](StartupSettings& startup) { startup.Width = 6000; },
+      [](StartupSettings& startup) { startup.Height = 700; },
+      [](StartupSettings& startup) { startup.AlwaysOnTop = true; },
+      [](StartupSettings& startup) { startup.WI1BackColor = 1; },
+      [](StartupSettings& startup) { startup.WI2BackColor = 1; },
+      [](StartupSettings& startup) { startup.Tips = "0"; },
+      [](StartupSettings& startup) { startup.DisplayTips = false; },
+      [](StartupSettings& startup) { startup.LastColorSelected = 1; },
+      [](StartupSettings& startup) { startup.Menu = false; },
+      [](StartupSettings& startup) { startup.OptionsTab = 2; },
+      [](StartupSettings& startup) { startup.WindowInfo = false; }};
+  for (const auto& change : changes) {
+    StartupSettings startup;
+    change(startup);
+    EXPECT_FALSE(settings_.HoldsINI(startup, NewTags())) << &change - changes.data();
+  }
+  const StoredTagList others[] = {{},
+                                  {{4, "&3  New\\Tag", "\\New\\"}},
+                                  {{3, "&3  Tag", "\\New\\"}},
+                                  {{3, "&3  New\\Tag", "New"}}};
+  for (const StoredTagList& tags : others) {
+    EXPECT_FALSE(settings_.HoldsINI(StartupSettings(), tags)) << &tags - others;
+  }
+  EXPECT_TRUE(HoldsNew());
   settings_.SetAppName("Korvale - Home");
   EXPECT_FALSE(HoldsNew());
 }

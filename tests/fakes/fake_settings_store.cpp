@@ -32,6 +32,7 @@ void FakeSettingsStore::RefuseValue(const std::string& appName, const std::strin
 void FakeSettingsStore::RefuseAfterWrites(int writes, Refusal refusal) {
   writes_before_refusal_ = writes;
   refusal_ = refusal;
+  came_to_refusal_ = false;
 }
 
 void FakeSettingsStore::RefuseNothing() {
@@ -144,6 +145,7 @@ bool FakeSettingsStore::RefusesNow(bool saves) {
     --*writes_before_refusal_;
     return false;
   }
+  came_to_refusal_ = true;
   if (refusal_ == Refusal::kOne) writes_before_refusal_.reset();
   return refusal_ != Refusal::kSaves || saves;
 }

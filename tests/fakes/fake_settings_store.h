@@ -30,6 +30,8 @@ class FakeSettingsStore : public SettingsStore {
   enum class Refusal { kOne, kAll, kSaves };
   /// Lets this many changes through, then refuses.
   void RefuseAfterWrites(int writes, Refusal refusal);
+  /// True once a change has come up that RefuseAfterWrites did not let through unlooked.
+  bool CameToRefusal() const { return came_to_refusal_; }
   /// Refuses nothing from now on.
   void RefuseNothing();
   /// Lets this many changes through; the next one throws KilledBetweenWrites. -1 = all.
@@ -76,6 +78,7 @@ class FakeSettingsStore : public SettingsStore {
   int writes_left_ = -1;
   std::optional<int> writes_before_refusal_;
   Refusal refusal_ = Refusal::kAll;
+  bool came_to_refusal_ = false;
 };
 
 }  // namespace korvale

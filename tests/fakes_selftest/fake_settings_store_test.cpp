@@ -126,7 +126,9 @@ TEST(FakeSettingsStoreTest, RefusesFromAnyWriteOnEverythingOneChangeOrOnlySaves)
     store.RefuseAfterWrites(2, refusal);
     EXPECT_TRUE(store.SaveSetting("App", "Options", "a", "1"));
     EXPECT_TRUE(store.SaveSetting("App", "Options", "b", "1"));
+    EXPECT_FALSE(store.CameToRefusal());
     EXPECT_FALSE(store.SaveSetting("App", "Options", "c", "1"));
+    EXPECT_TRUE(store.CameToRefusal());
     EXPECT_EQ(store.SaveSetting("App", "Options", "d", "1"), refusal == Refusal::kOne);
     EXPECT_EQ(store.DeleteSetting("App", "Options", "a"), refusal != Refusal::kAll);
     EXPECT_EQ(store.DeleteSection("App", "Options"), refusal != Refusal::kAll);
