@@ -1,6 +1,9 @@
 #include <algorithm>
 
+#include "tests/endtoend/harness/files.h"
 #include "tests/endtoend/harness/main_window.h"
+#include "tests/endtoend/harness/screen.h"
+#include "tests/endtoend/harness/text.h"
 #include "tests/endtoend/korvale_test.h"
 
 namespace korvale::endtoend {
@@ -19,6 +22,37 @@ class About : public KorvaleTest {
 
   bool Gone() {
     return WaitFor([this] { return !korvale_->HasForm("frmMsgBox2"); });
+  }
+
+  static RECT PlaceOf(Window window) {
+    RECT area{};
+    GetWindowRect(window.handle(), &area);
+    return area;
+  }
+
+  /// What the program's icon looks like on a dialog.
+  static std::vector<COLORREF> ProgramIcon(int size) {
+    const HMODULE program =
+        LoadLibraryExW(Wide(KorvaleProgram()).c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
+    const HANDLE icon =
+        LoadImageW(program, MAKEINTRESOURCEW(1), IMAGE_ICON, size, size, LR_DEFAULTCOLOR);
+    BITMAPINFO info{};
+    info.bmiHeader = {sizeof(BITMAPINFOHEADER), size, -size, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    void* bits = nullptr;
+    const HDC dc = CreateCompatibleDC(nullptr);
+    const HBITMAP bitmap = CreateDIBSection(dc, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+    const HGDIOBJ before = SelectObject(dc, bitmap);
+    const RECT all{0, 0, size, size};
+    FillRect(dc, &all, GetSysColorBrush(COLOR_BTNFACE));
+    DrawIconEx(dc, 0, 0, static_cast<HICON>(icon), size, size, 0, nullptr, DI_NORMAL);
+    const auto* const pixels = static_cast<const COLORREF*>(bits);
+    const std::vector<COLORREF> picture(pixels, pixels + static_cast<size_t>(size) * size);
+    SelectObject(dc, before);
+    DeleteObject(bitmap);
+    DeleteDC(dc);
+    DestroyIcon(static_cast<HICON>(icon));
+    FreeLibrary(program);
+    return picture;
   }
 
   size_t CountOfBoxes() {
@@ -42,6 +76,18 @@ TEST_F(About, NamesTheProductItsVersionAndItsLegalNotice) {
   EXPECT_EQ(lines[1], "Moves you between open windows with hot keys");
   EXPECT_EQ(lines[2], "Copyright (C) 2026 the Korvale developers");
   EXPECT_TRUE(lines[3].ends_with("index.html")) << lines[3];
+}
+
+TEST_F(About, ShowsTheIconOfTheProgramBesideTheTexts) {
+  Start();
+  const Window about = OpenAbout();
+  std::vector<Window> pictures = about.Controls("Static");
+  std::erase_if(pictures, [](Window label) { return (label.Style() & SS_TYPEMASK) != SS_ICON; });
+  ASSERT_EQ(pictures.size(), 1U);
+  const RECT place = PlaceOf(pictures.front());
+  EXPECT_EQ(place.right - place.left, 40);
+  EXPECT_EQ(place.bottom - place.top, 40);
+  EXPECT_TRUE(WaitFor([&] { return PictureOf(pictures.front()) == ProgramIcon(40); }));
 }
 
 TEST_F(About, ClosesByItsButtonAndByKeys) {

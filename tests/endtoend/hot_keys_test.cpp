@@ -37,6 +37,7 @@ class HotKeys : public KorvaleTest {
 };
 
 TEST_F(HotKeys, AreAllTakenWhileTheProgramRunsAndFreeAfterwards) {
+  ASSERT_EQ(AllHotKeys().size(), 15U);
   EXPECT_TRUE(AllFree());
   Start();
   for (const Chord chord : AllHotKeys()) EXPECT_FALSE(HotKeyIsFree(chord)) << chord.key;

@@ -101,6 +101,7 @@ TEST_F(LongNamed, RunsOnceWhateverPathItIsStartedBy) {
 
 TEST_F(LongNamed, HasTheSameSettingsWhateverPathItIsStartedBy) {
   long_.StoreTag(1, "Alpha", kClass);
+  ASSERT_EQ(paths_.All().size(), 4U);
   for (const OtherPath& path : paths_.All()) {
     SCOPED_TRACE(path.what + ": " + path.folder);
     korvale_.emplace(long_, path);

@@ -49,6 +49,16 @@ TEST_F(MainWindowMenu, StaysWhenTheCautionIsAnsweredByEnter) {
   EXPECT_TRUE(Stored("Menu", "True"));
 }
 
+TEST_F(MainWindowMenu, OpensNothingForAWebPageThatIsMissingAndGoesOn) {
+  Start();
+  for (const UINT page : {'H', 'P', 'R'}) {
+    ASSERT_TRUE(Choose('H', {page}));
+    EXPECT_TRUE(StaysInFront(main()));
+  }
+  ASSERT_TRUE(Choose('V', {'T'}));
+  EXPECT_TRUE(Stored("WindowInfo", "False"));
+}
+
 TEST_F(MainWindowMenu, HidesAfterTheCautionAndComesBackWithoutAQuestion) {
   Start();
   const int height = window().Height();

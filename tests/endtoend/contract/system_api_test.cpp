@@ -109,6 +109,18 @@ TEST(WindowsSystemApi, ReadsVariablesOfAnyLength) {
   EXPECT_EQ(system.GetEnvironmentVariableW("Korvale Ж"), "");
 }
 
+TEST(WindowsSystemApi, ADocumentThatCannotBeOpenedIsNoErrorAndOpensNothing) {
+  WindowsSystemApi system;
+  const std::string program = system.GetModuleFileNameA();
+  const HWND before = GetForegroundWindow();
+  for (const std::string& document : {program + ".none", program + ".none\\web\\help.html",
+                                      std::string("no-such-scheme:page"), std::string()}) {
+    EXPECT_NO_THROW(system.ShellExecuteA(0, "Open", document, SW_SHOWNORMAL)) << document;
+  }
+  EXPECT_NO_THROW(system.ShellExecuteA(0, "No such verb", program, SW_SHOWNORMAL));
+  EXPECT_EQ(GetForegroundWindow(), before);
+}
+
 TEST(WindowsSystemApi, KnowsAFolderByEveryPath) {
   WindowsSystemApi system;
   const std::string path = system.GetModuleFileNameA();

@@ -93,6 +93,17 @@ TEST_F(WindowsTextSizeTest, ToolTipsGrowWithTheText) {
   EXPECT_EQ(SendMessageW(tips, TTM_GETMAXTIPWIDTH, 0, 0), 600);
 }
 
+TEST_F(WindowsTextSizeTest, ToolTipsFollowTheDotsOfAnotherMonitor) {
+  ShowForm();
+  const HWND tips = ToolTipsUnderTheMouse();
+  ASSERT_EQ(SendMessageW(tips, TTM_GETMAXTIPWIDTH, 0, 0), 400);
+  ChangeUntold(150);
+  RECT same{};
+  GetWindowRect(Hwnd(), &same);
+  SendMessageW(Hwnd(), WM_DPICHANGED, MAKEWPARAM(96, 96), reinterpret_cast<LPARAM>(&same));
+  EXPECT_EQ(SendMessageW(tips, TTM_GETMAXTIPWIDTH, 0, 0), 600);
+}
+
 TEST_F(WindowsTextSizeTest, AFormThatTheUserSizesKeepsItsTwips) {
   strip_.Show();
   const TwipsRect place = strip_.Place();
