@@ -145,13 +145,15 @@ TEST_F(WindowReaders, ClassLongerThanTheBufferIsCutAtIt) {
 }
 
 TEST_F(WindowReaders, LongClassIsNeverCutThroughACharacter) {
-  for (const char* const character : {"é", "メ", "🦊"}) {
-    const std::string all = Repeated(character, 200);
-    const WindowHandle hwnd = desktop.Open("Alpha", {.className = all});
-    const std::string className = GetWindowClass(desktop, hwnd);
-    EXPECT_GT(className.size(), 250U);
-    EXPECT_TRUE(all.starts_with(className));
-    EXPECT_EQ(className.size() % std::string(character).size(), 0U);
+  for (const std::string character : {"é", "ऀ", "メ", "🦊"}) {
+    for (const std::size_t before : {0U, 1U, 2U, 3U}) {
+      const std::string all = std::string(before, 'x') + Repeated(character, 200);
+      const WindowHandle hwnd = desktop.Open("Alpha", {.className = all});
+      const std::string className = GetWindowClass(desktop, hwnd);
+      EXPECT_GT(className.size() + character.size(), 254U) << "nothing else is lost";
+      EXPECT_TRUE(all.starts_with(className));
+      EXPECT_EQ((className.size() - before) % character.size(), 0U) << character << before;
+    }
   }
 }
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <limits>
 #include <string>
 
 #include "platform/run_time_error.h"
@@ -71,6 +73,9 @@ TEST(FlagStringTest, RefusesPositionsBelowOne) {
   std::string flags = "1";
   EXPECT_THROW(FlagString(flags, 0, "GET", true, false), RunTimeError);
   EXPECT_THROW(FlagString(flags, -1, "SET", true, false), RunTimeError);
+  constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
+  EXPECT_THROW(FlagString(flags, kLeast, "GET", true, false), RunTimeError);
+  EXPECT_EQ(flags, "1");
 }
 
 }  // namespace
