@@ -54,7 +54,7 @@ class Program:
 
     def limit(self):
         """Seconds of the processor after which the tests hang."""
-        return int(10 + 4 * sum(self.seconds.values()))
+        return int(3 + 3 * sum(self.seconds.values()))
 
 
 class Base:

@@ -50,11 +50,22 @@ def equivalents():
     return names
 
 
+def keys(made, texts):
+    """The name of each mutant, and which one it is of those with this name in the file."""
+    seen, found = {}, {}
+    for mutant in made:
+        name = mutant.name(texts[mutant.path])
+        seen[name] = seen.get(name, 0) + 1
+        found[mutant] = (*name, seen[name])
+    return found
+
+
 class Session:
     """Takes mutants one after another until enough of them were tested."""
 
-    def __init__(self, drawn, texts, listed, count, log):
+    def __init__(self, drawn, keys_of, texts, listed, count, log):
         self.waiting, self.texts, self.listed, self.log = iter(drawn), texts, listed, log
+        self.keys = keys_of
         self.wanted, self.taken, self.lock = count, 0, threading.Lock()
 
     def take(self):
@@ -63,26 +74,25 @@ class Session:
                 mutant = next(self.waiting, None)
                 if mutant is None:
                     return None
-                name = mutant.name(self.texts[mutant.path])
-                if name in self.listed:
-                    self.log.add(name, "equivalent")
-                elif self.log.verdict(name) is None:
+                key = self.keys[mutant]
+                if key[:3] in self.listed:
+                    self.log.add(key, "equivalent")
+                elif self.log.verdict(key) is None:
                     self.taken += 1
                     return mutant
-                elif self.log.verdict(name) in ("killed", "lived"):
+                elif self.log.verdict(key) in ("killed", "lived"):
                     self.taken += 1
         return None
 
     def done(self, mutant, verdict, by):
         with self.lock:
-            text = self.texts[mutant.path]
-            self.log.add(mutant.name(text), verdict, by)
+            self.log.add(self.keys[mutant], verdict, by)
             if verdict in ("killed", "lived"):
                 self.report_progress()
             else:
                 self.taken -= 1
             if verdict == "lived":
-                show(mutant, text, "LIVED ")
+                show(mutant, self.texts[mutant.path], "LIVED ")
 
     def report_progress(self):
         tested = self.log.count("killed") + self.log.count("lived")
@@ -104,7 +114,7 @@ def show(mutant, text, verdict):
 
 def summary(log, names, listed):
     rows = {}
-    for (path, _, _), verdict in log.verdicts():
+    for (path, *_), verdict in log.verdicts():
         for row in (folder_of(path), "all"):
             rows.setdefault(row, {}).setdefault(verdict, 0)
             rows[row][verdict] += 1
@@ -137,7 +147,8 @@ def main():
     asked = options()
     texts = {path: read(path) for path in sources(asked.paths)}
     drawn = [mutant for path, text in texts.items() for mutant in mutants(path, text)]
-    names = {mutant.name(texts[mutant.path]) for mutant in drawn}
+    keys_of = keys(drawn, texts)
+    names = {key[:3] for key in keys_of.values()}
     listed = equivalents()
     if asked.count:
         random.Random(asked.seed).shuffle(drawn)
@@ -149,9 +160,9 @@ def main():
     base.prepare(asked.tests.split(",") if asked.tests else [])
     log = Log(asked.log, keep=asked.again or asked.resume, forget="lived" if asked.again else None)
     if asked.again:
-        drawn = [each for each in drawn if each.name(texts[each.path]) in log.forgotten]
+        drawn = [each for each in drawn if keys_of[each] in log.forgotten]
     count = asked.count if asked.count and not asked.again else len(drawn)
-    session = Session(drawn, texts, listed, count, log)
+    session = Session(drawn, keys_of, texts, listed, count, log)
     workers = [
         threading.Thread(target=session.work, args=(Runs(base, number),), daemon=True)
         for number in range(asked.jobs)

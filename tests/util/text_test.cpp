@@ -263,6 +263,7 @@ TEST(WithDirectionsEndedTest, EndsWhatIsLeftOpenAndNothingElse) {
             "\u202aa\u2067b\u202ec\u202c\u2069\u202c");
   EXPECT_EQ(WithDirectionsEnded("\u2068a\u202eb\u2069c"), "\u2068a\u202eb\u2069c");
   EXPECT_EQ(WithDirectionsEnded("\u202c\u2069\u202ea"), "\u202c\u2069\u202ea\u202c");
+  EXPECT_EQ(WithDirectionsEnded("\u2067a\u202cb"), "\u2067a\u202cb\u2069");
   EXPECT_EQ(WithDirectionsEnded("\u2066a\u2066b\u2069"), "\u2066a\u2066b\u2069\u2069");
   EXPECT_EQ(WithDirectionsEnded("\u2029 \u202f \u2065 \u206a"), "\u2029 \u202f \u2065 \u206a");
 }
