@@ -50,7 +50,9 @@ bool AddWindowDialog::Choose(size_t choice) const {
 bool AddWindowDialog::Leave(UINT key) const {
   if (!BringToFront(form_)) return false;
   Press({0, key});
-  return WaitFor([this] { return !form_.Exists() || !form_.Visible(); });
+  if (!WaitFor([this] { return !form_.Exists() || !form_.Visible(); })) return false;
+  LetProgramsFinish();
+  return true;
 }
 
 bool AddWindowDialog::Confirm() const { return Leave(VK_RETURN); }

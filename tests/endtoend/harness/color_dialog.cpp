@@ -49,7 +49,9 @@ bool ColorDialog::Choose(Rgb color) const {
 bool ColorDialog::Cancel() const {
   if (!BringToFront(window_)) return false;
   Press({0, VK_ESCAPE});
-  return WaitFor([this] { return !window_.Exists() || !window_.Visible(); });
+  if (!WaitFor([this] { return !window_.Exists() || !window_.Visible(); })) return false;
+  LetProgramsFinish();
+  return true;
 }
 
 }  // namespace korvale::endtoend

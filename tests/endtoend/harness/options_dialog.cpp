@@ -129,7 +129,9 @@ bool OptionsDialog::Cancel() const {
 }
 
 bool OptionsDialog::IsGone() const {
-  return WaitFor([this] { return !form_.Exists(); });
+  if (!WaitFor([this] { return !form_.Exists(); })) return false;
+  LetProgramsFinish();
+  return true;
 }
 
 bool IsChecked(Window box) { return box.Send(BM_GETCHECK) == BST_CHECKED; }

@@ -95,7 +95,9 @@ bool AnswerBox(Window box, int button) {
   const auto at_hand = [&] { return control.Visible() && control.Enabled(); };
   if (!WaitFor(at_hand) || !BringToFront(box)) return false;
   Click(control);
-  return WaitFor([&] { return !box.Exists() || !box.Visible(); });
+  if (!WaitFor([&] { return !box.Exists() || !box.Visible(); })) return false;
+  LetProgramsFinish();
+  return true;
 }
 
 }  // namespace korvale::endtoend

@@ -57,7 +57,8 @@ class RunningKorvale {
 /// The text of a message box or of the first label of a form.
 std::string LabelText(Window dialog);
 
-/// Presses the button with that identifier (IDOK, IDYES, IDNO) and waits until the box is gone.
+/// Presses the button with that identifier (IDOK, IDYES, IDNO) and waits until the box is gone
+/// and its program has gone on.
 bool AnswerBox(Window box, int button);
 
 }  // namespace korvale::endtoend

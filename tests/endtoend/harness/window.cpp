@@ -3,6 +3,7 @@
 #include <strings.h>
 
 #include <algorithm>
+#include <set>
 
 #include "tests/endtoend/harness/text.h"
 #include "tests/endtoend/harness/wait.h"
@@ -114,7 +115,16 @@ bool HasInput(Window window) {
   return in_front() && window.Responds() && in_front() && (!takes_focus || FocusOf(window));
 }
 
+void LetProgramsFinish() {
+  std::set<DWORD> threads;
+  for (const Window window : TopLevelWindows()) {
+    const DWORD thread = GetWindowThreadProcessId(window.handle(), nullptr);
+    if (window.Visible() && threads.insert(thread).second) window.Responds();
+  }
+}
+
 bool BringToFront(Window window) {
+  LetProgramsFinish();
   if (HasInput(window)) return true;
   EarnForeground();
   SetForegroundWindow(window.handle());

@@ -65,7 +65,12 @@ Window FocusOf(Window window);
 /// and has given it the focus, so keys reach it.
 bool HasInput(Window window);
 
-/// Brings the window to the front as a user would; true once it has the input.
+/// Waits until the programs on the screen have done what they were told before, and so bring no
+/// window forward any more. One that hangs is waited for for one second.
+void LetProgramsFinish();
+
+/// Brings the window to the front as a user would, who first lets the programs finish; true once it
+/// has the input.
 bool BringToFront(Window window);
 
 /// All top-level windows, topmost first.
