@@ -26,15 +26,15 @@ build() {
     { grep -vE '^\[[0-9]+/' "build/$preset.log" | tail -60; return 1; }
 }
 
-# count_tests WHAT...: sets good, bad and again to what count_tests.py prints for WHAT.
+# count_tests WHAT...: sets good, bad and names to what count_tests.py prints for WHAT.
 count_tests() {
   local said
   said=$(python3 script/lib/count_tests.py "$@") || said='0 1'
   # shellcheck disable=SC2034 # for the caller
-  read -r good bad again <<<"$said"
+  read -r good bad names <<<"$said"
 }
 
-# native_tests PRESET: all tests of this build, on all cores; sets good, bad and again. What ctest
+# native_tests PRESET: all tests of this build, on all cores; sets good, bad and names. What ctest
 # itself says of them is in the results.
 native_tests() {
   local build=build/$1
@@ -46,6 +46,6 @@ native_tests() {
 
 # show_failures LOG: the tests that did not pass, and what GoogleTest printed of them.
 show_failures() {
-  if [ -n "${again:-}" ]; then echo "failed: $again"; fi
+  if [ -n "${names:-}" ]; then echo "failed: $names"; fi
   grep -vE '^\[( +OK |-+|=+| RUN +|==+)' "$1" | tail -60
 }

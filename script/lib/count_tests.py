@@ -3,7 +3,7 @@
   count_tests.py ctest RESULTS.xml REPORTS     what ctest ran: test NAME left REPORTS/NAME.json
   count_tests.py program STATUS REPORT.json    one program that ended with this status
 
-Prints how many passed, how many failed, and the failed ones as a filter for another try.
+Prints how many passed, how many failed, and the names of the failed ones.
 A program writes its report when it comes to its end. Without one it crashed or hung, and that is
 one failed test; so is an end that no test accounts for (a sanitizer's finding), and a program
 without tests.

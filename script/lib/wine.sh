@@ -140,15 +140,22 @@ wine_pictures() {
   WINE_PHOTOGRAPHER=$!
 }
 
-wine_end() {
-  local status=$?
-  trap - EXIT
-  [ -z "${WINE_PHOTOGRAPHER:-}" ] || kill "$WINE_PHOTOGRAPHER" 2>/dev/null || true
+# Ends what still runs in the prefixes so far, and forgets those of suites.
+wine_end_suites() {
   local prefix
   for prefix in "${WINE_PREFIXES[@]}"; do
     WINEPREFIX=$prefix "$WINE_SERVER" -k 2>/dev/null || true
     WINEPREFIX=$prefix "$WINE_SERVER" -w 2>/dev/null || true
   done
+  WINE_PREFIXES=()
+  rm -rf "$WINE_WORK"/prefix-*
+}
+
+wine_end() {
+  local status=$?
+  trap - EXIT
+  [ -z "${WINE_PHOTOGRAPHER:-}" ] || kill "$WINE_PHOTOGRAPHER" 2>/dev/null || true
+  wine_end_suites
   [ -z "${WINE_POINTER:-}" ] || kill "$WINE_POINTER" 2>/dev/null || true
   [ -z "${WINE_XVFB:-}" ] || kill "$WINE_XVFB" 2>/dev/null || true
   rm -rf "$WINE_WORK"
