@@ -34,6 +34,18 @@ volatile int deepest = -1;
 
 std::atomic<bool> reporting = false;
 
+/// True once the loader has let a second thread begin: the one that reports is the first of them.
+std::atomic<bool> anotherBegan = false;
+
+void NTAPI OnThread(void* /*module*/, DWORD reason, void* /*reserved*/) {
+  if (reason != DLL_THREAD_ATTACH) return;
+  anotherBegan = true;
+  anotherBegan.notify_all();
+}
+
+// Among the callbacks of this section the loader calls those of the program for each thread.
+[[gnu::section(".CRT$XLC"), gnu::used]] PIMAGE_TLS_CALLBACK onThread = OnThread;
+
 void Access() { *nowhere = 1; }
 
 /// With `left` bytes of the stack left, says what Windows says when there are none.
@@ -56,7 +68,7 @@ void AccessInLoader() {
       reinterpret_cast<LONG(NTAPI*)(ULONG, ULONG*, ULONG_PTR*)>(reinterpret_cast<void (*)()>(
           GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "LdrLockLoaderLock")));
   // A thread cannot begin without the loader, and the one that reports has begun long before.
-  Sleep(300);
+  anotherBegan.wait(false);
   ULONG_PTR cookie = 0;
   if (lock(0, nullptr, &cookie) == 0) Access();
 }
