@@ -53,6 +53,23 @@ TEST(WindowsSystemApi, AppendsToAFile) {
   EXPECT_FALSE(system.AppendToFile(program + ".none\\Error.log", pieces));
 }
 
+TEST(WindowsSystemApi, APieceThatCannotBeWrittenStopsNoOtherAndTheFileIsClosed) {
+  WindowsSystemApi system;
+  const std::string path = system.GetModuleFileNameA() + ".pieces";
+  std::vector<std::string> pieces = {"a\r\n", std::string(1 << 20, 'b'), "c\r\n"};
+  // Windows cannot read what it is to write.
+  DWORD allowed = 0;
+  ASSERT_NE(VirtualProtect(pieces[1].data(), pieces[1].size(), PAGE_NOACCESS, &allowed), 0);
+  const bool complete = system.AppendToFile(path, pieces);
+  VirtualProtect(pieces[1].data(), pieces[1].size(), allowed, &allowed);
+  EXPECT_FALSE(complete);
+  EXPECT_EQ(std::filesystem::file_size(path), 6U);
+  const HANDLE alone = CreateFileA(path.c_str(), DELETE, 0, nullptr, OPEN_EXISTING,
+                                   FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+  EXPECT_NE(alone, INVALID_HANDLE_VALUE) << "another has it open";
+  CloseHandle(alone);
+}
+
 TEST(WindowsSystemApi, TellsWhatCouldBeAppendedToAndLeavesItAlone) {
   WindowsSystemApi system;
   const std::string program = system.GetModuleFileNameA();
