@@ -8,6 +8,7 @@
 #include "desktop/waiting_window.h"
 #include "desktop/window_visibility.h"
 #include "platform/run_time_error.h"
+#include "util/raised_flag.h"
 
 namespace korvale {
 namespace {
@@ -48,14 +49,17 @@ std::int16_t SuspendingMessageBoxes::ShowOutermost(const std::string& prompt, st
                                                    const std::string& title) {
   const Remembered before = Remember();
   std::int16_t button = 0;
-  try {
-    Suspend();
-    button = Show(prompt, buttons, title);
-  } catch (...) {
+  {
+    const RaisedFlag shown(suspension_->MessageBoxShown);
+    try {
+      Suspend();
+      button = Show(prompt, buttons, title);
+    } catch (...) {
+      Resume(before);
+      throw;
+    }
     Resume(before);
-    throw;
   }
-  Resume(before);
   GiveForegroundBack(before.foreground);
   return button;
 }
@@ -67,7 +71,6 @@ SuspendingMessageBoxes::Remembered SuspendingMessageBoxes::Remember() {
 }
 
 void SuspendingMessageBoxes::Suspend() {
-  suspension_->MessageBoxShown = true;
   TimerControl& timer = desktop_->mainWindow.tmrWindow();
   timer.SetEnabled(false);
   // A tag other than "ON" keeps udmTimersEnabled from restarting it while the box is shown.
@@ -76,7 +79,6 @@ void SuspendingMessageBoxes::Suspend() {
 }
 
 void SuspendingMessageBoxes::Resume(const Remembered& before) {
-  suspension_->MessageBoxShown = false;
   TimerControl& timer = desktop_->mainWindow.tmrWindow();
   timer.SetEnabled(before.timerEnabled);
   timer.SetTag(before.timerTag);

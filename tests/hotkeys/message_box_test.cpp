@@ -38,6 +38,33 @@ TEST_F(MessageBoxTest, SuspendsHotKeysTrackingAndMainWindowWhileTheBoxIsShown) {
   ExpectAllGivenBack();
 }
 
+TEST_F(MessageBoxTest, GivesTheTimerThenTheMainWindowAndAtLastTheHotKeysBack) {
+  bool seen = false;
+  mainWindow.onCall = [&](const std::string& call) {
+    if (call != "SetMainEnabled(true)") return;
+    seen = true;
+    EXPECT_TRUE(mainWindow.timer.enabled);
+    EXPECT_EQ(mainWindow.timer.tag, "ON");
+    EXPECT_TRUE(suspension.MessageBoxShown);
+    EXPECT_EQ(suspension.MessageBoxDepth, 1);
+  };
+
+  ShowBox();
+
+  EXPECT_TRUE(seen);
+  ExpectAllGivenBack();
+}
+
+TEST_F(MessageBoxTest, LetsTheHotKeysWorkAgainWhenTheMainWindowCannotBeGivenBack) {
+  mainWindow.onCall = [](const std::string& call) {
+    if (call == "SetMainEnabled(true)") throw std::runtime_error("window gone");
+  };
+
+  EXPECT_THROW(ShowBox(), std::runtime_error);
+
+  ExpectAllGivenBack();
+}
+
 TEST_F(MessageBoxTest, KeepsTheTrackingTimerStoppedWhenTheTimersAreStartedMeanwhile) {
   ShowBoxWhile([this] {
     mainWindow.udmTimersEnabled(true);
