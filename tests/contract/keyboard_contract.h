@@ -4,6 +4,10 @@
 
 namespace korvale {
 
+/// Keys that the program leaves to the controls.
+inline constexpr int kPageUp = 0x21;
+inline constexpr int kPageDown = 0x22;
+
 TEST_F(ShownFormContract, TheFirstTabStopHasTheFocusAtFirst) { EXPECT_EQ(Focus(), "txtName"); }
 
 TEST_F(FormHostContract, AFocusChosenWhileLoadingHolds) {
@@ -213,6 +217,17 @@ TEST_F(ShownFormContract, ArrowsAndLettersChooseInADropDownList) {
   Type("l");
   EXPECT_EQ(Text("cboSize"), "Large");
   EXPECT_EQ(form_.Find("cboSize").ListIndex(), 2);
+}
+
+TEST_F(ShownFormContract, PagingHomeAndEndChooseInADropDownList) {
+  FocusOn("cboSize");
+  std::vector<std::string> chosen;
+  for (const int key : {kPageDown, kPageUp, win32::kVkEnd, win32::kVkHome}) {
+    Press(key);
+    chosen.push_back(Text("cboSize"));
+  }
+  EXPECT_EQ(chosen, (Lines{"Large", "Small", "Large", "Small"}));
+  EXPECT_FALSE(User().IsListOpen(Window(), Id("cboSize")));
 }
 
 TEST_F(ShownFormContract, EscClosesAnOpenListAndNotTheForm) {

@@ -27,7 +27,10 @@ bool IsCharacterToo(int virtualKey, unsigned shift) {
           virtualKey == win32::kVkTab);
 }
 
-/// The entry that an arrow, Home or End key leads to; -1 = the key does not move.
+/// How far Page Up and Page Down move: a list shows thirty entries, of which one stays in sight.
+constexpr int kPage = 29;
+
+/// The entry that an arrow, paging, Home or End key leads to; -1 = the key does not move.
 int MoveInList(int from, int count, int virtualKey) {
   if (count == 0) return -1;
   switch (virtualKey) {
@@ -37,6 +40,10 @@ int MoveInList(int from, int count, int virtualKey) {
     case win32::kVkUp:
     case win32::kVkLeft:
       return std::max(from - 1, 0);
+    case fakes::kVkPageDown:
+      return std::min(from + kPage, count - 1);
+    case fakes::kVkPageUp:
+      return std::max(from - kPage, 0);
     case win32::kVkHome:
       return 0;
     case win32::kVkEnd:

@@ -18,6 +18,7 @@ class KeyListTest : public OptionsTest {
   void Hold(int key, int repeats = 0) { user_.HoldKey(dialog_.Handle(), key, repeats); }
   void Release(int key) { user_.ReleaseKey(dialog_.Handle(), key); }
   bool IsOpen() { return user_.IsListOpen(dialog_.Handle(), Id(dialog_, "cboHotKeyAction", 0)); }
+  bool HasBorder() { return Border("lblAction", 0); }
   std::string Chosen(const char* list = "cboHotKeyAction", int index = 0) {
     return Text(dialog_, list, index);
   }
@@ -63,6 +64,15 @@ TEST_F(KeyListTest, AHeldKeyIsOnePress) {
   EXPECT_EQ(Chosen(), "Q");
   Release('Q');
   EXPECT_EQ(Chosen(), "Q");
+}
+
+TEST_F(KeyListTest, AKeyThatIsReleasedTogetherWithShiftCtrlOrAltChoosesNothing) {
+  const int list = Id(dialog_, "cboHotKeyAction", 0);
+  for (const unsigned shift : {kShift, kCtrl, kAlt}) {
+    Hold('K');
+    EXPECT_FALSE(dialog_.OnKeyUp(list, 'K', shift));
+    EXPECT_EQ(Chosen(), "DownArrow");
+  }
 }
 
 TEST_F(KeyListTest, OfTwoKeysTheLaterCounts) {
@@ -125,6 +135,24 @@ TEST_F(KeyListTest, ArrowsAreEntriesOfAClosedListAndMoveInAnOpenOne) {
   EXPECT_EQ(Chosen(), "Y");
   EXPECT_FALSE(IsOpen());
   EXPECT_TRUE(dialog_.IsLoaded());
+}
+
+TEST_F(KeyListTest, KeysThatStandForNoEntryMoveInTheClosedListAsInAnyOther) {
+  Press(dialog_, win32::kVkHome);
+  EXPECT_EQ(Chosen(), " ");
+  EXPECT_FALSE(HasBorder()) << "the label follows";
+  Press(dialog_, win32::kVkRight);
+  EXPECT_EQ(Chosen(), "F1");
+  EXPECT_TRUE(HasBorder());
+  Press(dialog_, win32::kVkEnd);
+  EXPECT_EQ(Chosen(), "UpArrow");
+  Press(dialog_, win32::kVkLeft);
+  EXPECT_EQ(Chosen(), "DownArrow");
+  Press(dialog_, fakes::kVkPageUp);
+  EXPECT_EQ(Chosen(), "Numpad 9") << "twenty-nine entries further up";
+  Press(dialog_, fakes::kVkPageDown);
+  EXPECT_EQ(Chosen(), "DownArrow");
+  EXPECT_FALSE(IsOpen());
 }
 
 TEST_F(KeyListTest, AltAndDownOpensItWhicheverIsReleasedFirst) {
