@@ -127,6 +127,14 @@ TEST_F(AddWindowTest, StoresTheTitleThatTheUserEdited) {
   EXPECT_EQ(Entry(1).caption, "&1  Report");
 }
 
+TEST_F(AddWindowTest, StoresTheTitleThatStandsInTheBoxHoweverItCameThere) {
+  OpenDialogFor("Report of Monday");
+  dialog_.Find("txtWindow").SetText("Report of");
+  EXPECT_EQ(Choice(0), "Report of Monday") << "nothing was typed";
+  Click(dialog_, "cmdOK");
+  EXPECT_EQ(Entry(1).caption, "&1  Report of");
+}
+
 TEST_F(AddWindowTest, StoresTheWindowForWhichItWasOpened) {
   const WindowHandle notes = OpenPrevious("Notes");
   OpenDialog();

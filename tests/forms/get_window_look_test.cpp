@@ -1,6 +1,8 @@
 #include <string>
+#include <tuple>
 #include <vector>
 
+#include "forms/get_window_design.h"
 #include "platform/win32_constants.h"
 #include "tests/forms/add_window_test.h"
 
@@ -150,6 +152,37 @@ TEST_F(AddNotesTest, LooksAsTheWindowMenuOpensIt) {
   for (const char* const name : {"lblChildWindow", "Line3", "chkChildWindow", "cboChildWindow"}) {
     EXPECT_FALSE(Shown(dialog_, name)) << name;
   }
+}
+
+/// A control with its index in an array and its caption.
+using DesignedControl = std::tuple<std::string, int, std::string>;
+
+TEST(AddWindowDesign, HasItsControlsInTheirOrderWithTheirCaptions) {
+  std::vector<DesignedControl> designed;
+  for (const ControlRow& row : GetWindowDesign().controls) {
+    designed.emplace_back(row.name, row.index, row.caption);
+  }
+  EXPECT_EQ(designed,
+            (std::vector<DesignedControl>{
+                {"txtWindowClass", -1, ""},
+                {"txtWindow", -1, ""},
+                {"cboChildWindow", -1, ""},
+                {"chkChildWindow", -1, "assign this Hot Key to a Child window of the Parent"},
+                {"cboWindow", -1, ""},
+                {"optWindow", 0, ""},
+                {"optWindow", 1, "*Left*"},
+                {"optWindow", 2, "*Right*"},
+                {"cmdOK", -1, "OK"},
+                {"cmdClose", -1, "Close"},
+                {"cmdRemove", -1, "&Remove"},
+                {"lblChildWindow", -1, "&Child Window"},
+                {"Line3", -1, ""},
+                {"lblWindow", -1, "*window caption here*"},
+                {"Line2", -1, ""},
+                {"Line1", -1, ""},
+                {"lblIdentifyWindow", -1, "Identify &Window  (Parent)"},
+                {"lblAssignHotKey", -1, "Assign a &Tag"},
+            }));
 }
 
 TEST_F(AddNotesTest, HasTheCaptionsOfItsButtonsAndLabels) {

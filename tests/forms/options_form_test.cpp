@@ -69,6 +69,23 @@ TEST_F(OptionsTest, ApplyRegistersNothingTwice) {
   EXPECT_EQ(keys_.Registered().size(), 15U);
 }
 
+TEST_F(OptionsTest, ShowsTheHourglassUntilTheHotKeysAreRegistered) {
+  table_.SetHotKeys("SET");
+  OpenDialog();
+  EXPECT_EQ(StepsOf("cmdApply"),
+            (std::vector<std::string>{"hourglass", "udmOptions UPDATE_OPTIONS", "SaveOrTell",
+                                      "UnregisterHotKey", "RegisterHotKey", "default pointer"}));
+}
+
+TEST_F(OptionsTest, ResetRegistersOnceTheDefaultsAreShown) {
+  table_.SetHotKeys("SET");
+  OpenDialog();
+  EXPECT_EQ(StepsOf("cmdReset"),
+            (std::vector<std::string>{"hourglass", "udmDeleteOptions", "udmLoadOptions",
+                                      "udmOptions LOAD_AND_OR_REFRESH", "UnregisterHotKey",
+                                      "RegisterHotKey", "default pointer"}));
+}
+
 TEST_F(OptionsTest, OkSavesAndCloses) {
   OpenDialog();
   Click(dialog_, "cmdOK");

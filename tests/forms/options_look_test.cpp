@@ -1,4 +1,5 @@
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "tests/forms/options_test.h"
@@ -23,6 +24,21 @@ TEST_F(OptionsLookTest, PaintsEachTagByItsCheckBoxWhateverTheModifier) {
     EXPECT_FALSE(Border("lblTagParent", tag)) << tag;
     EXPECT_EQ(Back("lblTagParent", 9), tag == 9 ? kButtonFaceColor : kDefault) << tag;
   }
+}
+
+TEST_F(OptionsLookTest, AStoredKeyThatIsNotInTheListIsPaintedAsEnabled) {
+  Record().intHotKeyAction[0] = '5';
+  Record().intHotKeyGeneral[2] = 0x0D;
+  OpenDialog();
+  for (const auto& [label, index] : {std::pair("lblAction", 0), std::pair("lblGeneral", 2)}) {
+    EXPECT_EQ(Back(label, index), kDefault) << label;
+    EXPECT_TRUE(Border(label, index)) << label;
+  }
+  Click(dialog_, "chkHotKeyParent", 4);
+  EXPECT_EQ(Back("lblAction", 0), kDefault) << "painted anew";
+  PickEntry("cboHotKeyAction", 0, 0);
+  EXPECT_EQ(Back("lblAction", 0), kButtonFaceColor);
+  EXPECT_FALSE(Border("lblAction", 0));
 }
 
 class OpenOptionsLookTest : public OptionsTest {
@@ -65,6 +81,18 @@ TEST_F(OpenOptionsLookTest, AClickOnTheLegendChoosesTheColour) {
   EXPECT_EQ(Back("lblTagParent", 0), 0x112233);
   Click(dialog_, "cmdApply");
   EXPECT_EQ(Record().colHotKeyEnabled, 0x112233);
+}
+
+TEST_F(OpenOptionsLookTest, ThePaletteOpensWhenTheButtonComesUpAndNotBefore) {
+  const int legend = Id(dialog_, "lblLegend", 1);
+  const auto palettesAfter = [&](MouseEvent event, MouseButton button) {
+    dialog_.OnMouse(legend, {event, button, kNoShift, 100, 100});
+    return owner_.palettes.size();
+  };
+  EXPECT_EQ(palettesAfter(MouseEvent::kMove, MouseButton::kNone), 0U);
+  EXPECT_EQ(palettesAfter(MouseEvent::kDown, MouseButton::kLeft), 0U);
+  EXPECT_EQ(palettesAfter(MouseEvent::kMove, MouseButton::kLeft), 0U);
+  EXPECT_EQ(palettesAfter(MouseEvent::kUp, MouseButton::kLeft), 1U);
 }
 
 TEST_F(OpenOptionsLookTest, KeepsTheColourWhenThePaletteIsCancelled) {

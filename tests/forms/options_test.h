@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -55,9 +56,14 @@ class FakeOptionsOwner : public OptionsDialogOwner {
   std::vector<Color> palettes;
   std::int16_t tab = 2;
   std::vector<std::string> log;
+  /// Gets every logged call too, for an order across fakes.
+  std::function<void(const std::string&)> onCall;
 
  private:
-  void Log(const std::string& call) { log.push_back(call); }
+  void Log(const std::string& call) {
+    log.push_back(call);
+    if (onCall) onCall(call);
+  }
 
   HotKeyTable* hotKeys_;
   OptionsHolder* options_;
@@ -85,6 +91,24 @@ class OptionsTest : public DialogTest {
   bool Border(std::string_view label, int index) { return Look(dialog_, label, index).border; }
   void ClickLegend(unsigned shift = kNoShift, MouseButton button = MouseButton::kLeft) {
     user_.ClickAt(dialog_.Handle(), Id(dialog_, "lblLegend", 1), 100, 100, shift, button);
+  }
+  /// What is asked of the main form, and of Windows about hot keys, while this button is clicked;
+  /// several hot keys in a row count once.
+  std::vector<std::string> StepsOf(std::string_view button) {
+    std::vector<std::string> steps;
+    const auto add = [&](const std::string& step) {
+      if (steps.empty() || steps.back() != step) steps.push_back(step);
+    };
+    owner_.onCall = add;
+    log_.BeforeEachCall([&](const std::string& call) {
+      for (const char* const step : {"UnregisterHotKey", "RegisterHotKey"}) {
+        if (call.starts_with(step)) add(step);
+      }
+    });
+    Click(dialog_, button);
+    log_.BeforeEachCall(nullptr);
+    owner_.onCall = nullptr;
+    return steps;
   }
   std::vector<int> PagesShown() {
     std::vector<int> pages;
