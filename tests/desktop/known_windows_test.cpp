@@ -53,7 +53,7 @@ TEST_F(KnownWindows, AWindowThatIsNotTheDialogOfADisabledOneStaysBehind) {
   desktop.SetEnabled(alpha, false);
   WindowTriple window = Triple(alpha);
   log.WhenCalled("IsWindowEnabled(Alpha)", [&] { GiveHandleOfAlphaAway(); });
-  EXPECT_NE(actions.ActivatePreviousWindow(window), kActivationDone);
+  EXPECT_EQ(actions.ActivatePreviousWindow(window), kActivationFailed);
   EXPECT_EQ(desktop.ForegroundTitle(), "Beta");
 }
 
