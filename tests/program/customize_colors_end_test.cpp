@@ -6,7 +6,8 @@
 namespace korvale {
 namespace {
 
-/// Customize Colors is on before each command, and must be off after it.
+/// Customize Colors is on before each command, and must be off after it; what has changed before
+/// the command must be stored after it.
 class CustomizeColorsEndTest : public CustomizeColorsTest {
  protected:
   using Path = std::vector<std::string>;
@@ -25,53 +26,55 @@ class CustomizeColorsEndTest : public CustomizeColorsTest {
     WorkIn(copy.Handle());
     return copy;
   }
-  void ExpectEndedBy(KorvaleCopy& copy, const Path& path) {
+  void ExpectEndedAndSavedBy(KorvaleCopy& copy, const Path& path) {
     WorkIn(copy.Handle());
     Toggle(copy);
     EXPECT_TRUE(IsOn(copy));
     EXPECT_EQ(copy.host.Pointer(), MousePointer::kCustom);
+    const Color color = ++copy.Startup().LastColorSelected;
     Choose(copy, path);
+    EXPECT_EQ(Stored("LastColorSelected"), std::to_string(color)) << path.back();
     EXPECT_FALSE(copy.Form().Menu("mnuViewCustomizeColors").checked) << path.back();
     EXPECT_EQ(copy.host.Pointer(), MousePointer::kDefault) << path.back();
   }
 };
 
-TEST_F(CustomizeColorsEndTest, CommandsOfTheViewMenuTurnItOff) {
+TEST_F(CustomizeColorsEndTest, CommandsOfTheViewMenuTurnItOffAndSave) {
   KorvaleCopy& korvale = StartedAmongWindows();
-  ExpectEndedBy(korvale, {"View", "Target Window"});
-  ExpectEndedBy(korvale, {"View", "Default Settings", "Target Window/Class Colors"});
-  ExpectEndedBy(korvale, {"View", "Options..."});
+  ExpectEndedAndSavedBy(korvale, {"View", "Target Window"});
+  ExpectEndedAndSavedBy(korvale, {"View", "Default Settings", "Target Window/Class Colors"});
+  ExpectEndedAndSavedBy(korvale, {"View", "Options..."});
   korvale.host.AnswerNext(win32::kIdCancel);
-  ExpectEndedBy(korvale, {"View", "Menu"});
+  ExpectEndedAndSavedBy(korvale, {"View", "Menu"});
   EXPECT_TRUE(MenuIsShown(korvale));
   korvale.host.AnswerNext(win32::kIdOk);
-  ExpectEndedBy(korvale, {"View", "Menu"});
+  ExpectEndedAndSavedBy(korvale, {"View", "Menu"});
   EXPECT_FALSE(MenuIsShown(korvale));
 }
 
-TEST_F(CustomizeColorsEndTest, CommandsOfTheToolsMenuTurnItOff) {
+TEST_F(CustomizeColorsEndTest, CommandsOfTheToolsMenuTurnItOffAndSave) {
   KorvaleCopy& korvale = StartedAmongWindows();
-  ExpectEndedBy(korvale, {"Tools", "Deactivate Hot Keys"});
-  ExpectEndedBy(korvale, {"Tools", "Activate Hot Keys"});
-  ExpectEndedBy(korvale, {"Tools", "Options..."});
+  ExpectEndedAndSavedBy(korvale, {"Tools", "Deactivate Hot Keys"});
+  ExpectEndedAndSavedBy(korvale, {"Tools", "Activate Hot Keys"});
+  ExpectEndedAndSavedBy(korvale, {"Tools", "Options..."});
 }
 
-TEST_F(CustomizeColorsEndTest, CommandsOfTheWindowMenuTurnItOff) {
+TEST_F(CustomizeColorsEndTest, CommandsOfTheWindowMenuTurnItOffAndSave) {
   KorvaleCopy& korvale = StartedAmongWindows();
-  ExpectEndedBy(korvale, {"Window", "Korvale  Always On Top"});
-  ExpectEndedBy(korvale, {"Window", "[Alpha]  Always On Top"});
-  ExpectEndedBy(korvale, {"Window", "0  Previous Window"});
-  ExpectEndedBy(korvale, {"Window", "1  Beta"});
-  ExpectEndedBy(korvale, {"Window", "Minimize All"});
-  ExpectEndedBy(korvale, {"Window", "Restore All"});
+  ExpectEndedAndSavedBy(korvale, {"Window", "Korvale  Always On Top"});
+  ExpectEndedAndSavedBy(korvale, {"Window", "[Alpha]  Always On Top"});
+  ExpectEndedAndSavedBy(korvale, {"Window", "0  Previous Window"});
+  ExpectEndedAndSavedBy(korvale, {"Window", "1  Beta"});
+  ExpectEndedAndSavedBy(korvale, {"Window", "Minimize All"});
+  ExpectEndedAndSavedBy(korvale, {"Window", "Restore All"});
   for (const char* const entry :
        {"Add  Korvale  to Window menu...", "Add  [Beta]  to Window menu..."}) {
     korvale.host.WhenModal("frmGetWindow", [](class Form& dialog) { dialog.Unload(); });
-    ExpectEndedBy(korvale, {"Window", entry});
+    ExpectEndedAndSavedBy(korvale, {"Window", entry});
   }
 }
 
-TEST_F(CustomizeColorsEndTest, EveryTagTurnsItOff) {
+TEST_F(CustomizeColorsEndTest, EveryTagTurnsItOffAndSaves) {
   Store("Tips", "0");
   for (int tag = 1; tag <= 9; ++tag) {
     const std::string number = std::to_string(tag);
@@ -80,17 +83,17 @@ TEST_F(CustomizeColorsEndTest, EveryTagTurnsItOff) {
   Open("Window");
   KorvaleCopy& korvale = StartedCopy();
   for (int tag = 1; tag <= 9; ++tag) {
-    ExpectEndedBy(korvale, {"Window", std::to_string(tag) + "  Window"});
+    ExpectEndedAndSavedBy(korvale, {"Window", std::to_string(tag) + "  Window"});
   }
 }
 
-TEST_F(CustomizeColorsEndTest, CommandsOfTheHelpMenuTurnItOff) {
+TEST_F(CustomizeColorsEndTest, CommandsOfTheHelpMenuTurnItOffAndSave) {
   KorvaleCopy& korvale = StartedAmongWindows();
-  ExpectEndedBy(korvale, {"Help", "web:  Help"});
-  ExpectEndedBy(korvale, {"Help", "web:  Korvale Home Page"});
-  ExpectEndedBy(korvale, {"Help", "web:  Readme"});
-  ExpectEndedBy(korvale, {"Help", "Display Tip Messages"});
-  ExpectEndedBy(korvale, {"Help", "About Korvale"});
+  ExpectEndedAndSavedBy(korvale, {"Help", "web:  Help"});
+  ExpectEndedAndSavedBy(korvale, {"Help", "web:  Korvale Home Page"});
+  ExpectEndedAndSavedBy(korvale, {"Help", "web:  Readme"});
+  ExpectEndedAndSavedBy(korvale, {"Help", "Display Tip Messages"});
+  ExpectEndedAndSavedBy(korvale, {"Help", "About Korvale"});
 }
 
 }  // namespace

@@ -266,6 +266,7 @@ const std::vector<EveryWayBackTest::Thing>& EveryWayBackTest::Things() {
 }
 
 TEST_P(EveryWayBackTest, IsTheWindowWorkedInBefore) {
+  ASSERT_EQ(Things().size(), 26U) << "each must come first once";
   TryAll({&Things().at(static_cast<std::size_t>(GetParam()))},
          Setting("KORVALE_DEPTH", kThingsInARow) - 1);
 }

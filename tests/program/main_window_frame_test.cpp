@@ -12,7 +12,12 @@ TEST_F(MainWindowFrameTest, UnderAHigherFrameItIsHigherAndNothingIsCut) {
   korvale.host.SetFrame({120, 480, 240, 600}, 390);
   EXPECT_TRUE(korvale.Start());
 
-  EXPECT_EQ(korvale.user.Place(korvale.Handle(), Field(korvale)).height, 285);
+  for (const char* const field : {"txtWindow", "txtWindowClass"}) {
+    const TwipsRect place = korvale.user.Place(korvale.Handle(), Field(korvale, field));
+    EXPECT_EQ(place.height, 285) << field;
+    EXPECT_LE(place.top + place.height, 285 + 115) << field;
+    EXPECT_LT(place.left + place.width, Place(korvale).width - 240) << field;
+  }
   EXPECT_EQ(Height(korvale), 600 + 390 + 285 + 115);
   Choose(korvale, {"View", "Target Window"});
   EXPECT_EQ(Height(korvale), 600 + 390);
@@ -47,7 +52,11 @@ TEST_F(MainWindowFrameTest, UnderALowerFrameTheFieldsKeepTheirHeight) {
   korvale.host.SetFrame({45, 300, 90, 345}, 285);
   EXPECT_TRUE(korvale.Start());
   EXPECT_EQ(Height(korvale), 1100);
+  for (const char* const field : {"txtWindow", "txtWindowClass"}) {
+    EXPECT_EQ(korvale.user.Place(korvale.Handle(), Field(korvale, field)).height, 285);
+  }
 }
+
 TEST_F(MainWindowFrameTest, AnotherDpiGivesItTheHeightOfTheOtherFrame) {
   KorvaleCopy& korvale = StartedCopy();
   korvale.host.SetFrame({90, 600, 180, 660}, 400);

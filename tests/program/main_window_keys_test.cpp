@@ -27,6 +27,19 @@ TEST_F(MainWindowKeysTest, AKeyClosesAboutAndNotesTheTime) {
   ExpectAboutClosedNow(korvale);
 }
 
+TEST_F(MainWindowKeysTest, AnyKeyClosesAboutWhateverElseItDoes) {
+  const std::pair<int, unsigned> keys[] = {
+      {win32::kVkF1, kNoShift}, {'V', kAlt}, {'X', kNoShift}, {win32::kVkReturn, kNoShift}};
+  KorvaleCopy& korvale = BehindAbout();
+  for (const auto& [key, shift] : keys) {
+    korvale.user.PressKey(korvale.Handle(), key, shift);
+    EXPECT_FALSE(AboutIsOpen(korvale)) << key;
+    korvale.host.EndMenu();
+    Choose(korvale, {"Help", "About Korvale"});
+    desktop.UserActivates(korvale.Handle());
+  }
+}
+
 TEST_F(MainWindowKeysTest, TheMouseOverTheWindowClosesAbout) {
   KorvaleCopy& korvale = BehindAbout();
   korvale.user.MoveMouse(korvale.Handle(), 0, 10, 10);
@@ -60,9 +73,11 @@ TEST_F(MainWindowKeysTest, F1OpensTheHiddenHelpMenuToo) {
 
 TEST_F(MainWindowKeysTest, F1WithAModifierOpensNothing) {
   KorvaleCopy& korvale = StartedCopy();
-  korvale.user.PressKey(korvale.Handle(), win32::kVkF1, kShift);
-  EXPECT_TRUE(log.CallsOf("SendInput").empty());
-  EXPECT_TRUE(korvale.user.OpenMenuItems().empty());
+  for (const unsigned shift : {unsigned{kShift}, unsigned{kCtrl}, unsigned{kAlt}, kShift | kCtrl}) {
+    korvale.user.PressKey(korvale.Handle(), win32::kVkF1, shift);
+    EXPECT_TRUE(log.CallsOf("SendInput").empty()) << shift;
+    EXPECT_TRUE(korvale.user.OpenMenuItems().empty()) << shift;
+  }
 }
 
 TEST_F(MainWindowKeysTest, AltAndLetterOpenTheHiddenMenus) {
@@ -119,6 +134,15 @@ TEST_F(MainWindowKeysTest, AltF4Exits) {
   EXPECT_TRUE(korvale.host.QuitPosted());
 }
 
+TEST_F(MainWindowKeysTest, F4WithoutAltDoesNotExit) {
+  KorvaleCopy& korvale = StartedCopy();
+  desktop.UserActivates(korvale.Handle());
+  for (const unsigned shift : {unsigned{kNoShift}, unsigned{kShift}, unsigned{kCtrl}}) {
+    korvale.user.PressKey(korvale.Handle(), win32::kVkF4, shift);
+    EXPECT_TRUE(korvale.Form().IsLoaded()) << shift;
+  }
+}
+
 TEST_F(MainWindowKeysTest, TurningTipsOffKeepsTheSilencedOnes) {
   Store("Tips", "0");
   KorvaleCopy& korvale = StartedCopy();
@@ -164,6 +188,16 @@ TEST_F(MainWindowKeysTest, WebPagesOpenFromTheFolderOfTheProgram) {
             (std::vector<std::string>{start + "help.html\", SW_SHOWNORMAL)",
                                       start + "index.html\", SW_SHOWNORMAL)",
                                       start + "readme.html\", SW_SHOWNORMAL)"}));
+}
+
+TEST_F(MainWindowKeysTest, AboutStaysAwayWhenTheSessionEndsBeforeIt) {
+  KorvaleCopy& korvale = StartedCopy();
+  Resize(korvale, 6000, 1100);
+  store.RefuseWrites(true);
+  korvale.EndSessionAtBox(win32::kIdOk);
+  Choose(korvale, {"Help", "About Korvale"});
+  EXPECT_FALSE(korvale.Form().IsLoaded());
+  EXPECT_FALSE(AboutIsOpen(korvale));
 }
 
 TEST_F(MainWindowKeysTest, AboutShowsTheHomePageAndOpensIt) {

@@ -134,6 +134,7 @@ TEST_F(MainWindowStateTest, AnUnreachablePlaceIsLeftForOneThatShowsTheWholeWindo
   for (const char* const state : {"0", "1", "2"}) {
     for (const char* const height : {"0", "1100", "9000"}) {
       Store("WindowState", state);
+      Store("Left", "-100000");
       Store("Top", "100000");
       Store("Height", height);
       KorvaleCopy& korvale = UnstartedCopy();
@@ -141,8 +142,11 @@ TEST_F(MainWindowStateTest, AnUnreachablePlaceIsLeftForOneThatShowsTheWholeWindo
       ASSERT_TRUE(korvale.Start());
       desktop.UserRestores(korvale.Handle());
       EXPECT_EQ(Height(korvale), 1100);
-      EXPECT_GE(Place(korvale).top, 0);
-      EXPECT_LE(Place(korvale).top + Place(korvale).height, 12000) << state << " " << height;
+      const TwipsRect place = Place(korvale);
+      EXPECT_GE(place.left, 0) << state << " " << height;
+      EXPECT_LE(place.left + place.width, 20000) << state << " " << height;
+      EXPECT_GE(place.top, 0) << state << " " << height;
+      EXPECT_LE(place.top + place.height, 12000) << state << " " << height;
       korvale.Exit();
       EndCopy(korvale);
     }

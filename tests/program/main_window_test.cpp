@@ -62,6 +62,15 @@ TEST_F(StartedMainWindow, AWidthOf2000TwipsIsRaisedTo2640) {
   EXPECT_EQ(Place(korvale).width, 2640);
 }
 
+TEST_F(StartedMainWindow, AWidthThatIsTooNarrowIsRaisedWhoeverHasSetIt) {
+  TwipsRect place = Place(korvale);
+  place.width = 2000;
+  korvale.Form().SetPlace(place);
+  korvale.Form().Form_Resize();
+  EXPECT_EQ(Place(korvale).width, 2640);
+  EXPECT_EQ(korvale.Startup().Width, 2640);
+}
+
 TEST_F(StartedMainWindow, TheFieldsShareTheWidthSideBySide) {
   const auto place = [&](const char* field) {
     return korvale.user.Place(korvale.Handle(), Field(korvale, field));
@@ -123,6 +132,13 @@ TEST_F(MainWindowTest, APlaceOnAFarMonitorIsStoredAndComesBack) {
   second.host.SetWorkArea({57600, 0, 115200, 60000});
   EXPECT_TRUE(second.Start());
   EXPECT_EQ(Place(second), (TwipsRect{60000, 33000, 90000, 1100}));
+}
+
+TEST_F(StartedMainWindow, APlaceBeyondAllScreensIsStoredAsTheFarthestThatIsReadAgain) {
+  korvale.user.Drag(korvale.Handle(), {600000, -600000, 4500, 1100});
+  korvale.Exit();
+  EXPECT_EQ(Stored("Left"), "491505");
+  EXPECT_EQ(Stored("Top"), "-491505");
 }
 
 TEST_F(StartedMainWindow, ThePlaceToWhichItWasDraggedIsKeptWhileItIsMaximized) {

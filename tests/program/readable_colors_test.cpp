@@ -84,6 +84,16 @@ TEST_F(ReadableColorsTest, LabelsOfHotKeysCanBeReadOnEveryLegendColor) {
     EXPECT_EQ(BackColorOf(korvale, options, label, 1), 0x400000) << label;
     EXPECT_EQ(TextColorOf(korvale, options, label, 1), kWhite) << label;
   }
+  for (const Color color : {0x000000, 0xFFFFFF, 0x808080, 0x0000FF, 0x00FF00, 0xFF0000, 0x80FFFF}) {
+    korvale.Options().colHotKeyEnabled = color;
+    korvale.Form().udmOptions("LOAD_AND_OR_REFRESH");
+    for (const char* const label : {"lblTagParent", "lblAction", "lblGeneral", "lblLegend"}) {
+      EXPECT_EQ(BackColorOf(korvale, options, label, 1), color) << label;
+      EXPECT_GE(ContrastRatio(TextColorOf(korvale, options, label, 1), color), 4.5) << label;
+    }
+  }
+  korvale.Options().colHotKeyEnabled = 0x400000;
+  korvale.Form().udmOptions("LOAD_AND_OR_REFRESH");
   EXPECT_EQ(TextColorOf(korvale, options, "lblLegend", 0), kButtonTextColor);
   korvale.host.ChangeHighContrast(true);
   EXPECT_EQ(BackColorOf(korvale, options, "lblTagParent", 1), kHighlightColor);
@@ -119,6 +129,12 @@ TEST_F(ReadableColorsTest, EveryTextCanBeReadWhenTheSchemeChangesBelowOpenWindow
   korvale.Loaded("frmOptions").Unload();
   Choose(korvale, {"Help", "About Korvale"});
   ExpectReadableInEveryScheme(korvale, korvale.Loaded("frmMsgBox2"));
+  ExpectReadableInEveryScheme(korvale, korvale.Form());
+  korvale.host.WhenModal("frmMsgTip", [&](class Form& tip) {
+    ExpectReadableInEveryScheme(korvale, tip);
+    tip.Unload();
+  });
+  Choose(korvale, {"View", "Customize Colors - C"});
 }
 
 }  // namespace

@@ -149,7 +149,7 @@ TEST_F(WindowMenuTest, TheMainWindowItselfCanBeTagged) {
   EXPECT_EQ(korvale.Record().current, before.current);
 }
 
-TEST_F(WindowMenuTest, EveryCommandIsStoredAtOnce) {
+TEST_F(WindowMenuTest, ATagIsStoredAtOnce) {
   const WindowHandle alpha = Open("Alpha");
   KorvaleCopy& korvale = StartedAfter(alpha);
   korvale.TagPrevious();
