@@ -1,5 +1,6 @@
 """Builds what a mutant changes, and runs the tests against it until one of them fails."""
 
+import atexit
 import json
 import os
 import re
@@ -152,9 +153,9 @@ class Runs:
     """One worker."""
 
     def __init__(self, base, number):
-        self.base, self.folder = base, f"{base.folder}/worker-{number}"
-        shutil.rmtree(self.folder, ignore_errors=True)
+        self.base, self.folder = base, f"{base.folder}/worker-{os.getpid()}-{number}"
         os.makedirs(self.folder)
+        atexit.register(shutil.rmtree, self.folder, ignore_errors=True)
         self.optimized = {}
 
     def test(self, mutant, text):
