@@ -73,9 +73,12 @@ TEST_F(WindowMenuActionsTest, AlwaysOnTopOfThePreviousWindowComesBackToTheMainWi
   EXPECT_EQ(log.CallsOf("SetWindowPos"),
             std::vector<std::string>{"SetWindowPos(Alpha, HWND_TOPMOST, 0, 0, 0, 0, 16403)"});
   EXPECT_EQ(Front(), "Korvale - Work");
+  const MenuItem& item = korvale.Form().Menu("mnuWindowPreviousWindowAlwaysOnTop");
+  EXPECT_TRUE(item.checked) << "not only when the menu opens";
   EXPECT_TRUE(korvale.WindowMenuItems()[1].checked);
   log.Clear();
   korvale.user.ChooseMenu(korvale.Handle(), {"Window", "[Alpha]  Always On Top"});
+  EXPECT_FALSE(item.checked);
   EXPECT_EQ(DesktopCalls(), (Calls{"SetForegroundWindow(Alpha)",
                                    "SetWindowPos(Alpha, HWND_NOTOPMOST, 0, 0, 0, 0, 16403)",
                                    "SetForegroundWindow(Korvale)"}));
