@@ -17,6 +17,13 @@ TEST_F(CloakedWindows, SearchesPassOverASuspendedWindow) {
   EXPECT_EQ(enumeration.FindByTitle("Mail"), mail);
 }
 
+TEST_F(CloakedWindows, SearchesFindTheLowestWindowAboveSuspendedOnes) {
+  desktop.SetSuspended(desktop.Open("Mail 2"), true);
+  const WindowHandle shown = desktop.Open("Mail 3");
+  desktop.Open("Mail 4");
+  EXPECT_EQ(enumeration.FindByTitle("Mail"), shown);
+}
+
 TEST_F(CloakedWindows, SearchesFindAWindowOfAnotherDesktop) {
   EXPECT_EQ(enumeration.FindByTitle("Alpha"), alpha);
   EXPECT_EQ(FindByTitleAndClass("Alpha", "Window"), alpha);
