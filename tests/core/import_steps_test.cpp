@@ -46,8 +46,9 @@ class ImportSteps : public InstallationTest {
 };
 
 Steps AllOf(const std::string& section, const Steps& keys) {
+  const std::string beginning = "SaveSetting(" + section + ", ";
   Steps steps;
-  for (const std::string& key : keys) steps.push_back("SaveSetting(" + section + ", " + key);
+  for (const std::string& key : keys) steps.push_back(beginning + key);
   return steps;
 }
 

@@ -195,7 +195,8 @@ bool ReadsAnother(const std::string& call) {
 }
 
 TEST_P(EveryCallTest, EndsAsSpecified) {
-  const auto& [operation, fate] = GetParam();
+  const DisturbedOperation& operation = std::get<0>(GetParam());
+  const Fate fate = std::get<1>(GetParam());
   constexpr std::size_t kNever = 100'000;
   std::vector<std::string> undisturbed;
   for (std::size_t at = kNever; at == kNever || at < undisturbed.size();
