@@ -25,6 +25,14 @@ class MainWindowBoxes : public KorvaleTest {
     return text;
   }
 
+  /// The box's place in the client area of the main window.
+  RECT AreaIn(Window box) {
+    RECT area{};
+    GetWindowRect(box.handle(), &area);
+    MapWindowPoints(nullptr, main().handle(), reinterpret_cast<POINT*>(&area), 2);
+    return area;
+  }
+
   /// The control before it in the order in which a screen reader goes.
   std::string NameOf(Window box) {
     const std::vector<Window> controls = main().Children();
@@ -61,6 +69,16 @@ TEST_F(MainWindowBoxes, ShareTheWidth) {
     window().Resize(width, window().Height());
     ASSERT_TRUE(WaitFor([&] { return window().Width() == width; }));
     EXPECT_TRUE(WaitFor([this] { return window().ShowsTextWhole(); })) << width;
+    const RECT title = AreaIn(window().TitleBox());
+    const RECT name = AreaIn(window().ClassBox());
+    RECT client{};
+    GetClientRect(main().handle(), &client);
+    // Three pixels around them, and the title has three fifths of what is left.
+    EXPECT_EQ(title.left, 3) << width;
+    EXPECT_NEAR(name.left - title.right, 3, 1) << width;
+    EXPECT_NEAR(client.right - name.right, 3, 1) << width;
+    EXPECT_NEAR(title.right - title.left, (client.right - 9) * 3 / 5, 1) << width;
+    EXPECT_LT(std::max(title.bottom, name.bottom), client.bottom) << width;
   }
 }
 
