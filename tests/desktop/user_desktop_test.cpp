@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "tests/desktop/desktop_case.h"
 
 namespace korvale {
@@ -15,9 +17,11 @@ class UserDesktop : public DesktopCase {
     log.Clear();
   }
 
+  void Bring() { BringToUsersDesktop(desktop, desktop, desktop, mainWindow.handle); }
+
   Calls BringOurs() {
     log.Clear();
-    BringToUsersDesktop(desktop, desktop, desktop, mainWindow.handle);
+    Bring();
     return log.Take();
   }
 
@@ -48,9 +52,11 @@ TEST_F(UserDesktop, AnyOtherWindowTellsItWhenTheOneInFrontDoesNot) {
   EXPECT_TRUE(OursIsHere());
 }
 
-TEST_F(UserDesktop, AHiddenWindowTellsNothing) {
+TEST_F(UserDesktop, AHiddenWindowIsNotAsked) {
   desktop.Hide(desktop.Open("Alpha"));
-  EXPECT_EQ(BringOurs(), shownAnew);
+  const Calls calls = CallsOf([this] { Bring(); });
+  EXPECT_EQ(std::ranges::count(calls, "GetWindowDesktopId(Main)"), 1);
+  EXPECT_EQ(std::ranges::count(calls, "GetWindowDesktopId(Alpha)"), 0);
 }
 
 TEST_F(UserDesktop, WithNobodyToTellItIsShownAnew) {
@@ -61,6 +67,14 @@ TEST_F(UserDesktop, WithNobodyToTellItIsShownAnew) {
 TEST_F(UserDesktop, WhatCannotBeMovedIsTriedOnceForEachDesktopAndThenShownAnew) {
   for (const char* const title : {"Alpha", "Beta", "Gamma"}) desktop.Open(title);
   desktop.LoseVirtualDesktopManager("MoveWindowToDesktop");
+  Calls expected = moved;
+  expected.insert(expected.end(), shownAnew.begin(), shownAnew.end());
+  EXPECT_EQ(BringOurs(), expected);
+}
+
+TEST_F(UserDesktop, TheManagerMayBeLostMeanwhile) {
+  for (const char* const title : {"Alpha", "Beta"}) desktop.Open(title);
+  log.WhenCalled("MoveWindowToDesktop", [this] { desktop.LoseVirtualDesktopManager(); });
   Calls expected = moved;
   expected.insert(expected.end(), shownAnew.begin(), shownAnew.end());
   EXPECT_EQ(BringOurs(), expected);
