@@ -72,6 +72,13 @@ TEST_F(UserDesktop, WhatCannotBeMovedIsTriedOnceForEachDesktopAndThenShownAnew) 
   EXPECT_EQ(BringOurs(), expected);
 }
 
+TEST_F(UserDesktop, AWindowOfTheDesktopThatTheUserIsLeavingTellsNothing) {
+  desktop.Open("Alpha");
+  desktop.Windows().AnimateSwitch(true);
+  desktop.UserSwitchesDesktop(3);
+  EXPECT_EQ(BringOurs(), shownAnew);
+}
+
 TEST_F(UserDesktop, TheManagerMayBeLostMeanwhile) {
   for (const char* const title : {"Alpha", "Beta"}) desktop.Open(title);
   log.WhenCalled("MoveWindowToDesktop", [this] { desktop.LoseVirtualDesktopManager(); });
