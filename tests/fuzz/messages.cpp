@@ -20,6 +20,9 @@ constexpr std::int32_t kButtonsMask = 0xF;
 
 constexpr std::uint32_t kMessages[] = {win32::kWmHotKey, win32::kWmPowerBroadcast,
                                        win32::kWmWtsSessionChange, win32::kWmNull};
+constexpr ForegroundLock kLocks[] = {ForegroundLock::kNone, ForegroundLock::kUntilInput,
+                                     ForegroundLock::kForGood};
+
 void CollectItems(const MenuItem& menu, std::vector<const MenuItem*>& items) {
   for (const auto& item : menu.items) {
     items.push_back(item.get());
@@ -186,7 +189,7 @@ class MessageStream : public KorvaleWorld {
   }
   void OtherPrograms() {
     std::erase_if(windows_, [&](WindowHandle hwnd) { return !desktop.IsWindow(hwnd); });
-    const int what = bytes_.Below(8);
+    const int what = bytes_.Below(10);
     if (windows_.empty() || (what == 0 && windows_.size() < kMostWindows)) {
       windows_.push_back(desktop.Open(AnyTitle(bytes_)));
       return;
@@ -207,6 +210,11 @@ class MessageStream : public KorvaleWorld {
         return desktop.UserRestores(hwnd);
       case 5:
         return desktop.LoseForeground();
+      case 6:
+        if (!own) desktop.SetEnabled(hwnd, bytes_.Flag());
+        return;
+      case 7:
+        return desktop.LockForeground(bytes_.Pick(kLocks));
       default:
         return desktop.UserActivates(hwnd);
     }

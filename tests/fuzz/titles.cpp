@@ -22,6 +22,17 @@ std::string TitleFrom(std::string_view input) {
   return title;
 }
 
+/// A class is read up to 254 bytes, of whole characters.
+void CheckClass(FakeDesktop& desktop, const std::string& className) {
+  const WindowHandle window = desktop.Open("", {.className = className, .activate = false});
+  const std::string read = GetWindowClass(desktop, window);
+  EXPECT_TRUE(className.starts_with(read));
+  EXPECT_LE(read.size(), 254U);
+  EXPECT_TRUE(read == className || read.size() > 250 || !IsWhole(className));
+  EXPECT_TRUE(IsWhole(read) || !IsWhole(className));
+  desktop.Close(window);
+}
+
 /// How many characters there are behind the last " - ", in 16 bits.
 void CheckPlaceOfSeparator(const std::string& title) {
   const std::size_t last = title.rfind(" - ");
@@ -37,6 +48,7 @@ class DesktopWithTitle : public DesktopCase {
  public:
   /// A window of this title, above the main window, is looked for by this text.
   void Check(const std::string& text, const std::string& title) {
+    CheckClass(desktop, LeftCharacters(title, 300));
     AddTag(3, text);
     const WindowHandle window = desktop.Open(title, {.className = "One"});
     EXPECT_EQ(GetWindowTitle(desktop, window), title);
