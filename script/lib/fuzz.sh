@@ -37,8 +37,10 @@ fuzz_finding() {
 fuzz_briefly() {
   local runs=20000
   case $1 in
+    flag_string) runs=5000 ;;
     titles) runs=1000 ;;
-    captions | messages | settings | start) runs=200 ;;
+    messages | settings | start) runs=200 ;;
+    captions) runs=100 ;;
   esac
   rm -rf "build/fuzz/brief/$1"
   run_fuzzer "$1" "build/fuzz/brief/$1" -seed=1 "-runs=$runs" ||
