@@ -21,6 +21,21 @@ class WorkedIn : private DesktopObserver {
   /// The user works in this window.
   void Work(WindowHandle hwnd) { times_[hwnd] = {++now_, now_}; }
 
+  /// The user may have been in `one` after they worked in `other` for certain.
+  bool MayBeLater(WindowHandle one, WindowHandle other) const {
+    const auto first = times_.find(one);
+    const auto second = times_.find(other);
+    return first != times_.end() &&
+           (second == times_.end() || first->second.perhaps > second->second.certain);
+  }
+
+  /// All windows that the user has been in.
+  std::vector<WindowHandle> All() const {
+    std::vector<WindowHandle> all;
+    for (const auto& entry : times_) all.push_back(entry.first);
+    return all;
+  }
+
   /// The windows worked in for certain after the last moment that this one was in front.
   std::vector<WindowHandle> LaterThan(WindowHandle hwnd) const {
     std::vector<WindowHandle> later;
