@@ -88,6 +88,10 @@ class SimulatedLife : public KorvaleWorld {
   void Wait(int milliseconds);
 
   // simulated_steps.cpp
+  static std::vector<SimulatedStep> StepsOfTheUser();
+  static std::vector<SimulatedStep> StepsOfPrograms();
+  static std::vector<SimulatedStep> StepsOfWindows();
+  static std::vector<SimulatedStep> AllSteps();
   template <std::string (SimulatedPrograms::*Act)()>
   void LetProgram();
 

@@ -1,6 +1,13 @@
 #include "tests/simulated/simulated_life.h"
 
 namespace korvale {
+namespace {
+
+constexpr const char* kNothing = "nothing of Korvale";
+constexpr const char* kFollowed = "once they have worked in it, Tag 0 leads back to it";
+constexpr const char* kLed = "the window of the Tag is in front, or a true reason is told";
+
+}  // namespace
 
 template <std::string (SimulatedPrograms::*Act)()>
 void SimulatedLife::LetProgram() {
@@ -10,14 +17,9 @@ void SimulatedLife::LetProgram() {
   if (!dice_.OneIn(3)) Wait(100);
 }
 
-const std::vector<SimulatedStep>& SimulatedSteps() {
+std::vector<SimulatedStep> SimulatedLife::StepsOfTheUser() {
   using Life = SimulatedLife;
-  using Programs = SimulatedPrograms;
-  constexpr const char* kNothing = "nothing of Korvale";
-  constexpr const char* kFollowed = "the strip names the window in front";
-  constexpr const char* kLed = "the window of the Tag is in front, or a true reason is told";
-  static const std::vector<SimulatedStep> steps = {
-      // The user and Korvale.
+  return {
       {"a Tag's key", 200, &Life::PressTagKey, kLed},
       {"a Tag's key, Windows is slow", 20, &Life::PressTagKeyInSlowWindows, kLed},
       {"a key held while Korvale is busy", 10, &Life::PressHeldKey,
@@ -42,8 +44,13 @@ const std::vector<SimulatedStep>& SimulatedSteps() {
       {"the same copy is started again", 2, &Life::StartSameCopy, "the first comes forward"},
       {"another copy runs for a while", 2, &Life::StartOtherCopy, "settings and keys as they were"},
       {"time passes", 150, &Life::PassTime, kFollowed, true},
+  };
+}
 
-      // Windows of other programs.
+std::vector<SimulatedStep> SimulatedLife::StepsOfPrograms() {
+  using Life = SimulatedLife;
+  using Programs = SimulatedPrograms;
+  return {
       {"a window opens", 120, &Life::LetProgram<&Programs::OpenWindow>, kFollowed, true},
       {"a handle is used again", 40, &Life::LetProgram<&Programs::ReuseHandle>,
        "no Tag leads to the wrong window", true},
@@ -74,8 +81,13 @@ const std::vector<SimulatedStep>& SimulatedSteps() {
        "Tag 0 passes it over", true},
       {"a program cloaks its window", 8, &Life::LetProgram<&Programs::CloakItself>,
        "Tag 0 passes it over", true},
+  };
+}
 
-      // Windows itself.
+std::vector<SimulatedStep> SimulatedLife::StepsOfWindows() {
+  using Life = SimulatedLife;
+  using Programs = SimulatedPrograms;
+  return {
       {"nothing is in front", 20, &Life::LetProgram<&Programs::LeaveNothingInFront>, kLed, true},
       {"the foreground is locked", 20, &Life::LetProgram<&Programs::LockForeground>,
        "the user is told", true},
@@ -99,6 +111,18 @@ const std::vector<SimulatedStep>& SimulatedSteps() {
       {"another theme", 4, &Life::ChangeColors, "the strip can be read"},
       {"no memory for a dialog", 2, &Life::RefuseOptionsDialog, "one message, Korvale goes on"},
   };
+}
+
+std::vector<SimulatedStep> SimulatedLife::AllSteps() {
+  std::vector<SimulatedStep> all = StepsOfTheUser();
+  for (const auto& steps : {StepsOfPrograms(), StepsOfWindows()}) {
+    all.insert(all.end(), steps.begin(), steps.end());
+  }
+  return all;
+}
+
+const std::vector<SimulatedStep>& SimulatedSteps() {
+  static const std::vector<SimulatedStep> steps = SimulatedLife::AllSteps();
   return steps;
 }
 
