@@ -1,6 +1,7 @@
 """Builds what a mutant changes, and runs the tests against it until one of them fails."""
 
 import atexit
+import hashlib
 import json
 import os
 import re
@@ -33,6 +34,10 @@ def must(command, cwd):
     return done.stdout
 
 
+def library_of(source):
+    return f"libkorvale_{os.path.basename(os.path.dirname(source))}.a"
+
+
 class Program:
     """A test program: how it is linked, and how long its tests take."""
 
@@ -46,7 +51,9 @@ class Program:
         self.seconds = {}
 
     def link(self, objects, out):
-        words = [*self.words[: self.first], *objects, *self.words[self.first :]]
+        """With these objects of sources in place of its libraries' own."""
+        own = [made for source, made in objects if library_of(source) in self.libraries]
+        words = [*self.words[: self.first], *own, *self.words[self.first :]]
         words[words.index("-o") + 1] = out
         return words
 
@@ -137,6 +144,11 @@ class Base:
         self.programs.sort(key=lambda each: sum(each.seconds.values()))
 
 
+def checksum(path):
+    with open(path, "rb") as file:
+        return hashlib.sha256(file.read()).hexdigest()
+
+
 def copy_changed(path, to):
     with open(path, "rb") as file:
         new = file.read()
@@ -181,7 +193,7 @@ class Runs:
             counts[killer] = counts.get(killer, 0) + 1
 
     def compile(self, path, text, optimization):
-        """Object files of all that is made from this text in place of the file's own."""
+        """All that is made from this text in place of the file's own: sources and their objects."""
         if path.endswith(".h"):
             place, users = f"{self.folder}/include/{path}", self.base.users.get(path, [])
         else:
@@ -193,7 +205,7 @@ class Runs:
         if not users:
             raise Failed
         return [
-            self.compile_one(user, place if user == path else None, optimization, number)
+            (user, self.compile_one(user, place if user == path else None, optimization, number))
             for number, user in enumerate(users)
         ]
 
@@ -213,9 +225,7 @@ class Runs:
         """Programs and tests in the order of their use: those that found the last mutants of this
         file, then the folder's own, the others, and what takes long."""
         folder = os.path.basename(os.path.dirname(path))
-        programs = [
-            each for each in self.base.programs if f"libkorvale_{folder}.a" in each.libraries
-        ]
+        programs = [each for each in self.base.programs if library_of(path) in each.libraries]
         programs.sort(key=lambda each: each.name != f"{folder}_tests")
         for program in programs:
             counts = self.base.killers.get((path, program.name), {})
@@ -248,7 +258,7 @@ class Runs:
 
     def machine_code(self, path, text):
         objects = self.compile(path, text, "-O2")
-        return [run(["sha256sum"], self.folder, stdin=open(each, "rb")).stdout for each in objects]
+        return [checksum(made) for _, made in objects]
 
     def original(self, path, text):
         if path not in self.optimized:
