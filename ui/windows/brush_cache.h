@@ -16,7 +16,7 @@ COLORREF ToColorRef(Color color);
 class BrushCache {
  public:
   HBRUSH Get(Color color);
-  /// The user has changed the system's colours.
+  /// Colours have changed.
   void Clear() { brushes_.clear(); }
 
  private:

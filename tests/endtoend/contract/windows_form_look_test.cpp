@@ -3,12 +3,34 @@
 // After windows.h, which it needs.
 #include <commctrl.h>
 
+#include <algorithm>
+#include <vector>
+
 #include "platform/windows/text.h"
 #include "tests/endtoend/contract/real_form.h"
+#include "tests/endtoend/harness/resources.h"
 #include "tests/endtoend/harness/system_color.h"
 
 namespace korvale {
 namespace {
+
+/// The windows of this thread that hear of other system colours while it exists.
+class ColorListener {
+ public:
+  ColorListener() { heard_.clear(); }
+  static bool HasHeard(HWND window) { return std::ranges::find(heard_, window) != heard_.end(); }
+
+ private:
+  static LRESULT CALLBACK Listen(int code, WPARAM wParam, LPARAM lParam) {
+    const auto* const sent = reinterpret_cast<const CWPSTRUCT*>(lParam);
+    if (sent->message == WM_SYSCOLORCHANGE) heard_.push_back(sent->hwnd);
+    return CallNextHookEx(nullptr, code, wParam, lParam);
+  }
+
+  static inline std::vector<HWND> heard_;
+  UniqueHandle<HHOOK> hook_{
+      SetWindowsHookExW(WH_CALLWNDPROC, Listen, nullptr, GetCurrentThreadId())};
+};
 
 /// What the controls of real windows look like on the screen.
 class WindowsFormLookTest : public RealForm {
@@ -61,6 +83,22 @@ TEST_F(WindowsFormLookTest, AnOpenFormTakesOnOtherSystemColorsAndKeepsTheUsersOw
   EXPECT_EQ(ColorOf(Control("lblClick")), GetSysColor(COLOR_BTNFACE));
 }
 
+TEST_F(WindowsFormLookTest, EveryControlIsToldOfOtherSystemColors) {
+  ShowForm();
+  const ColorListener listener;
+  const endtoend::SystemColor face(COLOR_BTNFACE, RGB(180, 190, 200));
+  User().LetPass(50);
+  int told = 0;
+  for (const ControlState& control : form_.State().controls) {
+    const HWND window = FindControl(Window(), control.id);
+    if (window == nullptr) continue;
+    EXPECT_TRUE(ColorListener::HasHeard(window)) << control.name;
+    ++told;
+  }
+  // All but the timer.
+  EXPECT_EQ(told, static_cast<int>(kContractControls.size()) - 1);
+}
+
 TEST_F(WindowsFormLookTest, AnOpenFormIsToldWhenHighContrastIsTurnedOnAndOff) {
   ShowForm();
   HIGHCONTRASTW before{};
@@ -78,6 +116,21 @@ TEST_F(WindowsFormLookTest, AnOpenFormIsToldWhenHighContrastIsTurnedOnAndOff) {
     EXPECT_EQ(Screen().HighContrast(), (flags & HCF_HIGHCONTRASTON) != 0);
     EXPECT_GT(form_.colorChanges, changes);
   }
+}
+
+TEST_F(WindowsFormLookTest, ColorsThatAreNoLongerShownLeaveNothingBehind) {
+  ShowForm();
+  class Control& label = form_.Find("lblClick");
+  label.SetText("");
+  const auto show = [&](Color color) {
+    label.SetBackColor(color);
+    EXPECT_EQ(ColorOf(Control("lblClick")), static_cast<COLORREF>(color));
+    return endtoend::GdiObjectsOf(GetCurrentProcessId());
+  };
+  show(0x9FFFFF);
+  const int before = show(0x9FFFFE);
+  for (Color color = 0x203040; color < 0x203050; ++color) show(color);
+  EXPECT_EQ(show(0x9FFFFF), before);
 }
 
 TEST_F(WindowsFormLookTest, ToolTipsAreMadeWhenTheMouseComes) {
