@@ -108,6 +108,13 @@ class UserHands {
                                                const std::vector<std::string>& path) = 0;
   virtual void ChooseMenu(WindowHandle hwnd, const std::vector<std::string>& path) = 0;
 
+  // The settings of the system. They return to what they were with the user.
+  /// Makes all text so many percent of its usual size.
+  virtual void ChangeTextSize(int percent) = 0;
+  /// Takes so many twips from the right of the work area, as a taskbar does; false when the system
+  /// does not let that be seen.
+  virtual bool NarrowWorkArea(Twips by) = 0;
+
   // What happens inside the host's own loops.
   /// Queues something to do the next time that a message loop of the host waits for the user, with
   /// all earlier actions done. One waiting loop takes one action at a time.

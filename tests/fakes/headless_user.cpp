@@ -248,6 +248,15 @@ void HeadlessUser::WhenPopupMenu(
   host_->WhenPopupMenu(std::move(choose));
 }
 
+void HeadlessUser::ChangeTextSize(int percent) { host_->ChangeTextSize(percent); }
+
+bool HeadlessUser::NarrowWorkArea(Twips by) {
+  TwipsRect area = host_->MonitorFromPoint();
+  area.width -= by;
+  host_->ChangeWorkArea(area);
+  return true;
+}
+
 void HeadlessUser::LetPass(std::uint32_t milliseconds) { clock_->Advance(milliseconds); }
 
 }  // namespace korvale

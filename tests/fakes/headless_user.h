@@ -63,6 +63,9 @@ class HeadlessUser : public UserHands {
   /// The entries of the menu that the keyboard has opened; empty when none is open.
   std::vector<ShownMenuItem> OpenMenuItems() const;
 
+  void ChangeTextSize(int percent) override;
+  bool NarrowWorkArea(Twips by) override;
+
   void WhenWaiting(std::function<void()> action) override;
   void WhenMessageBox(std::function<std::int16_t(const ShownMessage&)> answer) override;
   void WhenPopupMenu(std::function<std::string(const std::vector<ShownMenuItem>&)> choose) override;

@@ -8,6 +8,7 @@
 
 #include "tests/endtoend/contract/real_form.h"
 #include "tests/endtoend/harness/layout.h"
+#include "tests/endtoend/harness/resources.h"
 #include "tests/endtoend/harness/text_size.h"
 #include "ui/windows/units.h"
 
@@ -139,27 +140,6 @@ TEST_F(WindowsTextSizeTest, AFormWiderThanTheScreenIsNarrowedAndComesBack) {
   EXPECT_EQ(strip_.Place(), place);
 }
 
-TEST_F(WindowsTextSizeTest, FormsFollowTheWorkArea) {
-  strip_.Show();
-  const TwipsRect area = Screen().GetMonitorInfoW(strip_.Handle());
-  TwipsRect place = strip_.Place();
-  place.left = area.left + area.width - place.width;
-  strip_.SetPlace(place);
-  RECT before{};
-  SystemParametersInfoW(SPI_GETWORKAREA, 0, &before, 0);
-  RECT narrow = before;
-  narrow.right -= 100;
-  SystemParametersInfoW(SPI_SETWORKAREA, 0, &narrow, SPIF_SENDCHANGE);
-  Settle();
-  const bool known = Screen().GetMonitorInfoW(strip_.Handle()) != area;
-  const Twips left = strip_.Place().left;
-  SystemParametersInfoW(SPI_SETWORKAREA, 0, &before, SPIF_SENDCHANGE);
-  Settle();
-  if (!known) GTEST_SKIP() << "the monitors of the system keep their work areas";
-  EXPECT_EQ(left, place.left - 1500);
-  EXPECT_EQ(strip_.Place(), place);
-}
-
 TEST_F(WindowsTextSizeTest, EveryMessageThatMayTellOfItIsHeard) {
   ShowForm();
   for (const UINT message :
@@ -170,16 +150,6 @@ TEST_F(WindowsTextSizeTest, EveryMessageThatMayTellOfItIsHeard) {
     EXPECT_EQ(SizeOf(Control("txtName")).cx, 300) << message;
     Change(100);
   }
-}
-
-TEST_F(WindowsTextSizeTest, AnOpenListClosesAndItsFormIsTold) {
-  ShowForm();
-  int closed = 0;
-  form_.WhenClosedUp("cboSize", [&](int) { ++closed; });
-  User().OpenList(Window(), Id("cboSize"));
-  Change(150);
-  EXPECT_EQ(closed, 1);
-  EXPECT_FALSE(User().IsListOpen(Window(), Id("cboSize")));
 }
 
 TEST_F(WindowsTextSizeTest, ADialogTellsTheSizeThatItWillTakeOnAnotherMonitor) {
@@ -240,14 +210,14 @@ TEST_F(WindowsTextSizeTest, NothingIsLeftBehind) {
   ShowForm();
   Change(150);
   Change(100);
-  const DWORD before = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+  const int before = endtoend::GdiObjectsOf(GetCurrentProcessId());
   for (int times = 0; times < 10; ++times) {
     size_.Change(150);
     size_.Change(100);
     SendMessageW(Hwnd(), WM_SYSCOLORCHANGE, 0, 0);
   }
   Settle();
-  EXPECT_LE(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), before + 2);
+  EXPECT_LE(endtoend::GdiObjectsOf(GetCurrentProcessId()), before + 2);
 }
 
 TEST_F(WindowsTextSizeTest, MessagesThatTellOfNothingNewChangeNothing) {

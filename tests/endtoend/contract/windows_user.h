@@ -4,11 +4,14 @@
 
 #include <deque>
 #include <functional>
+#include <optional>
 
 #include "platform/message_loop.h"
 #include "platform/windows/handles.h"
 #include "tests/contract/user_hands.h"
 #include "tests/endtoend/contract/idle_watch.h"
+#include "tests/endtoend/harness/text_size.h"
+#include "tests/endtoend/harness/work_area.h"
 
 namespace korvale {
 
@@ -74,6 +77,9 @@ class WindowsUser final : public UserHands {
                                        const std::vector<std::string>& path) override;
   void ChooseMenu(WindowHandle hwnd, const std::vector<std::string>& path) override;
 
+  void ChangeTextSize(int percent) override;
+  bool NarrowWorkArea(Twips by) override;
+
   void WhenWaiting(std::function<void()> action) override;
   void WhenMessageBox(std::function<std::int16_t(const ShownMessage&)> answer) override;
   void WhenPopupMenu(std::function<std::string(const std::vector<ShownMenuItem>&)> choose) override;
@@ -101,6 +107,8 @@ class WindowsUser final : public UserHands {
   void WalkMenu(WindowHandle hwnd, const std::vector<std::string>& path, const MenuStep& last);
 
   WatchedMessageLoop* loop_;
+  std::optional<endtoend::TextSize> textSize_;
+  std::optional<endtoend::WorkArea> workArea_;
   std::deque<std::function<void()>> actions_;
   std::deque<std::function<std::int16_t(const ShownMessage&)>> answers_;
   std::deque<std::function<std::string(const std::vector<ShownMenuItem>&)>> choices_;

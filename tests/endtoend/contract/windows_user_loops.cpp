@@ -10,6 +10,7 @@
 #include "tests/endtoend/contract/menu_reader.h"
 #include "tests/endtoend/contract/windows_user.h"
 #include "tests/endtoend/harness/keyboard.h"
+#include "ui/windows/units.h"
 
 namespace korvale {
 namespace {
@@ -17,6 +18,8 @@ namespace {
 constexpr DWORD kQuietMilliseconds = 20;
 constexpr ULONGLONG kLongestMilliseconds = 5000;
 constexpr int kPatience = 200;
+/// How long the windows may take to hear of other settings.
+constexpr std::uint32_t kToldMilliseconds = 100;
 constexpr int kMessageText = 0xFFFF;
 
 template <typename Queue>
@@ -135,6 +138,29 @@ void WindowsUser::Settle() {
            MsgWaitForMultipleObjects(0, nullptr, FALSE, kQuietMilliseconds,
                                      QS_ALLINPUT & ~QS_TIMER) == WAIT_OBJECT_0);
   settlingIn_ = outer;
+}
+
+void WindowsUser::ChangeTextSize(int percent) {
+  if (textSize_) {
+    textSize_->Change(percent);
+  } else {
+    textSize_.emplace(percent);
+  }
+  LetPass(kToldMilliseconds);
+}
+
+bool WindowsUser::NarrowWorkArea(Twips by) {
+  const auto width = [] {
+    MONITORINFO info{};
+    info.cbSize = sizeof(info);
+    GetMonitorInfoW(MonitorFromPoint({}, MONITOR_DEFAULTTOPRIMARY), &info);
+    return info.rcWork.right - info.rcWork.left;
+  };
+  const LONG before = width();
+  if (!workArea_) workArea_.emplace();
+  endtoend::WorkArea::Narrow(ToPixels(by, GetDpiForSystem()));
+  LetPass(kToldMilliseconds);
+  return width() != before;
 }
 
 void WindowsUser::LetPass(std::uint32_t milliseconds) {
