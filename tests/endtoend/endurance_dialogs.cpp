@@ -1,0 +1,177 @@
+#include "tests/endtoend/endurance_test.h"
+#include "tests/endtoend/harness/color_dialog.h"
+#include "tests/endtoend/harness/main_window.h"
+#include "tests/endtoend/harness/system_color.h"
+#include "tests/endtoend/harness/text_size.h"
+
+namespace korvale::endtoend {
+namespace {
+
+/// A place without windows.
+constexpr POINT kAside{900, 800};
+
+/// In a box of the main window, where a click asks for its colour.
+constexpr POINT kInBox{20, 6};
+
+}  // namespace
+
+OptionsDialog EnduranceTest::OpenOptions() {
+  PressFor("the dialog", kOptionsKey, [this] { return korvale_->HasForm("frmOptions"); });
+  const OptionsDialog dialog(korvale_->Form("frmOptions"));
+  NeedInFront(dialog.form());
+  return dialog;
+}
+
+void EnduranceTest::WalkThroughOptions() {
+  using Page = OptionsDialog::Page;
+  const OptionsDialog dialog = OpenOptions();
+  for (const Page page : {Page::kGeneral, Page::kHotKeys, Page::kWindowIdentification}) {
+    NeedThat("the page comes", [&] { return dialog.GoTo(page); });
+  }
+  Leave(VK_ESCAPE, dialog.form());
+  NeedInFront(Tagged(tag_));
+}
+
+void EnduranceTest::ConfirmOptions() {
+  const OptionsDialog dialog = OpenOptions();
+  Leave(VK_RETURN, dialog.form());
+  NeedInFront(Tagged(tag_));
+}
+
+void EnduranceTest::ChooseInBar(UINT menu, UINT entry) {
+  // The entry under the mouse would be the chosen one.
+  MoveMouse(Window(GetDesktopWindow()), kAside);
+  Need(::testing::AssertionResult(BringToFront(main())));
+  NeedInFront(main());
+  PressFor("the menu", {MOD_ALT, menu}, [this] { return korvale_->HasMenu(); });
+  PressFor("the entry is chosen", {0, entry}, [this] { return !korvale_->HasMenu(); });
+}
+
+void EnduranceTest::LookAtAddWindow() {
+  ChooseInBar('W', 'W');
+  const AddWindowDialog dialog(korvale_->Form("frmGetWindow"));
+  NeedInFront(dialog.form());
+  Leave(VK_ESCAPE, dialog.form());
+  NeedInFront(main());
+  GoByTagKey();
+}
+
+void EnduranceTest::TagAndRemove() {
+  constexpr int kFreeTag = 9;
+  for (const bool adding : {true, false}) {
+    ChooseInBar('W', 'W');
+    const AddWindowDialog dialog(korvale_->Form("frmGetWindow"));
+    NeedInFront(dialog.form());
+    NeedThat("the Tag is selected", [&] { return dialog.SelectTag(kFreeTag); });
+    if (adding) {
+      Leave(VK_RETURN, dialog.form());
+    } else {
+      Click(dialog.RemoveButton());
+      NeedThat("the Tag goes", [&] { return !dialog.RemoveButton().Enabled(); });
+      Leave(VK_ESCAPE, dialog.form());
+    }
+    NeedInFront(main());
+  }
+  GoByTagKey();
+}
+
+void EnduranceTest::LookAtAbout() {
+  ChooseInBar('H', 'A');
+  NeedInFront(korvale_->Form("frmMsgBox2"));
+  Leave(VK_ESCAPE, korvale_->Form("frmMsgBox2"));
+  GoByTagKey();
+}
+
+void EnduranceTest::ReadTipAndChooseColor() {
+  ChooseInBar('V', 'C');
+  NeedInFront(korvale_->Form("frmMsgTip"));
+  Leave(VK_ESCAPE, korvale_->Form("frmMsgTip"));
+  NeedInFront(main());
+  const MainWindow window(main());
+  ClickAt(window.TitleBox(), kInBox);
+  const int shade = ++changes_ % 200;
+  NeedThat("OK", [&, dialog = ColorDialog(*korvale_)] {
+    return dialog.Choose({shade, 255 - shade, 100});
+  });
+  NeedInFront(main());
+  ClickAt(window.ClassBox(), kInBox);
+  NeedThat("Cancel", [dialog = ColorDialog(*korvale_)] { return dialog.Cancel(); });
+  ChooseInBar('V', 'C');
+  GoByTagKey();
+}
+
+void EnduranceTest::HideAndShowTheTarget() {
+  for (const bool shown : {false, true}) {
+    ChooseInBar('V', 'T');
+    NeedThat("boxes go and come", [&] { return MainWindow(main()).ShowsBoxes() == shown; });
+  }
+  GoByTagKey();
+}
+
+void EnduranceTest::HideAndShowTheMenu() {
+  for (const bool shown : {false, true}) {
+    ChooseInBar('V', 'M');
+    if (!shown) Need(::testing::AssertionResult(AnswerBox(korvale_->MessageBox(), IDOK)));
+    NeedThat("menus go and come", [&] { return MainWindow(main()).HasMenuBar() == shown; });
+  }
+  GoByTagKey();
+}
+
+void EnduranceTest::SwitchAlwaysOnTop() {
+  const Window window = Tagged(tag_);
+  for (const bool topmost : {true, false}) {
+    // Wine does not put the main window on top: it has a hidden owner.
+    ChooseInBar('W', 'O');
+    ChooseInBar('W', 'T');
+    NeedThat("it goes on top and comes down", [&] { return window.Topmost() == topmost; });
+    const auto before = [front = Foreground()] { return Foreground() == front; };
+    WaitFor([&] { return HoldsFor(before, std::chrono::milliseconds(150)); });
+  }
+  GoByTagKey();
+}
+
+void EnduranceTest::SizeTheMainWindow() {
+  const MainWindow window(main());
+  const int width = 300 + 40 * (++changes_ % 6);
+  window.Resize(width, window.Height());
+  NeedThat("it is sized", [&] { return window.Width() == width; });
+}
+
+void EnduranceTest::MinimizeTheMainWindow() {
+  for (const bool minimized : {true, false}) {
+    ShowWindow(main().handle(), minimized ? SW_MINIMIZE : SW_RESTORE);
+    NeedThat("it goes and comes", [&] { return main().Minimized() == minimized; });
+  }
+  NeedInFront(main());
+  GoByTagKey();
+}
+
+void EnduranceTest::ReadToolTip() {
+  Need(::testing::AssertionResult(BringToFront(main())));
+  NeedThat("the tool tip comes", [this] {
+    return korvale_->ShowsToolTip(MainWindow(main()).ClassBox(), " Class of Target Window ");
+  });
+  MoveMouse(Window(GetDesktopWindow()), kAside);
+  GoByTagKey();
+}
+
+void EnduranceTest::WorkInAnotherWindow() {
+  other_.SetTitle("Page " + std::to_string(++changes_));
+  Need(WorkIn(other_));
+  GoByTagKey();
+}
+
+void EnduranceTest::ChangeSystemColors() {
+  { const SystemColor color(COLOR_BTNFACE, RGB(180, ++changes_ % 200, 220)); }
+  NeedThat("it responds", [this] { return main().Responds(); });
+}
+
+void EnduranceTest::ChangeTextSize() {
+  {
+    const TextSize larger(++changes_ % 2 == 0 ? 125 : 175);
+    NeedThat("it responds", [this] { return main().Responds(); });
+  }
+  NeedThat("it responds", [this] { return main().Responds(); });
+}
+
+}  // namespace korvale::endtoend

@@ -1,0 +1,155 @@
+#include <stdexcept>
+
+#include "tests/endtoend/endurance_test.h"
+
+namespace korvale::endtoend {
+namespace {
+
+constexpr char kClass[] = "Test.Window";
+
+constexpr int kTags = 3;
+constexpr int kTagWithoutWindow = 4;
+
+std::string TitleOf(int tag) { return "Window " + std::to_string(tag); }
+
+bool IsActive(Window window) {
+  GUITHREADINFO info{};
+  info.cbSize = sizeof(info);
+  GetGUIThreadInfo(GetWindowThreadProcessId(window.handle(), nullptr), &info);
+  return info.hwndActive == window.handle();
+}
+
+}  // namespace
+
+void EnduranceTest::StartWithTags() {
+  for (int tag = 1; tag <= kTagWithoutWindow; ++tag) {
+    installation_.StoreTag(tag, TitleOf(tag), kClass);
+  }
+  Start();
+  other_ = Open("Page 0");
+  for (int tag = 1; tag <= kTags; ++tag) tagged_.push_back(OpenTagged(tag, SW_SHOWNORMAL));
+}
+
+int EnduranceTest::NextTag() { return tag_ = tag_ % kTags + 1; }
+
+Window EnduranceTest::OpenTagged(int tag, int show) {
+  return Open({.title = TitleOf(tag), .class_name = kClass, .show = show});
+}
+
+void EnduranceTest::Need(const ::testing::AssertionResult& held) {
+  if (!held) throw std::runtime_error(held.message());
+}
+
+void EnduranceTest::NeedThat(const char* what, const std::function<bool()>& condition) {
+  if (!WaitFor(condition)) throw std::runtime_error(std::string("not so: ") + what);
+}
+
+void EnduranceTest::PressFor(const char* what, Chord chord, const std::function<bool()>& outcome) {
+  constexpr std::chrono::milliseconds kLost{2000};
+  for (int attempt = 0; attempt < 5; ++attempt) {
+    Press(chord);
+    if (WaitFor(outcome, kLost)) return;
+    ++lost_;
+  }
+  throw std::runtime_error(std::string("the key does not come to this: ") + what);
+}
+
+void EnduranceTest::PressForWindow(Chord chord, Window window) {
+  PressFor("the window comes forward", chord, [&] { return Foreground() == window; });
+  NeedInFront(window);
+}
+
+void EnduranceTest::NeedInFront(Window window) {
+  Need(InFront(window));
+  // Wine can lose a key before its thread has the focus.
+  NeedThat("the window in front is active", [&] { return IsActive(window) && window.Responds(); });
+}
+
+void EnduranceTest::Leave(UINT key, Window form) {
+  PressFor("the form goes", {0, key}, [&] { return !form.Exists() || !form.Visible(); });
+}
+
+void EnduranceTest::GoByTagKey() {
+  const Window window = Tagged(NextTag());
+  PressForWindow(TagKey(tag_), window);
+}
+
+void EnduranceTest::GoByTagKeyToAReopenedWindow() {
+  GoByTagKey();
+  const int tag = NextTag();
+  NeedThat("the window closes", [&] { return Tagged(tag).Close(); });
+  tagged_.at(static_cast<size_t>(tag - 1)) = OpenTagged(tag, SW_SHOWNOACTIVATE);
+  PressForWindow(TagKey(tag), Tagged(tag));
+}
+
+void EnduranceTest::BeToldThatATagIsNotOpen() {
+  PressFor("a message", TagKey(kTagWithoutWindow), [this] { return korvale_->HasMessageBox(); });
+  const Window box = korvale_->MessageBox();
+  NeedInFront(box);
+  PressFor("the message goes", {0, VK_RETURN}, [&] { return !box.Exists(); });
+  NeedInFront(Tagged(tag_));
+}
+
+void EnduranceTest::GoToThePreviousWindow() {
+  const Window before = Tagged(tag_);
+  GoByTagKey();
+  PressForWindow(TagKey(0), before);
+  tag_ = (tag_ + 1) % kTags + 1;
+}
+
+void EnduranceTest::PopUp() {
+  PressFor("the menu pops up", kMenuKey, [this] { return korvale_->HasMenu(); });
+}
+
+void EnduranceTest::PopUpAndEscape() {
+  PopUp();
+  PressFor("the menu goes", {0, VK_ESCAPE}, [this] { return !korvale_->HasMenu(); });
+  NeedInFront(Tagged(tag_));
+}
+
+void EnduranceTest::ChooseInPopUp(UINT entry) {
+  PopUp();
+  PressFor("the entry is chosen", {0, entry}, [this] { return !korvale_->HasMenu(); });
+}
+
+void EnduranceTest::PopUpAndChoose() {
+  const int tag = NextTag();
+  ChooseInPopUp(static_cast<UINT>('0' + tag));
+  NeedInFront(Tagged(tag));
+}
+
+void EnduranceTest::MaximizeAndRestore() {
+  const Window window = Tagged(tag_);
+  for (const bool maximized : {true, false}) {
+    PressFor("maximized or restored", kMaximizeKey,
+             [&] { return window.Maximized() == maximized; });
+  }
+}
+
+void EnduranceTest::MinimizeAndComeBack() {
+  const Window window = Tagged(tag_);
+  PressFor("minimized", kMinimizeKey, [&] { return window.Minimized(); });
+  NeedThat("another comes", [&] { return Foreground() && Foreground() != window; });
+  PressFor("restored", TagKey(tag_), [&] { return !window.Minimized(); });
+  NeedInFront(window);
+}
+
+void EnduranceTest::MinimizeAllAndRestoreAll() {
+  for (const UINT entry : {'M', 'R'}) {
+    ChooseInPopUp(entry);
+    for (const Window window : tagged_) {
+      NeedThat("all are minimized and restored",
+               [&] { return window.Minimized() == (entry == 'M'); });
+    }
+  }
+  GoByTagKey();
+}
+
+void EnduranceTest::ToggleHotKeys() {
+  for (int times = 0; times < 2; ++times) {
+    Press(kToggleKey);
+    NeedThat("the notice goes", [this] { return korvale_->Form("frmWaitWindow").Close(); });
+  }
+}
+
+}  // namespace korvale::endtoend

@@ -1,0 +1,137 @@
+#include "tests/endtoend/endurance_test.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <iostream>
+#include <map>
+#include <stdexcept>
+
+#include "tests/endtoend/harness/resources.h"
+
+namespace korvale::endtoend {
+namespace {
+
+/// What script/test runs, and what it begins to count with.
+constexpr int kShort = 600;
+constexpr int kShortBegin = 100;
+/// What script/endurance begins to count with, and how often it looks.
+constexpr int kLongBegin = 500;
+constexpr int kLongStep = 500;
+
+class Endurance : public EnduranceTest {
+ protected:
+  /// One thing that a user does, so many times in ten thousand.
+  struct Kind {
+    const char* name;
+    int share;
+    void (Endurance::*operation)();
+  };
+
+  static const std::vector<Kind>& Kinds();
+  static std::vector<const Kind*> Sequence(int length);
+
+  void Do(const std::vector<const Kind*>& sequence, size_t until);
+  Resources Measure();
+  void ExpectNoMoreThan(const Resources& before);
+  void PrintKinds() const;
+
+  size_t done_ = 0;
+  std::map<std::string, int> counts_;
+};
+
+const std::vector<Endurance::Kind>& Endurance::Kinds() {
+  static const std::vector<Kind> kinds = {
+      {"Tag key, window open", 2300, &Endurance::GoByTagKey},
+      {"Tag key, window reopened", 600, &Endurance::GoByTagKeyToAReopenedWindow},
+      {"Tag key, nothing to find", 400, &Endurance::BeToldThatATagIsNotOpen},
+      {"Tag 0", 1200, &Endurance::GoToThePreviousWindow},
+      {"pop-up closed by Esc", 600, &Endurance::PopUpAndEscape},
+      {"pop-up, Tag chosen", 600, &Endurance::PopUpAndChoose},
+      {"maximize key, twice", 300, &Endurance::MaximizeAndRestore},
+      {"minimize key and back", 300, &Endurance::MinimizeAndComeBack},
+      {"Minimize All, Restore All", 200, &Endurance::MinimizeAllAndRestoreAll},
+      {"hot keys off and on", 200, &Endurance::ToggleHotKeys},
+      {"Options, all tabs, Cancel", 300, &Endurance::WalkThroughOptions},
+      {"Options, OK", 300, &Endurance::ConfirmOptions},
+      {"Add Window, Cancel", 200, &Endurance::LookAtAddWindow},
+      {"Add Window, OK, Remove", 200, &Endurance::TagAndRemove},
+      {"About", 200, &Endurance::LookAtAbout},
+      {"tip and colour dialog", 200, &Endurance::ReadTipAndChooseColor},
+      {"Target Window off and on", 200, &Endurance::HideAndShowTheTarget},
+      {"menu bar off and on", 200, &Endurance::HideAndShowTheMenu},
+      {"Always On Top on and off", 200, &Endurance::SwitchAlwaysOnTop},
+      {"main window sized", 200, &Endurance::SizeTheMainWindow},
+      {"main window minimized", 200, &Endurance::MinimizeTheMainWindow},
+      {"tool tip", 200, &Endurance::ReadToolTip},
+      {"window without a Tag, new title", 500, &Endurance::WorkInAnotherWindow},
+      {"system colours changed", 200, &Endurance::ChangeSystemColors},
+      {"text size changed", 200, &Endurance::ChangeTextSize},
+  };
+  return kinds;
+}
+
+/// About so many operations, each kind spread evenly over them.
+std::vector<const Endurance::Kind*> Endurance::Sequence(int length) {
+  std::multimap<double, const Kind*> places;
+  for (const Kind& kind : Kinds()) {
+    const int times = std::max(1, kind.share * length / 10'000);
+    for (int time = 0; time < times; ++time) places.emplace((time + 0.5) / times, &kind);
+  }
+  std::vector<const Kind*> sequence;
+  for (const auto& [place, kind] : places) sequence.push_back(kind);
+  return sequence;
+}
+
+void Endurance::Do(const std::vector<const Kind*>& sequence, size_t until) {
+  for (; done_ < std::min(until, sequence.size()); ++done_) {
+    const Kind& kind = *sequence[done_];
+    try {
+      (this->*kind.operation)();
+    } catch (const std::runtime_error& error) {
+      throw std::runtime_error(std::to_string(done_) + ", " + kind.name + ": " + error.what());
+    }
+    ++counts_[kind.name];
+  }
+}
+
+Resources Endurance::Measure() {
+  // Every measurement finds a tagged window in front, and the program with nothing left to do.
+  GoByTagKey();
+  EXPECT_TRUE(HoldsFor([this] { return main().Responds(); }));
+  const Resources now = ResourcesOf(korvale_->process().id());
+  std::cout << done_ << " operations, " << lost_ << " keys lost: " << Describe(now) << std::endl;
+  return now;
+}
+
+void Endurance::ExpectNoMoreThan(const Resources& before) {
+  // The system's own caches come and go. A leak of the rarest operation comes to ten handles.
+  constexpr int kHandles = 6;
+  constexpr int kKilobytes = 4096;
+  const Resources now = Measure();
+  EXPECT_LE(now.userObjects, before.userObjects + kHandles);
+  EXPECT_LE(now.gdiObjects, before.gdiObjects + kHandles);
+  EXPECT_LE(now.kernelHandles, before.kernelHandles + kHandles);
+  EXPECT_LE(now.threads, before.threads);
+  EXPECT_LE(now.kilobytes, before.kilobytes + kKilobytes);
+}
+
+void Endurance::PrintKinds() const {
+  for (const auto& [name, count] : counts_) std::cout << count << " " << name << std::endl;
+}
+
+TEST_F(Endurance, OfEveryOperationLeavesWhatTheProgramHoldsAsItWas) {
+  const char* const wanted = std::getenv("KORVALE_OPERATIONS");
+  const int length = wanted == nullptr ? kShort : std::atoi(wanted);
+  const std::vector<const Kind*> sequence = Sequence(length);
+  StartWithTags();
+  Do(sequence, wanted == nullptr ? kShortBegin : kLongBegin);
+  const Resources before = Measure();
+  while (done_ < sequence.size()) {
+    Do(sequence, done_ + kLongStep);
+    ExpectNoMoreThan(before);
+  }
+  PrintKinds();
+}
+
+}  // namespace
+}  // namespace korvale::endtoend

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "tests/endtoend/harness/options_dialog.h"
+#include "tests/endtoend/korvale_test.h"
+
+namespace korvale::endtoend {
+
+/// A user who does the same things again and again. Each begins and ends with a tagged window in
+/// front and nothing else open, and throws std::runtime_error when it does not go as it should.
+class EnduranceTest : public KorvaleTest {
+ protected:
+  /// Starts Korvale with Tags 1 to 3 open and Tag 4 not.
+  void StartWithTags();
+
+  void GoByTagKey();
+  void GoByTagKeyToAReopenedWindow();
+  void BeToldThatATagIsNotOpen();
+  void GoToThePreviousWindow();
+  void PopUpAndEscape();
+  void PopUpAndChoose();
+  void MaximizeAndRestore();
+  void MinimizeAndComeBack();
+  void MinimizeAllAndRestoreAll();
+  void ToggleHotKeys();
+  void WalkThroughOptions();
+  void ConfirmOptions();
+  void LookAtAddWindow();
+  void TagAndRemove();
+  void LookAtAbout();
+  void ReadTipAndChooseColor();
+  void HideAndShowTheTarget();
+  void HideAndShowTheMenu();
+  void SwitchAlwaysOnTop();
+  void SizeTheMainWindow();
+  void MinimizeTheMainWindow();
+  void ReadToolTip();
+  void WorkInAnotherWindow();
+  void ChangeSystemColors();
+  void ChangeTextSize();
+
+  int lost_ = 0;
+  int tag_ = 0;
+
+ private:
+  /// The tagged window after the one of the last call.
+  int NextTag();
+  Window Tagged(int tag) const { return tagged_.at(static_cast<size_t>(tag - 1)); }
+  Window OpenTagged(int tag, int show);
+  static void Need(const ::testing::AssertionResult& held);
+  static void NeedThat(const char* what, const std::function<bool()>& condition);
+  /// Presses again when nothing comes of it: Wine can lose a key when a window has just got the
+  /// focus.
+  void PressFor(const char* what, Chord chord, const std::function<bool()>& outcome);
+  void PressForWindow(Chord chord, Window window);
+  void NeedInFront(Window window);
+  /// Leaves a dialog by a key.
+  void Leave(UINT key, Window form);
+  void PopUp();
+  void ChooseInPopUp(UINT entry);
+  /// From the main window's menu bar.
+  void ChooseInBar(UINT menu, UINT entry);
+  OptionsDialog OpenOptions();
+
+  std::vector<Window> tagged_;
+  Window other_;
+  int changes_ = 0;
+};
+
+}  // namespace korvale::endtoend
