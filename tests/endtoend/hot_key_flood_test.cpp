@@ -1,8 +1,10 @@
 #include <windows.h>
 
 #include <string>
+#include <vector>
 
 #include "tests/endtoend/harness/options_dialog.h"
+#include "tests/endtoend/harness/real_program.h"
 #include "tests/endtoend/korvale_test.h"
 
 namespace korvale::endtoend {
@@ -31,12 +33,14 @@ class HotKeyFlood : public KorvaleTest {
     }
   }
 
-  bool IsDragged() {
+  /// The user does that with a window of the same thread (GUI_INMOVESIZE, GUI_INMENUMODE).
+  static bool IsIn(DWORD mode, Window window) {
     GUITHREADINFO info{};
     info.cbSize = sizeof(info);
-    GetGUIThreadInfo(GetWindowThreadProcessId(main().handle(), nullptr), &info);
-    return (info.flags & GUI_INMOVESIZE) != 0;
+    GetGUIThreadInfo(GetWindowThreadProcessId(window.handle(), nullptr), &info);
+    return (info.flags & mode) != 0;
   }
+  bool IsDragged() { return IsIn(GUI_INMOVESIZE, main()); }
 
   void ExpectKeysToWork() {
     ASSERT_TRUE(WorkIn(Open("Gamma")));
@@ -105,6 +109,117 @@ TEST_F(HotKeyFlood, DuringAMoveOfTheMainWindowByTheKeyboardLeadsToTheWindow) {
   Press({0, VK_ESCAPE});
   EXPECT_TRUE(WaitFor([this] { return !IsDragged(); }));
   EXPECT_FALSE(korvale_->HasMessageBox());
+  ExpectKeysToWork();
+}
+
+class HotKeyElsewhere : public HotKeyFlood {
+ protected:
+  /// Works in a window of a program of its own: in such a loop it answers nobody.
+  Window StartInElsewhere() {
+    StartBesideAlpha();
+    const Window window = elsewhere_.Open("Elsewhere");
+    EXPECT_TRUE(WorkIn(window));
+    return window;
+  }
+
+  TestProgram elsewhere_;
+};
+
+TEST_F(HotKeyElsewhere, DuringADragOfAnotherProgramsWindowLetsItEnd) {
+  const Window window = StartInElsewhere();
+  RECT before{};
+  GetWindowRect(window.handle(), &before);
+  const POINT from{before.left + 60, before.top + 10};
+  bool dragged = false;
+  Drag(from, {from.x + 80, from.y + 60}, [&] {
+    if (dragged || !WaitFor([&] { return IsIn(GUI_INMOVESIZE, window); })) return;
+    dragged = true;
+    Press(TagKey(2));
+  });
+  EXPECT_TRUE(dragged);
+  EXPECT_TRUE(WaitFor([&] { return !IsIn(GUI_INMOVESIZE, window) && window.Responds(); }));
+  EXPECT_FALSE(korvale_->HasMessageBox());
+  ExpectKeysToWork();
+}
+
+TEST_F(HotKeyElsewhere, DuringAMoveOfAnotherProgramsWindowByTheKeyboardLeadsToTheWindow) {
+  const Window window = StartInElsewhere();
+  PostMessageW(window.handle(), WM_SYSCOMMAND, SC_MOVE, 0);
+  ASSERT_TRUE(WaitFor([&] { return IsIn(GUI_INMOVESIZE, window); }));
+  Press(TagKey(2));
+  EXPECT_TRUE(InFront(alpha_));
+  EXPECT_FALSE(korvale_->HasMessageBox());
+  ExpectKeysToWork();
+}
+
+TEST_F(HotKeyElsewhere, InAnotherProgramsMenuLeadsToTheWindow) {
+  StartBesideAlpha();
+  const RealProgram notepad = StartNotepad();
+  ASSERT_TRUE(WorkIn(notepad.window()));
+  Press({MOD_ALT, 'F'});
+  ASSERT_TRUE(WaitFor([&] { return IsIn(GUI_INMENUMODE, notepad.window()); }));
+  Press(TagKey(2));
+  EXPECT_TRUE(InFront(alpha_));
+  EXPECT_FALSE(korvale_->HasMessageBox());
+  ExpectKeysToWork();
+}
+
+class FloodOfThePopUpKey : public HotKeyFlood {
+ protected:
+  /// The hot keys are registered in the order of their table: ten Tags, minimize, maximize,
+  /// options, and the pop-up.
+  static constexpr WPARAM kPopUpId = 14;
+
+  void FloodPopUp(int presses) {
+    for (int i = 0; i < presses; ++i) {
+      PostMessageW(main().handle(), WM_HOTKEY, kPopUpId, MAKELPARAM(MOD_WIN, 'W'));
+    }
+  }
+
+  static size_t OpenMenus() {
+    std::vector<Window> menus = TopLevelWindows();
+    std::erase_if(
+        menus, [](Window window) { return window.ClassName() != "#32768" || !window.Visible(); });
+    return menus.size();
+  }
+
+  /// One menu is left at the end, and never were there two.
+  void ExpectOneMenuThatGoes(Window front) {
+    const auto rests = [this] {
+      return HoldsFor([this] { return OpenMenus() == 1 && main().Responds(); });
+    };
+    bool stacked = false;
+    EXPECT_TRUE(WaitFor([&] {
+      stacked = stacked || OpenMenus() > 1;
+      return OpenMenus() == 1 && rests();
+    }));
+    EXPECT_FALSE(stacked);
+    EXPECT_FALSE(korvale_->HasMessageBox());
+    Press({0, VK_ESCAPE});
+    EXPECT_TRUE(WaitFor([] { return OpenMenus() == 0; }));
+    EXPECT_TRUE(HoldsFor([] { return OpenMenus() == 0; }));
+    EXPECT_TRUE(InFront(front));
+  }
+};
+
+TEST_F(FloodOfThePopUpKey, LeavesOneMenuThatEscCloses) {
+  StartBesideAlpha();
+  const Window beta = Foreground();
+  SetCursorPos(700, 300);
+  FloodPopUp(200);
+  ExpectOneMenuThatGoes(beta);
+  ExpectKeysToWork();
+}
+
+TEST_F(FloodOfThePopUpKey, HeldDownLeavesOneMenuThatEscCloses) {
+  StartBesideAlpha();
+  const Window beta = Foreground();
+  SetCursorPos(700, 300);
+  {
+    const HeldKeys held({0, VK_LWIN});
+    for (int repeats = 0; repeats < 30; ++repeats) Press({0, 'W'});
+  }
+  ExpectOneMenuThatGoes(beta);
   ExpectKeysToWork();
 }
 
