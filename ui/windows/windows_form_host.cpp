@@ -81,7 +81,7 @@ void WindowsFormHost::DestroyWindow(WindowHandle hwnd) {
 void WindowsFormHost::UpdateControl(WindowHandle hwnd, int control, ControlProperty property) {
   const auto form = forms_->Find(hwnd);
   if (form == nullptr) return;
-  // The brush of a former color would stay for good.
+  // The brush of a former colour would stay for good.
   if (property == ControlProperty::kColors) brushes_.Clear();
   form->Controls().Update(control, property);
   if (property == ControlProperty::kText) form->Announce();
