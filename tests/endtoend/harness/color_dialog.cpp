@@ -32,9 +32,17 @@ Rgb ColorDialog::Shown() const {
 }
 
 bool ColorDialog::Enter(int field, int value) const {
-  Click(Field(window_, field));
+  const Window box = Field(window_, field);
+  const auto selects = [&](size_t length) {
+    return WaitFor([&] { return box.Send(EM_GETSEL) == MAKELONG(0, length); });
+  };
+  Click(box);
+  if (!WaitFor([&] { return FocusOf(window_) == box; })) return false;
+  // Each key waits for the one before: a Shift that comes early would select from the click.
   Press({0, VK_HOME});
+  if (!selects(0)) return false;
   Press({MOD_SHIFT, VK_END});
+  if (!selects(box.Text().size())) return false;
   Type(std::to_string(value));
   return WaitFor([&] { return Value(window_, field) == value; });
 }
