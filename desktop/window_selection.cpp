@@ -152,7 +152,7 @@ ActivationResult WindowSelection::ActivateOrSearch(int tag, WindowHandle inFront
   const std::optional<WindowHandles> fitting = enumeration_->RefreshTags(tag);
   result = Activate(tag);
   const MenuItem* const unresolved = Entry(tag);
-  if (IsTheWindow(result) || unresolved == nullptr) return result;
+  if (IsTheWindow(result) || windowSearch || unresolved == nullptr) return result;
   const WindowHandle found = fitting ? enumeration_->LastOnScreen(*fitting)
                                      : enumeration_->FindByTitle(IdentificationText(*unresolved));
   MenuItem* const entry = Entry(tag);

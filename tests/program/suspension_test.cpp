@@ -1,8 +1,10 @@
+#include <deque>
 #include <string>
 #include <vector>
 
 #include "platform/win32_constants.h"
 #include "tests/program/korvale_world.h"
+#include "ui/control.h"
 
 namespace korvale {
 namespace {
@@ -143,6 +145,51 @@ TEST_F(SuspensionTest, TheNoticeOutlastsTheWaitWindowThatCausedIt) {
   EXPECT_EQ(korvale.FindForm("frmWaitWindow"), nullptr);
   EXPECT_FALSE(korvale.HotKeys().HotKeysActive());
   EXPECT_EQ(Front(), "Beta");
+}
+
+/// Where timers of a test stand.
+class TimerOwner : public ControlOwner {
+ public:
+  explicit TimerOwner(FormHost& host) : host_(&host) {}
+
+  WindowHandle Handle() const override { return 0; }
+  FormHost& Host() const override { return *host_; }
+  void RaiseClick(Control& /*control*/) override {}
+  void UnchooseNeighbours(const Control& /*chosen*/) override {}
+  void StartOrStopTimer(const Control& /*timer*/) override {}
+  void FocusOn(int /*control*/) override {}
+  void KeepFocusReachable() override {}
+
+ private:
+  FormHost* host_;
+};
+
+TEST_F(SuspensionTest, OfSeveralTimersOnlyThoseAreRestartedThatAreMeantToRun) {
+  TimerOwner owner(korvale.host);
+  const std::string tags[] = {"ON", "OFF", "", "on", "ON "};
+  std::deque<ControlState> states;
+  std::deque<Control>& controls = korvale.Form().Controls();
+  const std::size_t own = controls.size();
+  for (const std::string& tag : tags) {
+    states.emplace_back().kind = ControlKind::kTimer;
+    controls.emplace_back(owner, states.back()).SetTag(tag);
+  }
+  const auto running = [&] {
+    std::vector<std::string> found;
+    for (const Control& control : controls) {
+      const bool timer = control.State().kind == ControlKind::kTimer;
+      if (timer && control.Enabled()) found.push_back(control.Tag());
+    }
+    return found;
+  };
+  korvale.Form().udmTimersEnabled(false);
+  EXPECT_EQ(running(), std::vector<std::string>{});
+  korvale.Form().udmTimersEnabled(true);
+  EXPECT_EQ(running(), (std::vector<std::string>{"ON", "ON"}));
+  korvale.Form().tmrWindow().SetTag("OFF");
+  korvale.Form().udmTimersEnabled(true);
+  EXPECT_EQ(running(), std::vector<std::string>{"ON"});
+  while (controls.size() > own) controls.pop_back();
 }
 
 TEST_F(SuspensionTest, TheSessionCanEndWhileATagTellsItsFailure) {

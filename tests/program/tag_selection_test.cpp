@@ -53,6 +53,15 @@ TEST_F(TagOfAlphaTest, TheWindowInFrontIsOnlyRestored) {
   EXPECT_EQ(korvale.Record().alternate, alternate);
 }
 
+TEST_F(TagOfAlphaTest, TheWindowInFrontIsThatOfItsTagWhateverItsTitleIsByNow) {
+  WorkIn(alpha);
+  desktop.Rename(alpha, "Another");
+  hotKeys.Press(win32::kModAlt, '1');
+  EXPECT_TRUE(korvale.host.Messages().empty());
+  EXPECT_EQ(Front(), "Another");
+  EXPECT_EQ(korvale.TargetWindow(), "Another") << "before the next tick";
+}
+
 TEST_F(TagOfAlphaTest, TheMessageOfAFailureIsShownOverAStripOfWindowsThatExist) {
   const WindowHandle gamma = Open("Gamma");
   WorkIn(gamma);
@@ -183,6 +192,39 @@ TEST_F(TagOfAlphaTest, WhileASearchIsForbiddenATagIsTriedOnlyOnce) {
   log.Clear();
   korvale.ChooseLate("mnuWindowParentList", 1);
   EXPECT_TRUE(log.CallsOf("EnumWindows").empty());
+}
+
+TEST_F(TagOfAlphaTest, ASearchThatIsForbiddenMeanwhileEndsBeforeTheTitleAlone) {
+  desktop.Close(alpha);
+  Open("Alpha", {.className = "New"});
+  WorkIn(Open("Gamma"));
+  ExpectMessage(korvale, "Window:  [Alpha]  is not open.", win32::kMbSetForeground);
+  log.WhenCalled("EnumWindows", [&] { korvale.Selection().windowSearch = true; });
+  PressTag(1);
+  EXPECT_EQ(korvale.host.Messages().size(), 1U);
+  EXPECT_EQ(Front(), "Gamma");
+  EXPECT_EQ(korvale.Tags().ParentWindowClass[0], "Window");
+
+  korvale.Selection().windowSearch = false;
+  ExpectTagLeadsTo(1, "Alpha");
+}
+
+TEST_F(TagOfAlphaTest, Tag0SaysNothingOfAWindowThatCannotBeSelected) {
+  const WindowHandle beta = desktop.FindWindowA("Beta");
+  WorkIn(alpha);
+  WorkIn(beta);
+  desktop.SetEnabled(alpha, false);
+  PressTag(0);
+  EXPECT_NE(Front(), "Alpha");
+
+  desktop.SetEnabled(alpha, true);
+  WorkIn(alpha);
+  WorkIn(beta);
+  log.WhenCalled("SetForegroundWindow(Alpha", [&] { desktop.Close(alpha); });
+  PressTag(0);
+  EXPECT_FALSE(desktop.IsWindow(alpha));
+  EXPECT_TRUE(korvale.host.Messages().empty());
+  EXPECT_TRUE(korvale.Form().tmrWindow().Enabled());
 }
 
 TEST_F(TagOfAlphaTest, TimersRestDuringASelection) {

@@ -16,6 +16,19 @@ TEST_F(WindowMenuTest, ShowsItsEntriesInTheirOrder) {
                                       "Add  [Alpha]  to Window menu..."}));
 }
 
+TEST_F(WindowMenuTest, HasItsCaptionsBeforeItIsOpened) {
+  frmMain& form = StartedCopy().Form();
+  EXPECT_EQ(form.Menu("mnuWindow").caption, "&Window");
+  EXPECT_EQ(form.Menu("mnuWindowAlwaysOnTop").caption, "Korvale  Always &On Top");
+  EXPECT_EQ(form.Menu("mnuWindowMinimizeAll").caption, "&Minimize All");
+  EXPECT_EQ(form.Menu("mnuWindowRestoreAll").caption, "&Restore All");
+  EXPECT_EQ(form.Menu("mnuWindowParentList", 0).caption, "&0  Previous Window");
+  EXPECT_EQ(form.Menu("mnuWindowAddToList", 1).caption, "Add  Korvale  to Window men&u...");
+  for (const auto& item : form.Menu("mnuWindow").items) {
+    EXPECT_EQ(item->caption.find('*'), std::string::npos) << item->name;
+  }
+}
+
 TEST_F(WindowMenuTest, HasTheAccessKeysOfItsCaptions) {
   KorvaleCopy& korvale = StartedAfter(Open("Alpha"));
   std::string keys;
