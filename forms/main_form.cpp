@@ -25,9 +25,8 @@ frmMain::frmMain(Platform& platform, FormCollection& forms, ProgramLifetime& lif
                                          parts_.desktop.tags, addWindowMode_}),
       optionsForm_(forms, *this),
       tips_(tipForm_, parts_.display, parts_.startup.DisplayTips, parts_.startup.Tips),
-      windowMenu_(
-          parts_.desktop, *this, parts_.startup.AlwaysOnTop, [this] { RefreshMenus("mnu"); },
-          [this](AddWindowMode mode) { ShowAddWindow(mode); }) {
+      windowMenu_(parts_.desktop, *this, parts_.startup.AlwaysOnTop,
+                  [this](AddWindowMode mode) { ShowAddWindow(mode); }) {
   BindMenus();
   BindWindowMenu();
   WhenClicked("tmrWindow", [this](int) { parts_.desktop.tracker.tmrWindow_Timer(); });

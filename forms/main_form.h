@@ -153,6 +153,8 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   void SaveOrTell(const std::function<void()>& save);
   void BindMenus();
   void BindWindowMenu();
+  /// Binds a command of the Window menu; afterwards the menus are refreshed, also when it fails.
+  void BindCommand(std::string_view name, Handler command);
   void ShowAddWindow(AddWindowMode mode);
   void ShowOptions(frmOptions& dialog);
   void OpenWebPage(WebPage page);

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <utility>
 
 #include "forms/main_form.h"
 #include "forms/main_form_design.h"
@@ -48,18 +49,28 @@ void frmMain::BindWindowMenu() {
     windowMenu_.mnuWindow_Click();
     FitMenuToScreen(platform_->screen, Handle(), Menu("mnuWindow"));
   });
-  WhenMenuClicked("mnuWindowAlwaysOnTop",
-                  [this](int) { windowMenu_.mnuWindowAlwaysOnTop_Click(); });
-  WhenMenuClicked("mnuWindowPreviousWindowAlwaysOnTop",
-                  [this](int) { windowMenu_.mnuWindowPreviousWindowAlwaysOnTop_Click(); });
-  WhenMenuClicked("mnuWindowMinimizeAll",
-                  [this](int) { windowMenu_.mnuWindowMinimizeAll_Click(); });
-  WhenMenuClicked("mnuWindowRestoreAll", [this](int) { windowMenu_.mnuWindowRestoreAll_Click(); });
-  WhenMenuClicked("mnuWindowParentList", [this](int index) {
+  BindCommand("mnuWindowAlwaysOnTop", [this](int) { windowMenu_.mnuWindowAlwaysOnTop_Click(); });
+  BindCommand("mnuWindowPreviousWindowAlwaysOnTop",
+              [this](int) { windowMenu_.mnuWindowPreviousWindowAlwaysOnTop_Click(); });
+  BindCommand("mnuWindowMinimizeAll", [this](int) { windowMenu_.mnuWindowMinimizeAll_Click(); });
+  BindCommand("mnuWindowRestoreAll", [this](int) { windowMenu_.mnuWindowRestoreAll_Click(); });
+  BindCommand("mnuWindowParentList", [this](int index) {
     windowMenu_.mnuWindowParentList_Click(static_cast<std::int16_t>(index));
   });
-  WhenMenuClicked("mnuWindowAddToList", [this](int index) {
+  BindCommand("mnuWindowAddToList", [this](int index) {
     windowMenu_.mnuWindowAddToList_Click(static_cast<std::int16_t>(index));
+  });
+}
+
+void frmMain::BindCommand(std::string_view name, Handler command) {
+  WhenMenuClicked(name, [this, command = std::move(command)](int index) {
+    try {
+      command(index);
+    } catch (...) {
+      RefreshMenus("mnu");
+      throw;
+    }
+    RefreshMenus("mnu");
   });
 }
 

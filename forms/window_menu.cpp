@@ -28,12 +28,10 @@ std::string ShortTitle(const std::string& title) {
 }
 
 WindowMenu::WindowMenu(Desktop& desktop, Form& form, bool& alwaysOnTop,
-                       std::function<void()> refreshMenus,
                        std::function<void(AddWindowMode)> showAddWindow)
     : desktop_(&desktop),
       form_(&form),
       alwaysOnTop_(&alwaysOnTop),
-      refreshMenus_(std::move(refreshMenus)),
       showAddWindow_(std::move(showAddWindow)) {}
 
 void WindowMenu::mnuWindow_Click() {
@@ -55,7 +53,6 @@ void WindowMenu::mnuWindow_Click() {
 
 void WindowMenu::mnuWindowParentList_Click(std::int16_t Index) {
   desktop_->selection.SelectTag(Index);
-  refreshMenus_();
 }
 
 void WindowMenu::mnuWindowAddToList_Click(std::int16_t Index) {
@@ -70,7 +67,6 @@ void WindowMenu::mnuWindowAddToList_Click(std::int16_t Index) {
                                               : AddWindowMode::kThisWindow);
     }
   }
-  refreshMenus_();
 }
 
 bool WindowMenu::PreviousCanBeAdded() {
@@ -97,7 +93,6 @@ void WindowMenu::mnuWindowAlwaysOnTop_Click() {
   item.checked = !item.checked;
   desktop_->requests.SetTopmost(desktop_->mainWindow.MainHandle(), item.checked);
   *alwaysOnTop_ = item.checked;
-  refreshMenus_();
 }
 
 void WindowMenu::mnuWindowPreviousWindowAlwaysOnTop_Click() {
@@ -113,12 +108,10 @@ void WindowMenu::mnuWindowPreviousWindowAlwaysOnTop_Click() {
     }
     if (denied) desktop_->actions.ReportFailure();
   }
-  refreshMenus_();
 }
 
 void WindowMenu::mnuWindowMinimizeAll_Click() {
   if (!desktop_->selection.windowSearch) desktop_->actions.MinimizeAll();
-  refreshMenus_();
 }
 
 void WindowMenu::mnuWindowRestoreAll_Click() {
@@ -126,7 +119,6 @@ void WindowMenu::mnuWindowRestoreAll_Click() {
     desktop_->actions.RestoreAll();
     desktop_->selection.selected = desktop_->mainWindow.MainHandle();
   }
-  refreshMenus_();
 }
 
 }  // namespace korvale

@@ -13,9 +13,9 @@ namespace korvale {
 /// The Window menu: the user's list of tagged windows and the place where Tags are used.
 class WindowMenu {
  public:
-  /// `form` has the menu; `alwaysOnTop` is its live state, `refreshMenus` refreshes its menus as
-  /// after the menu command "mnu", `showAddWindow` shows the Add Window dialog.
-  WindowMenu(Desktop& desktop, Form& form, bool& alwaysOnTop, std::function<void()> refreshMenus,
+  /// `form` has the menu and refreshes its menus after each command; `alwaysOnTop` is its live
+  /// state, `showAddWindow` shows the Add Window dialog.
+  WindowMenu(Desktop& desktop, Form& form, bool& alwaysOnTop,
              std::function<void(AddWindowMode)> showAddWindow);
 
   /// Runs each time the menu opens, from the menu bar or as a pop-up: brings its state and captions
@@ -36,7 +36,6 @@ class WindowMenu {
   Desktop* desktop_;
   Form* form_;
   bool* alwaysOnTop_;
-  std::function<void()> refreshMenus_;
   std::function<void(AddWindowMode)> showAddWindow_;
 };
 

@@ -13,8 +13,8 @@ class HotKeyActions {
  public:
   virtual ~HotKeyActions() = default;
 
-  /// A Tag's window has been selected, or the user told why not; refreshes the menus as after a
-  /// click on the entry.
+  /// A Tag's window has been selected, or the user told why not, or it has failed; refreshes the
+  /// menus as after a click on the entry.
   virtual void TagSelected() = 0;
   /// Brings the loaded Options dialog to the front and activates it.
   virtual void BringOptionsToFront() = 0;

@@ -145,7 +145,12 @@ void HotKeyDispatch::SelectTag(int tag) {
       !HasTagCaption(desktop_->tags, index)) {
     return;
   }
-  desktop_->selection.SelectTag(index, inFront);
+  try {
+    desktop_->selection.SelectTag(index, inFront);
+  } catch (...) {
+    actions_->TagSelected();
+    throw;
+  }
   actions_->TagSelected();
 }
 

@@ -1,3 +1,4 @@
+#include "platform/run_time_error.h"
 #include "platform/win32_constants.h"
 #include "tests/program/korvale_world.h"
 
@@ -172,6 +173,59 @@ TEST_F(WindowMenuActionsTest, WhileASearchIsForbiddenNothingIsMinimizedOrRestore
   EXPECT_EQ(DesktopCalls(), Calls{});
   EXPECT_TRUE(desktop.IsIconic(alpha));
   EXPECT_FALSE(desktop.IsIconic(beta));
+}
+
+struct FailingCommand {
+  const char* caption;
+  const char* call;  ///< In which it fails.
+};
+
+constexpr FailingCommand kFailingCommands[] = {
+    {"Korvale  Always On Top", "SetWindowPos(Korvale"},
+    {"[Alpha]  Always On Top", "SetWindowPos(Alpha"},
+    {"Minimize All", "ShowWindow"},
+    {"Restore All", "EnumWindows"},
+    {"0  Previous Window", "SetForegroundWindow(Alpha"},
+    {"1  Alpha", "SetForegroundWindow(Alpha"},
+    {"Add  Korvale  to Window menu...", "CreateWindowExW(frmGetWindow"},
+    {"Add  [Alpha]  to Window menu...", "CreateWindowExW(frmGetWindow"},
+};
+
+TEST_F(WindowMenuActionsTest, ACommandThatFailsLeavesMenusAndStoreUpToDateAndTheTimersRunning) {
+  KorvaleCopy& korvale = StartedAfter(Open("Alpha"));
+  korvale.TagPrevious();
+  for (const auto& [caption, call] : kFailingCommands) {
+    SCOPED_TRACE(caption);
+    WorkIn(korvale.Handle());
+    ChangeColor(korvale);
+    korvale.Startup().WindowInfo = !korvale.Startup().WindowInfo;
+    bool savedBeforeItWasTold = false;
+    korvale.host.WhenMessageBox([&](const ShownMessage& box) {
+      EXPECT_TRUE(box.text.starts_with("VB ERROR 6 - Overflow"));
+      savedBeforeItWasTold = Saved();
+      return win32::kIdOk;
+    });
+    log.Clear();
+    log.WhenCalled(call, [] { throw RunTimeError(RunTimeError::kOverflow); });
+    korvale.user.ChooseMenu(korvale.Handle(), {"Window", caption});
+    EXPECT_TRUE(savedBeforeItWasTold);
+    EXPECT_EQ(korvale.Form().Menu("mnuViewWindowInfo").checked, korvale.Startup().WindowInfo);
+    EXPECT_TRUE(korvale.Form().tmrWindow().Enabled());
+    desktop.UserRestores(korvale.Handle());
+  }
+}
+
+TEST_F(WindowMenuActionsTest, AHotKeyOfATagThatFailsLeavesTheStoreUpToDate) {
+  KorvaleCopy& korvale = StartedAfter(Open("Alpha"));
+  korvale.TagPrevious();
+  WorkIn(Open("Beta"));
+  ChangeColor(korvale);
+  korvale.host.AnswerNext(win32::kIdOk);
+  log.Clear();
+  log.WhenCalled("SetForegroundWindow(Alpha", [] { throw RunTimeError(RunTimeError::kOverflow); });
+  PressTag(1);
+  EXPECT_EQ(korvale.host.Messages().size(), 1U);
+  EXPECT_TRUE(Saved());
 }
 
 }  // namespace
