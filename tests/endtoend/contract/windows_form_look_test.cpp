@@ -70,6 +70,23 @@ TEST_F(WindowsFormLookTest, ALabelThatLosesItsBorderShowsNothingOfItsFormerColor
   ReleaseDC(nullptr, screen);
 }
 
+TEST_F(WindowsFormLookTest, ADialogHasTheProgramsIconWhereWindowsAsksForIt) {
+  ShowForm();
+  ASSERT_TRUE(form_.State().modalFrame);
+  const auto width = [&](int which) {
+    ICONINFO icon{};
+    const auto handle = reinterpret_cast<HICON>(GetClassLongPtrW(Hwnd(), which));
+    if (GetIconInfo(handle, &icon) == FALSE) return 0L;
+    BITMAP bitmap{};
+    GetObjectW(icon.hbmMask, sizeof(bitmap), &bitmap);
+    DeleteObject(icon.hbmMask);
+    DeleteObject(icon.hbmColor);
+    return bitmap.bmWidth;
+  };
+  EXPECT_EQ(width(GCLP_HICON), GetSystemMetrics(SM_CXICON));
+  EXPECT_EQ(width(GCLP_HICONSM), GetSystemMetrics(SM_CXSMICON));
+}
+
 TEST_F(WindowsFormLookTest, AnOpenFormTakesOnOtherSystemColorsAndKeepsTheUsersOwn) {
   ShowForm();
   form_.Find("lblClick").SetText("");
