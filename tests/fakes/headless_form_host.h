@@ -84,8 +84,6 @@ class HeadlessFormHost : public FormHost,
   /// As above; tells every form.
   void ChangeWorkArea(const TwipsRect& workArea);
 
-  /// The program is gone: what is queued for it need not come.
-  void ForgetQueued();
   /// Another program tells the thread to quit.
   void PostThreadQuit() { quit_ = true; }
 
