@@ -69,6 +69,7 @@ ActivationResult WindowActions::ActivatePreviousWindow(WindowTriple& window) {
     const RequestResult restored = requests_->Show(window.handle, win32::kSwRestore);
     if (restored == RequestResult::kDenied) return kWindowDenied;
     if (restored == RequestResult::kDone) {
+      if (StaysMinimized(window.handle)) return kWindowDenied;
       requests_->Await(dialog, [&] { return windows_->IsWindowVisible(dialog); });
     }
   }
@@ -131,10 +132,11 @@ ActivationResult WindowActions::RestoreIconicOwner(WindowHandle hwnd) {
   if (owner == 0 || !windows_->IsIconic(owner)) return kActivationDone;
   const RequestResult restored = requests_->Show(owner, win32::kSwRestore);
   if (restored != RequestResult::kDone) return ResultOf(restored);
+  const bool denied = StaysMinimized(owner);
   requests_->Await(owner,
                    [&] { return !windows_->IsIconic(owner) && windows_->IsWindowVisible(hwnd); });
-  const bool stuck = windows_->IsIconic(owner) && !windows_->IsWindowVisible(hwnd);
-  return stuck ? kWindowNotAnswering : kActivationDone;
+  if (!windows_->IsIconic(owner) || windows_->IsWindowVisible(hwnd)) return kActivationDone;
+  return denied ? kWindowDenied : kWindowNotAnswering;
 }
 
 /// The recorded windows are known by their handles, so a new title never disqualifies them.

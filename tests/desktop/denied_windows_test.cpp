@@ -107,6 +107,29 @@ TEST_F(DeniedWindows, AMinimizedOneBehindItsDialogIsNotReached) {
   EXPECT_EQ(desktop.ForegroundTitle(), "Beta");
 }
 
+TEST_F(DeniedWindows, ADialogOfOneThatStaysMinimizedIsNotReached) {
+  const WindowHandle stubborn = desktop.Open("Stubborn", {.staysIconic = true});
+  const WindowHandle dialog = desktop.Open("Dialog", {.owner = stubborn, .style = fakes::kWsPopup});
+  desktop.UserMinimizes(stubborn);
+  desktop.UserActivates(beta);
+  log.Clear();
+  EXPECT_EQ(Activate(Triple(dialog, "Dialog")), kWindowDenied);
+  EXPECT_EQ(log.Take(), Calls{"ShowWindowAsync(Stubborn, SW_RESTORE)"});
+  EXPECT_EQ(desktop.ForegroundTitle(), "Beta");
+}
+
+TEST_F(DeniedWindows, OneThatStaysMinimizedBehindItsDialogIsNotReached) {
+  const WindowHandle stubborn = desktop.Open("Stubborn", {.staysIconic = true});
+  desktop.OpenModalDialog(stubborn, "Dialog");
+  desktop.UserMinimizes(stubborn);
+  desktop.UserActivates(beta);
+  log.Clear();
+  WindowTriple window = Triple(stubborn, "Stubborn");
+  EXPECT_EQ(actions.ActivatePreviousWindow(window), kWindowDenied);
+  EXPECT_EQ(log.Take(), Calls{"ShowWindowAsync(Stubborn, SW_RESTORE)"});
+  EXPECT_EQ(desktop.ForegroundTitle(), "Beta");
+}
+
 TEST_F(DeniedWindows, TheKeysForTheWindowInFrontTellTheUser) {
   desktop.UserRestores(admin);
   previous.alternate = Triple(alpha);

@@ -242,6 +242,16 @@ TEST_F(DeniedWindowsTest, AWindowThatStaysMinimizedTellsTheUserAndGivesTheForegr
   EXPECT_TRUE(desktop.IsIconic(stubborn));
 }
 
+TEST_F(DeniedWindowsTest, Alt0ToOneThatStaysMinimizedBehindItsDialogTellsTheUser) {
+  const WindowHandle stubborn = Open("Stubborn", {.staysIconic = true});
+  WorkIn(stubborn);
+  desktop.OpenModalDialog(stubborn, "Save As");
+  desktop.UserMinimizes(stubborn);
+  WorkIn(beta);
+  ExpectFailureToldOf([&] { PressTag(0); });
+  EXPECT_EQ(Front(), "Beta");
+}
+
 TEST_F(DeniedWindowsTest, AForegroundThatIsGrantedNeedsNoInput) {
   log.Clear();
   PressTag(1);
