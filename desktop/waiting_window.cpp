@@ -18,10 +18,11 @@ bool IsOwnedBy(WindowQueries& windows, WindowHandle hwnd, WindowHandle owner) {
   return false;
 }
 
-/// A dialog on another virtual desktop is cloaked along with its owner, one that is cloaked alone
-/// is not on the screen.
+/// A dialog on another virtual desktop is cloaked along with its owner; one that is cloaked alone,
+/// or by its own program, is not on the screen.
 bool IsCloakedAlone(WindowQueries& windows, WindowHandle dialog, WindowHandle owner) {
-  return IsCloaked(windows, dialog) && !IsCloaked(windows, owner);
+  const std::uint32_t cloak = windows.DwmGetWindowAttribute(dialog);
+  return (cloak & win32::kDwmCloakedApp) != 0 || (cloak != 0 && !IsCloaked(windows, owner));
 }
 
 bool TakesInput(WindowQueries& windows, WindowHandle hwnd) {

@@ -224,6 +224,13 @@ TEST_F(CloakedWindows, ADialogOnAnotherDesktopTakesTheInputOfItsOwner) {
   EXPECT_EQ(FindInputWindow(desktop, alpha), dialog);
 }
 
+TEST_F(CloakedWindows, ADialogThatItsProgramCloaksTakesNoInputOnAnyDesktop) {
+  const WindowHandle dialog = desktop.OpenModalDialog(alpha, "Save As");
+  desktop.SetCloakedByProgram(dialog, true);
+  desktop.UserSwitchesDesktop(2);
+  EXPECT_EQ(FindInputWindow(desktop, alpha), 0);
+}
+
 TEST_F(CloakedWindows, AWindowJustSelectedOnAnotherDesktopCanBeMinimizedAtOnce) {
   AddTag(1, "Alpha");
   desktop.DelayForeground(true);
