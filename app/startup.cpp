@@ -155,6 +155,8 @@ void StartUp::MentionRefusedHotKeys(frmMain& form, const HotKeyTable& hotKeys) {
 
 void StartUp::FirstActivation(frmMain& form, MainParts& parts) {
   if (parts.state.firstActivation || firstActivationRuns_ || !form.Visible()) return;
+  // It has yet to come: the user stays where they are.
+  if (form.WindowMenuPoppedUp()) return;
   const RaisedFlag runs(firstActivationRuns_);
   const bool minimized = form.WindowState() == ShowState::kMinimized;
   if (parts.startup.AlwaysOnTop && !minimized) {

@@ -168,11 +168,13 @@ void HotKeyDispatch::PopUpWindowMenu() {
   const KnownWindow before = Know(desktop_->windows, desktop_->previous.InFront(desktop_->windows));
   WindowHandle selected = 0;
   BringToUsersDesktop(desktop_->windows, desktop_->commands, desktop_->virtualDesktops, main);
+  // Its activation must know that it comes to the front only for its menu.
+  actions_->SetWindowMenuTag(kHotKeyWindowMenuPopup);
   if (desktop_->requests.SetForegroundWindow(main) == RequestResult::kDenied) {
+    actions_->SetWindowMenuTag("");
     // The menu would not close when the user clicks elsewhere.
     return desktop_->actions.ReportFailure();
   }
-  actions_->SetWindowMenuTag(kHotKeyWindowMenuPopup);
   try {
     selected = actions_->PopUpWindowMenu();
     // Without a message posted after it, the next pop-up of the same menu would vanish at once.

@@ -240,6 +240,33 @@ TEST_F(FirstActivationTest, ThePreviousWindowIsSelectedWhenTheOptionSaysSo) {
   EXPECT_EQ(korvale.TargetWindow(), "Alpha");
 }
 
+/// Behind a locked foreground, the main window is shown without being activated.
+TEST_F(FirstActivationTest, ThePopUpOfTheWindowMenuIsNone) {
+  StoreOption("SelectPrevWinOnStart", "True");
+  Open("Beta");
+  const WindowHandle alpha = Open("Alpha");
+  desktop.LockForeground(ForegroundLock::kForGood);
+  KorvaleCopy& korvale = StartedCopy();
+  desktop.LockForeground(ForegroundLock::kNone);
+  WorkIn(desktop.FindWindowA("Beta"));
+  WorkIn(alpha);
+  std::string frontOfMenu;
+  korvale.host.WhenPopupMenu([&](const std::vector<ShownMenuItem>&) {
+    frontOfMenu = Front();
+    return "";
+  });
+
+  PressHotKey(win32::kModWin, 'W');
+
+  EXPECT_EQ(frontOfMenu, "Korvale - Work");
+  EXPECT_EQ(Front(), "Alpha");
+  EXPECT_FALSE(korvale.State().firstActivation);
+  ExpectTagLeadsTo(0, "Beta");
+  WorkIn(korvale.Handle());
+  EXPECT_TRUE(korvale.State().firstActivation);
+  EXPECT_EQ(Front(), "Beta");
+}
+
 TEST_F(FirstActivationTest, AfterAMinimizedStartTheWayBackLeadsToTheOnlyWindowWorkedIn) {
   store.SaveSetting("Korvale - Work", "Startup", "WindowState", "1");
   Open("Alpha");

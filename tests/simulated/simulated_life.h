@@ -200,8 +200,6 @@ class SimulatedLife : public KorvaleWorld {
   /// A selection that was chosen from the pop-up menu.
   std::optional<Before> poppedUp_;
   bool popUpAwaited_ = false;
-  /// The menu is popped up by the first activation.
-  bool leadsOn_ = false;
   /// Something waited for the user, who took their time.
   bool userWasAsked_ = false;
   std::int16_t lastAnswer_ = 0;
