@@ -21,9 +21,10 @@ TEST(HotKeyNamesTest, RecognisesTheRegisteredNamesAndTheReservedOnes) {
 
 TEST(HotKeyNamesTest, RecognisesNoOtherName) {
   for (const char* const name :
-       {"", "HOTKEY_PARENT", "HOTKEY_PARENT10", "HOTKEY_PARENT/", "hotkey_parent1", "HOTKEY_KEYS1",
-        "HOTKEY_KEYS4", "HOTKEY_CHILD", "HOTKEY_CHILD10", "HOTKEY_CHILDX", "HOTKEY_RESTORE",
-        "HOTKEY_MINIMIZE", "hotkey_minimize_parent", "ARRAY_NOT_USED_YET", " HOTKEY_PARENT1"}) {
+       {"", "HOTKEY_PARENT", "HOTKEY_PARENT10", "HOTKEY_PARENT/",
+        "HOTKEY_PARENT:", "hotkey_parent1", "HOTKEY_KEYS1", "HOTKEY_KEYS4", "HOTKEY_CHILD",
+        "HOTKEY_CHILD10", "HOTKEY_CHILDX", "HOTKEY_CHILD:", "HOTKEY_RESTORE", "HOTKEY_MINIMIZE",
+        "hotkey_minimize_parent", "ARRAY_NOT_USED_YET", " HOTKEY_PARENT1"}) {
     EXPECT_FALSE(IsHotKeyName(name)) << name;
   }
 }
@@ -36,8 +37,9 @@ TEST(HotKeyNamesTest, TurnsTagsIntoNamesAndBack) {
 }
 
 TEST(HotKeyNamesTest, FindsNoTagInOtherNames) {
-  for (const char* const name : {"", "HOTKEY_PARENT", "HOTKEY_PARENT12", "HOTKEY_PARENTX",
-                                 "HOTKEY_PARENT/", "HOTKEY_CHILD3", "XOTKEY_PARENT3"}) {
+  for (const char* const name :
+       {"", "HOTKEY_PARENT", "HOTKEY_PARENT12", "HOTKEY_PARENTX", "HOTKEY_PARENT/",
+        "HOTKEY_PARENT:", "HOTKEY_CHILD3", "XOTKEY_PARENT3"}) {
     EXPECT_EQ(ParentHotKeyTag(name), -1) << name;
   }
 }

@@ -131,6 +131,15 @@ TEST_F(UnknownHotKeyTest, NamesAnExcludedWindowAsOtherMessagesDo) {
           "of the Options dialog box.");
 }
 
+TEST_F(UnknownHotKeyTest, TellsNothingMoreWhenTheExcludedWindowClosesMeanwhile) {
+  const WindowHandle tool = OpenToolWindow();
+  messages.whileShown = [&](const ShownMessageBox&) { desktop.Close(tool); };
+
+  EXPECT_EQ(Press("NO_HOT_KEY"), "");
+
+  EXPECT_EQ(messages.shown.size(), 1U);
+}
+
 TEST_F(UnknownHotKeyTest, RecognizesAnExcludedWindowThatTheUserTagged) {
   const WindowHandle tool = OpenToolWindow();
   AddTag(5, "Palette", tool);
@@ -170,6 +179,14 @@ TEST_F(UnknownHotKeyTest, RecognizesNoWindowWhereThereIsNone) {
   EXPECT_EQ(messages.shown.size(), 1U);
   EXPECT_EQ(previous.current.handle, target);
   EXPECT_TRUE(mainWindow.timer.enabled);
+}
+
+TEST_F(UnknownHotKeyTest, TakesASuppliedTitleWhereThereIsNoWindow) {
+  desktop.LoseForeground();
+
+  EXPECT_EQ(dispatch.udmProcessHotKey("NO_HOT_KEY", true, true, "Supplied"), "Supplied");
+
+  EXPECT_TRUE(messages.shown.empty());
 }
 
 TEST_F(UnknownHotKeyTest, DoesNotIdentifyAnythingWithoutAction) {
