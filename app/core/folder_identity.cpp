@@ -32,7 +32,7 @@ bool IsShare(std::string_view path) {
 /// The folder above, "" above a drive or share.
 std::string_view Above(std::string_view path) {
   const std::size_t separator = path.rfind('\\');
-  if (IsDrive(path) || IsShare(path) || separator == std::string_view::npos) return "";
+  if (IsShare(path) || separator == std::string_view::npos) return "";
   return path.substr(0, separator);
 }
 

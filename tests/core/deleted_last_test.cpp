@@ -47,6 +47,14 @@ TEST_F(DeletedLastTest, WaitsUntilAllElseStands) {
   EXPECT_TRUE(NothingIsPending());
 }
 
+TEST_F(DeletedLastTest, HidesNothingOfTheOwnSectionOfThatName) {
+  store_.SaveSetting(kApp, "Options", "HotKeyModParent", "2");
+  clsOptions options;
+  Settings(store_, kApp).LoadOptions(options);
+  EXPECT_EQ(options.intHotKeyModParent, 2);
+  EXPECT_FALSE(Settings(store_, kApp).NothingStored());
+}
+
 TEST_F(DeletedLastTest, IsDroppedWhenAValueThatWasRefusedIsNotToBeSavedAnyMore) {
   SaveTags(store_, {2});
   EXPECT_TRUE(OldIsThere());

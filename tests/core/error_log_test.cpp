@@ -62,6 +62,9 @@ TEST_F(ErrorLogTest, PadsDateAndTimeWithZeroes) {
   clock_.SetLocalTime({2026, 1, 4, 0, 5, 9, 0});
   log_.Append(log_.Folder(), "1", "", "");
   EXPECT_TRUE(Content().starts_with("\r\n-- Sun 01/04/2026 00:05:09 --\r\n")) << Content();
+  clock_.SetLocalTime({987, 1, 4, 0, 5, 9, 0});
+  log_.Append(log_.Folder(), "1", "", "");
+  EXPECT_NE(Content().find("-- Sun 01/04/0987 00:05:09 --\r\n"), std::string::npos) << Content();
 }
 
 TEST_F(ErrorLogTest, NamesEveryDayOfTheWeek) {

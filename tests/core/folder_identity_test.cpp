@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 #include "tests/fakes/fake_system.h"
 
@@ -70,6 +71,21 @@ TEST_F(FolderIdentityTest, FolderIsAwayWithItsDriveOrComputer) {
        {"E:\\Old", "E:", "Q:\\Tools\\Old", "Q:", "\\\\other\\share\\Old", "\\\\nobody\\share"}) {
     EXPECT_EQ(LookForFolder(system_, folder), FolderPresence::kAway) << folder;
   }
+}
+
+TEST_F(FolderIdentityTest, FolderOfAShareIsLookedForNoFurtherUpThanTheShare) {
+  log_.IncludeReads(true);
+  EXPECT_EQ(LookForFolder(system_, "\\\\nobody\\share\\Old"), FolderPresence::kAway);
+  EXPECT_EQ(log_.Calls(),
+            (std::vector<std::string>{"GetFinalPathNameByHandleW(\\\\nobody\\share\\Old)",
+                                      "GetFinalPathNameByHandleW(\\\\nobody\\share)"}));
+}
+
+TEST_F(FolderIdentityTest, DriveIsAskedForWithItsBackslashAndAFolderWithout) {
+  log_.IncludeReads(true);
+  LookForFolder(system_, "Q:\\b:");
+  EXPECT_EQ(log_.Calls(), (std::vector<std::string>{"GetFinalPathNameByHandleW(Q:\\b:)",
+                                                    "GetFinalPathNameByHandleW(Q:\\)"}));
 }
 
 TEST_F(FolderIdentityTest, FolderBehindALinkIsAwayWithWhatTheLinkLeadsTo) {

@@ -45,6 +45,12 @@ TEST(InstanceLockNamesTest, BelongToTheSessionAndHoldNoPath) {
   }
 }
 
+TEST(InstanceLockNamesTest, StayTheSameFromVersionToVersion) {
+  const Names names = InstanceLockNames({"c:\\Work", "foobar"});
+  EXPECT_EQ(names, (Names{"Local\\Korvale.5b0f8047feab9f19", "Local\\Korvale.85944171f73967e8"}));
+  EXPECT_EQ(InstanceLockNames({"k:\\k", ""}), Names{"Local\\Korvale.0982b9dfb2cc4afd"});
+}
+
 /// Copies of the program in one session.
 class InstanceLockTest : public testing::Test {
  protected:

@@ -7,10 +7,12 @@
 #include <utility>
 #include <vector>
 
+#include "app/core/save_scope.h"
 #include "app/core/settings.h"
 #include "platform/run_time_error.h"
 #include "tests/core/saves.h"
 #include "tests/core/stored_values.h"
+#include "tests/fakes/call_log.h"
 #include "tests/fakes/error_of.h"
 #include "tests/fakes/fake_settings_store.h"
 
@@ -87,6 +89,28 @@ TEST_F(SaveJournalTest, NothingOfItIsLeftAfterASave) {
 TEST_F(SaveJournalTest, NothingIsWrittenWhenThereIsNothingToChange) {
   EXPECT_TRUE(RunsToItsEnd(store_, 0, DeleteTheOptions));
   EXPECT_TRUE(RunsToItsEnd(store_, 0, Restart));
+}
+
+/// The calls of a save of this many values.
+std::vector<std::string> CallsOfASaveOf(int values) {
+  CallLog log;
+  FakeSettingsStore store(log);
+  Settings settings(store, kApp);
+  SaveScope save(settings);
+  for (int value = 0; value < values; ++value) save.SaveSetting(kApp, "S", "K", "V");
+  save.Commit();
+  return log.Take();
+}
+
+TEST_F(SaveJournalTest, OneChangeNeedsNoJournalButTwoDo) {
+  const std::string change = "SaveSetting(Korvale - Work, S, K, \"V\")";
+  EXPECT_EQ(CallsOfASaveOf(1), std::vector<std::string>{change});
+  const std::string entry = "SaveSetting(Korvale - Work, Saving, ";
+  EXPECT_EQ(CallsOfASaveOf(2),
+            (std::vector<std::string>{entry + "1\\S\\Korvale - Work\\S\\K, \"V\")",
+                                      entry + "2\\S\\Korvale - Work\\S\\K, \"V\")",
+                                      entry + "Complete, \"2\")", change, change,
+                                      "DeleteSection(Korvale - Work, Saving)"}));
 }
 
 /// Refuses to save the keys of one section that end with `key`, and cannot delete that section.

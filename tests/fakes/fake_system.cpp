@@ -160,6 +160,8 @@ std::vector<std::string> FakeSystem::FindFirstFileW(const std::string& pattern) 
         file, real, [](char unit, char wanted) { return wanted == unit || wanted == '?'; });
     if (matches) names.push_back(file.substr(file.find_last_of('\\') + 1));
   }
+  // Windows promises no order, and on some disks it is that of creation.
+  std::ranges::reverse(names);
   return names;
 }
 

@@ -113,7 +113,7 @@ TEST_F(FakeSystemTest, FindsAndDeletesFiles) {
   system_.files = {"C:\\Programs\\a1.dmp", "C:\\Programs\\a2.dmp", "C:\\Programs\\b1.dmp",
                    "C:\\Other\\a1.dmp"};
   EXPECT_EQ(system_.FindFirstFileW("C:\\Programs\\a?.dmp"),
-            (std::vector<std::string>{"a1.dmp", "a2.dmp"}));
+            (std::vector<std::string>{"a2.dmp", "a1.dmp"}));
   EXPECT_TRUE(system_.DeleteFileW("C:\\Programs\\a1.dmp"));
   EXPECT_FALSE(system_.DeleteFileW("C:\\Programs\\a1.dmp"));
   EXPECT_EQ(system_.FindFirstFileW("C:\\Programs\\a?.dmp"), std::vector<std::string>{"a2.dmp"});

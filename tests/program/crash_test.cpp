@@ -43,6 +43,18 @@ TEST_F(CrashTest, AnUncaughtExceptionIsRecordedWithItsText) {
       << Log();
 }
 
+TEST_F(CrashTest, AnEndOfTheProgramThatNothingCaughtIsRecordedAsSuch) {
+  KorvaleCopy& korvale = Running();
+  try {
+    throw ProgramEnded{};
+  } catch (...) {
+    korvale.system.crashFilter({});
+  }
+  EXPECT_NE(Log().find("-- uncaught exception: the end of the program was not caught\r\n"),
+            std::string::npos)
+      << Log();
+}
+
 TEST_F(CrashTest, ATerminationWithoutAnExceptionIsRecordedToo) {
   Running().system.crashFilter({});
   EXPECT_NE(Log().find("-- uncaught exception: terminated\r\n"), std::string::npos) << Log();
