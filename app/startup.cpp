@@ -163,10 +163,7 @@ void StartUp::FirstActivation(frmMain& form, MainParts& parts) {
     parts.desktop.requests.SetTopmost(form.Handle(), true);
   }
   RecordPreviousWindow(form, parts.desktop, parts.options.Get());
-  if (parts.state.firstRun) {
-    AskToReviewHotKeys(form, parts);
-    if (!form.IsLoaded()) return;
-  }
+  if (parts.state.firstRun) AskToReviewHotKeys(form, parts);
   parts.state.firstActivation = true;
 }
 

@@ -145,13 +145,15 @@ TEST_F(InstancesTest, ACopyInAnotherFolderExplainsAndRunsWithItsOwnSettings) {
   KorvaleCopy& home = UsedCopy("Home");
   store.SaveSetting("Korvale - Home", "Options", "HotKeyModParent", "2");
   std::string tip;
-  ReadTip(home, tip);
+  Twips height = 0;
+  ReadTip(home, tip, &height);
   std::string refused;
   ReadTip(home, refused);
 
   EXPECT_TRUE(home.Start());
 
   EXPECT_EQ(tip, kOtherInstanceTip);
+  EXPECT_EQ(height, 5400);
   EXPECT_TRUE(refused.starts_with(
       "These hot keys are not available, because Windows or another program has them:  "
       "Alt+DownArrow, Alt+UpArrow, Windows®+O, Windows®+W, Pause."))

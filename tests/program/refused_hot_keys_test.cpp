@@ -15,11 +15,13 @@ TEST_F(RefusedHotKeys, AreNamedOnceTheyHaveBeenRegistered) {
   hotKeys.StartShell();
   KorvaleCopy& korvale = UsedCopy();
   std::string tip;
-  ReadTip(korvale, tip);
+  Twips height = 0;
+  ReadTip(korvale, tip, &height);
 
   EXPECT_TRUE(korvale.Start());
 
   EXPECT_EQ(tip, kShellsTip);
+  EXPECT_EQ(height, 3600);
   EXPECT_EQ(Front(), "Korvale - Work");
   PressTag(0);
   EXPECT_TRUE(korvale.host.Messages().empty());

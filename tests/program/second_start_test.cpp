@@ -33,6 +33,23 @@ TEST_F(SecondStartTest, AHolderOfTheLockWithoutAWindowIsToldAtOnce) {
   EXPECT_EQ(waits, 4);
 }
 
+TEST_F(SecondStartTest, AHolderOfTheLockThatHasAWindowGetsFiveSecondsToShowIt) {
+  KorvaleCopy& second = UsedCopy();
+  FakeSystem starting(log, session);
+  starting.files = second.system.files;
+  InstanceLock lock = LockOfWork(starting);
+  ASSERT_TRUE(lock.TryHold(0));
+  Open("Korvale - Work", {.className = "Korvale.frmMain", .visible = false, .process = 77});
+  int waits = 0;
+  session->WhenWaiting([&] { ++waits; });
+  second.ExpectBox("'Korvale - Work' is already open.", win32::kIdOk);
+
+  EXPECT_FALSE(second.Start());
+
+  // 5000 milliseconds in steps of 50.
+  EXPECT_EQ(waits, 100);
+}
+
 /// Runs as administrator.
 KorvaleCopy& Elevate(FakeDesktop& desktop, KorvaleCopy& copy) {
   copy.system.elevated = true;
@@ -131,6 +148,22 @@ TEST_F(SecondStartTest, TheMessageThatWaitsInTheFirstCopyComesForward) {
     second.host.AnswerNext(win32::kIdOk);
     EXPECT_FALSE(second.Start());
     EXPECT_EQ(desktop.GetForegroundWindow(), message);
+    return win32::kIdOk;
+  });
+  first.Form().Messages().ShowMessageBox("Question", win32::kMbOk, "Korvale");
+}
+
+TEST_F(SecondStartTest, AMessageThatCannotComeForwardIsTold) {
+  KorvaleCopy& first = StartedCopy();
+  const WindowHandle alpha = Open("Alpha");
+  first.host.WhenMessageBox([&](const ShownMessage&) {
+    WorkIn(alpha);
+    desktop.LockForeground(ForegroundLock::kForGood);
+    KorvaleCopy& second = NewCopy();
+    second.ExpectBox("'Korvale - Work' is already open.", win32::kIdOk);
+    second.ExpectBox("The window operation was not successful.  Please try again.", win32::kIdOk);
+    EXPECT_FALSE(second.Start());
+    EXPECT_EQ(second.host.Messages().size(), 2U);
     return win32::kIdOk;
   });
   first.Form().Messages().ShowMessageBox("Question", win32::kMbOk, "Korvale");

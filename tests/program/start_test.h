@@ -36,10 +36,11 @@ class StartTest : public KorvaleWorld {
   }
 
   /// Reads a tip and closes it.
-  static void ReadTip(KorvaleCopy& copy, std::string& text) {
-    copy.host.WhenModal("frmMsgTip", [&copy, &text](class Form& tip) {
+  static void ReadTip(KorvaleCopy& copy, std::string& text, Twips* height = nullptr) {
+    copy.host.WhenModal("frmMsgTip", [&copy, &text, height](class Form& tip) {
       text = tip.Find("lblTip").Text();
       EXPECT_EQ(tip.Caption(), "TIP - Korvale");
+      if (height != nullptr) *height = copy.user.Place(tip.Handle()).height;
       copy.user.Click(tip.Handle(), tip.Find("cmdOK").Id());
     });
   }

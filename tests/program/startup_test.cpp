@@ -27,6 +27,21 @@ TEST_F(StartUpTest, TheSecondRunAsksNothingAndShowsTheSplash) {
   EXPECT_EQ(second.FindForm("frmMsgBox2"), nullptr);
 }
 
+TEST_F(StartUpTest, TheProgramRunsUntilItIsToldToQuitAndEndsWithZero) {
+  KorvaleCopy& korvale = UsedCopy();
+  std::string front;
+  korvale.host.WhenWaiting([&] {
+    front = Front();
+    EXPECT_TRUE(korvale.system.crashFilter);
+    korvale.user.QuitThread();
+  });
+
+  EXPECT_EQ(RunProgram(korvale.platform), 0);
+
+  EXPECT_EQ(front, "Korvale - Work");
+  EXPECT_FALSE(korvale.system.crashFilter);
+}
+
 TEST_F(StartUpTest, NoSplashWhenTheOptionIsOff) {
   KorvaleCopy& korvale = StartedCopy();
   EXPECT_EQ(korvale.FindForm("frmMsgBox2"), nullptr);
@@ -34,13 +49,15 @@ TEST_F(StartUpTest, NoSplashWhenTheOptionIsOff) {
 
 TEST_F(StartUpTest, AnArgumentOnTheCommandLineGetsATip) {
   KorvaleCopy& korvale = UsedCopy();
-  korvale.system.commandLine = " /x ";
+  korvale.system.commandLine = " ~ ";
   std::string tip;
-  ReadTip(korvale, tip);
+  Twips height = 0;
+  ReadTip(korvale, tip, &height);
 
   EXPECT_TRUE(korvale.Start());
 
   EXPECT_EQ(tip, "Korvale does not accept command line arguments.");
+  EXPECT_EQ(height, 2700);
   EXPECT_TRUE(korvale.user.IsShown(korvale.Handle()));
 }
 
@@ -65,7 +82,7 @@ TEST_F(StartUpTest, TheTipAboutArgumentsIsNumber17) {
 }
 
 TEST_F(StartUpTest, WhitespaceOnTheCommandLineIsNoArgument) {
-  for (const char* const blanks : {"   ", "\t", " \t \r\n "}) {
+  for (const char* const blanks : {"   ", "\t", " \t \r\n ", "\v\f"}) {
     KorvaleCopy& korvale = UsedCopy();
     korvale.system.commandLine = blanks;
     EXPECT_TRUE(korvale.Start());
