@@ -176,7 +176,9 @@ TEST_F(AboutTest, GoesSoonAsTheSplashWindow) {
 
 TEST_F(AboutTest, ASplashWindowBecomesTheAboutBox) {
   about_.ShowSplash(display_);
+  EXPECT_EQ(about_.Tag(), "S");
   ShowAbout();
+  EXPECT_EQ(about_.Tag(), "");
   EXPECT_EQ(user_.Title(about_.Handle()), "About Korvale");
   EXPECT_TRUE(Shown(about_, "cmdOK"));
   user_.LetPass(2000);

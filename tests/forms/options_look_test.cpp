@@ -233,6 +233,28 @@ TEST_F(OpenOptionsLookTest, EveryControlStandsInsideWhatHoldsIt) {
   }
 }
 
+TEST_F(OpenOptionsLookTest, NoTwoControlsCoverEachOther) {
+  const auto cover = [](const TwipsRect& one, const TwipsRect& other) {
+    return one.left < other.left + other.width && other.left < one.left + one.width &&
+           one.top < other.top + other.height && other.top < one.top + one.height;
+  };
+  // The pages lie on the tabs, one at a time.
+  const auto on_top = [](const ControlState& control) {
+    return control.kind != ControlKind::kPage && control.kind != ControlKind::kTabStrip;
+  };
+  int neighbours = 0;
+  for (const ControlState& one : dialog_.State().controls) {
+    for (const ControlState& other : dialog_.State().controls) {
+      if (one.id >= other.id || one.container != other.container) continue;
+      if (!on_top(one) || !on_top(other)) continue;
+      ++neighbours;
+      EXPECT_FALSE(cover(one.place, other.place))
+          << one.name << one.index << " and " << other.name << other.index;
+    }
+  }
+  EXPECT_GT(neighbours, 300);
+}
+
 TEST_F(OptionsLookTest, WithTheBiggestTextItStaysOnASmallScreen) {
   // 1366 by 728 pixels.
   const TwipsRect screen{0, 0, 20490, 10920};

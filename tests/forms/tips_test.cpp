@@ -48,6 +48,7 @@ TEST_F(TipsTest, SilencingTip1InAnEmptyStringGivesZero) {
   SilenceNext();
   ShowTip(TipNumber::kCustomizeColors);
   EXPECT_EQ(hidden_, "0");
+  EXPECT_EQ(form_.Tag(), "NO_SHOW");
 }
 
 TEST_F(TipsTest, ShowsNoSilencedTip) {
@@ -63,6 +64,7 @@ TEST_F(TipsTest, ShowsATipAgainThatWasOnlyRead) {
   ReadNext();
   ShowTip(TipNumber::kCustomizeColors);
   EXPECT_EQ(hidden_, "1");
+  EXPECT_EQ(form_.Tag(), "");
 }
 
 TEST_F(TipsTest, KeepsTheFlagsOfOtherTips) {

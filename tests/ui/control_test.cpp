@@ -94,6 +94,8 @@ TEST_F(ControlTest, AChosenEntryGivesItsTextAndData) {
   list_.SetListIndex(1);
   EXPECT_EQ(list_.SelectedItemData(), 20);
   EXPECT_EQ(list_.SelectedText(), "two");
+  list_.AddItem("three");
+  EXPECT_EQ(list_.Items()[2].itemData, 0);
   EXPECT_EQ(form_.Take(), Lines{"click cboSize"});
 }
 

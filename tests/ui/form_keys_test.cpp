@@ -137,6 +137,20 @@ TEST_F(FormKeysTest, DigitsAreAccessKeysToo) {
   EXPECT_EQ(form_.Take(), Lines{"click cmdStay"});
 }
 
+TEST_F(FormKeysTest, AccessKeysReachFromAToZAndFrom0To9) {
+  for (const char key : {'A', 'Z', '0', '9'}) {
+    form_.Find("cmdStay").SetText(std::string("&") + key);
+    Press(form_, key, kAlt);
+    EXPECT_EQ(form_.Take(), Lines{"click cmdStay"}) << key;
+  }
+  // The keys beside them have numbers of characters that they do not write.
+  for (const char key : {'@', '[', '/', ':'}) {
+    form_.Find("cmdStay").SetText(std::string("&") + key);
+    EXPECT_FALSE(form_.OnKeyDown(Id(form_, "txtName"), key, kAlt, false)) << key;
+    EXPECT_EQ(form_.Take(), Lines{}) << key;
+  }
+}
+
 TEST_F(FormKeysTest, AnAccessKeyUsedTwiceGoesToTheNextControlThatHasIt) {
   form_.Find("cmdGo").SetText("&Stop");
   Press(form_, 'S', kAlt);
@@ -229,6 +243,18 @@ TEST_F(FormKeysTest, AltIsNoWayToTheMenuOnceAKeyWasTakenWithIt) {
   EXPECT_FALSE(form_.OnKeyUp(0, win32::kVkMenu, kNoShift));
   EXPECT_TRUE(altAlone(kAlt, 'X'));
   EXPECT_TRUE(altAlone(kAlt | kCtrl, 'Z'));
+}
+
+TEST_F(FormKeysTest, AltIsNoWayToTheMenuOnceACharacterWasTakenWithIt) {
+  form_.Find("cmdStay").SetText("&Ж");
+  const auto altAlone = [&](unsigned shift, char32_t character) {
+    form_.OnKeyDown(0, win32::kVkMenu, kAlt, false);
+    form_.OnCharacter(0, character, shift);
+    return !form_.OnKeyUp(0, win32::kVkMenu, kNoShift);
+  };
+  EXPECT_FALSE(altAlone(kAlt, U'ж'));
+  EXPECT_TRUE(altAlone(kAlt, U'я'));
+  EXPECT_TRUE(altAlone(kAlt | kCtrl, U'ж'));
 }
 
 TEST_F(FormKeysTest, ATextOfOneLineSeesNoCharacterThatItsBoxWouldBeepAt) {

@@ -145,5 +145,21 @@ TEST_F(FormStrayEventsTest, AnErrorAtTheReleaseOfAltLeavesNothingForItsNextRelea
   EXPECT_FALSE(form_.OnKeyUp(0, win32::kVkMenu, kNoShift));
 }
 
+TEST_F(FormStrayEventsTest, AltThatWasReleasedInAnotherWindowLeavesNothingForItsNextPress) {
+  form_.Show();
+  form_.OnKeyDown(0, win32::kVkMenu, kAlt, false);
+  EXPECT_TRUE(form_.OnKeyDown(0, 'S', kAlt, false));
+  form_.OnKeyDown(0, win32::kVkMenu, kAlt, false);
+  EXPECT_FALSE(form_.OnKeyUp(0, win32::kVkMenu, kNoShift));
+}
+
+TEST_F(FormStrayEventsTest, AKeyThatDidNothingWithAltTakesNothingBack) {
+  form_.Show();
+  form_.OnKeyDown(0, win32::kVkMenu, kAlt, false);
+  EXPECT_TRUE(form_.OnKeyDown(0, 'S', kAlt, false));
+  EXPECT_FALSE(form_.OnKeyDown(0, 'Z', kAlt, false));
+  EXPECT_TRUE(form_.OnKeyUp(0, win32::kVkMenu, kNoShift));
+}
+
 }  // namespace
 }  // namespace korvale

@@ -17,11 +17,12 @@ class MenuWidthTest : public FormTest {
     form_.Show();
   }
 
-  std::string ShownFor(const std::string& caption) {
+  std::string ShownFor(const std::string& caption) { return ShownOn(host_, form_, caption); }
+  static std::string ShownOn(ScreenQueries& screen, Form& form, const std::string& caption) {
     MenuItem menu;
     MenuItem& entry = *menu.items.emplace_back(std::make_unique<MenuItem>());
     entry.caption = caption;
-    FitMenuToScreen(host_, form_.Handle(), menu);
+    FitMenuToScreen(screen, form.Handle(), menu);
     EXPECT_EQ(entry.caption, caption);
     return MenuText(entry);
   }
@@ -39,6 +40,34 @@ TEST_F(MenuWidthTest, ALongerOneIsCut) {
 TEST_F(MenuWidthTest, SoIsOneThatWindowsCannotMeasure) {
   host_.MeasureUpTo(8192);
   EXPECT_EQ(ShownFor(std::string(65536, 'x')), std::string(97, 'x') + "...");
+}
+
+TEST_F(MenuWidthTest, BiggerTextTakesMoreRoomBesideIt) {
+  host_.ChangeTextSize(200);
+  // 46 characters of 200 twips, and what is as wide as 16 more.
+  EXPECT_EQ(ShownFor(std::string(46, 'x')), std::string(46, 'x'));
+  EXPECT_EQ(ShownFor(std::string(47, 'x')), std::string(43, 'x') + "...");
+}
+
+/// A screen whose pointer stands on another monitor than the window.
+class PointerElsewhere : public HeadlessFormHost {
+ public:
+  using HeadlessFormHost::HeadlessFormHost;
+  TwipsRect MonitorFromPoint() override { return {12400, 0, underPointer, 9000}; }
+  Twips underPointer = 0;
+};
+
+TEST_F(MenuWidthTest, TheNarrowerOfTheMonitorsOfWindowAndPointerCounts) {
+  PlainDesktop desktop;
+  PointerElsewhere host{desktop, log_};
+  FormCollection forms{host, host, host, clock_};
+  RecordingForm form{kContractDesign, forms};
+  host.SetWorkArea({0, 0, 12400, 9000});
+  form.Load();
+  host.underPointer = 7400;
+  EXPECT_EQ(ShownOn(host, form, std::string(51, 'x')), std::string(47, 'x') + "...");
+  host.underPointer = 20000;
+  EXPECT_EQ(ShownOn(host, form, std::string(101, 'x')), std::string(97, 'x') + "...");
 }
 
 }  // namespace

@@ -17,6 +17,32 @@ TEST(ColumnCountTest, CountsWideCharactersTwice) {
   EXPECT_EQ(ColumnCount("한"), 2);
 }
 
+TEST(ColumnCountTest, TheWideScriptsAreWideFromTheirFirstCharacterToTheirLast) {
+  struct Script {
+    const char* before;
+    const char* first;
+    const char* last;
+    const char* behind;
+  };
+  for (const Script& script : {
+           Script{"\u10FF", "\u1100", "\u115F", "\u1160"},
+           Script{"\u2E7F", "\u2E80", "\uA4CF", "\uA4D0"},
+           Script{"\uABFF", "\uAC00", "\uD7A3", "\uD7A4"},
+           Script{"\uF8FF", "\uF900", "\uFAFF", "\uFB00"},
+           Script{"\uFE2F", "\uFE30", "\uFE6F", "\uFE70"},
+           Script{"\uFEFF", "\uFF00", "\uFF60", "\uFF61"},
+           Script{"\uFFDF", "\uFFE0", "\uFFE6", "\uFFE7"},
+           Script{"\U0001F2FF", "\U0001F300", "\U0001FAFF", "\U0001FB00"},
+           Script{"\U0001FFFF", "\U00020000", "\U0002FFFD", "\U0002FFFE"},
+           Script{"\U0002FFFF", "\U00030000", "\U0003FFFD", "\U0003FFFE"},
+       }) {
+    EXPECT_EQ(ColumnCount(script.before), 1) << script.first;
+    EXPECT_EQ(ColumnCount(script.first), 2) << script.first;
+    EXPECT_EQ(ColumnCount(script.last), 2) << script.last;
+    EXPECT_EQ(ColumnCount(script.behind), 1) << script.last;
+  }
+}
+
 TEST(ColumnCountTest, CountsAByteOfNoCharacterOnce) { EXPECT_EQ(ColumnCount("a\xFF"), 2); }
 
 TEST(ShortenedTextTest, LeavesAShortTextAlone) {
