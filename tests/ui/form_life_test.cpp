@@ -1,6 +1,7 @@
 #include <array>
 
 #include "platform/run_time_error.h"
+#include "platform/win32_constants.h"
 #include "tests/fakes/error_of.h"
 #include "tests/ui/form_test.h"
 
@@ -58,6 +59,26 @@ TEST_F(FormLifeTest, LoadingAgainStartsFromTheDesign) {
   EXPECT_EQ(form_.Caption(), "Contract");
   EXPECT_EQ(form_.Find("txtName").Text(), "");
   EXPECT_FALSE(form_.Menu("mnuFileOpen").checked);
+}
+
+TEST_F(FormLifeTest, AFormThatIsOpenedAgainRemembersNothingOfTheUser) {
+  form_.Show();
+  form_.Find("cmdStay").SetFocus();
+  form_.OnKeyDown(0, win32::kVkMenu, kAlt, false);
+  EXPECT_TRUE(form_.OnKeyDown(0, 'S', kAlt, false));
+  form_.OnMouse(Id(form_, "lblClick"), {MouseEvent::kDown, MouseButton::kLeft});
+  form_.Unload();
+  form_.Load();
+  EXPECT_EQ(form_.FocusedControl(), 0);
+  form_.Show();
+  form_.Take();
+  EXPECT_EQ(form_.resizes, 2) << "once for each opening";
+  EXPECT_EQ(Focus(form_), "txtName");
+  EXPECT_FALSE(form_.OnKeyUp(0, win32::kVkMenu, kNoShift));
+  for (const char* const label : {"lblClick", "lblName"}) {
+    form_.OnMouse(Id(form_, label), {MouseEvent::kUp, MouseButton::kLeft});
+  }
+  EXPECT_EQ(form_.Take(), Lines{});
 }
 
 TEST_F(FormLifeTest, UnloadingAsksThenRunsTheHandlerAndDestroysTheWindow) {

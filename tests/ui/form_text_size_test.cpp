@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "tests/ui/form_test.h"
 
 namespace korvale {
@@ -140,6 +142,32 @@ TEST_F(StripTextSizeTest, ComesUpOnTheScreenWhenItWasMinimizedMeanwhile) {
   host_.ChangeTextSize(150);
   strip_.SetWindowState(ShowState::kNormal);
   EXPECT_EQ(OnScreen(strip_).left, 15360 - 9000);
+}
+
+TEST_F(StripTextSizeTest, OpenedAgainItStandsWhereItIsDesigned) {
+  host_.ChangeTextSize(150);
+  EXPECT_NE(strip_.PlaceToKeep(), strip_.Place());
+  strip_.Unload();
+  strip_.Load();
+  EXPECT_EQ(strip_.Place(), kStripDesign.place);
+  EXPECT_EQ(strip_.PlaceToKeep(), kStripDesign.place);
+}
+
+TEST_F(FormTextSizeTest, AFormMayCloseWheneverItIsToldOfItsNewSize) {
+  for (const int closing : {1, 2}) {
+    for (const auto& [from, to] : {std::pair(100, 225), std::pair(225, 100)}) {
+      host_.ChangeTextSize(100);
+      RecordingForm strip(kStripDesign, forms_);
+      strip.Show();
+      user_.Drag(strip.Handle(), {1500, 300, 9000, 1500});
+      host_.ChangeTextSize(from);
+      strip.onResize = [&, told = 0]() mutable {
+        if (++told == closing) strip.Unload();
+      };
+      host_.ChangeTextSize(to);
+      EXPECT_FALSE(strip.IsLoaded()) << closing << " at " << to;
+    }
+  }
 }
 
 TEST_F(FormTextSizeTest, AnOpenListClosesAndItsFormIsTold) {
