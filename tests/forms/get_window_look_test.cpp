@@ -277,6 +277,10 @@ TEST_F(AddNotesTest, EveryChoiceSaysInItsToolTipWhatItDoes) {
   EXPECT_EQ(Look(dialog_, "lblWindow").toolTip,
             " Red text: means a window is already associated with this Tag     Blue text: means "
             "this Tag is available ");
+  for (const char* const silent :
+       {"lblAssignHotKey", "lblIdentifyWindow", "lblChildWindow", "Line1", "Line2", "Line3"}) {
+    EXPECT_EQ(Look(dialog_, silent).toolTip, "") << silent;
+  }
 }
 
 }  // namespace

@@ -90,14 +90,22 @@ TEST_F(TipsTest, HasTheApplicationTitleWithoutATitle) { EXPECT_EQ(CaptionOf(""),
 TEST_F(TipsTest, HasNoCaptionForNoTitle) { EXPECT_EQ(CaptionOf("NO_TITLE"), ""); }
 
 TEST_F(TipsTest, LaysOutForTheHeight) {
-  host_.WhenModal("frmMsgTip", [&](Form& form) {
-    EXPECT_EQ(user_.Place(form.Handle()).height, 3400);
-    EXPECT_EQ(user_.Place(form.Handle(), Id(form, "lblTip")).height, 1600);
-    EXPECT_EQ(user_.Place(form.Handle(), Id(form, "chkStopMsg")).top, 2125);
-    EXPECT_EQ(user_.Place(form.Handle(), Id(form, "cmdOK")).top, 2605);
-    form.Unload();
-  });
-  ShowTip(TipNumber::kCustomizeColors, "TIP", 3400);
+  struct Layout {
+    std::int16_t height;
+    Twips textHeight;
+    Twips checkTop;
+    Twips buttonTop;
+  };
+  for (const Layout& each : {Layout{3400, 1600, 2125, 2605}, Layout{2600, 800, 1325, 1805}}) {
+    host_.WhenModal("frmMsgTip", [&](Form& form) {
+      EXPECT_EQ(user_.Place(form.Handle()).height, each.height);
+      EXPECT_EQ(user_.Place(form.Handle(), Id(form, "lblTip")).height, each.textHeight);
+      EXPECT_EQ(user_.Place(form.Handle(), Id(form, "chkStopMsg")).top, each.checkTop);
+      EXPECT_EQ(user_.Place(form.Handle(), Id(form, "cmdOK")).top, each.buttonTop);
+      form.Unload();
+    });
+    ShowTip(TipNumber::kCustomizeColors, "TIP", each.height);
+  }
 }
 
 TEST_F(TipsTest, StandsWhereTheHintsSay) {

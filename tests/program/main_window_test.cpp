@@ -145,9 +145,12 @@ TEST_F(StartedMainWindow, ThePlaceToWhichItWasDraggedIsKeptWhileItIsMaximized) {
   TwipsRect place = Place(korvale);
   place.left = 4500;
   korvale.user.Drag(korvale.Handle(), place);
+  place.top = 3000;
+  korvale.user.Drag(korvale.Handle(), place);
   desktop.ShowWindow(korvale.Handle(), win32::kSwMaximize);
   korvale.Exit();
   EXPECT_EQ(Stored("Left"), "4500");
+  EXPECT_EQ(Stored("Top"), "3000");
 }
 
 TEST_F(StartedMainWindow, ARefusedSaveIsToldAndTheCommandGoesOn) {

@@ -239,6 +239,8 @@ TEST_F(ControlTest, ALabelIsClickedWhenTheLeftButtonGoesDownAndComesUpOnIt) {
     return form_.Take();
   };
   EXPECT_EQ(press(MouseButton::kLeft, label, label), Lines{"click lblClick"});
+  form_.OnMouse(Id(form_, "lblName"), {MouseEvent::kUp, MouseButton::kLeft});
+  EXPECT_EQ(form_.Take(), Lines{});
   EXPECT_EQ(press(MouseButton::kRight, label, label), Lines{});
   EXPECT_EQ(press(MouseButton::kLeft, label, 0), Lines{});
   EXPECT_EQ(press(MouseButton::kLeft, Id(form_, "lblName"), label), Lines{});

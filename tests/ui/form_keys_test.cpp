@@ -28,6 +28,8 @@ TEST_F(FormKeysTest, TheButtonWithTheFocusIsDrawnAsTheDefault) {
   form_.Find("txtName").SetFocus();
   EXPECT_TRUE(IsDrawnAsDefault("cmdGo"));
   EXPECT_FALSE(IsDrawnAsDefault("cmdStay"));
+  form_.OnFocusMoved(Id(form_, "cmdStay"));
+  EXPECT_TRUE(IsDrawnAsDefault("cmdStay"));
 }
 
 TEST_F(FormKeysTest, ADisabledDefaultButtonIsNotDrawnAsOne) {
@@ -56,6 +58,9 @@ TEST_F(FormKeysTest, AFormWhoseLastStopGoesHasNoFocus) {
   EXPECT_EQ(dialog.FocusedControl(), 0);
   Press(dialog, win32::kVkTab);
   EXPECT_EQ(Focus(dialog), "");
+  dialog.Find("cmdOK").SetEnabled(true);
+  dialog.OnActivated();
+  EXPECT_EQ(Focus(dialog), "cmdOK");
 }
 
 TEST_F(FormKeysTest, TheFocusComesBackToWhereItWas) {
@@ -127,7 +132,9 @@ TEST_F(FormKeysTest, AltWithTabOrEnterIsLeftToWindows) {
 TEST_F(FormKeysTest, AnUnknownAccessKeyIsLeftToTheControl) {
   EXPECT_FALSE(form_.OnKeyDown(Id(form_, "cmdStay"), 'Z', kNoShift, false));
   EXPECT_FALSE(form_.OnKeyDown(Id(form_, "txtName"), 'Z', kAlt, false));
-  EXPECT_FALSE(form_.OnKeyDown(Id(form_, "txtName"), 'S', kNoShift, false));
+  for (const char* const box : {"txtName", "cboSize", "cboPlace"}) {
+    EXPECT_FALSE(form_.OnKeyDown(Id(form_, box), 'S', kNoShift, false)) << box;
+  }
   EXPECT_FALSE(form_.OnCharacter(Id(form_, "txtName"), U's', kAlt));
 }
 
@@ -255,6 +262,7 @@ TEST_F(FormKeysTest, AltIsNoWayToTheMenuOnceACharacterWasTakenWithIt) {
   EXPECT_FALSE(altAlone(kAlt, U'ж'));
   EXPECT_TRUE(altAlone(kAlt, U'я'));
   EXPECT_TRUE(altAlone(kAlt | kCtrl, U'ж'));
+  EXPECT_FALSE(form_.OnCharacter(Id(form_, "txtName"), U'ж', kNoShift)) << "it is typed";
 }
 
 TEST_F(FormKeysTest, ATextOfOneLineSeesNoCharacterThatItsBoxWouldBeepAt) {

@@ -25,6 +25,7 @@ void TellAll(Form& form, int control) {
 TEST_F(FormStrayEventsTest, NumbersOfNoControlAreIgnored) {
   form_.Show();
   form_.Take();
+  form_.logsMouse = true;
   const int focused = form_.FocusedControl();
   for (const int control : {-1, 19, 1000, 2147483647, -2147483647}) {
     EXPECT_NO_THROW(TellAll(form_, control)) << control;
@@ -43,6 +44,29 @@ TEST_F(FormStrayEventsTest, AnEntryThatTheListDoesNotHaveIsNotPicked) {
   form_.OnListPicked(list.Id(), 2);
   form_.OnListPicked(list.Id(), 2147483647);
   EXPECT_EQ(list.ListIndex(), 1);
+  EXPECT_EQ(form_.Take(), Lines{});
+}
+
+TEST_F(FormStrayEventsTest, AnEntryOfAnotherProgramIsTakenOutOfTheList) {
+  form_.Show();
+  form_.Find("cboSize").AddItem("one");
+  log_.IncludeReads(true);
+  log_.Clear();
+  form_.OnListPicked(Id(form_, "cboSize"), 1);
+  EXPECT_EQ(log_.Calls(), Lines{"UpdateControl(frmContract, cboSize, kItems)"});
+}
+
+TEST_F(FormStrayEventsTest, TextThatIsThereAlreadyWasNotTyped) {
+  form_.Show();
+  form_.Find("txtName").SetText("name");
+  form_.OnTextTyped(Id(form_, "txtName"), "name");
+  EXPECT_EQ(form_.Take(), Lines{});
+}
+
+TEST_F(FormStrayEventsTest, APressBesideTheControlsMeansNothing) {
+  form_.Show();
+  form_.logsMouse = true;
+  form_.OnMouse(0, {MouseEvent::kDown, MouseButton::kLeft});
   EXPECT_EQ(form_.Take(), Lines{});
 }
 

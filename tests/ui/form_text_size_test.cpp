@@ -111,6 +111,12 @@ TEST_F(StripTextSizeTest, StaysBeyondTheEdgeWhereTheUserHasPutIt) {
   EXPECT_EQ(strip_.Place(), (TwipsRect{12000, 300, 6000, 1500}));
 }
 
+TEST_F(StripTextSizeTest, ComesOntoTheScreenWhenTheEdgeBeyondWhichItStoodMovesAway) {
+  user_.Drag(strip_.Handle(), {12000, 300, 6000, 1500});
+  host_.ChangeWorkArea({0, 0, 10000, 11100});
+  EXPECT_EQ(strip_.Place(), (TwipsRect{4000, 300, 6000, 1500}));
+}
+
 TEST_F(StripTextSizeTest, FollowsTheWorkAreaThereAndBack) {
   host_.ChangeWorkArea({0, 0, 13000, 11100});
   EXPECT_EQ(strip_.Place().left, 7000);
