@@ -3,7 +3,7 @@
 import re
 from dataclasses import dataclass
 
-from cpp_tokens import cut
+from cpp_code import CONTROLS, Code
 
 SWAPS = {
     "<": ("<=", ">="), "<=": ("<", ">"), ">": (">=", "<="), ">=": (">", "<"),
@@ -16,7 +16,6 @@ SWAPS = {
     "++": ("--",), "--": ("++",),
 }  # fmt: skip
 CONDITIONS = {"if", "while"}
-CONTROLS = CONDITIONS | {"for", "switch"}
 # What begins a statement that is no expression, or that nothing remains of to delete.
 KEPT = {
     "case", "default", "using", "static_assert", "else", "do", "try", "catch", "struct", "class",
@@ -65,9 +64,9 @@ def mutants(path, source):
     return sorted(set(found), key=lambda each: (each.start, each.end, each.new))
 
 
-class Maker:
+class Maker(Code):
     def __init__(self, path, source):
-        self.path, self.source, self.tokens = path, source, cut(source)
+        super().__init__(path, source)
         self.skipped = self.find_skipped()
 
     def find_skipped(self):
@@ -83,12 +82,6 @@ class Maker:
             elif LAYOUT_FILES.match(self.path) and self.is_place(at):
                 skipped.update(range(at, token.partner or self.statement_end(at) or at))
         return skipped
-
-    def is_extent(self, at):
-        """`char text[8]`: which array is no matter of behaviour."""
-        before, kind = self.tokens[at - 1], self.tokens[at - 2]
-        declares = kind.kind == "name" and kind.text not in ("return", "case", "else", "operator")
-        return before.kind == "name" and (declares or kind.text in ("*", "&", ">") and not kind.spaced)
 
     def is_place(self, at):
         token = self.tokens[at]
@@ -118,9 +111,6 @@ class Maker:
     def of(self, first, last, new, kind):
         return Mutant(self.path, self.tokens[first].start, self.tokens[last].end, new, kind)
 
-    def before(self, at):
-        return self.tokens[at - 1] if at else None
-
     def operators(self, at, token):
         after = self.tokens[at + 1] if at + 1 < len(self.tokens) else None
         if token.text == "!" and after and not after.spaced:
@@ -138,10 +128,6 @@ class Maker:
         if token.text == "(" and self.is_call(at):
             yield from self.arguments(at)
 
-    def is_prefix(self, at):
-        before = self.before(at)
-        return before.kind == "operator" and before.text not in (")", "]") or before.text == "return"
-
     def numbers(self, at, token):
         match = re.fullmatch(r"(0[xX][\da-fA-F']+|[\d']+)([uUlLzZ]*)", token.text)
         if not match or self.before(at).text == "operator":
@@ -155,10 +141,6 @@ class Maker:
         yield self.of(at, at, plus + suffix, "constant")
         if value:
             yield self.of(at, at, "0" + suffix, "constant")
-
-    def line_before(self, at):
-        end = self.tokens[at].start
-        return self.source[self.source.rfind("\n", 0, end) + 1 : end]
 
     def texts(self, at, token):
         prefix, quote, body = re.fullmatch(r"(\w*)(['\"])(.*)['\"]", token.text, re.S).groups()
@@ -185,46 +167,6 @@ class Maker:
         condition = self.source[self.tokens[first].start : self.tokens[last].end]
         yield self.of(first, last, f"!({condition})", "condition")
 
-    def expression_begin(self, at):
-        """The first token of the condition that ends before this question mark."""
-        inside = self.tokens[at].inside
-        while at - 1 != inside and at > 0:
-            before = self.tokens[at - 1]
-            if before.partner is not None and before.partner < at - 1:
-                at = before.partner
-                continue
-            if before.text in ("=", "return", ",", ";", "{", "}", "?", ":", "+=", "-=", "|=", "&="):
-                break
-            at -= 1
-        return at
-
-    def is_call(self, at):
-        before = self.before(at)
-        return (
-            before is not None
-            and self.in_code(at)
-            and not self.tokens[at].spaced
-            and (before.kind == "name" and before.text not in CONTROLS or before.text == ">")
-        )
-
-    def in_code(self, at):
-        """Whether the innermost braces around hold code or values, not declarations."""
-        inside = self.tokens[at].inside
-        while inside is not None and self.tokens[inside].holds in ("parentheses", "template"):
-            inside = self.tokens[inside].inside
-        return inside is not None and self.tokens[inside].holds in ("code", "list")
-
-    def parts(self, opening):
-        """The first and last token of each part between commas."""
-        closing, first, parts = self.tokens[opening].partner, opening + 1, []
-        for at in range(opening + 1, closing + 1):
-            comma = self.tokens[at].text == "," and self.tokens[at].inside == opening
-            if (comma or at == closing) and at > first:
-                parts.append((first, at - 1))
-            if comma:
-                first = at + 1
-        return parts
-
     def arguments(self, at):
         texts = [
             (first, last, self.source[self.tokens[first].start : self.tokens[last].end])
@@ -236,51 +178,6 @@ class Maker:
                     self.tokens[first].start + len(one) : self.tokens[second].start
                 ]
                 yield self.of(first, last, other + between + one, "arguments")
-
-    def begins_statement(self, at):
-        inside = self.tokens[at].inside
-        if inside is None or self.tokens[inside].holds != "code":
-            return False
-        before = self.tokens[at - 1]
-        if self.tokens[at].text in (")", "]", "}", ",", ";", ".") or before.kind == "text":
-            return False
-        if before.text in (";", "{", "}", "else", "do"):
-            return before.text != "}" or self.tokens[before.partner].holds == "code"
-        return self.is_guarded(at)
-
-    def is_guarded(self, at):
-        """Behind the parentheses of an if or a loop, or the colon of a case."""
-        before = self.tokens[at - 1]
-        if before.text == ":":
-            return self.tokens[at - 2].text not in ("?",) and self.label(at - 1)
-        if before.text != ")" or before.partner is None or not before.partner:
-            return False
-        head = self.tokens[before.partner - 1].text
-        return head in CONTROLS or head == "constexpr"
-
-    def label(self, colon):
-        """Whether this colon ends a case label."""
-        inside = self.tokens[colon].inside
-        at = colon - 1
-        while at > inside and self.tokens[at].text not in (";", "{", "}", "?"):
-            if self.tokens[at].text in ("case", "default"):
-                return True
-            at -= 1
-        return False
-
-    def statement_end(self, at):
-        """The semicolon that ends the statement, or None when a block does."""
-        inside = self.tokens[at].inside
-        while at < len(self.tokens):
-            token = self.tokens[at]
-            if token.text == ";" and token.inside == inside:
-                return at
-            if token.holds == "code" and token.inside == inside:
-                return None
-            if token.text == "}" and token.partner == inside:
-                return None
-            at += 1
-        return None
 
     def statements(self, at):
         token = self.tokens[at]
@@ -298,21 +195,6 @@ class Maker:
         if token.text == "return":
             yield from self.returns(at, end)
 
-    def declares_used(self, at, end):
-        """A variable that is used later: nothing compiles without it."""
-        for each in range(at, end):
-            token = self.tokens[each]
-            if token.text in ("=", "(", "{", "[") or each == end - 1:
-                name = self.tokens[each if each == end - 1 else each - 1]
-                break
-            if token.kind != "name" and token.text not in ("::", "<", ">", "*", "&", ","):
-                return False
-        kind = self.tokens[each - (1 if each == end - 1 else 2)] if each > at + 1 else None
-        if kind is None or not (kind.kind == "name" or kind.text in (">", "*", "&")):
-            return False
-        block = self.tokens[self.tokens[at].inside].partner
-        return any(token.text == name.text for token in self.tokens[end:block])
-
     def returns(self, at, end):
         """`return IsSuch(x);` said the other way round."""
         first, last = at + 1, end - 1
@@ -321,15 +203,3 @@ class Maker:
                 text = self.source[self.tokens[first].start : self.tokens[last].end]
                 if re.match(r"[\w:.>-]+\(", text) and self.expression_is_call(first, last):
                     yield self.of(first, last, f"!({text})", "condition")
-
-    def expression_is_call(self, first, last):
-        """Names joined by . -> :: and calls, nothing else."""
-        at = first
-        while at <= last:
-            token = self.tokens[at]
-            if token.text == "(":
-                at = token.partner
-            elif token.kind != "name" and token.text not in (".", "->", "::"):
-                return False
-            at += 1
-        return True
