@@ -88,11 +88,8 @@ bool SimulatedLife::IsStuck(WindowHandle hwnd) {
 bool SimulatedLife::IsExcused(const Before& before, WindowHandle hwnd) {
   if (before.locked || before.stuck.contains(hwnd)) return true;
   if (desktop.Windows().Foreground() != before.foreground) return false;
-  return std::ranges::any_of(before.stuck, [&](WindowHandle stuck) {
-    const FakeWindow* const window = desktop.Windows().Find(stuck);
-    const bool behindDialog = window != nullptr && !window->enabled;
-    return behindDialog || workedIn_.MayBeLater(stuck, hwnd);
-  });
+  return std::ranges::any_of(before.stuck,
+                             [&](WindowHandle stuck) { return workedIn_.MayBeLater(stuck, hwnd); });
 }
 
 }  // namespace korvale
