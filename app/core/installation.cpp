@@ -91,8 +91,7 @@ class InstallationRule {
   std::string FirstToTakeOver(const SettingsStore::Pairs& installations) {
     for (const auto& [name, folder] : installations) {
       if (name.empty() || EqualsIgnoreCase(name, settings_.AppName())) continue;
-      // A damaged entry does not say whether its installation still exists.
-      if (folder.empty() || !HasLeft(folder)) continue;
+      if (!HasLeft(folder)) continue;
       const PointedAt other(settings_, name);
       settings_.FinishInterruptedSave();
       if (!settings_.NothingStored()) return name;

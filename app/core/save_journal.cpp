@@ -44,7 +44,7 @@ std::optional<StoreChange> ChangeOfKind(std::string_view letter) {
   using Kind = StoreChange::Kind;
   for (const Kind kind : {Kind::kSaveSetting, Kind::kDeleteSetting, Kind::kDeleteSection}) {
     for (const bool last : {false, true}) {
-      const StoreChange change{kind, "", "", "", "", last};
+      const StoreChange change{kind, {}, {}, {}, {}, last};
       if (letter.size() == 1 && letter.front() == KindLetter(change)) return change;
     }
   }

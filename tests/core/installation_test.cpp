@@ -199,6 +199,7 @@ TEST_F(RenamedInstallationTest, LivingInstallationNeverLosesItsSettings) {
 TEST_F(InstallationTest, InstallationWithoutSettingsIsNotOffered) {
   Register(store_, kOld, "D:\\Tools\\Old");
   Register(store_, "", "D:\\Tools\\Older");
+  StoreSettings(store_, "");
   Run();
   EXPECT_TRUE(messages_.shown.empty());
 }
@@ -231,6 +232,7 @@ TEST_F(InstallationTest, FirstOfSeveralInTheRegisterIsOffered) {
 
 TEST_F(InstallationTest, GarbageInTheRegisterDoesNoHarm) {
   Register(store_, "\xff\xfe", "");
+  StoreSettings(store_, "\xff\xfe");
   Register(store_, "Korvale - Odd", "\\\\\\");
   Register(store_, "x", "Work");
   EXPECT_FALSE(Run().mustEnd);

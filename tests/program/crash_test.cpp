@@ -43,6 +43,16 @@ TEST_F(CrashTest, AnUncaughtExceptionIsRecordedWithItsText) {
       << Log();
 }
 
+TEST_F(CrashTest, AnUncaughtExceptionWithoutATextIsRecordedWithout) {
+  KorvaleCopy& korvale = Running();
+  try {
+    throw 5;
+  } catch (...) {
+    korvale.system.crashFilter({});
+  }
+  EXPECT_NE(Log().find("-- uncaught exception: \r\n"), std::string::npos) << Log();
+}
+
 TEST_F(CrashTest, AnEndOfTheProgramThatNothingCaughtIsRecordedAsSuch) {
   KorvaleCopy& korvale = Running();
   try {

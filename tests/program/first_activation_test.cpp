@@ -48,6 +48,16 @@ TEST_F(FirstActivationTest, YesToTheFirstQuestionOpensTheOptionsOnTheHotKeysTab)
   EXPECT_EQ(korvale.Startup().OptionsTab, 2);
 }
 
+TEST_F(FirstActivationTest, AnActivationDuringTheFirstQuestionAsksNoSecondOne) {
+  KorvaleCopy& korvale = NewCopy();
+  korvale.host.WhenMessageBox([&](const ShownMessage&) {
+    korvale.Form().OnActivated();
+    return win32::kIdNo;
+  });
+  EXPECT_TRUE(korvale.Start());
+  EXPECT_EQ(korvale.host.Messages().size(), 1U);
+}
+
 TEST_F(FirstActivationTest, TheFirstRunShowsNoSplash) {
   KorvaleCopy& korvale = NewCopy();
   korvale.host.AnswerNext(win32::kIdNo);
