@@ -148,14 +148,11 @@ void frmMain::Form_KeyDown(int& key, unsigned shift) {
   if (key == win32::kVkF1 && shift == kNoShift) {
     key = 0;
     platform_->input.SendInput(Handle(), 'H', kAlt);
-    return;
-  }
-  if (alt && key == win32::kVkF4) {
+  } else if (alt && key == win32::kVkF4) {
     key = 0;
     mnuFileExit_Click();
-    return;
-  }
-  if (alt && !parts_.startup.Menu && (key == 'H' || key == 'W' || key == 'T' || key == 'V')) {
+  } else if (alt && !parts_.startup.Menu &&
+             (key == 'H' || key == 'W' || key == 'T' || key == 'V')) {
     RefreshMenus("Form_KeyDown");
   }
 }

@@ -44,7 +44,7 @@ TEST_F(OptionsTest, CtrlTabGoesThroughTheTabs) {
   Press(dialog_, win32::kVkTab, kCtrl);
   EXPECT_EQ(PagesShown(), std::vector<int>{1});
   EXPECT_EQ(Focus(dialog_), "chkSplashScreen");
-  Press(dialog_, win32::kVkTab, kCtrl | kShift);
+  EXPECT_TRUE(dialog_.OnKeyDown(dialog_.FocusedControl(), win32::kVkTab, kCtrl | kShift, false));
   EXPECT_EQ(PagesShown(), std::vector<int>{3});
   EXPECT_EQ(Focus(dialog_), "chkAllowToolbarWindow");
 }
