@@ -221,6 +221,7 @@ TEST_F(ShownFormContract, ArrowsAndLettersChooseInADropDownList) {
 
 TEST_F(ShownFormContract, PagingHomeAndEndChooseInADropDownList) {
   FocusOn("cboSize");
+  form_.Find("cboSize").SetListIndex(0);
   std::vector<std::string> chosen;
   for (const int key : {kPageDown, kPageUp, win32::kVkEnd, win32::kVkHome}) {
     Press(key);

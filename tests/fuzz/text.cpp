@@ -115,8 +115,9 @@ void CheckSearch(const std::string& text, const std::string& sought, const std::
   std::string first = text;
   std::size_t from = 0;
   for (std::size_t at = text.find(sought); at != std::string::npos; at = text.find(sought, from)) {
-    if (from == 0 && first == text)
+    if (from == 0 && first == text) {
       first = text.substr(0, at) + instead + text.substr(at + sought.size());
+    }
     replaced += text.substr(from, at - from) + instead;
     from = at + sought.size();
   }

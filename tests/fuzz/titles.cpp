@@ -16,8 +16,9 @@ std::string TitleFrom(std::string_view input) {
   for (const char byte : input) {
     if (title.size() > kLongestTitle) break;
     // Windows ends a title there.
-    if (byte != '\0')
+    if (byte != '\0') {
       title += byte == kMany ? std::string(kManyCharacters, 'm') : std::string(1, byte);
+    }
   }
   return title;
 }

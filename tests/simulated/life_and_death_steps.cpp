@@ -5,6 +5,7 @@
 #include "tests/simulated/simulated_life.h"
 
 namespace korvale {
+
 void SimulatedLife::StartAgain(const Kept& before) {
   Forget(*korvale_);
   StartKorvale();
