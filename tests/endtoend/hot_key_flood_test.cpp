@@ -125,23 +125,6 @@ class HotKeyElsewhere : public HotKeyFlood {
   TestProgram elsewhere_;
 };
 
-TEST_F(HotKeyElsewhere, DuringADragOfAnotherProgramsWindowLetsItEnd) {
-  const Window window = StartInElsewhere();
-  RECT before{};
-  GetWindowRect(window.handle(), &before);
-  const POINT from{before.left + 60, before.top + 10};
-  bool dragged = false;
-  Drag(from, {from.x + 80, from.y + 60}, [&] {
-    if (dragged || !WaitFor([&] { return IsIn(GUI_INMOVESIZE, window); })) return;
-    dragged = true;
-    Press(TagKey(2));
-  });
-  EXPECT_TRUE(dragged);
-  EXPECT_TRUE(WaitFor([&] { return !IsIn(GUI_INMOVESIZE, window) && window.Responds(); }));
-  EXPECT_FALSE(korvale_->HasMessageBox());
-  ExpectKeysToWork();
-}
-
 TEST_F(HotKeyElsewhere, DuringAMoveOfAnotherProgramsWindowByTheKeyboardLeadsToTheWindow) {
   const Window window = StartInElsewhere();
   PostMessageW(window.handle(), WM_SYSCOMMAND, SC_MOVE, 0);
