@@ -10,44 +10,37 @@
 namespace korvale {
 namespace {
 
-using SecondStartTest = StartTest;
-
 /// What holds the lock of C:\Programs\Work, whether or not a window is there.
 InstanceLock LockOfWork(FakeSystem& system) {
   return {system, ReadFolderIdentity(system, "C:\\Programs\\Work")};
 }
 
+class SecondStartTest : public StartTest {
+ protected:
+  /// How often a start waits, 50 milliseconds each, before it tells that another program holds the
+  /// lock.
+  int WaitsBehindLock() {
+    KorvaleCopy& second = UsedCopy();
+    FakeSystem holder(log, session);
+    holder.files = second.system.files;
+    InstanceLock lock = LockOfWork(holder);
+    EXPECT_TRUE(lock.TryHold(0));
+    int waits = 0;
+    session->WhenWaiting([&] { ++waits; });
+    second.ExpectBox("'Korvale - Work' is already open.", win32::kIdOk);
+    EXPECT_FALSE(second.Start());
+    return waits;
+  }
+};
+
 TEST_F(SecondStartTest, AHolderOfTheLockWithoutAWindowIsToldAtOnce) {
-  KorvaleCopy& second = UsedCopy();
-  FakeSystem broken(log, session);
-  broken.files = second.system.files;
-  InstanceLock lock = LockOfWork(broken);
-  ASSERT_TRUE(lock.TryHold(0));
-  int waits = 0;
-  session->WhenWaiting([&] { ++waits; });
-  second.ExpectBox("'Korvale - Work' is already open.", win32::kIdOk);
-
-  EXPECT_FALSE(second.Start());
-
-  // 200 milliseconds in steps of 50.
-  EXPECT_EQ(waits, 4);
+  // 200 milliseconds.
+  EXPECT_EQ(WaitsBehindLock(), 4);
 }
 
 TEST_F(SecondStartTest, AHolderOfTheLockThatHasAWindowGetsFiveSecondsToShowIt) {
-  KorvaleCopy& second = UsedCopy();
-  FakeSystem starting(log, session);
-  starting.files = second.system.files;
-  InstanceLock lock = LockOfWork(starting);
-  ASSERT_TRUE(lock.TryHold(0));
   Open("Korvale - Work", {.className = "Korvale.frmMain", .visible = false, .process = 77});
-  int waits = 0;
-  session->WhenWaiting([&] { ++waits; });
-  second.ExpectBox("'Korvale - Work' is already open.", win32::kIdOk);
-
-  EXPECT_FALSE(second.Start());
-
-  // 5000 milliseconds in steps of 50.
-  EXPECT_EQ(waits, 100);
+  EXPECT_EQ(WaitsBehindLock(), 100);
 }
 
 /// Runs as administrator.
