@@ -119,7 +119,8 @@ void FormTeller::PressAKey() {
   const int key = AnyKey();
   const unsigned shift = bytes_->Flag() ? kAlt : AnyShift();
   const DesktopWindows& desktop = korvale_->host.Desktop();
-  if (desktop.Active() == hwnd && desktop.IsEnabled(hwnd)) {
+  if (desktop.Active() == hwnd && desktop.IsEnabled(hwnd) &&
+      desktop.State(hwnd) != ShowState::kMinimized) {
     korvale_->user.PressKey(hwnd, key, shift);
   }
 }
