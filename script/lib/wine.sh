@@ -88,6 +88,7 @@ wine_begin() {
   trap 'exit 143' TERM
   export WINEDEBUG=${WINEDEBUG:--all} WINEDLLOVERRIDES='mscoree,mshtml='
   export WINESERVER=$WINE_SERVER WINELOADER=$WINE_LOADER
+  export FONTCONFIG_FILE=${KORVALE_FONTS:-$PWD/script/lib/fonts.conf}
   wine_display
   wine_template
 }
