@@ -42,7 +42,6 @@ void EnduranceTest::ChooseInBar(UINT menu, UINT entry) {
   // The entry under the mouse would be the chosen one.
   MoveMouse(Window(GetDesktopWindow()), kAside);
   Need(::testing::AssertionResult(BringToFront(main())));
-  NeedInFront(main());
   PressFor("the menu", {MOD_ALT, menu}, [this] { return korvale_->HasMenu(); });
   PressFor("the entry is chosen", {0, entry}, [this] { return !korvale_->HasMenu(); });
 }
@@ -89,10 +88,8 @@ void EnduranceTest::ReadTipAndChooseColor() {
   NeedInFront(main());
   const MainWindow window(main());
   ClickAt(window.TitleBox(), kInBox);
-  const int shade = ++changes_ % 200;
-  NeedThat("OK", [&, dialog = ColorDialog(*korvale_)] {
-    return dialog.Choose({shade, 255 - shade, 100});
-  });
+  NeedThat("OK",
+           [dialog = ColorDialog(*korvale_), cell = ++color_ % 16] { return dialog.Pick(cell); });
   NeedInFront(main());
   ClickAt(window.ClassBox(), kInBox);
   NeedThat("Cancel", [dialog = ColorDialog(*korvale_)] { return dialog.Cancel(); });

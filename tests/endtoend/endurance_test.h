@@ -42,7 +42,6 @@ class EnduranceTest : public KorvaleTest {
   void ChangeSystemColors();
   void ChangeTextSize();
 
-  int lost_ = 0;
   int tag_ = 0;
 
  private:
@@ -51,10 +50,10 @@ class EnduranceTest : public KorvaleTest {
   Window Tagged(int tag) const { return tagged_.at(static_cast<size_t>(tag - 1)); }
   Window OpenTagged(int tag, int show);
   static void Need(const ::testing::AssertionResult& held);
+  /// Waits for it, and until the programs have done what comes with it, so nothing is under way
+  /// when the next key is pressed.
   static void NeedThat(const char* what, const std::function<bool()>& condition);
-  /// Presses again when nothing comes of it: Wine can lose a key when a window has just got the
-  /// focus.
-  void PressFor(const char* what, Chord chord, const std::function<bool()>& outcome);
+  static void PressFor(const char* what, Chord chord, const std::function<bool()>& outcome);
   void PressForWindow(Chord chord, Window window);
   void NeedInFront(Window window);
   /// Leaves a dialog by a key.
@@ -68,6 +67,7 @@ class EnduranceTest : public KorvaleTest {
   std::vector<Window> tagged_;
   Window other_;
   int changes_ = 0;
+  int color_ = 0;
 };
 
 }  // namespace korvale::endtoend

@@ -9,6 +9,7 @@ namespace korvale::endtoend {
 namespace {
 
 // The dialog's own names for its fields, from the system's dialog template.
+constexpr int kBasicColors = 720;
 constexpr int kRed = 706;
 constexpr int kGreen = 707;
 constexpr int kBlue = 708;
@@ -52,6 +53,19 @@ bool ColorDialog::Choose(Rgb color) const {
   const bool entered =
       Enter(kRed, color.red) && Enter(kGreen, color.green) && Enter(kBlue, color.blue);
   return entered && Shown() == color && AnswerBox(window_, IDOK);
+}
+
+bool ColorDialog::Pick(int cell) const {
+  constexpr int kInRow = 8;
+  constexpr int kRows = 6;
+  if (!BringToFront(window_)) return false;
+  const Rgb before = Shown();
+  const Window table = Field(window_, kBasicColors);
+  RECT area{};
+  GetClientRect(table.handle(), &area);
+  ClickAt(table, {area.right * (2 * (cell % kInRow) + 1) / (2 * kInRow),
+                  area.bottom * (2 * (cell / kInRow) + 1) / (2 * kRows)});
+  return WaitFor([&] { return !(Shown() == before); }) && AnswerBox(window_, IDOK);
 }
 
 bool ColorDialog::Cancel() const {

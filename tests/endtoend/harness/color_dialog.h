@@ -31,6 +31,8 @@ class ColorDialog {
   Rgb Shown() const;
   /// Enters the colour and presses OK; true when the dialog is gone.
   bool Choose(Rgb color) const;
+  /// Clicks a basic colour, 0 to 47, that is not chosen yet and presses OK.
+  bool Pick(int cell) const;
   /// Presses Esc; true when the dialog is gone.
   bool Cancel() const;
 
