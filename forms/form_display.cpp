@@ -40,7 +40,6 @@ void FormDisplay::ShowFormAside(Form& form) {
   // A second loop for the same form would only hold up what waits for the first.
   if (form.Visible()) return;
   const RaisedFlag shown(suspension_->DialogShown);
-  form.Load();
   Place(form, {}, {}, nullptr);
   form.Show();
   forms_->Loop().RunMessageLoop([&form] { return !form.Visible(); });

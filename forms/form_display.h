@@ -39,8 +39,8 @@ class FormDisplay {
   std::string ShowFormModal(Form& form, const DisplaySwitches& switches, std::int32_t milliseconds,
                             const PlaceHints& hints, Form* owner);
 
-  /// Shows the form until it closes, and leaves the foreground and the other forms as they are. Hot
-  /// keys are suspended meanwhile. A form that is shown already stays where it is.
+  /// Shows the loaded form until it closes, and leaves the foreground and the other forms as they
+  /// are. Hot keys are suspended meanwhile. A form that is shown already stays where it is.
   void ShowFormAside(Form& form);
 
   /// Brings a loaded form to the front; does nothing when it is not loaded. A form that the user
