@@ -113,6 +113,22 @@ TEST_F(SaveJournalTest, OneChangeNeedsNoJournalButTwoDo) {
                                       "DeleteSection(Korvale - Work, Saving)"}));
 }
 
+TEST_F(SaveJournalTest, ADeletionIsNotedWithoutAValue) {
+  CallLog log;
+  FakeSettingsStore store(log);
+  store.SaveSetting(kApp, "S", "K", "V");
+  log.Clear();
+  Settings settings(store, kApp);
+  SaveScope save(settings);
+  save.DeleteSection(kApp, "S");
+  save.DeleteSetting(kApp, "T", "K");
+  save.Commit();
+  EXPECT_EQ(log.Calls().at(0),
+            "SaveSetting(Korvale - Work, Saving, 1\\D\\Korvale - Work\\S\\, \"\")");
+  EXPECT_EQ(log.Calls().at(1),
+            "SaveSetting(Korvale - Work, Saving, 2\\K\\Korvale - Work\\T\\K, \"\")");
+}
+
 /// Refuses to save the keys of one section that end with `key`, and cannot delete that section.
 class RefusingStore : public FakeSettingsStore {
  public:

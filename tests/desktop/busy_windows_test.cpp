@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -142,11 +143,31 @@ TEST_F(BusyWindows, RestoreAllWaitsForALivingOneAfterABusyOne) {
   EXPECT_EQ(desktop.ForegroundTitle(), "Main");
 }
 
+TEST_F(BusyWindows, RestoreAllWaitsForNoneThatIsNot) {
+  desktop.UserMinimizes(beta);
+  desktop.UserMinimizes(alpha);
+  const Calls calls = CallsOf([this] { actions.RestoreAll(); });
+  EXPECT_EQ(Waited(), 0U);
+  for (const char* const asked :
+       {"SendMessageTimeoutW(Alpha, 0x0)", "SendMessageTimeoutW(Beta, 0x0)"}) {
+    EXPECT_EQ(std::ranges::count(calls, asked), 1) << asked;
+  }
+  EXPECT_FALSE(desktop.IsIconic(alpha));
+  EXPECT_FALSE(desktop.IsIconic(beta));
+}
+
 TEST_F(BusyWindows, GoOnTopWhenTheyComeToIt) {
   desktop.SetBusy(alpha, kLong);
   requests.SetTopmost(alpha, true);
   ExpectShortWait();
   clock.Advance(kLong);
+  EXPECT_EQ(desktop.GetWindowLongA(alpha, win32::kGwlExStyle), win32::kWsExTopmost);
+}
+
+TEST_F(BusyWindows, AreOnTopBeforeTheNextStepWhenTheyComeToItSoon) {
+  desktop.SetBusy(alpha, 60);
+  requests.SetTopmost(alpha, true);
+  EXPECT_EQ(Waited(), 60U);
   EXPECT_EQ(desktop.GetWindowLongA(alpha, win32::kGwlExStyle), win32::kWsExTopmost);
 }
 

@@ -31,6 +31,22 @@ TEST_F(CloakedWindows, ATickAsksOnceWhyAWindowOfTheRecordIsCloaked) {
   EXPECT_EQ(std::ranges::count(calls, "IsWindowOnCurrentVirtualDesktop(Alpha)"), 0);
 }
 
+TEST_F(CloakedWindows, OnceGoneTheLastWindowOfTheRecordLeavesTheTicksNothingToDo) {
+  desktop.Close(beta);
+  desktop.UserActivates(alpha);
+  tracker.tmrWindow_Timer();
+  desktop.UserSwitchesDesktop(2);
+  tracker.tmrWindow_Timer();
+  desktop.Close(alpha);
+  desktop.UserActivates(mainWindow.handle);
+  tracker.tmrWindow_Timer();
+  EXPECT_EQ(mainWindow.txtWindow, "");
+  log.Clear();
+  tracker.tmrWindow_Timer();
+  tracker.LookAtForeground();
+  EXPECT_EQ(log.Take(), Calls{});
+}
+
 TEST_F(CloakedWindows, AWindowInFrontThatCannotBeReachedIsAllThatATickAsksAbout) {
   const WindowHandle gamma = desktop.Open("Gamma");
   const WindowHandle delta = desktop.Open("Delta");

@@ -3,6 +3,7 @@
 
 #include "desktop/foreground_return.h"
 #include "desktop/waiting_window.h"
+#include "desktop/window_visibility.h"
 #include "platform/run_time_error.h"
 #include "platform/win32_constants.h"
 #include "tests/desktop/cloaked_case.h"
@@ -40,6 +41,12 @@ TEST_F(CloakedWindows, AWindowThatItsOwnProgramCloaksIsNotFoundOnAnyDesktop) {
   EXPECT_EQ(enumeration.FindByTitle("Alpha"), 0);
   desktop.UserSwitchesDesktop(1);
   EXPECT_EQ(enumeration.FindByTitle("Alpha"), 0);
+}
+
+TEST_F(CloakedWindows, NobodyIsAskedAboutTheOwnerOfAWindowThatHasNone) {
+  EXPECT_EQ(CallsOf([this] { EXPECT_TRUE(IsPutAway(desktop, desktop, mail)); }),
+            (Calls{"DwmGetWindowAttribute(Mail)", "DwmGetWindowAttribute(Mail)",
+                   "IsWindowOnCurrentVirtualDesktop(Mail)", "GetWindow(Mail, GW_OWNER)"}));
 }
 
 TEST_F(CloakedWindows, TheRefreshOfTheTagsDoesTheSame) {

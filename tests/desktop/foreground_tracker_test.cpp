@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "desktop/user_return.h"
 #include "platform/win32_constants.h"
 #include "tests/desktop/tracking_case.h"
 
@@ -181,6 +182,49 @@ TEST_F(ForegroundTracking, OnlyTheFirstFittingTagTakesTheWindow) {
   EXPECT_EQ(HandleOfTag(3), 0);
   EXPECT_EQ(HandleOfTag(5), tool);
   EXPECT_EQ(HandleOfTag(7), 0);
+}
+
+TEST_F(ForegroundTracking, TaggedWindowIsKnownByAPartOfItsTitle) {
+  AddTag(3, "Brushes", "Window");
+  AddTag(5, "*** - Paint", "Window");
+  const WindowHandle tool = desktop.Open("Tool - Paint", {.exStyle = win32::kWsExToolWindow});
+  const WindowHandle brushes = desktop.Open("My Brushes 2", {.exStyle = win32::kWsExToolWindow});
+  WorkIn(tool);
+  EXPECT_EQ(HandleOfTag(5), tool);
+  WorkIn(brushes);
+  EXPECT_EQ(HandleOfTag(3), brushes);
+}
+
+TEST_F(ForegroundTracking, DialogOfAPaletteIsTheWindowThatThePaletteBelongsTo) {
+  WorkIn(beta);
+  desktop.SetEnabled(alpha, false);
+  const WindowHandle palette = desktop.Open(
+      "Palette", {.owner = alpha, .exStyle = win32::kWsExToolWindow, .enabled = false});
+  WorkIn(desktop.Open("Colors", {.owner = palette, .style = win32::kDsModalFrame}));
+  ExpectRecord(Triple(alpha), Triple(beta));
+}
+
+/// Beta and Alpha were worked in, Gamma is to get the user back but has gone.
+class UserReturnsFromGamma : public ForegroundTracking {
+ protected:
+  UserReturnsFromGamma() {
+    WorkIn(beta);
+    WorkIn(alpha);
+    desktop.Close(gamma);
+  }
+  void Return() { ReturnUserTo(routines, {gamma, "Window"}); }
+};
+
+TEST_F(UserReturnsFromGamma, ToTheLastWindowWorkedInWhenNothingIsInFront) {
+  desktop.LoseForeground();
+  Return();
+  EXPECT_EQ(desktop.ForegroundTitle(), "Alpha");
+}
+
+TEST_F(UserReturnsFromGamma, ButNotFromWhereTheyHaveGoneThemselves) {
+  desktop.UserActivates(beta);
+  Return();
+  EXPECT_EQ(desktop.ForegroundTitle(), "Beta");
 }
 
 TEST_F(ForegroundTracking, AskingWhetherAWindowIsAcceptedLeavesItsTagAlone) {

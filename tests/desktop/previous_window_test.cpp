@@ -125,6 +125,20 @@ TEST_F(ValidationFromBeta, NeverShowsAMessage) {
   EXPECT_TRUE(messages.shown.empty());
 }
 
+TEST_F(PreviousWindowValidation, ASelectedWindowIsInFrontForTheOneItReplacesAndForNoneButNoOther) {
+  previous.menuSelection = true;
+  previous.leaving = alpha;
+  previous.coming = beta;
+  desktop.UserActivates(alpha);
+  EXPECT_EQ(previous.InFront(desktop), beta);
+  desktop.UserActivates(gamma);
+  EXPECT_EQ(previous.InFront(desktop), gamma);
+  desktop.LoseForeground();
+  EXPECT_EQ(previous.InFront(desktop), beta);
+  desktop.Close(beta);
+  EXPECT_EQ(previous.InFront(desktop), 0);
+}
+
 class AlwaysOnTopMarks : public ForegroundTracking {
  protected:
   void SetExStyle(WindowHandle hwnd, std::int32_t exStyle) {

@@ -44,6 +44,7 @@ TEST_F(ShownAboutTest, ShowsNameVersionAndLegalNotice) {
 TEST_F(ShownAboutTest, ShowsItsPictureBesideTheTexts) {
   EXPECT_TRUE(Shown(about_, "imaProduct"));
   EXPECT_EQ(Look(about_, "imaProduct").kind, ControlKind::kImage);
+  EXPECT_EQ(Text(about_, "imaProduct"), "");
   // 40 pixels wide and high.
   EXPECT_EQ(user_.Place(about_.Handle(), Id(about_, "imaProduct")),
             (TwipsRect{240, 300, 600, 600}));
@@ -110,6 +111,7 @@ TEST_F(ShownAboutTest, EscDoesNothingWithoutTheTimer) {
 TEST_F(ShownAboutTest, StaysForOtherKeys) {
   Press(about_, win32::kVkF4);
   Press(about_, 'X');
+  Press(about_, 'X', kAlt);
   EXPECT_TRUE(about_.IsLoaded());
 }
 

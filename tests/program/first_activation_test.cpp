@@ -153,6 +153,23 @@ TEST_F(FirstActivationTest, ThePreviousWindowIsSelectedWhenTheOptionSaysSo) {
   EXPECT_EQ(korvale.TargetWindow(), "Alpha");
 }
 
+TEST_F(FirstActivationTest, TheUserHasLeftForTheSelectedWindowEvenIfItComesForwardLate) {
+  const WindowHandle alpha = Open("Alpha");
+  StoreOption("SelectPrevWinOnStart", "True");
+  KorvaleCopy& korvale = UsedCopy();
+  log.WhenCalled("SetForegroundWindow(Alpha)", [this] { desktop.DelayForeground(true); });
+  EXPECT_TRUE(korvale.Start());
+  EXPECT_EQ(Front(), "Korvale - Work");
+  EXPECT_EQ(korvale.Form().FocusTag(), "");
+  clock.Advance(kTrackingInterval);
+  EXPECT_EQ(korvale.Form().FocusTag(), "");
+  EXPECT_EQ(korvale.Record().current.handle, alpha);
+  EXPECT_EQ(korvale.Record().alternate.handle, korvale.Handle());
+  desktop.DelayForeground(false);
+  EXPECT_EQ(Front(), "Alpha");
+  ExpectTagLeadsTo(0, "Korvale - Work");
+}
+
 /// Behind a locked foreground, the main window is shown without being activated.
 TEST_F(FirstActivationTest, ThePopUpOfTheWindowMenuIsNone) {
   StoreOption("SelectPrevWinOnStart", "True");

@@ -36,6 +36,16 @@ TEST_F(MainWindowFrameTest, AFrameThatIsHigherByRoundingOnlyLeavesTheClassicHeig
   EXPECT_EQ(Height(korvale), 700);
 }
 
+TEST_F(MainWindowFrameTest, NearlyHalfAPixelMoreIsARoundingToo) {
+  KorvaleCopy& korvale = NewCopy();
+  StoreOption("SplashScreen", "False");
+  // 47 and 35 pixels of 8.57 twips.
+  korvale.host.SetDpi(168);
+  korvale.host.SetFrame({60, 343, 120, 403}, 300);
+  EXPECT_TRUE(korvale.Start());
+  EXPECT_EQ(Height(korvale), 1100);
+}
+
 TEST_F(MainWindowFrameTest, OnAFineScreenEveryPixelOfTheFrameCounts) {
   KorvaleCopy& korvale = NewCopy();
   StoreOption("SplashScreen", "False");

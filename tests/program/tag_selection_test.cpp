@@ -62,6 +62,14 @@ TEST_F(TagOfAlphaTest, TheWindowInFrontIsThatOfItsTagWhateverItsTitleIsByNow) {
   EXPECT_EQ(korvale.TargetWindow(), "Another") << "before the next tick";
 }
 
+TEST_F(TagOfAlphaTest, TheWindowInFrontIsSelectedWithoutAMessageEvenIfItIsDisabled) {
+  WorkIn(alpha);
+  desktop.SetEnabled(alpha, false);
+  hotKeys.Press(win32::kModAlt, '1');
+  EXPECT_TRUE(korvale.host.Messages().empty());
+  EXPECT_EQ(Front(), "Alpha");
+}
+
 TEST_F(TagOfAlphaTest, TheMessageOfAFailureIsShownOverAStripOfWindowsThatExist) {
   const WindowHandle gamma = Open("Gamma");
   WorkIn(gamma);
