@@ -71,21 +71,24 @@ bool ForegroundTracker::CanBeReached(SeenWindow& window) {
   }
 }
 
-/// The latest two that can be reached, with their present titles; those met before them that have
-/// gone are forgotten.
+/// The latest two that can be reached, with their present titles. All that have gone are forgotten,
+/// before another window gets the handle of one and is taken for it.
 std::array<WindowTriple, 2> ForegroundTracker::FindReachable() {
   std::array<WindowTriple, 2> reachable;
   std::size_t found = 0;
   worked_.ForEach([&](const KnownWindow& window) {
+    const bool enough = found == reachable.size();
     SeenWindow seen(*windows_, window.handle);
-    if (IsAnother(seen, window.className)) {
+    const bool gone =
+        enough ? !windows_->IsWindow(window.handle) : IsAnother(seen, window.className);
+    if (gone) {
       worked_.Remove(window.handle);
       if (window.handle == lastSeen_) lastSeen_ = 0;
-    } else if (CanBeReached(seen)) {
+    } else if (!enough && CanBeReached(seen)) {
       cloaks_.at(found) = seen.Cloak();
       reachable.at(found++) = {window.handle, std::string(seen.Title()), window.className};
     }
-    return found < reachable.size();
+    return true;
   });
   std::fill(cloaks_.begin() + static_cast<std::ptrdiff_t>(found), cloaks_.end(), 0);
   return reachable;

@@ -82,6 +82,19 @@ TEST_F(TrackingFromAlphaOn, AnotherWindowUnderTheHandleOfTheOldOneIsNotTakenForI
   ExpectRecord(Triple(beta), WindowTriple{});
 }
 
+/// Far behind in what the user worked in, where nothing of the record was asked for.
+TEST_F(TrackingFromAlphaOn, AWindowClosedLongAgoIsForgottenBeforeItsHandleIsUsedAgain) {
+  WorkIn(gamma);
+  WorkIn(beta);
+  desktop.Close(alpha);
+  tracker.LookAtForeground();
+  WorkIn(gamma);
+  desktop.Open("Never Seen", {.className = "Notepad", .activate = false, .reuseHandle = alpha});
+  desktop.Close(beta);
+  tracker.tmrWindow_Timer();
+  ExpectRecord(Triple(gamma), WindowTriple{});
+}
+
 TEST_F(TrackingFromAlphaOn, LastOtherForegroundIsNeverTheMainWindow) {
   EXPECT_EQ(previous.lastOtherForeground, alpha);
   WorkIn(mainWindow.handle);
