@@ -175,7 +175,9 @@ void StartUp::RecordPreviousWindow(frmMain& form, Desktop& desktop, const clsOpt
   // The user has come to the main window from another one, as if they had clicked it; not to a
   // minimized one.
   if (form.WindowState() != ShowState::kMinimized) desktop.tracker.LookAnew();
-  if (before != 0 && options.booSelectPrevWinOnStart) desktop.selection.SelectAtStart();
+  // Timers pause while a Tag is selected: one that names the main window leads no further.
+  const bool chosen = !form.tmrWindow().Enabled();
+  if (before != 0 && options.booSelectPrevWinOnStart && !chosen) desktop.selection.SelectAtStart();
 }
 
 void StartUp::AskToReviewHotKeys(frmMain& form, MainParts& parts) {

@@ -197,6 +197,25 @@ TEST_F(FirstActivationTest, ThePopUpOfTheWindowMenuIsNone) {
   EXPECT_EQ(Front(), "Beta");
 }
 
+/// The user has asked for the main window, and stays in it.
+TEST_F(FirstActivationTest, ATagOfTheMainWindowLeadsToItAndNotOnToThePreviousWindow) {
+  StoreOption("SelectPrevWinOnStart", "True");
+  StoreTag(1, "Korvale - Work", "Korvale.frmMain");
+  const WindowHandle alpha = Open("Alpha");
+  desktop.LockForeground(ForegroundLock::kForGood);
+  KorvaleCopy& korvale = StartedCopy();
+  desktop.LockForeground(ForegroundLock::kNone);
+  WorkIn(alpha);
+
+  ExpectTagLeadsTo(1, "Korvale - Work");
+
+  EXPECT_TRUE(korvale.State().firstActivation);
+  LetTick();
+  ExpectTagLeadsTo(0, "Alpha");
+  WorkIn(korvale.Handle());
+  EXPECT_EQ(Front(), "Korvale - Work");
+}
+
 TEST_F(FirstActivationTest, AfterAMinimizedStartTheWayBackLeadsToTheOnlyWindowWorkedIn) {
   store.SaveSetting("Korvale - Work", "Startup", "WindowState", "1");
   Open("Alpha");
