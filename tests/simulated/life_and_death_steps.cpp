@@ -92,6 +92,23 @@ void SimulatedLife::EndSession() {
   StartAgain(before);
 }
 
+/// Korvale is asked like every program, and then told that the session goes on. Meanwhile Windows
+/// covers all windows with the question what to do about the program that refuses.
+void SimulatedLife::RefuseSessionEnd() {
+  Note("another program refuses the end of the session");
+  const Kept before = KeptBy(*korvale_);
+  const std::vector<HotKey> working = WorkingHotKeys();
+  const std::size_t boxes = korvale_->host.Messages().size();
+  const WindowHandle front = desktop.Windows().Foreground();
+  desktop.LoseForeground();
+  Wait(1000 * dice_.Below(6));
+  if (front != 0) desktop.Windows().Activate(front);
+  EXPECT_TRUE(korvale_->Form().IsLoaded());
+  EXPECT_EQ(korvale_->host.Messages().size(), boxes);
+  EXPECT_EQ(KeptBy(*korvale_), before);
+  EXPECT_EQ(WorkingHotKeys().size(), working.size());
+}
+
 void SimulatedLife::TickIn(KorvaleCopy* other) {
   clock.SetTickHandler([this, other](WindowHandle hwnd, int id) {
     korvale_->host.DeliverTimer(hwnd, id);
@@ -113,10 +130,11 @@ void SimulatedLife::AttendTo(KorvaleCopy& copy, std::vector<std::string>& boxes)
   });
 }
 
-/// The one that runs comes forward, and the new one says so and goes.
+/// The one that runs comes forward, and leads on where that is its first activation; the new one
+/// says so and goes.
 void SimulatedLife::StartSameCopy() {
   Note("starts Korvale once more");
-  const bool refused = programs_.RefusesForeground();
+  const bool excused = programs_.RefusesForeground() || LeadsOn();
   std::vector<std::string> boxes;
   KorvaleCopy& second = NewCopy();
   TickIn(&second);
@@ -127,7 +145,7 @@ void SimulatedLife::StartSameCopy() {
   EXPECT_EQ(boxes.size(), boxes.back() == kRefusal ? 2U : 1U);
   const bool front = desktop.Windows().Foreground() == korvale_->Handle();
   const bool dialog = IsOptions(desktop.Windows().Foreground());
-  EXPECT_TRUE(front || dialog || refused || boxes.back() == kRefusal);
+  EXPECT_TRUE(front || dialog || excused || boxes.back() == kRefusal);
   TickIn(nullptr);
   Forget(second);
 }

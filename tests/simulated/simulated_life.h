@@ -121,6 +121,7 @@ class SimulatedLife : public KorvaleWorld {
   void KillDuringSave();
   void SpoilValue();
   void EndSession();
+  void RefuseSessionEnd();
   void StartSameCopy();
   void StartOtherCopy();
   void AttendTo(KorvaleCopy& copy, std::vector<std::string>& boxes);
@@ -133,7 +134,10 @@ class SimulatedLife : public KorvaleWorld {
   void StartShellKeys();
   void WakeComputer();
   void UnlockSession();
+  void SwitchDesktopSlowly();
+  bool BeginRefusal(const std::string& what);
   void RefuseStore();
+  void FillDisk();
   void AcceptStore();
   void ChangeDpi();
   void ChangeTextSize();

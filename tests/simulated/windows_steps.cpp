@@ -58,25 +58,58 @@ void SimulatedLife::UnlockSession() {
   std::erase_if(refused_, [this](const Combination& each) { return !foreign_.contains(each); });
 }
 
+/// As users do who know where they want to go, they do not wait until they see the new desktop.
+void SimulatedLife::SwitchDesktopSlowly() {
+  desktop.Windows().AnimateSwitch(true);
+  const std::string told = programs_.SwitchDesktop();
+  if (!told.empty()) {
+    Note("a program " + told + ", slowly");
+    switch (dice_.Below(4)) {
+      case 0:
+        PopUpWindowMenu();
+        break;
+      case 1:
+        PressActionKey();
+        break;
+      default:
+        PressTagKey();
+    }
+  }
+  desktop.Windows().AnimateSwitch(false);
+}
+
+/// From now on the user may find later what they change, or not; false when it is so already.
+bool SimulatedLife::BeginRefusal(const std::string& what) {
+  if (storeRefuses_) return false;
+  Note(what);
+  if (mayBeKept_.empty()) mayBeKept_.push_back(KeptBy(*korvale_));
+  storeRefuses_ = true;
+  expectedError_ = "VB ERROR 70 - Permission denied";
+  return true;
+}
+
 /// Some changes, all of them, or one value.
 void SimulatedLife::RefuseStore() {
   using Refusal = FakeSettingsStore::Refusal;
   constexpr std::array kRefusals = {Refusal::kOne, Refusal::kAll, Refusal::kSaves};
-  if (storeRefuses_) return;
-  if (mayBeKept_.empty()) mayBeKept_.push_back(KeptBy(*korvale_));
-  storeRefuses_ = true;
-  expectedError_ = "VB ERROR 70 - Permission denied";
   switch (dice_.Below(3)) {
     case 0:
-      Note("the store refuses all changes");
-      return store.RefuseWrites(true);
+      if (BeginRefusal("the store refuses all changes")) store.RefuseWrites(true);
+      return;
     case 1:
-      Note("the store refuses one value");
+      if (!BeginRefusal("the store refuses one value")) return;
       return store.RefuseValue("Korvale - Work", "Options", "SplashScreen");
     default:
-      Note("the store refuses changes from some on");
+      if (!BeginRefusal("the store refuses changes from some on")) return;
       return store.RefuseAfterWrites(dice_.Below(30), dice_.Pick(kRefusals));
   }
+}
+
+/// Neither a value nor a line of the error log can be written any more.
+void SimulatedLife::FillDisk() {
+  if (!BeginRefusal("the disk is full")) return;
+  session->diskFull = true;
+  store.RefuseAfterWrites(dice_.Below(10), FakeSettingsStore::Refusal::kSaves);
 }
 
 void SimulatedLife::AcceptStore() {
@@ -84,6 +117,7 @@ void SimulatedLife::AcceptStore() {
   Note("the store accepts all changes again");
   storeRefuses_ = false;
   expectedError_.clear();
+  session->diskFull = false;
   store.RefuseNothing();
 }
 
