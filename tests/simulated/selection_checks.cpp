@@ -151,8 +151,12 @@ void SimulatedLife::CheckPreviousSelected(const Before& before) {
   if (before.present == 0) return;
   const WindowHandle reached = desktop.Windows().Foreground();
   // With a restored owner Windows has gone half of the way.
-  const bool known =
-      before.locked || (programs_.DesktopsAreLost() && reached != 0 && IsSuspended(reached));
+  const bool restored = std::ranges::any_of(before.stuck, [&](WindowHandle stuck) {
+    const FakeWindow* const window = desktop.Windows().Find(stuck);
+    return window != nullptr && window->owner == reached;
+  });
+  const bool known = before.locked || restored ||
+                     (programs_.DesktopsAreLost() && reached != 0 && IsSuspended(reached));
   EXPECT_TRUE(reached == 0 || IsOnDesktop(reached) || known) << programs_.Name(reached);
   for (const WindowHandle later : workedIn_.LaterThan(reached == before.present ? 0 : reached)) {
     if (later == before.present || !CanBeSelected(later)) continue;
