@@ -122,8 +122,10 @@ TEST_F(FakeHotKeysTest, RefusesUnknownWindowsAndIdentifiersOutOfRange) {
 TEST_F(FakeHotKeysTest, EveryWindowHearsOfTheEndOfAClassicSleep) {
   hot_keys_.modernStandby = false;
   hot_keys_.SetWindowLongPtrA(kMain, procedure_);
+  hot_keys_.SetWindowLongPtrA(kMain + 1, procedure_);
   hot_keys_.EndSleep();
-  EXPECT_EQ(procedure_.calls, (Calls{"256 536 18 0", "256 536 7 0"}));
+  EXPECT_EQ(procedure_.calls,
+            (Calls{"256 536 18 0", "257 536 18 0", "256 536 7 0", "257 536 7 0"}));
 }
 
 TEST_F(FakeHotKeysTest, AWindowHearsOfModernStandbyWhileItIsRegistered) {

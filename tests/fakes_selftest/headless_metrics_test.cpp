@@ -58,10 +58,14 @@ TEST_F(HeadlessMetricsTest, AFormOfAFixedSizeGrowsOnlyIntoTheWorkArea) {
 }
 
 TEST_F(HeadlessMetricsTest, EveryFormIsToldOnce) {
+  RecordingForm dialog(DialogDesign("frmDialog"), forms_);
   strip_.Show();
-  const int before = strip_.resizes;
+  dialog.Show();
+  const int strip = strip_.resizes;
+  const int other = dialog.resizes;
   host_.ChangeTextSize(150);
-  EXPECT_EQ(strip_.resizes, before + 1);
+  EXPECT_EQ(strip_.resizes, strip + 1);
+  EXPECT_EQ(dialog.resizes, other + 1);
 }
 
 TEST_F(HeadlessMetricsTest, OnlyShownAlertsAreAnnounced) {

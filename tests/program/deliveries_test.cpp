@@ -179,6 +179,7 @@ class BoxAndDelivery : public BoxesUp {
       return all;
     };
     const std::vector<std::string> before = texts();
+    ASSERT_FALSE(before.empty()) << form.Name();
     for (const Control& control : form.Controls()) UseControl(form.Handle(), control.Id());
     form.OnCloseRequested(CloseReason::kUser);
     EXPECT_EQ(texts(), before) << form.Name();

@@ -98,8 +98,7 @@ TEST_F(SavesTest, ATipSilencedAtTheStartIsSavedWithTheFirstCommand) {
   ASSERT_TRUE(korvale.Start());
   EXPECT_EQ(Stored("Startup", "Tips"), "(missing)");
   ExpectTagLeadsTo(1, "Alpha");
-  EXPECT_EQ(Stored("Startup", "Tips"), korvale.Startup().Tips);
-  EXPECT_NE(korvale.Startup().Tips.find('0'), std::string::npos);
+  EXPECT_EQ(Stored("Startup", "Tips"), "11111111111111110");
 }
 
 TEST_F(SavesTest, AFullSaveOfNineTagsMakesEachChangeOnceBehindItsJournal) {

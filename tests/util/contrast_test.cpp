@@ -24,7 +24,7 @@ TEST(ContrastTest, TextIsBlackOnLightColorsAndWhiteOnDarkOnes) {
   EXPECT_EQ(ReadableTextColor(0x0000FF), 0x000000) << "on pure red";
 }
 
-TEST(ContrastTest, TextCanBeReadOnEveryColor) {
+TEST(ContrastTest, TextCanBeReadOnColorsOfEveryKind) {
   for (Color blue = 0; blue < 256; blue += 15) {
     for (Color green = 0; green < 256; green += 15) {
       for (Color red = 0; red < 256; red += 15) {
