@@ -32,6 +32,8 @@ struct Desktop : DesktopParts {
   WindowActions actions;
   ForegroundTracker tracker;
   WindowSelection selection;
+  /// The main window is being brought to the front only for its menu, as its activation must know.
+  bool comesForMenu = false;
 };
 
 }  // namespace korvale

@@ -21,8 +21,8 @@ class MainWindow {
   /// kGotFocus while the main window itself is the tracked foreground window, otherwise "".
   virtual std::string FocusTag() const = 0;
   virtual void SetFocusTag(std::string_view tag) = 0;
-  /// The Window menu is popped up by its hot key, for which the main window is in front without
-  /// having the focus.
+  /// The Window menu is popped up by its hot key, or about to be, for which the main window is in
+  /// front without having the focus.
   virtual bool WindowMenuPoppedUp() = 0;
   /// The Enabled property of the main window (EnableWindow).
   virtual void SetMainEnabled(bool enabled) = 0;

@@ -174,7 +174,9 @@ void frmMain::SetWindowMenuTag(const std::string& tag) {
   if (!WindowMenuPoppedUp()) parts_.desktop.tracker.PopUpClosed();
 }
 
-bool frmMain::WindowMenuPoppedUp() { return Menu("mnuWindow").tag == kHotKeyWindowMenuPopup; }
+bool frmMain::WindowMenuPoppedUp() {
+  return parts_.desktop.comesForMenu || Menu("mnuWindow").tag == kHotKeyWindowMenuPopup;
+}
 
 void frmMain::ShowTip(TipNumber number, const std::string& text, const std::string& title,
                       std::int16_t height) {

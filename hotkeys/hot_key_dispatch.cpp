@@ -11,6 +11,7 @@
 #include "hotkeys/hot_key_names.h"
 #include "platform/run_time_error.h"
 #include "platform/win32_constants.h"
+#include "util/raised_flag.h"
 #include "util/text.h"
 
 namespace korvale {
@@ -162,19 +163,22 @@ void HotKeyDispatch::ShowOptions() {
   }
 }
 
+RequestResult HotKeyDispatch::BringForwardForMenu(WindowHandle main) {
+  const RaisedFlag comes(desktop_->comesForMenu);
+  return desktop_->requests.SetForegroundWindow(main);
+}
+
 void HotKeyDispatch::PopUpWindowMenu() {
   const WindowHandle main = desktop_->mainWindow.MainHandle();
   const WindowHandle left = desktop_->windows.GetForegroundWindow();
   const KnownWindow before = Know(desktop_->windows, desktop_->previous.InFront(desktop_->windows));
   WindowHandle selected = 0;
   BringToUsersDesktop(desktop_->windows, desktop_->commands, desktop_->virtualDesktops, main);
-  // Its activation must know that it comes to the front only for its menu.
-  actions_->SetWindowMenuTag(kHotKeyWindowMenuPopup);
-  if (desktop_->requests.SetForegroundWindow(main) == RequestResult::kDenied) {
-    actions_->SetWindowMenuTag("");
+  if (BringForwardForMenu(main) == RequestResult::kDenied) {
     // The menu would not close when the user clicks elsewhere.
     return desktop_->actions.ReportFailure();
   }
+  actions_->SetWindowMenuTag(kHotKeyWindowMenuPopup);
   try {
     selected = actions_->PopUpWindowMenu();
     // Without a message posted after it, the next pop-up of the same menu would vanish at once.

@@ -38,6 +38,7 @@ class HotKeyDispatch : public HotKeyProcessor {
   void MinimizeOrMaximize(const std::string& name);
   void SelectTag(int tag);
   void ShowOptions();
+  RequestResult BringForwardForMenu(WindowHandle main);
   void PopUpWindowMenu();
 
   Desktop* desktop_;

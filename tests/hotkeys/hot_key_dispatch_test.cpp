@@ -102,10 +102,10 @@ TEST_F(HotKeyDispatchTest, BringsTheLoadedOptionsToTheFront) {
 TEST_F(HotKeyDispatchTest, PopsTheWindowMenuUpOverItsOwnForegroundWindow) {
   EXPECT_EQ(Press("HOTKEY_WINDOW_MENU_POPUP"), "Display Window Menu");
 
-  EXPECT_EQ(log.Calls(),
-            (Calls{kTimersOff, "SetWindowMenuTag(\"HOTKEY_WINDOW_MENU_POPUP\")",
-                   "SetForegroundWindow(main)", "PopUpWindowMenu", "PostMessageW(main, 0x0)",
-                   "SetWindowMenuTag(\"\")", "SetForegroundWindow(target)", kTimersOn}));
+  EXPECT_EQ(log.Calls(), (Calls{kTimersOff, "SetForegroundWindow(main)",
+                                "SetWindowMenuTag(\"HOTKEY_WINDOW_MENU_POPUP\")", "PopUpWindowMenu",
+                                "PostMessageW(main, 0x0)", "SetWindowMenuTag(\"\")",
+                                "SetForegroundWindow(target)", kTimersOn}));
 }
 
 TEST_F(HotKeyDispatchTest, LeavesTheUserWhereThePopUpHasLedHim) {
@@ -138,8 +138,8 @@ TEST_F(HotKeyDispatchTest, TakesTheMenuTagBackWhenThePopUpFails) {
 
   EXPECT_EQ(Press("HOTKEY_WINDOW_MENU_POPUP"), "");
 
-  EXPECT_EQ(log.Calls(), (Calls{kTimersOff, "SetWindowMenuTag(\"HOTKEY_WINDOW_MENU_POPUP\")",
-                                "SetForegroundWindow(main)", "PopUpWindowMenu",
+  EXPECT_EQ(log.Calls(), (Calls{kTimersOff, "SetForegroundWindow(main)",
+                                "SetWindowMenuTag(\"HOTKEY_WINDOW_MENU_POPUP\")", "PopUpWindowMenu",
                                 "SetWindowMenuTag(\"\")", kTimersOn, "udmNonFatalError"}));
 }
 
