@@ -34,23 +34,10 @@ class About : public KorvaleTest {
   static std::vector<COLORREF> ProgramIcon(int size) {
     const HMODULE program =
         LoadLibraryExW(Wide(KorvaleProgram()).c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
-    const HANDLE icon =
-        LoadImageW(program, MAKEINTRESOURCEW(1), IMAGE_ICON, size, size, LR_DEFAULTCOLOR);
-    BITMAPINFO info{};
-    info.bmiHeader = {sizeof(BITMAPINFOHEADER), size, -size, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-    void* bits = nullptr;
-    const HDC dc = CreateCompatibleDC(nullptr);
-    const HBITMAP bitmap = CreateDIBSection(dc, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-    const HGDIOBJ before = SelectObject(dc, bitmap);
-    const RECT all{0, 0, size, size};
-    FillRect(dc, &all, GetSysColorBrush(COLOR_BTNFACE));
-    DrawIconEx(dc, 0, 0, static_cast<HICON>(icon), size, size, 0, nullptr, DI_NORMAL);
-    const auto* const pixels = static_cast<const COLORREF*>(bits);
-    const std::vector<COLORREF> picture(pixels, pixels + static_cast<size_t>(size) * size);
-    SelectObject(dc, before);
-    DeleteObject(bitmap);
-    DeleteDC(dc);
-    DestroyIcon(static_cast<HICON>(icon));
+    const auto icon = static_cast<HICON>(
+        LoadImageW(program, MAKEINTRESOURCEW(1), IMAGE_ICON, size, size, LR_DEFAULTCOLOR));
+    const std::vector<COLORREF> picture = PictureOf(icon, size, GetSysColor(COLOR_BTNFACE));
+    DestroyIcon(icon);
     FreeLibrary(program);
     return picture;
   }

@@ -8,6 +8,7 @@
 
 #include "platform/windows/text.h"
 #include "tests/endtoend/harness/files.h"
+#include "tests/endtoend/harness/screen.h"
 #include "ui/windows/window_classes.h"
 
 namespace korvale {
@@ -63,34 +64,19 @@ class WindowsPointerTest : public testing::Test {
 
   /// Draws the pointer on a green ground, row by row.
   static std::vector<std::string> Drawn(HCURSOR pointer) {
-    BITMAPINFO info{};
-    info.bmiHeader = {sizeof(BITMAPINFOHEADER), kSize, -kSize, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-    void* bits = nullptr;
-    const HDC dc = CreateCompatibleDC(nullptr);
-    const HBITMAP bitmap = CreateDIBSection(dc, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-    const HGDIOBJ before = SelectObject(dc, bitmap);
-    const RECT all{0, 0, kSize, kSize};
-    const HBRUSH green = CreateSolidBrush(RGB(0, 255, 0));
-    FillRect(dc, &all, green);
-    DrawIconEx(dc, 0, 0, pointer, kSize, kSize, 0, nullptr, DI_NORMAL);
+    const std::vector<COLORREF> pixels = endtoend::PictureOf(pointer, kSize, RGB(0, 255, 0));
     std::vector<std::string> rows(kSize);
-    for (int y = 0; y < kSize; ++y) {
-      for (int x = 0; x < kSize; ++x) rows[static_cast<std::size_t>(y)] += Sign(GetPixel(dc, x, y));
-    }
-    SelectObject(dc, before);
-    DeleteObject(green);
-    DeleteObject(bitmap);
-    DeleteDC(dc);
+    for (std::size_t at = 0; at < pixels.size(); ++at) rows[at / kSize] += Sign(pixels[at]);
     return rows;
   }
 
  private:
-  static char Sign(COLORREF color) {
-    const int red = GetRValue(color);
-    const int green = GetGValue(color);
-    if (red < 60 && green > 200) return '.';
-    if (red > 200 && green > 200) return 'o';
-    return red < 60 && green < 60 ? '#' : '+';
+  static char Sign(COLORREF pixel) {
+    const int blue = GetRValue(pixel);
+    const int green = GetGValue(pixel);
+    if (blue < 60 && green > 200) return '.';
+    if (blue > 200 && green > 200) return 'o';
+    return blue < 60 && green < 60 ? '#' : '+';
   }
 
   HMODULE program_;

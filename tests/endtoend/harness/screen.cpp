@@ -25,6 +25,27 @@ std::vector<COLORREF> PictureOf(Window window) {
   return pixels;
 }
 
+std::vector<COLORREF> PictureOf(HICON icon, int size, COLORREF ground) {
+  BITMAPINFO info{};
+  info.bmiHeader = {sizeof(BITMAPINFOHEADER), size, -size, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+  void* bits = nullptr;
+  const HDC memory = CreateCompatibleDC(nullptr);
+  const HBITMAP bitmap = CreateDIBSection(memory, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+  const HGDIOBJ before = SelectObject(memory, bitmap);
+  const HBRUSH brush = CreateSolidBrush(ground);
+  const RECT all{0, 0, size, size};
+  FillRect(memory, &all, brush);
+  DrawIconEx(memory, 0, 0, icon, size, size, 0, nullptr, DI_NORMAL);
+  GdiFlush();
+  const auto* const drawn = static_cast<const COLORREF*>(bits);
+  std::vector<COLORREF> pixels(drawn, drawn + static_cast<size_t>(size) * size);
+  SelectObject(memory, before);
+  DeleteObject(brush);
+  DeleteObject(bitmap);
+  DeleteDC(memory);
+  return pixels;
+}
+
 HCURSOR PointerOnScreen() {
   CURSORINFO info{};
   info.cbSize = sizeof(info);

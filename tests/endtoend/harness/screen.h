@@ -9,8 +9,11 @@
 
 namespace korvale::endtoend {
 
-/// The pixels that a window covers on the screen, row by row.
+/// The pixels that a window covers on the screen, row by row; blue is the lowest byte of each.
 std::vector<COLORREF> PictureOf(Window window);
+
+/// The same of an icon or pointer as it looks on a ground of this color.
+std::vector<COLORREF> PictureOf(HICON icon, int size, COLORREF ground);
 
 /// The pointer that the mouse has at the moment; only good for comparing.
 HCURSOR PointerOnScreen();
