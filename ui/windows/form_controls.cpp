@@ -19,16 +19,22 @@ int HeightOf(HWND window) {
 /// Gives a combo box its height, that of its text field and borders; the window is placed as high
 /// as with its open list.
 void PlaceCombo(HWND window, const PixelPlace& place) {
-  constexpr int kUsualBorders = 6;
-  const auto makeField = [&](int borders) {
+  int borders = 6;
+  const auto makeField = [&] {
     SendMessageW(window, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), place.height - borders);
   };
-  makeField(kUsualBorders);
+  makeField();
   const auto entry = static_cast<int>(SendMessageW(window, CB_GETITEMHEIGHT, 0, 0));
   MoveWindow(window, place.left, place.top, place.width,
-             place.height + entry * kDroppedEntries + kUsualBorders, TRUE);
-  const int tooHigh = HeightOf(window) - place.height;
-  if (tooHigh != 0) makeField(kUsualBorders + tooHigh);
+             place.height + entry * kDroppedEntries + borders, TRUE);
+  // Wine makes a field that is moved as high as its text at least, so only the second answer tells
+  // of the borders alone.
+  for (int answer = 0; answer < 2; ++answer) {
+    const int tooHigh = HeightOf(window) - place.height;
+    if (tooHigh == 0) return;
+    borders += tooHigh;
+    makeField();
+  }
 }
 
 void ShowValue(HWND button, const ControlState& control) {

@@ -68,6 +68,12 @@ TEST_F(WindowsTextSizeTest, AnOpenFormFollowsTheTextThereAndBack) {
   EXPECT_EQ(form_.Place(), kContractDesign.place);
 }
 
+TEST_F(WindowsTextSizeTest, AListIsAsHighAsItsDesignWhateverTheHeightOfALine) {
+  ShowForm();
+  EXPECT_EQ(SizeOf(Control("cboSize")).cy, 21);
+  EXPECT_EQ(SizeOf(Control("cboPlace")).cy, 21);
+}
+
 TEST_F(WindowsTextSizeTest, FocusAndSelectionStay) {
   ShowForm();
   class Control& place = form_.Find("cboPlace");
