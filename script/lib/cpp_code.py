@@ -112,6 +112,22 @@ class Code:
             at += 1
         return None
 
+    def whole_statement(self, at):
+        """The last token of what stands here as one statement, with all that it guards; None of a
+        declaration's braces and of what is no statement by itself."""
+        token = self.tokens[at]
+        if token.text not in CONTROLS:
+            return self.statement_end(at)
+        opening = at + 2 if self.tokens[at + 1].text == "constexpr" else at + 1
+        end = self.guarded_end(self.tokens[opening].partner + 1)
+        while end is not None and self.tokens[end + 1].text == "else":
+            end = self.guarded_end(end + 2)
+        return end
+
+    def guarded_end(self, at):
+        token = self.tokens[at]
+        return token.partner if token.text == "{" else self.whole_statement(at)
+
     def declares_used(self, at, end):
         """A variable that is used later: nothing compiles without it."""
         for each in range(at, end):

@@ -1,5 +1,6 @@
 """Makes mutants of C++ code: small faults of the kind that people make, one in each mutant."""
 
+import functools
 import re
 from dataclasses import dataclass
 
@@ -21,12 +22,19 @@ KEPT = {
     "case", "default", "using", "static_assert", "else", "do", "try", "catch", "struct", "class",
     "enum", "template", "public", "private", "protected", "friend", "namespace", "typedef",
 }  # fmt: skip
+# What goes its way at once, or only makes what comes next.
+LEAVING = {"return", "break", "continue", "throw", "goto", "co_return"}
+# What a template makes more or less room of, which is no matter of behaviour.
+ROOMS = {"array", "span", "bitset"}
+# A constant or a member that belongs to a type, as a template takes it.
+QUALIFIED = re.compile(r"(&?[\w:]*\w::)(\w+)")
 # The tables of controls of the forms: where a control stands and how large it is, is judged by
 # pictures. Left out are lists of four values, what is named Twips, and numbers of some size, which
 # are Twips as well where no constant of another type is made of them.
 LAYOUT_FILES = re.compile(r"^forms/(\w+_design|about_form|msg_tip_form|wait_window_form)\.cpp$")
 LAYOUT_CONSTANT = re.compile(r"\bTwips \w+ =$")
 LEAST_TWIPS = 20
+RESERVES = re.compile(r"[\w.>-]+(\.|->)reserve\(")
 
 
 @dataclass(frozen=True)
@@ -75,13 +83,26 @@ class Maker(Code):
         for at, token in enumerate(self.tokens):
             if token.text == "static_assert":
                 skipped.update(range(at, self.tokens[at + 1].partner + 1))
-            elif token.holds in ("template", "values"):
+            elif token.holds == "values" or token.holds == "template" and self.is_declared(at):
                 skipped.update(range(at, token.partner + 1))
+            elif token.holds == "template":
+                skipped.update(self.types_in(at))
             elif token.text == "[" and self.is_extent(at):
                 skipped.update(range(at, token.partner + 1))
             elif LAYOUT_FILES.match(self.path) and self.is_place(at):
                 skipped.update(range(at, token.partner or self.statement_end(at) or at))
         return skipped
+
+    def is_declared(self, opening):
+        """The parameters of a template, or how much room it makes."""
+        return self.tokens[opening - 1].text in ROOMS | {"template"}
+
+    def types_in(self, opening):
+        """The tokens of those arguments of a template that are no values."""
+        for first, last in self.parts(opening):
+            values = self.tokens[first].kind in ("number", "text", "character")
+            if not values and self.tokens[first].text not in ("true", "false"):
+                yield from range(first, last + 1)
 
     def is_place(self, at):
         token = self.tokens[at]
@@ -93,6 +114,8 @@ class Maker(Code):
 
     def all(self):
         for at, token in enumerate(self.tokens):
+            if token.holds == "template" and not self.is_declared(at):
+                yield from self.members(at)
             if at in self.skipped:
                 continue
             if token.kind == "operator":
@@ -107,6 +130,7 @@ class Maker(Code):
                 yield from self.conditions(at)
             if self.begins_statement(at):
                 yield from self.statements(at)
+                yield from self.orders(at)
 
     def of(self, first, last, new, kind):
         return Mutant(self.path, self.tokens[first].start, self.tokens[last].end, new, kind)
@@ -179,6 +203,72 @@ class Maker(Code):
                 ]
                 yield self.of(first, last, other + between + one, "arguments")
 
+    def members(self, opening):
+        """Another member of the type, or another of its constants, as a template's argument: the
+        next one in the file that is given to a template."""
+        given = self.given_members()
+        for first, last in self.parts(opening):
+            text = self.text_of(first, last)
+            others = given.get(text.rpartition("::")[0], [])
+            if text in others and len(others) > 1:
+                new = others[(others.index(text) + 1) % len(others)]
+                yield self.of(first, last, new, "member")
+
+    @functools.cache
+    def given_members(self):
+        """All arguments of templates of the form Type::kConstant or &Type::member, by their type."""
+        given = {}
+        for at, token in enumerate(self.tokens):
+            if token.holds != "template" or self.is_declared(at):
+                continue
+            for part in self.parts(at):
+                text = self.text_of(*part)
+                match = QUALIFIED.fullmatch(text)
+                if match and (text[0] == "&" or re.match("k[A-Z]", match[2])):
+                    known = given.setdefault(text.rpartition("::")[0], [])
+                    if text not in known:
+                        known.append(text)
+        return given
+
+    def orders(self, at):
+        """Two neighbouring statements, the second before the first."""
+        if self.is_guarded(at) and self.tokens[at - 1].text != ":":
+            return
+        end = self.whole_statement(at)
+        if end is None or not self.begins_statement(end + 1):
+            return
+        last = self.whole_statement(end + 1)
+        if last is None or not all(self.can_move(*each) for each in ((at, end), (end + 1, last))):
+            return
+        one, other = self.text_of(at, end), self.text_of(end + 1, last)
+        if one != other and not self.are_apart(one, other):
+            between = self.source[self.tokens[end].end : self.tokens[end + 1].start]
+            yield self.of(at, last, other + between + one, "order")
+
+    def can_move(self, first, last):
+        token = self.tokens[first]
+        return (
+            first < last
+            and token.text not in KEPT | LEAVING
+            and self.tokens[first - 1].text not in ("else", "do")
+            and (token.text in CONTROLS or not self.declares_used(first, last))
+            and not RESERVES.match(self.text_of(first, last))
+        )
+
+    def are_apart(self, one, other):
+        """Handlers of different events, or plain assignments of which neither reads the other's
+        variable."""
+        if one.startswith("When") and other.startswith("When"):
+            return True
+        parts = [each.partition(" = ") for each in (one, other)]
+        if any(not sign or "(" in whole for (_, sign, _), whole in zip(parts, (one, other))):
+            return False
+        names = [re.findall(r"\w+", left)[-1] for left, _, _ in parts]
+        return not re.search(rf"\b{names[0]}\b", other) and not re.search(rf"\b{names[1]}\b", one)
+
+    def text_of(self, first, last):
+        return self.source[self.tokens[first].start : self.tokens[last].end]
+
     def statements(self, at):
         token = self.tokens[at]
         end = None if token.text in KEPT | CONTROLS else self.statement_end(at)
@@ -190,7 +280,7 @@ class Maker(Code):
                 yield from self.returns(at, end)
                 return
         # Room made in advance changes nothing that anybody sees.
-        if not re.match(r"[\w.>-]+(\.|->)reserve\(", text) and not self.declares_used(at, end):
+        if not RESERVES.match(text) and not self.declares_used(at, end):
             yield self.of(at, end, ";", "statement")
         if token.text == "return":
             yield from self.returns(at, end)

@@ -58,6 +58,58 @@ class Mutants(unittest.TestCase):
         self.assertIn("Do(other, one);", self.of("  Do(one, other);"))
         self.assertNotIn("Do(one, one);", self.of("  Do(one, one);"))
 
+    def test_changes_what_a_template_is_given_but_no_type_and_no_room(self):
+        found = self.of("  Of<7, Type>(Other<true>());")
+        for new in ("Of<8, Type>(Other<true>());", "Of<0, Type>(Other<true>());"):
+            self.assertIn(new, found)
+        self.assertIn("Of<7, Type>(Other<false>());", found)
+        self.assertEqual(len(found), 4)
+        self.assertEqual(self.of("  std::array<int, 7> some = all;"), [";"])
+        self.assertEqual(self.changed("template <int Number = 7>\nvoid Do();\n"), [])
+
+    def test_gives_a_template_another_member_or_constant_of_the_same_type(self):
+        found = self.changed("Row rows[] = {Of<&Some::one>, Of<&Some::two>, Of<&Other::one>};\n")
+        self.assertEqual(
+            found,
+            [
+                "Row rows[] = {Of<&Some::two>, Of<&Some::two>, Of<&Other::one>};",
+                "Row rows[] = {Of<&Some::one>, Of<&Some::one>, Of<&Other::one>};",
+            ],
+        )
+        found = self.of("  Do(Of<Kind::kOne>(), Of<Kind::kTwo>(), Of<Kind::Type>());")
+        self.assertIn("Do(Of<Kind::kTwo>(), Of<Kind::kTwo>(), Of<Kind::Type>());", found)
+
+    def orders(self, code):
+        made = mutants("desktop/some.cpp", inside(code))
+        return [plain(each.new) for each in made if each.kind == "order"]
+
+    def test_puts_a_statement_before_its_neighbour(self):
+        self.assertEqual(
+            self.orders("  One();\n  if (other) Two();\n  for (;;) {\n    Go();\n  }"),
+            ["if (other) Two(); One();", "for (;;) { Go(); } if (other) Two();"],
+        )
+        self.assertEqual(
+            self.orders("  switch (one) {\n    case 1:\n      One();\n      Two();\n  }"),
+            ["Two(); One();"],
+        )
+        self.assertEqual(
+            self.orders("  if (one) {\n    One();\n  } else {\n    Two();\n  }\n  Three();"),
+            ["Three(); if (one) { One(); } else { Two(); }"],
+        )
+
+    def test_keeps_the_order_of_what_hangs_together_or_stands_apart(self):
+        for code in (
+            "  const Value value = Of(one);\n  Do(value);",
+            "  if (one) One();\n  return other;",
+            "  One();\n  return;",
+            "  One();\n  One();",
+            "  some.left = one;\n  some.top = other;",
+            "  some.reserve(one);\n  Do();",
+            "  WhenClicked(one);\n  WhenClicked(other);",
+        ):
+            self.assertEqual(self.orders(code), [], code)
+        self.assertEqual(len(self.orders("  left = one;\n  top = left;")), 1)
+
     def test_leaves_parameters_and_declarations_alone(self):
         self.assertEqual(self.changed("bool Asked(int one, int other);\n"), [])
 
