@@ -11,10 +11,21 @@
 namespace korvale {
 namespace {
 
-TEST_F(ForegroundTracking, FirstTickOnlyRemembersTheForeground) {
+TEST_F(ForegroundTracking, FirstTickOnlyRemembersTheMainWindowInFront) {
   EXPECT_EQ(previous.current, WindowTriple{});
   EXPECT_EQ(mainWindow.focusTag, "");
   EXPECT_TRUE(mainWindow.timer.intervals.empty());
+}
+
+using FirstTick = DesktopCase;
+
+TEST_F(FirstTick, FollowsTheUserIntoAnotherWindowInFront) {
+  const WindowHandle alpha = desktop.Open("Alpha", {.className = "Notepad"});
+  tracker.tmrWindow_Timer();
+  EXPECT_EQ(previous.current, (WindowTriple{alpha, "Alpha", "Notepad"}));
+  EXPECT_EQ(previous.alternate, WindowTriple{});
+  EXPECT_EQ(mainWindow.txtWindow, "Alpha");
+  EXPECT_TRUE(mainWindow.previousWindowItems);
 }
 
 class TrackingFromAlphaOn : public ForegroundTracking {

@@ -58,7 +58,7 @@ INSTANTIATE_TEST_SUITE_P(
         BulkCase{"NoMinimizeBox", {.style = kWithoutMinimizeBox}, false, false},
         BulkCase{
             "NoMinimizeBoxIconic", {.style = kWithoutMinimizeBox, .iconic = true}, false, false},
-        BulkCase{"Desktop", {.className = "Static"}, true, false}),
+        BulkCase{"TitledStatic", {.className = "Static"}, true, false}),
     [](const auto& param) { return param.param.name; });
 
 TEST_F(MinimizeAndRestoreAll, BulkChangeLeavesChildWindowsAlone) {
@@ -75,9 +75,12 @@ TEST_F(MinimizeAndRestoreAll, BulkChangeLeavesChildWindowsAlone) {
 
 TEST_F(MinimizeAndRestoreAll, BulkChangeLeavesOwnedPopupsAlone) {
   const WindowHandle holder = desktop.Open("Holder", {.style = kWithoutMinimizeBox});
-  desktop.Open("Popup", {.owner = holder, .style = fakes::kWsPopup | win32::kWsMinimizeBox});
+  const WindowHandle popup =
+      desktop.Open("Popup", {.owner = holder, .style = fakes::kWsPopup | win32::kWsMinimizeBox});
   desktop.Hide(mainWindow.handle);
   EXPECT_EQ(ChangesOf(kMinimizeAll), Calls{});
+  desktop.UserMinimizes(popup);
+  EXPECT_EQ(ChangesOf(kRestoreAll), Calls{});
 }
 
 TEST_F(MinimizeAndRestoreAll, BulkChangeTakesTheOwnerInsteadOfWhatItOwns) {
@@ -87,11 +90,19 @@ TEST_F(MinimizeAndRestoreAll, BulkChangeTakesTheOwnerInsteadOfWhatItOwns) {
   EXPECT_EQ(ChangesOf(kMinimizeAll), Calls{"ShowWindowAsync(Holder, SW_MINIMIZE)"});
 }
 
+TEST_F(MinimizeAndRestoreAll, RestoreAllLeavesAWindowAloneWhoseOwnerHasAMinimizeBox) {
+  const WindowHandle holder = desktop.Open("Holder");
+  desktop.Open("Owned", {.owner = holder, .iconic = true});
+  desktop.Hide(mainWindow.handle);
+  EXPECT_EQ(ChangesOf(kRestoreAll), Calls{});
+}
+
 TEST_F(MinimizeAndRestoreAll, BulkChangeTakesAWindowWhoseOwnerHasNoMinimizeBox) {
   const WindowHandle holder = desktop.Open("Holder", {.style = kWithoutMinimizeBox});
   desktop.Open("Owned", {.owner = holder});
   desktop.Hide(mainWindow.handle);
   EXPECT_EQ(ChangesOf(kMinimizeAll), Calls{"ShowWindowAsync(Owned, SW_MINIMIZE)"});
+  EXPECT_EQ(ChangesOf(kRestoreAll), Calls{"ShowWindowAsync(Owned, SW_RESTORE)"});
 }
 
 TEST_F(MinimizeAndRestoreAll, MinimizeAllLeavesTheShellAlone) {

@@ -32,10 +32,12 @@ TEST_F(WindowEnumerationTest, CallbackAlwaysAsksForMore) {
 
 TEST_F(WindowEnumerationTest, NoModeActsOnAWindowThatIsNotSelectable) {
   AddTag(1, "Alpha");
-  const WindowHandle hwnd = desktop.Open("Alpha", {.className = "Progman"});
-  for (std::int32_t mode = 0; mode <= 8; ++mode) {
-    enumeration.EnumWindowsProc(hwnd, mode,
-                                [&](SeenWindow&) { ADD_FAILURE() << "handed over in " << mode; });
+  for (const bool iconic : {false, true}) {
+    const WindowHandle hwnd = desktop.Open("Alpha", {.className = "Progman", .iconic = iconic});
+    for (std::int32_t mode = 0; mode <= 8; ++mode) {
+      enumeration.EnumWindowsProc(hwnd, mode,
+                                  [&](SeenWindow&) { ADD_FAILURE() << "handed over in " << mode; });
+    }
   }
   EXPECT_EQ(HandleOfTag(1), 0);
   EXPECT_EQ(log.Take(), Calls{});
