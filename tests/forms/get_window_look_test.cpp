@@ -154,35 +154,37 @@ TEST_F(AddNotesTest, LooksAsTheWindowMenuOpensIt) {
   }
 }
 
-/// A control with its index in an array and its caption.
-using DesignedControl = std::tuple<std::string, int, std::string>;
+/// A control's kind, name, index in an array and caption.
+using DesignedControl = std::tuple<ControlKind, std::string, int, std::string>;
 
-TEST(AddWindowDesign, HasItsControlsInTheirOrderWithTheirCaptions) {
+TEST(AddWindowDesign, HasItsControlsInTheirOrderWithTheirKindsAndCaptions) {
+  using enum ControlKind;
   std::vector<DesignedControl> designed;
   for (const ControlRow& row : GetWindowDesign().controls) {
-    designed.emplace_back(row.name, row.index, row.caption);
+    designed.emplace_back(row.kind, row.name, row.index, row.caption);
   }
-  EXPECT_EQ(designed,
-            (std::vector<DesignedControl>{
-                {"txtWindowClass", -1, ""},
-                {"txtWindow", -1, ""},
-                {"cboChildWindow", -1, ""},
-                {"chkChildWindow", -1, "assign this Hot Key to a Child window of the Parent"},
-                {"cboWindow", -1, ""},
-                {"optWindow", 0, ""},
-                {"optWindow", 1, "*Left*"},
-                {"optWindow", 2, "*Right*"},
-                {"cmdOK", -1, "OK"},
-                {"cmdClose", -1, "Close"},
-                {"cmdRemove", -1, "&Remove"},
-                {"lblChildWindow", -1, "&Child Window"},
-                {"Line3", -1, ""},
-                {"lblWindow", -1, "*window caption here*"},
-                {"Line2", -1, ""},
-                {"Line1", -1, ""},
-                {"lblIdentifyWindow", -1, "Identify &Window  (Parent)"},
-                {"lblAssignHotKey", -1, "Assign a &Tag"},
-            }));
+  EXPECT_EQ(
+      designed,
+      (std::vector<DesignedControl>{
+          {kTextBox, "txtWindowClass", -1, ""},
+          {kTextBox, "txtWindow", -1, ""},
+          {kComboBox, "cboChildWindow", -1, ""},
+          {kCheckBox, "chkChildWindow", -1, "assign this Hot Key to a Child window of the Parent"},
+          {kDropDownList, "cboWindow", -1, ""},
+          {kOptionButton, "optWindow", 0, ""},
+          {kOptionButton, "optWindow", 1, "*Left*"},
+          {kOptionButton, "optWindow", 2, "*Right*"},
+          {kButton, "cmdOK", -1, "OK"},
+          {kButton, "cmdClose", -1, "Close"},
+          {kButton, "cmdRemove", -1, "&Remove"},
+          {kLabel, "lblChildWindow", -1, "&Child Window"},
+          {kLine, "Line3", -1, ""},
+          {kLabel, "lblWindow", -1, "*window caption here*"},
+          {kLine, "Line2", -1, ""},
+          {kLine, "Line1", -1, ""},
+          {kLabel, "lblIdentifyWindow", -1, "Identify &Window  (Parent)"},
+          {kLabel, "lblAssignHotKey", -1, "Assign a &Tag"},
+      }));
 }
 
 TEST_F(AddNotesTest, HasTheCaptionsOfItsButtonsAndLabels) {

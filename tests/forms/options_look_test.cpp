@@ -83,6 +83,16 @@ TEST_F(OpenOptionsLookTest, AClickOnTheLegendChoosesTheColour) {
   EXPECT_EQ(Record().colHotKeyEnabled, 0x112233);
 }
 
+TEST_F(OptionsLookTest, ThePaletteOpensWithTheColourOfTheLegend) {
+  Record().colHotKeyEnabled = 0x112233;
+  OpenDialog();
+  owner_.chosenColor = 0x445566;
+  ClickLegend();
+  EXPECT_EQ(owner_.palettes, std::vector<Color>{0x112233});
+  ClickLegend();
+  EXPECT_EQ(owner_.palettes, (std::vector<Color>{0x112233, 0x445566}));
+}
+
 TEST_F(OpenOptionsLookTest, ThePaletteOpensWhenTheButtonComesUpAndNotBefore) {
   const int legend = Id(dialog_, "lblLegend", 1);
   const auto palettesAfter = [&](MouseEvent event, MouseButton button) {
