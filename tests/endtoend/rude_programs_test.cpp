@@ -2,90 +2,22 @@
 // After windows.h, which it needs.
 #include <commctrl.h>
 
-#include <cstdint>
 #include <map>
-#include <random>
 #include <string>
 #include <vector>
 
 #include "tests/endtoend/harness/color_dialog.h"
 #include "tests/endtoend/harness/main_window.h"
 #include "tests/endtoend/korvale_test.h"
+#include "tests/endtoend/rude_messages.h"
 
 namespace korvale::endtoend {
 namespace {
 
 constexpr char kClass[] = "Test.Window";
 constexpr char kToolTips[] = "tooltips_class32";
-
-struct Rude {
-  UINT message;
-  WPARAM wparam;
-  LPARAM lparam;
-};
-
-/// What other programs must not send. Not listed is what they may send: asking a window to close,
-/// to paint, to take a text or a key, ending the session, and messages that stand for the user's
-/// own menu entry or button.
-std::vector<UINT> Queued() {
-  std::vector<UINT> messages = {
-      WM_CREATE,          WM_DESTROY,        WM_MOVE,          WM_SIZE,
-      WM_ACTIVATE,        WM_SETFOCUS,       WM_GETMINMAXINFO, WM_DRAWITEM,
-      WM_MEASUREITEM,     WM_DELETEITEM,     WM_COMPAREITEM,   WM_WINDOWPOSCHANGING,
-      WM_COPYDATA,        WM_NOTIFY,         WM_HELP,          WM_NCCREATE,
-      WM_NCDESTROY,       WM_COMMAND,        WM_TIMER,         WM_HOTKEY,
-      WM_INITMENUPOPUP,   WM_MENUSELECT,     WM_ENTERMENULOOP, WM_CTLCOLOREDIT,
-      WM_CTLCOLORBTN,     WM_CTLCOLORSTATIC, WM_SIZING,        WM_DPICHANGED,
-      WM_SETCURSOR,       WM_SYSCOLORCHANGE, WM_APP,           WM_APP + 1,
-      TTM_ADDTOOLW,       TTM_RELAYEVENT,    TCM_INSERTITEMW,  TCM_SETITEMW,
-      BCM_GETIDEALSIZE,   EM_SETCUEBANNER,   CB_SETCUEBANNER,  EM_SETWORDBREAKPROC,
-      WM_INITDIALOG,      CB_SETITEMHEIGHT,  CB_INITSTORAGE,   CB_GETCOMBOBOXINFO,
-      CB_SETDROPPEDWIDTH, STM_SETICON,       STM_SETIMAGE,     LB_INITSTORAGE};
-  messages.push_back(RegisterWindowMessageW(L"Korvale.ListClosed"));
-  return messages;
-}
-
-/// Those whose parameters the system hands on as they are.
-std::vector<UINT> Sent() {
-  std::vector<UINT> messages = {
-      WM_DESTROY,        WM_NCDESTROY,       WM_ACTIVATE,     WM_SETFOCUS,      WM_COMMAND,
-      WM_TIMER,          WM_HOTKEY,          WM_MENUSELECT,   WM_ENTERMENULOOP, WM_CTLCOLOREDIT,
-      WM_CTLCOLORSTATIC, WM_DPICHANGED,      WM_APP,          WM_APP + 1,       TCM_INSERTITEMW,
-      TCM_SETITEMW,      BCM_GETIDEALSIZE,   EM_SETCUEBANNER, TTM_ADDTOOLW,     TTM_GETTEXTW,
-      WM_INITDIALOG,     EM_SETWORDBREAKPROC};
-  messages.push_back(RegisterWindowMessageW(L"Korvale.ListClosed"));
-  return messages;
-}
-
-/// A message that has the same effect as an action of the user.
-bool MayBeMeant(const Rude& rude) {
-  const bool button = rude.message == WM_COMMAND && LOWORD(rude.wparam) >= IDOK &&
-                      LOWORD(rude.wparam) <= IDCONTINUE;
-  const bool menuEntry = rude.message == WM_COMMAND && rude.lparam == 0 &&
-                         LOWORD(rude.wparam) >= 0x1000 && LOWORD(rude.wparam) < 0xE000;
-  return button || menuEntry;
-}
-
-/// Controls get fewer values than the windows that hold them: there are many.
-std::vector<Rude> WithEachValue(const std::vector<UINT>& messages, bool control) {
-  std::vector<std::uint64_t> values = {64, ~std::uint64_t{0}};
-  if (!control) {
-    std::mt19937_64 dice(20);
-    for (const std::uint64_t more : {0ULL, 1ULL, 19ULL, 0x7FFFFFFFULL, dice() >> 32U, dice()}) {
-      values.push_back(more);
-    }
-  }
-  std::vector<Rude> all;
-  for (const UINT message : messages) {
-    for (const std::uint64_t first : values) {
-      for (const std::uint64_t second : values) {
-        const Rude rude{message, first, static_cast<LPARAM>(second)};
-        if (!MayBeMeant(rude)) all.push_back(rude);
-      }
-    }
-  }
-  return all;
-}
+/// The main window and its two boxes.
+constexpr std::size_t kFewestWindows = 3;
 
 /// What the program shows; the system keeps windows of its own in every program as well.
 bool IsShownByProgram(Window window) {
@@ -109,6 +41,30 @@ BOOL CALLBACK CollectChild(HWND child, LPARAM windows) {
   return TRUE;
 }
 
+std::vector<Window> ControlsOf(Window form) {
+  std::vector<Window> controls;
+  EnumChildWindows(form.handle(), CollectChild, reinterpret_cast<LPARAM>(&controls));
+  return controls;
+}
+
+/// What the user has chosen in a control, beside its text.
+LRESULT ChoiceIn(Window control) {
+  const std::string kind = control.ClassName();
+  if (kind == "Button") return control.Send(BM_GETCHECK);
+  if (kind == "ComboBox") return control.Send(CB_GETCURSEL);
+  return kind == "SysTabControl32" ? control.Send(TCM_GETCURSEL) : 0;
+}
+
+/// The text and the choice of every control, whichever page is on the screen.
+std::vector<std::string> ContentsOf(Window form) {
+  std::vector<std::string> contents;
+  for (const Window control : ControlsOf(form)) {
+    contents.push_back(control.ClassName() + " [" + control.Text() + "] " +
+                       std::to_string(ChoiceIn(control)));
+  }
+  return contents;
+}
+
 class RudePrograms : public KorvaleTest {
  protected:
   /// Every window of the program, including those that are never shown and all controls.
@@ -117,14 +73,17 @@ class RudePrograms : public KorvaleTest {
     for (const Window window : TopLevelWindows()) {
       if (window.ProcessId() != main().ProcessId() || !IsShownByProgram(window)) continue;
       all.push_back(window);
-      EnumChildWindows(window.handle(), CollectChild, reinterpret_cast<LPARAM>(&all));
+      const std::vector<Window> controls = ControlsOf(window);
+      all.insert(all.end(), controls.begin(), controls.end());
     }
     EXPECT_FALSE(all.empty());
     return all;
   }
 
   void Post() {
-    for (const Window window : AllWindows()) {
+    const std::vector<Window> windows = AllWindows();
+    ASSERT_GE(windows.size(), kFewestWindows);
+    for (const Window window : windows) {
       for (const Rude& rude : WithEachValue(Queued(), IsControl(window))) {
         PostMessageW(window.handle(), rude.message, rude.wparam, rude.lparam);
       }
@@ -133,7 +92,9 @@ class RudePrograms : public KorvaleTest {
   }
 
   void Send() {
-    for (const Window window : AllWindows()) {
+    const std::vector<Window> windows = AllWindows();
+    ASSERT_GE(windows.size(), kFewestWindows);
+    for (const Window window : windows) {
       for (const Rude& rude : WithEachValue(Sent(), IsControl(window))) {
         window.Send(rude.message, rude.wparam, rude.lparam);
         ASSERT_TRUE(window.Exists()) << rude.message;
@@ -182,10 +143,17 @@ class RudePrograms : public KorvaleTest {
 };
 
 TEST_F(RudePrograms, ChangeNothingInTheMainWindow) {
+  Start();
+  ASSERT_TRUE(Exit());
+  const auto startup = installation_.settings().Section("Startup");
+  ASSERT_EQ(startup.size(), 14U);
   StartWithTags();
   PostAndSend();
   EXPECT_TRUE(InFront(alpha_));
+  EXPECT_EQ(MainWindow(main()).TitleBox().Text(), "Alpha");
+  EXPECT_EQ(MainWindow(main()).ClassBox().Text(), kClass);
   ExpectAllToWork();
+  EXPECT_EQ(installation_.settings().Section("Startup"), startup);
 }
 
 TEST_F(RudePrograms, ChangeNothingInTheOptionsDialog) {
@@ -194,8 +162,11 @@ TEST_F(RudePrograms, ChangeNothingInTheOptionsDialog) {
   const Window options = korvale_->Form("frmOptions");
   ASSERT_TRUE(options);
   ASSERT_TRUE(InFront(options));
+  const std::vector<std::string> contents = ContentsOf(options);
+  ASSERT_GT(contents.size(), 70U);
   PostAndSend();
   EXPECT_TRUE(InFront(options));
+  EXPECT_EQ(ContentsOf(options), contents);
   Press({0, VK_ESCAPE});
   EXPECT_TRUE(WaitFor([&] { return !korvale_->HasForm("frmOptions"); }));
   ASSERT_TRUE(WorkIn(alpha_));
@@ -205,9 +176,12 @@ TEST_F(RudePrograms, ChangeNothingInTheOptionsDialog) {
 TEST_F(RudePrograms, ChangeNothingInTheAddWindowDialog) {
   StartWithTags();
   const AddWindowDialog dialog = OpenAddWindow();
-  const std::string tag = dialog.SelectedTag();
+  const std::vector<std::string> contents = ContentsOf(dialog.form());
+  ASSERT_GT(contents.size(), 10U);
+  EXPECT_EQ(dialog.SelectedTag(), "3");
+  EXPECT_EQ(dialog.TitleBox().Text(), "Alpha");
   PostAndSend();
-  EXPECT_EQ(dialog.SelectedTag(), tag);
+  EXPECT_EQ(ContentsOf(dialog.form()), contents);
   // The text box looks for the words of its title.
   Press({MOD_ALT, 'P'});
   Press({MOD_CONTROL, VK_LEFT});
@@ -287,15 +261,15 @@ TEST_F(RudePrograms, ReachNoMenuAndNoMoveThatFollowsAQuietTime) {
 TEST_F(RudePrograms, DoNotSwitchToolTipsOff) {
   Start();
   ASSERT_TRUE(korvale_->ShowsToolTip(MainWindow(main()).ClassBox(), " Class of Target Window "));
-  int tool_tips = 0;
+  int toolTips = 0;
   for (const Window window : AllWindows()) {
     if (window.ClassName() != kToolTips) continue;
-    ++tool_tips;
+    ++toolTips;
     PostMessageW(window.handle(), TTM_ACTIVATE, FALSE, 0);
     window.Send(TTM_ACTIVATE, FALSE);
     window.Send(TTM_SETDELAYTIME, TTDT_INITIAL, 30000);
   }
-  ASSERT_GT(tool_tips, 0);
+  ASSERT_GT(toolTips, 0);
   EXPECT_TRUE(korvale_->ShowsToolTip(MainWindow(main()).TitleBox(), " Target Window "));
 }
 
