@@ -6,6 +6,10 @@ say() { printf '\n== %s\n' "$*"; }
 # Lets ccache keep what was compiled with precompiled headers.
 export CCACHE_SLOPPINESS=pch_defines,time_macros
 
+# The time that builds write into what they make: the same commit gives the same bytes.
+SOURCE_DATE_EPOCH=$(git log -1 --format=%ct)
+export SOURCE_DATE_EPOCH
+
 # configure PRESET [options...]: with ccache in front of the compiler when it is installed.
 configure() {
   local preset=$1
