@@ -14,6 +14,7 @@ make_installer() {
 # version, and sets the variables by which the tests find these and the new installer.
 prepare_packages() {
   local folder=$1 setup
+  [ -f dist/SHA256SUMS ] || { echo "script/package first" >&2; return 1; }
   rm -rf "$folder"
   mkdir -p "$folder"
   python3 -m zipfile -e dist/Korvale-*-win64.zip "$folder/unpacked" || return

@@ -6,6 +6,7 @@
 #include <fstream>
 #include <system_error>
 
+#include "tests/endtoend/harness/environment.h"
 #include "tests/endtoend/harness/text.h"
 #include "tests/endtoend/harness/wait.h"
 
@@ -13,12 +14,6 @@ namespace korvale::endtoend {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string Environment(const wchar_t* name) {
-  std::wstring buffer(1024, L'\0');
-  buffer.resize(GetEnvironmentVariableW(name, buffer.data(), static_cast<DWORD>(buffer.size())));
-  return Utf8(buffer);
-}
 
 }  // namespace
 

@@ -1,0 +1,195 @@
+#include "tests/endtoend/setup_test.h"
+
+#include <stdexcept>
+
+namespace korvale::endtoend {
+
+using ::testing::AssertionFailure;
+using ::testing::AssertionResult;
+using ::testing::AssertionSuccess;
+
+void SetupTest::SetUp() {
+  if (SetupProgram().empty()) GTEST_SKIP() << "KORVALE_SETUP names no setup program";
+}
+
+void SetupTest::Use(const Installed& place) {
+  place.settings().Set("Options", "SplashScreen", "False");
+  place.settings().Set("Startup", "DisplayTips", "False");
+  korvale_.emplace(installation_, OtherPath{"installed", place.folder()});
+  if (!InFront(main())) throw std::runtime_error("the main window is not in front");
+}
+
+Window SetupTest::TagNew(const char* title, int tag) {
+  const Window window = WorkInNew(title);
+  const AddWindowDialog dialog = OpenAddWindow();
+  EXPECT_TRUE(dialog.SelectTag(tag));
+  EXPECT_TRUE(dialog.Confirm());
+  EXPECT_TRUE(InFront(main()));
+  return window;
+}
+
+AssertionResult SetupTest::Closed() {
+  if (korvale_->process().WaitForExit() == 0U) return AssertionSuccess();
+  return AssertionFailure() << "the copy still runs or did not end with code 0";
+}
+
+namespace {
+
+using SilentSetup = SetupTest;
+
+TEST_F(SilentSetup, InstallsForTheUserUnderTheNameOfTheFolder) {
+  const Installed work;
+  ASSERT_EQ(work.Install(), 0U);
+  for (const char* const file : {"Korvale.exe", "README.txt", "LICENSE.txt", "web\\help.html"}) {
+    EXPECT_TRUE(work.Has(file)) << file;
+  }
+  const std::string folder = work.folder().substr(0, work.folder().size() - 1);
+  std::map<std::string, std::string> entry = work.Entry();
+  EXPECT_GT(std::stoi(entry["EstimatedSize"]), 400);
+  entry.erase("EstimatedSize");
+  EXPECT_EQ(entry, (std::map<std::string, std::string>{
+                       {"DisplayName", "Korvale - Work"},
+                       {"DisplayVersion", KORVALE_VERSION},
+                       {"DisplayIcon", work.program()},
+                       {"Publisher", "The Korvale developers"},
+                       {"InstallLocation", folder},
+                       {"UninstallString", Quoted(folder + "\\Uninstall.exe")},
+                       {"QuietUninstallString", Quoted(folder + "\\Uninstall.exe") + " /S"}}));
+  EXPECT_TRUE(work.HasShortcut());
+  EXPECT_EQ(work.StartedWithWindows(), "");
+  EXPECT_FALSE(work.Runs());
+  Use(work);
+  EXPECT_EQ(main().Title(), "Korvale - Work");
+}
+
+TEST_F(SilentSetup, UpdatesARunningCopyThatKeepsItsTagsAndOptions) {
+  const Installed work;
+  ASSERT_EQ(work.Install(OlderSetupProgram()), 0U);
+  EXPECT_EQ(work.Entry()["DisplayVersion"], "0.9.0");
+  ASSERT_TRUE(work.Has("web\\older.html"));
+  work.settings().Set("Options", "HotKeyModParent", "2");
+  Use(work);
+  const Window alpha = TagNew("Alpha", 3);
+  ASSERT_EQ(work.Install(), 0U);
+  EXPECT_TRUE(Closed());
+  EXPECT_EQ(work.Entry()["DisplayVersion"], KORVALE_VERSION);
+  EXPECT_FALSE(work.Has("web\\older.html"));
+  EXPECT_TRUE(work.Has("web\\help.html"));
+  const Window again = work.Main();
+  ASSERT_TRUE(InFront(again));
+  EXPECT_NE(again.ProcessId(), korvale_->process().id());
+  Press({MOD_CONTROL, '3'});
+  EXPECT_TRUE(InFront(alpha));
+  EXPECT_EQ(work.settings().Get("Options", "HotKeyModParent"), "2");
+}
+
+TEST_F(SilentSetup, StartsNoCopyThatDidNotRun) {
+  const Installed work;
+  ASSERT_EQ(work.Install(OlderSetupProgram()), 0U);
+  ASSERT_EQ(work.Install(), 0U);
+  EXPECT_TRUE(HoldsFor([&] { return !work.Runs(); }));
+}
+
+TEST_F(SilentSetup, InASecondFolderMakesASecondInstallation) {
+  const Installed work("Work");
+  const Installed play("Игра & 遊び");
+  ASSERT_EQ(work.Install(), 0U);
+  ASSERT_EQ(play.Install(), 0U);
+  EXPECT_EQ(play.Entry()["DisplayName"], "Korvale - Игра & 遊び");
+  EXPECT_TRUE(play.HasShortcut());
+  ASSERT_TRUE(play.Remove());
+  EXPECT_FALSE(play.HasShortcut());
+  EXPECT_FALSE(play.Has(""));
+  EXPECT_TRUE(work.HasShortcut());
+  EXPECT_EQ(work.Entry()["DisplayName"], "Korvale - Work");
+  EXPECT_TRUE(work.Has("Korvale.exe"));
+}
+
+TEST_F(SilentSetup, FindsTheInstallationNamedKorvaleByItself) {
+  const Installed korvale("Korvale");
+  ASSERT_EQ(korvale.Install(OlderSetupProgram()), 0U);
+  EXPECT_EQ(korvale.Entry()["DisplayName"], "Korvale");
+  EXPECT_TRUE(korvale.HasShortcut());
+  const AsWindows10 supported(SetupProgram());
+  EXPECT_EQ(Process(Quoted(SetupProgram()) + " /S").WaitForExit(), 0U);
+  EXPECT_EQ(korvale.Entry()["DisplayVersion"], KORVALE_VERSION);
+  EXPECT_EQ(korvale.Entry()["DisplayIcon"], korvale.program());
+}
+
+TEST_F(SilentSetup, RefusesASecondFolderOfTheSameName) {
+  const Installed work;
+  const Installed twin;
+  ASSERT_EQ(work.Install(), 0U);
+  EXPECT_EQ(twin.Install(), 2U);
+  EXPECT_FALSE(twin.Has("Korvale.exe"));
+  EXPECT_EQ(work.Entry()["DisplayIcon"], work.program());
+}
+
+TEST_F(SilentSetup, LeavesTheFilesOfOthersAlone) {
+  const Installed work;
+  work.Put("web\\help.html", "mine");
+  EXPECT_EQ(work.Install(), 2U);
+  EXPECT_EQ(work.Read("web\\help.html"), "mine");
+  const Installed play("Play");
+  play.Put("notes.txt", "mine");
+  play.Put("Korvale.exe", "unpacked");
+  ASSERT_EQ(play.Install(), 0U);
+  play.Put("web\\notes.txt", "mine");
+  ASSERT_TRUE(play.Remove());
+  EXPECT_EQ(play.Read("notes.txt"), "mine");
+  EXPECT_EQ(play.Read("web\\notes.txt"), "mine");
+  EXPECT_FALSE(play.Has("Korvale.exe"));
+  EXPECT_FALSE(play.Has("web\\help.html"));
+}
+
+TEST_F(SilentSetup, RefusesAWindowsThatIsTooOld) {
+  if (!RunsUnderWine()) GTEST_SKIP() << "Windows does not pretend to be another one";
+  const Installed work;
+  // Wine says that it is Windows 7.
+  EXPECT_EQ(Process(Quoted(SetupProgram()) + " /S /D=" + work.folder()).WaitForExit(), 2U);
+  EXPECT_FALSE(work.Has(""));
+}
+
+TEST_F(SilentSetup, KeepsTheSettingsOfWhatItRemoves) {
+  const Installed work;
+  ASSERT_EQ(work.Install(), 0U);
+  Use(work);
+  TagNew("Alpha", 3);
+  work.Put("Error.log", "");
+  ASSERT_TRUE(work.Remove());
+  EXPECT_TRUE(Closed());
+  EXPECT_FALSE(work.Has(""));
+  EXPECT_FALSE(work.HasShortcut());
+  EXPECT_EQ(work.settings().Get("ParentWindowList", "3"), "&3  Alpha");
+  EXPECT_NE(work.RegisteredFolder(), std::nullopt);
+}
+
+TEST_F(SilentSetup, RemovesOnlyItsOwnSettingsWhenAskedTo) {
+  const Installed work("Work");
+  const Installed play("Play");
+  ASSERT_EQ(work.Install(), 0U);
+  Use(work);
+  ASSERT_TRUE(Exit());
+  play.settings().Set("Options", "SplashScreen", "False");
+  StoredSettings("Korvale Installations").Set("0", play.name(), play.folder());
+  ASSERT_TRUE(work.Remove(" /SETTINGS"));
+  EXPECT_EQ(work.settings().Sections(), std::vector<std::string>());
+  EXPECT_EQ(work.RegisteredFolder(), std::nullopt);
+  EXPECT_EQ(play.settings().Get("Options", "SplashScreen"), "False");
+  EXPECT_EQ(play.RegisteredFolder(), play.folder());
+}
+
+TEST_F(SilentSetup, KeepsTheSettingsOfAnInstallationThatHasMoved) {
+  const Installed work;
+  const Installed moved;
+  ASSERT_EQ(work.Install(), 0U);
+  moved.Put("Korvale.exe", "moved");
+  moved.settings().Set("Options", "SplashScreen", "False");
+  StoredSettings("Korvale Installations").Set("0", moved.name(), moved.folder());
+  ASSERT_TRUE(work.Remove(" /SETTINGS"));
+  EXPECT_EQ(moved.settings().Get("Options", "SplashScreen"), "False");
+  EXPECT_EQ(moved.RegisteredFolder(), moved.folder());
+}
+
+}  // namespace
+}  // namespace korvale::endtoend
