@@ -92,6 +92,18 @@ INSTANTIATE_TEST_SUITE_P(
                     Case{"Emoji", "*** - 👩‍💻", "🦊 - x - 👩‍💻", true}),
     [](const auto& param) { return param.param.name; });
 
+// The table of README.md and of web/help.html.
+INSTANTIATE_TEST_SUITE_P(
+    ExampleOfTheReadme, TitleMatch,
+    testing::Values(Case{"RightPart", "*** - Notepad", "Notes.txt - Notepad", true},
+                    Case{"RightPartOfAnother", "*** - Notepad", "Letter.txt - Notepad", true},
+                    Case{"NotTheRightPart", "*** - Notepad", "Notepad - Help", false},
+                    Case{"LeftPart", "Inbox - ***", "Inbox - Anna - Mail", true},
+                    Case{"NotTheLeftPart", "Inbox - ***", "Inbox (3) - Anna - Mail", false},
+                    Case{"Typed", "Budget", "Budget 2027.ods - Sheets", true},
+                    Case{"TypedInTheMiddle", "Budget", "Old Budget - Notes", true},
+                    Case{"NotTyped", "Budget", "budget.txt - Notepad", false}));
+
 TEST(TitleMatchOfCaption, KeepsTheWholeCaptionWhenNotToldToStripIt) {
   EXPECT_FALSE(TitleMatches("&3  Notepad", "Notepad", false));
   EXPECT_TRUE(TitleMatches("&3  Notepad", "Notepad", true));

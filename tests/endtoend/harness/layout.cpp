@@ -120,6 +120,13 @@ std::string FlawOf(Window form, int textHeight) {
   return flaw;
 }
 
+void Place(Window window, int left, int top, int width, int height) {
+  const auto dpi = static_cast<int>(GetDpiForSystem());
+  const auto scaled = [dpi](int length) { return MulDiv(length, dpi, 96); };
+  SetWindowPos(window.handle(), nullptr, scaled(left), scaled(top), scaled(width), scaled(height),
+               SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 SIZE SizeOf(Window window) {
   const RECT area = AreaOf(window);
   return {area.right - area.left, area.bottom - area.top};

@@ -10,6 +10,9 @@ namespace korvale::endtoend {
 /// controls on top of each other, or a part outside of the work area. "" when all is well.
 std::string FlawOf(Window form, int textHeight);
 
+/// Moves a window to a place in inches of 96 dots, whatever the screen's dots are.
+void Place(Window window, int left, int top, int width, int height);
+
 /// The size of a window on the screen.
 SIZE SizeOf(Window window);
 

@@ -54,7 +54,9 @@ RealProgram::RealProgram(const std::vector<std::string>& commands)
   }
 }
 
-RealProgram StartNotepad() { return RealProgram({"notepad.exe"}); }
+RealProgram StartNotepad(const std::string& document) {
+  return RealProgram({document.empty() ? "notepad.exe" : "notepad.exe " + Quoted(document)});
+}
 
 RealProgram StartWordPad() {
   return RealProgram(

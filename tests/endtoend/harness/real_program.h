@@ -24,7 +24,7 @@ class RealProgram {
 };
 
 /// The programs of the tour.
-RealProgram StartNotepad();
+RealProgram StartNotepad(const std::string& document = "");
 RealProgram StartWordPad();
 RealProgram StartRegistryEditor();
 /// A program whose window has no child windows.

@@ -1,6 +1,8 @@
 #include "tests/endtoend/tour/report.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <fstream>
 #include <iomanip>
 #include <iostream>
 #include <sstream>
@@ -28,6 +30,7 @@ void Report::Line(const std::string& what, const std::string& time, bool worked)
   std::cout << (worked ? "  ok    " : "  FAIL  ") << std::left << std::setw(kTextWidth) << what
             << std::right << std::setw(10) << time << "   in front: " << Foreground().Title()
             << std::endl;
+  said_ = what;
   if (worked) return;
   ++failures_;
   Picture("failure-" + std::to_string(failures_));
@@ -63,7 +66,10 @@ void Report::KeyDoesNothing(const std::string& what, Chord chord) {
 
 void Report::Picture(const std::string& name) {
   ScreenComesToRest();
-  if (TakePicture(name)) std::cout << "        picture: " << name << ".png" << std::endl;
+  const char* const folder = std::getenv("KORVALE_PICTURES");
+  if (folder == nullptr || !TakePicture(name)) return;
+  std::ofstream(std::string(folder) + "\\" + name + ".txt") << said_;
+  std::cout << "        picture: " << name << ".png" << std::endl;
 }
 
 int Report::Finish() const {

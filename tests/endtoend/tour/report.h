@@ -22,7 +22,7 @@ class Report {
   void KeyUntil(const std::string& what, Chord chord, const std::function<bool()>& done);
   /// Presses the key; nothing else may come to the front for three ticks.
   void KeyDoesNothing(const std::string& what, Chord chord);
-  /// A picture of the screen, when somebody takes them.
+  /// A picture of the screen, when somebody takes them, and what the last line said beside it.
   void Picture(const std::string& name);
 
   /// Median and worst; 0 when every step worked, else 1.
@@ -32,6 +32,7 @@ class Report {
   double TimeKey(Chord chord, const std::function<bool()>& done, bool& worked) const;
   void Line(const std::string& what, const std::string& time, bool worked);
 
+  std::string said_;
   std::vector<double> times_;
   int failures_ = 0;
 };

@@ -1,7 +1,9 @@
 #include "tests/endtoend/tour/tour.h"
 
 #include <algorithm>
+#include <fstream>
 
+#include "tests/endtoend/harness/layout.h"
 #include "tests/endtoend/harness/wait.h"
 
 namespace korvale::endtoend {
@@ -45,12 +47,24 @@ void Tour::OpenPrograms() {
   mines_.emplace(StartMineGame());
   report_.Step("a program without child windows",
                BringToFront(mines_->window()) && mines_->window().Children().empty());
-  notepad_.emplace(StartNotepad());
+  OpenNotepad("Notes", "Alt+3 comes here, from anywhere.");
   report_.Step("Notepad", BringToFront(notepad_->window()));
   others_.emplace();
   for (int number = 1; CountOpenWindows() + 1 < kOpenWindows; ++number) {
-    others_->Open({.title = "Window " + std::to_string(number)});
+    const Window window = others_->Open({.title = "Window " + std::to_string(number)});
+    Place(window, 150 + 8 * number, 30 + 8 * number, 300, 200);
   }
+  // Every one of them can be seen behind the others.
+  Place(regedit_->window(), 30, 250, 560, 360);
+  Place(wordpad_->window(), 60, 60, 560, 330);
+  Place(mines_->window(), 760, 50, 160, 220);
+}
+
+void Tour::OpenNotepad(const std::string& name, const std::string& text) {
+  const std::string document = documents_.path() + name + ".txt";
+  std::ofstream(document) << text << "\n";
+  notepad_.emplace(StartNotepad(document));
+  Place(notepad_->window(), 390, 260, 540, 330);
 }
 
 bool Tour::StartKorvale() {
@@ -91,11 +105,12 @@ AddWindowDialog Tour::OpenAddWindow(const std::string& picture) {
 void Tour::TagNotepad() {
   report_.Headline("Tag 3 for Notepad, by the right part of its title");
   WorkIn("Notepad", notepad_->window());
+  report_.Picture("notepad");
   BringToFront(korvale_->Main());
   report_.Picture("main-window");
   const AddWindowDialog dialog = OpenAddWindow("");
   report_.Step("3 selects Tag 3", dialog.SelectTag(3));
-  report_.Step("the right part is chosen", dialog.Choose(2));
+  report_.Step("*** - Notepad is chosen: whatever its document", dialog.Choose(2));
   report_.Picture("dialog");
   report_.Step("Enter adds it", dialog.Confirm());
   const auto main_is_back = [&] { return Foreground() == korvale_->Main(); };
@@ -106,10 +121,13 @@ void Tour::TagNotepad() {
 void Tour::UseTheTag() {
   report_.Headline("Work elsewhere, come back with a key");
   WorkIn("WordPad", wordpad_->window());
+  report_.Picture("wordpad");
   report_.KeyToFront("Alt+3: Notepad", TagKey(3), notepad_->window());
   Seen(notepad_->window());
+  report_.Picture("tag");
   report_.KeyToFront("Alt+0: back to WordPad", TagKey(0), wordpad_->window());
   Seen(wordpad_->window());
+  report_.Picture("way-back");
   report_.KeyToFront("Alt+0: and to Notepad again", TagKey(0), notepad_->window());
   Seen(notepad_->window());
 }
@@ -138,24 +156,27 @@ void Tour::UseThePopUp() {
   report_.Step("Notepad is no longer minimized",
                WaitFor([&] { return !notepad_->window().Minimized(); }));
   Seen(notepad_->window());
+  report_.Picture("from-pop-up");
 }
 
 void Tour::CloseAndReopen() {
-  report_.Headline("Close Notepad, open it again");
+  report_.Headline("Close Notepad, open it again with another document");
   const Window closed = notepad_->window();
   Press({MOD_ALT, VK_F4});
   report_.Step("Alt+F4 closes Notepad", WaitFor([&] { return !closed.Exists(); }));
   // Windows passes the foreground on to the next window, which can take a moment.
   WorkIn("WordPad", wordpad_->window());
-  report_.KeyUntil("Alt+3: it is not open", TagKey(3), [&] { return korvale_->HasMessageBox(); });
+  report_.KeyUntil("Alt+3: Notepad is not open", TagKey(3),
+                   [&] { return korvale_->HasMessageBox(); });
   const Window message = korvale_->MessageBox();
   report_.Picture("message");
   const std::string said = LabelText(message);
   report_.Step(said, AnswerBox(message, IDOK) || AnswerBox(message, IDCANCEL));
-  notepad_.emplace(StartNotepad());
+  OpenNotepad("Letter", "Another document: Tag 3 finds it all the same.");
   WorkIn("Registry Editor", regedit_->window());
-  report_.KeyToFront("Alt+3: the new Notepad", TagKey(3), notepad_->window());
+  report_.KeyToFront("Alt+3: Notepad with its new document", TagKey(3), notepad_->window());
   Seen(notepad_->window());
+  report_.Picture("reopened");
 }
 
 void Tour::Toggle(const std::string& what) {

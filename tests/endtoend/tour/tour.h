@@ -7,6 +7,7 @@
 
 #include "tests/endtoend/harness/add_window_dialog.h"
 #include "tests/endtoend/harness/color_dialog.h"
+#include "tests/endtoend/harness/files.h"
 #include "tests/endtoend/harness/installation.h"
 #include "tests/endtoend/harness/options_dialog.h"
 #include "tests/endtoend/harness/real_program.h"
@@ -26,6 +27,8 @@ class Tour {
 
  private:
   void OpenPrograms();
+  /// Opens Notepad with a document of that name and text.
+  void OpenNotepad(const std::string& name, const std::string& text);
   bool StartKorvale();
   void TagNotepad();
   void TagMineGame();
@@ -60,6 +63,7 @@ class Tour {
   void ColorTheBoxes(Rgb color);
 
   Report& report_;
+  TemporaryFolder documents_;
   Installation installation_{"Tour"};
   std::optional<TestProgram> others_;
   std::optional<RealProgram> notepad_;
