@@ -27,7 +27,7 @@ template <typename Condition>
 double TimeFromKey(int tag, const Condition& condition) {
   double asked = 0;
   const StopWatch watch;
-  endtoend::Press(endtoend::TagKey(tag));
+  endtoend::PressAtOnce(endtoend::TagKey(tag));
   while (watch.Milliseconds() < kLostMs) {
     // The window that comes forward goes first.
     Sleep(0);
@@ -74,9 +74,9 @@ void Switches::Flood(int count) {
   StandInLastTag();
   for (int done = 0; done < count; ++done) {
     const int tag = 1 + done % kTags;
-    endtoend::Press(endtoend::TagKey(tag));
+    endtoend::PressAtOnce(endtoend::TagKey(tag));
     while (!endtoend::WaitFor([&] { return endtoend::Foreground() == targets_.Tagged(tag); })) {
-      endtoend::Press(endtoend::TagKey(tag));
+      endtoend::PressAtOnce(endtoend::TagKey(tag));
       ++lostKeys_;
       if (++lost > kPatience) throw std::runtime_error("keys of " + subject_.name() + " are lost");
     }

@@ -63,9 +63,9 @@ TEST_F(BusyWindows, DoNotHoldUpTheMinimizeKey) {
   StartWithTags();
   ASSERT_TRUE(WorkIn(busy_));
   busy_program_.Hang();
-  Press(kMinimizeKey);
+  PressAtOnce(kMinimizeKey);
   EXPECT_TRUE(InFront(alpha_));
-  Press(TagKey(3));
+  PressAtOnce(TagKey(3));
   EXPECT_TRUE(InFront(beta_));
   EXPECT_FALSE(busy_.Minimized());
   busy_program_.Recover();
@@ -79,7 +79,7 @@ TEST_F(BusyWindows, DoNotHoldUpTheSwitchThatPutsThemOnTop) {
   busy_program_.Hang();
   Press({0, 'T'});
   EXPECT_TRUE(WaitFor([&] { return !korvale_->HasMenu(); }));
-  Press(TagKey(3));
+  PressAtOnce(TagKey(3));
   EXPECT_TRUE(InFront(beta_));
   EXPECT_FALSE(busy_.Topmost());
   busy_program_.Recover();

@@ -69,7 +69,7 @@ TEST_F(HotKeyFlood, OfATagWithoutAWindowShowsItsMessageAndOneNotice) {
 TEST_F(HotKeyFlood, OfATagLeadsToItsWindowBeforeWhatIsPressedNext) {
   StartBesideAlpha();
   Flood(2, kFlood / 100);
-  Press(kOptionsKey);
+  PressAtOnce(kOptionsKey);
   const Window options = korvale_->Form("frmOptions");
   ASSERT_TRUE(options);
   EXPECT_TRUE(InFront(options));
@@ -89,7 +89,7 @@ TEST_F(HotKeyFlood, DuringADragOfTheMainWindowLetsItEnd) {
   Drag(from, {from.x + 80, from.y + 60}, [&] {
     if (pressed) return;
     pressed = WaitFor([this] { return IsDragged(); });
-    Press(TagKey(2));
+    PressAtOnce(TagKey(2));
   });
   EXPECT_TRUE(pressed);
   EXPECT_TRUE(WaitFor([this] { return !IsDragged(); }));
@@ -103,7 +103,7 @@ TEST_F(HotKeyFlood, DuringAMoveOfTheMainWindowByTheKeyboardLeadsToTheWindow) {
   ASSERT_TRUE(BringToFront(main()));
   PostMessageW(main().handle(), WM_SYSCOMMAND, SC_MOVE, 0);
   ASSERT_TRUE(WaitFor([this] { return IsDragged(); }));
-  Press(TagKey(2));
+  PressAtOnce(TagKey(2));
   EXPECT_TRUE(InFront(alpha_));
   ASSERT_TRUE(BringToFront(main()));
   Press({0, VK_ESCAPE});
@@ -129,7 +129,7 @@ TEST_F(HotKeyElsewhere, DuringAMoveOfAnotherProgramsWindowByTheKeyboardLeadsToTh
   const Window window = StartInElsewhere();
   PostMessageW(window.handle(), WM_SYSCOMMAND, SC_MOVE, 0);
   ASSERT_TRUE(WaitFor([&] { return IsIn(GUI_INMOVESIZE, window); }));
-  Press(TagKey(2));
+  PressAtOnce(TagKey(2));
   EXPECT_TRUE(InFront(alpha_));
   EXPECT_FALSE(korvale_->HasMessageBox());
   ExpectKeysToWork();
@@ -141,7 +141,7 @@ TEST_F(HotKeyElsewhere, InAnotherProgramsMenuLeadsToTheWindow) {
   ASSERT_TRUE(WorkIn(notepad.window()));
   Press({MOD_ALT, 'F'});
   ASSERT_TRUE(WaitFor([&] { return IsIn(GUI_INMENUMODE, notepad.window()); }));
-  Press(TagKey(2));
+  PressAtOnce(TagKey(2));
   EXPECT_TRUE(InFront(alpha_));
   EXPECT_FALSE(korvale_->HasMessageBox());
   ExpectKeysToWork();

@@ -261,15 +261,15 @@ TEST_F(RudePrograms, ReachNoMenuAndNoMoveThatFollowsAQuietTime) {
 TEST_F(RudePrograms, DoNotSwitchToolTipsOff) {
   Start();
   ASSERT_TRUE(korvale_->ShowsToolTip(MainWindow(main()).ClassBox(), " Class of Target Window "));
-  int toolTips = 0;
+  int tool_tips = 0;
   for (const Window window : AllWindows()) {
     if (window.ClassName() != kToolTips) continue;
-    ++toolTips;
+    ++tool_tips;
     PostMessageW(window.handle(), TTM_ACTIVATE, FALSE, 0);
     window.Send(TTM_ACTIVATE, FALSE);
     window.Send(TTM_SETDELAYTIME, TTDT_INITIAL, 30000);
   }
-  ASSERT_GT(toolTips, 0);
+  ASSERT_GT(tool_tips, 0);
   EXPECT_TRUE(korvale_->ShowsToolTip(MainWindow(main()).TitleBox(), " Target Window "));
 }
 

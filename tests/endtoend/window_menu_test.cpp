@@ -128,7 +128,7 @@ TEST_F(WindowMenu, PoppedUpOverAnOpenMenuOfTheBarIsTheOnlyMenu) {
   ASSERT_TRUE(WorkIn(Open("Beta")));
   PutPointer({700, 300});
   ASSERT_TRUE(OpenWindowMenu());
-  Press(kMenuKey);
+  PressAtOnce(kMenuKey);
   EXPECT_TRUE(WaitFor([&] { return OpenMenus() == 1 && MenuIsAt(700, 300); }));
   Press({0, '3'});
   EXPECT_TRUE(InFront(alpha));
@@ -142,7 +142,7 @@ TEST_F(WindowMenu, PoppedUpAgainNeverShowsTwoMenus) {
   ASSERT_TRUE(PopUpWindowMenu());
   const Window first = korvale_->OpenMenu();
   PutPointer({700, 350});
-  Press(kMenuKey);
+  PressAtOnce(kMenuKey);
   EXPECT_TRUE(WaitFor([&] { return MenuIsAt(700, 350); }));
   EXPECT_FALSE(first.Visible());
   EXPECT_TRUE(HoldsFor([&] { return OpenMenus() == 1; }));
@@ -157,7 +157,7 @@ TEST_F(WindowMenu, ATagKeyClosesThePopUpAndSelectsItsWindow) {
   const Window alpha = Open("Alpha");
   ASSERT_TRUE(WorkIn(Open("Beta")));
   ASSERT_TRUE(PopUpWindowMenu());
-  Press(TagKey(3));
+  PressAtOnce(TagKey(3));
   EXPECT_TRUE(WaitFor([&] { return OpenMenus() == 0; }));
   EXPECT_TRUE(InFront(alpha));
   EXPECT_TRUE(StaysInFront(alpha));
@@ -171,8 +171,8 @@ TEST_F(WindowMenu, TwoTagKeysOverThePopUpSelectInTheirOrder) {
   const Window gamma = Open("Gamma");
   ASSERT_TRUE(WorkIn(Open("Beta")));
   ASSERT_TRUE(PopUpWindowMenu());
-  Press(TagKey(3));
-  Press(TagKey(4));
+  PressAtOnce(TagKey(3));
+  PressAtOnce(TagKey(4));
   EXPECT_TRUE(InFront(gamma));
   EXPECT_TRUE(WaitFor([&] { return OpenMenus() == 0; }));
   EXPECT_TRUE(StaysInFront(gamma));

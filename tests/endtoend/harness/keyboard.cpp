@@ -34,8 +34,17 @@ std::vector<WORD> KeysOf(Chord chord) {
   if ((chord.modifiers & MOD_SHIFT) != 0) keys.push_back(VK_SHIFT);
   if ((chord.modifiers & MOD_ALT) != 0) keys.push_back(VK_MENU);
   if ((chord.modifiers & MOD_WIN) != 0) keys.push_back(VK_LWIN);
-  keys.push_back(static_cast<WORD>(chord.key));
+  if (chord.key != 0) keys.push_back(static_cast<WORD>(chord.key));
   return keys;
+}
+
+// A sent message overtakes the keys that are under way, and only the call that answers it fetches
+// them: a program that has answered the second one has had them all.
+void LetForegroundNotice() {
+  const Window foreground = Foreground();
+  for (int times = 0; times < 3; ++times) {
+    if (!foreground.Responds()) return;
+  }
 }
 
 // SendInput counts positions in 65536ths of the screen.
@@ -75,7 +84,13 @@ HeldKeys::~HeldKeys() {
   Send(inputs);
 }
 
-void Press(Chord chord) { const HeldKeys held(chord); }
+void Press(Chord chord) {
+  const HeldKeys modifiers({chord.modifiers, 0});
+  if (chord.modifiers != 0) LetForegroundNotice();
+  PressAtOnce({0, chord.key});
+}
+
+void PressAtOnce(Chord chord) { const HeldKeys held(chord); }
 
 void Type(const std::string& text) {
   std::vector<INPUT> inputs;

@@ -13,7 +13,7 @@ namespace korvale::endtoend {
 /// Modifier bits as RegisterHotKey takes them: MOD_ALT, MOD_CONTROL, MOD_SHIFT, MOD_WIN.
 struct Chord {
   UINT modifiers = 0;
-  UINT key = 0;
+  UINT key = 0;  ///< 0 = the modifiers alone.
 };
 
 inline constexpr Chord kMinimizeKey{MOD_ALT, VK_DOWN};
@@ -43,8 +43,14 @@ class HeldKeys {
   std::vector<WORD> keys_;
 };
 
-/// Presses and releases a chord through SendInput: it reaches whatever is in front.
+/// Presses and releases a chord through SendInput: it reaches whatever is in front. Modifiers are
+/// down for a moment before the key comes, as a hand holds them: Wine hands out a hot key before the
+/// keys that made it, and a program that hears of Alt only once another one is in front believes it
+/// down from then on.
 void Press(Chord chord);
+
+/// The same without that moment, all in one.
+void PressAtOnce(Chord chord);
 
 /// Types text into whatever has the focus.
 void Type(const std::string& text);
