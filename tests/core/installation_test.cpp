@@ -134,7 +134,10 @@ TEST_F(InstallationTest, RootOfADriveIsAnInstallation) {
 
 TEST_F(RenamedInstallationTest, SettingsOfARenamedFolderAreOffered) {
   messages_.answers = {kNo};
+  std::optional<std::string> registered;
+  messages_.whileShown = [&](const ShownMessageBox& /*box*/) { registered = Registered(kWork); };
   const InstallationResult result = Run();
+  EXPECT_EQ(registered, "D:\\Tools\\Work") << "recorded before the question";
   EXPECT_EQ(messages_.shown,
             (std::vector<ShownMessageBox>{
                 {"Do you want to import common settings and options from Korvale - Old into this "

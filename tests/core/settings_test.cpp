@@ -7,7 +7,6 @@
 #include <string>
 #include <vector>
 
-#include "app/core/setting_rows.h"
 #include "tests/core/saves.h"
 #include "tests/fakes/call_log.h"
 #include "tests/fakes/fake_settings_store.h"
@@ -266,15 +265,6 @@ TEST_F(SettingsTest, OneValueInAnySectionCountsAsStored) {
   }
   store_.SaveSetting(kApp, "ButtonTags", "x", "");
   EXPECT_TRUE(settings_.NothingStored());
-}
-
-TEST(SettingRowsTest, NoKeyStandsTwice) {
-  std::vector<std::string> keys;
-  for (const auto& row : OptionRows()) keys.emplace_back(row.key);
-  for (const auto& row : StartupRows()) keys.emplace_back(row.key);
-  std::ranges::sort(keys);
-  EXPECT_EQ(keys.size(), 40U);
-  EXPECT_EQ(std::ranges::adjacent_find(keys), keys.end());
 }
 
 }  // namespace

@@ -147,7 +147,7 @@ bool FakeSettingsStore::RefusesNow(bool saves) {
   }
   came_to_refusal_ = true;
   if (refusal_ == Refusal::kOne) writes_before_refusal_.reset();
-  return refusal_ != Refusal::kSaves || saves;
+  return refusal_ != (saves ? Refusal::kDeletions : Refusal::kSaves);
 }
 
 bool FakeSettingsStore::BeginWrite(const std::string& call, bool saves) {

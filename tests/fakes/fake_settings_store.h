@@ -26,8 +26,8 @@ class FakeSettingsStore : public SettingsStore {
   void RefuseWrites(bool refuse) { refuse_writes_ = refuse; }
   /// Refuses to save this value from now on, and no other.
   void RefuseValue(const std::string& appName, const std::string& section, const std::string& key);
-  /// What is refused: one change, every change, or only saves, as on a full disk.
-  enum class Refusal { kOne, kAll, kSaves };
+  /// What is refused: one change, every change, only saves, as on a full disk, or only deletions.
+  enum class Refusal { kOne, kAll, kSaves, kDeletions };
   /// Lets this many changes through, then refuses.
   void RefuseAfterWrites(int writes, Refusal refusal);
   /// True once a change has come up that RefuseAfterWrites did not let through unlooked.

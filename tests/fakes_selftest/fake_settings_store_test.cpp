@@ -137,6 +137,18 @@ TEST(FakeSettingsStoreTest, RefusesFromAnyWriteOnEverythingOneChangeOrOnlySaves)
   }
 }
 
+TEST(FakeSettingsStoreTest, RefusesOnlyDeletionsFromAnyWriteOn) {
+  FakeSettingsStore store;
+  store.RefuseAfterWrites(1, FakeSettingsStore::Refusal::kDeletions);
+  EXPECT_TRUE(store.SaveSetting("App", "Options", "a", "1"));
+  EXPECT_FALSE(store.DeleteSetting("App", "Options", "a"));
+  EXPECT_TRUE(store.CameToRefusal());
+  EXPECT_TRUE(store.SaveSetting("App", "Options", "b", "1"));
+  EXPECT_FALSE(store.DeleteSection("App", "Options"));
+  store.RefuseNothing();
+  EXPECT_TRUE(store.DeleteSection("App", "Options"));
+}
+
 TEST(FakeSettingsStoreTest, LogsChangesAndOnRequestReads) {
   CallLog log;
   FakeSettingsStore store(log);
