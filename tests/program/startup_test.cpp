@@ -135,8 +135,8 @@ TEST_F(StartUpTest, StartUpKeepsItsOrder) {
   }
   StoreOption("SelectPrevWinOnStart", "True");
   korvale.system.commandLine = "/x";
-  std::string tips;
-  for (int tip = 0; tip < 3; ++tip) ReadTip(korvale, tips);
+  std::string tips[3];
+  for (std::string& tip : tips) ReadTip(korvale, tip);
   log.IncludeReads(true);
   log.Clear();
 
@@ -144,6 +144,9 @@ TEST_F(StartUpTest, StartUpKeepsItsOrder) {
 
   const std::vector<std::string> order = StartUpOrder();
   EXPECT_EQ(Order(order), order);
+  EXPECT_TRUE(tips[0].starts_with("Another instance of Korvale is currently running.")) << tips[0];
+  EXPECT_EQ(tips[1], "Korvale does not accept command line arguments.");
+  EXPECT_TRUE(tips[2].starts_with("These hot keys are not available, ")) << tips[2];
 }
 
 TEST_F(StartUpTest, TheTimerRunsBeforeTheHotKeysDo) {
