@@ -46,7 +46,7 @@ TEST_F(MainWindowState, MaximizedIsKeptOverEveryRestart) {
   EXPECT_TRUE(WaitFor([&] { return MainWindow(main()).Width() == width; }));
 }
 
-TEST_F(MainWindowState, MinimizedIsKeptAndLeavesTheUserInHisWindow) {
+TEST_F(MainWindowState, MinimizedIsKeptAndLeavesTheUserInTheirWindow) {
   Start();
   SetWindowPos(main().handle(), nullptr, 120, 150, 440, 80, SWP_NOZORDER);
   PostMessageW(main().handle(), WM_SYSCOMMAND, SC_MINIMIZE, 0);

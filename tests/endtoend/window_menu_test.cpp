@@ -110,7 +110,7 @@ TEST_F(WindowMenu, PoppedUpFromAMinimizedStripLeavesItMinimized) {
   EXPECT_TRUE(strip.Minimized());
 }
 
-TEST_F(WindowMenu, ASwitchOfThePopUpLeavesTheUserWhereHeWorks) {
+TEST_F(WindowMenu, ASwitchOfThePopUpLeavesTheUserWhereTheyWork) {
   Start();
   const Window beta = WorkInNew("Beta");
   ASSERT_TRUE(PopUpWindowMenu());
@@ -178,7 +178,7 @@ TEST_F(WindowMenu, TwoTagKeysOverThePopUpSelectInTheirOrder) {
   EXPECT_TRUE(StaysInFront(gamma));
 }
 
-TEST_F(WindowMenu, AKeyThatSelectsNothingClosesThePopUpAndLeavesTheUserWhereHeWorks) {
+TEST_F(WindowMenu, AKeyThatSelectsNothingClosesThePopUpAndLeavesTheUserWhereTheyWork) {
   Start();
   const Window beta = WorkInNew("Beta");
   ASSERT_TRUE(PopUpWindowMenu());

@@ -108,7 +108,7 @@ TEST_F(HotKeyDispatchTest, PopsTheWindowMenuUpOverItsOwnForegroundWindow) {
                                 "SetForegroundWindow(target)", kTimersOn}));
 }
 
-TEST_F(HotKeyDispatchTest, LeavesTheUserWhereThePopUpHasLedHim) {
+TEST_F(HotKeyDispatchTest, LeavesTheUserWhereThePopUpHasLedThem) {
   actions.selectedInMenu = main;
   Press("HOTKEY_WINDOW_MENU_POPUP");
   EXPECT_EQ(desktop.GetForegroundWindow(), main);

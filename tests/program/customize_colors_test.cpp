@@ -125,7 +125,7 @@ TEST_F(CustomizingTest, AltCountsForItsOwnClickOnly) {
 
 TEST_F(CustomizingTest, AltCountsAsItWasAtThePressNotAtTheRelease) {
   const MouseInput up = {MouseEvent::kUp, MouseButton::kLeft, kNoShift, 10, 10};
-  const auto with_alt = [](MouseInput input, MouseEvent event) {
+  const auto withAlt = [](MouseInput input, MouseEvent event) {
     input.event = event;
     input.shift = kAlt;
     return input;
@@ -133,12 +133,12 @@ TEST_F(CustomizingTest, AltCountsAsItWasAtThePressNotAtTheRelease) {
   MouseInput down = up;
   down.event = MouseEvent::kDown;
   for (const char* const field : {"txtWindow", "txtWindowClass"}) {
-    Tell(korvale, with_alt(up, MouseEvent::kDown), field);
+    Tell(korvale, withAlt(up, MouseEvent::kDown), field);
     Tell(korvale, up, field);
     EXPECT_EQ(ColorOf(korvale, field), 0xFFFFFF) << "the last colour, and nobody was asked";
     korvale.host.WhenColorDialog([](Color) { return std::optional<Color>(0x112233); });
     Tell(korvale, down, field);
-    Tell(korvale, with_alt(up, MouseEvent::kUp), field);
+    Tell(korvale, withAlt(up, MouseEvent::kUp), field);
     EXPECT_EQ(ColorOf(korvale, field), 0x112233);
     korvale.Startup().LastColorSelected = 0xFFFFFF;
   }

@@ -83,13 +83,13 @@ TEST_F(MainWindowFrameTest, BiggerTextEnlargesItAndLeavesTheStoredSize) {
   // Title bar and menu have grown as well.
   korvale.host.SetFrame({45, 555, 90, 600}, 450);
   EXPECT_TRUE(korvale.Start());
-  const auto on_screen = [&] { return korvale.host.GetWindowRect(korvale.Handle()); };
-  EXPECT_EQ(on_screen().width, 9000);
-  EXPECT_EQ(on_screen().height, 1650);
+  const auto onScreen = [&] { return korvale.host.GetWindowRect(korvale.Handle()); };
+  EXPECT_EQ(onScreen().width, 9000);
+  EXPECT_EQ(onScreen().height, 1650);
   korvale.host.SetFrame({45, 355, 90, 400}, 300);
   korvale.host.ChangeTextSize(100);
-  EXPECT_EQ(on_screen().width, 6000);
-  EXPECT_EQ(on_screen().height, 1100);
+  EXPECT_EQ(onScreen().width, 6000);
+  EXPECT_EQ(onScreen().height, 1100);
   Choose(korvale, {"Help", "Display Tip Messages"});
   EXPECT_EQ(Stored("Width"), "6000");
   EXPECT_EQ(Stored("Height"), "1100");

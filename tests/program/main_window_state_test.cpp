@@ -36,7 +36,7 @@ TEST_F(MainWindowStateTest, AMinimizedWindowComesUpSoAndIsStoredSo) {
   EXPECT_EQ(Stored("Height"), "1100");
 }
 
-TEST_F(MainWindowStateTest, AMinimizedStartLeavesTheUserWhereHeIsAndKnowsIt) {
+TEST_F(MainWindowStateTest, AMinimizedStartLeavesTheUserWhereTheyAreAndKnowsIt) {
   Store("WindowState", "1");
   Store("AlwaysOnTop", "True");
   WorkIn(Open("Alpha"));

@@ -38,7 +38,7 @@ TEST_F(WindowMenuPopUpTest, LeftWithoutAChoiceGivesTheKeyboardBack) {
   EXPECT_EQ(Front(), "Korvale - Work");
 }
 
-TEST_F(WindowMenuPopUpTest, LeavesTheUserInTheWindowThatHeClicksInto) {
+TEST_F(WindowMenuPopUpTest, LeavesTheUserInTheWindowThatTheyClickInto) {
   const WindowHandle gamma = Open("Gamma");
   WorkIn(beta_);
   korvale.host.WhenPopupMenu([&](const Items&) {
@@ -65,7 +65,7 @@ TEST_F(WindowMenuPopUpTest, LeadsToTheWindowBeforeWhenTheUsersOneHasGone) {
   EXPECT_EQ(Front(), "Korvale - Work");
 }
 
-TEST_F(WindowMenuPopUpTest, ItsSwitchesLeaveTheUserWhereHeWorks) {
+TEST_F(WindowMenuPopUpTest, ItsSwitchesLeaveTheUserWhereTheyWork) {
   PopUpAndChoose("Korvale  Always On Top");
   EXPECT_EQ(Front(), "Beta");
 }

@@ -17,11 +17,11 @@ class SystemOfTest : public SystemApi {
   std::string GetCommandLineA() override { return ""; }
   VersionInfo GetFileVersionInfoA() override { return {}; }
   OsVersion GetVersionExA(std::uint32_t structureSize) override {
-    structure_size_ = structureSize;
+    structureSize_ = structureSize;
     return version_;
   }
   std::string GetWindowsDirectoryA(std::uint32_t bufferSize) override {
-    buffer_size_ = bufferSize;
+    bufferSize_ = bufferSize;
     return folder_.size() < bufferSize ? folder_ : "";
   }
   void ShellExecuteA(WindowHandle hwnd, const std::string& verb, const std::string& file,
@@ -43,8 +43,8 @@ class SystemOfTest : public SystemApi {
   std::unique_ptr<SystemMutex> OpenMutexA(const std::string& /*name*/) override { return {}; }
 
   OsVersion version_;
-  std::uint32_t structure_size_ = 0;
-  std::uint32_t buffer_size_ = 0;
+  std::uint32_t structureSize_ = 0;
+  std::uint32_t bufferSize_ = 0;
   std::string folder_ = "C:\\Windows";
   std::vector<std::string> opened_;
 };
@@ -77,7 +77,7 @@ TEST(GetOSInfoTest, AnswersUnknownToAnyOtherRequest) {
 TEST(GetOSInfoTest, PassesAStructureOf148Bytes) {
   SystemOfTest system;
   GetOSInfo(system, "PLATFORM_ID");
-  EXPECT_EQ(system.structure_size_, 148U);
+  EXPECT_EQ(system.structureSize_, 148U);
 }
 
 TEST(GetWindowsFolderTest, EndsInABackslash) {
@@ -88,7 +88,7 @@ TEST(GetWindowsFolderTest, EndsInABackslash) {
 TEST(GetWindowsFolderTest, ReadsIntoABufferOf255Characters) {
   SystemOfTest system;
   GetWindowsFolder(system);
-  EXPECT_EQ(system.buffer_size_, 255U);
+  EXPECT_EQ(system.bufferSize_, 255U);
 }
 
 TEST(GetWindowsFolderTest, IsABackslashWhenNothingWasRead) {
