@@ -137,7 +137,7 @@ void KorvaleWorld::WorkIn(WindowHandle hwnd) {
 }
 
 void KorvaleWorld::PressHotKey(std::uint32_t modifiers, std::uint32_t key) {
-  hotKeys.Press(modifiers, key);
+  EXPECT_TRUE(hotKeys.Press(modifiers, key)) << modifiers << "+" << key << " is no hot key";
   LetTick();
 }
 

@@ -104,6 +104,7 @@ class KorvaleWorld : public testing::Test {
   WindowHandle Open(const std::string& title, const NewWindow& options = {});
   /// The user goes to a window and works there long enough to be noticed.
   void WorkIn(WindowHandle hwnd);
+  /// Presses a combination that is a hot key of a copy.
   void PressHotKey(std::uint32_t modifiers, std::uint32_t key);
   void StoreOption(const std::string& key, const std::string& value) {
     store.SaveSetting("Korvale - Work", "Options", key, value);

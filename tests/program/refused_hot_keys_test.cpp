@@ -13,6 +13,8 @@ using RefusedHotKeys = StartTest;
 
 TEST_F(RefusedHotKeys, AreNamedOnceTheyHaveBeenRegistered) {
   hotKeys.StartShell();
+  StoreTag(1, "Alpha");
+  Open("Alpha");
   KorvaleCopy& korvale = UsedCopy();
   std::string tip;
   Twips height = 0;
@@ -23,7 +25,7 @@ TEST_F(RefusedHotKeys, AreNamedOnceTheyHaveBeenRegistered) {
   EXPECT_EQ(tip, kShellsTip);
   EXPECT_EQ(height, 3600);
   EXPECT_EQ(Front(), "Korvale - Work");
-  PressTag(0);
+  ExpectTagLeadsTo(1, "Alpha");
   EXPECT_TRUE(korvale.host.Messages().empty());
 }
 

@@ -51,6 +51,14 @@ TEST_F(ShutdownTest, ShutdownKeepsItsOrder) {
 
 class ShutdownOfStarted : public ShutdownTest {
  protected:
+  /// The user has moved the main window, which is stored when the program ends.
+  void Move() { korvale.user.Drag(korvale.Handle(), {4005, 2010, 4500, 1100}); }
+  void ExpectThePlaceStoredOnce() {
+    EXPECT_EQ(Stored("Startup", "Left"), "4005");
+    EXPECT_EQ(Stored("Startup", "Top"), "2010");
+    EXPECT_EQ(log.CallsOf("SaveSetting(Korvale - Work, Startup, Left").size(), 1U);
+  }
+
   KorvaleCopy& korvale = StartedCopy();
 };
 
@@ -140,10 +148,12 @@ TEST_F(ShutdownTest, AThreadThatIsToldToQuitDuringTheImportQuestionStoresNothing
 }
 
 TEST_F(ShutdownOfStarted, TheSessionCanEndWhileAMessageBoxIsShown) {
+  Move();
   korvale.EndSessionAtBox(win32::kIdOk);
   korvale.ChooseLate("mnuWindowAddToList", 2);
   ExpectEnded(korvale);
   EXPECT_FALSE(clock.AdvanceToNextTick());
+  ExpectThePlaceStoredOnce();
 }
 
 TEST_F(ShutdownOfStarted, TheSessionCanEndWhileTheTipOfTheToggleIsShown) {
@@ -188,8 +198,10 @@ TEST_F(ShutdownTest, TagsOfClosedWindowsStayStoredButLeaveTheMenuAtShutdown) {
 }
 
 TEST_F(ShutdownOfStarted, TheEndOfTheSessionUnloadsNormally) {
+  Move();
   korvale.Form().OnCloseRequested(CloseReason::kSession);
-  EXPECT_FALSE(log.CallsOf("SaveSetting(Korvale - Work, Startup").empty());
+  korvale.program.Run();
+  ExpectThePlaceStoredOnce();
   EXPECT_TRUE(hotKeys.Registered().empty());
 }
 

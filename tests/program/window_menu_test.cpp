@@ -61,17 +61,19 @@ TEST_F(WindowMenuTest, AmpersandsOfTheTitleAreShownLiterally) {
   EXPECT_EQ(store.GetSetting("Korvale - Work", "ParentWindowList", "1"), "&1  Tom & Jerry && Co");
 }
 
-TEST_F(WindowMenuTest, ThePopUpPadsItsFirstAddEntryAndTheNextOpeningTrimsIt) {
+TEST_F(WindowMenuTest, EachPopUpPadsItsFirstAddEntryAndTheNextOpeningTrimsIt) {
   KorvaleCopy& korvale = StartedAfter(Open("Alpha"));
-  std::vector<ShownMenuItem> popUp;
-  korvale.host.WhenPopupMenu([&](const std::vector<ShownMenuItem>& items) {
-    popUp = items;
-    return std::string();
-  });
-  PressHotKey(win32::kModWin, 'W');
-  ASSERT_GT(popUp.size(), 2U);
-  EXPECT_EQ(popUp[popUp.size() - 2].caption,
-            std::string(27, ' ') + "Add  Korvale  to Window menu...");
+  for (int i = 0; i < 2; ++i) {
+    std::vector<ShownMenuItem> popUp;
+    korvale.host.WhenPopupMenu([&](const std::vector<ShownMenuItem>& items) {
+      popUp = items;
+      return std::string();
+    });
+    PressHotKey(win32::kModWin, 'W');
+    ASSERT_GT(popUp.size(), 2U);
+    EXPECT_EQ(popUp[popUp.size() - 2].caption,
+              std::string(27, ' ') + "Add  Korvale  to Window menu...");
+  }
   const auto items = korvale.WindowMenuItems();
   EXPECT_EQ(items[items.size() - 2].caption, "Add  Korvale  to Window menu...");
 }
