@@ -191,6 +191,8 @@ void SimulatedLife::Meanwhile() {
 /// The main window may be in front for a moment after its menu was popped up.
 void SimulatedLife::Wait(int milliseconds) {
   clock.Advance(static_cast<std::uint64_t>(milliseconds));
+  const bool ticks = korvale_->Form().IsLoaded() && korvale_->Form().tmrWindow().Enabled();
+  if (ticks && milliseconds >= 100) CheckStrip();
   const WindowHandle front = desktop.Windows().Foreground();
   if (milliseconds >= (front == korvale_->Handle() ? 200 : 100) && IsFollowed(front)) {
     workedIn_.Work(front);

@@ -102,6 +102,7 @@ class SimulatedLife : public KorvaleWorld {
   void PressTagKeyInSlowWindows();
   void PressHeldKey();
   void PressActionKey();
+  WindowHandle SizableInFront(std::int32_t box);
   void PressToggleKey();
   void PopUpWindowMenu();
   std::string ChooseFromPopUp(const std::vector<ShownMenuItem>& items);
@@ -178,6 +179,7 @@ class SimulatedLife : public KorvaleWorld {
 
   // standing_checks.cpp
   void CheckAlways();
+  void CheckStrip();
   void CheckHotKeys();
   void HotKeysRegistered();
   std::vector<HotKey> WantedHotKeys();

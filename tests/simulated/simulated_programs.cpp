@@ -33,6 +33,14 @@ std::string SimulatedPrograms::Name(WindowHandle hwnd) const {
   return desktop_->Log().Window(hwnd) + " (" + HexText(static_cast<std::uint32_t>(hwnd)) + ")";
 }
 
+bool SimulatedPrograms::WasCalled(WindowHandle hwnd, std::string_view title) const {
+  const auto titles = titles_.find(hwnd);
+  return titles != titles_.end() &&
+         std::ranges::any_of(titles->second, [&](const std::string& each) {
+           return title == each || title.ends_with(" % - " + each);
+         });
+}
+
 WindowHandle SimulatedPrograms::Some(const Fits& fits) {
   const auto first = static_cast<std::size_t>(dice_->Below(static_cast<int>(places_.size())));
   for (std::size_t i = 0; i < places_.size(); ++i) {
@@ -70,6 +78,7 @@ NewWindow SimulatedPrograms::SomeKind() {
 std::string SimulatedPrograms::OpenAt(WindowHandle* place, NewWindow options) {
   const std::string title = SomeTitle();
   *place = desktop_->Open(title, options);
+  titles_[*place].insert(title);
   return "opens [" + title + "] as " + Name(*place) + (options.elevated ? ", elevated" : "") +
          (options.owner != 0 ? ", owned by " + Name(options.owner) : "");
 }
@@ -97,6 +106,7 @@ std::string SimulatedPrograms::OpenDialog() {
   const std::string title = SomeTitle();
   if (place == nullptr || owner == 0) return "";
   *place = desktop_->OpenModalDialog(owner, title);
+  titles_[*place].insert(title);
   return "opens dialog [" + title + "] of " + Name(owner) + " as " + Name(*place);
 }
 
@@ -122,6 +132,7 @@ std::string SimulatedPrograms::RenameWindow() {
   const std::string title = SomeTitle();
   if (hwnd == 0) return "";
   desktop_->Rename(hwnd, title);
+  titles_[hwnd].insert(title);
   Find(hwnd)->titleReadings = -1;
   return "renames " + Name(hwnd) + " to [" + title + "]";
 }

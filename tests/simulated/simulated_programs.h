@@ -3,7 +3,10 @@
 #include <array>
 #include <cstddef>
 #include <functional>
+#include <map>
+#include <set>
 #include <string>
+#include <string_view>
 
 #include "tests/fakes/fake_desktop.h"
 #include "tests/program/dice.h"
@@ -55,6 +58,8 @@ class SimulatedPrograms {
 
   /// A title or a part of one.
   std::string SomeTitle();
+  /// Whether this is or was the title of the window with that handle.
+  bool WasCalled(WindowHandle hwnd, std::string_view title) const;
   /// How a window is written: its first title and its handle.
   std::string Name(WindowHandle hwnd) const;
 
@@ -73,6 +78,8 @@ class SimulatedPrograms {
   FakeDesktop* desktop_;
   Dice* dice_;
   Places places_{};
+  /// All titles that the windows with this handle have had.
+  std::map<WindowHandle, std::set<std::string>> titles_;
   WindowHandle lastClosed_ = 0;
   ForegroundLock lock_ = ForegroundLock::kNone;
   bool shellIsGone_ = false;

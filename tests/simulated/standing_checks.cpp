@@ -24,6 +24,27 @@ void SimulatedLife::CheckAlways() {
   KeepBook();
 }
 
+/// After a tick the strip names a window that is there, by a title that it has or had, or none.
+void SimulatedLife::CheckStrip() {
+  const std::string title = korvale_->TargetWindow();
+  const WindowHandle hwnd = korvale_->Record().current.handle;
+  const FakeWindow* const window = desktop.Windows().Find(hwnd);
+  if (title.empty()) {
+    EXPECT_EQ(korvale_->TargetClass(), "");
+    EXPECT_EQ(hwnd, 0);
+    return;
+  }
+  ASSERT_NE(window, nullptr) << "[" << title << "] has gone";
+  // Windows gives no handle anew from one tick to the next, so what stays in front is not read
+  // again.
+  if (hwnd != desktop.Windows().Foreground()) {
+    EXPECT_EQ(korvale_->TargetClass(), window->className) << title;
+  }
+  const bool untitled = title == "(window without a title)";
+  EXPECT_TRUE(title == window->title || programs_.WasCalled(hwnd, untitled ? "" : title))
+      << "[" << title << "] is " << programs_.Name(hwnd);
+}
+
 /// Korvale has asked for all keys: those that nobody else has work from now on.
 void SimulatedLife::HotKeysRegistered() { refused_ = foreign_; }
 

@@ -76,10 +76,43 @@ void SimulatedLife::PressHeldKey() {
   hotKeys.DeliverQueued();
 }
 
+/// The window in front when it has this box, is no ghost and nothing keeps its size from being
+/// changed, else 0.
+WindowHandle SimulatedLife::SizableInFront(std::int32_t box) {
+  const WindowHandle front = desktop.Windows().Foreground();
+  // Until the next tick Korvale takes a window that it has just brought forward for the one in
+  // front.
+  if (korvale_->Record().menuSelection) return 0;
+  if (!CanBeSelected(front) || desktop.Windows().CloakOf(front) != 0) return 0;
+  const FakeWindow& first = *desktop.Windows().Find(front);
+  if (first.iconic || (first.style & box) == 0) return 0;
+  if (first.className == FakeDesktop::kGhostClass) return 0;
+  const FakeWindow* window = &first;
+  for (; window != nullptr; window = desktop.Windows().Find(window->owner)) {
+    const bool refuses =
+        window->elevated || window->hung || window->busyUntil > clock.GetTickCount64();
+    if (refuses) return 0;
+  }
+  return front;
+}
+
 void SimulatedLife::PressActionKey() {
+  const bool minimize = dice_.OneIn(2);
   const std::optional<HotKey> hotKey =
-      Working(dice_.OneIn(2) ? "HOTKEY_MINIMIZE_PARENT" : "HOTKEY_RESTORE/MAXIMIZE_PARENT");
-  if (hotKey) Press(*hotKey);
+      Working(minimize ? "HOTKEY_MINIMIZE_PARENT" : "HOTKEY_RESTORE/MAXIMIZE_PARENT");
+  if (!hotKey) return;
+  const WindowHandle front =
+      SizableInFront(minimize ? win32::kWsMinimizeBox : win32::kWsMaximizeBox);
+  const FakeWindow* const window = desktop.Windows().Find(front);
+  const bool zoomed = window != nullptr && window->zoomed;
+  Press(*hotKey);
+  if (window == nullptr) return;
+  if (minimize) {
+    // It goes along with its owner when that can be minimized.
+    EXPECT_TRUE(window->iconic || window->hiddenByOwner) << programs_.Name(front);
+  } else {
+    EXPECT_NE(window->zoomed, zoomed) << programs_.Name(front);
+  }
 }
 
 void SimulatedLife::PressToggleKey() {
