@@ -99,7 +99,10 @@ TEST_F(SetupPages, KeepTheChoicesOfTheUserAtAnUpdate) {
   ASSERT_TRUE(InFront(Page(kTitle, "Are you sure")));
   Press({0, 'Y'});
   EXPECT_EQ(program_->WaitForExit(), 1U);
-  EXPECT_NE(work.StartedWithWindows(), "");
+  ASSERT_EQ(work.Install(), 0U);
+  EXPECT_EQ(work.StartedWithWindows(), Quoted(work.program()));
+  ASSERT_TRUE(work.Remove());
+  EXPECT_EQ(work.StartedWithWindows(), "");
 }
 
 TEST_F(SetupPages, SayThatAFolderCannotBeUsed) {

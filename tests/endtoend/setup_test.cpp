@@ -116,6 +116,20 @@ TEST_F(SilentSetup, FindsTheInstallationNamedKorvaleByItself) {
   EXPECT_EQ(korvale.Entry()["DisplayIcon"], korvale.program());
 }
 
+TEST_F(SilentSetup, UpdatesByEveryPathToTheFolder) {
+  const Installed place("Folder With A Long Name");
+  ASSERT_EQ(place.Install(OlderSetupProgram()), 0U);
+  const AsWindows10 supported(SetupProgram());
+  const OtherPaths paths(place.folder());
+  for (const OtherPath& path : paths.All()) {
+    if (path.what != "capitals" && path.what != "short names") continue;
+    SCOPED_TRACE(path.what);
+    EXPECT_EQ(Process(Quoted(SetupProgram()) + " /S /D=" + path.folder).WaitForExit(), 0U);
+    EXPECT_EQ(place.Entry()["DisplayName"], "Korvale - Folder With A Long Name");
+    EXPECT_EQ(place.Entry()["DisplayVersion"], KORVALE_VERSION);
+  }
+}
+
 TEST_F(SilentSetup, RefusesASecondFolderOfTheSameName) {
   const Installed work;
   const Installed twin;
