@@ -6,8 +6,9 @@ say() { printf '\n== %s\n' "$*"; }
 # Lets ccache keep what was compiled with precompiled headers.
 export CCACHE_SLOPPINESS=pch_defines,time_macros
 
-# The time that builds write into what they make: the same commit gives the same bytes.
-SOURCE_DATE_EPOCH=$(git log -1 --format=%ct)
+# The time that builds write into what they make, so that the same commit gives the same bytes: the
+# commit's or, without git, the first that a zip can hold.
+SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct 2>/dev/null || echo 315532800)}
 export SOURCE_DATE_EPOCH
 
 # configure PRESET [options...]: with ccache in front of the compiler when it is installed.

@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# Makes installers. Source it after wine.sh, from the root of the checkout.
+# Makes installers. Source it from the root of the checkout.
 
 # make_installer FOLDER OUT [OPTIONS...]: an installer of the release in FOLDER.
 make_installer() {
@@ -11,7 +11,7 @@ make_installer() {
 }
 
 # prepare_packages FOLDER: leaves there, for the tests, the unpacked zip and an installer of an older
-# version, and sets the variables by which the tests find these and the new installer.
+# version, and sets the variables by which the tests find these and the new installer. Needs wine.sh.
 prepare_packages() {
   local folder=$1 setup
   [ -f dist/SHA256SUMS ] || { echo "script/package first" >&2; return 1; }
