@@ -14,7 +14,8 @@ if(MSVC)
   target_compile_options(korvale_flags INTERFACE /W4 /permissive- /utf-8)
 else()
   target_compile_options(
-    korvale_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+    korvale_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+                            $<$<NOT:$<BOOL:${CMAKE_HOST_WIN32}>>:-Werror>)
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
     # GCC 12 takes an inlined std::string assignment for an overlapping copy (GCC bug 105651).
     target_compile_options(korvale_flags INTERFACE -Wno-restrict)

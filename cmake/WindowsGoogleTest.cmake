@@ -11,3 +11,7 @@ target_include_directories(windows_gtest SYSTEM
                            PUBLIC ${KORVALE_GOOGLETEST_SOURCE}/googletest/include)
 target_include_directories(windows_gtest PRIVATE ${KORVALE_GOOGLETEST_SOURCE}/googletest)
 target_compile_features(windows_gtest PUBLIC cxx_std_20)
+
+add_library(windows_gtest_main STATIC EXCLUDE_FROM_ALL
+            ${KORVALE_GOOGLETEST_SOURCE}/googletest/src/gtest_main.cc)
+target_link_libraries(windows_gtest_main PUBLIC windows_gtest)

@@ -1,7 +1,6 @@
 #include "tests/endtoend/harness/layout.h"
 
-#include <strings.h>
-
+#include <cstring>
 #include <vector>
 
 #include "tests/endtoend/harness/text.h"
@@ -15,7 +14,7 @@ constexpr int kMark = 16;
 constexpr int kEdges = 8;
 
 bool Is(Window control, const char* name) {
-  return strcasecmp(control.ClassName().c_str(), name) == 0;
+  return _stricmp(control.ClassName().c_str(), name) == 0;
 }
 
 RECT AreaOf(Window window) {

@@ -1,8 +1,7 @@
 #include "tests/endtoend/harness/window.h"
 
-#include <strings.h>
-
 #include <algorithm>
+#include <cstring>
 #include <set>
 
 #include "tests/endtoend/harness/text.h"
@@ -71,7 +70,7 @@ std::vector<Window> Window::Controls(const std::string& class_name) const {
   std::vector<Window> controls = Children();
   std::erase_if(controls, [&](Window child) {
     return (child.Style() & WS_VISIBLE) == 0 ||
-           strcasecmp(child.ClassName().c_str(), class_name.c_str()) != 0;
+           _stricmp(child.ClassName().c_str(), class_name.c_str()) != 0;
   });
   return controls;
 }

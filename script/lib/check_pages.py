@@ -1,0 +1,93 @@
+"""Checks the pages that strangers read: every link of web/*.html and *.md that stays in this folder
+leads to a file, or to an anchor of a page, that is there, and every picture of a page tells its size
+and is used."""
+
+import html.parser
+import pathlib
+import re
+import struct
+import sys
+import urllib.parse
+
+problems = 0
+
+
+def complain(page, what):
+    global problems
+    problems += 1
+    print(f"{page}: {what}")
+
+
+class Page(html.parser.HTMLParser):
+    """What a page names: anchors, links and pictures."""
+
+    def __init__(self, path):
+        super().__init__()
+        self.path = path
+        self.anchors = set()
+        self.links = []
+        self.pictures = []
+        text = path.read_text(encoding="utf-8")
+        if path.suffix == ".md":
+            text = re.sub(r"```.*?```|`[^`\n]*`", "", text, flags=re.S)
+            self.links += re.findall(r"\]\(([^)\s]+)\)", text)
+            for heading in re.findall(r"^#+ (.*)$", text, re.M):
+                self.anchors.add(re.sub(r"[^\w -]", "", heading).lower().replace(" ", "-"))
+        self.feed(text)
+
+    def handle_starttag(self, tag, attributes):
+        given = dict(attributes)
+        if "id" in given:
+            if given["id"] in self.anchors:
+                complain(self.path, f"two anchors {given['id']}")
+            self.anchors.add(given["id"])
+        self.links += [given[name] for name in ("href", "src") if name in given]
+        self.links += [part.split()[0] for part in given.get("srcset", "").split(",") if part]
+        if tag == "img":
+            self.pictures.append(given)
+            if not given.get("alt"):
+                complain(self.path, f"{given.get('src')} has no alternative text")
+
+
+def size_of(picture):
+    with open(picture, "rb") as file:
+        return struct.unpack(">II", file.read(24)[16:])
+
+
+def check_sizes(page):
+    for given in page.pictures:
+        told = (int(given.get("width", 0)), int(given.get("height", 0)))
+        picture = page.path.parent / given["src"]
+        if picture.is_file() and size_of(picture) != told:
+            complain(page.path, f"{given['src']} is {size_of(picture)}, not {told}")
+
+
+def check_links(page, pages):
+    reached = set()
+    for link in page.links:
+        parts = urllib.parse.urlsplit(link)
+        if parts.scheme or parts.netloc:
+            continue
+        target = page.path.parent / urllib.parse.unquote(parts.path) if parts.path else page.path
+        target = pathlib.Path(*target.parts)
+        reached.add(target.resolve())
+        if not target.exists():
+            complain(page.path, f"{link} leads nowhere")
+        elif parts.fragment and parts.fragment not in pages[target.resolve()].anchors:
+            complain(page.path, f"{link}: no such anchor")
+    return reached
+
+
+paths = [*pathlib.Path("web").glob("*.html"), *pathlib.Path().glob("*.md"),
+         *pathlib.Path("docs").glob("*.md")]  # fmt: skip
+pages = {path.resolve(): Page(path) for path in paths}
+reached = set()
+for page in pages.values():
+    reached |= check_links(page, pages)
+    if page.path.suffix == ".html":
+        check_sizes(page)
+for folder in ("web/pictures", "docs/pictures"):
+    for picture in sorted(pathlib.Path(folder).iterdir()):
+        if picture.resolve() not in reached:
+            complain(picture, "no page shows it")
+sys.exit(1 if problems or not pages else 0)
