@@ -1,6 +1,31 @@
 # shellcheck shell=bash
 # What every script needs. Source it from the root of the checkout.
 
+# usage: the comment at the head of the script that runs.
+usage() { sed -n '2,/^[^#]/s/^# \{0,1\}//p' "script/${0##*/}"; }
+
+misuse() {
+  usage >&2
+  exit 2
+}
+
+# explain MOST "$@": answers -h and --help. Options that the usage does not name are a misuse, and so
+# are more arguments than MOST.
+explain() {
+  local most=$1 argument
+  shift
+  for argument in "$@"; do
+    case $argument in
+      -h | --help)
+        usage
+        exit 0
+        ;;
+      -*) grep -qwF -e "${argument%%=*}" <<<"$(usage)" || misuse ;;
+    esac
+  done
+  [ $# -le "$most" ] || misuse
+}
+
 say() { printf '\n== %s\n' "$*"; }
 
 # Lets ccache keep what was compiled with precompiled headers.
