@@ -12,7 +12,8 @@
 namespace korvale {
 
 inline constexpr std::array kContractControls = {
-    ControlRow{ControlKind::kLabel, "lblName", -1, "&Name", "", {100, 100, 900, 255}},
+    ControlRow{
+        ControlKind::kLabel, "lblName", -1, "&Name", " whose name it is ", {100, 100, 900, 255}},
     ControlRow{ControlKind::kTextBox, "txtName", -1, "", " the name ", {1100, 100, 3000, 315}},
     MakeRow(ControlKind::kTextBox, "txtFixed", -1, "fixed",
             " a text that no user can change, explained at such a length that it takes more than "
@@ -29,7 +30,8 @@ inline constexpr std::array kContractControls = {
     ControlRow{ControlKind::kDropDownList, "cboSize", -1, "", "", {100, 2700, 2000, 315}},
     ControlRow{ControlKind::kComboBox, "cboPlace", -1, "", "", {2400, 2700, 2000, 315}},
     MakeRow(ControlKind::kButton, "cmdGo", -1, "&Go", "", {4500, 100, 1200, 375}, kDefaultButton),
-    ControlRow{ControlKind::kButton, "cmdStay", -1, "&Stay", "", {4500, 600, 1200, 375}},
+    ControlRow{
+        ControlKind::kButton, "cmdStay", -1, "&Stay", " leaves all ", {4500, 600, 1200, 375}},
     MakeRow(ControlKind::kButton, "cmdClose", -1, "Close", "", {4500, 1095, 1200, 375},
             kCancelButton),
     MakeRow(ControlKind::kLabel, "lblClick", -1, "click here", "", {4500, 1605, 1200, 255},

@@ -53,6 +53,11 @@ TEST_F(Options, OpenOnTheHotKeysForAUserWhoReviewsThem) {
   EXPECT_EQ(OpenOptions().CurrentPage(), Page::kHotKeys);
 }
 
+TEST_F(Options, ExplainAPlainLabelUnderTheMouse) {
+  const OptionsDialog dialog = StartWithOptions(Page::kHotKeys);
+  EXPECT_TRUE(korvale_->ShowsToolTip(dialog.TagLabel(0), " selects the Previous Window "));
+}
+
 TEST_F(Options, ComeToTheFrontWhenTheyAreOpenAlready) {
   const OptionsDialog dialog = StartWithOptions(Page::kHotKeys);
   ASSERT_TRUE(WorkIn(Open("Alpha")));

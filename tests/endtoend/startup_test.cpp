@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "tests/endtoend/harness/options_dialog.h"
 #include "tests/endtoend/korvale_test.h"
 
 namespace korvale::endtoend {
@@ -94,7 +95,8 @@ TEST_F(StartUp, TheFirstRunOpensTheOptionsForTheUserWhoWantsToReviewTheHotKeys) 
   const Window question = ReviewQuestion();
   ASSERT_TRUE(question);
   EXPECT_TRUE(AnswerBox(question, IDYES));
-  EXPECT_TRUE(korvale_->Form("frmOptions"));
+  const OptionsDialog dialog(korvale_->Form("frmOptions"));
+  EXPECT_EQ(dialog.CurrentPage(), OptionsDialog::Page::kHotKeys);
 }
 
 TEST_F(StartUp, ALaterRunShowsASplashThatGoesByItself) {

@@ -137,6 +137,17 @@ TEST_F(CommandOrderTest, TipsAreOnWhileTheUserIsAskedAndStoredAfterwards) {
   EXPECT_EQ(Order(order), order);
 }
 
+TEST_F(CommandOrderTest, TheWindowIsPutOnTopBeforeItIsSized) {
+  Store("AlwaysOnTop", "True");
+  KorvaleCopy& korvale = Unsaved();
+  korvale.Startup().WindowInfo = false;
+  korvale.Form().Form_Resize();
+  // Sizing it is a resize once more.
+  const char* const onTop = "SetWindowPos(frmMain, HWND_TOPMOST";
+  const Calls order = {onTop, "MoveWindow(frmMain)", onTop};
+  EXPECT_EQ(Order(order), order);
+}
+
 TEST_F(CommandOrderTest, TheDefaultColorsAreShownBeforeTheyAreStored) {
   Store("WI1BackColor", "255");
   Store("WI2BackColor", "65280");

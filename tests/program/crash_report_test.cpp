@@ -30,6 +30,20 @@ TEST_F(CrashReport, TheReportAsksNothingOfTheWindowsWhoseThreadStandsStill) {
                 "MiniDumpWriteDump(C:\\Programs\\Work\\Korvale 2026-11-21 09.05.07.dmp)"}));
 }
 
+TEST_F(CrashReport, TheRecordSaysThatTheMenuIsShownWhileTheTargetWindowIsNot) {
+  KorvaleCopy& korvale = Running();
+  korvale.Startup().WindowInfo = false;
+  korvale.system.crashFilter(kAccessViolation);
+  EXPECT_NE(Log().find("\r\n0000004 = True\r\n"), std::string::npos) << Log();
+}
+
+TEST_F(CrashReport, TheRecordSaysThatTheMenuIsHiddenWhileTheTargetWindowIsNot) {
+  KorvaleCopy& korvale = Running();
+  korvale.Startup().Menu = false;
+  korvale.system.crashFilter(kAccessViolation);
+  EXPECT_NE(Log().find("\r\n0000004 = False\r\n"), std::string::npos) << Log();
+}
+
 TEST_F(CrashReport, TheLatestDumpsAreKeptBesideTheLog) {
   KorvaleCopy& korvale = Running();
   const std::string folder = "C:\\Programs\\Work\\";

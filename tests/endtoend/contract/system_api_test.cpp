@@ -4,6 +4,7 @@
 #include <objbase.h>
 #include <shlobj.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <string>
 #include <thread>
@@ -12,6 +13,8 @@
 #include "platform/windows/text.h"
 #include "platform/windows/windows_clock.h"
 #include "platform/windows/windows_system_api.h"
+#include "tests/endtoend/harness/wait.h"
+#include "tests/endtoend/harness/window.h"
 
 namespace korvale {
 namespace {
@@ -129,13 +132,20 @@ TEST(WindowsSystemApi, ReadsVariablesOfAnyLength) {
 TEST(WindowsSystemApi, ADocumentThatCannotBeOpenedIsNoErrorAndOpensNothing) {
   WindowsSystemApi system;
   const std::string program = system.GetModuleFileNameA();
-  const HWND before = GetForegroundWindow();
+  const std::vector<endtoend::Window> before = endtoend::TopLevelWindows();
   for (const std::string& document : {program + ".none", program + ".none\\web\\help.html",
                                       std::string("no-such-scheme:page"), std::string()}) {
     EXPECT_NO_THROW(system.ShellExecuteA(0, "Open", document, SW_SHOWNORMAL)) << document;
   }
   EXPECT_NO_THROW(system.ShellExecuteA(0, "No such verb", program, SW_SHOWNORMAL));
-  EXPECT_EQ(GetForegroundWindow(), before);
+  EXPECT_TRUE(endtoend::HoldsFor(
+      [&] {
+        const std::vector<endtoend::Window> now = endtoend::TopLevelWindows();
+        return std::ranges::all_of(now, [&](endtoend::Window window) {
+          return !window.Visible() || std::ranges::find(before, window) != before.end();
+        });
+      },
+      std::chrono::seconds(1)));
 }
 
 TEST(WindowsSystemApi, KnowsAFolderByEveryPath) {

@@ -45,6 +45,24 @@ class WindowsFormLookTest : public RealForm {
     SendMessageW(ToolTipsUnderTheMouse(), TTM_GETTEXTW, 256, reinterpret_cast<LPARAM>(&tool));
     return text;
   }
+  /// The tip of the place of a control in the window below it, which has the mouse there when the
+  /// control takes none.
+  std::wstring TipOfPlace(std::string_view control) {
+    RECT area{};
+    GetWindowRect(Control(control), &area);
+    wchar_t text[256] = L"";
+    TTHITTESTINFOW hit{};
+    hit.hwnd = GetParent(Control(control));
+    hit.pt = {(area.left + area.right) / 2, (area.top + area.bottom) / 2};
+    ScreenToClient(hit.hwnd, &hit.pt);
+    hit.ti.cbSize = sizeof(hit.ti);
+    hit.ti.lpszText = text;
+    const HWND tips = ToolTipsUnderTheMouse();
+    if (SendMessageW(tips, TTM_HITTESTW, 0, reinterpret_cast<LPARAM>(&hit)) == FALSE) return L"";
+    hit.ti.lpszText = text;
+    SendMessageW(tips, TTM_GETTEXTW, 256, reinterpret_cast<LPARAM>(&hit.ti));
+    return text;
+  }
 };
 
 TEST_F(WindowsFormLookTest, ALabelThatLosesItsBorderShowsNothingOfItsFormerColor) {
@@ -162,6 +180,15 @@ TEST_F(WindowsFormLookTest, AToolTipInOneLineIsShownAsItIsWritten) {
   EXPECT_EQ(TipOf("txtName"), L" the name ");
 }
 
+TEST_F(WindowsFormLookTest, PlainLabelsAndDisabledControlsHaveTheirToolTipsToo) {
+  ShowForm();
+  form_.Find("cmdStay").SetEnabled(false);
+  EXPECT_EQ(TipOfPlace("lblName"), L" whose name it is ");
+  EXPECT_EQ(TipOfPlace("cmdStay"), L" leaves all ");
+  form_.Find("cmdStay").SetVisible(false);
+  EXPECT_EQ(TipOfPlace("cmdStay"), L"");
+}
+
 TEST_F(WindowsFormLookTest, TheLinesOfALongToolTipBeginBelowEachOther) {
   ShowForm();
   const std::wstring tip = TipOf("txtFixed");
@@ -169,7 +196,7 @@ TEST_F(WindowsFormLookTest, TheLinesOfALongToolTipBeginBelowEachOther) {
   EXPECT_TRUE(tip.ends_with(L"of a tool tip to tell")) << ToUtf8(tip);
 }
 
-TEST_F(WindowsFormLookTest, AMonitorOfOtherDotsRenewsTheWidthOfToolTips) {
+TEST_F(WindowsFormLookTest, WordOfOtherDotsRenewsTheWidthOfToolTips) {
   ShowForm();
   const HWND tips = ToolTipsUnderTheMouse();
   const LRESULT width = SendMessageW(tips, TTM_GETMAXTIPWIDTH, 0, 0);
@@ -177,7 +204,7 @@ TEST_F(WindowsFormLookTest, AMonitorOfOtherDotsRenewsTheWidthOfToolTips) {
   SendMessageW(tips, TTM_SETMAXTIPWIDTH, 0, 1);
   RECT same{};
   GetWindowRect(Hwnd(), &same);
-  SendMessageW(Hwnd(), WM_DPICHANGED, MAKEWPARAM(96, 96), reinterpret_cast<LPARAM>(&same));
+  SendMessageW(Hwnd(), WM_DPICHANGED, MAKEWPARAM(144, 144), reinterpret_cast<LPARAM>(&same));
   EXPECT_EQ(SendMessageW(tips, TTM_GETMAXTIPWIDTH, 0, 0), width);
 }
 

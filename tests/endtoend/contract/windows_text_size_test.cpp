@@ -107,7 +107,7 @@ TEST_F(WindowsTextSizeTest, ToolTipsFollowTheDotsOfAnotherMonitor) {
   ChangeUntold(150);
   RECT same{};
   GetWindowRect(Hwnd(), &same);
-  SendMessageW(Hwnd(), WM_DPICHANGED, MAKEWPARAM(96, 96), reinterpret_cast<LPARAM>(&same));
+  SendMessageW(Hwnd(), WM_DPICHANGED, MAKEWPARAM(144, 144), reinterpret_cast<LPARAM>(&same));
   EXPECT_EQ(SendMessageW(tips, TTM_GETMAXTIPWIDTH, 0, 0), 600);
 }
 
