@@ -35,10 +35,7 @@ bool MainWindow::ShowsTextWhole() const {
     const RECT area = Area(box);
     RECT shown{};
     IntersectRect(&shown, &area, &client);
-    if (shown.left != area.left || shown.right != area.right || shown.top != area.top ||
-        shown.bottom - shown.top < kLineHeight) {
-      return false;
-    }
+    if (EqualRect(&shown, &area) == 0 || area.bottom - area.top < kLineHeight) return false;
   }
   return true;
 }

@@ -23,7 +23,7 @@ class MainWindow {
   /// True when the menu bar is shown with all its rows.
   bool ShowsMenusWhole() const;
   RECT Place() const { return Area(window_); }
-  /// True when both boxes are shown to their full width and high enough for a line of text.
+  /// True when both boxes are shown from edge to edge and high enough for a line of text.
   bool ShowsTextWhole() const;
 
   /// Gives the window another size, as dragging its border does.
