@@ -26,7 +26,7 @@ void EnduranceTest::WalkThroughOptions() {
   using Page = OptionsDialog::Page;
   const OptionsDialog dialog = OpenOptions();
   for (const Page page : {Page::kGeneral, Page::kHotKeys, Page::kWindowIdentification}) {
-    NeedThat("the page comes", [&] { return dialog.GoTo(page); });
+    Need("the page comes", dialog.GoTo(page));
   }
   Leave(VK_ESCAPE, dialog.form());
   NeedInFront(Tagged(tag_));
@@ -41,7 +41,7 @@ void EnduranceTest::ConfirmOptions() {
 void EnduranceTest::ChooseInBar(UINT menu, UINT entry) {
   // The entry under the mouse would be the chosen one.
   MoveMouse(Window(GetDesktopWindow()), kAside);
-  Need(::testing::AssertionResult(BringToFront(main())));
+  Need("the main window comes", BringToFront(main()));
   PressFor("the menu", {MOD_ALT, menu}, [this] { return korvale_->HasMenu(); });
   PressFor("the entry is chosen", {0, entry}, [this] { return !korvale_->HasMenu(); });
 }
@@ -61,7 +61,7 @@ void EnduranceTest::TagAndRemove() {
     ChooseInBar('W', 'W');
     const AddWindowDialog dialog(korvale_->Form("frmGetWindow"));
     NeedInFront(dialog.form());
-    NeedThat("the Tag is selected", [&] { return dialog.SelectTag(kFreeTag); });
+    Need("the Tag is selected", dialog.SelectTag(kFreeTag));
     if (adding) {
       Leave(VK_RETURN, dialog.form());
     } else {
@@ -88,11 +88,10 @@ void EnduranceTest::ReadTipAndChooseColor() {
   NeedInFront(main());
   const MainWindow window(main());
   ClickAt(window.TitleBox(), kInBox);
-  NeedThat("OK",
-           [dialog = ColorDialog(*korvale_), cell = ++color_ % 16] { return dialog.Pick(cell); });
+  Need("OK", ColorDialog(*korvale_).Pick(++color_ % 16));
   NeedInFront(main());
   ClickAt(window.ClassBox(), kInBox);
-  NeedThat("Cancel", [dialog = ColorDialog(*korvale_)] { return dialog.Cancel(); });
+  Need("Cancel", ColorDialog(*korvale_).Cancel());
   ChooseInBar('V', 'C');
   GoByTagKey();
 }
@@ -108,7 +107,7 @@ void EnduranceTest::HideAndShowTheTarget() {
 void EnduranceTest::HideAndShowTheMenu() {
   for (const bool shown : {false, true}) {
     ChooseInBar('V', 'M');
-    if (!shown) Need(::testing::AssertionResult(AnswerBox(korvale_->MessageBox(), IDOK)));
+    if (!shown) Need("the message goes", AnswerBox(korvale_->MessageBox(), IDOK));
     NeedThat("menus go and come", [&] { return MainWindow(main()).HasMenuBar() == shown; });
   }
   GoByTagKey();
@@ -144,10 +143,9 @@ void EnduranceTest::MinimizeTheMainWindow() {
 }
 
 void EnduranceTest::ReadToolTip() {
-  Need(::testing::AssertionResult(BringToFront(main())));
-  NeedThat("the tool tip comes", [this] {
-    return korvale_->ShowsToolTip(MainWindow(main()).ClassBox(), " Class of Target Window ");
-  });
+  Need("the main window comes", BringToFront(main()));
+  Need("the tool tip comes",
+       korvale_->ShowsToolTip(MainWindow(main()).ClassBox(), " Class of Target Window "));
   MoveMouse(Window(GetDesktopWindow()), kAside);
   GoByTagKey();
 }

@@ -50,8 +50,10 @@ class EnduranceTest : public KorvaleTest {
   Window Tagged(int tag) const { return tagged_.at(static_cast<size_t>(tag - 1)); }
   Window OpenTagged(int tag, int show);
   static void Need(const ::testing::AssertionResult& held);
-  /// Waits for it, and until the programs have done what comes with it, so nothing is under way
-  /// when the next key is pressed.
+  /// Ends the operation unless that held. Waits until the programs have done what comes with it, so
+  /// nothing is under way when the next key is pressed.
+  static void Need(const char* what, bool held);
+  /// The same with what comes a moment later.
   static void NeedThat(const char* what, const std::function<bool()>& condition);
   static void PressFor(const char* what, Chord chord, const std::function<bool()>& outcome);
   void PressForWindow(Chord chord, Window window);

@@ -36,6 +36,7 @@ Window AddWindowDialog::Control(const char* class_name, size_t index) const {
 bool AddWindowDialog::SelectTag(int tag) const {
   const char digit = static_cast<char>('0' + tag);
   if (!BringToFront(form_)) return false;
+  if (!WaitFor([this] { return FocusOf(form_) == TagList(); })) return false;
   Type(std::string(1, digit));
   return WaitFor([&] { return SelectedTag().starts_with(digit); });
 }
