@@ -158,7 +158,7 @@ TEST_F(SetupPages, RemoveARunningCopyAndItsSettings) {
   Press({MOD_ALT, 'R'});
   EXPECT_TRUE(work.Removed());
   EXPECT_TRUE(Closed());
-  EXPECT_FALSE(work.Has(""));
+  EXPECT_TRUE(work.Gone());
   EXPECT_EQ(work.settings().Sections(), std::vector<std::string>());
 }
 

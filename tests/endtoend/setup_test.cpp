@@ -99,7 +99,7 @@ TEST_F(SilentSetup, InASecondFolderMakesASecondInstallation) {
   EXPECT_TRUE(play.HasShortcut());
   ASSERT_TRUE(play.Remove());
   EXPECT_FALSE(play.HasShortcut());
-  EXPECT_FALSE(play.Has(""));
+  EXPECT_TRUE(play.Gone());
   EXPECT_TRUE(work.HasShortcut());
   EXPECT_EQ(work.Entry()["DisplayName"], "Korvale - Work");
   EXPECT_TRUE(work.Has("Korvale.exe"));
@@ -135,7 +135,7 @@ TEST_F(SilentSetup, RefusesASecondFolderOfTheSameName) {
   const Installed twin;
   ASSERT_EQ(work.Install(), 0U);
   EXPECT_EQ(twin.Install(), 2U);
-  EXPECT_FALSE(twin.Has(""));
+  EXPECT_TRUE(twin.Gone());
   EXPECT_EQ(work.Entry()["DisplayIcon"], work.program());
 }
 
@@ -161,7 +161,7 @@ TEST_F(SilentSetup, RefusesAWindowsThatIsTooOld) {
   const Installed work;
   // Wine says that it is Windows 7.
   EXPECT_EQ(Process(Quoted(SetupProgram()) + " /S /D=" + work.folder()).WaitForExit(), 2U);
-  EXPECT_FALSE(work.Has(""));
+  EXPECT_TRUE(work.Gone());
 }
 
 TEST_F(SilentSetup, KeepsTheSettingsOfWhatItRemoves) {
@@ -172,7 +172,7 @@ TEST_F(SilentSetup, KeepsTheSettingsOfWhatItRemoves) {
   work.Put("Error.log", "");
   ASSERT_TRUE(work.Remove());
   EXPECT_TRUE(Closed());
-  EXPECT_FALSE(work.Has(""));
+  EXPECT_TRUE(work.Gone());
   EXPECT_FALSE(work.HasShortcut());
   EXPECT_EQ(work.settings().Get("ParentWindowList", "3"), "&3  Alpha");
   EXPECT_NE(work.RegisteredFolder(), std::nullopt);

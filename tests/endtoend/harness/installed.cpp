@@ -87,6 +87,10 @@ bool Installed::Has(const std::string& file) const {
   return fs::exists(fs::path(Wide(folder_ + file)));
 }
 
+bool Installed::Gone() const {
+  return WaitFor([this] { return !Has(""); });
+}
+
 void Installed::Put(const std::string& file, const std::string& text) const {
   const fs::path path(Wide(folder_ + file));
   fs::create_directories(path.parent_path());

@@ -45,6 +45,8 @@ class Installed {
   bool Removed() const;
 
   bool Has(const std::string& file) const;
+  /// True once there is no such folder.
+  bool Gone() const;
   /// Writes such a file, and the folders above it.
   void Put(const std::string& file, const std::string& text) const;
   std::string Read(const std::string& file) const;

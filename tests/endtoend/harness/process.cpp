@@ -53,7 +53,8 @@ Process::Process(const std::string& command_line, const std::string& folder) {
   const std::wstring where = Wide(folder);
   if (CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, CREATE_NO_WINDOW, nullptr,
                      where.empty() ? nullptr : where.c_str(), &startup, &info) == 0) {
-    throw std::runtime_error("cannot start " + command_line);
+    throw std::runtime_error("cannot start " + command_line + ": error " +
+                             std::to_string(GetLastError()));
   }
   CloseHandle(info.hThread);
   process_ = Handle(info.hProcess);
