@@ -1,5 +1,6 @@
 #include <utility>
 
+#include "platform/win32_constants.h"
 #include "tests/ui/form_test.h"
 
 namespace korvale {
