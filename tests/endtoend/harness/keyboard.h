@@ -44,9 +44,9 @@ class HeldKeys {
 };
 
 /// Presses and releases a chord through SendInput: it reaches whatever is in front. Modifiers are
-/// down for a moment before the key comes, as a hand holds them: Wine hands out a hot key before the
-/// keys that made it, and a program that hears of Alt only once another one is in front believes it
-/// down from then on.
+/// down for a moment before the key comes, as a hand holds them: Wine hands out a hot key before
+/// the keys that made it, and a program that hears of Alt only once another one is in front
+/// believes it down from then on.
 void Press(Chord chord);
 
 /// The same without that moment, all in one.
