@@ -33,8 +33,25 @@ fuzz_finding() {
   done
 }
 
-# fuzz_briefly TARGET: all inputs of its corpus, and always the same few more.
+# brief_key TARGET: what decides how a brief run ends: the program, its inputs and how it is run.
+brief_key() {
+  {
+    find "tests/fuzz/corpus/$1" "tests/fuzz/corpus/$1.dict" -type f -print0 2>/dev/null | sort -z |
+      xargs -0 -r sha256sum
+    sha256sum "$(fuzzer "$1")" script/lib/fuzz.sh
+  } | sha256sum
+}
+
+# fuzz_briefly TARGET: all inputs of its corpus, and always the same few more. What passed once is
+# not run again before anything of it changes.
 fuzz_briefly() {
+  local passed=build/fuzz/brief/$1.passed key
+  key=$(brief_key "$1")
+  if [ "$(cat "$passed" 2>/dev/null)" = "$key" ]; then
+    echo "$1: unchanged since it passed"
+    return
+  fi
+  rm -f "$passed"
   local runs=20000
   case $1 in
     flag_string) runs=5000 ;;
@@ -43,8 +60,7 @@ fuzz_briefly() {
     captions) runs=100 ;;
   esac
   rm -rf "build/fuzz/brief/$1"
-  run_fuzzer "$1" "build/fuzz/brief/$1" -seed=1 "-runs=$runs" ||
-    touch "build/fuzz/brief/$1/failed"
+  if run_fuzzer "$1" "build/fuzz/brief/$1" -seed=1 "-runs=$runs"; then echo "$key" >"$passed"; fi
 }
 
 # fuzz_all_briefly: as many targets at a time as there are cores; sets good and bad.
@@ -54,7 +70,7 @@ fuzz_all_briefly() {
   bad=0
   fuzz_targets | xargs -P "$(nproc)" -I{} bash -c '. script/lib/fuzz.sh; fuzz_briefly {}'
   for target in $(fuzz_targets); do
-    if [ -d "build/fuzz/brief/$target" ] && [ ! -f "build/fuzz/brief/$target/failed" ]; then
+    if [ -f "build/fuzz/brief/$target.passed" ]; then
       good=$((good + 1))
     else
       bad=$((bad + 1))
