@@ -21,6 +21,7 @@ void EnduranceTest::StartWithTags() {
   Start();
   other_ = Open("Page 0");
   for (int tag = 1; tag <= kTags; ++tag) tagged_.push_back(OpenTagged(tag, SW_SHOWNORMAL));
+  tag_ = kTags;
 }
 
 int EnduranceTest::NextTag() { return tag_ = tag_ % kTags + 1; }
@@ -59,6 +60,9 @@ void EnduranceTest::Leave(UINT key, Window form) {
 }
 
 void EnduranceTest::GoByTagKey() {
+  // Where Alt goes down in one program and up in another, Wine tells the first one with its next
+  // key that Alt is still down: Korvale would not take that key for Enter.
+  if (Foreground() == main()) Need("another window comes", BringToFront(Tagged(tag_)));
   const Window window = Tagged(NextTag());
   PressForWindow(TagKey(tag_), window);
 }
