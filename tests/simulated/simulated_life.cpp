@@ -149,7 +149,9 @@ void SimulatedLife::UseAddWindow(Form& dialog) {
     case 5: {
       click("txtWindow");
       user.PressKey(hwnd, 'P', kAlt);
-      user.TypeText(hwnd, programs_.SomeTitle());
+      const std::string title = programs_.SomeTitle();
+      Note("  types [" + title + "] in the dialog");
+      user.TypeText(hwnd, title);
       return;
     }
     case 6:
