@@ -41,7 +41,8 @@ SimulatedLife::Before SimulatedLife::LookBefore(int tag) {
     if (IsStuck(hwnd)) before.stuck.insert(hwnd);
   }
   before.known = JustWorkedIn();
-  before.known.insert(before.foreground);
+  // The strip names the Previous Window.
+  before.known.insert({before.foreground, korvale_->Record().current.handle});
   selecting_ = before;
   return before;
 }
@@ -58,6 +59,12 @@ std::set<WindowHandle> SimulatedLife::JustWorkedIn() {
     }
   }
   return known;
+}
+
+/// The strip also names the window in which the user was before Korvale started.
+void SimulatedLife::KnowTargetWindow() {
+  const WindowHandle target = korvale_->Record().current.handle;
+  if (desktop.Windows().Find(target) != nullptr) workedIn_.ComeFrom(target);
 }
 
 /// The windows on the desktop that a user would say the Tag stands for; not the ghost of one that

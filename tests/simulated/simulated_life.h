@@ -160,6 +160,7 @@ class SimulatedLife : public KorvaleWorld {
   void CheckSelection(const Before& before);
   void CheckSelectedTag(const Before& before, const MenuItem& entry);
   std::set<WindowHandle> JustWorkedIn();
+  void KnowTargetWindow();
   void CheckReason(const std::string& text);
   void CheckRefusedReturn();
   std::vector<WindowHandle> WindowsOf(const MenuItem& entry);

@@ -19,6 +19,7 @@ void SimulatedLife::CheckAlways() {
   EXPECT_TRUE(desktop.Windows().Find(form.Handle())->enabled);
   EXPECT_FALSE(korvale_->Suspended());
   EXPECT_EQ(desktop.CallsThatWaited(), 0) << "a window that hangs would have held Korvale up";
+  KnowTargetWindow();
   CheckHotKeys();
   CheckSaving();
   KeepBook();

@@ -20,6 +20,8 @@ class WorkedIn : private DesktopObserver {
   void ForgetAll() { times_.clear(); }
   /// The user works in this window.
   void Work(WindowHandle hwnd) { times_[hwnd] = {++now_, now_}; }
+  /// The user came from this window, earlier than from all that are known.
+  void ComeFrom(WindowHandle hwnd) { times_.try_emplace(hwnd); }
 
   /// The user may have been in `one` after they worked in `other` for certain.
   bool MayBeLater(WindowHandle one, WindowHandle other) const {
@@ -55,13 +57,21 @@ class WorkedIn : private DesktopObserver {
 
   void OnForegroundChanged(WindowHandle foreground) override {
     ++now_;
-    if (front_ != 0) times_[front_].perhaps = now_;
-    if (foreground != 0) times_[foreground].perhaps = now_;
+    if (front_ != 0) PerhapsWork(front_);
+    if (foreground != 0) PerhapsWork(foreground);
     front_ = foreground;
   }
   void OnDestroyed(WindowHandle hwnd) override {
     times_.erase(hwnd);
     if (front_ == hwnd) front_ = 0;
+  }
+
+  /// To the user, a dialog is also the window that it disables.
+  void PerhapsWork(WindowHandle hwnd) {
+    times_[hwnd].perhaps = now_;
+    const FakeWindow* const window = windows_->Find(hwnd);
+    const FakeWindow* const owner = window == nullptr ? nullptr : windows_->Find(window->owner);
+    if (owner != nullptr && !owner->enabled) PerhapsWork(owner->handle);
   }
 
   FakeWindows* windows_;
