@@ -105,11 +105,17 @@ void SimulatedLife::CheckReason(const std::string& text) {
 }
 
 /// Windows has denied the way back: it changes the foreground for nobody, or did so once it had
-/// restored an owner, or a window that the user has been in is minimized and cannot be restored.
+/// restored an owner, or a window that the user has been in is minimized and cannot be restored, or
+/// the one is that stands in front of it.
 void SimulatedLife::CheckRefusedReturn() {
   std::vector<WindowHandle> windows = workedIn_.All();
   windows.insert(windows.end(), thereAtStart_.begin(), thereAtStart_.end());
-  const auto stuck = [this](WindowHandle hwnd) { return CannotBeRestored(hwnd); };
+  const auto stuck = [this](WindowHandle hwnd) {
+    const FakeWindow* const window = desktop.Windows().Find(hwnd);
+    const bool behind = window != nullptr && !window->enabled;
+    return CannotBeRestored(hwnd) ||
+           (behind && CannotBeRestored(desktop.Windows().EnabledPopupOf(hwnd)));
+  };
   EXPECT_TRUE(selecting_->locked || programs_.RefusesForeground() ||
               std::ranges::any_of(windows, stuck));
 }
