@@ -174,6 +174,10 @@ void SimulatedLife::ChangeColors() {
 
 /// The user is told, and can go on.
 void SimulatedLife::RefuseOptionsDialog() {
+  const Form* const dialog = korvale_->FindForm("frmOptions");
+  if (dialog != nullptr && korvale_->user.IsShown(dialog->Handle())) {
+    korvale_->user.PressCloseBox(dialog->Handle());
+  }
   if (korvale_->FindForm("frmOptions") != nullptr) return;
   Note("Windows has no memory for the Options dialog");
   const std::size_t boxes = korvale_->host.Messages().size();
