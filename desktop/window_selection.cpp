@@ -11,6 +11,7 @@
 #include "desktop/window_visibility.h"
 #include "platform/win32_constants.h"
 #include "util/characters.h"
+#include "util/graphemes.h"
 #include "util/text.h"
 
 namespace korvale {
@@ -25,7 +26,7 @@ bool IsTheWindow(ActivationResult result) {
 constexpr std::int32_t kLongestName = 255;
 constexpr std::int32_t kLongestWord = 100;
 
-/// How many characters of the text a message shows.
+/// How many characters of the text a message shows at the most.
 std::int32_t ShownLength(std::string_view text) {
   std::int32_t shown = 0;
   std::int32_t word = 0;
@@ -40,7 +41,7 @@ std::int32_t ShownLength(std::string_view text) {
 }  // namespace
 
 std::string NameInMessage(const std::string& text) {
-  const std::string beginning = LeftCharacters(text, ShownLength(text));
+  const std::string beginning = LeftClusters(text, ShownLength(text));
   const std::string name = WithDirectionsEnded(OnOneLine(beginning));
   return beginning == text ? name : name + kEllipsis;
 }

@@ -8,6 +8,7 @@
 #include "hotkeys/hot_key_names.h"
 #include "platform/win32_constants.h"
 #include "ui/menu_text.h"
+#include "util/graphemes.h"
 #include "util/text.h"
 
 namespace korvale {
@@ -24,7 +25,7 @@ constexpr int kPopUpPadding = 20;
 
 std::string ShortTitle(const std::string& title) {
   if (CharacterCount(title) <= kShortTitleLength) return title;
-  return LeftCharacters(title, kShortTitleLength - CharacterCount(kEllipsis)) + kEllipsis;
+  return LeftClusters(title, kShortTitleLength - CharacterCount(kEllipsis)) + kEllipsis;
 }
 
 WindowMenu::WindowMenu(Desktop& desktop, Form& form, bool& alwaysOnTop,

@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
-#include "util/characters.h"
+#include "util/graphemes.h"
 #include "util/text.h"
 
 namespace korvale {
@@ -25,13 +27,11 @@ std::string Fitting(ScreenQueries& screen, WindowHandle hwnd, const std::string&
   };
   if (fits(caption)) return caption;
   std::size_t shortest = 0;
-  std::size_t tooLong = SplitCharacters(caption).size();
-  const auto beginning = [&](std::size_t characters) {
+  const std::vector<std::string_view> clusters = SplitClusters(caption);
+  std::size_t tooLong = clusters.size();
+  const auto beginning = [&](std::size_t count) {
     std::string text;
-    for (const std::string_view character : SplitCharacters(caption)) {
-      if (characters-- == 0) break;
-      text += character;
-    }
+    for (const std::string_view cluster : std::span(clusters).first(count)) text += cluster;
     return text + kEllipsis;
   };
   while (tooLong - shortest > 1) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "util/characters.h"
+#include "util/graphemes.h"
 #include "util/text.h"
 
 namespace korvale {
@@ -38,17 +39,19 @@ int ColumnCount(std::string_view text) {
 }
 
 std::string ShortenedText(std::string_view text, int columns, std::string_view tail) {
-  if (ColumnCount(text) + ColumnCount(tail) <= columns) return std::string(text).append(tail);
+  if (ColumnCount(text) + ColumnCount(tail) <= columns) {
+    return WithDirectionsEnded(text).append(tail);
+  }
   int room = columns - ColumnCount(kEllipsis) - ColumnCount(tail);
   std::string shortened;
   while (!text.empty()) {
-    const Character character = FirstCharacter(text);
-    room -= Columns(character);
+    const std::string_view cluster = FirstCluster(text);
+    room -= ColumnCount(cluster);
     if (room < 0) break;
-    shortened += character.bytes;
-    text.remove_prefix(character.bytes.size());
+    shortened += cluster;
+    text.remove_prefix(cluster.size());
   }
-  return shortened.append(kEllipsis).append(tail);
+  return WithDirectionsEnded(shortened).append(kEllipsis).append(tail);
 }
 
 }  // namespace korvale

@@ -9,8 +9,9 @@ namespace korvale {
 /// for emoji.
 int ColumnCount(std::string_view text);
 
-/// `text` followed by `tail` when both fit into `columns`; otherwise as much of the beginning of
-/// `text` as fits, "..." and `tail`.
+/// `text` followed by `tail` when both fit into `columns`; otherwise as many whole grapheme
+/// clusters from the beginning of `text` as fit, "..." and `tail`. What `text` leaves open of the
+/// writing direction is ended before what follows.
 std::string ShortenedText(std::string_view text, int columns, std::string_view tail = "");
 
 }  // namespace korvale

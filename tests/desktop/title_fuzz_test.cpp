@@ -76,6 +76,13 @@ TEST(InBracketsTest, ShowsNoWordThatIsLongerThan100Characters) {
   EXPECT_EQ(InBrackets("a " + word + "y b"), "Window:  [a " + word + "...]");
 }
 
+TEST(InBracketsTest, IsCutBetweenWhatReadersTakeForCharacters) {
+  const std::string word(98, 'x');
+  EXPECT_EQ(InBrackets("a " + word + "👩‍💻"), "Window:  [a " + word + "...]");
+  EXPECT_EQ(InBrackets("a " + word + "🇩🇪🇫🇷"), "Window:  [a " + word + "🇩🇪...]");
+  EXPECT_EQ(InBrackets("a " + word + "ye\u0301"), "Window:  [a " + word + "y...]");
+}
+
 TEST(InBracketsTest, KeepsTheDirectionOfATitleFromTheWordsBehindIt) {
   EXPECT_EQ(InBrackets("\u202eabc"), "Window:  [\u202eabc\u202c]");
 }

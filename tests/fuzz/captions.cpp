@@ -4,6 +4,7 @@
 #include "tests/desktop/title_rule.h"
 #include "tests/fuzz/fuzz.h"
 #include "tests/program/strange_title_world.h"
+#include "util/graphemes.h"
 
 namespace korvale {
 namespace {
@@ -47,7 +48,7 @@ class Captions : public StrangeTitleWorld {
     KorvaleCopy& korvale = StartedAfter(Strange());
     const std::vector<ShownMenuItem> items = korvale.WindowMenuItems();
     const std::int32_t length = CharacterCount(title_);
-    const std::string shown = length <= 30 ? title_ : LeftCharacters(title_, 27) + "...";
+    const std::string shown = length <= 30 ? title_ : LeftClusters(title_, 27) + "...";
     if (IsPlain(shown)) {
       EXPECT_EQ(items[1].caption, "[" + shown + "]  Always On Top");
       EXPECT_EQ(items.back().caption, "Add  [" + shown + "]  to Window menu...");

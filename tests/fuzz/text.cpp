@@ -5,7 +5,9 @@
 #include <vector>
 
 #include "tests/fuzz/fuzz.h"
+#include "ui/shortened_text.h"
 #include "util/characters.h"
+#include "util/graphemes.h"
 
 namespace korvale {
 namespace {
@@ -77,6 +79,56 @@ void CheckCuts(const std::string& text) {
   EXPECT_EQ(PadText(text, width, "RIGHT_SPACES"), text + "   ");
   EXPECT_EQ(PadText(text, width, "LEFT_ZEROES"), "000" + text);
   EXPECT_EQ(PadText(text, static_cast<std::int16_t>(count), "LEFT_ZEROES"), text);
+}
+
+/// Where a text may be cut: between its clusters.
+bool IsBound(std::string_view text, std::size_t at) {
+  std::size_t end = 0;
+  for (const std::string_view cluster : SplitClusters(text)) {
+    if (end == at) return true;
+    end += cluster.size();
+  }
+  return end == at;
+}
+
+/// The plainest rule: a mark is not torn from the Latin letter that it stands on.
+bool TearsMark(std::string_view text, std::size_t at) {
+  if (at == 0 || at >= text.size()) return false;
+  const Character next = FirstCharacter(text.substr(at));
+  const char letter = static_cast<char>(text[at - 1] | 0x20);
+  return next.valid && next.codePoint >= 0x300 && next.codePoint <= 0x36F && letter >= 'a' &&
+         letter <= 'z';
+}
+
+void CheckClusters(const std::string& text) {
+  std::string all;
+  for (const std::string_view cluster : SplitClusters(text)) {
+    EXPECT_EQ(FirstCluster(cluster), cluster);
+    all += cluster;
+  }
+  EXPECT_EQ(all, text);
+  const std::string_view first = text.empty() ? "" : FirstCluster(text);
+  for (std::int32_t cut = 0; cut <= CharacterCount(text) + 1; ++cut) {
+    const std::string left = LeftClusters(text, cut);
+    EXPECT_TRUE(text.starts_with(left));
+    EXPECT_LE(CharacterCount(left), cut);
+    if (left.size() < first.size()) continue;
+    EXPECT_TRUE(IsBound(text, left.size()));
+    EXPECT_FALSE(TearsMark(text, left.size()));
+  }
+}
+
+void CheckShortened(const std::string& text) {
+  for (const int columns : {4, 10, 50}) {
+    if (ColumnCount(text) <= columns) continue;
+    const std::string shown = ShortenedText(text, columns);
+    // Ended directions may stand between the beginning of the text and the dots.
+    std::size_t same = 0;
+    while (same < text.size() && same < shown.size() && text[same] == shown[same]) ++same;
+    while (WithDirectionsEnded(text.substr(0, same)) + "..." != shown && same > 0) --same;
+    EXPECT_TRUE(IsBound(text, same));
+    EXPECT_FALSE(TearsMark(text, same));
+  }
 }
 
 void CheckCase(const std::string& text, const std::string& other) {
@@ -182,6 +234,8 @@ void Fuzz(std::string_view input) {
   const std::string text = LeftCharacters(input, kLongest);
   CheckCharacters(text);
   CheckCuts(text);
+  CheckClusters(text);
+  CheckShortened(text);
   CheckCase(text, sought);
   CheckShownText(text);
   CheckSearch(text, sought, instead);

@@ -51,6 +51,15 @@ TEST_F(WindowMenuTest, ShortTitlesAreCountedInCharacters) {
             "一二三四五六七八九十一二三四五六七八九十一二三四五六七...");
 }
 
+TEST_F(WindowMenuTest, ShortTitlesEndBetweenWhatReadersTakeForCharacters) {
+  const std::string letters(26, 'x');
+  EXPECT_EQ(ShortTitle(letters + "e\u0301" + "abc"), letters + "...");
+  EXPECT_EQ(ShortTitle(letters + "ae\u0301" + "bc"), letters + "a...");
+  EXPECT_EQ(ShortTitle(letters + "👩‍💻👩‍💻"), letters + "...");
+  EXPECT_EQ(ShortTitle(letters + "🇩🇪🇫🇷🇯🇵"), letters + "...");
+  EXPECT_EQ(ShortTitle(letters + "स्ते हि"), letters + "...");
+}
+
 TEST_F(WindowMenuTest, AmpersandsOfTheTitleAreShownLiterally) {
   KorvaleCopy& korvale = StartedAfter(Open("Tom & Jerry && Co"));
   korvale.TagPrevious();

@@ -37,6 +37,12 @@ TEST_F(MenuWidthTest, ALongerOneIsCut) {
   EXPECT_EQ(ShownFor(std::string(101, 'x')), std::string(97, 'x') + "...");
 }
 
+TEST_F(MenuWidthTest, TheCutTearsNothingThatReadersTakeForOneCharacter) {
+  const std::string letters(94, 'x');
+  EXPECT_EQ(ShownFor(letters + "👨‍👩‍👧👨‍👩‍👧"), letters + "...");
+  EXPECT_EQ(ShownFor(letters + "🇩🇪🇫🇷🇯🇵🇰🇷"), letters + "🇩🇪...");
+}
+
 TEST_F(MenuWidthTest, SoIsOneThatWindowsCannotMeasure) {
   host_.MeasureUpTo(8192);
   EXPECT_EQ(ShownFor(std::string(65536, 'x')), std::string(97, 'x') + "...");

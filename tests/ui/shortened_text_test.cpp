@@ -62,6 +62,15 @@ TEST(ShortenedTextTest, KeepsTheTail) {
 TEST(ShortenedTextTest, NeverCutsThroughACharacter) {
   EXPECT_EQ(ShortenedText("会計会計会計", 10), "会計会...");
   EXPECT_EQ(ShortenedText("a会計会計会計", 10), "a会計会...");
+  EXPECT_EQ(ShortenedText("123456e\u0301789", 10), "123456...");
+  EXPECT_EQ(ShortenedText("1234👩‍💻789", 10), "1234...");
+  EXPECT_EQ(ShortenedText("123456🇩🇪🇫🇷", 10), "123456🇩🇪🇫🇷");
+  EXPECT_EQ(ShortenedText("123456🇩🇪🇫🇷7", 10), "123456...");
+}
+
+TEST(ShortenedTextTest, KeepsTheDirectionOfTheTextFromWhatFollows) {
+  EXPECT_EQ(ShortenedText("\u202eabc", 10, " - ***"), "\u202eabc\u202c - ***");
+  EXPECT_EQ(ShortenedText("\u202e12345678901", 10), "\u202e123456\u202c...");
 }
 
 }  // namespace
