@@ -26,8 +26,8 @@ std::string Trim(std::string_view text);
 /// The same as a part of `text`.
 std::string_view TrimmedView(std::string_view text);
 
-/// The text in upper case, character by character: Latin with its common accents, Greek, Cyrillic
-/// and Armenian letters; everything else stays. The number of characters never changes.
+/// The text in upper case, character by character: Latin with its accents, Greek, Cyrillic and
+/// Armenian letters; everything else stays. The number of characters never changes.
 std::string UpperCase(std::string_view text);
 
 /// True when both texts are the same once upper-cased.

@@ -91,7 +91,9 @@ INSTANTIATE_TEST_SUITE_P(
     Letters, UpperCaseTest,
     testing::Values(
         CasePair{"azAZ019[`{", "AZAZ019[`{"}, CasePair{"àáöøùþÿ", "ÀÁÖØÙÞŸ"},
-        CasePair{"āėįĳķĺňŋŷźž", "ĀĖĮĲĶĹŇŊŶŹŽ"}, CasePair{"άέήίαπρςσωϊϋόύώ", "ΆΈΉΊΑΠΡΣΣΩΪΫΌΎΏ"},
+        CasePair{"āėįĳķĺňŋŷźž", "ĀĖĮĲĶĹŇŊŶŹŽ"}, CasePair{"ơưǎșțȳ", "ƠƯǍȘȚȲ"},
+        CasePair{"tiếngviệtḁẕạỹ", "TIẾNGVIỆTḀẔẠỸ"}, CasePair{"ａｚ", "ＡＺ"},
+        CasePair{"ıſŉǰẖẛẞა", "ıſŉǰẖẛẞა"}, CasePair{"άέήίαπρςσωϊϋόύώ", "ΆΈΉΊΑΠΡΣΣΩΪΫΌΎΏ"},
         CasePair{"абяёѐџѡҁҋҿӂӄӎӏӑԯ", "АБЯЁЀЏѠҀҊҾӁӃӍӀӐԮ"},
         CasePair{"աֆ", "ԱՖ"}, CasePair{"ß÷×ΐΰϏևメモ😀", "ß÷×ΐΰϏևメモ😀"},
         CasePair{"a\xE4\x80\x80\x80", "A\xE4\x80\x80\x80"}, CasePair{"\x80z", "\x80Z"}));
