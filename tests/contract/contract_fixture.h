@@ -14,6 +14,23 @@
 
 namespace korvale {
 
+/// A few words in each of many scripts, with marks, joiners and characters of other planes.
+inline constexpr const char* kEveryScript[] = {"cafe\u0301 ệ",
+                                               "Ωμέγα",
+                                               "Работа",
+                                               "ספר שָׁל",
+                                               "كتاب مُ",
+                                               "हिन्दी क्षि",
+                                               "ภาษาไทย น้ำ",
+                                               "தமிழ்",
+                                               "會計𠮷",
+                                               "日本か\u3099",
+                                               "한글\u1112\u1161\u11ab",
+                                               "ქართული",
+                                               "Հայ",
+                                               "አማርኛ",
+                                               "👨‍👩‍👧🇩🇪👍🏽"};
+
 /// One host, a form with every kind of control and two dialogs.
 class FormHostContract : public testing::Test {
  protected:

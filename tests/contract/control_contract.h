@@ -70,6 +70,24 @@ TEST_F(ShownFormContract, TypedTextIsToldAndShown) {
   EXPECT_EQ(form_.Take().back(), "click txtName");
 }
 
+TEST_F(ShownFormContract, TextOfEveryScriptIsTypedShownAndChosenCharacterForCharacter) {
+  Click("txtName");
+  for (const char* const text : kEveryScript) {
+    form_.Find("txtName").SetText("");
+    Type(text);
+    EXPECT_EQ(Text("txtName"), text);
+    EXPECT_EQ(form_.Find("txtName").Text(), text);
+    form_.Find("lblClick").SetText(text);
+    EXPECT_EQ(Text("lblClick"), text);
+    form_.Find("cboSize").AddItem(text);
+    form_.SetCaption(text);
+    EXPECT_EQ(User().Title(Window()), text);
+  }
+  const std::vector<std::string> entries = User().ListEntries(Window(), Id("cboSize"));
+  ASSERT_EQ(entries.size(), 3 + std::size(kEveryScript));
+  EXPECT_TRUE(std::equal(entries.begin() + 3, entries.end(), std::begin(kEveryScript)));
+}
+
 TEST_F(ShownFormContract, TextSetByCodeIsShownWithoutAnEvent) {
   form_.Find("txtName").SetText("日本 Ж \U0001F600 & co");
   EXPECT_EQ(Text("txtName"), "日本 Ж \U0001F600 & co");

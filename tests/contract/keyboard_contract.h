@@ -7,6 +7,9 @@ namespace korvale {
 /// Keys that the program leaves to the controls.
 inline constexpr int kPageUp = 0x21;
 inline constexpr int kPageDown = 0x22;
+/// What comes instead of each key that an input method takes for itself (VK_PROCESSKEY), Enter and
+/// Esc too.
+inline constexpr int kTakenByInputMethod = 0xE5;
 
 TEST_F(ShownFormContract, TheFirstTabStopHasTheFocusAtFirst) { EXPECT_EQ(Focus(), "txtName"); }
 
@@ -44,6 +47,15 @@ TEST_F(ShownFormContract, EnterPressesTheDefaultButtonAndEscTheCancelButton) {
   Press(win32::kVkEscape);
   EXPECT_EQ(form_.Take(), (Lines{"click cmdGo", "click cmdClose"}));
   EXPECT_EQ(Focus(), "txtName");
+}
+
+TEST_F(ShownFormContract, AKeyThatTheInputMethodTakesPressesNothing) {
+  Press(kTakenByInputMethod);
+  Press(kTakenByInputMethod, kShift);
+  EXPECT_EQ(form_.Take(), Lines{});
+  EXPECT_EQ(Focus(), "txtName");
+  EXPECT_EQ(Text("txtName"), "");
+  EXPECT_TRUE(form_.IsLoaded());
 }
 
 TEST_F(ShownFormContract, EnterPressesTheButtonThatHasTheFocus) {

@@ -45,6 +45,16 @@ TEST_F(ShownFormContract, AMenuIsShownAsItStandsWhenItOpens) {
   EXPECT_EQ(form_.Take(), Lines{"menu mnuList(2)"});
 }
 
+TEST_F(ShownFormContract, AMenuShowsEveryScriptCharacterForCharacter) {
+  MenuItem& item = form_.Menu("mnuList", 0);
+  item.literalFrom = 2;
+  for (const char* const text : kEveryScript) {
+    item.caption = std::string("&0  ") + text;
+    EXPECT_EQ(User().MenuItems(Window(), {"Window"}),
+              (std::vector<ShownMenuItem>{{std::string("0  ") + text, "0"}}));
+  }
+}
+
 TEST_F(ShownFormContract, LiteralAmpersandsOfACaptionAreShown) {
   MenuItem& item = form_.Menu("mnuList", 0);
   item.caption = "&0  R&D && more";
