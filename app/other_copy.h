@@ -33,10 +33,10 @@ class OtherCopy {
   bool GiveWay(Desktop& desktop, const WindowHandles& copies);
 
  private:
-  WindowHandle Find(Desktop& desktop, const WindowHandles& copies);
+  bool IsSeenOrLate(Desktop& desktop, std::uint32_t waited);
   WindowHandle FindByCaption(Desktop& desktop, const WindowHandles& copies, bool visible,
                              const WindowEnumeration::Test& qualifies = WindowEnumeration::Any);
-  bool IsSeenOrLate(Desktop& desktop, std::uint32_t waited);
+  WindowHandle Find(Desktop& desktop, const WindowHandles& copies);
   void BringForward(Desktop& desktop, WindowHandle copy);
 
   Platform* platform_;

@@ -10,7 +10,6 @@
 #include "util/raised_flag.h"
 
 namespace korvale {
-
 namespace {
 
 constexpr const char* kWhitespace = " \t\r\n\v\f";

@@ -161,17 +161,18 @@ bool ForegroundTracker::CanComeBack(WindowHandle hwnd) {
          windows_->IsWindowEnabled(hwnd) && !windows_->IsIconic(hwnd);
 }
 
-bool ForegroundTracker::IsAccepted(SeenWindow& window) const {
-  return filter_->IsSelectableWindow(window, true, true) ||
-         IdentifyingEntry(*tags_, window.Title(), window.ClassName()) != nullptr;
+ForegroundTracker::Acceptance ForegroundTracker::Accept(SeenWindow& window) const {
+  if (filter_->IsSelectableWindow(window, true, true)) return {true, nullptr};
+  MenuItem* const entry = IdentifyingEntry(*tags_, window.Title(), window.ClassName());
+  return {entry != nullptr, entry};
 }
 
+bool ForegroundTracker::IsAccepted(SeenWindow& window) const { return Accept(window).accepted; }
+
 bool ForegroundTracker::FollowIfAccepted(SeenWindow& window) {
-  if (!filter_->IsSelectableWindow(window, true, true)) {
-    MenuItem* const entry = IdentifyingEntry(*tags_, window.Title(), window.ClassName());
-    if (entry == nullptr) return false;
-    entry->tag = DecimalText(window.Handle());
-  }
+  const auto [accepted, identifiedBy] = Accept(window);
+  if (!accepted) return false;
+  if (identifiedBy != nullptr) identifiedBy->tag = DecimalText(window.Handle());
   MoveRecordTo({window.Handle(), std::string(window.ClassName())});
   return true;
 }

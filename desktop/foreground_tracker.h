@@ -86,9 +86,17 @@ class ForegroundTracker {
   void PopUpClosed();
 
  private:
+  /// Whether a window may become the Previous Window, and the entry of the Tag that identifies it
+  /// where the options do not allow it.
+  struct Acceptance {
+    bool accepted;
+    MenuItem* identifiedBy;
+  };
+
   /// Why the current window and the alternate are not on the screen (DWM_CLOAKED_ values).
   using Cloaks = std::array<std::uint32_t, 2>;
 
+  Acceptance Accept(SeenWindow& window) const;
   void NoteForeground(SeenWindow& front);
   void FollowForeground(SeenWindow& front);
   /// The user is in `window` now. Unless that is the main window, it becomes the Previous Window,

@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <string>
-#include <string_view>
 #include <utility>
 
 #include "desktop/foreground_tracker.h"
@@ -10,18 +9,10 @@
 #include "platform/win32_constants.h"
 
 namespace korvale {
-namespace {
-
-/// The window that had this class has gone, also when another one has got its handle.
-bool IsAnother(SeenWindow& window, std::string_view className) {
-  return window.ClassName().empty() || window.ClassName() != className;
-}
-
-}  // namespace
 
 bool ForegroundTracker::IsGone(const WindowTriple& window) {
   SeenWindow seen(*windows_, window.handle);
-  return window.handle != 0 && IsAnother(seen, window.className);
+  return window.handle != 0 && !seen.IsStill(window.className);
 }
 
 /// A window of it has gone, or Windows has taken it off the screen or put it there: the user closed
@@ -79,8 +70,7 @@ std::array<WindowTriple, 2> ForegroundTracker::FindReachable() {
   worked_.ForEach([&](const KnownWindow& window) {
     const bool enough = found == reachable.size();
     SeenWindow seen(*windows_, window.handle);
-    const bool gone =
-        enough ? !windows_->IsWindow(window.handle) : IsAnother(seen, window.className);
+    const bool gone = enough ? !windows_->IsWindow(window.handle) : !seen.IsStill(window.className);
     if (gone) {
       worked_.Remove(window.handle);
       if (window.handle == lastSeen_) lastSeen_ = 0;

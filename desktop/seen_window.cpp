@@ -20,6 +20,10 @@ std::string_view SeenWindow::ClassName() {
   return ReadOnce(className_, [this] { return ReadWindowClass(*windows_, hwnd_, classBuffer_); });
 }
 
+bool SeenWindow::IsStill(std::string_view className) {
+  return !ClassName().empty() && ClassName() == className;
+}
+
 std::int32_t SeenWindow::Style() {
   return ReadOnce(style_, [this] { return windows_->GetWindowLongA(hwnd_, win32::kGwlStyle); });
 }

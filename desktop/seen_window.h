@@ -26,6 +26,9 @@ class SeenWindow {
   bool HasReadTitle() const { return title_.has_value(); }
   /// As GetWindowClass; lives as long as this visit. A window that exists has a class.
   std::string_view ClassName();
+  /// As StillExists of window_readers.h, by the class alone, which most who look at a window read
+  /// anyway.
+  bool IsStill(std::string_view className);
   /// GetWindowLongA(GWL_STYLE) and (GWL_EXSTYLE).
   std::int32_t Style();
   std::int32_t ExStyle();

@@ -1,6 +1,7 @@
 #include "desktop/user_return.h"
 
 #include "desktop/foreground_return.h"
+#include "util/forms.h"
 
 namespace korvale {
 

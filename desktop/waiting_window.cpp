@@ -31,6 +31,21 @@ bool TakesInput(WindowQueries& windows, WindowHandle hwnd) {
 
 }  // namespace
 
+WindowHandle FindWaitingWindow(WindowQueries& windows, WindowHandle hwnd,
+                               const std::string& className) {
+  const std::uint32_t thread = windows.GetWindowThreadProcessId(hwnd);
+  if (thread == 0) return 0;
+  WindowHandle found = 0;
+  windows.EnumWindows([&](WindowHandle candidate) {
+    const bool waits = windows.GetWindowThreadProcessId(candidate) == thread &&
+                       TakesInput(windows, candidate) &&
+                       (className.empty() || GetWindowClass(windows, candidate) == className);
+    if (waits) found = candidate;
+    return !waits;
+  });
+  return found;
+}
+
 WindowHandle FindInputWindow(WindowQueries& windows, WindowHandle hwnd) {
   if (hwnd == 0 || windows.IsWindowEnabled(hwnd)) return hwnd;
   const WindowHandle last = windows.GetLastActivePopup(hwnd);
@@ -47,21 +62,6 @@ WindowHandle FindInputWindow(WindowQueries& windows, WindowHandle hwnd) {
       found = candidate;
     }
     return found == 0;
-  });
-  return found;
-}
-
-WindowHandle FindWaitingWindow(WindowQueries& windows, WindowHandle hwnd,
-                               const std::string& className) {
-  const std::uint32_t thread = windows.GetWindowThreadProcessId(hwnd);
-  if (thread == 0) return 0;
-  WindowHandle found = 0;
-  windows.EnumWindows([&](WindowHandle candidate) {
-    const bool waits = windows.GetWindowThreadProcessId(candidate) == thread &&
-                       TakesInput(windows, candidate) &&
-                       (className.empty() || GetWindowClass(windows, candidate) == className);
-    if (waits) found = candidate;
-    return !waits;
   });
   return found;
 }

@@ -2,16 +2,15 @@
 
 #include <cstdint>
 #include <optional>
-#include <string_view>
+#include <string>
 #include <utility>
 
 #include "app/core/identity.h"
 #include "desktop/timer_pause.h"
+#include "desktop/window_names.h"
 #include "desktop/window_readers.h"
 #include "desktop/window_visibility.h"
 #include "platform/win32_constants.h"
-#include "util/characters.h"
-#include "util/graphemes.h"
 #include "util/text.h"
 
 namespace korvale {
@@ -22,31 +21,7 @@ bool IsTheWindow(ActivationResult result) {
   return result == kActivationDone || result == kWindowNotAnswering || result == kWindowDenied;
 }
 
-// In characters; with much more, a message box would not fit on the screen.
-constexpr std::int32_t kLongestName = 255;
-constexpr std::int32_t kLongestWord = 100;
-
-/// How many characters of the text a message shows at the most.
-std::int32_t ShownLength(std::string_view text) {
-  std::int32_t shown = 0;
-  std::int32_t word = 0;
-  for (const std::string_view character : SplitCharacters(text)) {
-    word = character == " " ? 0 : word + 1;
-    if (shown == kLongestName || word > kLongestWord) break;
-    ++shown;
-  }
-  return shown;
-}
-
 }  // namespace
-
-std::string NameInMessage(const std::string& text) {
-  const std::string beginning = LeftClusters(text, ShownLength(text));
-  const std::string name = WithDirectionsEnded(OnOneLine(beginning));
-  return beginning == text ? name : name + kEllipsis;
-}
-
-std::string InBrackets(const std::string& text) { return "Window:  [" + NameInMessage(text) + "]"; }
 
 WindowSelection::WindowSelection(const DesktopParts& parts, WindowRequests& requests,
                                  WindowEnumeration& enumeration, WindowActions& actions,

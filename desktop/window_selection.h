@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <optional>
-#include <string>
 
 #include "desktop/desktop_parts.h"
 #include "desktop/foreground_tracker.h"
@@ -11,12 +10,6 @@
 #include "desktop/window_enumeration.h"
 
 namespace korvale {
-
-/// How a message names a window by its title or identification text: on one line, and shortened
-/// when it is very long.
-std::string NameInMessage(const std::string& text);
-/// The same behind "Window:", as most messages begin.
-std::string InBrackets(const std::string& text);
 
 /// Selects the windows of the Tags: looks for them, brings them to the front and moves the Previous
 /// Window record.

@@ -1,9 +1,9 @@
 #include "forms/form_display.h"
 
-#include "desktop/foreground_return.h"
 #include "desktop/user_desktop.h"
 #include "desktop/user_return.h"
 #include "platform/win32_constants.h"
+#include "util/forms.h"
 #include "util/raised_flag.h"
 
 namespace korvale {

@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "app/core/identity.h"
+#include "desktop/window_names.h"
 #include "desktop/window_readers.h"
-#include "desktop/window_selection.h"
 #include "hotkeys/hot_key_names.h"
 #include "platform/win32_constants.h"
 #include "ui/menu_text.h"

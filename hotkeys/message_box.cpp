@@ -2,12 +2,12 @@
 
 #include <utility>
 
-#include "desktop/foreground_return.h"
 #include "desktop/user_desktop.h"
 #include "desktop/user_return.h"
 #include "desktop/waiting_window.h"
 #include "desktop/window_visibility.h"
 #include "platform/run_time_error.h"
+#include "util/forms.h"
 #include "util/raised_flag.h"
 
 namespace korvale {

@@ -1,5 +1,6 @@
 #include "util/forms.h"
 
+#include <algorithm>
 #include <optional>
 
 #include "util/text.h"
@@ -31,6 +32,12 @@ bool IsFormLoaded(const LoadedForms& forms, std::string_view name, bool /*flag*/
 
 WindowHandle FormHandle(const LoadedForms& forms, std::string_view name) {
   return FindForm(forms, name).value_or(0);
+}
+
+bool IsOwnForm(const LoadedForms& forms, WindowHandle hwnd) {
+  if (hwnd == 0) return false;
+  return std::ranges::any_of(forms.List(),
+                             [&](const LoadedForm& form) { return form.handle == hwnd; });
 }
 
 }  // namespace korvale

@@ -33,4 +33,8 @@ bool IsFormLoaded(const LoadedForms& forms, std::string_view name, bool flag = f
 /// The window of the first loaded form of this name, ignoring case; 0 when none is loaded.
 WindowHandle FormHandle(const LoadedForms& forms, std::string_view name);
 
+/// True when the window is that of a loaded form. A form without a window has the handle 0, which
+/// never counts.
+bool IsOwnForm(const LoadedForms& forms, WindowHandle hwnd);
+
 }  // namespace korvale

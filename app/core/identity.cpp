@@ -16,9 +16,8 @@ std::string VersionText(const VersionInfo& version) {
 }  // namespace
 
 std::string FolderName(std::string_view folder) {
-  while (folder.ends_with('\\')) folder.remove_suffix(1);
-  const std::size_t separator = folder.rfind('\\');
-  return std::string(separator == std::string_view::npos ? folder : folder.substr(separator + 1));
+  const std::string path = WithoutClosingBackslash(folder);
+  return path.substr(path.rfind('\\') + 1);  // npos + 1 is 0: all of it
 }
 
 ProgramIdentity ReadProgramIdentity(SystemApi& system) {

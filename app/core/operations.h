@@ -73,7 +73,6 @@ constexpr std::size_t OperationCount(OperationGroup group) {
   return static_cast<std::size_t>(std::ranges::count(kOperations, group, &OperationRow::group));
 }
 
-/// True when each row stands at its enumerator's place and the indexes of each group count from 0.
 consteval bool OperationsAreInOrder() {
   std::size_t place = 0;
   std::array<int, 2> next{};
@@ -83,7 +82,8 @@ consteval bool OperationsAreInOrder() {
   }
   return true;
 }
-static_assert(OperationsAreInOrder());
+static_assert(OperationsAreInOrder(),
+              "each row stands at its enumerator's place, and the indexes of a group count from 0");
 
 /// One value for each operation of a group.
 template <OperationGroup Group>

@@ -8,7 +8,7 @@
 
 #include "app/core/stored_tags.h"
 #include "desktop/title_match.h"
-#include "desktop/window_selection.h"
+#include "desktop/window_names.h"
 #include "util/characters.h"
 #include "util/text.h"
 
