@@ -16,6 +16,9 @@
 
 namespace korvale {
 
+/// The hot keys that a user has who has changed nothing: those of ten Tags and five operations.
+inline constexpr std::size_t kAllHotKeys = 15;
+
 /// Hot keys as Windows keeps them: a combination belongs to one registration at most, and an
 /// identifier that is registered again has two. Presses arrive at the window's procedure.
 class FakeHotKeys : public HotKeyApi {

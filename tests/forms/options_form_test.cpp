@@ -57,7 +57,7 @@ TEST_F(OptionsTest, ApplySavesRegistersAnewAndStaysOpen) {
                                                   "SaveOrTell", "default pointer"}));
   EXPECT_EQ(Record().intHotKeyModParent, 2);
   EXPECT_TRUE(dialog_.IsLoaded());
-  ASSERT_EQ(keys_.Registered().size(), 15U);
+  ASSERT_EQ(keys_.Registered().size(), kAllHotKeys);
   EXPECT_EQ(keys_.Registered()[1].modifiers, 2U);
   EXPECT_TRUE(owner_.messages.shown.empty());
 }
@@ -66,7 +66,7 @@ TEST_F(OptionsTest, ApplyRegistersNothingTwice) {
   table_.SetHotKeys("SET");
   OpenDialog();
   Click(dialog_, "cmdApply");
-  EXPECT_EQ(keys_.Registered().size(), 15U);
+  EXPECT_EQ(keys_.Registered().size(), kAllHotKeys);
 }
 
 TEST_F(OptionsTest, ShowsTheHourglassUntilTheHotKeysAreRegistered) {
@@ -92,7 +92,7 @@ TEST_F(OptionsTest, OkSavesAndCloses) {
   EXPECT_FALSE(dialog_.IsLoaded());
   EXPECT_EQ(owner_.log.at(1), "udmOptions UPDATE_OPTIONS");
   EXPECT_EQ(owner_.log.back(), "OptionsDialogClosed");
-  EXPECT_EQ(keys_.Registered().size(), 15U);
+  EXPECT_EQ(keys_.Registered().size(), kAllHotKeys);
 }
 
 TEST_F(OptionsTest, EnterSavesAndCloses) {
@@ -111,14 +111,14 @@ TEST_F(OptionsTest, ApplyWhileToggledOffSaysSoOnceAndSwitchesOn) {
   EXPECT_EQ(owner_.messages.shown[0],
             (ShownMessageBox{kReactivation, 0, "Korvale - Options (Save)"}));
   EXPECT_TRUE(table_.HotKeysActive());
-  EXPECT_EQ(keys_.Registered().size(), 15U);
+  EXPECT_EQ(keys_.Registered().size(), kAllHotKeys);
 }
 
 TEST_F(OptionsTest, SaysThatItSwitchesOnBetweenSavingAndRegistering) {
   table_.SetHotKeys("SET");
   table_.SetHotKeysActive(false);
   const auto before = keys_.Registered();
-  ASSERT_EQ(before.size(), 15U);
+  ASSERT_EQ(before.size(), kAllHotKeys);
   OpenDialog();
   Click(dialog_, "chkHotKeyParent", 3);
   std::vector<std::string> logThen;
@@ -132,7 +132,7 @@ TEST_F(OptionsTest, SaysThatItSwitchesOnBetweenSavingAndRegistering) {
   EXPECT_EQ(logThen,
             (std::vector<std::string>{"hourglass", "udmOptions UPDATE_OPTIONS", "SaveOrTell"}));
   EXPECT_EQ(owner_.log.back(), "default pointer");
-  EXPECT_EQ(keys_.Registered().size(), 14U);
+  EXPECT_EQ(keys_.Registered().size(), kAllHotKeys - 1);
 }
 
 TEST_F(OptionsTest, CancelEscAndTheCloseBoxSaveNothing) {
@@ -176,7 +176,7 @@ TEST_F(OptionsTest, ResetShowsTheDefaultsAndRegistersThem) {
             (std::vector<std::string>{"hourglass", "udmDeleteOptions", "udmLoadOptions",
                                       "udmOptions LOAD_AND_OR_REFRESH", "default pointer"}));
   EXPECT_EQ(Text(dialog_, "cboHotKeyModParent"), "Alt");
-  ASSERT_EQ(keys_.Registered().size(), 15U);
+  ASSERT_EQ(keys_.Registered().size(), kAllHotKeys);
   EXPECT_EQ(keys_.Registered()[0].modifiers, 1U);
 }
 

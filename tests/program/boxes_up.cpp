@@ -108,7 +108,7 @@ void BoxesUp::ShowWaitWindow(const Meanwhile& meanwhile) {
 void BoxesUp::ShowTipOfTheStart(const Meanwhile& meanwhile) {
   OpenWindows();
   hotKeys.RegisterForeign(win32::kModWin, 'W');
-  hotKeyCount_ = 14;
+  hotKeyCount_ = kAllHotKeys - 1;
   korvale_ = &UsedCopy();
   CloseAfter("frmMsgTip", meanwhile);
   korvale_->Start();

@@ -35,7 +35,7 @@ class BoxesUp : public StartTest {
   KorvaleCopy* korvale_ = nullptr;
   WindowHandle beta_ = 0;
   WindowHandle gamma_ = 0;
-  std::size_t hotKeyCount_ = 15;
+  std::size_t hotKeyCount_ = kAllHotKeys;
   bool starting_ = false;
   bool exiting_ = false;
   bool mainIsUsable_ = false;

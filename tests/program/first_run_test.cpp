@@ -104,7 +104,7 @@ TEST_F(FirstRunTest, AFirstRunWithoutAWritableStoreRunsAllTheSame) {
   korvale.host.AnswerNext(win32::kIdOk);
   korvale.host.AnswerNext(win32::kIdNo);
   EXPECT_TRUE(korvale.Start());
-  EXPECT_EQ(hotKeys.Registered().size(), 15U);
+  EXPECT_EQ(hotKeys.Registered().size(), kAllHotKeys);
 }
 
 TEST_F(FirstRunTest, TheSessionCanEndWhileTheReviewIsOffered) {

@@ -92,7 +92,7 @@ TEST_F(HotKeysTest, PauseSwitchesTheOthersOffAndOnAgain) {
   EXPECT_FALSE(hotKeys.Press(win32::kModAlt, '1'));
 
   SwitchOn(korvale);
-  EXPECT_EQ(hotKeys.Registered().size(), 15U);
+  EXPECT_EQ(hotKeys.Registered().size(), kAllHotKeys);
   ExpectTagLeadsTo(1, "Alpha");
 }
 
@@ -105,7 +105,7 @@ TEST_F(HotKeysTest, TheMenuExplainsWhatItSwitchesOffUntilTheTipIsSilenced) {
     EXPECT_EQ(tip.Caption(), "TIP - Korvale");
     EXPECT_EQ(tip.Place().height, 3000);
     EXPECT_TRUE(tip.Find("lblTip").Text().starts_with("This deactivates all hot keys except"));
-    EXPECT_EQ(hotKeys.Registered().size(), 15U);
+    EXPECT_EQ(hotKeys.Registered().size(), kAllHotKeys);
     korvale.user.Click(tip.Handle(), tip.Find("chkStopMsg").Id());
     korvale.user.Click(tip.Handle(), tip.Find("cmdOK").Id());
   });
@@ -125,12 +125,12 @@ TEST_F(HotKeysTest, WithoutAToggleKeyTheMenuIsTheWayBack) {
   store.SaveSetting(kStore, "Options", "HotKeyGeneral2", "0");
   store.SaveSetting(kStore, "Startup", "DisplayTips", "False");
   KorvaleCopy& korvale = StartedCopy();
-  EXPECT_EQ(hotKeys.Registered().size(), 14U);
+  EXPECT_EQ(hotKeys.Registered().size(), kAllHotKeys - 1);
 
   korvale.user.ChooseMenu(korvale.Handle(), {"Tools", "Deactivate Hot Keys"});
   EXPECT_TRUE(hotKeys.Registered().empty());
   korvale.user.ChooseMenu(korvale.Handle(), {"Tools", "Activate Hot Keys"});
-  EXPECT_EQ(hotKeys.Registered().size(), 14U);
+  EXPECT_EQ(hotKeys.Registered().size(), kAllHotKeys - 1);
 }
 
 TEST_F(HotKeysTest, SavingTheOptionsSwitchesThemOnAgain) {
@@ -147,7 +147,7 @@ TEST_F(HotKeysTest, SavingTheOptionsSwitchesThemOnAgain) {
     return win32::kIdOk;
   });
   korvale.user.Click(options.Handle(), options.Find("cmdOK").Id());
-  EXPECT_EQ(hotKeys.Registered().size(), 15U);
+  EXPECT_EQ(hotKeys.Registered().size(), kAllHotKeys);
   EXPECT_EQ(ToggleCaption(korvale), "Deactivate Hot Keys");
 }
 
@@ -155,7 +155,7 @@ TEST_F(HotKeysTest, AKeyOfAnotherProgramIsLeftToItAndTakenOnceItIsGivenBack) {
   hotKeys.RegisterForeign(win32::kModAlt, '1');
   store.SaveSetting("Korvale - Work", "Startup", "DisplayTips", "False");
   KorvaleCopy& korvale = StartedWithTag(Open("Alpha"));
-  EXPECT_EQ(hotKeys.Registered().size(), 14U);
+  EXPECT_EQ(hotKeys.Registered().size(), kAllHotKeys - 1);
   EXPECT_FALSE(korvale.HotKeys().Registered()[1].accepted);
   EXPECT_FALSE(hotKeys.Press(win32::kModAlt, '1'));
   EXPECT_TRUE(korvale.host.Messages().empty());
@@ -172,13 +172,13 @@ TEST_F(HotKeysTest, TheKeysOfACopyThatEndsAreTakenOverByTheOtherOnesToggle) {
   KorvaleCopy& work = StartedCopy("Work");
   store.SaveSetting("Korvale - Home", "Startup", "DisplayTips", "False");
   KorvaleCopy& home = StartedCopy("Home");
-  EXPECT_EQ(hotKeys.Registered().size(), 15U);
+  EXPECT_EQ(hotKeys.Registered().size(), kAllHotKeys);
   work.Exit();
   EXPECT_TRUE(hotKeys.Registered().empty());
 
   for (int i = 0; i < 2; ++i) home.Form().mnuToolsToggleHotKeys_Click();
 
-  EXPECT_EQ(hotKeys.Registered().size(), 15U);
+  EXPECT_EQ(hotKeys.Registered().size(), kAllHotKeys);
   EXPECT_EQ(hotKeys.Registered().front().hwnd, home.Handle());
 }
 

@@ -59,7 +59,7 @@ TEST_F(InstancesTest, ACopyThatStartsInTheSameInstantWaitsForTheFirstOnesWindow)
   EXPECT_TRUE(first.Start());
 
   EXPECT_FALSE(secondStarted);
-  EXPECT_EQ(hotKeys.Registered().size(), 15U);
+  EXPECT_EQ(hotKeys.Registered().size(), kAllHotKeys);
 }
 
 TEST_F(InstancesTest, TheRefusedCopyTouchesNothingElse) {

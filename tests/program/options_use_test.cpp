@@ -53,7 +53,7 @@ TEST_F(OptionsUseTest, ResetEmptiesTheStoredOptionsAndNothingElse) {
 
   EXPECT_TRUE(Pairs("Options").empty());
   EXPECT_EQ(Pairs("Startup"), startup);
-  ASSERT_EQ(hotKeys.Registered().size(), 15U);
+  ASSERT_EQ(hotKeys.Registered().size(), kAllHotKeys);
   EXPECT_EQ(hotKeys.Registered().at(3).modifiers, win32::kModAlt);
   EXPECT_EQ(hotKeys.Registered().at(3).key, static_cast<std::uint32_t>('3'));
   EXPECT_EQ(korvale.Options(), clsOptions());

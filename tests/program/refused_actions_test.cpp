@@ -181,7 +181,7 @@ TEST_F(RefusedAction, AFirstRunIsToldOfItOnceAndGoesOn) {
       EXPECT_TRUE(korvale.Start());
       reached = store.CameToRefusal();
       EXPECT_LE(told, reached ? 1 : 0) << writes;
-      EXPECT_EQ(hotKeys.Registered().size(), 15U);
+      EXPECT_EQ(hotKeys.Registered().size(), kAllHotKeys);
       store.RefuseNothing();
       const Kept kept = KeptBy(korvale);
       korvale.Exit();

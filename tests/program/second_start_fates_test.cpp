@@ -135,7 +135,7 @@ class SecondStartFates : public StartTest, public testing::WithParamInterface<Co
     EXPECT_EQ(first, nullptr) << "two copies run";
     EXPECT_EQ(Front(), "Korvale - Work");
     EXPECT_EQ(second->TargetWindow(), newcomer == 0 ? "Alpha" : "Newcomer");
-    EXPECT_EQ(KeysOf(*second), 15U);
+    EXPECT_EQ(KeysOf(*second), kAllHotKeys);
   }
   void ExpectItGaveWay(std::size_t at) {
     EXPECT_EQ(boxes, std::vector<std::string>{kAlreadyOpen});
@@ -146,7 +146,7 @@ class SecondStartFates : public StartTest, public testing::WithParamInterface<Co
                  (HasCalled("GetClassNameA(Newcomer") || HasCalled("GetWindowTextA(Newcomer")))
         << "the newcomer was taken for the running copy";
     if (first == nullptr) return;
-    EXPECT_EQ(KeysOf(*first), 15U);
+    EXPECT_EQ(KeysOf(*first), kAllHotKeys);
     const bool late = HadMade("IsWindowEnabled", at) && Front() == "Korvale - Work";
     const bool minimizedAgain =
         GetParam() == CopyFate::kIsMinimized && HadMade("SetForegroundWindow", at);

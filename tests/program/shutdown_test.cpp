@@ -66,7 +66,7 @@ TEST_F(ShutdownOfStarted, EveryHotKeyIsGivenBackAndNoOptionStored) {
   korvale.Exit();
 
   EXPECT_TRUE(hotKeys.Registered().empty());
-  EXPECT_EQ(log.CallsOf("UnregisterHotKey").size(), 15U);
+  EXPECT_EQ(log.CallsOf("UnregisterHotKey").size(), kAllHotKeys);
   EXPECT_TRUE(log.CallsOf("SaveSetting(Korvale - Work, Options").empty());
   EXPECT_TRUE(korvale.host.QuitPosted());
 }
