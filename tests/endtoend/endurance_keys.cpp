@@ -44,6 +44,7 @@ void EnduranceTest::NeedThat(const char* what, const std::function<bool()>& cond
 }
 
 void EnduranceTest::PressFor(const char* what, Chord chord, const std::function<bool()>& outcome) {
+  if (chord.modifiers == 0 && !korvale_->HasMenu()) ForgetKeys(Foreground());
   Press(chord);
   NeedThat(what, outcome);
 }

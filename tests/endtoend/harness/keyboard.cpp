@@ -92,6 +92,14 @@ void Press(Chord chord) {
 
 void PressAtOnce(Chord chord) { const HeldKeys held(chord); }
 
+void ForgetKeys(Window window) {
+  const DWORD thread = GetWindowThreadProcessId(window.handle(), nullptr);
+  const DWORD own = GetCurrentThreadId();
+  if (thread != 0 && AttachThreadInput(own, thread, TRUE) != 0) {
+    AttachThreadInput(own, thread, FALSE);
+  }
+}
+
 void Type(const std::string& text) {
   std::vector<INPUT> inputs;
   for (const wchar_t unit : Wide(text)) {

@@ -52,6 +52,11 @@ void Press(Chord chord);
 /// The same without that moment, all in one.
 void PressAtOnce(Chord chord);
 
+/// Makes the program of a window believe no key down, by attaching to its input for a moment. One
+/// that was told of Alt going down, but not of its coming up in another one's window, believes it
+/// down: Windows sets that right when the program gets the focus, Wine does not.
+void ForgetKeys(Window window);
+
 /// Types text into whatever has the focus.
 void Type(const std::string& text);
 
