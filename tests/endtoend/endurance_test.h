@@ -55,7 +55,7 @@ class EnduranceTest : public KorvaleTest {
   static void Need(const char* what, bool held);
   /// The same with what comes a moment later.
   static void NeedThat(const char* what, const std::function<bool()>& condition);
-  static void PressFor(const char* what, Chord chord, const std::function<bool()>& outcome);
+  void PressFor(const char* what, Chord chord, const std::function<bool()>& outcome);
   void PressForWindow(Chord chord, Window window);
   void NeedInFront(Window window);
   /// Leaves a dialog by a key.
