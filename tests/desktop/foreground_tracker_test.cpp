@@ -4,7 +4,6 @@
 
 #include <string>
 
-#include "desktop/user_return.h"
 #include "platform/win32_constants.h"
 #include "tests/desktop/tracking_case.h"
 
@@ -226,29 +225,6 @@ TEST_F(ForegroundTracking, DialogOfAPaletteIsTheWindowThatThePaletteBelongsTo) {
       "Palette", {.owner = alpha, .exStyle = win32::kWsExToolWindow, .enabled = false});
   WorkIn(desktop.Open("Colors", {.owner = palette, .style = win32::kDsModalFrame}));
   ExpectRecord(Triple(alpha), Triple(beta));
-}
-
-/// Beta and Alpha were worked in, Gamma is to get the user back but has gone.
-class UserReturnsFromGamma : public ForegroundTracking {
- protected:
-  UserReturnsFromGamma() {
-    WorkIn(beta);
-    WorkIn(alpha);
-    desktop.Close(gamma);
-  }
-  void Return() { ReturnUserTo(routines, {gamma, "Window"}); }
-};
-
-TEST_F(UserReturnsFromGamma, ToTheLastWindowWorkedInWhenNothingIsInFront) {
-  desktop.LoseForeground();
-  Return();
-  EXPECT_EQ(desktop.ForegroundTitle(), "Alpha");
-}
-
-TEST_F(UserReturnsFromGamma, ButNotFromWhereTheyHaveGoneThemselves) {
-  desktop.UserActivates(beta);
-  Return();
-  EXPECT_EQ(desktop.ForegroundTitle(), "Beta");
 }
 
 TEST_F(ForegroundTracking, AskingWhetherAWindowIsAcceptedLeavesItsTagAlone) {
