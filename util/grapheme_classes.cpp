@@ -165,8 +165,9 @@ GraphemeClass GraphemeClassOf(char32_t codePoint) {
   using enum GraphemeClass;
   constexpr char32_t kFirstBeyondAscii = 0x80;
   constexpr char32_t kJoiner = 0x200D;
-  if (codePoint < kFirstBeyondAscii)
+  if (codePoint < kFirstBeyondAscii) {
     return codePoint < ' ' || codePoint == 0x7F ? kControl : kOther;
+  }
   if (codePoint == kJoiner) return kZeroWidthJoiner;
   if (codePoint >= kFirstSyllable && codePoint <= kLastSyllable) {
     return (codePoint - kFirstSyllable) % kTrailingConsonants == 0 ? kHangulOpen : kHangulClosed;
