@@ -122,6 +122,21 @@ TEST_F(FakeDesktopRightsTest, NoInputUnlocksTheForegroundForGood) {
   EXPECT_FALSE(desktop_.SetForegroundWindow(alpha));
 }
 
+TEST_F(FakeDesktopRightsTest, OnlyWindowsOfOthersComeForwardWithADelay) {
+  const WindowHandle alpha = desktop_.Open("Alpha");
+  const WindowHandle ours = desktop_.Open("Ours", {.process = 1});
+  desktop_.Open("Beta");
+  desktop_.DelayForeground(true);
+
+  EXPECT_TRUE(desktop_.SetForegroundWindow(ours));
+  EXPECT_EQ(desktop_.ForegroundTitle(), "Ours");
+  EXPECT_TRUE(desktop_.SetForegroundWindow(alpha));
+  EXPECT_EQ(desktop_.ForegroundTitle(), "Ours");
+
+  desktop_.DelayForeground(false);
+  EXPECT_EQ(desktop_.ForegroundTitle(), "Alpha");
+}
+
 TEST_F(FakeDesktopRightsTest, TheProgramInFrontMayAlwaysGiveTheForegroundAway) {
   const WindowHandle alpha = desktop_.Open("Alpha");
   desktop_.Open("Ours", {.process = 1});

@@ -51,6 +51,8 @@ class SimulatedPrograms {
   // What a step of Korvale's user meets.
   /// Windows refuses to change the foreground, also after an input of our own.
   bool RefusesForeground() const;
+  /// Windows would refuse it to everybody but whoever is in front.
+  bool GuardsForeground() const { return lock_ == ForegroundLock::kForGood; }
   /// Nobody can tell a window on another virtual desktop from one that has been put away.
   bool DesktopsAreLost() const { return desktopsAreLost_; }
   /// One of the windows dies, hangs or changes; called in the middle of something.

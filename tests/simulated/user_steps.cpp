@@ -134,7 +134,8 @@ std::string SimulatedLife::ChooseFromPopUp(const std::vector<ShownMenuItem>& ite
   return caption;
 }
 
-/// Without the foreground no menu opens, and the user is told.
+/// Without the foreground no menu opens, and the user is told. The main window may lose the right
+/// to it on its way from a desktop that has just been left.
 void SimulatedLife::PopUpWindowMenu() {
   const std::optional<HotKey> hotKey = Working("HOTKEY_WINDOW_MENU_POPUP");
   if (!hotKey) return;
@@ -145,13 +146,15 @@ void SimulatedLife::PopUpWindowMenu() {
   popUpAwaited_ = true;
   poppedUp_.reset();
   const bool refused = programs_.RefusesForeground();
+  const bool mayBeRefused = refused || (programs_.GuardsForeground() &&
+                                        desktop.Windows().CloakOf(korvale_->Handle()) != 0);
   const std::size_t boxes = korvale_->host.Messages().size();
   Press(*hotKey);
-  EXPECT_EQ(popUpAwaited_, refused);
-  if (refused && korvale_->host.Messages().size() > boxes) {
+  EXPECT_TRUE(popUpAwaited_ ? mayBeRefused : !refused);
+  if (popUpAwaited_ && korvale_->host.Messages().size() > boxes) {
     EXPECT_EQ(korvale_->host.Messages()[boxes].text, kRefusal);
   } else {
-    EXPECT_FALSE(refused) << "and nothing was told";
+    EXPECT_FALSE(popUpAwaited_) << "and nothing was told";
   }
   if (poppedUp_) CheckSelection(*poppedUp_);
 }
