@@ -55,7 +55,7 @@ class SaveJournal {
   std::optional<Journal> LeftBehind() const;
   /// The changes in a section; nothing when the journal there is incomplete.
   std::optional<std::vector<StoreChange>> ChangesIn(const char* section) const;
-  std::vector<StoreChange> Behind(std::vector<StoreChange> refused,
+  std::vector<StoreChange> Behind(std::vector<StoreChange> changes,
                                   const std::vector<StoreChange>& newChanges) const;
   /// Deletes a journal section; false when the store refuses.
   bool Clear(const char* section);

@@ -3,7 +3,6 @@
 #include "platform/run_time_error.h"
 
 namespace korvale {
-
 namespace {
 
 /// Deletes what the change names; a failure does not stop the other deletions.

@@ -12,6 +12,7 @@ namespace {
 
 constexpr const wchar_t* kBranch = L"Software\\VB and VBA Program Settings\\";
 constexpr std::size_t kLongestValueName = 16384;
+constexpr std::size_t kUsualText = 256;
 
 std::wstring SectionPath(const std::string& appName, const std::string& section) {
   return kBranch + ToUtf16(appName) + L'\\' + ToUtf16(section);
@@ -31,8 +32,6 @@ std::string TextOf(std::wstring_view buffer, DWORD size) {
   while (text.ends_with(L'\0')) text.remove_suffix(1);
   return ToUtf8(text);
 }
-
-constexpr std::size_t kUsualText = 256;
 
 /// Reads a value into `result`, which stays empty when it is no text; returns what Windows says.
 LSTATUS ReadText(HKEY key, const wchar_t* name, std::optional<std::string>& result) {

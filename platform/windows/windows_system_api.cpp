@@ -58,13 +58,12 @@ std::string FinalPath(HANDLE folder) {
   return ToUtf8(path);
 }
 
-bool Opens(const std::wstring& path, DWORD access, DWORD flags) {
+/// Empty when it cannot be opened; then the last error says why.
+UniqueKernelHandle OpenExisting(const std::wstring& path, DWORD access, DWORD flags) {
   constexpr DWORD kShare = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
   const HANDLE opened =
       ::CreateFileW(path.c_str(), access, kShare, nullptr, OPEN_EXISTING, flags, nullptr);
-  if (opened == INVALID_HANDLE_VALUE) return false;
-  CloseHandle(opened);
-  return true;
+  return UniqueKernelHandle(opened == INVALID_HANDLE_VALUE ? nullptr : opened);
 }
 
 /// Over the network, too, only this call asks the other computer for its own numbers.
@@ -159,10 +158,10 @@ bool WindowsSystemApi::AppendToFile(const std::string& path, std::span<const std
 
 bool WindowsSystemApi::CanAppendToFile(const std::string& path) {
   const std::wstring file = ToUtf16(path);
-  if (Opens(file, FILE_APPEND_DATA, FILE_ATTRIBUTE_NORMAL)) return true;
+  if (OpenExisting(file, FILE_APPEND_DATA, FILE_ATTRIBUTE_NORMAL)) return true;
   if (GetLastError() != ERROR_FILE_NOT_FOUND) return false;
   const std::wstring folder = file.substr(0, file.rfind(L'\\') + 1);
-  return Opens(folder, FILE_ADD_FILE, FILE_FLAG_BACKUP_SEMANTICS);
+  return static_cast<bool>(OpenExisting(folder, FILE_ADD_FILE, FILE_FLAG_BACKUP_SEMANTICS));
 }
 
 bool WindowsSystemApi::CreateDirectoryW(const std::string& path) {
@@ -204,16 +203,13 @@ std::string WindowsSystemApi::GetEnvironmentVariableW(const std::string& name) {
 
 FolderInfo WindowsSystemApi::GetFinalPathNameByHandleW(const std::string& folder) {
   const std::wstring path = ToUtf16(folder);
-  constexpr DWORD kShare = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-  const HANDLE opened = ::CreateFileW(path.c_str(), 0, kShare, nullptr, OPEN_EXISTING,
-                                      FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+  const UniqueKernelHandle handle = OpenExisting(path, 0, FILE_FLAG_BACKUP_SEMANTICS);
   FolderInfo info;
-  if (opened == INVALID_HANDLE_VALUE) {
+  if (!handle) {
     info.error = GetLastError();
     info.isLink = GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
     return info;
   }
-  const UniqueKernelHandle handle(opened);
   info.finalPath = FinalPath(handle.Get());
   info.fileId = FileId(handle.Get());
   return info;
