@@ -10,6 +10,8 @@ namespace korvale::endtoend {
 namespace {
 
 constexpr size_t kOpenWindows = 20;
+/// The four programs of the tour and Korvale are among them.
+constexpr size_t kOtherWindows = kOpenWindows - 5;
 
 size_t CountOpenWindows() {
   const std::vector<Window> all = TopLevelWindows();
@@ -40,6 +42,7 @@ void Tour::Run() {
 
 void Tour::OpenPrograms() {
   report_.Headline("Programs");
+  OpenOthers();
   wordpad_.emplace(StartWordPad());
   report_.Step("WordPad", BringToFront(wordpad_->window()));
   regedit_.emplace(StartRegistryEditor());
@@ -49,15 +52,20 @@ void Tour::OpenPrograms() {
                BringToFront(mines_->window()) && mines_->window().Children().empty());
   OpenNotepad("Notes", "Alt+3 comes here, from anywhere.");
   report_.Step("Notepad", BringToFront(notepad_->window()));
-  others_.emplace();
-  for (int number = 1; CountOpenWindows() + 1 < kOpenWindows; ++number) {
-    const Window window = others_->Open({.title = "Window " + std::to_string(number)});
-    Place(window, 150 + 8 * number, 30 + 8 * number, 300, 200);
-  }
   // Every one of them can be seen behind the others.
   Place(regedit_->window(), 30, 250, 560, 360);
   Place(wordpad_->window(), 60, 60, 560, 330);
   Place(mines_->window(), 760, 50, 160, 220);
+}
+
+/// They end up behind WordPad: the pictures show what the tour is about.
+void Tour::OpenOthers() {
+  others_.emplace();
+  for (size_t number = 1; number <= kOtherWindows; ++number) {
+    const Window window = others_->Open({.title = "Window " + std::to_string(number)});
+    const int shift = 8 * static_cast<int>(number);
+    Place(window, 65 + shift, 65 + shift, 300, 180);
+  }
 }
 
 void Tour::OpenNotepad(const std::string& name, const std::string& text) {
@@ -166,8 +174,9 @@ void Tour::CloseAndReopen() {
   report_.Step("Alt+F4 closes Notepad", WaitFor([&] { return !closed.Exists(); }));
   // Windows passes the foreground on to the next window, which can take a moment.
   WorkIn("WordPad", wordpad_->window());
-  report_.KeyUntil("Alt+3: Notepad is not open", TagKey(3),
-                   [&] { return korvale_->HasMessageBox(); });
+  report_.KeyUntil("Alt+3: Notepad is not open", TagKey(3), [&] {
+    return korvale_->HasMessageBox() && Foreground() == korvale_->MessageBox();
+  });
   const Window message = korvale_->MessageBox();
   report_.Picture("message");
   const std::string said = LabelText(message);

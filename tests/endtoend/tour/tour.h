@@ -27,6 +27,7 @@ class Tour {
 
  private:
   void OpenPrograms();
+  void OpenOthers();
   /// Opens Notepad with a document of that name and text.
   void OpenNotepad(const std::string& name, const std::string& text);
   bool StartKorvale();
