@@ -71,9 +71,7 @@ void WindowEnumeration::Handle(SeenWindow& window, std::int32_t mode, Pass& pass
       if (CanMinimizeOrRestore(window, true, pass) && !Restore(window.Handle())) visit(window);
       break;
     case kTagRefresh:
-      if (pass.tags && !pass.tags->IsDone() && selectable() && pass.tags->Match(window)) {
-        visit(window);
-      }
+      if (!pass.tags->IsDone() && selectable() && pass.tags->Match(window)) visit(window);
       break;
     case kTopWindow:
       if (CanBeTopWindow(window, pass)) visit(window);

@@ -214,7 +214,7 @@ void Form::SetPlace(const TwipsRect& place) {
 void Form::SetSizeLimits(const SizeLimits& limits) {
   if (state_.limits == limits) return;
   state_.limits = limits;
-  if (!IsLoaded() || !state_.visible || state_.windowState != ShowState::kMaximized) return;
+  if (!state_.visible || state_.windowState != ShowState::kMaximized) return;
   if (limits.height == 0 || limits.height == state_.place.height) return;
   // Windows asks for the limits only when it maximizes.
   state_.place.height = limits.height;

@@ -30,6 +30,18 @@ TEST_F(Activation, WindowInFrontIsNotBroughtThereAgain) {
   EXPECT_EQ(log.Take(), Calls{});
 }
 
+TEST_F(Activation, WindowInFrontIsBroughtThereAgainWhileAnotherIsOnItsWay) {
+  const WindowHandle gamma = desktop.Open("Gamma");
+  desktop.UserActivates(beta);
+  desktop.DelayForeground(true);
+  EXPECT_EQ(Activate(Triple(alpha)), kActivationDone);
+  tracker.RecordSelection(Know(desktop, alpha));
+  desktop.UserActivates(gamma);
+  EXPECT_EQ(Activate(Triple(gamma, "Gamma")), kActivationDone);
+  desktop.DelayForeground(false);
+  EXPECT_EQ(desktop.ForegroundTitle(), "Gamma");
+}
+
 TEST_F(Activation, MinimizedWindowIsRestored) {
   desktop.UserMinimizes(alpha);
   EXPECT_EQ(Activate(Triple(alpha)), 1);

@@ -51,6 +51,14 @@ TEST_F(DeniedWindows, OneThatStaysMinimizedGivesTheForegroundBackBeforeItComesFo
   EXPECT_EQ(desktop.ForegroundTitle(), "Beta");
 }
 
+TEST_F(DeniedWindows, OneThatMinimizesItselfOnItsWayGivesTheForegroundBack) {
+  const WindowHandle stubborn = desktop.Open("Stubborn", {.activate = false, .staysIconic = true});
+  log.WhenCalled("SetForegroundWindow(Stubborn",
+                 [&] { desktop.Windows().Find(stubborn)->iconic = true; });
+  EXPECT_EQ(Activate(Triple(stubborn, "Stubborn")), kWindowDenied);
+  EXPECT_EQ(desktop.ForegroundTitle(), "Beta");
+}
+
 TEST_F(DeniedWindows, TheForegroundGoesBackToTheWindowThatWasOnItsWay) {
   const WindowHandle stubborn = desktop.Open("Stubborn", {.iconic = true, .staysIconic = true});
   desktop.DelayForeground(true);

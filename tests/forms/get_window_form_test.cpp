@@ -189,6 +189,17 @@ TEST_F(AddWindowTest, RemovesATagAndStaysOpenWithTheTagSelected) {
   EXPECT_FALSE(RemoveEnabled());
 }
 
+TEST_F(AddWindowTest, StartsInTheListOfTagsEachTimeWhateverHadTheFocusBefore) {
+  OpenPrevious("Notes");
+  for (int opening = 1; opening <= 2; ++opening) {
+    dialog_.Load();
+    dialog_.Find("txtWindow").SetFocus();
+    dialog_.Show();
+    EXPECT_EQ(Focus(dialog_), "cboWindow") << opening;
+    dialog_.Unload();
+  }
+}
+
 TEST_F(AddWindowTest, ChangesNothingWhenItIsClosed) {
   for (const auto& close : std::vector<std::function<void()>>{
            [&] { Click(dialog_, "cmdClose"); },

@@ -107,6 +107,35 @@ TEST_F(FormPlaceTest, AStateSetBeforeShowingHoldsWhenShown) {
   EXPECT_EQ(log_.Calls().back(), "ShowWindow(frmOther, SW_MAXIMIZE)");
 }
 
+TEST_F(FormPlaceTest, AFormThatIsInItsStateAlreadyIsNotActivatedByIt) {
+  form_.Show();
+  log_.Clear();
+  form_.SetWindowState(ShowState::kNormal);
+  EXPECT_EQ(log_.Calls(), Lines{});
+}
+
+TEST_F(FormPlaceTest, OnlyAMaximizedFormTakesANewLimitOfItsHeightAtOnce) {
+  RecordingForm form(kStripDesign, forms_);
+  form.Show();
+  const TwipsRect before = user_.Place(form.Handle());
+  form.SetSizeLimits({.height = before.height + 300});
+  EXPECT_EQ(user_.Place(form.Handle()), before);
+  form.SetWindowState(ShowState::kMaximized);
+  form.SetSizeLimits({.height = before.height + 600});
+  EXPECT_EQ(user_.Place(form.Handle()).height, before.height + 600);
+}
+
+TEST_F(FormPlaceTest, AFormThatNobodySeesTakesItsLimitsWhenShown) {
+  RecordingForm form(kStripDesign, forms_);
+  form.Load();
+  form.SetWindowState(ShowState::kMaximized);
+  log_.Clear();
+  form.SetSizeLimits({.height = 900});
+  EXPECT_EQ(log_.Calls(), Lines{});
+  form.Show();
+  EXPECT_EQ(user_.Place(form.Handle()).height, 900);
+}
+
 TEST_F(FormPlaceTest, AFormThatInsistsOnARefusedPlaceAsksForItTwice) {
   RecordingForm form(kStripDesign, forms_);
   form.Load();

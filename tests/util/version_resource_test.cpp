@@ -118,6 +118,20 @@ TEST(VersionResourceTest, SpeaksItsFirstLanguage) {
             u"");
 }
 
+TEST(VersionResourceTest, KnowsNamesInAnyLetters) {
+  const Content texts = NewBlock(
+      u"040904B0", true, {},
+      {StringBlock(u"FILEDESCRIPTION", u"Жук"), StringBlock(u"LEGALCOPYRIGHT", u"A notice")});
+  Content language;
+  AddWord(language, 0x409);
+  AddWord(language, 0x4b0);
+  const VersionResource read = ReadVersionResource(
+      Resource({NewBlock(u"STRINGFILEINFO", true, {}, {texts}),
+                NewBlock(u"VARFILEINFO", true, {}, {NewBlock(u"TRANSLATION", false, language)})}));
+  EXPECT_EQ(read.fileDescription, u"Жук");
+  EXPECT_EQ(read.legalCopyright, u"A notice");
+}
+
 TEST(VersionResourceTest, WithoutStringsStillTellsItsNumbers) {
   for (const Content& resource :
        {Resource({}), Resource({Languages({})}), Resource({Languages({0x409})}),
