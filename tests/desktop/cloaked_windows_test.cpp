@@ -247,5 +247,15 @@ TEST_F(CloakedWindows, AWindowJustSelectedOnAnotherDesktopCanBeMinimizedAtOnce) 
   EXPECT_FALSE(desktop.IsIconic(beta));
 }
 
+TEST_F(CloakedWindows, AWindowSelectedEarlierIsNotMinimizedOnceItsDesktopIsLeft) {
+  AddTag(1, "Alpha");
+  routines.selection.SelectTag(1);
+  tracker.tmrWindow_Timer();
+  desktop.UserSwitchesDesktop(2, FrontOfLeftDesktop::kStays);
+  ASSERT_EQ(desktop.ForegroundTitle(), "Alpha");
+  actions.MinimizeOrMaximizeForeground("HOTKEY_MINIMIZE_PARENT");
+  EXPECT_FALSE(desktop.IsIconic(alpha));
+}
+
 }  // namespace
 }  // namespace korvale
