@@ -96,7 +96,8 @@ void AddTag(Rows& rows, int tag) {
   const Twips top = 285 + kTagRowHeight * (tag % 5);
   const TagText& text = kTags.at(static_cast<std::size_t>(tag));
   const char* const note = tag == 0 ? " selects the Previous Window " : text.note;
-  rows.Add(kLabel, "lblTagParent", tag, note, note, {left + 480, top + 22, 5190, 240}, kNoPrefix);
+  rows.Add(kLabel, "lblTagParent", tag, note, note, {left + 480, top + 22, 5190, 240},
+           kNoPrefix | kClickable);
   rows.Add(kCheckBox, "chkHotKeyParent", tag, text.digit, note, {left, top, 450, 285});
 }
 
@@ -128,7 +129,10 @@ void AddLegend(Rows& rows) {
       " indicates Hot Key is Enabled -- Click to change this color -- use Shift+Click to reset to "
       "default ";
   constexpr const char* kDisabled = " indicates Hot Key is Disabled ";
-  rows.Add(kLabel, "lblLegend", 1, kEnabled, kEnabled, {990, kPageHeight - 1065, 8700, 255},
+  constexpr const char* kEnabledTip =
+      " changes the color of enabled Hot Keys, with Shift back to the default  "
+      "(Alt+C/Shift+Alt+C) ";
+  rows.Add(kLabel, "lblLegend", 1, kEnabled, kEnabledTip, {990, kPageHeight - 1065, 8700, 255},
            kNoPrefix | kClickable | kSingleBorder);
   rows.Add(kLabel, "lblLegend", 0, kDisabled, kDisabled, {9810, kPageHeight - 1065, 3660, 255},
            kNoPrefix);

@@ -32,6 +32,11 @@ class Hourglass {
   OptionsDialogOwner* owner_;
 };
 
+/// What a screen reader calls the list of an operation's key. It does not see the label's colours.
+std::string KeyListName(const OperationRow& row, bool enabled) {
+  return enabled ? row.note : std::string(row.note) + "-- Hot Key is Disabled ";
+}
+
 }  // namespace
 
 frmOptions::frmOptions(FormCollection& forms, OptionsDialogOwner& owner)
@@ -42,6 +47,11 @@ frmOptions::frmOptions(FormCollection& forms, OptionsDialogOwner& owner)
   WhenClicked("cmdReset", [this](int) { cmdReset_Click(); });
   WhenClicked("tabOptions", [this](int) { tabOptions_Click(); });
   WhenClicked("chkHotKeyParent", [this](int) { HotKeyChanged(); });
+  // A number alone is hard to hit.
+  WhenClicked("lblTagParent", [this](int tag) {
+    Find("chkHotKeyParent", tag).SetFocus();
+    OnClick(Find("chkHotKeyParent", tag).Id());
+  });
   for (const HotKeyControls& controls : kHotKeyControls) {
     WhenClicked(controls.key, [this](int) { HotKeyChanged(); });
   }
@@ -140,8 +150,10 @@ void frmOptions::udmRefreshHotKeyLabels() {
   // A stored key that the list does not have stays registered, so its label stays enabled.
   for (const OperationRow& row : kOperations) {
     const auto [modifiers, stored] = OperationFields(shown_, row);
-    PaintLabel(ControlsOf(row).label, row.index,
-               Chosen(ControlsOf(row).key, row.index, stored) != 0);
+    const HotKeyControls& controls = ControlsOf(row);
+    const bool enabled = Chosen(controls.key, row.index, stored) != 0;
+    PaintLabel(controls.label, row.index, enabled);
+    Find(controls.keyName, row.index).SetText(KeyListName(row, enabled));
   }
 }
 
@@ -174,6 +186,9 @@ void frmOptions::Form_KeyDown(int& key, unsigned shift) {
   if (key == win32::kVkTab && (shift & ~kShift) == kCtrl) {
     key = 0;
     NextPage((shift & kShift) != 0);
+  } else if (key == 'C' && (shift & ~kShift) == kAlt && Find("tabOptions").ListIndex() == 1) {
+    key = 0;
+    if (!KeyRepeats()) PressLegend(shift & kShift);
   } else if (FocusedControl() != 0 && IsKeyList(ById(FocusedControl()))) {
     keyListKeys_.Down(ById(FocusedControl()), key, shift, KeyRepeats());
   }
@@ -193,9 +208,13 @@ void frmOptions::Form_KeyUp(Control* focused, int& key, unsigned shift) {
 void frmOptions::Control_Mouse(Control& control, const MouseInput& input) {
   const bool legend = control.Name() == kLegend && control.Index() == kEnabledLegend;
   if (!legend || input.event != MouseEvent::kUp || input.button != MouseButton::kLeft) return;
-  if (input.shift == kShift) {
+  PressLegend(input.shift);
+}
+
+void frmOptions::PressLegend(unsigned shift) {
+  if (shift == kShift) {
     SetEnabledColor(kDefaultHotKeyEnabledColor);
-  } else if (input.shift == kNoShift) {
+  } else if (shift == kNoShift) {
     const std::optional<Color> chosen = owner_->udmShowColorPalette(colHotKeyEnabled_);
     if (chosen) SetEnabledColor(*chosen);
   }

@@ -52,6 +52,8 @@ class frmOptions : public Form {
   void Select(std::string_view list, int index, std::int32_t value);
   std::int16_t Chosen(std::string_view list, int index, std::int16_t otherwise) const;
   void PaintLabel(std::string_view label, int index, bool enabled);
+  /// The user has clicked the legend of enabled hot keys, or pressed its key, with these modifiers.
+  void PressLegend(unsigned shift);
   void SetEnabledColor(Color color);
   void ShowPage(std::int16_t tab);
   void HotKeyChanged();
