@@ -59,7 +59,7 @@ bool ColorCustomizing::Click(Color& color) {
   if (!On()) return false;
   bool changed = false;
   if (*pointer_ == MousePointer::kCustom) {
-    changed = ChangeColor(color);
+    changed = ChangeColor(color, shift_);
   } else {
     form_->Messages().ShowMessageBox("position the mouse until the cursor has changed to a 'C'",
                                      win32::kMbOk,
@@ -69,9 +69,9 @@ bool ColorCustomizing::Click(Color& color) {
   return changed;
 }
 
-bool ColorCustomizing::ChangeColor(Color& color) {
+bool ColorCustomizing::ChangeColor(Color& color, unsigned shift) {
   const std::optional<Color> chosen =
-      shift_ == kAlt ? *lastColor_ : form_->udmShowColorPalette(color);
+      shift == kAlt ? *lastColor_ : form_->udmShowColorPalette(color);
   if (chosen) color = *chosen;
   return chosen.has_value();
 }

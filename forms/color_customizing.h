@@ -28,11 +28,13 @@ class ColorCustomizing {
   /// with the left button changes it: to a colour that the user chooses, or with Alt to the last
   /// one chosen. True when it has changed.
   bool Mouse(const Control& field, Color& color, const MouseInput& input);
+  /// The Enter key in a field, pressed with these modifiers, does what a click does.
+  bool Enter(Color& color, unsigned shift) { return On() && ChangeColor(color, shift); }
 
  private:
   void Move(const Control& field, const MouseInput& input);
   bool Click(Color& color);
-  bool ChangeColor(Color& color);
+  bool ChangeColor(Color& color, unsigned shift);
 
   MenuItem* item_;
   OptionsDialogOwner* form_;

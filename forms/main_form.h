@@ -161,6 +161,8 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   void RefreshToggleCaption();
   void ShowTopLevelMenus(bool shown);
   void CloseAbout();
+  /// The stored colour of a text box.
+  Color& ColorOf(const Control& field);
   Twips HeightForContent(const TwipsRect& frame);
   bool IsTopmostBehindAnother() const;
   void LayOutFields(const TwipsRect& frame);

@@ -151,6 +151,8 @@ void frmMain::Form_KeyDown(int& key, unsigned shift) {
   } else if (alt && key == win32::kVkF4) {
     key = 0;
     mnuFileExit_Click();
+  } else if (key == win32::kVkReturn && FocusedControl() != 0) {
+    if (!KeyRepeats() && customizing_.Enter(ColorOf(ById(FocusedControl())), shift)) ApplyColors();
   } else if (alt && !parts_.startup.Menu &&
              (key == 'H' || key == 'W' || key == 'T' || key == 'V')) {
     RefreshMenus("Form_KeyDown");
@@ -161,10 +163,12 @@ void frmMain::Form_MouseMove(const MouseInput&) { CloseAbout(); }
 
 void frmMain::Control_Mouse(Control& control, const MouseInput& input) {
   if (input.event == MouseEvent::kMove) CloseAbout();
-  StartupSettings& startup = parts_.startup;
-  const bool title = control.Name() == "txtWindow";
-  Color& color = title ? startup.WI1BackColor : startup.WI2BackColor;
-  if (customizing_.Mouse(control, color, input)) ApplyColors();
+  if (customizing_.Mouse(control, ColorOf(control), input)) ApplyColors();
+}
+
+Color& frmMain::ColorOf(const Control& field) {
+  const bool title = field.Name() == "txtWindow";
+  return title ? parts_.startup.WI1BackColor : parts_.startup.WI2BackColor;
 }
 
 }  // namespace korvale
