@@ -99,9 +99,16 @@ void frmMsgBox2::Form_SysColorChange() { PaintLink(); }
 
 void frmMsgBox2::Form_KeyDown(int& key, unsigned shift) {
   const bool escape = key == win32::kVkEscape && Find("tmrUnload").Enabled();
-  if (!escape && !(key == win32::kVkF4 && shift == kAlt)) return;
+  if (!escape && !(key == win32::kVkF4 && shift == kAlt)) return StayAnew();
   key = 0;
   CloseAbout();
+}
+
+void frmMsgBox2::StayAnew() {
+  Control& tmrUnload = Find("tmrUnload");
+  if (!tmrUnload.Enabled()) return;
+  tmrUnload.SetEnabled(false);
+  tmrUnload.SetEnabled(true);
 }
 
 void frmMsgBox2::Form_Unload() { aboutClosed_ = clock_->GetTickCount64(); }

@@ -42,6 +42,8 @@ class frmMsgBox2 : public Form {
  private:
   void Prepare(std::string_view mode);
   void PaintLink();
+  /// Gives a user who is still reading, and shows it by a key, the whole time again.
+  void StayAnew();
 
   Clock* clock_;
   const ProgramIdentity* identity_;

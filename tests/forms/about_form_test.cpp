@@ -122,6 +122,17 @@ TEST_F(ShownAboutTest, ClosesByItself) {
   EXPECT_TRUE(ClosedNow());
 }
 
+TEST_F(ShownAboutTest, AKeyGivesASlowReaderItsWholeTimeAnew) {
+  for (int key = 0; key < 3; ++key) {
+    user_.LetPass(10000);
+    Press(about_, win32::kVkTab);
+  }
+  user_.LetPass(14999);
+  EXPECT_TRUE(about_.IsLoaded());
+  user_.LetPass(1);
+  EXPECT_TRUE(ClosedNow());
+}
+
 TEST_F(ShownAboutTest, IsClosedByOthers) {
   about_.CloseAbout();
   EXPECT_TRUE(ClosedNow());
