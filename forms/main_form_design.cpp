@@ -69,7 +69,7 @@ FormDesign MainFormDesign() {
   design.maximizeBox = true;
   design.modalFrame = false;
   design.inTaskbar = true;
-  design.exactHeight = true;
+  design.countsRealFrame = true;
   design.role = FormRole::kWindow;
   design.controls = kStripControls;
   design.menu = kMenus;

@@ -73,9 +73,11 @@ class Control : public TimerControl {
   void SetBorder(bool border);
 
   std::span<const ListItem> Items() const { return state_->items; }
+  /// Adds an entry at the end; the first tab of a strip is chosen by that.
   void AddItem(std::string_view text, std::int32_t itemData = 0);
   /// Adds many entries to a list, which is redrawn only once.
   void AddItems(std::span<const ListItem> items);
+  /// Error 380 when there is no such entry.
   void SetItemText(int listIndex, std::string_view text);
   /// Removes all entries; nothing is selected then.
   void Clear();

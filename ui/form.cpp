@@ -11,6 +11,7 @@
 namespace korvale {
 namespace {
 
+/// How a form comes up; a minimized one must not take the foreground.
 int ShowCommand(ShowState state) {
   switch (state) {
     case ShowState::kMinimized:
@@ -81,7 +82,7 @@ void Form::BuildFromDesign() {
   focused_ = 0;
   pressed_ = 0;
   altUsed_ = false;
-  refused_.reset();
+  givenInstead_.reset();
   wished_.reset();
   inside_ = false;
   shownBefore_ = false;
@@ -106,7 +107,7 @@ int Form::ContainerId(const ControlRow& row) const {
 void Form::Load() {
   if (IsLoaded()) return;
   // References to menus and controls that were taken before the first loading stay valid.
-  if (std::exchange(used_, true)) BuildFromDesign();
+  if (std::exchange(loadedBefore_, true)) BuildFromDesign();
   state_.content = Content();
   state_.place = RealPlace();
   handle_ = forms_->Host().CreateWindowExW(state_, *this);
@@ -183,7 +184,7 @@ void Form::SetCaption(std::string_view caption) {
 }
 
 TwipsRect Form::FrameGrowth() const {
-  if (design_.exactHeight || state_.border == BorderStyle::kNone) return {};
+  if (design_.countsRealFrame || state_.border == BorderStyle::kNone) return {};
   const TwipsRect frame = forms_->Host().AdjustWindowRectEx(state_);
   return {0, 0, frame.width - kClassicFrameWidth, frame.height - kClassicFrameHeight};
 }

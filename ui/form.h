@@ -33,9 +33,9 @@ struct FormDesign {
   bool inTaskbar = false;
   /// Stands above all windows and never takes the keyboard focus.
   bool aside = false;
-  /// The height counts the frame and menu that the window really has; otherwise it counts the
-  /// classic frame (400 twips) and the window grows with a higher one, so that no control is cut.
-  bool exactHeight = false;
+  /// Its size counts the frame and menu that the window really has; otherwise it counts the classic
+  /// frame and the window grows with a larger one, so that no control is cut.
+  bool countsRealFrame = false;
   FormRole role = FormRole::kDialog;
   std::span<const ControlRow> controls = {};
   std::span<const MenuRow> menu = {};
@@ -65,13 +65,13 @@ class Form : public FormEvents, public CollectedForm, private ControlOwner {
   void Show() final;
   /// As Show, but the active window stays active.
   void ShowInactive();
-  /// Shows the form and returns when it has been unloaded; no other form of the program
-  /// takes input meanwhile.
+  /// Shows the form and returns when it has been unloaded; no other form of the program takes input
+  /// meanwhile.
   void ShowModal();
 
   const std::string& Caption() const { return state_.caption; }
   void SetCaption(std::string_view caption);
-  /// Place and size in twips. Without FormDesign::exactHeight the size counts the classic frame.
+  /// Place and size in twips. Without FormDesign::countsRealFrame the size counts the classic one.
   const TwipsRect& Place() const { return place_; }
   void SetPlace(const TwipsRect& place);
   /// The place to come back to: Place(), or where it would be if the screen had room for it.
@@ -172,6 +172,8 @@ class Form : public FormEvents, public CollectedForm, private ControlOwner {
   void ShowAs(bool active);
   bool AgreesToUnload(CloseReason reason);
   void Destroy();
+  ControlState& StateOf(int control);
+  const ControlState& StateOf(int control) const;
 
   // form_fit.cpp: a form that the user sizes stays where it can be seen.
   void NoteWhetherInside();
@@ -185,6 +187,8 @@ class Form : public FormEvents, public CollectedForm, private ControlOwner {
   bool IsNews(ShowState state, const TwipsRect& place) const;
   bool TakePress(int control, const MouseInput& input);
   bool TakesInput() const;
+  /// True for the number of a control of a loaded form.
+  bool IsControl(int control) const;
 
   // form_keys.cpp: keys of dialogs, access keys and the focus.
   bool DialogKey(int control, int virtualKey, unsigned shift);
@@ -200,12 +204,8 @@ class Form : public FormEvents, public CollectedForm, private ControlOwner {
   Control* ButtonWithFlag(unsigned flag);
   std::vector<int> TabStops() const;
   int TabStopOf(int control) const;
-  /// True for the number of a control of a loaded form.
-  bool IsControl(int control) const;
   bool CanTakeInput(const ControlState& control) const;
   bool CanTakeFocus(const ControlState& control) const;
-  ControlState& StateOf(int control);
-  const ControlState& StateOf(int control) const;
 
   const FormDesign design_;
   const std::vector<ControlRow> rows_;  ///< The design's controls in the order of the windows.
@@ -215,17 +215,16 @@ class Form : public FormEvents, public CollectedForm, private ControlOwner {
   std::deque<Control> controls_;
   WindowHandle handle_ = 0;
   int focused_ = 0;
-  int pressed_ = 0;                   ///< The control that the left button went down on.
-  bool altUsed_ = false;              ///< Alt is held, and a key pressed with it had an effect.
-  std::optional<TwipsRect> refused_;  ///< Where Windows put the window instead of where it should.
-  std::optional<TwipsRect> wished_;   ///< Where it would be, had the screen room for it.
-  bool inside_ = false;               ///< All of it was within the work area.
-  bool fitting_ = false;              ///< It is being fitted into the work area.
+  int pressed_ = 0;       ///< The control that the left button went down on.
+  bool altUsed_ = false;  ///< Alt is held, and a key pressed with it had an effect.
+  std::optional<TwipsRect> givenInstead_;  ///< Where Windows put it, not the model.
+  std::optional<TwipsRect> wished_;        ///< Where it would be, had the screen room for it.
+  bool inside_ = false;                    ///< All of it was within the work area.
+  bool fitting_ = false;                   ///< It is being fitted into the work area.
   bool keyRepeats_ = false;
   bool shownBefore_ = false;
   bool unloading_ = false;
-  /// The model has been loaded once, so the next loading starts again from the design.
-  bool used_ = false;
+  bool loadedBefore_ = false;  ///< The next loading starts again from the design.
   std::string tag_;
   Handlers clicked_;
   Handlers droppedDown_;

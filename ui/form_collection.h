@@ -50,7 +50,7 @@ class FormCollection : public LoadedForms {
   /// Runs a dialog of Windows, which disables its owner itself, and keeps all other forms disabled
   /// meanwhile.
   void RunSystemDialog(const CollectedForm& owner, const std::function<void()>& dialog);
-  /// The form shown modally on top, null when there is none.
+  /// The form shown modally on top; null when there is none or a dialog of Windows is above it.
   CollectedForm* TopModal() const { return modal_.empty() ? nullptr : modal_.back().form; }
 
   /// Called inside a catch block with an error that left an event handler; must not throw.

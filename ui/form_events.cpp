@@ -205,14 +205,14 @@ void Form::OnActivated() {
 /// False for what is known already, and for a place that Windows gives again in place of one that
 /// it has refused: a form that insisted would be told of it without end.
 bool Form::IsNews(ShowState state, const TwipsRect& place) const {
-  return state != state_.windowState || (place != state_.place && refused_ != place);
+  return state != state_.windowState || (place != state_.place && givenInstead_ != place);
 }
 
 void Form::OnPlaced(ShowState state, const TwipsRect& place) {
   if (!IsLoaded()) return;
   const bool news = IsNews(state, place);
-  refused_.reset();
-  if (place != state_.place) refused_ = place;
+  givenInstead_.reset();
+  if (place != state_.place) givenInstead_ = place;
   if (!news) return;
   // A hidden window is never minimized or maximized yet; the model says how it will be shown.
   if (!state_.visible) state = state_.windowState;

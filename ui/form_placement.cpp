@@ -7,9 +7,10 @@
 namespace korvale {
 namespace {
 
-/// How much of a form's title bar must be on a monitor, in both directions, to be dragged.
-constexpr Twips kReachable = 300;
+/// How high the title bar counts, and how much of it must be on a monitor, in both directions, to
+/// be dragged.
 constexpr Twips kTitleBar = 400;
+constexpr Twips kReachable = 300;
 
 void MoveTo(Form& form, Twips left, Twips top) {
   TwipsRect place = form.Place();

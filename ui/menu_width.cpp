@@ -13,8 +13,8 @@
 namespace korvale {
 namespace {
 
-/// What check mark, margins and border take beside the text at the most, as long as the text has
-/// its usual size; otherwise as much as so wide a text.
+/// What check mark, margins and border take beside the text at the most while the text has its
+/// usual size; with bigger text, as much as this text takes.
 constexpr Twips kBesideText = 2400;
 constexpr const char* kAsWideAsBesideText = "mmmmmmmmmmmmmmmm";
 

@@ -7,6 +7,7 @@ namespace korvale {
 /// A tool tip is no wider than this many pixels at so many dots per inch; a longer one takes
 /// several lines.
 int WidestToolTip(int dpi);
+
 /// How long a tool tip stays, so that it can be read.
 inline constexpr int kToolTipMilliseconds = 20000;
 

@@ -78,7 +78,7 @@ inline constexpr FormDesign kStripDesign = {
     .minimizeBox = true,
     .modalFrame = false,
     .inTaskbar = true,
-    .exactHeight = true,
+    .countsRealFrame = true,
 };
 
 /// A form that writes down what it is told.
