@@ -31,7 +31,7 @@ class frmMsgBox2 : public Form {
   /// Closes the box; does nothing when it is not open.
   void CloseAbout() { Unload(); }
 
-  /// When the box was last closed (GetTickCount64); nothing before that.
+  /// When the box was last closed, in ms (GetTickCount64); nothing before that.
   std::optional<std::uint64_t> AboutClosed() const { return aboutClosed_; }
 
  protected:

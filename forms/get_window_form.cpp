@@ -16,6 +16,11 @@
 namespace korvale {
 namespace {
 
+// What the option buttons offer.
+constexpr int kTitle = 0;
+constexpr int kLeftPart = 1;
+constexpr int kRightPart = 2;
+
 constexpr Color kRed = 255;
 constexpr Color kBlue = 0xC00000;
 
@@ -39,7 +44,7 @@ std::string AssignedText(std::string_view item) {
 
 std::string ShownChoice(int index, const std::string& identification) {
   const std::string line = OnOneLine(identification);
-  if (index != 1) return ShortenedText(line, kChoiceColumns);
+  if (index != kLeftPart) return ShortenedText(line, kChoiceColumns);
   const std::string_view left =
       std::string_view(line).substr(0, line.size() - kLeftPartMark.size());
   return ShortenedText(left, kChoiceColumns, kLeftPartMark);
@@ -53,7 +58,7 @@ frmGetWindow::frmGetWindow(FormCollection& forms, AddWindowContext context)
   WhenClicked("cmdClose", [this](int) { cmdClose_Click(); });
   WhenClicked("cmdRemove", [this](int) { cmdRemove_Click(); });
   WhenClicked("cboWindow", [this](int) { cboWindow_Click(); });
-  WhenClicked("txtWindow", [this](int) { SetChoice(0, Find("txtWindow").Text()); });
+  WhenClicked("txtWindow", [this](int) { SetChoice(kTitle, Find("txtWindow").Text()); });
   WhenDroppedDown("cboWindow", [this](int) { cboWindow_DropDown(); });
   // A list that is closed without a choice must not stay wide with Remove disabled.
   WhenClosedUp("cboWindow", [this](int) { cboWindow_CloseUp(); });
@@ -89,7 +94,7 @@ void frmGetWindow::Form_Load() {
       LoadThisWindow();
       break;
   }
-  Find("optWindow", 0).SetValue(1);
+  Find("optWindow", kTitle).SetValue(1);
 }
 
 void frmGetWindow::FillTags() {
@@ -128,11 +133,11 @@ void frmGetWindow::LoadPreviousWindow() {
   windowClass_ = previous.className;
   Find("txtWindow").SetText(previous.text);
   Find("txtWindowClass").SetText(previous.className);
-  SetChoice(0, previous.text);
+  SetChoice(kTitle, previous.text);
   if (previous.text.empty()) {
-    HidePortions();
+    HideParts();
   } else {
-    OfferPortions(previous.text);
+    OfferParts(previous.text);
   }
 }
 
@@ -143,23 +148,23 @@ void frmGetWindow::LoadThisWindow() {
   const std::string title = context_.mainWindow.MainCaption();
   Find("txtWindow").SetText(title);
   Find("txtWindowClass").SetText(windowClass_);
-  SetChoice(0, title);
-  HidePortions();
+  SetChoice(kTitle, title);
+  HideParts();
 }
 
-void frmGetWindow::OfferPortions(const std::string& title) {
-  SetChoice(1, std::string(LeftTitlePart(title)).append(kLeftPartMark));
-  SetChoice(2, std::string(kRightPartMark).append(RightTitlePart(title)));
+void frmGetWindow::OfferParts(const std::string& title) {
+  SetChoice(kLeftPart, std::string(LeftTitlePart(title)).append(kLeftPartMark));
+  SetChoice(kRightPart, std::string(kRightPartMark).append(RightTitlePart(title)));
   // A caption loses the blanks at its ends; without them, some parts would not find their window.
-  for (const int portion : {1, 2}) {
-    const std::string caption = TagCaption(1, choices_[static_cast<std::size_t>(portion)]);
-    Find("optWindow", portion).SetVisible(TitleMatches(caption, title, true));
+  for (const int part : {kLeftPart, kRightPart}) {
+    const std::string caption = TagCaption(1, choices_[static_cast<std::size_t>(part)]);
+    Find("optWindow", part).SetVisible(TitleMatches(caption, title, true));
   }
 }
 
-void frmGetWindow::HidePortions() {
-  Find("optWindow", 1).SetVisible(false);
-  Find("optWindow", 2).SetVisible(false);
+void frmGetWindow::HideParts() {
+  Find("optWindow", kLeftPart).SetVisible(false);
+  Find("optWindow", kRightPart).SetVisible(false);
 }
 
 void frmGetWindow::SetChoice(int index, std::string identification) {
@@ -175,11 +180,11 @@ std::string frmGetWindow::ChosenIdentification() const {
 }
 
 void frmGetWindow::cmdOK_Click() {
-  SetChoice(0, Find("txtWindow").Text());
+  SetChoice(kTitle, Find("txtWindow").Text());
   const Control& tags = Find("cboWindow");
   if (tags.ListIndex() < 0) return;
-  const int tag = tags.SelectedText().front() - '0';
-  RemoveEntry(tags.SelectedItemData());
+  const int tag = tags.SelectedItemData();
+  RemoveEntry(tag);
   const bool ofChild = Find("chkChildWindow").Value() == 1;
   AddEntry(tag, (ofChild ? ListText : TagCaption)(tag, ChosenIdentification()));
   cmdClose_Click();

@@ -37,8 +37,8 @@ class frmGetWindow : public Form {
   void ShowTagState();
   void LoadPreviousWindow();
   void LoadThisWindow();
-  void OfferPortions(const std::string& title);
-  void HidePortions();
+  void OfferParts(const std::string& title);
+  void HideParts();
   void SetChoice(int index, std::string identification);
   std::string ChosenIdentification() const;
   void AddEntry(int tag, const std::string& caption);

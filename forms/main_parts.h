@@ -42,7 +42,7 @@ struct MainState {
 /// may be used before both exist.
 struct MainParts {
   MainParts(Platform& platform, FormCollection& forms, MainWindow& mainWindow, MenuItem& windowMenu,
-            HotKeyActions& actions, std::function<void()> shutDown);
+            HotKeyActions& hotKeyActions, std::function<void()> shutDown);
   MainParts(const MainParts&) = delete;
   MainParts& operator=(const MainParts&) = delete;
 

@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include "app/core/stored_tags.h"
+
 namespace korvale {
 namespace {
 
@@ -68,7 +70,7 @@ struct TagText {
 };
 
 constexpr std::array kTags = [] {
-  std::array<TagText, 10> tags;
+  std::array<TagText, kTagCount + 1> tags;
   for (std::size_t tag = 0; tag < tags.size(); ++tag) {
     TagText& text = tags[tag];
     text.digit[0] = text.note[std::size(text.note) - 3] = static_cast<char>('0' + tag);
@@ -92,8 +94,9 @@ void AddGeneralPage(Rows& rows) {
 
 void AddTag(Rows& rows, int tag) {
   constexpr Twips kTagRowHeight = 285;
-  const Twips left = tag < 5 ? 1800 : 7560;
-  const Twips top = 285 + kTagRowHeight * (tag % 5);
+  constexpr int kTagsInColumn = 5;
+  const Twips left = tag < kTagsInColumn ? 1800 : 7560;
+  const Twips top = 285 + kTagRowHeight * (tag % kTagsInColumn);
   const TagText& text = kTags.at(static_cast<std::size_t>(tag));
   const char* const note = tag == 0 ? " selects the Previous Window " : text.note;
   rows.Add(kLabel, "lblTagParent", tag, note, note, {left + 480, top + 22, 5190, 240},
@@ -132,10 +135,10 @@ void AddLegend(Rows& rows) {
   constexpr const char* kEnabledTip =
       " changes the color of enabled Hot Keys, with Shift back to the default  "
       "(Alt+C/Shift+Alt+C) ";
-  rows.Add(kLabel, "lblLegend", 1, kEnabled, kEnabledTip, {990, kPageHeight - 1065, 8700, 255},
-           kNoPrefix | kClickable | kSingleBorder);
-  rows.Add(kLabel, "lblLegend", 0, kDisabled, kDisabled, {9810, kPageHeight - 1065, 3660, 255},
-           kNoPrefix);
+  rows.Add(kLabel, "lblLegend", kEnabledLegend, kEnabled, kEnabledTip,
+           {990, kPageHeight - 1065, 8700, 255}, kNoPrefix | kClickable | kSingleBorder);
+  rows.Add(kLabel, "lblLegend", kDisabledLegend, kDisabled, kDisabled,
+           {9810, kPageHeight - 1065, 3660, 255}, kNoPrefix);
   // Room for three lines: a long list of refused hot keys, and those chosen twice.
   rows.Add(kLabel, "lblConflicts", -1, "", "", {180, kPageHeight - 765, 13200, 750},
            kNoPrefix | kWordWrap | kHidden);
@@ -147,7 +150,7 @@ void AddHotKeysPage(Rows& rows) {
   rows.Add(kDropDownList, "cboHotKeyModParent", -1, "",
            " key to hold down while pressing the number of a Tag  (Alt+W) ", {180, 285, 1380, 315});
   rows.Add(kLabel, "lblPlusParent", -1, "+", "", {1560, 323, 240, 240}, kCentered);
-  for (int tag = 0; tag < 10; ++tag) AddTag(rows, tag);
+  for (int tag = 0; tag <= kTagCount; ++tag) AddTag(rows, tag);
   rows.Add(kLabel, "lblHotKeyTip", -1,
            "Tip: Alt+Tab and Alt+F4 are provided by the Windows® operating system.", "",
            {180, 1770, 12000, 240}, kNoPrefix);

@@ -9,6 +9,10 @@ namespace korvale {
 
 inline constexpr const char* kOptionsForm = "frmOptions";
 
+/// The labels lblLegend, which explain how a hot key is shown.
+inline constexpr int kDisabledLegend = 0;
+inline constexpr int kEnabledLegend = 1;
+
 /// The controls in which the hot keys of a group of operations are chosen: a frame with control
 /// arrays, counted by OperationRow::index.
 struct HotKeyControls {
@@ -37,6 +41,7 @@ constexpr const HotKeyControls& ControlsOf(const OperationRow& row) {
   return *std::ranges::find(kHotKeyControls, row.group, &HotKeyControls::group);
 }
 
+/// The controls and the place of frmOptions, with a line for each operation.
 const FormDesign& OptionsDesign();
 
 }  // namespace korvale

@@ -1,3 +1,4 @@
+#include "app/core/stored_tags.h"
 #include "forms/options_design.h"
 #include "forms/options_form.h"
 #include "util/lists.h"
@@ -34,7 +35,7 @@ void ForEachList(Options& options, Visit visit) {
 void frmOptions::LoadFrom(const clsOptions& options) {
   loading_ = true;
   for (const CheckBoxField& box : kCheckBoxes) Find(box.name).SetValue(options.*box.field ? 1 : 0);
-  for (int tag = 0; tag < 10; ++tag) {
+  for (int tag = 0; tag <= kTagCount; ++tag) {
     Find("chkHotKeyParent", tag)
         .SetValue(options.booHotKeyParent[static_cast<std::size_t>(tag)] ? 1 : 0);
   }
@@ -50,7 +51,7 @@ void frmOptions::LoadFrom(const clsOptions& options) {
 
 void frmOptions::UpdateInto(clsOptions& options) const {
   for (const CheckBoxField& box : kCheckBoxes) options.*box.field = Find(box.name).Value() == 1;
-  for (int tag = 0; tag < 10; ++tag) {
+  for (int tag = 0; tag <= kTagCount; ++tag) {
     options.booHotKeyParent[static_cast<std::size_t>(tag)] =
         Find("chkHotKeyParent", tag).Value() == 1;
   }

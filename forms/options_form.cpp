@@ -1,6 +1,7 @@
 #include "forms/options_form.h"
 
 #include "app/core/identity.h"
+#include "app/core/stored_tags.h"
 #include "forms/hot_key_lists.h"
 #include "forms/options_design.h"
 #include "platform/win32_constants.h"
@@ -13,7 +14,6 @@ namespace {
 constexpr int kPages = 3;
 constexpr const char* kPageTitles[kPages] = {"General", "Hot Keys", "Window Identification"};
 constexpr std::string_view kLegend = "lblLegend";
-constexpr int kEnabledLegend = 1;
 /// Where the focus goes on each page.
 constexpr const char* kFirstControls[kPages] = {"chkSplashScreen", "cboHotKeyModParent",
                                                 "chkAllowToolbarWindow"};
@@ -143,8 +143,8 @@ void frmOptions::HotKeyChanged() {
 
 void frmOptions::udmRefreshHotKeyLabels() {
   PaintLabel(kLegend, kEnabledLegend, true);
-  PaintLabel(kLegend, 0, false);
-  for (int tag = 0; tag < 10; ++tag) {
+  PaintLabel(kLegend, kDisabledLegend, false);
+  for (int tag = 0; tag <= kTagCount; ++tag) {
     PaintLabel("lblTagParent", tag, Find("chkHotKeyParent", tag).Value() == 1);
   }
   // A stored key that the list does not have stays registered, so its label stays enabled.
@@ -185,7 +185,7 @@ void frmOptions::Form_Activate() { keyListKeys_.Forget(); }
 void frmOptions::Form_KeyDown(int& key, unsigned shift) {
   if (key == win32::kVkTab && (shift & ~kShift) == kCtrl) {
     key = 0;
-    NextPage((shift & kShift) != 0);
+    TurnPage((shift & kShift) != 0);
   } else if (key == 'C' && (shift & ~kShift) == kAlt && Find("tabOptions").ListIndex() == 1) {
     key = 0;
     if (!KeyRepeats()) PressLegend(shift & kShift);
@@ -194,7 +194,7 @@ void frmOptions::Form_KeyDown(int& key, unsigned shift) {
   }
 }
 
-void frmOptions::NextPage(bool backwards) {
+void frmOptions::TurnPage(bool backwards) {
   Control& tabs = Find("tabOptions");
   const int tab = (tabs.ListIndex() + (backwards ? kPages - 1 : 1)) % kPages;
   tabs.SetListIndex(tab);

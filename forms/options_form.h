@@ -44,7 +44,7 @@ class frmOptions : public Form {
   void cmdReset_Click();
   void tabOptions_Click();
 
-  void NextPage(bool backwards);
+  void TurnPage(bool backwards);
   void Save();
   /// A check that always passes: combinations that clash are left to the user.
   static bool Validate() { return true; }

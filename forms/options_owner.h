@@ -19,7 +19,10 @@ class OptionsDialogOwner {
   /// "LOAD_AND_OR_REFRESH" shows the options record in the dialog, "UPDATE_OPTIONS" takes the
   /// dialog's values into the record.
   virtual void udmOptions(const std::string& strMode) = 0;
+  /// Reads the options record from the store.
   virtual void udmLoadOptions() = 0;
+  /// Deletes the stored options, after which defaults are read; tells the user when the store
+  /// refuses.
   virtual void udmDeleteOptions() = 0;
   /// Saves the options and the main window's state as one; tells the user when the store refuses.
   virtual void SaveOrTell() = 0;
@@ -28,6 +31,7 @@ class OptionsDialogOwner {
   virtual MessageBoxes& Messages() = 0;
   /// Lets the user choose a colour, starting with `initial`; nothing when they cancel.
   virtual std::optional<Color> udmShowColorPalette(Color initial) = 0;
+  /// The pointer over all windows of the program.
   virtual void SetMousePointer(MousePointer pointer) = 0;
 
   /// The tab on which the dialog opens, counted from 1.

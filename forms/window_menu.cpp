@@ -57,20 +57,19 @@ void WindowMenu::mnuWindowParentList_Click(std::int16_t Index) {
 }
 
 void WindowMenu::mnuWindowAddToList_Click(std::int16_t Index) {
-  if (Index != kPreviousWindow || PreviousCanBeAdded()) {
-    WindowTriple mainWindow{desktop_->mainWindow.MainHandle(), desktop_->mainWindow.MainCaption(),
-                            GetWindowClass(desktop_->windows, desktop_->mainWindow.MainHandle())};
-    if (desktop_->actions.ActivateWindow(mainWindow, false, true) == kWindowDenied) {
-      // The dialog would suspend the hot keys from somewhere behind the other windows.
-      desktop_->actions.ReportFailure();
-    } else {
-      showAddWindow_(Index == kPreviousWindow ? AddWindowMode::kPreviousWindow
-                                              : AddWindowMode::kThisWindow);
-    }
+  const bool previous = Index == kPreviousWindow;
+  if (previous && !CheckPreviousOrTell()) return;
+  WindowTriple mainWindow{desktop_->mainWindow.MainHandle(), desktop_->mainWindow.MainCaption(),
+                          GetWindowClass(desktop_->windows, desktop_->mainWindow.MainHandle())};
+  if (desktop_->actions.ActivateWindow(mainWindow, false, true) == kWindowDenied) {
+    // The dialog would suspend the hot keys from somewhere behind the other windows.
+    desktop_->actions.ReportFailure();
+  } else {
+    showAddWindow_(previous ? AddWindowMode::kPreviousWindow : AddWindowMode::kThisWindow);
   }
 }
 
-bool WindowMenu::PreviousCanBeAdded() {
+bool WindowMenu::CheckPreviousOrTell() {
   WindowTriple& previous = desktop_->previous.current;
   const ActivationResult result = desktop_->actions.ActivateWindow(previous, false, false);
   if (result == kActivationDone) return true;
@@ -98,17 +97,16 @@ void WindowMenu::mnuWindowAlwaysOnTop_Click() {
 
 void WindowMenu::mnuWindowPreviousWindowAlwaysOnTop_Click() {
   WindowTriple& previous = desktop_->previous.current;
-  if (desktop_->actions.ActivateWindow(previous, true, true) == kActivationDone) {
-    MenuItem& item = form_->Menu("mnuWindowPreviousWindowAlwaysOnTop");
-    const bool denied =
-        desktop_->requests.SetTopmost(previous.handle, !item.checked) == RequestResult::kDenied;
-    if (!denied) item.checked = !item.checked;
-    // Where Windows refuses it, the user still sees what they asked for.
-    if (desktop_->mainWindow.FocusTag() == kGotFocus) {
-      desktop_->requests.SetForegroundWindow(desktop_->mainWindow.MainHandle());
-    }
-    if (denied) desktop_->actions.ReportFailure();
+  if (desktop_->actions.ActivateWindow(previous, true, true) != kActivationDone) return;
+  MenuItem& item = form_->Menu("mnuWindowPreviousWindowAlwaysOnTop");
+  const bool denied =
+      desktop_->requests.SetTopmost(previous.handle, !item.checked) == RequestResult::kDenied;
+  if (!denied) item.checked = !item.checked;
+  // Where Windows refuses it, the user still sees what they asked for.
+  if (desktop_->mainWindow.FocusTag() == kGotFocus) {
+    desktop_->requests.SetForegroundWindow(desktop_->mainWindow.MainHandle());
   }
+  if (denied) desktop_->actions.ReportFailure();
 }
 
 void WindowMenu::mnuWindowMinimizeAll_Click() {
@@ -116,10 +114,9 @@ void WindowMenu::mnuWindowMinimizeAll_Click() {
 }
 
 void WindowMenu::mnuWindowRestoreAll_Click() {
-  if (!desktop_->selection.windowSearch) {
-    desktop_->actions.RestoreAll();
-    desktop_->selection.selected = desktop_->mainWindow.MainHandle();
-  }
+  if (desktop_->selection.windowSearch) return;
+  desktop_->actions.RestoreAll();
+  desktop_->selection.selected = desktop_->mainWindow.MainHandle();
 }
 
 }  // namespace korvale

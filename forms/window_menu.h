@@ -31,7 +31,8 @@ class WindowMenu {
   void mnuWindowRestoreAll_Click();
 
  private:
-  bool PreviousCanBeAdded();
+  /// Whether the Previous Window can be added; tells the user why not.
+  bool CheckPreviousOrTell();
 
   Desktop* desktop_;
   Form* form_;
