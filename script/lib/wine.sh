@@ -31,19 +31,16 @@ wine_display() {
   wine_keyboard && wine_pointer
 }
 
-# Whenever a window gets the focus or the pointer, the display tells Wine which of its own keys are
-# down, and Wine lets go of modifiers that only SendInput holds. A keyboard without modifiers has
-# nothing to tell about them.
+# Lets the display tell Wine nothing about keys: only SendInput presses any.
 wine_keyboard() {
-  xkbcomp -w0 "$DISPLAY" "$WINE_WORK/keyboard.xkb" 2>/dev/null &&
-    sed -Ei '/^xkb_symbols/,$ {
-      /modifier_map (Shift|Control|Mod1|Mod4) /d
-      s/\b(Shift|Control|Alt|Meta|Super|Hyper)_[LR]\b/VoidSymbol/g
-    }' "$WINE_WORK/keyboard.xkb" &&
-    xkbcomp -w0 "$WINE_WORK/keyboard.xkb" "$DISPLAY"
+  cc -shared -fPIC -O1 -Wall -Wextra -Werror -o "$WINE_WORK/no_keymap.so" script/lib/no_keymap.c &&
+    printf '#!/bin/sh\nLD_PRELOAD=%q exec %q "$@"\n' "$WINE_WORK/no_keymap.so" "$WINE_LOADER" \
+      >"$WINE_WORK/wine" &&
+    chmod +x "$WINE_WORK/wine" &&
+    WINE_LOADER=$WINE_WORK/wine
 }
 
-# The display also tells every window late where the pointer was, and Wine puts it back there. So
+# The display tells every window late where the pointer was, and Wine puts it back there. So
 # only the tests tell where it is, Wine by Windows' own calls and the display by KORVALE_POINTER.
 wine_pointer() {
   local folder=$WINE_WORK/pointer kept=$WINE_WORK/pointer-kept

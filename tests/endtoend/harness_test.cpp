@@ -119,19 +119,20 @@ TEST(Harness, OpensAMenuWithTheKeyboardAndClosesItAgain) {
   EXPECT_TRUE(WaitFor([&] { return !menu_is_open(); }));
 }
 
-TEST(Harness, HoldsAModifierWhileFocusAndPointerMove) {
+TEST(Harness, HoldsAKeyWhileFocusAndPointerMove) {
   TestProgram one;
   TestProgram two;
   const Window alpha = one.Open("Alpha");
   const Window beta = two.Open("Beta");
-  for (const UINT modifier : {VK_MENU, VK_CONTROL, VK_SHIFT, VK_LWIN}) {
-    const auto is_down = [&] { return IsDown(modifier); };
+  constexpr UINT kKeys[] = {VK_MENU, VK_CONTROL, VK_SHIFT, VK_LWIN, 'W', VK_F4};
+  for (const UINT key : kKeys) {
+    const auto is_down = [&] { return IsDown(key); };
     {
-      const HeldKeys held({0, modifier});
+      const HeldKeys held({0, key});
       for (const Window window : {alpha, beta}) {
         MoveMouse(window, {20, 10});
         ASSERT_TRUE(BringToFront(window));
-        EXPECT_TRUE(HoldsFor(is_down, std::chrono::milliseconds(100))) << modifier;
+        EXPECT_TRUE(HoldsFor(is_down, std::chrono::milliseconds(100))) << key;
       }
     }
     EXPECT_FALSE(is_down());
