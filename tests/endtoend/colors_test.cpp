@@ -38,16 +38,6 @@ class Colors : public KorvaleTest {
     return InFront(main());
   }
 
-  /// The box's back colour on the screen.
-  static Rgb ColorOnScreen(Window box) {
-    RECT area{};
-    GetWindowRect(box.handle(), &area);
-    const HDC screen = GetDC(nullptr);
-    const COLORREF color = GetPixel(screen, area.right - 6, area.top + 4);
-    ReleaseDC(nullptr, screen);
-    return {GetRValue(color), GetGValue(color), GetBValue(color)};
-  }
-
   ::testing::AssertionResult Shows(Window box, Rgb color) {
     if (WaitFor([&] { return ColorOnScreen(box) == color; })) return ::testing::AssertionSuccess();
     return ::testing::AssertionFailure() << "the box is " << StoredColor(ColorOnScreen(box));

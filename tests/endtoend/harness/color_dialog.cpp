@@ -24,6 +24,15 @@ std::string StoredColor(Rgb color) {
   return std::to_string(color.red + 0x100 * color.green + 0x10000 * color.blue);
 }
 
+Rgb ColorOnScreen(Window box) {
+  RECT area{};
+  GetWindowRect(box.handle(), &area);
+  const HDC screen = GetDC(nullptr);
+  const COLORREF color = GetPixel(screen, area.right - 6, area.top + 4);
+  ReleaseDC(nullptr, screen);
+  return {GetRValue(color), GetGValue(color), GetBValue(color)};
+}
+
 ColorDialog::ColorDialog(const RunningKorvale& korvale) : window_(korvale.MessageBox()) {
   WaitFor([this] { return Field(window_, kBlue).Visible(); });
 }

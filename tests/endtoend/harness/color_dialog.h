@@ -20,6 +20,9 @@ struct Rgb {
 /// The number that the settings hold for a colour.
 std::string StoredColor(Rgb color);
 
+/// The back colour of a text box on the screen.
+Rgb ColorOnScreen(Window box);
+
 /// The system's colour dialog as Korvale shows it.
 class ColorDialog {
  public:

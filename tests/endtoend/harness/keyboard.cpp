@@ -11,7 +11,8 @@ namespace {
 constexpr int kProbeId = 0x77;
 
 bool IsExtended(WORD key) {
-  constexpr WORD kExtended[] = {VK_DOWN, VK_UP, VK_LEFT, VK_RIGHT, VK_HOME, VK_END, VK_LWIN};
+  constexpr WORD kExtended[] = {VK_DOWN, VK_UP,  VK_LEFT, VK_RIGHT,
+                                VK_HOME, VK_END, VK_LWIN, VK_APPS};
   return std::find(std::begin(kExtended), std::end(kExtended), key) != std::end(kExtended);
 }
 
@@ -50,12 +51,13 @@ void LetForegroundNotice() {
 // SendInput counts positions in 65536ths of the screen.
 LONG Absolute(int pixel, int metric) { return MulDiv(pixel, 65536, GetSystemMetrics(metric)) + 1; }
 
-void SendMouse(DWORD flags, POINT at = {}) {
+void SendMouse(DWORD flags, POINT at = {}, int data = 0) {
   INPUT input{};
   input.type = INPUT_MOUSE;
   input.mi.dx = Absolute(at.x, SM_CXSCREEN);
   input.mi.dy = Absolute(at.y, SM_CYSCREEN);
   input.mi.dwFlags = flags;
+  input.mi.mouseData = static_cast<DWORD>(data);
   Send({input});
 }
 
@@ -141,6 +143,13 @@ void ClickAt(Window window, POINT at) {
   MoveMouse(window, at);
   SendMouse(MOUSEEVENTF_LEFTDOWN);
   SendMouse(MOUSEEVENTF_LEFTUP);
+}
+
+void TurnWheel(Window window, int notches) {
+  RECT area{};
+  GetWindowRect(window.handle(), &area);
+  MoveMouse(window, {(area.right - area.left) / 2, (area.bottom - area.top) / 2});
+  SendMouse(MOUSEEVENTF_WHEEL, {}, notches * WHEEL_DELTA);
 }
 
 void Drag(POINT from, POINT to, const std::function<void()>& each_step) {

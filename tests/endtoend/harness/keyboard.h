@@ -75,6 +75,9 @@ void MoveMouse(Window window, POINT at);
 /// Moves the mouse there and clicks its left button.
 void ClickAt(Window window, POINT at);
 
+/// Turns the mouse wheel over the middle of a window or control: away from the user above 0.
+void TurnWheel(Window window, int notches);
+
 /// Drags what lies at a place of the screen to another one, with the left button, step by step.
 /// `each_step` is called while the button is down.
 void Drag(POINT from, POINT to, const std::function<void()>& each_step = {});
