@@ -31,7 +31,8 @@ constexpr ControlRow LinkLabel() {
 }
 
 constexpr ControlRow kAboutControls[] = {
-    {kImage, "imaProduct", -1, "", "", {240, 300, 600, 600}},
+    // Nobody sees the caption of a picture; screen readers say it.
+    {kImage, "imaProduct", -1, "Icon of Korvale", "", {240, 300, 600, 600}},
     Label("lblProduct", "", 300, kNoFlags),
     Label("lblFileDescription", "", 660, kNoFlags),
     Label("lblCopyright", "", 1125, kNoFlags),

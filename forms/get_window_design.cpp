@@ -16,6 +16,8 @@ enum WindowOrder : int {
   kOrderCmdRemove,
   kOrderLblIdentifyWindow,
   kOrderTxtWindow,
+  kOrderLine2,
+  kOrderLblWindowClass,
   kOrderTxtWindowClass,
   kOrderOptWindow0,
   kOrderOptWindow1,
@@ -72,10 +74,15 @@ constexpr ControlRow kAddWindowControls[] = {
         " Red text: means a window is already associated with this Tag     Blue text: means this "
         "Tag is available ",
         {1260, 390, 4905, 225}, kOrderLblWindow, kNoPrefix),
-    Row(kLine, "Line2", -1, "", "", {2340, 840, 5250, 15}, kOrderLines),
+    // Stands before the second text box: screen readers take a box's access key from the last
+    // static control that is seen before it, and that of the first box is not for this one.
+    Row(kLine, "Line2", -1, "", "", {2340, 840, 5250, 15}, kOrderLine2),
     Row(kLine, "Line1", -1, "", "", {1500, 195, 6090, 15}, kOrderLines),
     Row(kLabel, "lblIdentifyWindow", -1, "Identify &Window  (Parent)", "", {120, 735, 2160, 225},
         kOrderLblIdentifyWindow),
+    // A screen reader calls the text box by the label before it; nobody sees this one.
+    Row(kLabel, "lblWindowClass", -1, "Class of Window", "", {}, kOrderLblWindowClass,
+        kHidden | kNoPrefix),
     Row(kLabel, "lblAssignHotKey", -1, "Assign a &Tag", "", {120, 90, 1320, 225},
         kOrderLblAssignHotKey),
 };

@@ -16,13 +16,13 @@ constexpr Twips kCheckBoxAboveBottom = 1275;
 constexpr Twips kButtonAboveBottom = 795;
 
 constexpr ControlRow kTipControls[] = {
+    MakeRow(kLabel, "lblTip", -1, "*get what*", "",
+            {150, 150, 8010, kDesignHeight - kTextAboveBottom}, kWordWrap | kNoPrefix),
     MakeRow(kCheckBox, "chkStopMsg", -1, "&In the future, do not show this message",
             " Do not show this message again  (Alt+I) ",
             {150, kDesignHeight - kCheckBoxAboveBottom, 5000, 270}),
     MakeRow(kButton, "cmdOK", -1, "OK", " Close  (Enter) ",
             {3540, kDesignHeight - kButtonAboveBottom, 1215, 345}, kDefaultButton),
-    MakeRow(kLabel, "lblTip", -1, "*get what*", "",
-            {150, 150, 8010, kDesignHeight - kTextAboveBottom}, kWordWrap | kNoPrefix),
 };
 
 constexpr FormDesign kMsgTipDesign = {.name = "frmMsgTip",

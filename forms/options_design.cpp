@@ -23,7 +23,9 @@ class Rows {
  public:
   void Page(int index) {
     ClosePages();
-    Add(kPage, "picOptions", index, "", "", {210, 495, 13575, kPageHeight});
+    // Nobody sees the caption; screen readers say it when the user gets to the page.
+    const char* const title = kPageTitles.at(static_cast<std::size_t>(index) - 1);
+    Add(kPage, "picOptions", index, title, "", {210, 495, 13575, kPageHeight});
     page_ = index;
     CloseFrame();
   }
@@ -50,6 +52,10 @@ class Rows {
       row.foreColor = kWindowTextColor;
     }
     rows_.push_back(row);
+  }
+  /// What a screen reader calls the list that follows; nobody sees it.
+  void NameOfNext(const char* name, int index, const char* text) {
+    Add(kLabel, name, index, text, "", {}, kNoPrefix | kHidden);
   }
   void CheckBox(const char* name, const char* caption, const char* toolTip, Twips top) {
     Add(kCheckBox, name, -1, caption, toolTip, {180, top, 7500, 285});
@@ -116,8 +122,7 @@ Twips AddHotKeys(Rows& rows, const HotKeyControls& controls, Twips frameTop) {
     rows.Add(kLabel, controls.label, i, row.label, row.note, {180, top + 38, 2625, 240}, kNoPrefix);
     rows.Add(kDropDownList, controls.modifiers, i, "", modifierTip, {2880, top, 1380, 315});
     rows.Add(kLabel, controls.plus, i, "+", "", {4260, top + 38, 270, 240}, kCentered);
-    // A screen reader calls the list by the label before it; nobody sees this one.
-    rows.Add(kLabel, controls.keyName, i, row.note, "", {}, kNoPrefix | kHidden);
+    rows.NameOfNext(controls.keyName, i, row.note);
     rows.Add(kDropDownList, controls.key, i, "", kKeyTip, {4530, top, 1500, 315});
     rows.Add(kLabel, controls.note, i, row.note, row.note, {6195, top + 38, 7080, 240}, kNoPrefix);
     modifierTip = kModifierTip;
@@ -147,6 +152,7 @@ void AddLegend(Rows& rows) {
 void AddHotKeysPage(Rows& rows) {
   rows.Page(2);
   rows.Frame("fraWindowSelection", "&Window Selection", 60, 2055);
+  rows.NameOfNext("lblModParent", -1, "Key to hold down with the number of a Tag");
   rows.Add(kDropDownList, "cboHotKeyModParent", -1, "",
            " key to hold down while pressing the number of a Tag  (Alt+W) ", {180, 285, 1380, 315});
   rows.Add(kLabel, "lblPlusParent", -1, "+", "", {1560, 323, 240, 240}, kCentered);
@@ -180,7 +186,7 @@ void AddButtons(Rows& rows) {
   rows.Add(kButton, "cmdReset", -1, "Reset All Options to Default",
            " deletes the saved options and applies the default of every option ",
            {105, kTop, 3000, 345});
-  rows.Add(kTabStrip, "tabOptions", -1, "", " page of the options  (Ctrl+Tab) ",
+  rows.Add(kTabStrip, "tabOptions", -1, "Pages", " page of the options  (Ctrl+Tab) ",
            {105, 105, 13800, kPageHeight + 480});
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 
 #include "app/core/operations.h"
 #include "ui/form.h"
@@ -12,6 +13,9 @@ inline constexpr const char* kOptionsForm = "frmOptions";
 /// The labels lblLegend, which explain how a hot key is shown.
 inline constexpr int kDisabledLegend = 0;
 inline constexpr int kEnabledLegend = 1;
+
+/// The pages of the dialog, in the order of their tabs.
+inline constexpr std::array kPageTitles = {"General", "Hot Keys", "Window Identification"};
 
 /// The controls in which the hot keys of a group of operations are chosen: a frame with control
 /// arrays, counted by OperationRow::index.

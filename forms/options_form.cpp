@@ -11,8 +11,7 @@
 namespace korvale {
 namespace {
 
-constexpr int kPages = 3;
-constexpr const char* kPageTitles[kPages] = {"General", "Hot Keys", "Window Identification"};
+constexpr int kPages = static_cast<int>(kPageTitles.size());
 constexpr std::string_view kLegend = "lblLegend";
 /// Where the focus goes on each page.
 constexpr const char* kFirstControls[kPages] = {"chkSplashScreen", "cboHotKeyModParent",

@@ -58,11 +58,12 @@ TEST_F(About, NamesTheProductItsVersionAndItsLegalNotice) {
   for (const Window label : about.Controls("Static")) {
     if (!label.Text().empty()) lines.push_back(label.Text());
   }
-  ASSERT_EQ(lines.size(), 4U);
-  EXPECT_EQ(lines[0], "Korvale 1.00.0000");
-  EXPECT_EQ(lines[1], "Moves you between open windows with hot keys");
-  EXPECT_EQ(lines[2], "Copyright (C) 2026 the Korvale developers");
-  EXPECT_TRUE(lines[3].ends_with("index.html")) << lines[3];
+  ASSERT_EQ(lines.size(), 5U);
+  EXPECT_EQ(lines[0], "Icon of Korvale");  // Not seen but said.
+  EXPECT_EQ(lines[1], "Korvale 1.00.0000");
+  EXPECT_EQ(lines[2], "Moves you between open windows with hot keys");
+  EXPECT_EQ(lines[3], "Copyright (C) 2026 the Korvale developers");
+  EXPECT_TRUE(lines[4].ends_with("index.html")) << lines[4];
 }
 
 TEST_F(About, ShowsTheIconOfTheProgramBesideTheTexts) {

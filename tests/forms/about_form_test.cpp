@@ -44,7 +44,8 @@ TEST_F(ShownAboutTest, ShowsNameVersionAndLegalNotice) {
 TEST_F(ShownAboutTest, ShowsItsPictureBesideTheTexts) {
   EXPECT_TRUE(Shown(about_, "imaProduct"));
   EXPECT_EQ(Look(about_, "imaProduct").kind, ControlKind::kImage);
-  EXPECT_EQ(Text(about_, "imaProduct"), "");
+  // What a screen reader calls it.
+  EXPECT_EQ(Text(about_, "imaProduct"), "Icon of Korvale");
   // 40 pixels wide and high.
   EXPECT_EQ(user_.Place(about_.Handle(), Id(about_, "imaProduct")),
             (TwipsRect{240, 300, 600, 600}));

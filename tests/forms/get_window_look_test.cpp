@@ -183,6 +183,7 @@ TEST(AddWindowDesign, HasItsControlsInTheirOrderWithTheirKindsAndCaptions) {
           {kLine, "Line2", -1, ""},
           {kLine, "Line1", -1, ""},
           {kLabel, "lblIdentifyWindow", -1, "Identify &Window  (Parent)"},
+          {kLabel, "lblWindowClass", -1, "Class of Window"},
           {kLabel, "lblAssignHotKey", -1, "Assign a &Tag"},
       }));
 }
@@ -221,6 +222,10 @@ TEST_F(AddWindowTest, TheTabKeyGoesFromTopToBottom) {
 TEST_F(AddNotesTest, EachLabelStandsBeforeItsControl) {
   EXPECT_EQ(Id(dialog_, "lblAssignHotKey") + 1, Id(dialog_, "cboWindow"));
   EXPECT_EQ(Id(dialog_, "lblIdentifyWindow") + 1, Id(dialog_, "txtWindow"));
+  EXPECT_EQ(Id(dialog_, "lblWindowClass") + 1, Id(dialog_, "txtWindowClass"));
+  EXPECT_FALSE(Shown(dialog_, "lblWindowClass"));
+  // Alt+W is the access key of the box before this one, not its own.
+  EXPECT_EQ(Id(dialog_, "Line2") + 1, Id(dialog_, "lblWindowClass"));
   EXPECT_EQ(Id(dialog_, "lblChildWindow") + 1, Id(dialog_, "cboChildWindow"));
 }
 

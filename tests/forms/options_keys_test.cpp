@@ -118,7 +118,7 @@ TEST_F(OptionsKeysTest, EveryControlWithSomethingToExplainHasAToolTipBetweenBlan
   EXPECT_EQ(takingInput, 30);
   // Pages, frames, signs between two lists, labels that nobody sees, and notes that say it all.
   EXPECT_EQ(without, (std::set<std::string>{"picOptions", "fraWindowSelection", "fraWindowActions",
-                                            "fraGeneral", "fraWindowIdentification",
+                                            "fraGeneral", "fraWindowIdentification", "lblModParent",
                                             "lblPlusParent", "lblPlusAction", "lblPlusGeneral",
                                             "lblKeyAction", "lblKeyGeneral", "lblHotKeyTip",
                                             "lblLegendTitle", "lblConflicts"}));

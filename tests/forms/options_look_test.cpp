@@ -145,9 +145,14 @@ struct Caption {
 };
 
 constexpr Caption kCaptions[] = {
+    {"tabOptions", -1, "Pages"},
+    {"picOptions", 1, "General"},
+    {"picOptions", 2, "Hot Keys"},
+    {"picOptions", 3, "Window Identification"},
     {"chkSplashScreen", -1, "&Display splash screen on startup"},
     {"chkSelectPrevWinOnStart", -1, "Select the Previous &Window on startup"},
     {"fraWindowSelection", -1, "&Window Selection"},
+    {"lblModParent", -1, "Key to hold down with the number of a Tag"},
     {"lblTagParent", 0, " selects the Previous Window "},
     {"lblHotKeyTip", -1, "Tip: Alt+Tab and Alt+F4 are provided by the Windows® operating system."},
     {"fraWindowActions", -1, "Window Action&s"},
@@ -202,7 +207,7 @@ TEST_F(OpenOptionsLookTest, EachHotKeyIsNamedRightBeforeItsLists) {
   for (int tag = 0; tag < 10; ++tag) {
     EXPECT_EQ(Id(dialog_, "lblTagParent", tag) + 1, Id(dialog_, "chkHotKeyParent", tag));
   }
-  EXPECT_EQ(Id(dialog_, "fraWindowSelection") + 1, Id(dialog_, "cboHotKeyModParent"));
+  EXPECT_EQ(Id(dialog_, "lblModParent") + 1, Id(dialog_, "cboHotKeyModParent"));
 }
 
 TEST_F(OpenOptionsLookTest, TheAccessKeysOfTheFramesLeadToTheirFirstLists) {
@@ -230,8 +235,8 @@ TEST_F(OptionsLookTest, TheAccessKeysOfTheCheckBoxesSetThem) {
 }
 
 TEST_F(OpenOptionsLookTest, EveryControlStandsInsideWhatHoldsIt) {
-  // 30 that take input, 36 labels, 4 frames and 3 pages.
-  ASSERT_EQ(dialog_.Controls().size(), 73U);
+  // 30 that take input, 37 labels, 4 frames and 3 pages.
+  ASSERT_EQ(dialog_.Controls().size(), 74U);
   for (const Control& control : dialog_.Controls()) {
     const ControlState& state = control.State();
     const TwipsRect room = state.container == 0 ? TwipsRect{0, 0, 14100 - 90, 7335 - 400}

@@ -131,9 +131,10 @@ TEST_F(TipsTest, NamesItsControls) {
   host_.WhenModal("frmMsgTip", [&](Form& form) {
     EXPECT_EQ(Text(form, "chkStopMsg"), "&In the future, do not show this message");
     EXPECT_EQ(Text(form, "cmdOK"), "OK");
-    EXPECT_EQ(form.State().controls[0].name, "chkStopMsg");
-    EXPECT_EQ(form.State().controls[1].name, "cmdOK");
-    EXPECT_EQ(form.State().controls[2].name, "lblTip");
+    // The text is read first.
+    EXPECT_EQ(form.State().controls[0].name, "lblTip");
+    EXPECT_EQ(form.State().controls[1].name, "chkStopMsg");
+    EXPECT_EQ(form.State().controls[2].name, "cmdOK");
     form.Unload();
   });
   ShowTip(TipNumber::kCustomizeColors);

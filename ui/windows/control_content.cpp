@@ -69,8 +69,13 @@ bool SameEntries(HWND window, const ControlState& control) {
 
 void ShowText(HWND window, const ControlState& control) {
   const std::wstring text = WindowText(control);
-  // Setting a text moves the caret, so a text that is there already is left alone.
-  if (text != ReadWideText(window)) SetWindowTextW(window, text.c_str());
+  if (control.kind == ControlKind::kImage) {
+    // For screen readers; the control itself would take it for the name of an icon.
+    DefWindowProcW(window, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
+  } else if (text != ReadWideText(window)) {
+    // Setting a text moves the caret, so a text that is there already is left alone.
+    SetWindowTextW(window, text.c_str());
+  }
 }
 
 void ShowItems(HWND window, const ControlState& control) {

@@ -61,6 +61,7 @@ HWND FormWindow::Create(HWND owner, FormEvents& events) {
   }
   for (const ControlState& control : form_->controls) {
     Watch(controls_.Window(control.id), control.id);
+    if (control.kind == ControlKind::kPage) reader_->TellPage(controls_.Window(control.id));
   }
   watched_ = true;
   keys_.emplace(hwnd_, events_, controls_);
@@ -82,6 +83,14 @@ void FormWindow::Watch(HWND control, int id) {
   const auto form = reinterpret_cast<DWORD_PTR>(this);
   SetWindowSubclass(control, ControlProcedure, static_cast<UINT_PTR>(id), form);
   Watch(FindWindowExW(control, nullptr, WC_EDITW, nullptr), id);
+}
+
+void FormWindow::ForgetRoles() {
+  if (form_->role != FormRole::kWindow) reader_->ForgetRole(hwnd_);
+  for (const ControlState& control : form_->controls) {
+    const HWND page = control.kind == ControlKind::kPage ? controls_.Window(control.id) : nullptr;
+    if (page != nullptr) reader_->ForgetRole(page);
+  }
 }
 
 void FormWindow::ShowCaption() {
@@ -211,7 +220,7 @@ std::optional<LRESULT> FormWindow::HandleEnd(UINT message, WPARAM wParam) {
       return 0;
     case WM_DESTROY:
       events_.Disconnect();
-      if (form_->role != FormRole::kWindow) reader_->ForgetRole(hwnd_);
+      ForgetRoles();
       menu_.DropBar(hwnd_);
       controls_.Drop();
       return 0;

@@ -102,6 +102,7 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   void OnMetricsChanged();
   void OnColorsChanged();
   void Watch(HWND control, int id);
+  void ForgetRoles();
 
   const FormState* form_;
   WindowClasses* classes_;

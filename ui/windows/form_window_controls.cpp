@@ -87,6 +87,11 @@ LRESULT CALLBACK FormWindow::ControlProcedure(HWND hwnd, UINT message, WPARAM wP
   const auto alive = reinterpret_cast<FormWindow*>(form)->shared_from_this();
   const int control = static_cast<int>(id);
   if (alive->IsForgedForControl(control, hwnd, message, wParam, lParam)) return 0;
+  // A picture would answer with what it knows of its icon.
+  const bool picture = alive->controls_.State(control).kind == ControlKind::kImage;
+  if (picture && (message == WM_GETTEXT || message == WM_GETTEXTLENGTH)) {
+    return DefWindowProcW(hwnd, message, wParam, lParam);
+  }
   const bool focused = message == WM_SETFOCUS && GetFocus() == hwnd;
   if (message == WM_NCDESTROY) RemoveWindowSubclass(hwnd, ControlProcedure, id);
   const bool mouse = message >= WM_MOUSEFIRST && message <= WM_MOUSELAST;

@@ -19,11 +19,17 @@ UniqueHandle<IAccPropServices*> ScreenReader::Services() {
 }
 
 void ScreenReader::TellRole(HWND window, FormRole role) {
+  SetRole(window, role == FormRole::kAlert ? ROLE_SYSTEM_ALERT : ROLE_SYSTEM_DIALOG);
+}
+
+void ScreenReader::TellPage(HWND window) { SetRole(window, ROLE_SYSTEM_PROPERTYPAGE); }
+
+void ScreenReader::SetRole(HWND window, LONG role) {
   const auto services = Services();
   if (!services) return;
   VARIANT value{};
   value.vt = VT_I4;
-  value.lVal = role == FormRole::kAlert ? ROLE_SYSTEM_ALERT : ROLE_SYSTEM_DIALOG;
+  value.lVal = role;
   services.Get()->SetHwndProp(window, kClient, CHILDID_SELF, PROPID_ACC_ROLE, value);
 }
 

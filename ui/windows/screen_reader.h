@@ -18,12 +18,15 @@ class ScreenReader {
   /// Gives a form's window its role (IAccPropServices::SetHwndProp). A window of a class of its own
   /// would have none.
   void TellRole(HWND window, FormRole role);
+  /// The same for the page of a tab.
+  void TellPage(HWND window);
   /// Gives it the name that screen readers say (IAccPropServices::SetHwndPropStr).
   void TellName(HWND window, const std::string& name);
   /// Must be called before a window that has a role or name is destroyed.
   void ForgetRole(HWND window);
 
  private:
+  void SetRole(HWND window, LONG role);
   /// A new one each time, which Windows makes from a library (oleacc); empty where it cannot.
   UniqueHandle<IAccPropServices*> Services();
 
