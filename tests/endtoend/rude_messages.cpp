@@ -40,11 +40,12 @@ std::vector<UINT> Queued() {
 
 std::vector<UINT> Sent() {
   std::vector<UINT> messages = {
-      WM_DESTROY,        WM_NCDESTROY,       WM_ACTIVATE,     WM_SETFOCUS,      WM_COMMAND,
-      WM_TIMER,          WM_HOTKEY,          WM_MENUSELECT,   WM_ENTERMENULOOP, WM_CTLCOLOREDIT,
-      WM_CTLCOLORSTATIC, WM_DPICHANGED,      WM_APP,          WM_APP + 1,       TCM_INSERTITEMW,
-      TCM_SETITEMW,      BCM_GETIDEALSIZE,   EM_SETCUEBANNER, TTM_ADDTOOLW,     TTM_GETTEXTW,
-      WM_INITDIALOG,     EM_SETWORDBREAKPROC};
+      WM_DESTROY,       WM_NCDESTROY,     WM_ACTIVATE,        WM_SETFOCUS,
+      WM_COMMAND,       WM_TIMER,         WM_HOTKEY,          WM_MENUSELECT,
+      WM_ENTERMENULOOP, WM_CTLCOLOREDIT,  WM_CTLCOLORSTATIC,  WM_DPICHANGED,
+      WM_APP,           WM_APP + 1,       TCM_INSERTITEMW,    TCM_SETITEMW,
+      TCM_GETITEMW,     BCM_GETIDEALSIZE, EM_SETCUEBANNER,    TTM_ADDTOOLW,
+      TTM_GETTEXTW,     WM_INITDIALOG,    EM_SETWORDBREAKPROC};
   messages.push_back(RegisterWindowMessageW(L"Korvale.ListClosed"));
   return messages;
 }

@@ -7,6 +7,7 @@
 #include "ui/windows/control_window.h"
 #include "ui/windows/form_window.h"
 #include "ui/windows/message_guard.h"
+#include "ui/windows/tab_question.h"
 
 namespace korvale {
 namespace {
@@ -86,7 +87,10 @@ LRESULT CALLBACK FormWindow::ControlProcedure(HWND hwnd, UINT message, WPARAM wP
                                               UINT_PTR id, DWORD_PTR form) {
   const auto alive = reinterpret_cast<FormWindow*>(form)->shared_from_this();
   const int control = static_cast<int>(id);
-  if (alive->IsForgedForControl(control, hwnd, message, wParam, lParam)) return 0;
+  if (alive->IsForgedForControl(control, hwnd, message, wParam, lParam)) {
+    const bool tab = alive->controls_.State(control).kind == ControlKind::kTabStrip;
+    return tab && message == TCM_GETITEMW ? AnswerAboutTab(hwnd, wParam, lParam) : 0;
+  }
   // A picture would answer with what it knows of its icon.
   const bool picture = alive->controls_.State(control).kind == ControlKind::kImage;
   if (picture && (message == WM_GETTEXT || message == WM_GETTEXTLENGTH)) {

@@ -214,11 +214,11 @@ bool IsForgedForClass(HWND window, UINT message, WPARAM wParam, bool privateToo)
          (privateToo && IsPrivateMessage(message));
 }
 
-bool ReadParameter(LPARAM address, RECT& value) {
+bool ReadParameter(LPARAM address, void* value, std::size_t size) {
   SIZE_T read = 0;
-  return ReadProcessMemory(GetCurrentProcess(), reinterpret_cast<LPCVOID>(address), &value,
-                           sizeof(value), &read) != FALSE &&
-         read == sizeof(value);
+  return ReadProcessMemory(GetCurrentProcess(), reinterpret_cast<LPCVOID>(address), value, size,
+                           &read) != FALSE &&
+         read == size;
 }
 
 }  // namespace korvale

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <cstddef>
+
 #include "platform/windows/handles.h"
 
 namespace korvale {
@@ -62,6 +64,10 @@ bool IsForgedActivation(HWND window, UINT message, WPARAM wParam);
 bool IsForgedForClass(HWND window, UINT message, WPARAM wParam, bool privateToo);
 
 /// Copies the structure that a message points to; false when there is none to read.
-bool ReadParameter(LPARAM address, RECT& value);
+bool ReadParameter(LPARAM address, void* value, std::size_t size);
+template <typename Value>
+bool ReadParameter(LPARAM address, Value& value) {
+  return ReadParameter(address, &value, sizeof(value));
+}
 
 }  // namespace korvale
