@@ -6,7 +6,7 @@
 namespace korvale {
 namespace {
 
-/// The menus as they are drawn; an access key stands in parentheses behind its caption.
+/// The menus as a screen reader says them: caption, (access key), state.
 class MainWindowMenusTest : public MainWindowTest {
  protected:
   using Lines = std::vector<std::string>;
@@ -14,8 +14,11 @@ class MainWindowMenusTest : public MainWindowTest {
   static Lines Drawn(const std::vector<ShownMenuItem>& items) {
     Lines lines;
     for (const ShownMenuItem& item : items) {
-      lines.push_back(item.accessKey.empty() ? item.caption
-                                             : item.caption + " (" + item.accessKey + ")");
+      std::string line = item.caption;
+      if (!item.accessKey.empty()) line += " (" + item.accessKey + ")";
+      if (item.checked) line += ", checked";
+      if (!item.enabled) line += ", unavailable";
+      lines.push_back(line);
     }
     return lines;
   }
@@ -37,8 +40,8 @@ TEST_F(MainWindowMenusTest, TheFileMenuHasExitAlone) {
 TEST_F(MainWindowMenusTest, TheViewMenuStandsInItsOrder) {
   KorvaleCopy& korvale = StartedCopy();
   EXPECT_EQ(MenuOf(korvale, {"View"}),
-            (Lines{"Menu (M)", "Target Window (T)", "-", "Customize Colors - C (C)",
-                   "Default Settings (D)", "-", "Options... (p)"}));
+            (Lines{"Menu (M), checked", "Target Window (T), checked", "-",
+                   "Customize Colors - C (C)", "Default Settings (D)", "-", "Options... (p)"}));
   EXPECT_EQ(MenuOf(korvale, {"View", "Default Settings"}), Lines{"Target Window/Class Colors (T)"});
 }
 
@@ -49,10 +52,26 @@ TEST_F(MainWindowMenusTest, TheToolsMenuStandsInItsOrder) {
   EXPECT_EQ(MenuOf(korvale, {"Tools"}), (Lines{"Activate Hot Keys (H)", "Options... (O)"}));
 }
 
+TEST_F(MainWindowMenusTest, TheWindowMenuSaysWhatIsOnAndWhatCannotBeChosen) {
+  KorvaleCopy& korvale = StartedCopy();
+  EXPECT_EQ(
+      MenuOf(korvale, {"Window"}),
+      (Lines{"Korvale  Always On Top (O)", "[]  Always On Top (T), unavailable", "-",
+             "Minimize All (M)", "Restore All (R)", "-", "0  Previous Window (0), unavailable", "-",
+             "Add  Korvale  to Window menu... (u)",
+             "Add  []  to Window menu... (W), unavailable"}));
+  WorkIn(Open("Alpha"));
+  Choose(korvale, {"Window", "[Alpha]  Always On Top"});
+  EXPECT_EQ(MenuOf(korvale, {"Window"}),
+            (Lines{"Korvale  Always On Top (O)", "[Alpha]  Always On Top (T), checked", "-",
+                   "Minimize All (M)", "Restore All (R)", "-", "0  Previous Window (0)", "-",
+                   "Add  Korvale  to Window menu... (u)", "Add  [Alpha]  to Window menu... (W)"}));
+}
+
 TEST_F(MainWindowMenusTest, TheHelpMenuStandsInItsOrder) {
   EXPECT_EQ(MenuOf(StartedCopy(), {"Help"}),
-            (Lines{"Display Tip Messages (D)", "-", "web:  Help (H)", "web:  Korvale Home Page (P)",
-                   "web:  Readme (R)", "-", "About Korvale (A)"}));
+            (Lines{"Display Tip Messages (D), checked", "-", "web:  Help (H)",
+                   "web:  Korvale Home Page (P)", "web:  Readme (R)", "-", "About Korvale (A)"}));
 }
 
 }  // namespace
