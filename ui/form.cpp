@@ -34,22 +34,21 @@ std::vector<ControlRow> InWindowOrder(std::span<const ControlRow> table) {
 }
 
 ControlState StateFromRow(const ControlRow& row, int id, int container) {
-  ControlState state;
-  state.id = id;
-  state.kind = row.kind;
-  state.name = row.name;
-  state.index = row.index;
-  state.text = row.caption;
-  state.toolTip = row.toolTip;
-  state.place = row.place;
-  state.container = container;
-  state.flags = row.flags;
-  state.visible = (row.flags & kHidden) == 0;
-  state.enabled = (row.flags & kDisabled) == 0;
-  state.backColor = row.backColor;
-  state.foreColor = row.foreColor;
-  state.border = (row.flags & kSingleBorder) != 0;
-  return state;
+  return {.id = id,
+          .kind = row.kind,
+          .name = row.name,
+          .index = row.index,
+          .text = row.caption,
+          .toolTip = row.toolTip,
+          .place = row.place,
+          .container = container,
+          .flags = row.flags,
+          .visible = (row.flags & kHidden) == 0,
+          .enabled = (row.flags & kDisabled) == 0,
+          .backColor = row.backColor,
+          .foreColor = row.foreColor,
+          .border = (row.flags & kSingleBorder) != 0,
+          .items = {}};
 }
 
 }  // namespace

@@ -77,6 +77,14 @@ TEST_F(HotKeyPress, APressFromBeforeANewRegistrationTriggersNothing) {
   EXPECT_TRUE(log.CallsOf("uncaught").empty());
 }
 
+TEST_F(HotKeyPress, APressWhileTheHotKeysAreGivenUpTriggersNothing) {
+  log.WhenCalled("UnregisterHotKey(main, 1)",
+                 [this] { EXPECT_TRUE(hotKeys.PressWhileBusy(win32::kModAlt, '3')); });
+  options.Get().booHotKeyParent[0] = false;
+  table.SetHotKeys("REMOVE");
+  EXPECT_EQ(hotKeys.PeekMessageW(kMain, win32::kWmHotKey), std::nullopt);
+}
+
 TEST_F(HotKeyPress, APressWhoseIdentifierWasHandedOutAnewTriggersNothing) {
   const std::intptr_t altAnd0 = AltAndDigit(0);
   options.Get().booHotKeyParent[0] = false;

@@ -59,6 +59,20 @@ TEST_F(ControlTest, EachChangeIsShown) {
 TEST_F(ControlTest, AnyValueButZeroIsChosen) {
   form_.Find("chkDaily").SetValue(-1);
   EXPECT_EQ(form_.Find("chkDaily").Value(), 1);
+  form_.Take();
+  form_.Find("chkDaily").SetValue(2);
+  EXPECT_EQ(form_.Take(), Lines{});
+}
+
+TEST_F(ControlTest, AValueIsShownBeforeItsClickIsRaised) {
+  Lines shown;
+  form_.onClick = [&](const std::string&) { shown = log_.Calls(); };
+  form_.Find("chkDaily").SetValue(1);
+  EXPECT_EQ(shown, Lines{"UpdateControl(frmContract, chkDaily, kValue)"});
+  list_.AddItem("one");
+  log_.Clear();
+  list_.SetListIndex(0);
+  EXPECT_EQ(shown, Lines{"UpdateControl(frmContract, cboSize, kListIndex)"});
 }
 
 TEST_F(ControlTest, ValuesSetByCodeRaiseClick) {
@@ -149,6 +163,7 @@ TEST_F(ControlTest, TypingIntoAComboBoxUnselectsItsEntry) {
   combo.SetListIndex(0);
   form_.Show();
   combo.SetFocus();
+  form_.onClick = [&](const std::string&) { EXPECT_EQ(combo.ListIndex(), -1); };
   user_.TypeText(form_.Handle(), "x");
   EXPECT_EQ(combo.ListIndex(), -1);
   EXPECT_EQ(combo.Text(), "xHere");
@@ -178,6 +193,17 @@ TEST_F(ControlTest, SettingTheIntervalStartsARunningTimerAnew) {
   timer.SetInterval(100);
   clock_.Advance(90);
   EXPECT_EQ(form_.Take(), Lines{});
+  clock_.Advance(10);
+  EXPECT_EQ(form_.Take(), Lines{"click tmrTick"});
+}
+
+TEST_F(ControlTest, ATickOfAnotherProgramDoesNotDelayTheNextOne) {
+  Control& timer = form_.Find("tmrTick");
+  timer.SetInterval(100);
+  timer.SetEnabled(true);
+  clock_.Advance(90);
+  form_.OnTimer(timer.Id());
+  form_.Take();
   clock_.Advance(10);
   EXPECT_EQ(form_.Take(), Lines{"click tmrTick"});
 }

@@ -33,6 +33,9 @@ TEST_F(FirstControlTest, AButtonIsTheDefaultWhileItHasTheFocus) {
   EXPECT_EQ(form.Take(), Lines{"click cmdA"});
   Click(form, "cmdA");
   EXPECT_EQ(form.Take(), Lines{"click cmdA"});
+  RecordingForm beside(With(kControls), forms_);
+  beside.ShowInactive();
+  EXPECT_TRUE(IsDrawnAsDefault(beside, "cmdA"));
 }
 
 TEST_F(FirstControlTest, AccessKeysReachBothControlsFromEither) {
@@ -42,6 +45,7 @@ TEST_F(FirstControlTest, AccessKeysReachBothControlsFromEither) {
   };
   RecordingForm form(With(kControls), forms_);
   form.Show();
+  form.onClick = [&](const std::string& name) { EXPECT_EQ(Focus(form), name); };
   for (const char key : {'A', 'A', 'B', 'B', 'A'}) Press(form, key, kAlt);
   EXPECT_EQ(form.Take(),
             (Lines{"click cmdA", "click cmdA", "click cmdB", "click cmdB", "click cmdA"}));
@@ -91,8 +95,17 @@ TEST_F(FirstControlTest, ATextTakesLettersAndGivesTheFocusOnWhenItGoes) {
   user_.TypeText(form.Handle(), "b");
   EXPECT_EQ(form.Take(), Lines{"click txtA"});
   EXPECT_EQ(form.Find("txtA").Text(), "b");
+  log_.IncludeReads(true);
+  log_.Clear();
   form.Find("txtA").SetVisible(false);
-  EXPECT_EQ(Focus(form), "cmdB");
+  form.Find("cmdB").SetEnabled(false);
+  EXPECT_EQ(Focus(form), "cmdC");
+  EXPECT_EQ(
+      log_.Calls(),
+      (Lines{"UpdateControl(frmFirst, cmdB, kDefault)", "SetFocus(frmFirst, cmdB)",
+             "UpdateControl(frmFirst, txtA, kVisible)", "UpdateControl(frmFirst, cmdB, kDefault)",
+             "UpdateControl(frmFirst, cmdC, kDefault)", "SetFocus(frmFirst, cmdC)",
+             "UpdateControl(frmFirst, cmdB, kEnabled)"}));
 }
 
 }  // namespace

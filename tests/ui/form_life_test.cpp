@@ -34,6 +34,7 @@ TEST_F(FormLifeTest, AFormThatUnloadsItselfWhileLoadingIsNotShown) {
   form_.Show();
   EXPECT_FALSE(form_.IsLoaded());
   form_.ShowModal();
+  EXPECT_EQ(form_.resizes, 0);
   EXPECT_EQ(log_.CallsOf("ShowWindow"), Lines{});
 }
 
@@ -46,6 +47,13 @@ TEST_F(FormLifeTest, AFormThatUnloadsItselfInItsFirstResizeIsNotShown) {
   Shy shy(Bare("frmShy"), forms_);
   shy.Show();
   EXPECT_EQ(log_.CallsOf("ShowWindow"), Lines{});
+}
+
+TEST_F(FormLifeTest, AFormIsLaidOutBeforeItIsSeen) {
+  bool seen = true;
+  form_.onResize = [&] { seen = form_.Visible(); };
+  form_.Show();
+  EXPECT_FALSE(seen);
 }
 
 TEST_F(FormLifeTest, LoadingAgainStartsFromTheDesign) {
@@ -99,6 +107,7 @@ TEST_F(FormLifeTest, ARefusalKeepsTheForm) {
   EXPECT_FALSE(form_.Unload(CloseReason::kSession));
   EXPECT_EQ(form_.closeReasons, std::vector<CloseReason>{CloseReason::kSession});
   EXPECT_TRUE(form_.IsLoaded());
+  EXPECT_EQ(form_.Take(), Lines{});
   form_.refusesToClose = false;
   EXPECT_TRUE(form_.Unload());
 }
@@ -115,6 +124,7 @@ TEST_F(FormLifeTest, ACloseHandlerMayUnloadTheFormOnceMore) {
     }
     void Form_Unload() override {
       ++unloaded;
+      EXPECT_TRUE(IsLoaded());
       Unload();
     }
   };
@@ -177,16 +187,22 @@ TEST_F(FormLifeTest, WhatIsSetBeforeLoadingDoesNotReachTheHost) {
   form_.SetMenuShown(false);
   form_.Find("chkDaily").SetText("early");
   form_.Find("tmrTick").SetInterval(100);
+  form_.Find("tmrTick").SetEnabled(true);
   EXPECT_EQ(log_.Calls(), Lines{});
+  EXPECT_FALSE(clock_.AnyTimerOf(0));
 }
 
 TEST_F(FormLifeTest, WhatIsSetBeforeTheFirstLoadingHolds) {
   form_.SetCaption("early");
   form_.SetEnabled(false);
+  form_.SetPlace({300, 450, 6090, 5500});
+  form_.SetMenuShown(false);
   form_.Find("tmrTick").SetInterval(100);
   form_.Find("tmrTick").SetEnabled(true);
   form_.Load();
   EXPECT_EQ(user_.Title(form_.Handle()), "early");
+  EXPECT_EQ(user_.Place(form_.Handle()).left, 300);
+  EXPECT_FALSE(form_.State().ShowsMenuBar());
   EXPECT_FALSE(user_.IsEnabled(form_.Handle()));
   EXPECT_TRUE(clock_.AnyTimerOf(form_.Handle()));
 }
@@ -204,6 +220,19 @@ TEST_F(FormLifeTest, WindowsStandInTheOrderThatTheDesignTells) {
   EXPECT_EQ(Id(sorted, "txtInside"), 2);
   EXPECT_EQ(Id(sorted, "txtLast"), 3);
   EXPECT_EQ(sorted.Find("txtInside").State().container, 1);
+}
+
+TEST_F(FormLifeTest, AWindowOfWhichTheDesignTellsNoPlaceStandsWhereItsRowDoes) {
+  static constexpr std::array kControls = {
+      MakeRow(ControlKind::kTextBox, "txtA", -1, "", "", {}),
+      ControlRow{ControlKind::kTextBox, "txtB", -1, "", "", {}, "", -1, kNoFlags, 0, 0, 1},
+      MakeRow(ControlKind::kTextBox, "txtC", -1, "", "", {}),
+  };
+  FormDesign design = Bare("frmMixed");
+  design.controls = kControls;
+  RecordingForm mixed(design, forms_);
+  EXPECT_EQ(Id(mixed, "txtB"), 2);
+  EXPECT_EQ(Id(mixed, "txtC"), 3);
 }
 
 TEST_F(FormLifeTest, EventsThatArriveAfterTheEndAreDropped) {

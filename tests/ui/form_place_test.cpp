@@ -43,7 +43,9 @@ TEST_F(FormPlaceTest, HidingTheMenuTakesItsHeightFromAFormThatGrewWithIt) {
 
 TEST_F(FormPlaceTest, AResizeIsRaisedWhenFirstShownAndWhenTheSizeChanges) {
   form_.Load();
+  form_.OnPlaced(ShowState::kNormal, {0, 0, 4500, 3000});
   EXPECT_EQ(form_.resizes, 0);
+  EXPECT_EQ(form_.State().place, (TwipsRect{0, 0, 4500, 3000}));
   form_.Show();
   EXPECT_EQ(form_.resizes, 1);
   form_.Show();
@@ -143,6 +145,7 @@ TEST_F(FormPlaceTest, AFormThatInsistsOnARefusedPlaceAsksForItTwice) {
   form.onResize = [&] { form.SetPlace({0, 0, 2000, 1500}); };
   form.Show();
   EXPECT_EQ(user_.Place(form.Handle()), (TwipsRect{0, 0, 3000, 1500}));
+  for (int told = 0; told < 3; ++told) form.OnPlaced(ShowState::kNormal, {0, 0, 3000, 1500});
   EXPECT_EQ(std::ranges::count(log_.Calls(), "MoveWindow(frmStrip)"), 2);
 }
 

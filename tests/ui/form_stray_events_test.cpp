@@ -63,6 +63,19 @@ TEST_F(FormStrayEventsTest, TextThatIsThereAlreadyWasNotTyped) {
   EXPECT_EQ(form_.Take(), Lines{});
 }
 
+TEST_F(FormStrayEventsTest, BelowABoxItIsNotShownAgain) {
+  form_.Show();
+  form_.Find("txtName").SetText("name");
+  log_.IncludeReads(true);
+  host_.WhenMessageBox([&](const ShownMessage&) {
+    log_.Clear();
+    form_.OnTextTyped(Id(form_, "txtName"), "name");
+    EXPECT_EQ(log_.CallsOf("UpdateControl"), Lines{}) << "which Windows would tell without end";
+    return win32::kIdOk;
+  });
+  host_.MessageBoxW(form_.Handle(), "text", "title", win32::kMbOk);
+}
+
 TEST_F(FormStrayEventsTest, APressBesideTheControlsMeansNothing) {
   form_.Show();
   form_.logsMouse = true;

@@ -42,6 +42,30 @@ TEST_F(FormTextSizeTest, ADialogGrowsOnlyAsFarAsTheScreenHasRoom) {
   EXPECT_GT(OnScreen(dialog_).height, 1900);
 }
 
+TEST_F(FormTextSizeTest, ADialogThatTheScreenHasNoRoomForOpensAsItStays) {
+  host_.SetWorkArea({0, 0, 4500, 11100});
+  host_.ChangeTextSize(225);
+  const auto width = [&] { return OnScreen(dialog_).width; };
+  for (int opening = 1; opening <= 2; ++opening) {
+    dialog_.Show();
+    const Twips opened = width();
+    host_.ChangeTextSize(225);
+    EXPECT_EQ(width(), opened) << opening;
+    dialog_.SetPlace({0, 0, 3300, 1500});
+    const Twips sized = width();
+    host_.ChangeTextSize(225);
+    EXPECT_EQ(width(), sized) << opening;
+    dialog_.Unload();
+  }
+}
+
+TEST_F(FormTextSizeTest, ADialogThatNobodySeesGrows) {
+  dialog_.Load();
+  host_.ChangeTextSize(200);
+  dialog_.Show();
+  EXPECT_EQ(OnScreen(dialog_), (TwipsRect{2100, 2100, 2 * 2910 + 90, 2 * 1100 + 400}));
+}
+
 TEST_F(FormTextSizeTest, AnOpenDialogThatGrowsStaysWithinTheWorkArea) {
   dialog_.Show();
   user_.Drag(dialog_.Handle(), {11900, 9000, 3000, 1500});

@@ -136,9 +136,22 @@ TEST(MenuItemArrayOrderTest, IndexesAscendWhateverTheDesign) {
   EXPECT_EQ(MenuItemArray(*bar.Find("mnuMenu"), "mnuList").Indexes(), (std::vector<int>{0, 3}));
 }
 
+TEST(MenuItemArrayOrderTest, ElementsOfAnotherArrayAreNoNeighbours) {
+  static constexpr std::array kTwoArrays = {
+      MenuRow{0, "mnuMenu", -1, "Menu"},
+      MenuRow{1, "mnuOther", 5, "5"},
+      MenuRow{1, "mnuList", 0, "0"},
+  };
+  MenuBar bar(kTwoArrays);
+  MenuItem& menu = *bar.Find("mnuMenu");
+  MenuItemArray(menu, "mnuList").Load(1);
+  EXPECT_EQ(NamesOf(menu), (std::vector<std::string>{"mnuOther5", "mnuList0", "mnuList1"}));
+}
+
 TEST_F(MenuItemArrayTest, AnArrayWithoutElementsGrowsAtTheEndOfItsMenu) {
   const MenuItemArray other(window_, "mnuOther");
   EXPECT_TRUE(other.Indexes().empty());
+  EXPECT_EQ(ErrorOf([&] { other.Unload(0); }), 340);
   other.Load(1);
   EXPECT_EQ(NamesOf(window_).back(), "mnuOther1");
 }

@@ -59,5 +59,13 @@ TEST_F(OptionGroupTest, ArrowsStayInTheirGroup) {
   EXPECT_EQ(groups_.Find("optB", 0).Value(), 1);
 }
 
+TEST_F(OptionGroupTest, TheFocusIsThereWhenItsClickIsRaised) {
+  groups_.Find("optA", 1).SetFocus();
+  int focus = 0;
+  groups_.onClick = [&](const std::string&) { focus = FocusId(); };
+  Press(groups_, win32::kVkDown);
+  EXPECT_EQ(focus, Id(groups_, "optA", 0));
+}
+
 }  // namespace
 }  // namespace korvale

@@ -66,6 +66,7 @@ TEST(FlagStringTest, CountsPositionsInCharacters) {
 TEST(FlagStringTest, AnyOtherModeDoesNothing) {
   std::string flags = "1";
   EXPECT_FALSE(FlagString(flags, 3, "get", true, true));
+  EXPECT_FALSE(FlagString(flags, 0, "get", true, true));
   EXPECT_EQ(flags, "1");
 }
 

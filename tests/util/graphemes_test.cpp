@@ -41,6 +41,7 @@ constexpr Script kScripts[] = {
     {"Hebrew", "ש\u05b8\u05c1|ל|ו\u05b9|ם"},
     {"Arabic", "م\u064f|ح|م\u064e\u0651|د|ل|ا"},
     {"ArabicNumberSign", "\u0600\u0661|\u0662"},
+    {"ArabicNumberSignBeforeAnEmoji", "\u0600😀|\u0662"},
     {"Devanagari", "न|म|स्ते| |क्षि|ति| |हि|न्दी"},
     {"DevanagariThreeConsonants", "स्त्री"},
     {"DevanagariJoined", "क्\u200dष|क्\u200c|ष"},
