@@ -9,12 +9,10 @@
 
 namespace korvale {
 
-/// What a colour stands for on this screen now (GetSysColor for system colours).
-COLORREF ToColorRef(Color color);
-
 /// One brush for each colour in use.
 class BrushCache {
  public:
+  /// Good until Clear.
   HBRUSH Get(Color color);
   /// Colours have changed.
   void Clear() { brushes_.clear(); }

@@ -113,8 +113,10 @@ void ShowBorder(HWND window, const ControlState& control) {
 }
 
 void ShowDefault(HWND window, const ControlState& control) {
+  // The lower half of a style belongs to the window's class.
+  constexpr LONG_PTR kButtonStyles = 0xFFFF;
   const bool wanted = (control.flags & kDefaultButton) != 0;
-  const LONG_PTR others = GetWindowLongPtrW(window, GWL_STYLE) & 0xFFFF & ~BS_TYPEMASK;
+  const LONG_PTR others = GetWindowLongPtrW(window, GWL_STYLE) & kButtonStyles & ~BS_TYPEMASK;
   const LONG_PTR type = wanted ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
   SendMessageW(window, BM_SETSTYLE, static_cast<WPARAM>(others | type), TRUE);
 }

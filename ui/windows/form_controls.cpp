@@ -1,14 +1,18 @@
 #include "ui/windows/form_controls.h"
 
 #include <algorithm>
+#include <utility>
 
-#include "platform/windows/text.h"
 #include "ui/windows/control_content.h"
 #include "ui/windows/control_window.h"
+#include "ui/windows/units.h"
 #include "ui/windows/window_classes.h"
 
 namespace korvale {
 namespace {
+
+/// An etched line is a dark and a light row of pixels, whatever the design gives it.
+constexpr int kEtchedLine = 2;
 
 int HeightOf(HWND window) {
   RECT area{};
@@ -19,7 +23,7 @@ int HeightOf(HWND window) {
 /// Gives a combo box its height, that of its text field and borders; the window is placed as high
 /// as with its open list.
 void PlaceCombo(HWND window, const PixelPlace& place) {
-  int borders = 6;
+  int borders = 6;  // A first guess.
   const auto makeField = [&] {
     SendMessageW(window, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), place.height - borders);
   };
@@ -170,10 +174,9 @@ void FormControls::ApplyPlace(const ControlState& control) {
   if (IsComboKind(control.kind)) {
     PlaceCombo(Window(control.id), place);
   } else {
-    // The design gives a line no height.
     if (control.kind == ControlKind::kLine) {
-      place.width = std::max(place.width, 2);
-      place.height = std::max(place.height, 2);
+      place.width = std::max(place.width, kEtchedLine);
+      place.height = std::max(place.height, kEtchedLine);
     }
     MoveWindow(Window(control.id), place.left, place.top, place.width, place.height, TRUE);
   }
@@ -187,7 +190,7 @@ void FormControls::ApplyVisible(const ControlState& control) {
 }
 
 void FormControls::ApplyTip(const ControlState& control) {
-  toolTips_.Show(Window(control.id), control.toolTip, form_->IsVisible(control));
+  toolTips_.Set(Window(control.id), control.toolTip, form_->IsVisible(control));
 }
 
 void FormControls::Relay(const MSG& message) {

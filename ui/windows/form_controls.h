@@ -9,7 +9,6 @@
 #include "platform/windows/handles.h"
 #include "ui/windows/form_scale.h"
 #include "ui/windows/tool_tips.h"
-#include "ui/windows/units.h"
 
 namespace korvale {
 

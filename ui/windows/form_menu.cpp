@@ -9,6 +9,7 @@
 namespace korvale {
 namespace {
 
+// Between the numbers of controls and the commands of the window menu (SC_SIZE and so on).
 constexpr UINT kFirstCommand = 0x1000;
 constexpr UINT kLastCommand = 0xDFFF;
 

@@ -15,16 +15,16 @@ HMONITOR MonitorOf(HWND window) {
                            : MonitorFromPoint({}, MONITOR_DEFAULTTOPRIMARY);
 }
 
+int TextHeight(const LOGFONTW& font) { return static_cast<int>(std::abs(font.lfHeight)); }
+
+}  // namespace
+
 RECT WorkAreaOf(HMONITOR monitor) {
   MONITORINFO info{};
   info.cbSize = sizeof(info);
   GetMonitorInfoW(monitor, &info);
   return info.rcWork;
 }
-
-int TextHeight(const LOGFONTW& font) { return static_cast<int>(std::abs(font.lfHeight)); }
-
-}  // namespace
 
 DWORD FormStyle(const FormState& form) {
   if (form.border == BorderStyle::kNone) return WS_POPUP;

@@ -42,12 +42,18 @@ class FormScale {
   UINT dpi_ = USER_DEFAULT_SCREEN_DPI;
 };
 
+/// The work area of a monitor in pixels (GetMonitorInfoW).
+RECT WorkAreaOf(HMONITOR monitor);
+
+/// The form that has a place in the taskbar is the main one; its window owns all others.
+inline bool IsMainForm(const FormState& form) { return form.inTaskbar; }
+
 /// The style bits and extended style bits of the form's window.
 DWORD FormStyle(const FormState& form);
 DWORD FormExStyle(const FormState& form);
 
 /// What the frame of a form, and one row of its menu bar, add to each side of its client area, in
-/// pixels (AdjustWindowRectExForDpi).
+/// pixels, negative to the left and above (AdjustWindowRectExForDpi).
 RECT FormFrame(const FormState& form, UINT dpi);
 
 }  // namespace korvale

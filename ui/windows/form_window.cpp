@@ -5,8 +5,8 @@
 
 #include "platform/windows/text.h"
 #include "ui/spoken_name.h"
-#include "ui/windows/control_window.h"
 #include "ui/windows/message_guard.h"
+#include "ui/windows/units.h"
 
 namespace korvale {
 
@@ -86,10 +86,10 @@ void FormWindow::Watch(HWND control, int id) {
 }
 
 void FormWindow::ForgetRoles() {
-  if (form_->role != FormRole::kWindow) reader_->ForgetRole(hwnd_);
+  if (form_->role != FormRole::kWindow) reader_->Forget(hwnd_);
   for (const ControlState& control : form_->controls) {
     const HWND page = control.kind == ControlKind::kPage ? controls_.Window(control.id) : nullptr;
-    if (page != nullptr) reader_->ForgetRole(page);
+    if (page != nullptr) reader_->Forget(page);
   }
 }
 
@@ -216,7 +216,7 @@ std::optional<LRESULT> FormWindow::HandleEnd(UINT message, WPARAM wParam) {
       return 0;
     case WM_ENDSESSION:
       // All our windows are told of the same end; the main form answers for them.
-      if (wParam != FALSE && form_->inTaskbar) RequestClose(CloseReason::kSession);
+      if (wParam != FALSE && IsMainForm(*form_)) RequestClose(CloseReason::kSession);
       return 0;
     case WM_DESTROY:
       events_.Disconnect();

@@ -39,6 +39,7 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   FormControls& Controls() { return controls_; }
   const FormScale& Scale() const { return scale_; }
 
+  // Show what has changed in the model.
   void ShowCaption();
   void ShowPlace();
   void ShowMenuBar();
@@ -101,6 +102,7 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   void OnDpiChanged(UINT dpi, LPARAM wanted);
   void OnMetricsChanged();
   void OnColorsChanged();
+  /// Lets the form see the messages of a control, or of the text field in it, first.
   void Watch(HWND control, int id);
   void ForgetRoles();
 
@@ -116,7 +118,7 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   FormMenu menu_;
   std::optional<KeyFilter> keys_;
   HWND hwnd_ = nullptr;
-  TwipsSize restored_;        // The size that it is restored to.
+  TwipsSize restored_;        // The size that it is restored to, in twips.
   POINT lastMouse_{};         // The last reported place of the mouse, on the screen.
   bool placing_ = false;      // The window is being placed by the model.
   bool watched_ = false;      // The window and its controls are complete.

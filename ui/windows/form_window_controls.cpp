@@ -8,6 +8,7 @@
 #include "ui/windows/form_window.h"
 #include "ui/windows/message_guard.h"
 #include "ui/windows/tab_question.h"
+#include "ui/windows/units.h"
 
 namespace korvale {
 namespace {

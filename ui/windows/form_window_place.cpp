@@ -1,7 +1,6 @@
 #include <algorithm>
 
 #include "ui/windows/form_window.h"
-#include "ui/windows/message_guard.h"
 #include "ui/windows/units.h"
 
 namespace korvale {

@@ -7,7 +7,7 @@
 
 namespace korvale {
 
-/// Shift, Ctrl and Alt as they are held now.
+/// Shift, Ctrl, Alt and the Windows keys as they are held now.
 unsigned HeldShiftState();
 
 /// Shows a form the keys and characters of its windows before they see them.

@@ -27,7 +27,7 @@ std::shared_ptr<FormWindow> OpenForms::Around(HWND window) const {
 
 std::shared_ptr<FormWindow> OpenForms::Main() const {
   const auto found = std::ranges::find_if(
-      forms_, [](const auto& entry) { return entry.second->Model().inTaskbar; });
+      forms_, [](const auto& entry) { return IsMainForm(entry.second->Model()); });
   return found == forms_.end() ? nullptr : found->second;
 }
 

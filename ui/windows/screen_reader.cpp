@@ -40,7 +40,7 @@ void ScreenReader::TellName(HWND window, const std::string& name) {
                                  ToUtf16(name).c_str());
 }
 
-void ScreenReader::ForgetRole(HWND window) {
+void ScreenReader::Forget(HWND window) {
   const auto services = Services();
   if (!services) return;
   const std::array given = {PROPID_ACC_ROLE, PROPID_ACC_NAME};

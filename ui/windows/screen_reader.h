@@ -23,7 +23,7 @@ class ScreenReader {
   /// Gives it the name that screen readers say (IAccPropServices::SetHwndPropStr).
   void TellName(HWND window, const std::string& name);
   /// Must be called before a window that has a role or name is destroyed.
-  void ForgetRole(HWND window);
+  void Forget(HWND window);
 
  private:
   void SetRole(HWND window, LONG role);

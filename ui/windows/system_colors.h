@@ -4,7 +4,12 @@
 
 #include <array>
 
+#include "platform/types.h"
+
 namespace korvale {
+
+/// What a colour stands for on this screen now (GetSysColor for system colours).
+COLORREF ToColorRef(Color color);
 
 /// The user wants high contrast (SystemParametersInfoW with SPI_GETHIGHCONTRAST).
 bool IsHighContrastOn();

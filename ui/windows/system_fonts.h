@@ -4,8 +4,6 @@
 
 #include <string>
 
-#include "platform/windows/handles.h"
-
 namespace korvale {
 
 /// The sizes and fonts that the user has chosen for all windows, at these dots per inch

@@ -66,7 +66,7 @@ void ToolTips::Send(UINT message, WPARAM wParam, LPARAM lParam) {
   ours_ = outer;
 }
 
-void ToolTips::Show(HWND control, const std::string& text, bool shown) {
+void ToolTips::Set(HWND control, const std::string& text, bool shown) {
   if (!Created()) return;
   const HWND parent = GetParent(control);
   const HWND field = TextField(control);

@@ -27,7 +27,7 @@ class ToolTips {
   void Drop();
 
   /// Sets the tip of a control, "" = none. `shown` = the control is visible.
-  void Show(HWND control, const std::string& text, bool shown);
+  void Set(HWND control, const std::string& text, bool shown);
   /// Lets the tips follow the mouse; called with each mouse message of the form before it is
   /// dispatched.
   void Relay(const MSG& message);

@@ -11,6 +11,7 @@ inline int ToPixels(Twips twips, UINT dpi) {
   return MulDiv(twips, static_cast<int>(dpi), kTwipsPerInch);
 }
 
+/// The reverse, rounded, too.
 inline Twips ToTwips(int pixels, UINT dpi) {
   return MulDiv(pixels, kTwipsPerInch, static_cast<int>(dpi));
 }
@@ -39,6 +40,7 @@ inline PixelPlace ToScreenPixels(const TwipsRect& place, UINT dpi) {
           ToPixels(place.height, dpi)};
 }
 
+/// The reverse.
 inline TwipsRect ToScreenTwips(const RECT& rect, UINT dpi) {
   const UINT system = GetDpiForSystem();
   return {ToTwips(rect.left, system), ToTwips(rect.top, system),

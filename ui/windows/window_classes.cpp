@@ -13,8 +13,8 @@ UniqueIcon LoadProgramIcon(HINSTANCE instance, int size) {
 }
 
 HCURSOR LoadPointer(HINSTANCE instance, MousePointer pointer) {
-  constexpr WORD kArrow = 32512;
-  constexpr WORD kWait = 32514;
+  constexpr WORD kArrow = 32512;  // IDC_ARROW
+  constexpr WORD kWait = 32514;   // IDC_WAIT
   switch (pointer) {
     case MousePointer::kHourglass:
       return LoadCursorW(nullptr, MAKEINTRESOURCEW(kWait));

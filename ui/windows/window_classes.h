@@ -15,14 +15,13 @@ namespace korvale {
 /// The names of our window classes begin so.
 inline constexpr std::wstring_view kClassPrefix = L"Korvale.";
 
-/// Number of the program's icon among its resources.
+// The numbers of the program's icon and of its own mouse pointer among its resources, which
+// resources/korvale.rc.in gives them.
 inline constexpr WORD kIconResource = 1;
+inline constexpr WORD kPointerResource = 2;
 
 /// Loads the program's icon at a size in pixels; empty when the executable has none.
 UniqueIcon LoadProgramIcon(HINSTANCE instance, int size);
-
-/// Number of the program's own mouse pointer among its resources.
-inline constexpr WORD kPointerResource = 2;
 
 /// The cursor for this pointer, shared by all; null when the executable has none of its own.
 HCURSOR LoadPointer(HINSTANCE instance, MousePointer pointer);
@@ -39,7 +38,8 @@ class WindowClasses {
   /// The program's icon at a size in pixels, shared by all windows; null when it cannot be loaded
   /// now.
   HICON Icon(int size);
-  /// Class kClassPrefix + `name`, with this procedure.
+  /// Registers the class kClassPrefix + `name` with this procedure unless it is registered, and
+  /// returns its name.
   std::wstring Register(std::string_view name, WNDPROC procedure);
 
  private:

@@ -7,6 +7,7 @@
 #include "ui/windows/control_content.h"
 #include "ui/windows/form_window.h"
 #include "ui/windows/message_guard.h"
+#include "ui/windows/units.h"
 
 namespace korvale {
 namespace {
@@ -47,7 +48,7 @@ WindowsFormHost::~WindowsFormHost() {
 }
 
 HWND WindowsFormHost::OwnerOf(const FormState& form) const {
-  const std::shared_ptr<FormWindow> main = form.inTaskbar ? nullptr : forms_->Main();
+  const std::shared_ptr<FormWindow> main = IsMainForm(form) ? nullptr : forms_->Main();
   return main == nullptr ? owner_.Get() : main->Handle();
 }
 

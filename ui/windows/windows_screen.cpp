@@ -4,7 +4,7 @@
 
 #include "platform/windows/handles.h"
 #include "platform/windows/text.h"
-#include "ui/windows/brush_cache.h"
+#include "ui/windows/form_scale.h"
 #include "ui/windows/form_window.h"
 #include "ui/windows/system_colors.h"
 #include "ui/windows/system_fonts.h"
@@ -13,23 +13,20 @@
 namespace korvale {
 namespace {
 
-TwipsRect WorkAreaOf(HMONITOR monitor) {
-  MONITORINFO info{};
-  info.cbSize = sizeof(info);
-  ::GetMonitorInfoW(monitor, &info);
-  return ToScreenTwips(info.rcWork, GetDpiForSystem());
+TwipsRect WorkAreaInTwips(HMONITOR monitor) {
+  return ToScreenTwips(WorkAreaOf(monitor), GetDpiForSystem());
 }
 
 }  // namespace
 
 TwipsRect WindowsScreen::GetMonitorInfoW(WindowHandle hwnd) {
-  return WorkAreaOf(MonitorFromWindow(ToHwnd(hwnd), MONITOR_DEFAULTTONEAREST));
+  return WorkAreaInTwips(MonitorFromWindow(ToHwnd(hwnd), MONITOR_DEFAULTTONEAREST));
 }
 
 TwipsRect WindowsScreen::MonitorFromPoint() {
   POINT mouse{};
   GetCursorPos(&mouse);
-  return WorkAreaOf(::MonitorFromPoint(mouse, MONITOR_DEFAULTTONEAREST));
+  return WorkAreaInTwips(::MonitorFromPoint(mouse, MONITOR_DEFAULTTONEAREST));
 }
 
 TwipsRect WindowsScreen::GetWindowRect(WindowHandle hwnd) {

@@ -25,7 +25,7 @@ class WindowsSystemDialogs : public SystemDialogs {
  private:
   const OpenForms* forms_;
   SystemLibrary dialogs_{L"comdlg32.dll"};
-  /// The colours that the user mixed in the colour dialog.
+  /// The colours that the user mixed in the colour dialog, which has room for so many.
   std::array<COLORREF, 16> customColors_ = {};
 };
 
