@@ -154,19 +154,16 @@ TEST(Harness, KeepsThePointerWhereItWasPut) {
 }
 
 TEST(Harness, ReadsAndAnswersAMessageBoxOfAnotherProgram) {
-  RealProgram notepad = StartNotepad();
-  ASSERT_TRUE(BringToFront(notepad.window()));
-  Type("unsaved");
-  const std::vector<Window> edits = notepad.window().Controls("Edit");
-  ASSERT_FALSE(edits.empty());
-  ASSERT_TRUE(WaitFor([&] { return edits.front().Text() == "unsaved"; }));
-  Press({MOD_ALT, VK_F4});
-  const Window box = WaitForTopLevel(
-      [](Window window) { return window.Visible() && window.ClassName() == "#32770"; });
-  ASSERT_TRUE(box);
-  EXPECT_NE(LabelText(box), "");
-  EXPECT_TRUE(AnswerBox(box, IDCANCEL));
-  EXPECT_TRUE(notepad.window().Exists());
+  TestProgram program;
+  const Window window = program.Open("Asking");
+  for (const int button : {IDCANCEL, IDOK}) {
+    const Window box = program.ShowMessage("Go on?");
+    ASSERT_TRUE(box);
+    EXPECT_EQ(LabelText(box), "Go on?");
+    EXPECT_TRUE(AnswerBox(box, button));
+    EXPECT_TRUE(WaitFor([&] { return !box.Exists(); }));
+  }
+  EXPECT_TRUE(window.Responds());
 }
 
 TEST(Harness, ReadsBackStoredSettings) {

@@ -40,6 +40,14 @@ bool TestProgram::TakeHotKey(Chord chord) {
   return process_.Ask(Request({"hotkey", Number(chord.modifiers), Number(chord.key)})) == "1";
 }
 
+Window TestProgram::ShowMessage(const std::string& text) {
+  process_.Ask(Request({"message", text}));
+  return WaitForTopLevel([this](Window window) {
+    return window.ProcessId() == process_.id() && window.ClassName() == "#32770" &&
+           window.Visible();
+  });
+}
+
 void TestProgram::Hang() { process_.Ask("hang"); }
 
 void TestProgram::Recover() { process_.Ask("recover"); }

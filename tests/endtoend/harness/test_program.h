@@ -33,6 +33,9 @@ class TestProgram {
   /// Takes a hot key for this program; false when somebody else has it.
   bool TakeHotKey(Chord chord);
 
+  /// Shows a message box with OK and Cancel, and waits for it.
+  Window ShowMessage(const std::string& text);
+
   /// Stops answering messages, and goes on answering them.
   void Hang();
   void Recover();

@@ -2,6 +2,7 @@
 // fields separated by tabs, one line of answer each.
 //   open  title  class  style  extended style  owner  with child (0/1)  show command -> handle
 //   hotkey  modifiers  key -> 1 when registered, 0 when somebody else has it
+//   message  text -> ok; then a message box with that text, OK and Cancel is shown
 //   hang, recover -> ok; between them the windows answer no message
 
 #include <windows.h>
@@ -83,7 +84,12 @@ std::string Answer(const Fields& fields) {
                                       static_cast<UINT>(std::stoul(fields.at(2))));
     return taken != 0 ? "1" : "0";
   }
+  if (fields.at(0) == "message") return "ok";
   return "unknown request";
+}
+
+void ShowMessage(const std::string& text) {
+  MessageBoxW(nullptr, Wide(text).c_str(), L"Message", MB_OKCANCEL);
 }
 
 // Reads on its own thread, so that requests are seen while the windows hang.
@@ -110,6 +116,7 @@ void Run(HANDLE recover) {
     if (message.hwnd == nullptr && message.message == kRequest) {
       const std::unique_ptr<Fields> fields(reinterpret_cast<Fields*>(message.lParam));
       std::cout << Answer(*fields) << std::endl;
+      if (fields->at(0) == "message") ShowMessage(fields->at(1));
     } else if (message.hwnd == nullptr && message.message == kHang) {
       std::cout << "ok" << std::endl;
       WaitForSingleObject(recover, INFINITE);
