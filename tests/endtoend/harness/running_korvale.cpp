@@ -9,6 +9,13 @@ namespace {
 constexpr char kBoxClass[] = "#32770";
 constexpr char kMenuClass[] = "#32768";
 
+/// Windows gives the only button of a message the number of Cancel, so that Esc presses it.
+Window ButtonOf(Window box, int button) {
+  const Window found(GetDlgItem(box.handle(), button));
+  if (found || button != IDOK || box.Controls("Button").size() != 1) return found;
+  return Window(GetDlgItem(box.handle(), IDCANCEL));
+}
+
 }  // namespace
 
 RunningKorvale::RunningKorvale(const Installation& installation, const std::string& arguments)
@@ -91,7 +98,7 @@ std::string LabelText(Window dialog) {
 }
 
 bool AnswerBox(Window box, int button) {
-  const Window control(GetDlgItem(box.handle(), button));
+  const Window control = ButtonOf(box, button);
   const auto at_hand = [&] { return control.Visible() && control.Enabled(); };
   if (!WaitFor(at_hand) || !BringToFront(box)) return false;
   Click(control);
