@@ -11,7 +11,7 @@ namespace {
 
 class About : public KorvaleTest {
  protected:
-  About() { MoveMouse(Window(GetDesktopWindow()), {900, 800}); }
+  About() { MoveMouseAside(); }
 
   Window OpenAbout() {
     EXPECT_TRUE(Choose('H', {'A'}));
@@ -113,7 +113,7 @@ TEST_F(About, ClosesWhenTheMouseMovesOverTheMainWindow) {
     EXPECT_TRUE(HoldsFor([this] { return korvale_->HasForm("frmMsgBox2"); }));
     MoveMouse(box, place);
     EXPECT_TRUE(Gone());
-    MoveMouse(Window(GetDesktopWindow()), {900, 800});
+    MoveMouseAside();
   };
   closes_over(window.TitleBox(), {20, 8});
   closes_over(window.ClassBox(), {area.right - area.left - 20, 8});

@@ -22,7 +22,7 @@ class Colors : public KorvaleTest {
   void StartCustomizing() {
     installation_.settings().Set("Startup", "Tips", "0");
     Start();
-    MoveMouse(Window(GetDesktopWindow()), {900, 800});
+    MoveMouseAside();
     ASSERT_TRUE(Choose('V', {'C'}));
   }
 

@@ -7,9 +7,6 @@
 namespace korvale::endtoend {
 namespace {
 
-/// A place without windows.
-constexpr POINT kAside{900, 800};
-
 /// In a box of the main window, where a click asks for its colour.
 constexpr POINT kInBox{20, 6};
 
@@ -40,7 +37,7 @@ void EnduranceTest::ConfirmOptions() {
 
 void EnduranceTest::ChooseInBar(UINT menu, UINT entry) {
   // The entry under the mouse would be the chosen one.
-  MoveMouse(Window(GetDesktopWindow()), kAside);
+  MoveMouseAside();
   Need("the main window comes", BringToFront(main()));
   PressFor("the menu", {MOD_ALT, menu}, [this] { return korvale_->HasMenu(); });
   PressFor("the entry is chosen", {0, entry}, [this] { return !korvale_->HasMenu(); });
@@ -146,7 +143,7 @@ void EnduranceTest::ReadToolTip() {
   Need("the main window comes", BringToFront(main()));
   Need("the tool tip comes",
        korvale_->ShowsToolTip(MainWindow(main()).ClassBox(), " Class of Target Window "));
-  MoveMouse(Window(GetDesktopWindow()), kAside);
+  MoveMouseAside();
   GoByTagKey();
 }
 

@@ -156,6 +156,13 @@ void Drag(POINT from, POINT to, const std::function<void()>& each_step) {
   constexpr int kSteps = 10;
   PutPointer(from);
   SendMouse(MOUSEEVENTF_LEFTDOWN);
+void MoveMouseAside() {
+  constexpr LONG kFromEdges = 20;
+  RECT work{};
+  SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+  PutPointer({work.right - kFromEdges, work.bottom - kFromEdges});
+}
+
   for (int step = 1; step <= kSteps; ++step) {
     PutPointer(
         {from.x + (to.x - from.x) * step / kSteps, from.y + (to.y - from.y) * step / kSteps});

@@ -85,4 +85,7 @@ void Drag(POINT from, POINT to, const std::function<void()>& each_step = {});
 /// True when this process could take the hot key, that is, nobody else has it.
 bool HotKeyIsFree(Chord chord);
 
+/// Moves the mouse to where tests have no windows, the right lower corner of the work area.
+void MoveMouseAside();
+
 }  // namespace korvale::endtoend
