@@ -15,6 +15,16 @@ namespace {
 
 namespace fs = std::filesystem;
 
+/// The path without short names, which the system's own one has for a user with a long name.
+std::wstring LongPath(const std::wstring& path) {
+  std::wstring longPath(1024, L'\0');
+  const auto room = static_cast<DWORD>(longPath.size());
+  const DWORD length = GetLongPathNameW(path.c_str(), longPath.data(), room);
+  if (length == 0 || length >= room) return path;
+  longPath.resize(length);
+  return longPath;
+}
+
 }  // namespace
 
 std::string OwnFolder() {
@@ -32,7 +42,7 @@ std::string KorvaleProgram() {
 
 TemporaryFolder::TemporaryFolder() {
   static int count = 0;
-  path_ = Utf8((fs::temp_directory_path() / "korvale").wstring()) + "-" +
+  path_ = Utf8(LongPath(fs::temp_directory_path().wstring())) + "korvale-" +
           std::to_string(GetCurrentProcessId()) + "-" + std::to_string(++count) + "\\";
   fs::create_directories(fs::path(Wide(path_)));
 }
