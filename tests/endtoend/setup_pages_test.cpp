@@ -70,7 +70,7 @@ TEST_F(SetupPages, InstallByKeysAlone) {
   ASSERT_TRUE(InFront(Page(kTitle, "You find it in the Start menu as Korvale - Work.")));
   EXPECT_TRUE(Checked("&Start it now"));
   TakePicture("Setup.3-done");
-  work.settings().Set("Options", "SplashScreen", "False");
+  work.MarkAsUsed();
   Press({0, VK_RETURN});
   EXPECT_EQ(program_->WaitForExit(), 0U);
   EXPECT_TRUE(InFront(work.Main()));

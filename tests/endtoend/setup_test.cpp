@@ -13,8 +13,7 @@ void SetupTest::SetUp() {
 }
 
 void SetupTest::Use(const Installed& place) {
-  place.settings().Set("Options", "SplashScreen", "False");
-  place.settings().Set("Startup", "DisplayTips", "False");
+  place.MarkAsUsed();
   korvale_.emplace(installation_, OtherPath{"installed", place.folder()});
   if (!InFront(main())) throw std::runtime_error("the main window is not in front");
 }

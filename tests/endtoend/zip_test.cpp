@@ -23,8 +23,7 @@ class Zip : public KorvaleTest {
   static void MoveTo(const Installed& place) {
     fs::copy(fs::path(Wide(Unpacked() + "\\Korvale")), fs::path(Wide(place.folder())),
              fs::copy_options::recursive);
-    place.settings().Set("Options", "SplashScreen", "False");
-    place.settings().Set("Startup", "DisplayTips", "False");
+    place.MarkAsUsed();
   }
 
   /// Starts the copy in that place, tags a window there, and ends the copy.

@@ -83,6 +83,11 @@ bool Installed::Removed() const {
   return WaitFor([this] { return Entry().empty(); }, kInstallPatience) && !Has("Uninstall.exe");
 }
 
+void Installed::MarkAsUsed() const {
+  settings_.Set("Options", "SplashScreen", "False");
+  settings_.Set("Startup", "DisplayTips", "False");
+}
+
 bool Installed::Has(const std::string& file) const {
   return fs::exists(fs::path(Wide(folder_ + file)));
 }

@@ -44,6 +44,10 @@ class Installed {
   bool Remove(const std::string& options = "") const;
   bool Removed() const;
 
+  /// Leaves settings as an earlier run would have, without splash and tips: nothing is asked or
+  /// told at start.
+  void MarkAsUsed() const;
+
   bool Has(const std::string& file) const;
   /// True once there is no such folder.
   bool Gone() const;
