@@ -155,7 +155,8 @@ class FloodOfThePopUpKey : public HotKeyFlood {
 
   void FloodPopUp(int presses) {
     for (int i = 0; i < presses; ++i) {
-      PostMessageW(main().handle(), WM_HOTKEY, kPopUpId, MAKELPARAM(MOD_WIN, 'W'));
+      PostMessageW(main().handle(), WM_HOTKEY, kPopUpId,
+                   MAKELPARAM(kMenuKey.modifiers, kMenuKey.key));
     }
   }
 
@@ -188,7 +189,7 @@ class FloodOfThePopUpKey : public HotKeyFlood {
 TEST_F(FloodOfThePopUpKey, LeavesOneMenuThatEscCloses) {
   StartBesideAlpha();
   const Window beta = Foreground();
-  SetCursorPos(700, 300);
+  PutPointer({700, 300});
   FloodPopUp(200);
   ExpectOneMenuThatGoes(beta);
   ExpectKeysToWork();
@@ -197,10 +198,10 @@ TEST_F(FloodOfThePopUpKey, LeavesOneMenuThatEscCloses) {
 TEST_F(FloodOfThePopUpKey, HeldDownLeavesOneMenuThatEscCloses) {
   StartBesideAlpha();
   const Window beta = Foreground();
-  SetCursorPos(700, 300);
+  PutPointer({700, 300});
   {
-    const HeldKeys held({0, VK_LWIN});
-    for (int repeats = 0; repeats < 30; ++repeats) Press({0, 'W'});
+    const HeldKeys held({kMenuKey.modifiers, 0});
+    for (int repeats = 0; repeats < 30; ++repeats) Press({0, kMenuKey.key});
   }
   ExpectOneMenuThatGoes(beta);
   ExpectKeysToWork();

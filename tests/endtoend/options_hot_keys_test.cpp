@@ -71,10 +71,30 @@ TEST_F(OptionsHotKeys, AreTheDefaultsAfterReset) {
   ASSERT_TRUE(HotKeyIsFree(TagKey(1)));
   ASSERT_TRUE(Reset(dialog));
   EXPECT_TRUE(HotKeyIsFree(kCtrl1));
-  for (const Chord key : AllHotKeys()) EXPECT_FALSE(HotKeyIsFree(key)) << key.key;
+  for (const Chord key : DefaultHotKeys()) EXPECT_FALSE(HotKeyIsFree(key)) << key.key;
   EXPECT_EQ(dialog.Chosen(List::kTagModifier), "Alt");
   EXPECT_EQ(dialog.Chosen(List::kToggleKey), "Pause");
   EXPECT_EQ(StoredOptions(), Pairs());
+}
+
+TEST_F(OptionsHotKeys, WorkOutOfTheBoxUnlessWindowsKeepsThemWhichTheDialogTells) {
+  const bool kept = !HotKeyIsFree(kDefaultOptionsKey) && !HotKeyIsFree(kDefaultMenuKey);
+  ASSERT_TRUE(StartFirstTime());
+  if (kept) {
+    const OptionsDialog dialog = OpenOptionsByMenu();
+    ASSERT_TRUE(dialog.GoTo(Page::kHotKeys));
+    EXPECT_EQ(dialog.ConflictLine(),
+              "Not available, in use by Windows or another program:  Windows®+O, Windows®+W");
+    return;
+  }
+  Press(kDefaultOptionsKey);
+  const OptionsDialog dialog(korvale_->Form("frmOptions"));
+  ASSERT_TRUE(InFront(dialog.form()));
+  ASSERT_TRUE(dialog.GoTo(Page::kHotKeys));
+  EXPECT_EQ(dialog.ConflictLine(), "");
+  ASSERT_TRUE(dialog.Cancel());
+  Press(kDefaultMenuKey);
+  EXPECT_TRUE(korvale_->OpenMenu());
 }
 
 TEST_F(OptionsHotKeys, ThatAnotherProgramHasAreNamedUntilItGivesThemBack) {
@@ -86,7 +106,7 @@ TEST_F(OptionsHotKeys, ThatAnotherProgramHasAreNamedUntilItGivesThemBack) {
   installation_.settings().Set("Startup", "DisplayTips", "False");
   const OptionsDialog dialog = StartWithOptions(Page::kHotKeys);
   EXPECT_EQ(dialog.ConflictLine(),
-            "Not available, in use by Windows or another program:  Alt+5, Windows®+W");
+            "Not available, in use by Windows or another program:  Alt+5, Ctrl+F12");
   holder.reset();
   ASSERT_TRUE(BecomesFree(TagKey(5)));
   ASSERT_TRUE(BecomesFree(kMenuKey));

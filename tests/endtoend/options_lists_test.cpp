@@ -30,7 +30,7 @@ TEST_F(OptionsLists, TakeNoKeyThatWasPressedBeforeTheDialogCameForward) {
   const OptionsDialog dialog = StartWithOptions(Page::kHotKeys);
   ASSERT_TRUE(dialog.Focus(kMinimizeKey));
   ASSERT_TRUE(BringToFront(Open("Alpha")));
-  Press({MOD_WIN, 'O'});
+  Press(endtoend::kOptionsKey);
   ASSERT_TRUE(InFront(dialog.form()));
   EXPECT_TRUE(HoldsFor([&] { return dialog.Chosen(kMinimizeKey) == "DownArrow"; }));
   Press({0, 'K'});
@@ -64,8 +64,8 @@ TEST_F(OptionsLists, IgnoreAKeyPressedTogetherWithAnother) {
   ASSERT_TRUE(dialog.Focus(kToggleKey));
   Press({MOD_SHIFT, VK_F5});
   EXPECT_TRUE(HoldsFor([&] { return dialog.Chosen(kToggleKey) == "Pause"; }));
-  Press({MOD_WIN, 'K'});
-  Press({MOD_WIN, VK_SNAPSHOT});
+  // Most keys that are pressed with the Windows key never reach a program; this one does.
+  Press({MOD_WIN, VK_F8});
   EXPECT_TRUE(HoldsFor([&] { return dialog.Chosen(kToggleKey) == "Pause"; }));
   Press({0, VK_F5});
   EXPECT_TRUE(Shows(dialog, kToggleKey, "F5"));

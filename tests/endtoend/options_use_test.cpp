@@ -50,7 +50,7 @@ TEST_F(Options, OpenOnTheHotKeysForAUserWhoReviewsThem) {
   ASSERT_TRUE(InFront(dialog.form()));
   EXPECT_EQ(dialog.CurrentPage(), Page::kHotKeys);
   ASSERT_TRUE(dialog.Cancel());
-  EXPECT_EQ(OpenOptions().CurrentPage(), Page::kHotKeys);
+  EXPECT_EQ(OpenOptionsByMenu().CurrentPage(), Page::kHotKeys);
 }
 
 TEST_F(Options, ExplainAPlainLabelUnderTheMouse) {

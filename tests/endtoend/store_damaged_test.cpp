@@ -43,8 +43,8 @@ TEST_P(DamagedStore, IsReadAsTheDefaultsAndMadeWholeAgain) {
   // When no setting can be read, this counts as a first run, which asks questions.
   installation_.MarkAsUsed();
   ASSERT_TRUE(StartAgain());
-  for (const Chord key : AllHotKeys()) EXPECT_FALSE(HotKeyIsFree(key)) << key.key;
-  const OptionsDialog dialog = OpenOptions();
+  for (const Chord key : DefaultHotKeys()) EXPECT_FALSE(HotKeyIsFree(key)) << key.key;
+  const OptionsDialog dialog = OpenOptionsByMenu();
   EXPECT_EQ(dialog.CurrentPage(), OptionsDialog::Page::kGeneral);
   ASSERT_TRUE(dialog.Confirm());
   Pairs options = Defaults("Options");

@@ -9,9 +9,21 @@ namespace korvale::endtoend {
 using ::testing::AssertionFailure;
 using ::testing::AssertionResult;
 
+void StoreTest::CloseTipOfKeptKeys() {
+  if (!korvale_->HasForm("frmMsgTip")) return;
+  const Window tip = korvale_->Form("frmMsgTip");
+  const std::string text = LabelText(tip);
+  if (text.find(":  Windows®+O, Windows®+W.") != std::string::npos) {
+    EXPECT_TRUE(tip.Close());
+  }
+}
+
 Window StoreTest::ReviewQuestion() {
   std::vector<Window> found;
-  WaitFor([&] { return !(found = korvale_->MessageBoxes("Korvale - CAUTION")).empty(); });
+  WaitFor([&] {
+    CloseTipOfKeptKeys();
+    return !(found = korvale_->MessageBoxes("Korvale - CAUTION")).empty();
+  });
   return found.empty() ? Window() : found.front();
 }
 
@@ -25,7 +37,11 @@ AssertionResult StoreTest::StartFirstTime() {
 
 AssertionResult StoreTest::StartAgain() {
   korvale_.emplace(installation_);
-  if (!main()) return AssertionFailure() << "the main window did not come";
+  const bool came = WaitFor([&] {
+    CloseTipOfKeptKeys();
+    return korvale_->HasForm("frmMain");
+  });
+  if (!came) return AssertionFailure() << "the main window did not come";
   return InFront(main());
 }
 

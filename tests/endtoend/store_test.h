@@ -12,12 +12,15 @@ class StoreTest : public KorvaleTest {
  protected:
   using Pairs = std::map<std::string, std::string>;
 
-  /// Waits for the question of the first run, which comes after the defaults have been stored.
+  /// Waits for the question of the first run, which comes after the defaults have been stored and
+  /// after the tip about hot keys that Windows keeps.
   Window ReviewQuestion();
   /// Starts the installation, and answers the question of the first run with No.
   ::testing::AssertionResult StartFirstTime();
   /// Starts the installation once more after its exit.
   ::testing::AssertionResult StartAgain();
+  /// Closes the tip that a start with the default hot keys shows where Windows keeps two of them.
+  void CloseTipOfKeptKeys();
 
   const StoredSettings& settings() const { return installation_.settings(); }
   Pairs StoredOptions() const { return settings().Section("Options"); }

@@ -2,7 +2,9 @@
 
 #include <filesystem>
 #include <system_error>
+#include <utility>
 
+#include "tests/endtoend/harness/keyboard.h"
 #include "tests/endtoend/harness/text.h"
 #include "tests/endtoend/harness/wait.h"
 
@@ -38,7 +40,16 @@ void Installation::RemoveProgram() const {
   });
 }
 
-void Installation::MarkAsUsed() const { SetOption("SplashScreen", "False"); }
+void Installation::MarkAsUsed() const {
+  constexpr std::pair<const char*, UINT> kKeys[] = {{"HotKeyModGeneral0", kOptionsKey.modifiers},
+                                                    {"HotKeyGeneral0", kOptionsKey.key},
+                                                    {"HotKeyModGeneral1", kMenuKey.modifiers},
+                                                    {"HotKeyGeneral1", kMenuKey.key}};
+  SetOption("SplashScreen", "False");
+  for (const auto& [setting, number] : kKeys) {
+    if (!settings_.Get("Options", setting)) SetOption(setting, std::to_string(number));
+  }
+}
 
 void Installation::SetOption(const std::string& key, const std::string& value) const {
   settings_.Set("Options", key, value);

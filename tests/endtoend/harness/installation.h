@@ -30,7 +30,9 @@ class Installation {
   /// Takes the program out of the folder, as a user does by moving or renaming the folder.
   void RemoveProgram() const;
 
-  /// Leaves settings as an earlier run would have, without the splash: nothing is asked at start.
+  /// Leaves settings as an earlier run would have, without the splash, so that nothing is asked at
+  /// start. Where none are stored yet, the hot keys are kOptionsKey and kMenuKey, so that nothing
+  /// is told at start either.
   void MarkAsUsed() const;
   void SetOption(const std::string& key, const std::string& value) const;
   /// Stores a Tag as an earlier run would have; `class_name` "" means not learnt yet.

@@ -61,14 +61,18 @@ void SendMouse(DWORD flags, POINT at = {}, int data = 0) {
   Send({input});
 }
 
-}  // namespace
-
-std::vector<Chord> AllHotKeys() {
+std::vector<Chord> WithTagKeys(Chord options, Chord menu) {
   std::vector<Chord> chords;
   for (int tag = 0; tag <= 9; ++tag) chords.push_back(TagKey(tag));
-  chords.insert(chords.end(), {kMinimizeKey, kMaximizeKey, kOptionsKey, kMenuKey, kToggleKey});
+  chords.insert(chords.end(), {kMinimizeKey, kMaximizeKey, options, menu, kToggleKey});
   return chords;
 }
+
+}  // namespace
+
+std::vector<Chord> AllHotKeys() { return WithTagKeys(kOptionsKey, kMenuKey); }
+
+std::vector<Chord> DefaultHotKeys() { return WithTagKeys(kDefaultOptionsKey, kDefaultMenuKey); }
 
 bool IsDown(UINT key) { return GetAsyncKeyState(static_cast<int>(key)) < 0; }
 
@@ -152,10 +156,6 @@ void TurnWheel(Window window, int notches) {
   SendMouse(MOUSEEVENTF_WHEEL, {}, notches * WHEEL_DELTA);
 }
 
-void Drag(POINT from, POINT to, const std::function<void()>& each_step) {
-  constexpr int kSteps = 10;
-  PutPointer(from);
-  SendMouse(MOUSEEVENTF_LEFTDOWN);
 void MoveMouseAside() {
   constexpr LONG kFromEdges = 20;
   RECT work{};
@@ -163,6 +163,10 @@ void MoveMouseAside() {
   PutPointer({work.right - kFromEdges, work.bottom - kFromEdges});
 }
 
+void Drag(POINT from, POINT to, const std::function<void()>& each_step) {
+  constexpr int kSteps = 10;
+  PutPointer(from);
+  SendMouse(MOUSEEVENTF_LEFTDOWN);
   for (int step = 1; step <= kSteps; ++step) {
     PutPointer(
         {from.x + (to.x - from.x) * step / kSteps, from.y + (to.y - from.y) * step / kSteps});

@@ -18,15 +18,22 @@ struct Chord {
 
 inline constexpr Chord kMinimizeKey{MOD_ALT, VK_DOWN};
 inline constexpr Chord kMaximizeKey{MOD_ALT, VK_UP};
-inline constexpr Chord kOptionsKey{MOD_WIN, 'O'};
-inline constexpr Chord kMenuKey{MOD_WIN, 'W'};
 inline constexpr Chord kToggleKey{0, VK_PAUSE};
+/// What tests use in place of the next two; `Installation::MarkAsUsed` stores them.
+inline constexpr Chord kOptionsKey{MOD_CONTROL, VK_F11};
+inline constexpr Chord kMenuKey{MOD_CONTROL, VK_F12};
+/// As they are out of the box. Windows 10 and 11 keep them for themselves: nobody can register
+/// them, and pressing them does what Windows does with them.
+inline constexpr Chord kDefaultOptionsKey{MOD_WIN, 'O'};
+inline constexpr Chord kDefaultMenuKey{MOD_WIN, 'W'};
 
 /// The hot key of Tag `tag`, 0 to 9, as it is out of the box.
 constexpr Chord TagKey(int tag) { return {MOD_ALT, static_cast<UINT>('0' + tag)}; }
 
-/// Every hot key that is registered out of the box.
+/// Every hot key that an installation registers after `Installation::MarkAsUsed`, and every one
+/// that it tries to register out of the box.
 std::vector<Chord> AllHotKeys();
+std::vector<Chord> DefaultHotKeys();
 
 /// True while that key is down.
 bool IsDown(UINT key);
@@ -78,14 +85,14 @@ void ClickAt(Window window, POINT at);
 /// Turns the mouse wheel over the middle of a window or control: away from the user above 0.
 void TurnWheel(Window window, int notches);
 
+/// Moves the mouse to where tests have no windows, the right lower corner of the work area.
+void MoveMouseAside();
+
 /// Drags what lies at a place of the screen to another one, with the left button, step by step.
 /// `each_step` is called while the button is down.
 void Drag(POINT from, POINT to, const std::function<void()>& each_step = {});
 
-/// True when this process could take the hot key, that is, nobody else has it.
+/// True when this process could take the hot key, that is, neither another one nor Windows has it.
 bool HotKeyIsFree(Chord chord);
-
-/// Moves the mouse to where tests have no windows, the right lower corner of the work area.
-void MoveMouseAside();
 
 }  // namespace korvale::endtoend

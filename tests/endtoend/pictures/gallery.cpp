@@ -55,7 +55,8 @@ void Gallery::Prepare() {
   std::ofstream(notes) << "Alt+1 comes here, from anywhere.\n";
   notepad_.emplace(std::vector<std::string>{"notepad.exe " + Quoted(notes)});
   Place(notepad_->window(), 120, 250, 600, 320);
-  installation_.MarkAsUsed();
+  // The pictures show the hot keys as they are out of the box.
+  installation_.SetOption("SplashScreen", "False");
   installation_.StoreTag(1, "*** - Notepad", "Notepad");
   installation_.StoreTag(2, "*** - Wine Wordpad", "WORDPAD");
   installation_.StoreTag(5, "Letters to Anna", "Journal");
@@ -139,7 +140,7 @@ void Gallery::TakePopUp() {
   WorkIn(wordpad_->window());
   WorkIn(notepad_->window());
   PutMouse(notepad_->window(), 150, 90);
-  Press(kMenuKey);
+  Press(kDefaultMenuKey);
   const Window menu = korvale_->OpenMenu();
   Need(static_cast<bool>(menu), "the menu does not pop up");
   photographer_.Take("pop-up", {notepad_->window(), menu});
@@ -162,7 +163,7 @@ void Gallery::TakeAddWindow() {
 }
 
 OptionsDialog Gallery::OpenOptions() const {
-  Press(kOptionsKey);
+  Press(kDefaultOptionsKey);
   return OptionsDialog(Form("frmOptions"));
 }
 
@@ -185,7 +186,8 @@ void Gallery::TakeConflicts() {
   Press(kToggleKey);
   photographer_.Take("notice", {Form("frmWaitWindow")});
   Need(WaitFor([&] { return !korvale_->HasForm("frmWaitWindow"); }), "the notice stays");
-  Need(holder_.TakeHotKey(TagKey(3)) && holder_.TakeHotKey(kMenuKey), "the keys are not free");
+  Need(holder_.TakeHotKey(TagKey(3)) && holder_.TakeHotKey(kDefaultMenuKey),
+       "the keys are not free");
   Press(kToggleKey);
   Need(WaitFor([&] { return korvale_->HasForm("frmWaitWindow"); }) &&
            WaitFor([&] { return !korvale_->HasForm("frmWaitWindow"); }),

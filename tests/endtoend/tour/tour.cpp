@@ -158,7 +158,8 @@ void Tour::UseThePopUp() {
   report_.Headline("The Window menu anywhere");
   WorkIn("Registry Editor", regedit_->window());
   PutPointer({400, 300});
-  report_.KeyUntil("Windows+W: the menu pops up", kMenuKey, [&] { return korvale_->HasMenu(); });
+  report_.KeyUntil("Windows+W: the menu pops up", kDefaultMenuKey,
+                   [&] { return korvale_->HasMenu(); });
   report_.Picture("pop-up");
   report_.KeyToFront("3: Notepad", {0, '3'}, notepad_->window());
   report_.Step("Notepad is no longer minimized",

@@ -18,7 +18,7 @@ void Tour::StartAgain() {
 }
 
 OptionsDialog Tour::OpenOptions() {
-  Press(kOptionsKey);
+  Press(kDefaultOptionsKey);
   const OptionsDialog dialog(korvale_->Form("frmOptions"));
   report_.Step("Windows+O shows the options",
                dialog.form() && WaitFor([&] { return Foreground() == dialog.form(); }));
