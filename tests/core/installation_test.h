@@ -7,6 +7,7 @@
 #include <string>
 
 #include "app/core/installation.h"
+#include "platform/win32_constants.h"
 #include "tests/fakes/call_log.h"
 #include "tests/fakes/fake_message_boxes.h"
 #include "tests/fakes/fake_settings_store.h"
@@ -16,8 +17,8 @@ namespace korvale {
 
 inline constexpr const char* kWork = "Korvale - Work";
 inline constexpr const char* kOld = "Korvale - Old";
-inline constexpr std::int16_t kYes = 6;
-inline constexpr std::int16_t kNo = 7;
+inline constexpr std::int16_t kYes = win32::kIdYes;
+inline constexpr std::int16_t kNo = win32::kIdNo;
 
 /// A start in D:\Tools\Work, and the settings of an installation that was in D:\Tools\Old.
 class InstallationTest : public testing::Test {

@@ -23,7 +23,7 @@ class ActivationOfOwned : public Activation {
 };
 
 TEST_F(ActivationOfOwned, MinimizedOwnerIsRestoredFirst) {
-  EXPECT_EQ(Activate(Triple(owned, "Owned")), 1);
+  EXPECT_EQ(Activate(Triple(owned, "Owned")), kActivationDone);
   EXPECT_FALSE(desktop.IsIconic(alpha));
   EXPECT_EQ(desktop.ForegroundTitle(), "Owned");
   EXPECT_EQ(log.Take(),
@@ -31,26 +31,26 @@ TEST_F(ActivationOfOwned, MinimizedOwnerIsRestoredFirst) {
 }
 
 TEST_F(ActivationOfOwned, MinimizedOwnerStaysWhenNotToAct) {
-  EXPECT_EQ(Validate(Triple(owned, "Owned")), 2);
+  EXPECT_EQ(Validate(Triple(owned, "Owned")), kWindowNotOpen);
   EXPECT_EQ(log.Take(), Calls{});
 }
 
 TEST_F(ActivationOfOwned, OwnerThatIsNotMinimizedStays) {
   desktop.UserRestores(alpha);
   desktop.UserActivates(beta);
-  EXPECT_EQ(Activate(Triple(owned, "Owned")), 1);
+  EXPECT_EQ(Activate(Triple(owned, "Owned")), kActivationDone);
   EXPECT_EQ(log.Take(), Calls{"SetForegroundWindow(Owned)"});
 }
 
 TEST_F(ActivationOfOwned, OwnerWithoutAMinimizeBoxStays) {
   desktop.Windows().Find(alpha)->style &= ~win32::kWsMinimizeBox;
-  EXPECT_EQ(Activate(Triple(owned, "Owned")), 2);
+  EXPECT_EQ(Activate(Triple(owned, "Owned")), kWindowNotOpen);
   EXPECT_EQ(log.Take(), Calls{});
 }
 
 TEST_F(ActivationOfOwned, RefusedRestoreOfTheOwnerFails) {
   desktop.Windows().Find(alpha)->visible = false;
-  EXPECT_EQ(Activate(Triple(owned, "Owned")), 0);
+  EXPECT_EQ(Activate(Triple(owned, "Owned")), kActivationFailed);
   EXPECT_EQ(log.Take(), Calls{"ShowWindowAsync(Alpha, SW_RESTORE)"});
 }
 
@@ -64,14 +64,14 @@ TEST_F(ActivationOfOwned, HungOwnerIsNotWaitedFor) {
 TEST_F(Activation, PreviousWindowSurvivesANewTitle) {
   previous.current = Triple(alpha);
   desktop.Rename(alpha, "Новое");
-  EXPECT_EQ(Activate(previous.current), 1);
+  EXPECT_EQ(Activate(previous.current), kActivationDone);
   EXPECT_EQ(previous.current, Triple(alpha, "Новое"));
 }
 
 TEST_F(Activation, AlternateSurvivesANewTitle) {
   previous.alternate = Triple(alpha);
   desktop.Rename(alpha, "New");
-  EXPECT_EQ(Activate(previous.alternate), 1);
+  EXPECT_EQ(Activate(previous.alternate), kActivationDone);
   EXPECT_EQ(previous.alternate, Triple(alpha, "New"));
 }
 
@@ -79,7 +79,7 @@ TEST_F(Activation, TitleOfTheRecordGoesIntoTheCallersText) {
   previous.current = Triple(alpha, "Old");
   previous.alternate = Triple(alpha, "Older");
   WindowTriple window = Triple(alpha, "Gamma");
-  EXPECT_EQ(Validate(window), 1);
+  EXPECT_EQ(Validate(window), kActivationDone);
   EXPECT_EQ(window.text, "Alpha");
   EXPECT_EQ(previous.current.text, "Alpha");
   EXPECT_EQ(previous.alternate.text, "Alpha");
@@ -87,14 +87,14 @@ TEST_F(Activation, TitleOfTheRecordGoesIntoTheCallersText) {
 
 TEST_F(Activation, RecordOfOtherWindowsStays) {
   previous.current = Triple(beta, "Old");
-  EXPECT_EQ(Validate(Triple(alpha)), 1);
+  EXPECT_EQ(Validate(Triple(alpha)), kActivationDone);
   EXPECT_EQ(previous.current.text, "Old");
 }
 
 TEST_F(Activation, RecordedTitleThatIsAnotherOneAtEachReadingStaysTheRecord) {
   previous.current = Triple(alpha);
   desktop.CountReadings(alpha);
-  EXPECT_EQ(Validate(previous.current), 1);
+  EXPECT_EQ(Validate(previous.current), kActivationDone);
   EXPECT_EQ(previous.current.handle, alpha);
   EXPECT_TRUE(previous.current.text.ends_with(" % - Alpha"));
 }

@@ -14,19 +14,19 @@ const ShownMessageBox kFailure = {"The window operation was not successful.  Ple
 
 TEST_F(Activation, BringsTheWindowToTheFront) {
   WindowTriple window = Triple(alpha);
-  EXPECT_EQ(Activate(window), 1);
+  EXPECT_EQ(Activate(window), kActivationDone);
   EXPECT_EQ(desktop.ForegroundTitle(), "Alpha");
   EXPECT_EQ(window, Triple(alpha));
   EXPECT_EQ(log.Take(), Calls{"SetForegroundWindow(Alpha)"});
 }
 
 TEST_F(Activation, OnlyTellsWhetherItCouldWhenNotToAct) {
-  EXPECT_EQ(Validate(Triple(alpha)), 1);
+  EXPECT_EQ(Validate(Triple(alpha)), kActivationDone);
   EXPECT_EQ(log.Take(), Calls{});
 }
 
 TEST_F(Activation, WindowInFrontIsNotBroughtThereAgain) {
-  EXPECT_EQ(Activate(Triple(beta, "Beta")), 1);
+  EXPECT_EQ(Activate(Triple(beta, "Beta")), kActivationDone);
   EXPECT_EQ(log.Take(), Calls{});
 }
 
@@ -44,7 +44,7 @@ TEST_F(Activation, WindowInFrontIsBroughtThereAgainWhileAnotherIsOnItsWay) {
 
 TEST_F(Activation, MinimizedWindowIsRestored) {
   desktop.UserMinimizes(alpha);
-  EXPECT_EQ(Activate(Triple(alpha)), 1);
+  EXPECT_EQ(Activate(Triple(alpha)), kActivationDone);
   EXPECT_FALSE(desktop.IsIconic(alpha));
   EXPECT_EQ(log.Take(),
             (Calls{"SetWindowPos(Alpha, HWND_TOP, 0, 0, 0, 0, 16407)", "SetForegroundWindow(Alpha)",
@@ -53,13 +53,13 @@ TEST_F(Activation, MinimizedWindowIsRestored) {
 
 TEST_F(Activation, MinimizedWindowIsNotRestoredWhenNotToAct) {
   desktop.UserMinimizes(alpha);
-  EXPECT_EQ(Validate(Triple(alpha)), 1);
+  EXPECT_EQ(Validate(Triple(alpha)), kActivationDone);
   EXPECT_EQ(log.Take(), Calls{});
 }
 
 TEST_F(Activation, NoWindowIsNotOpen) {
   WindowTriple window = Triple(0);
-  const Calls calls = CallsOf([&] { EXPECT_EQ(Activate(window), 2); });
+  const Calls calls = CallsOf([&] { EXPECT_EQ(Activate(window), kWindowNotOpen); });
   EXPECT_EQ(calls, Calls{});
 }
 
@@ -122,14 +122,14 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& param) { return param.param.name; });
 
 TEST_F(Activation, UnselectableWindowFails) {
-  EXPECT_EQ(Activate({owner, "Owner", "Korvale.Owner"}), 0);
+  EXPECT_EQ(Activate({owner, "Owner", "Korvale.Owner"}), kActivationFailed);
 }
 
 TEST_F(Activation, TextMayBeAPartOrASideOfTheTitle) {
   desktop.Rename(alpha, "無題 - Блокнот");
   for (const char* const text : {"題", "無題 - ***", "*** - Блокнот", ""}) {
     WindowTriple window = Triple(alpha, text);
-    EXPECT_EQ(Validate(window), 1) << text;
+    EXPECT_EQ(Validate(window), kActivationDone) << text;
     EXPECT_EQ(window.text, text);
   }
 }
@@ -137,18 +137,18 @@ TEST_F(Activation, TextMayBeAPartOrASideOfTheTitle) {
 TEST_F(Activation, RefusedRestoreFails) {
   desktop.UserMinimizes(alpha);
   log.WhenCalled("ShowWindowAsync(Alpha, SW_RESTORE)", [&] { desktop.Close(alpha); });
-  EXPECT_EQ(Activate(Triple(alpha)), 0);
+  EXPECT_EQ(Activate(Triple(alpha)), kActivationFailed);
 }
 
 TEST_F(Activation, WindowThatVanishesMeanwhileFails) {
   log.WhenCalled("SetForegroundWindow(Alpha)", [&] { desktop.Close(alpha); });
-  EXPECT_EQ(Activate(Triple(alpha)), 0);
+  EXPECT_EQ(Activate(Triple(alpha)), kActivationFailed);
 }
 
 TEST_F(Activation, HungWindowIsNotWaitedFor) {
   desktop.UserMinimizes(alpha);
   desktop.SetHung(alpha, true);
-  EXPECT_EQ(Activate(Triple(alpha)), 1);
+  EXPECT_EQ(Activate(Triple(alpha)), kActivationDone);
   EXPECT_EQ(log.Take(),
             (Calls{"SetWindowPos(Alpha, HWND_TOP, 0, 0, 0, 0, 16407)", "SetForegroundWindow(Alpha)",
                    "ShowWindowAsync(Alpha, SW_RESTORE)"}));
@@ -160,8 +160,9 @@ TEST_F(Activation, FailureIsShownWhenAskedFor) {
   desktop.Hide(alpha);
   // No window, a hidden one, a disabled one, and one of another title.
   for (auto [window, result] :
-       {std::pair(Triple(0), 2), std::pair(Triple(alpha), 2), std::pair(Triple(beta, "Beta"), 3),
-        std::pair(Triple(beta, "x"), 0)}) {
+       {std::pair(Triple(0), kWindowNotOpen), std::pair(Triple(alpha), kWindowNotOpen),
+        std::pair(Triple(beta, "Beta"), kWindowNotEnabled),
+        std::pair(Triple(beta, "x"), kActivationFailed)}) {
     messages.shown.clear();
     EXPECT_EQ(actions.ActivateWindow(window, true, true), result);
     EXPECT_EQ(messages.shown, std::vector<ShownMessageBox>{kFailure});
@@ -170,13 +171,13 @@ TEST_F(Activation, FailureIsShownWhenAskedFor) {
 
 TEST_F(Activation, FailureIsNotShownUnlessAskedFor) {
   WindowTriple window = Triple(0);
-  EXPECT_EQ(Activate(window), 2);
+  EXPECT_EQ(Activate(window), kWindowNotOpen);
   EXPECT_TRUE(messages.shown.empty());
 }
 
 TEST_F(Activation, SuccessIsNeverShown) {
   WindowTriple window = Triple(alpha);
-  EXPECT_EQ(actions.ActivateWindow(window, true, true), 1);
+  EXPECT_EQ(actions.ActivateWindow(window, true, true), kActivationDone);
   EXPECT_TRUE(messages.shown.empty());
 }
 
@@ -185,7 +186,7 @@ TEST_F(Activation, StepsComeInTheirOrder) {
   const WindowHandle gamma = desktop.Open("Gamma", {.owner = alpha, .iconic = true});
   desktop.Open("Front");
   WindowTriple window = Triple(gamma, "Gamma");
-  EXPECT_EQ(CallsOf([&] { EXPECT_EQ(Activate(window), 1); }),
+  EXPECT_EQ(CallsOf([&] { EXPECT_EQ(Activate(window), kActivationDone); }),
             (Calls{"GetClassNameA(Gamma, 255)",
                    "GetWindow(Main, GW_OWNER)",
                    "GetWindow(Gamma, GW_OWNER)",

@@ -32,7 +32,7 @@ TEST_F(BusyWindows, AMinimizedOneIsSelectedAndUnfoldsLater) {
   desktop.UserMinimizes(alpha);
   desktop.SetBusy(alpha, kLong);
   WindowTriple window = Triple(alpha);
-  EXPECT_EQ(Activate(window), 1);
+  EXPECT_EQ(Activate(window), kActivationDone);
   ExpectShortWait();
   EXPECT_EQ(desktop.ForegroundTitle(), "Alpha");
   EXPECT_TRUE(desktop.IsIconic(alpha));
@@ -58,7 +58,7 @@ TEST_F(BusyWindows, AWindowThatStandsBesideItsMinimizedOwnerIsSelectedAllTheSame
   desktop.UserActivates(beta);
   desktop.SetHung(alpha, true);
   WindowTriple window = Triple(owned, "Owned");
-  EXPECT_EQ(Activate(window), 1);
+  EXPECT_EQ(Activate(window), kActivationDone);
   EXPECT_EQ(desktop.ForegroundTitle(), "Owned");
 }
 
@@ -68,7 +68,7 @@ TEST_F(BusyWindows, AnOwnerThatUnfoldsInTimeIsWaitedFor) {
   desktop.UserActivates(beta);
   desktop.SetBusy(alpha, 60);
   WindowTriple window = Triple(owned, "Owned");
-  EXPECT_EQ(Activate(window), 1);
+  EXPECT_EQ(Activate(window), kActivationDone);
   EXPECT_EQ(Waited(), 60U);
   EXPECT_EQ(desktop.ForegroundTitle(), "Owned");
 }

@@ -188,8 +188,8 @@ TEST_F(OptionsTest, ResetWhileToggledOffSwitchesOn) {
 }
 
 TEST_F(OptionsTest, NamesTheHotKeysThatWereRefused) {
-  keys_.RegisterForeign(8, 'W');
-  keys_.RegisterForeign(1, '3');
+  keys_.RegisterForeign(win32::kModWin, 'W');
+  keys_.RegisterForeign(win32::kModAlt, '3');
   table_.SetHotKeys("SET");
   OpenDialog();
   EXPECT_TRUE(Shown(dialog_, "lblConflicts"));
@@ -223,17 +223,17 @@ TEST_F(OptionsTest, ShowsNoConflictLineWithoutAConflict) {
 }
 
 TEST_F(OptionsTest, BringsTheConflictLineUpToDateAfterApply) {
-  keys_.RegisterForeign(8, 'W');
+  keys_.RegisterForeign(win32::kModWin, 'W');
   table_.SetHotKeys("SET");
   OpenDialog();
-  keys_.ReleaseForeign(8, 'W');
+  keys_.ReleaseForeign(win32::kModWin, 'W');
   Click(dialog_, "cmdApply");
   EXPECT_FALSE(Shown(dialog_, "lblConflicts"));
 }
 
 TEST_F(OptionsTest, BringsTheConflictLineUpToDateAfterReset) {
   OpenDialog();
-  keys_.RegisterForeign(0, 0x13);
+  keys_.RegisterForeign(0, win32::kVkPause);
   Click(dialog_, "cmdReset");
   EXPECT_EQ(Text(dialog_, "lblConflicts"),
             "Not available, in use by Windows or another program:  Pause");

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "hotkeys/hot_key_toggle.h"
+#include "platform/win32_constants.h"
 #include "tests/fakes/fake_hot_key_actions.h"
 #include "tests/hotkeys/hot_key_table_fixture.h"
 
@@ -14,7 +15,7 @@ namespace {
 using HotKeyRefusal = HotKeyTableTest;
 
 TEST_F(HotKeyRefusal, KeepsTheSlotOfAHotKeyThatWindowsRefused) {
-  hotKeys.RegisterForeign(1, 0x31);
+  hotKeys.RegisterForeign(win32::kModAlt, '1');
 
   table.SetHotKeys("SET");
 
@@ -50,9 +51,9 @@ TEST_F(HotKeyRefusal, HasNothingTwiceThatAFormerRegistrationHad) {
 }
 
 TEST_F(HotKeyRefusal, RegistersARefusedHotKeyOnceItIsFree) {
-  hotKeys.RegisterForeign(1, 0x31);
+  hotKeys.RegisterForeign(win32::kModAlt, '1');
   table.SetHotKeys("SET");
-  hotKeys.ReleaseForeign(1, 0x31);
+  hotKeys.ReleaseForeign(win32::kModAlt, '1');
 
   table.SetHotKeys("REMOVE");
   table.SetHotKeys("SET");
@@ -64,7 +65,7 @@ class RefusedHotKeysAgain : public HotKeyTableTest {
  protected:
   /// The defaults, while another program has Alt+1 and the shell its own.
   RefusedHotKeysAgain() {
-    hotKeys.RegisterForeign(1, 0x31);
+    hotKeys.RegisterForeign(win32::kModAlt, '1');
     hotKeys.StartShell();
     table.SetHotKeys("SET");
     log.Clear();
@@ -75,7 +76,7 @@ class RefusedHotKeysAgain : public HotKeyTableTest {
 };
 
 TEST_F(RefusedHotKeysAgain, AreRegisteredUnderTheirIdentifiersAndNoOthersAreTouched) {
-  hotKeys.ReleaseForeign(1, 0x31);
+  hotKeys.ReleaseForeign(win32::kModAlt, '1');
 
   EXPECT_TRUE(table.RetryRefused());
 
@@ -96,7 +97,7 @@ TEST_F(RefusedHotKeysAgain, ThatAreStillTakenStayRefused) {
 }
 
 TEST_F(RefusedHotKeysAgain, AreAskedForOnceOnly) {
-  hotKeys.ReleaseForeign(1, 0x31);
+  hotKeys.ReleaseForeign(win32::kModAlt, '1');
   EXPECT_TRUE(table.RetryRefused());
   const auto registered = hotKeys.Registered();
   for (int time = 0; time < 100; ++time) EXPECT_FALSE(table.RetryRefused());
@@ -118,7 +119,7 @@ TEST_F(RefusedHotKeysAgain, DoNotIncludeWhatTheUserChoseTwice) {
 
 TEST_F(RefusedHotKeysAgain, AreNoneOnceAllAreRemoved) {
   table.SetHotKeys("REMOVE");
-  hotKeys.ReleaseForeign(1, 0x31);
+  hotKeys.ReleaseForeign(win32::kModAlt, '1');
   log.Clear();
   EXPECT_FALSE(table.RetryRefused());
   EXPECT_TRUE(log.Calls().empty());
@@ -126,12 +127,12 @@ TEST_F(RefusedHotKeysAgain, AreNoneOnceAllAreRemoved) {
 
 TEST_F(RefusedHotKeysAgain, AreOnlyTheToggleWhileTheOthersAreSwitchedOff) {
   table.SetHotKeys("REMOVE");
-  hotKeys.RegisterForeign(0, 0x13);
+  hotKeys.RegisterForeign(0, win32::kVkPause);
   table.SetHotKeys("SET");
   FakeHotKeyActions actions;
   HotKeyToggle(table, options, actions).ToggleHotKeys(kToggleFromHotKey);
-  hotKeys.ReleaseForeign(0, 0x13);
-  hotKeys.ReleaseForeign(1, 0x31);
+  hotKeys.ReleaseForeign(0, win32::kVkPause);
+  hotKeys.ReleaseForeign(win32::kModAlt, '1');
   EXPECT_TRUE(table.RetryRefused());
   EXPECT_EQ(hotKeys.Registered(), (std::vector<FakeHotKeys::Registration>{{1000, 1, 0, 0x13}}));
   EXPECT_TRUE(Accepted(table.LastSet(), "HOTKEY_TOGGLE_HOTKEYS"));

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/win32_constants.h"
 #include "tests/fakes/fake_hot_key_actions.h"
 #include "tests/hotkeys/hot_key_table_fixture.h"
 
@@ -113,10 +114,10 @@ TEST_F(HotKeyToggleTest, RegistersWhatTheOptionsSayWhenSwitchedOn) {
 
 TEST_F(HotKeyToggleTest, RetriesAHotKeyThatAnotherProgramHasGivenUp) {
   table.SetHotKeys("REMOVE");
-  hotKeys.RegisterForeign(1, 0x33);
+  hotKeys.RegisterForeign(win32::kModAlt, '3');
   table.SetHotKeys("SET");
   EXPECT_FALSE(table.Registered().front().accepted);
-  hotKeys.ReleaseForeign(1, 0x33);
+  hotKeys.ReleaseForeign(win32::kModAlt, '3');
 
   toggle.ToggleHotKeys(kToggleFromHotKey);
   toggle.ToggleHotKeys(kToggleFromHotKey);

@@ -21,7 +21,7 @@ class UserReturns : public WindowProcHookTest {
  protected:
   UserReturns() {
     table.SetHotKeys("REMOVE");
-    hotKeys.RegisterForeign(1, 0x31);
+    hotKeys.RegisterForeign(win32::kModAlt, '1');
     table.SetHotKeys("SET");
     log.Clear();
   }
@@ -31,9 +31,9 @@ class UserReturns : public WindowProcHookTest {
 TEST_F(UserReturns, RegistersARefusedHotKeyThatIsFreeNowAndTellsTheForms) {
   for (const auto& [message, event] : kReturns) {
     table.SetHotKeys("REMOVE");
-    hotKeys.RegisterForeign(1, 0x31);
+    hotKeys.RegisterForeign(win32::kModAlt, '1');
     table.SetHotKeys("SET");
-    hotKeys.ReleaseForeign(1, 0x31);
+    hotKeys.ReleaseForeign(win32::kModAlt, '1');
     actions.log.clear();
     log.Clear();
 
@@ -54,7 +54,7 @@ TEST_F(UserReturns, SaysNothingWhenNothingIsFree) {
 }
 
 TEST_F(UserReturns, OnlyByTheEventsThatSaySo) {
-  hotKeys.ReleaseForeign(1, 0x31);
+  hotKeys.ReleaseForeign(win32::kModAlt, '1');
   for (const auto& [message, event] :
        {Message{win32::kWmPowerBroadcast, 4}, Message{win32::kWmPowerBroadcast, 10},
         Message{win32::kWmPowerBroadcast, 0x8013}, Message{win32::kWmWtsSessionChange, 2},
@@ -78,7 +78,7 @@ TEST_F(UserReturns, AsOftenAsAStrangerClaimsChangesNothing) {
 }
 
 TEST_F(UserReturns, AndAFailingFormIsReported) {
-  hotKeys.ReleaseForeign(1, 0x31);
+  hotKeys.ReleaseForeign(win32::kModAlt, '1');
   actions.onCall = [](const std::string&) { throw RunTimeError(RunTimeError::kOutOfMemory); };
   EXPECT_EQ(hook.HotKeyWindowProc(kMain, win32::kWmPowerBroadcast, 7, 0), 77);
   EXPECT_EQ(log.CallsOf("uncaught"), Calls{"uncaught 7"});
@@ -89,7 +89,7 @@ TEST_F(UserReturns, ToldBySessionsForAsLongAsTheHookIsThere) {
   EXPECT_EQ(hotKeys.SessionWatches(kMain), 1U);
   hook.HookWindowProc("SET", kMain);
   EXPECT_EQ(hotKeys.SessionWatches(kMain), 1U);
-  hotKeys.ReleaseForeign(1, 0x31);
+  hotKeys.ReleaseForeign(win32::kModAlt, '1');
   hotKeys.ChangeSession(win32::kWtsSessionUnlock);
   EXPECT_TRUE(AltAndOneIsOurs());
   hook.HookWindowProc("REMOVE", kMain);
@@ -98,7 +98,7 @@ TEST_F(UserReturns, ToldBySessionsForAsLongAsTheHookIsThere) {
 }
 
 TEST_F(UserReturns, FromModernStandbyForAsLongAsTheHookIsThere) {
-  hotKeys.ReleaseForeign(1, 0x31);
+  hotKeys.ReleaseForeign(win32::kModAlt, '1');
   hotKeys.EndSleep();
   EXPECT_TRUE(AltAndOneIsOurs());
   hook.HookWindowProc("REMOVE", kMain);
@@ -110,7 +110,7 @@ TEST_F(UserReturns, FromAClassicSleepAlsoWhenWindowsRefusedToTell) {
   hotKeys.refuseNotifications = true;
   hotKeys.modernStandby = false;
   hook.HookWindowProc("SET", kMain);
-  hotKeys.ReleaseForeign(1, 0x31);
+  hotKeys.ReleaseForeign(win32::kModAlt, '1');
   hotKeys.EndSleep();
   EXPECT_TRUE(AltAndOneIsOurs());
 }

@@ -29,7 +29,7 @@ class StartedOptionsExchange : public StartTest {
 
 class OpenOptionsInProgram : public StartedOptionsExchange {
  protected:
-  OpenOptionsInProgram() { PressHotKey(8, 79); }
+  OpenOptionsInProgram() { PressHotKey(win32::kModWin, 'O'); }
 
   class Form& Dialog() {
     return korvale.Loaded("frmOptions");
@@ -93,9 +93,9 @@ TEST_F(OptionsExchangeInProgram, AKeyOfZeroLeavesEachOperationWithoutAHotKey) {
 
 TEST_F(OptionsExchangeInProgram, PauseTogglesWithoutAModifier) {
   StartedCopy();
-  PressHotKey(0, 19);
+  PressHotKey(0, win32::kVkPause);
   EXPECT_EQ(hotKeys.Registered().size(), 1U);
-  PressHotKey(0, 19);
+  PressHotKey(0, win32::kVkPause);
   EXPECT_EQ(hotKeys.Registered().size(), kAllHotKeys);
 }
 
@@ -109,31 +109,31 @@ TEST_F(StartedOptionsExchange, TheToggleTellsAnewWhichHotKeysAreNotAvailable) {
   open();
   EXPECT_EQ(line(), "(none)");
 
-  PressHotKey(0, 19);
-  hotKeys.RegisterForeign(1, 0x33);
+  PressHotKey(0, win32::kVkPause);
+  hotKeys.RegisterForeign(win32::kModAlt, '3');
   EXPECT_EQ(line(), "(none)");
-  PressHotKey(0, 19);
+  PressHotKey(0, win32::kVkPause);
   EXPECT_EQ(line(), refused);
 
-  PressHotKey(0, 19);
+  PressHotKey(0, win32::kVkPause);
   EXPECT_EQ(line(), refused) << "switched off it is no more available than before";
   korvale.Loaded("frmOptions").Unload();
   open();
   EXPECT_EQ(line(), refused);
 
-  hotKeys.ReleaseForeign(1, 0x33);
-  PressHotKey(0, 19);
+  hotKeys.ReleaseForeign(win32::kModAlt, '3');
+  PressHotKey(0, win32::kVkPause);
   EXPECT_EQ(line(), "(none)");
 }
 
 TEST_F(StartedOptionsExchange, TheHotKeyBringsTheDialogBackThatWentWithTheMinimizedStrip) {
-  PressHotKey(8, 79);
+  PressHotKey(win32::kModWin, 'O');
   const WindowHandle dialog = korvale.Loaded("frmOptions").Handle();
   WorkIn(Open("Alpha"));
   desktop.UserMinimizes(korvale.Handle());
   ASSERT_FALSE(desktop.IsWindowVisible(dialog));
 
-  PressHotKey(8, 79);
+  PressHotKey(win32::kModWin, 'O');
 
   EXPECT_TRUE(desktop.IsWindowVisible(dialog));
   EXPECT_EQ(desktop.GetForegroundWindow(), dialog);
@@ -151,7 +151,7 @@ TEST_F(OpenOptionsInProgram, ItsQuestionsAreItsOwn) {
 
 TEST_F(StartedOptionsExchange, TheSessionCanEndWhileItAsks) {
   StoreOption("HotKeyModParent", "2");
-  PressHotKey(8, 79);
+  PressHotKey(win32::kModWin, 'O');
   class Form& dialog = korvale.Loaded("frmOptions");
   korvale.EndSessionAtBox(win32::kIdOk);
   korvale.user.Click(dialog.Handle(), korvale.Id(dialog, "cmdReset"));
@@ -161,7 +161,7 @@ TEST_F(StartedOptionsExchange, TheSessionCanEndWhileItAsks) {
 }
 
 TEST_F(StartedOptionsExchange, TheSessionCanEndWhileItTellsThatTheHotKeysAreOnAgain) {
-  PressHotKey(0, 19);
+  PressHotKey(0, win32::kVkPause);
   korvale.Form().udmOptions("LOAD_AND_OR_REFRESH");
   class Form& dialog = korvale.Loaded("frmOptions");
   int boxes = 0;
@@ -201,7 +201,7 @@ TEST_F(OpenOptionsInProgram, ApplySavesTheOptionsAndThenTheStateAsOne) {
 
 TEST_F(StartedOptionsExchange, AResetThatTheStoreRefusesIsTold) {
   StoreOption("HotKeyModParent", "2");
-  PressHotKey(8, 79);
+  PressHotKey(win32::kModWin, 'O');
   class Form& dialog = korvale.Loaded("frmOptions");
   store.RefuseWrites(true);
   std::string told;
@@ -217,7 +217,7 @@ TEST_F(StartedOptionsExchange, AResetThatTheStoreRefusesIsTold) {
 }
 
 TEST_F(StartedOptionsExchange, AMessageBelongsToTheStripWhileTheDialogIsHiddenWithIt) {
-  PressHotKey(8, 79);
+  PressHotKey(win32::kModWin, 'O');
   desktop.UserMinimizes(korvale.Handle());
   WindowHandle owner = 0;
   korvale.host.WhenMessageBox([&](const ShownMessage& box) {
