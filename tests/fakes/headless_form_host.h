@@ -51,6 +51,8 @@ class HeadlessFormHost : public FormHost,
   /// Queues what the user does when a message loop waits for them.
   void WhenWaiting(std::function<void()> action);
   void WhenMessageBox(Answer answer);
+  /// Answers from now on every message box for which nothing is queued.
+  void AnswerOtherBoxes(Answer answer) { otherAnswer_ = std::move(answer); }
   /// Presses this button of the next message box.
   void AnswerNext(std::int16_t button);
   void WhenPopupMenu(Choose choose);
@@ -178,6 +180,7 @@ class HeadlessFormHost : public FormHost,
   std::vector<std::unique_ptr<HeadlessWindow>> windows_;
   std::deque<Step> steps_;
   std::deque<Answer> answers_;
+  Answer otherAnswer_;
   std::deque<Choose> choices_;
   std::deque<std::function<std::optional<Color>(Color)>> colors_;
   MousePointer pointer_ = MousePointer::kDefault;

@@ -16,7 +16,7 @@ void AnyStore::Live(std::function<bool()> saysYes) {
   saysYes_ = std::move(saysYes);
   KorvaleCopy& korvale = NewCopy();
   korvale.host.SetIdle([&] { return CloseModal(korvale); });
-  Answer(korvale);
+  AnswerBoxes(korvale);
   if (korvale.Start()) {
     Use(korvale);
     const Kept before = KeptBy(korvale);
@@ -30,10 +30,8 @@ void AnyStore::Live(std::function<bool()> saysYes) {
   End(korvale);
 }
 
-void AnyStore::Answer(KorvaleCopy& korvale) {
-  korvale.host.WhenMessageBox([this, &korvale](const ShownMessage& box) {
-    if (box.title.empty()) return std::int16_t{win32::kIdOk};
-    Answer(korvale);
+void AnyStore::AnswerBoxes(KorvaleCopy& korvale) {
+  korvale.host.AnswerOtherBoxes([this](const ShownMessage& box) {
     EXPECT_EQ(box.text.find("VB ERROR"), std::string::npos) << box.text;
     const bool asks = (box.style & kBoxButtonsMask) == win32::kMbYesNo;
     return static_cast<std::int16_t>(!asks        ? win32::kIdOk
@@ -72,7 +70,6 @@ void AnyStore::Use(KorvaleCopy& korvale) {
 }
 
 void AnyStore::End(KorvaleCopy& korvale) {
-  korvale.host.MessageBoxW(0, "", "", win32::kMbOk);
   const WindowHandle owner = korvale.bridge.Owner();
   EndCopy(korvale);
   desktop.Windows().Destroy(owner);

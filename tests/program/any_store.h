@@ -17,7 +17,7 @@ class AnyStore : public KorvaleWorld {
   void Live(std::function<bool()> saysYes);
 
  private:
-  void Answer(KorvaleCopy& korvale);
+  void AnswerBoxes(KorvaleCopy& korvale);
   static bool CloseModal(KorvaleCopy& korvale);
   void Use(KorvaleCopy& korvale);
   void End(KorvaleCopy& korvale);

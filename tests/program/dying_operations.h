@@ -86,9 +86,6 @@ class DyingOperations : public DyingWindowTest {
   void EndKorvale() {
     WorkIn(target);
     korvale->Exit();
-    over = true;
-    korvale->host.MessageBoxW(0, "", "", win32::kMbOk);
-    over = false;
     const WindowHandle owner = korvale->bridge.Owner();
     EndCopy(*korvale);
     desktop.Windows().Destroy(owner);

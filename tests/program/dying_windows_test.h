@@ -32,21 +32,13 @@ class DyingWindowTest : public WindowMenuTest {
     korvale = &StartedCopy();
     AttendTo(*korvale);
   }
-  void TearDown() override {
-    over = true;
-    korvale->host.MessageBoxW(0, "", "", win32::kMbOk);
-  }
 
   /// The user answers whatever a copy shows.
   void AttendTo(KorvaleCopy& copy) {
     copy.host.SetIdle([this, &copy] { return Idle(copy); });
-    AnswerBoxes(copy);
-  }
-  void AnswerBoxes(KorvaleCopy& copy) {
-    copy.host.WhenMessageBox([this, &copy](const ShownMessage& box) {
-      if (!over) AnswerBoxes(copy);
+    copy.host.AnswerOtherBoxes([this](const ShownMessage& box) {
       boxes.push_back(box.text);
-      return static_cast<std::int16_t>(win32::kIdOk);
+      return win32::kIdOk;
     });
   }
   bool Idle(KorvaleCopy& copy) {
@@ -203,7 +195,6 @@ class DyingWindowTest : public WindowMenuTest {
   }
 
   KorvaleCopy* korvale = nullptr;
-  bool over = false;
   bool addsWindow = true;
   WindowHandle target = 0;
   /// What meets the fate; 0 = Alpha.

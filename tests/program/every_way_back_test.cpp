@@ -31,17 +31,7 @@ class EveryWayBackTest : public KorvaleWorld, public testing::WithParamInterface
                         std::string("&") + text);
     }
     korvale = &StartedCopy();
-    AnswerBoxes();
-  }
-  void TearDown() override {
-    over = true;
-    korvale->host.MessageBoxW(0, "", "", win32::kMbOk);
-  }
-  void AnswerBoxes() {
-    korvale->host.WhenMessageBox([this](const ShownMessage& /*box*/) {
-      if (!over) AnswerBoxes();
-      return static_cast<std::int16_t>(win32::kIdOk);
-    });
+    korvale->host.AnswerOtherBoxes([](const ShownMessage& /*box*/) { return win32::kIdOk; });
   }
 
   /// Three windows were worked in, Alpha last, and the main window before them.
@@ -225,7 +215,6 @@ class EveryWayBackTest : public KorvaleWorld, public testing::WithParamInterface
   }
 
   KorvaleCopy* korvale = nullptr;
-  bool over = false;
   WindowHandle tool = 0;
   WindowHandle dialog = 0;
   WindowHandle closed = 0;

@@ -36,13 +36,12 @@ class RefusedAction : public StartTest {
     korvale_->Form().udmSaveOptions();
     korvale_->Form().udmSaveINI();
     told_ = 0;
-    Answer();
+    CountRefusals();
     for (const WindowHandle hwnd : {alpha_, beta_}) WorkIn(hwnd);
     WorkIn(korvale_->Handle());
   }
   void End() {
     if (korvale_->Form().IsLoaded()) korvale_->Exit();
-    korvale_->host.MessageBoxW(0, "", "", win32::kMbOk);
     EndCopy(*korvale_);
   }
 
@@ -60,9 +59,8 @@ class RefusedAction : public StartTest {
     if (options.IsLoaded()) options.Unload();
   }
   /// Presses OK in each box and counts those about the store.
-  void Answer() {
-    korvale_->host.WhenMessageBox([this](const ShownMessage& box) {
-      if (!box.title.empty()) Answer();
+  void CountRefusals() {
+    korvale_->host.AnswerOtherBoxes([this](const ShownMessage& box) {
       if (box.text == "VB ERROR 70 - Permission denied\r\rKorvale Error #5") ++told_;
       return win32::kIdOk;
     });
@@ -170,14 +168,10 @@ TEST_F(RefusedAction, AFirstRunIsToldOfItOnceAndGoesOn) {
       store.RefuseAfterWrites(writes, refusal);
       KorvaleCopy& korvale = NewCopy();
       int told = 0;
-      std::function<void()> answer = [&] {
-        korvale.host.WhenMessageBox([&](const ShownMessage& box) {
-          if (!box.title.empty()) answer();
-          told += box.text.starts_with("VB ERROR 70") ? 1 : 0;
-          return (box.style & win32::kMbYesNo) != 0 ? win32::kIdNo : win32::kIdOk;
-        });
-      };
-      answer();
+      korvale.host.AnswerOtherBoxes([&](const ShownMessage& box) {
+        told += box.text.starts_with("VB ERROR 70") ? 1 : 0;
+        return (box.style & win32::kMbYesNo) != 0 ? win32::kIdNo : win32::kIdOk;
+      });
       EXPECT_TRUE(korvale.Start());
       reached = store.CameToRefusal();
       EXPECT_LE(told, reached ? 1 : 0) << writes;
@@ -187,7 +181,6 @@ TEST_F(RefusedAction, AFirstRunIsToldOfItOnceAndGoesOn) {
       korvale.Exit();
       EXPECT_EQ(KeptIn(store, kName).startup, kept.startup) << writes;
       EXPECT_EQ(KeptIn(store, kName).options, kept.options) << writes;
-      korvale.host.MessageBoxW(0, "", "", win32::kMbOk);
       EndCopy(korvale);
     }
   }

@@ -119,8 +119,7 @@ void SimulatedLife::TickIn(KorvaleCopy* other) {
 
 /// The user answers whatever this copy shows, too.
 void SimulatedLife::AttendTo(KorvaleCopy& copy, std::vector<std::string>& boxes) {
-  copy.host.WhenMessageBox([this, &copy, &boxes](const ShownMessage& box) {
-    AttendTo(copy, boxes);
+  copy.host.AnswerOtherBoxes([&boxes](const ShownMessage& box) {
     boxes.push_back(box.text);
     return box.style == win32::kMbYesNo ? win32::kIdNo : win32::kIdOk;
   });

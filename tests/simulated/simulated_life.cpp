@@ -55,7 +55,7 @@ void SimulatedLife::StartKorvale() {
   hotKeysOn_ = true;
   isTold_ = !dice_.OneIn(6);
   hotKeys.refuseNotifications = !isTold_;
-  WaitForBoxes();
+  korvale_->host.AnswerOtherBoxes([this](const ShownMessage& box) { return AnswerBox(box); });
   EXPECT_TRUE(korvale_->Start());
   HotKeysRegistered();
 }
@@ -78,12 +78,7 @@ void SimulatedLife::Forget(KorvaleCopy& copy) {
   }
 }
 
-void SimulatedLife::WaitForBoxes() {
-  korvale_->host.WhenMessageBox([this](const ShownMessage& box) { return AnswerBox(box); });
-}
-
 std::int16_t SimulatedLife::AnswerBox(const ShownMessage& box) {
-  WaitForBoxes();
   Note("  message box: " + box.text);
   userWasAsked_ = true;
   CheckBox(box);

@@ -78,7 +78,6 @@ class SimulatedLife : public KorvaleWorld {
   void StartKorvale();
   void SetUpScreen(HeadlessFormHost& host);
   void Forget(KorvaleCopy& copy);
-  void WaitForBoxes();
   std::int16_t AnswerBox(const ShownMessage& box);
   void CheckBox(const ShownMessage& box);
   bool LiveInDialog();
@@ -125,7 +124,7 @@ class SimulatedLife : public KorvaleWorld {
   void RefuseSessionEnd();
   void StartSameCopy();
   void StartOtherCopy();
-  void AttendTo(KorvaleCopy& copy, std::vector<std::string>& boxes);
+  static void AttendTo(KorvaleCopy& copy, std::vector<std::string>& boxes);
   void TickIn(KorvaleCopy* other);
   void StartAgain(const Kept& before);
 
