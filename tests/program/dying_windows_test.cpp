@@ -194,7 +194,7 @@ bool ReadsAnother(const std::string& call) {
           call.find("(frm") != std::string::npos);
 }
 
-TEST_P(EveryCallTest, EndsAsSpecified) {
+TEST_P(EveryCallTest, LeavesTheUserAndTheProgramInOrder) {
   const DisturbedOperation& operation = std::get<0>(GetParam());
   const Fate fate = std::get<1>(GetParam());
   constexpr std::size_t kNever = 100'000;

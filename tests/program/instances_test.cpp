@@ -117,7 +117,7 @@ TEST_F(InstancesTest, OnlyAWindowOfTheSameClassAndCaptionIsACopy) {
   EXPECT_TRUE(UsedCopy().Start());
 }
 
-TEST_F(InstancesTest, ACopyThatAsksAboutImportingIsNotAskedAnewByTheSecondOne) {
+TEST_F(InstancesTest, ASecondCopyAsksNothingWhileTheFirstAsksAboutImporting) {
   store.SaveSetting("Korvale Installations", "0", "Korvale - Old", "C:\\Gone\\Old");
   store.SaveSetting("Korvale - Old", "Options", "HotKeyModParent", "2");
   KorvaleCopy& first = NewCopy();

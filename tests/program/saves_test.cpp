@@ -58,7 +58,7 @@ TEST_F(SavesTest, ASelectedTagLeavesTheStoreAlone) {
   EXPECT_EQ(StoreCallsOfTags(), Calls());
 }
 
-TEST_F(SavesTest, SoItDoesAtEveryScale) {
+TEST_F(SavesTest, ASelectedTagLeavesTheStoreAloneAtEveryScale) {
   for (const int dpi : {120, 144, 192}) {
     KorvaleCopy& korvale = UsedCopy();
     korvale.host.SetDpi(dpi);
@@ -69,19 +69,19 @@ TEST_F(SavesTest, SoItDoesAtEveryScale) {
   }
 }
 
-TEST_F(SavesTest, SoItDoesAfterAMinimizedStart) {
+TEST_F(SavesTest, ASelectedTagLeavesTheStoreAloneAfterAMinimizedStart) {
   StoreStartup("WindowState", "1");
   StartedCopy();
   EXPECT_EQ(StoreCallsOfTags(), Calls());
 }
 
-TEST_F(SavesTest, SoItDoesAfterAMaximizedStart) {
+TEST_F(SavesTest, ASelectedTagLeavesTheStoreAloneAfterAMaximizedStart) {
   StoreStartup("WindowState", "2");
   StartedCopy();
   EXPECT_EQ(StoreCallsOfTags(), Calls());
 }
 
-TEST_F(SavesTest, SoItDoesAfterAStartFromAPlaceOffTheScreen) {
+TEST_F(SavesTest, ASelectedTagLeavesTheStoreAloneAfterAStartFromAPlaceOffTheScreen) {
   StoreStartup("Left", "480000");
   StoreStartup("Top", "-90000");
   StartedCopy();

@@ -43,7 +43,7 @@ TEST_F(MenuWidthTest, TheCutTearsNothingThatReadersTakeForOneCharacter) {
   EXPECT_EQ(ShownFor(letters + "🇩🇪🇫🇷🇯🇵🇰🇷"), letters + "🇩🇪...");
 }
 
-TEST_F(MenuWidthTest, SoIsOneThatWindowsCannotMeasure) {
+TEST_F(MenuWidthTest, ACaptionThatWindowsCannotMeasureIsCut) {
   host_.MeasureUpTo(8192);
   EXPECT_EQ(ShownFor(std::string(65536, 'x')), std::string(97, 'x') + "...");
 }
