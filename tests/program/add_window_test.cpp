@@ -21,10 +21,7 @@ class AddWindowStory : public KorvaleWorld {
   /// A started copy; the user has come from a window of this title to its main window.
   KorvaleCopy& StartedAfter(const std::string& title, const NewWindow& options = {}) {
     window_ = Open(title, options);
-    KorvaleCopy& korvale = StartedCopy();
-    WorkIn(window_);
-    WorkIn(korvale.Handle());
-    return korvale;
+    return KorvaleWorld::StartedAfter(window_);
   }
   void Choose(KorvaleCopy& korvale, class Form& dialog, int choice) {
     korvale.user.Click(dialog.Handle(), dialog.Find("optWindow", choice).Id());

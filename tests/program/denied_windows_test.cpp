@@ -29,21 +29,20 @@ class DeniedWindowsTest : public WindowMenuTest {
   }
 
   void PopUpAndChoose(const std::string& beginning) {
-    korvale->host.WhenPopupMenu([=](const std::vector<ShownMenuItem>& items) {
-      const auto found = std::ranges::find_if(
-          items, [&](const ShownMenuItem& item) { return item.caption.starts_with(beginning); });
-      if (found == items.end()) FailTest(beginning + " is missing");
-      return found->caption;
-    });
+    korvale->host.WhenPopupMenu(
+        [=](const std::vector<ShownMenuItem>& items) { return Existing(items, beginning); });
     PressHotKey(win32::kModWin, 'W');
   }
 
   void UseMainWindow(const std::string& beginning) {
-    const std::vector<ShownMenuItem> items = korvale->WindowMenuItems();
-    const auto found = std::ranges::find_if(
-        items, [&](const ShownMenuItem& item) { return item.caption.starts_with(beginning); });
-    if (found == items.end()) FailTest(beginning + " is missing");
-    korvale->user.ChooseMenu(korvale->Handle(), {"Window", found->caption});
+    korvale->user.ChooseMenu(korvale->Handle(),
+                             {"Window", Existing(korvale->WindowMenuItems(), beginning)});
+  }
+  static std::string Existing(const std::vector<ShownMenuItem>& items,
+                              const std::string& beginning) {
+    const std::string entry = EntryThatBegins(items, beginning);
+    if (entry.empty()) FailTest(beginning + " is missing");
+    return entry;
   }
 
   KorvaleCopy* korvale = nullptr;

@@ -136,12 +136,8 @@ class DyingOperations : public DyingWindowTest {
   void PopUpAndEscape() { PopUp(""); }
   void PopUpAndChoose() { PopUp("1  "); }
   void PopUp(const std::string& beginning) {
-    korvale->host.WhenPopupMenu([=](const std::vector<ShownMenuItem>& items) {
-      const auto found = std::ranges::find_if(items, [&](const ShownMenuItem& item) {
-        return !beginning.empty() && item.enabled && item.caption.starts_with(beginning);
-      });
-      return found == items.end() ? std::string() : found->caption;
-    });
+    korvale->host.WhenPopupMenu(
+        [=](const std::vector<ShownMenuItem>& items) { return EntryThatBegins(items, beginning); });
     Press(win32::kModWin, 'W');
   }
   void Tick() { LetTick(); }

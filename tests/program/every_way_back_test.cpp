@@ -168,12 +168,9 @@ class EveryWayBackTest : public KorvaleWorld, public testing::WithParamInterface
   void PopUp(
       const std::string& beginning, const std::function<void()>& prepare = [] {}) {
     korvale->host.WhenPopupMenu([=](const std::vector<ShownMenuItem>& items) {
-      const auto found = std::ranges::find_if(items, [&](const ShownMenuItem& item) {
-        return !beginning.empty() && item.enabled && item.caption.starts_with(beginning);
-      });
-      if (found == items.end()) return std::string();
-      prepare();
-      return found->caption;
+      const std::string entry = EntryThatBegins(items, beginning);
+      if (!entry.empty()) prepare();
+      return entry;
     });
     Key(win32::kModWin, 'W');
   }

@@ -131,6 +131,14 @@ WindowHandle KorvaleWorld::Open(const std::string& title, const NewWindow& optio
   return hwnd;
 }
 
+std::string KorvaleWorld::EntryThatBegins(const std::vector<ShownMenuItem>& items,
+                                          std::string_view beginning) {
+  const auto found = std::ranges::find_if(items, [&](const ShownMenuItem& item) {
+    return !beginning.empty() && item.enabled && item.caption.starts_with(beginning);
+  });
+  return found == items.end() ? std::string() : found->caption;
+}
+
 void KorvaleWorld::WorkIn(WindowHandle hwnd) {
   desktop.UserActivates(hwnd);
   LetTick();

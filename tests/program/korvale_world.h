@@ -116,6 +116,13 @@ class KorvaleWorld : public testing::Test {
     EXPECT_EQ(Front(), title) << "by Tag " << tag;
   }
   void PressTag(int tag) { PressHotKey(win32::kModAlt, static_cast<std::uint32_t>('0' + tag)); }
+  /// The same without the time that a tick takes.
+  void PressTagQuickly(int tag) {
+    EXPECT_TRUE(hotKeys.Press(win32::kModAlt, static_cast<std::uint32_t>('0' + tag)));
+  }
+  /// The caption of the first usable entry that begins so; "" when there is none, and for "".
+  static std::string EntryThatBegins(const std::vector<ShownMenuItem>& items,
+                                     std::string_view beginning);
   /// Lets the foreground tracking notice what has happened.
   void LetTick() { clock.Advance(200); }
   std::string Front() { return desktop.ForegroundTitle(); }

@@ -16,16 +16,7 @@ class LateWayBackTest : public KorvaleWorld {
     korvale = &StartedCopy();
     for (const WindowHandle hwnd : {beta, alpha}) WorkIn(hwnd);
     desktop.DelayForeground(true);
-    PressQuickly(2);
-  }
-
-  void StoreTag(int tag, const std::string& text) {
-    const std::string key = std::to_string(tag);
-    store.SaveSetting("Korvale - Work", "ParentWindowList", key, "&" + key + "  " + text);
-  }
-
-  void PressQuickly(int tag) {
-    EXPECT_TRUE(hotKeys.Press(win32::kModAlt, static_cast<std::uint32_t>('0' + tag)));
+    PressTagQuickly(2);
   }
 
   void LetItCome() {
@@ -40,7 +31,7 @@ class LateWayBackTest : public KorvaleWorld {
 
 TEST_F(LateWayBackTest, AMessageLeadsBackToTheSelectedWindow) {
   korvale->host.AnswerNext(win32::kIdOk);
-  PressQuickly(3);
+  PressTagQuickly(3);
   LetItCome();
   EXPECT_EQ(Front(), "Beta");
   ExpectTagLeadsTo(0, "Alpha");
@@ -51,7 +42,7 @@ TEST_F(LateWayBackTest, AMessageLeadsBackToTheWindowLeftWhenTheSelectedOneHasGon
   desktop.Close(beta);
   desktop.UserActivates(alpha);
   korvale->host.AnswerNext(win32::kIdOk);
-  PressQuickly(2);
+  PressTagQuickly(2);
   EXPECT_EQ(Front(), "Alpha");
 }
 

@@ -17,19 +17,10 @@ class WayBackTest : public KorvaleWorld {
     return copy;
   }
 
-  /// The key without the time that a tick takes.
-  void PressQuickly(int tag) {
-    EXPECT_TRUE(hotKeys.Press(win32::kModAlt, static_cast<std::uint32_t>('0' + tag)));
-  }
-
   /// Pops the Window menu up by its hot key and chooses the entry that begins so; "" closes it.
   void PopUpAndChoose(KorvaleCopy& korvale, const std::string& beginning) {
-    korvale.host.WhenPopupMenu([beginning](const std::vector<ShownMenuItem>& items) {
-      for (const ShownMenuItem& item : items) {
-        if (!beginning.empty() && item.caption.starts_with(beginning)) return item.caption;
-      }
-      return std::string();
-    });
+    korvale.host.WhenPopupMenu(
+        [=](const std::vector<ShownMenuItem>& items) { return EntryThatBegins(items, beginning); });
     PressHotKey(win32::kModWin, 'W');
   }
 
@@ -61,25 +52,25 @@ TEST_F(WayBackFromAlpha, TheTagOfTheRecordedWindowFromAnUntrackedOneChangesNothi
 }
 
 TEST_F(WayBackFromAlpha, TwoQuickKeysLoseNothing) {
-  PressQuickly(0);
-  PressQuickly(1);
+  PressTagQuickly(0);
+  PressTagQuickly(1);
   EXPECT_EQ(Front(), "Alpha");
   ExpectTagLeadsTo(0, "Beta");
 }
 
 TEST_F(WayBackFromAlpha, TwoQuickTagsLoseNothing) {
-  PressQuickly(2);
-  PressQuickly(1);
-  PressQuickly(0);
+  PressTagQuickly(2);
+  PressTagQuickly(1);
+  PressTagQuickly(0);
   EXPECT_EQ(Front(), "Beta");
-  PressQuickly(0);
+  PressTagQuickly(0);
   EXPECT_EQ(Front(), "Alpha");
 }
 
 TEST_F(WayBackFromAlpha, QuickKeysLoseNothingWhenTheWindowsComeForwardLate) {
   desktop.DelayForeground(true);
-  PressQuickly(0);
-  PressQuickly(1);
+  PressTagQuickly(0);
+  PressTagQuickly(1);
   desktop.DelayForeground(false);
   LetTick();
   EXPECT_EQ(Front(), "Alpha");
@@ -88,7 +79,7 @@ TEST_F(WayBackFromAlpha, QuickKeysLoseNothingWhenTheWindowsComeForwardLate) {
 
 TEST_F(WayBackFromAlpha, ATickBeforeTheWindowComesForwardLosesNothing) {
   desktop.DelayForeground(true);
-  PressQuickly(0);
+  PressTagQuickly(0);
   clock.Advance(100);
   desktop.DelayForeground(false);
   LetTick();
@@ -98,7 +89,7 @@ TEST_F(WayBackFromAlpha, ATickBeforeTheWindowComesForwardLosesNothing) {
 
 TEST_F(WayBackFromAlpha, AClickAndAQuickKeyLoseNothing) {
   desktop.UserActivates(gamma);
-  PressQuickly(1);
+  PressTagQuickly(1);
   EXPECT_EQ(Front(), "Alpha");
   ExpectTagLeadsTo(0, "Gamma");
 }
@@ -106,7 +97,7 @@ TEST_F(WayBackFromAlpha, AClickAndAQuickKeyLoseNothing) {
 TEST_F(WayBackFromAlpha, MinimizingAndAQuickTagLoseNothing) {
   EXPECT_TRUE(hotKeys.Press(win32::kModAlt, win32::kVkDown));
   EXPECT_EQ(Front(), "Beta");
-  PressQuickly(1);
+  PressTagQuickly(1);
   EXPECT_EQ(Front(), "Alpha");
   ExpectTagLeadsTo(0, "Beta");
 }
@@ -123,7 +114,7 @@ TEST_F(WayBackFromAlpha, AMomentInTheWindowThatMinimizingBroughtForwardCounts) {
 
 TEST_F(WayBackFromAlpha, MinimizingRightAfterASelectionMinimizesTheSelectedWindow) {
   desktop.DelayForeground(true);
-  PressQuickly(2);
+  PressTagQuickly(2);
   EXPECT_TRUE(hotKeys.Press(win32::kModAlt, win32::kVkDown));
   desktop.DelayForeground(false);
   LetTick();
@@ -135,7 +126,7 @@ TEST_F(WayBackFromAlpha, MinimizingRightAfterASelectionMinimizesTheSelectedWindo
 
 TEST_F(WayBackFromAlpha, MaximizingRightAfterASelectionMaximizesTheSelectedWindow) {
   desktop.DelayForeground(true);
-  PressQuickly(2);
+  PressTagQuickly(2);
   EXPECT_TRUE(hotKeys.Press(win32::kModAlt, win32::kVkUp));
   desktop.DelayForeground(false);
   LetTick();
@@ -167,7 +158,7 @@ TEST_F(WayBackFromAlpha, WhenTheWindowInFrontClosesTheOneBeforeItsSuccessorIsNex
 TEST_F(WayBackFromAlpha, WhenTheWindowInFrontClosesTheNextKeyNeedsNoTick) {
   desktop.Close(alpha);
   desktop.UserActivates(beta);
-  PressQuickly(0);
+  PressTagQuickly(0);
   EXPECT_EQ(Front(), "Gamma");
 }
 

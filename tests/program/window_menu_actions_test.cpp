@@ -9,12 +9,11 @@ using Calls = std::vector<std::string>;
 
 class WindowMenuActionsTest : public KorvaleWorld {
  protected:
-  /// A started copy; the user has come from `window` to its main window.
+  /// A started copy, written as "Korvale" in the log; the user has come from `window` to its main
+  /// window.
   KorvaleCopy& StartedAfter(WindowHandle window) {
-    KorvaleCopy& korvale = StartedCopy();
+    KorvaleCopy& korvale = KorvaleWorld::StartedAfter(window);
     log.NameWindow(korvale.Handle(), "Korvale");
-    WorkIn(window);
-    WorkIn(korvale.Handle());
     log.Clear();
     return korvale;
   }
