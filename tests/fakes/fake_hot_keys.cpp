@@ -64,7 +64,7 @@ bool FakeHotKeys::RegisterForeign(std::uint32_t modifiers, std::uint32_t key) {
 }
 
 void FakeHotKeys::StartShell() {
-  for (const char key : std::string_view("0123456789ABCDEFGHIKLMNOPQRSTUVWXZ")) {
+  for (const char key : kShellKeys) {
     RegisterForeign(win32::kModWin, static_cast<std::uint32_t>(key));
   }
 }

@@ -7,6 +7,7 @@
 #include <map>
 #include <optional>
 #include <set>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -32,6 +33,8 @@ class FakeHotKeys : public HotKeyApi {
     friend bool operator==(const Registration&, const Registration&) = default;
   };
   using IsWindow = std::function<bool(WindowHandle)>;
+  /// What the shell of Windows 10 and 11 takes along with Windows: nearly every digit and letter.
+  static constexpr std::string_view kShellKeys = "0123456789ABCDEFGHIKLMNOPQRSTUVWXZ";
 
   /// `isWindow` tells which windows exist; without it all do.
   explicit FakeHotKeys(CallLog& log, IsWindow isWindow = {});
@@ -49,7 +52,7 @@ class FakeHotKeys : public HotKeyApi {
                         std::intptr_t lParam = 0);
   /// Another program takes a combination; false when it is taken already.
   bool RegisterForeign(std::uint32_t modifiers, std::uint32_t key);
-  /// The shell of Windows 10 and 11 starts: it takes Windows with nearly every letter and digit.
+  /// The shell starts, and takes its keys.
   void StartShell();
   void ReleaseForeign(std::uint32_t modifiers, std::uint32_t key);
   /// The computer wakes up: the windows that asked for it are told so, and all others, too, unless

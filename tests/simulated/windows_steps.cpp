@@ -1,5 +1,4 @@
 #include <array>
-#include <string_view>
 
 #include "platform/win32_constants.h"
 #include "tests/simulated/simulated_life.h"
@@ -9,7 +8,6 @@ namespace korvale {
 namespace {
 
 constexpr std::uint32_t kDigitZeroKey = '0';
-constexpr std::string_view kShellKeys = "0123456789ABCDEFGHIKLMNOPQRSTUVWXZ";
 
 }  // namespace
 
@@ -33,7 +31,7 @@ void SimulatedLife::ReleaseCombination() {
 /// As Explorer does when it starts.
 void SimulatedLife::StartShellKeys() {
   Note("Explorer takes its hot keys");
-  for (const char key : kShellKeys) {
+  for (const char key : FakeHotKeys::kShellKeys) {
     const Combination combination = {win32::kModWin, static_cast<std::uint32_t>(key)};
     if (hotKeys.RegisterForeign(combination.first, combination.second)) {
       foreign_.insert(combination);
