@@ -62,10 +62,4 @@ AssertionResult OptionsTest::Shows(const OptionsDialog& dialog, List list,
                             << "'";
 }
 
-AssertionResult OptionsTest::HoldsOption(const std::string& key, const std::string& value) {
-  if (WaitFor([&] { return settings().Get("Options", key) == value; })) return AssertionSuccess();
-  return AssertionFailure() << key << " is '" << settings().Get("Options", key).value_or("(none)")
-                            << "', not '" << value << "'";
-}
-
 }  // namespace korvale::endtoend

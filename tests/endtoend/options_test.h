@@ -30,8 +30,6 @@ class OptionsTest : public StoreTest {
   /// Waits until the list shows that entry.
   ::testing::AssertionResult Shows(const OptionsDialog& dialog, List list,
                                    const std::string& entry);
-  /// Waits until the settings hold that option.
-  ::testing::AssertionResult HoldsOption(const std::string& key, const std::string& value);
 
  private:
   OptionsDialog WaitForOptions();

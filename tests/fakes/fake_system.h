@@ -22,7 +22,7 @@ class FakeSession {
  public:
   /// Called while a program waits for a mutex that another one holds, so that this one can act.
   void WhenWaiting(std::function<void()> action) { when_waiting_ = std::move(action); }
-  /// The number of programs that hold the mutex: 0 or 1.
+  /// Whether a program holds the mutex.
   bool IsHeld(const std::string& name) const { return holders_.contains(name); }
 
   /// Path -> what programs have written to the file.

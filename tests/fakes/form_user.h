@@ -38,9 +38,6 @@ class FormUser {
   int ListIndex(std::string_view name, int index = -1) {
     return hands_->ListIndex(Window(), Id(name, index));
   }
-  bool HasFocus(std::string_view name, int index = -1) {
-    return hands_->Focus(Window()) == Id(name, index);
-  }
 
   void Click(std::string_view name, int index = -1) { hands_->Click(Window(), Id(name, index)); }
   void Pick(std::string_view name, int listIndex) { PickAt(name, -1, listIndex); }

@@ -68,8 +68,8 @@ class KorvaleCopy {
   /// Texts in the two fields of the strip.
   std::string TargetWindow() { return Form().Find("txtWindow").Text(); }
   std::string TargetClass() { return Form().Find("txtWindowClass").Text(); }
-  /// Tags a window through the Add Window dialog: works in it, chooses the menu entry, and presses
-  /// OK with what `prepare` did in the dialog.
+  /// Tags the window that the user has come from through the Add Window dialog: chooses the last
+  /// entry of the Window menu, and presses OK after what `prepare` did in the dialog.
   void TagPrevious(const std::function<void(class Form&)>& prepare = {});
 
   FakeSystem system;
