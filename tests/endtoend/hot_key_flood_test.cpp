@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "tests/endtoend/harness/gui_mode.h"
 #include "tests/endtoend/harness/options_dialog.h"
 #include "tests/endtoend/harness/real_program.h"
 #include "tests/endtoend/korvale_test.h"
@@ -32,15 +33,6 @@ class HotKeyFlood : public KorvaleTest {
                    MAKELPARAM(MOD_ALT, '0' + tag));
     }
   }
-
-  /// The user does that with a window of the same thread (GUI_INMOVESIZE, GUI_INMENUMODE).
-  static bool IsIn(DWORD mode, Window window) {
-    GUITHREADINFO info{};
-    info.cbSize = sizeof(info);
-    GetGUIThreadInfo(GetWindowThreadProcessId(window.handle(), nullptr), &info);
-    return (info.flags & mode) != 0;
-  }
-  bool IsDragged() { return IsIn(GUI_INMOVESIZE, main()); }
 
   void ExpectKeysToWork() {
     ASSERT_TRUE(WorkIn(Open("Gamma")));
@@ -88,11 +80,11 @@ TEST_F(HotKeyFlood, DuringADragOfTheMainWindowLetsItEnd) {
   bool pressed = false;
   Drag(from, {from.x + 80, from.y + 60}, [&] {
     if (pressed) return;
-    pressed = WaitFor([this] { return IsDragged(); });
+    pressed = WaitFor([this] { return IsMovedOrSized(main()); });
     PressAtOnce(TagKey(2));
   });
   EXPECT_TRUE(pressed);
-  EXPECT_TRUE(WaitFor([this] { return !IsDragged(); }));
+  EXPECT_TRUE(WaitFor([this] { return !IsMovedOrSized(main()); }));
   EXPECT_TRUE(main().Responds());
   EXPECT_FALSE(korvale_->HasMessageBox());
   ExpectKeysToWork();
@@ -102,12 +94,12 @@ TEST_F(HotKeyFlood, DuringAMoveOfTheMainWindowByTheKeyboardLeadsToTheWindow) {
   StartBesideAlpha();
   ASSERT_TRUE(BringToFront(main()));
   PostMessageW(main().handle(), WM_SYSCOMMAND, SC_MOVE, 0);
-  ASSERT_TRUE(WaitFor([this] { return IsDragged(); }));
+  ASSERT_TRUE(WaitFor([this] { return IsMovedOrSized(main()); }));
   PressAtOnce(TagKey(2));
   EXPECT_TRUE(InFront(alpha_));
   ASSERT_TRUE(BringToFront(main()));
   Press({0, VK_ESCAPE});
-  EXPECT_TRUE(WaitFor([this] { return !IsDragged(); }));
+  EXPECT_TRUE(WaitFor([this] { return !IsMovedOrSized(main()); }));
   EXPECT_FALSE(korvale_->HasMessageBox());
   ExpectKeysToWork();
 }
@@ -128,7 +120,7 @@ class HotKeyElsewhere : public HotKeyFlood {
 TEST_F(HotKeyElsewhere, DuringAMoveOfAnotherProgramsWindowByTheKeyboardLeadsToTheWindow) {
   const Window window = StartInElsewhere();
   PostMessageW(window.handle(), WM_SYSCOMMAND, SC_MOVE, 0);
-  ASSERT_TRUE(WaitFor([&] { return IsIn(GUI_INMOVESIZE, window); }));
+  ASSERT_TRUE(WaitFor([&] { return IsMovedOrSized(window); }));
   PressAtOnce(TagKey(2));
   EXPECT_TRUE(InFront(alpha_));
   EXPECT_FALSE(korvale_->HasMessageBox());
@@ -140,7 +132,7 @@ TEST_F(HotKeyElsewhere, InAnotherProgramsMenuLeadsToTheWindow) {
   const RealProgram notepad = StartNotepad();
   ASSERT_TRUE(WorkIn(notepad.window()));
   Press({MOD_ALT, 'F'});
-  ASSERT_TRUE(WaitFor([&] { return IsIn(GUI_INMENUMODE, notepad.window()); }));
+  ASSERT_TRUE(WaitFor([&] { return IsInMenu(notepad.window()); }));
   PressAtOnce(TagKey(2));
   EXPECT_TRUE(InFront(alpha_));
   EXPECT_FALSE(korvale_->HasMessageBox());

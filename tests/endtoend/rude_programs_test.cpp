@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "tests/endtoend/harness/color_dialog.h"
+#include "tests/endtoend/harness/gui_mode.h"
 #include "tests/endtoend/harness/main_window.h"
 #include "tests/endtoend/korvale_test.h"
 #include "tests/endtoend/rude_messages.h"
@@ -24,14 +25,6 @@ bool IsShownByProgram(Window window) {
   const std::string name = window.ClassName();
   return name.starts_with("Korvale.") || name == kToolTips || name == "ComboLBox" ||
          name == "#32770";
-}
-
-/// The user moves or sizes a window of this one's thread.
-bool IsMoved(Window window) {
-  GUITHREADINFO info{};
-  info.cbSize = sizeof(info);
-  const DWORD thread = GetWindowThreadProcessId(window.handle(), nullptr);
-  return GetGUIThreadInfo(thread, &info) != FALSE && (info.flags & GUI_INMOVESIZE) != 0;
 }
 
 bool IsControl(Window window) { return (window.Style() & WS_CHILD) != 0; }
@@ -252,9 +245,9 @@ TEST_F(RudePrograms, ReachNoMenuAndNoMoveThatFollowsAQuietTime) {
 
   ASSERT_TRUE(BringToFront(main()));
   PostMessageW(main().handle(), WM_SYSCOMMAND, SC_MOVE, 0);
-  ASSERT_TRUE(WaitFor([&] { return IsMoved(main()); }) && postTimer());
+  ASSERT_TRUE(WaitFor([&] { return IsMovedOrSized(main()); }) && postTimer());
   Press({0, VK_ESCAPE});
-  ASSERT_TRUE(WaitFor([&] { return !IsMoved(main()); }) && WorkIn(alpha_));
+  ASSERT_TRUE(WaitFor([&] { return !IsMovedOrSized(main()); }) && WorkIn(alpha_));
   ExpectAllToWork();
 }
 

@@ -9,10 +9,12 @@
 #include <string>
 
 #include "platform/windows/handles.h"
+#include "tests/endtoend/harness/installed.h"
 
 namespace korvale {
 namespace {
 
+using endtoend::RunsUnderWine;
 namespace fs = std::filesystem;
 
 class WindowsCrashApiTest : public testing::Test {
@@ -26,10 +28,6 @@ class WindowsCrashApiTest : public testing::Test {
     fs::remove(Dump());
   }
 
-  /// Wine 8 cannot tell a program that its stack has run out.
-  static bool IsWine() {
-    return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
-  }
   static fs::path Folder() {
     wchar_t path[MAX_PATH];
     GetModuleFileNameW(nullptr, path, MAX_PATH);
@@ -75,7 +73,8 @@ TEST_F(WindowsCrashApiTest, ReportsAnExceptionFromAnotherThreadAndEndsAsItDoes) 
 TEST_F(WindowsCrashApiTest, ReportsAStackThatRanOut) {
   EXPECT_EQ(Run("used up stack"), 0xC00000FD);
   EXPECT_EQ(Content(Report()), "C00000FD \n");
-  if (IsWine()) return;
+  // Wine 8 cannot tell a program that its stack has run out.
+  if (RunsUnderWine()) return;
   fs::remove(Report());
   EXPECT_EQ(Run("overflow"), 0xC00000FD);
   EXPECT_EQ(Content(Report()), "C00000FD \n");
