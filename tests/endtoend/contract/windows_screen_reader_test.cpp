@@ -1,10 +1,16 @@
 #include <gtest/gtest.h>
 #include <windows.h>
-// After windows.h, which they need; the first makes the others define their identifiers.
+// After windows.h, which they need; the second makes those behind it define their identifiers.
+#include <commctrl.h>
 #include <initguid.h>
 #include <objbase.h>
 #include <oleacc.h>
 
+#include <array>
+#include <chrono>
+#include <cstdint>
+#include <future>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -66,6 +72,18 @@ class WindowsScreenReaderTest : public RealForm {
     return role.lVal;
   }
 
+  /// Asks for the text of the first tab as a screen reader does, from outside.
+  LRESULT AskAboutTab(TCITEMW* question) {
+    const HWND strip = Control("tabPages");
+    std::future<LRESULT> answer = std::async(std::launch::async, [=] {
+      return SendMessageW(strip, TCM_GETITEMW, 0, reinterpret_cast<LPARAM>(question));
+    });
+    while (answer.wait_for(std::chrono::seconds(0)) != std::future_status::ready) {
+      User().LetPass(10);
+    }
+    return answer.get();
+  }
+
   HRESULT com_;
 
  private:
@@ -105,6 +123,44 @@ TEST_F(WindowsScreenReaderTest, LearnsTheRoleOfAForm) {
   RecordingForm alert(WithRole(FormRole::kAlert), forms_);
   alert.Show();
   EXPECT_EQ(RoleOf(ToHwnd(alert.Handle())), ROLE_SYSTEM_ALERT);
+  ShowForm();
+  EXPECT_EQ(RoleOf(Control("picPage", 0)), ROLE_SYSTEM_PROPERTYPAGE);
+}
+
+/// A question about a tab in one piece of memory with the room for its text.
+struct TabQuestion {
+  TCITEMW question{};
+  std::array<wchar_t, 20> text{};
+
+  TabQuestion() {
+    question.mask = TCIF_TEXT;
+    question.pszText = text.data();
+    question.cchTextMax = static_cast<int>(text.size());
+  }
+};
+
+TEST_F(WindowsScreenReaderTest, LearnsTheTextOfATab) {
+  ShowForm();
+  TabQuestion whole;
+  EXPECT_EQ(AskAboutTab(&whole.question), TRUE);
+  EXPECT_EQ(std::wstring(whole.text.data()), L"One");
+  TabQuestion shortened;
+  shortened.question.cchTextMax = 3;
+  EXPECT_EQ(AskAboutTab(&shortened.question), TRUE);
+  EXPECT_EQ(std::wstring(shortened.text.data()), L"On");
+}
+
+TEST_F(WindowsScreenReaderTest, IsToldOfATabOnlyWhereItAsks) {
+  ShowForm();
+  static wchar_t elsewhere[20] = L"ours";
+  TabQuestion misled;
+  misled.question.pszText = elsewhere;
+  EXPECT_EQ(AskAboutTab(&misled.question), FALSE);
+  EXPECT_EQ(std::wstring(elsewhere), L"ours");
+  TabQuestion roomless;
+  roomless.question.cchTextMax = -1;
+  EXPECT_EQ(AskAboutTab(&roomless.question), FALSE);
+  EXPECT_EQ(AskAboutTab(reinterpret_cast<TCITEMW*>(std::uintptr_t{64})), FALSE);
 }
 
 }  // namespace
