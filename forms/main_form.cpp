@@ -8,8 +8,6 @@
 #include "forms/main_form_design.h"
 #include "hotkeys/hot_key_names.h"
 #include "platform/run_time_error.h"
-#include "util/forms.h"
-#include "util/text.h"
 
 namespace korvale {
 

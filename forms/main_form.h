@@ -6,7 +6,6 @@
 #include <string>
 #include <string_view>
 
-#include "app/core/identity.h"
 #include "app/core/installation.h"
 #include "desktop/main_window.h"
 #include "forms/about_form.h"
@@ -51,10 +50,13 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   MainParts& Parts() { return parts_; }
   frmMsgBox2& About() { return about_; }
 
+  /// Takes the program down, the first time only (ProgramLifetime::Unload).
   void udmUnload(bool booNormalShutDown);
   void udmLoadOptions() override;
+  /// Stores the options record; error 70 when the store refuses.
   void udmSaveOptions();
   void udmDeleteOptions() override;
+  /// Stores the main window's state and the Tag list; error 70 when the store refuses.
   void udmSaveINI();
   /// Whether the store holds the main window's state and the Tag list as they are now.
   bool HoldsINI() const;
@@ -68,7 +70,9 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   void LoadStartupSettings();
   /// Replaces all settings by those loaded elsewhere.
   void UseSettings(const InstallationSettings& settings);
+  /// Tells the user of an error; does nothing while others end the program.
   void udmNonFatalError(ErrorPlace intErrorNumber, std::int16_t intVB_ErrNumber);
+  /// Tells the user of an error, records it and ends the program with ProgramEnded.
   [[noreturn]] void udmFatalError(ErrorPlace intErrorNumber, std::int16_t intVB_ErrNumber,
                                   const FatalErrorTexts& texts);
   /// Reports from a thread of its own that the program has crashed.
@@ -136,7 +140,7 @@ class frmMain : public Form, public MainWindow, public HotKeyActions, public Opt
   void SetOptionsTab(std::int16_t tab) override { parts_.startup.OptionsTab = tab; }
   void OptionsDialogClosed() override;
 
-  /// Windows calls it, except for a window that is shown minimized.
+  /// To be called for a window that is shown minimized, which Windows does not activate.
   void Form_Activate() override;
 
  protected:

@@ -2,7 +2,6 @@
 #include <utility>
 
 #include "forms/main_form.h"
-#include "forms/main_form_design.h"
 #include "forms/options_design.h"
 #include "platform/win32_constants.h"
 #include "ui/menu_width.h"

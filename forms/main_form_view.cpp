@@ -5,7 +5,6 @@
 #include "forms/main_form_design.h"
 #include "platform/win32_constants.h"
 #include "ui/form_placement.h"
-#include "util/forms.h"
 
 namespace korvale {
 
