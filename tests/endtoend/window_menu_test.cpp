@@ -65,10 +65,10 @@ TEST_F(WindowMenu, PoppedUpTwiceWorksAgainAfterEscape) {
   installation_.StoreTag(3, "Alpha", kClass);
   Start();
   const Window alpha = Open("Alpha");
-  ASSERT_TRUE(WorkIn(Open("Beta")));
+  const Window beta = WorkInNew("Beta");
   ASSERT_TRUE(PopUpWindowMenu());
   Press({0, VK_ESCAPE});
-  ASSERT_TRUE(WaitFor([&] { return !korvale_->HasMenu(); }));
+  ASSERT_TRUE(InFront(beta));
   ASSERT_TRUE(PopUpWindowMenu());
   Press({0, '3'});
   EXPECT_TRUE(InFront(alpha));
