@@ -16,6 +16,9 @@ class ScreenQueries {
   virtual TwipsRect GetMonitorInfoW(WindowHandle hwnd) = 0;
   /// The work area, in twips, of the monitor under the mouse pointer (MonitorFromPoint).
   virtual TwipsRect MonitorFromPoint() = 0;
+  /// The dots per inch of that monitor (GetDpiForMonitor); those of the system when Windows cannot
+  /// tell.
+  virtual int GetDpiForMonitor() = 0;
   /// Where the form really is, place and size in twips of the system's dots per inch, as the work
   /// areas count them (GetWindowRect).
   virtual TwipsRect GetWindowRect(WindowHandle hwnd) = 0;

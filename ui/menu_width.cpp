@@ -44,8 +44,11 @@ std::string Fitting(ScreenQueries& screen, WindowHandle hwnd, const std::string&
 }  // namespace
 
 void FitMenuToScreen(ScreenQueries& screen, WindowHandle hwnd, MenuItem& menu) {
-  const Twips narrowest =
-      std::min(screen.GetMonitorInfoW(hwnd).width, screen.MonitorFromPoint().width);
+  // The pop-up is drawn with the dots of the monitor that it comes up on, but measured with those
+  // of the form.
+  const Twips underPointer =
+      screen.MonitorFromPoint().width * screen.GetDpiForWindow(hwnd) / screen.GetDpiForMonitor();
+  const Twips narrowest = std::min(screen.GetMonitorInfoW(hwnd).width, underPointer);
   const Twips beside =
       std::max(kBesideText, screen.GetTextExtentPoint32W(hwnd, kAsWideAsBesideText));
   for (const auto& item : menu.items) {

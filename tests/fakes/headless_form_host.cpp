@@ -126,15 +126,16 @@ WindowHandle HeadlessFormHost::CreateWindowExW(const FormState& form, FormEvents
   window->events = &events;
   window->place = form.place;
   window->restored = form.place;
-  window->frame = AdjustWindowRectEx(form);
+  window->monitor = FindMonitor(monitors_, form.place);
   for (const ControlState& control : form.controls) window->controls.push_back({control, {}});
   window->DrawMenuBar();
   window->handle = desktop_->Create(form, CountChildren(form));
-  desktop_->SetPlace(window->handle, OnScreen(*window));
-  log_->NameWindow(window->handle, form.name);
+  HeadlessWindow& made = *windows_.emplace_back(std::move(window));
+  made.frame = AdjustWindowRectEx(form);
+  desktop_->SetPlace(made.handle, OnScreen(made));
+  log_->NameWindow(made.handle, form.name);
   log_->Add("CreateWindowExW(" + form.name + ")");
-  windows_.push_back(std::move(window));
-  return windows_.back()->handle;
+  return made.handle;
 }
 
 void HeadlessFormHost::DestroyWindow(WindowHandle hwnd) {
@@ -169,18 +170,16 @@ void HeadlessFormHost::SetWindowTextW(WindowHandle hwnd) {
 void HeadlessFormHost::MoveWindow(WindowHandle hwnd) {
   HeadlessWindow& window = Window(hwnd);
   log_->Add("MoveWindow(" + log_->Window(hwnd) + ")");
+  const HeadlessScale before = ScaleOf(hwnd);
   Place(window, window.form->place);
+  const bool other = ScaleOf(hwnd) != before;
   // A hidden window is in the normal state, however it will be shown.
   const ShowState state = desktop_->State(hwnd);
   const TwipsRect taken = window.place;
   Tell(hwnd, [&](FormEvents& events) { events.OnPlaced(state, taken); });
-}
-
-void HeadlessFormHost::Place(HeadlessWindow& window, const TwipsRect& place) {
-  window.frame = AdjustWindowRectEx(*window.form);
-  window.place = Limited(place, window.form->limits);
-  if (desktop_->State(window.handle) == ShowState::kNormal) window.restored = window.place;
-  desktop_->SetPlace(window.handle, OnScreen(window));
+  if (other && FindWindow(hwnd) != nullptr) {
+    Tell(hwnd, [](FormEvents& events) { events.OnDpiChanged(); });
+  }
 }
 
 void HeadlessFormHost::DrawMenuBar(WindowHandle hwnd) {

@@ -72,7 +72,21 @@ class HeadlessFormHost : public FormHost,
   void Post(std::function<void()> message) { posted_.push_back(std::move(message)); }
   /// The frame of a form with a border, as AdjustWindowRectEx returns it, and the height of a menu.
   void SetFrame(const TwipsRect& frame, Twips menuHeight);
-  void SetDpi(int dpi) { dpi_ = dpi; }
+  /// All of the screen has so many dots per inch.
+  void SetDpi(int dpi);
+  /// The monitors that the program finds when it starts.
+  void SetMonitors(std::vector<HeadlessMonitor> monitors);
+  /// The user changes, adds or takes away monitors, or moves a taskbar; tells every form. Counts
+  /// the dots per inch that the system had before.
+  void ChangeMonitors(std::vector<HeadlessMonitor> monitors);
+  const std::vector<HeadlessMonitor>& Monitors() const { return monitors_; }
+  /// Puts a window of another program on a monitor.
+  void PutOnMonitor(WindowHandle hwnd, std::size_t monitor) { elsewhere_[hwnd] = monitor; }
+  /// Puts the mouse pointer on a monitor.
+  void PointAtMonitor(std::size_t monitor) { underPointer_ = monitor; }
+  /// The user, or the program, has moved the window: it takes on the dots of its monitor.
+  void Place(HeadlessWindow& window, const TwipsRect& place);
+  HeadlessScale ScaleOf(WindowHandle hwnd) { return {GetDpiForWindow(hwnd), GetDpiOfForm(hwnd)}; }
   /// The user makes all text so many percent of its usual size; tells every form. Frame and menus
   /// keep their size until SetFrame gives another.
   void ChangeTextSize(int percent);
@@ -82,7 +96,8 @@ class HeadlessFormHost : public FormHost,
   void ChangeSysColor(Color system, Color shown);
   /// The user turns high contrast on or off; tells every form.
   void ChangeHighContrast(bool on);
-  void SetWorkArea(const TwipsRect& workArea) { workArea_ = workArea; }
+  /// There is one monitor, and nothing beside its work area.
+  void SetWorkArea(const TwipsRect& workArea);
   /// As above; tells every form.
   void ChangeWorkArea(const TwipsRect& workArea);
 
@@ -127,11 +142,12 @@ class HeadlessFormHost : public FormHost,
   TwipsRect AdjustWindowRectEx(const FormState& form) override;
   Color GetSysColor(Color color) override;
   bool HighContrast() override { return highContrast_; }
-  int GetDpiForWindow(WindowHandle hwnd) override { return Window(hwnd).handle != 0 ? dpi_ : 0; }
+  int GetDpiForWindow(WindowHandle hwnd) override { return monitors_[Window(hwnd).monitor].dpi; }
   int GetDpiOfForm(WindowHandle hwnd) override { return DpiOf(*Window(hwnd).form); }
   TwipsRect GetMonitorInfoW(WindowHandle hwnd) override;
-  TwipsRect MonitorFromPoint() override { return workArea_; }
-  /// Every character is 100 twips wide, more where the text is bigger.
+  TwipsRect MonitorFromPoint() override { return monitors_.at(underPointer_).workArea; }
+  int GetDpiForMonitor() override { return monitors_.at(underPointer_).dpi; }
+  /// Every character is 100 twips wide, more where the text is bigger or the dots are finer.
   Twips GetTextExtentPoint32W(WindowHandle hwnd, const std::string& text) override;
   TwipsRect GetWindowRect(WindowHandle hwnd) override { return OnScreen(Window(hwnd)); }
   std::int16_t MessageBoxW(WindowHandle owner, const std::string& text, const std::string& title,
@@ -165,9 +181,12 @@ class HeadlessFormHost : public FormHost,
   int DpiOf(const FormState& form) const;
   /// The window's place with its size in twips of the usual text, as the work area counts them.
   TwipsRect OnScreen(const HeadlessWindow& window) const;
+  /// The window's place, moved so that it stays on its monitor if it has become larger there.
+  TwipsRect Kept(const HeadlessWindow& window) const;
   /// The whole work area, in the twips of the window.
   TwipsRect Maximized(const HeadlessWindow& window) const;
-  void Place(HeadlessWindow& window, const TwipsRect& place);
+  /// The monitor whose dots per inch a form has; the primary one while it has no window.
+  const HeadlessMonitor& MonitorOf(const FormState& form) const;
   void WindowActivated(WindowHandle hwnd) override;
   void WindowStateChanged(WindowHandle hwnd, ShowState state) override;
   bool RunPosted();
@@ -195,8 +214,10 @@ class HeadlessFormHost : public FormHost,
   std::vector<std::string> announced_;
   TwipsRect frame_ = {45, 355, 90, 400};
   Twips menuHeight_ = 300;
-  TwipsRect workArea_ = {0, 0, 15360, 11100};
-  int dpi_ = 96;
+  std::vector<HeadlessMonitor> monitors_ = {{{0, 0, 15360, 11100}, {0, 0, 15360, 11100}, 96}};
+  int dpi_ = 96;  ///< Of the system.
+  std::map<WindowHandle, std::size_t> elsewhere_;
+  std::size_t underPointer_ = 0;
   int textPercent_ = 100;
   std::int32_t measurable_ = std::numeric_limits<std::int32_t>::max();
   std::map<Color, Color> sysColors_ = {

@@ -26,8 +26,17 @@ void HeadlessFormHost::ChangeTextSize(int percent) {
   TellMetricsChanged();
 }
 
+void HeadlessFormHost::SetDpi(int dpi) {
+  dpi_ = dpi;
+  for (HeadlessMonitor& monitor : monitors_) monitor.dpi = dpi;
+}
+
+void HeadlessFormHost::SetWorkArea(const TwipsRect& workArea) {
+  monitors_ = {{workArea, workArea, dpi_}};
+}
+
 void HeadlessFormHost::ChangeWorkArea(const TwipsRect& workArea) {
-  workArea_ = workArea;
+  SetWorkArea(workArea);
   TellMetricsChanged();
 }
 
@@ -39,7 +48,7 @@ void HeadlessFormHost::TellMetricsChanged() {
     HeadlessWindow* const window = FindWindow(hwnd);
     if (window == nullptr) continue;
     const ShowState state = desktop_->State(hwnd);
-    Place(*window, state == ShowState::kMaximized ? Maximized(*window) : window->place);
+    Place(*window, state == ShowState::kMaximized ? Maximized(*window) : Kept(*window));
     const TwipsRect taken = window->place;
     Tell(hwnd, [&](FormEvents& events) { events.OnPlaced(state, taken); });
     if (FindWindow(hwnd) == nullptr) continue;
@@ -67,10 +76,11 @@ TwipsRect HeadlessFormHost::FrameOf(const FormState& form) const {
 }
 
 int HeadlessFormHost::DpiOf(const FormState& form) const {
+  const auto& [area, workArea, dpi] = MonitorOf(form);
   const TwipsRect frame = FrameOf(form);
-  return FormDpi(dpi_, UsualTextHeight(dpi_) * textPercent_ / 100, form.content,
-                 Pixels(workArea_.width - frame.width, dpi_),
-                 Pixels(workArea_.height - frame.height, dpi_));
+  return FormDpi(dpi, UsualTextHeight(dpi) * textPercent_ / 100, form.content,
+                 Pixels(workArea.width - Scaled(frame.width, dpi, dpi_), dpi_),
+                 Pixels(workArea.height - Scaled(frame.height, dpi, dpi_), dpi_));
 }
 
 TwipsRect HeadlessFormHost::OnScreen(const HeadlessWindow& window) const {
@@ -81,23 +91,22 @@ TwipsRect HeadlessFormHost::OnScreen(const HeadlessWindow& window) const {
 
 TwipsRect HeadlessFormHost::Maximized(const HeadlessWindow& window) const {
   const int dpi = DpiOf(*window.form);
-  return {workArea_.left, workArea_.top, Scaled(workArea_.width, dpi_, dpi),
-          Scaled(workArea_.height, dpi_, dpi)};
+  const TwipsRect& area = MonitorOf(*window.form).workArea;
+  return {area.left, area.top, Scaled(area.width, dpi_, dpi), Scaled(area.height, dpi_, dpi)};
 }
 
 TwipsRect HeadlessFormHost::AdjustWindowRectEx(const FormState& form) {
   const TwipsRect frame = FrameOf(form);
   const int dpi = DpiOf(form);
-  return {Scaled(frame.left, dpi_, dpi), Scaled(frame.top, dpi_, dpi),
-          Scaled(frame.width, dpi_, dpi), Scaled(frame.height, dpi_, dpi)};
+  const int dots = MonitorOf(form).dpi;
+  return {Scaled(frame.left, dots, dpi), Scaled(frame.top, dots, dpi),
+          Scaled(frame.width, dots, dpi), Scaled(frame.height, dots, dpi)};
 }
 
 Twips HeadlessFormHost::GetTextExtentPoint32W(WindowHandle hwnd, const std::string& text) {
-  Window(hwnd);
   const std::int32_t characters = CharacterCount(text);
-  return characters > measurable_ ? 0 : textPercent_ * characters;
+  return characters > measurable_ ? 0
+                                  : Scaled(textPercent_ * characters, GetDpiForWindow(hwnd), dpi_);
 }
-
-TwipsRect HeadlessFormHost::GetMonitorInfoW(WindowHandle /*hwnd*/) { return workArea_; }
 
 }  // namespace korvale

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -35,14 +36,34 @@ struct DrawnMenu {
   ShownMenuItem drawn;
 };
 
+/// A monitor of the headless host. The first one is the primary monitor. Its rectangles count the
+/// dots per inch that the system had when the program started, as Windows' own do.
+struct HeadlessMonitor {
+  TwipsRect area;
+  TwipsRect workArea;
+  int dpi = 96;
+};
+
+/// How large a form is shown on its monitor.
+struct HeadlessScale {
+  int dots = 0;  ///< Those per inch of the monitor.
+  int dpi = 0;   ///< That of the form.
+
+  friend bool operator==(const HeadlessScale&, const HeadlessScale&) = default;
+};
+
+/// The monitor that shows most of the place, or else the nearest one (MonitorFromWindow).
+std::size_t FindMonitor(const std::vector<HeadlessMonitor>& monitors, const TwipsRect& place);
+
 /// A window of the headless host.
 struct HeadlessWindow {
   WindowHandle handle = 0;
   const FormState* form = nullptr;
   FormEvents* events = nullptr;
   TwipsRect place;
-  TwipsRect restored;  ///< Where it stands when it is neither minimized nor maximized.
-  TwipsRect frame;     ///< What frame and menu bar add.
+  TwipsRect restored;       ///< Where it stands when it is neither minimized nor maximized.
+  TwipsRect frame;          ///< What frame and menu bar add.
+  std::size_t monitor = 0;  ///< The one whose dots per inch it has.
   std::vector<HeadlessControl> controls;
   std::vector<DrawnMenu> bar;
   int focus = 0;

@@ -80,11 +80,18 @@ void HeadlessUser::Drag(WindowHandle hwnd, const TwipsRect& place) {
   if (sized && window.form->border != BorderStyle::kSizable) {
     FailTest("form " + window.form->name + " has a fixed size");
   }
-  const TwipsRect taken = Limited(place, window.form->limits);
-  window.place = taken;
+  const HeadlessScale before = host_->ScaleOf(hwnd);
+  host_->Place(window, place);
+  const HeadlessScale now = host_->ScaleOf(hwnd);
+  const TwipsRect taken = window.place;
   window.restored = taken;
-  host_->Desktop().SetPlace(hwnd, host_->GetWindowRect(hwnd));
   host_->Tell(hwnd, [&](FormEvents& events) { events.OnPlaced(ShowState::kNormal, taken); });
+  if (now == before || host_->FindWindow(hwnd) == nullptr) return;
+  host_->Tell(hwnd, [&](FormEvents& events) {
+    // Where the dots are the same, only the room for the form differs.
+    if (now.dots != before.dots) return events.OnDpiChanged();
+    events.OnMetricsChanged();
+  });
 }
 
 const ControlState& HeadlessUser::Look(WindowHandle hwnd, int control) {

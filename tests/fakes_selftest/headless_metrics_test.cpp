@@ -83,5 +83,66 @@ TEST_F(HeadlessMetricsTest, OnlyShownAlertsAreAnnounced) {
   EXPECT_EQ(host_.Announced().size(), 1U);
 }
 
+/// A monitor of the usual dots with a finer one on its left, whose taskbar is at the top.
+class HeadlessMonitorsTest : public HeadlessMetricsTest {
+ protected:
+  HeadlessMonitorsTest() {
+    host_.SetMonitors({{{0, 0, 28800, 16200}, {0, 0, 28800, 15600}, 96},
+                       {{-30000, 0, 30000, 18000}, {-30000, 1200, 30000, 16800}, 192}});
+    strip_.onResize = [this] { ++told_; };
+    strip_.Show();
+    told_ = 0;
+  }
+
+  TwipsRect OnScreen() { return host_.GetWindowRect(strip_.Handle()); }
+
+  int told_ = 0;
+};
+
+TEST_F(HeadlessMonitorsTest, TheUsersDragGivesAFormTheDotsOfItsMonitorAndTellsIt) {
+  user_.Drag(strip_.Handle(), {-3000, 900, 6000, 1500});
+  EXPECT_EQ(host_.GetDpiForWindow(strip_.Handle()), 96);
+  EXPECT_EQ(told_, 0);
+  user_.Drag(strip_.Handle(), {-3001, 900, 6000, 1500});
+  EXPECT_EQ(host_.GetDpiForWindow(strip_.Handle()), 192);
+  EXPECT_EQ(OnScreen(), (TwipsRect{-3001, 900, 12000, 3000}));
+  EXPECT_EQ(strip_.Place(), (TwipsRect{-3001, 900, 6000, 1500}));
+  EXPECT_EQ(told_, 1);
+}
+
+TEST_F(HeadlessMonitorsTest, ThePlaceThatTheFormGivesItselfDoesTheSame) {
+  strip_.SetPlace({-29000, 1800, 6000, 1500});
+  EXPECT_EQ(OnScreen(), (TwipsRect{-29000, 1800, 12000, 3000}));
+  EXPECT_EQ(host_.GetMonitorInfoW(strip_.Handle()), (TwipsRect{-30000, 1200, 30000, 16800}));
+  EXPECT_EQ(told_, 1);
+  strip_.SetWindowState(ShowState::kMaximized);
+  EXPECT_EQ(OnScreen(), (TwipsRect{-30000, 1200, 30000, 16800}));
+}
+
+TEST_F(HeadlessMonitorsTest, APlaceOnNoMonitorBelongsToTheNearest) {
+  strip_.SetPlace({-90000, 20000, 6000, 1500});
+  EXPECT_EQ(host_.GetDpiForWindow(strip_.Handle()), 192);
+  strip_.SetPlace({90000, -20000, 6000, 1500});
+  EXPECT_EQ(host_.GetDpiForWindow(strip_.Handle()), 96);
+}
+
+TEST_F(HeadlessMonitorsTest, OtherMonitorsAreToldAndTakeOverTheForms) {
+  strip_.SetPlace({-29000, 1800, 6000, 1500});
+  told_ = 0;
+  host_.ChangeMonitors({host_.Monitors().front()});
+  EXPECT_EQ(host_.GetDpiForWindow(strip_.Handle()), 96);
+  EXPECT_GT(told_, 0);
+}
+
+TEST_F(HeadlessMonitorsTest, PointerAndOtherWindowsStandWhereTheyWerePut) {
+  EXPECT_EQ(host_.GetDpiForMonitor(), 96);
+  host_.PointAtMonitor(1);
+  host_.PutOnMonitor(77, 1);
+  EXPECT_EQ(host_.GetDpiForMonitor(), 192);
+  EXPECT_EQ(host_.MonitorFromPoint().left, -30000);
+  EXPECT_EQ(host_.GetMonitorInfoW(77).left, -30000);
+  EXPECT_EQ(host_.GetMonitorInfoW(78).left, 0);
+}
+
 }  // namespace
 }  // namespace korvale

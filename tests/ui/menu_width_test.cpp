@@ -76,5 +76,27 @@ TEST_F(MenuWidthTest, TheNarrowerOfTheMonitorsOfWindowAndPointerCounts) {
   EXPECT_EQ(ShownOn(host, form, std::string(101, 'x')), std::string(97, 'x') + "...");
 }
 
+TEST_F(MenuWidthTest, ThePopUpHasTheDotsOfTheMonitorUnderThePointer) {
+  // Room for 100 characters on either, since all is twice as large on the second.
+  const HeadlessMonitor coarse{{0, 0, 12400, 9000}, {0, 0, 12400, 9000}, 96};
+  HeadlessMonitor fine{{12400, 0, 24800, 18000}, {12400, 0, 24800, 18000}, 192};
+  host_.SetMonitors({coarse, fine});
+  host_.PointAtMonitor(1);
+  EXPECT_EQ(ShownFor(std::string(100, 'x')), std::string(100, 'x'));
+  fine.workArea.width = 14800;
+  host_.SetMonitors({coarse, fine});
+  EXPECT_EQ(ShownFor(std::string(51, 'x')), std::string(47, 'x') + "...");
+}
+
+TEST_F(MenuWidthTest, ACoarserMonitorUnderThePointerIsNoNarrowerForThat) {
+  host_.SetMonitors({{{0, 0, 24800, 18000}, {0, 0, 24800, 18000}, 96},
+                     {{24800, 0, 24800, 18000}, {24800, 0, 24800, 18000}, 192}});
+  form_.SetPlace({24800, 900, 3000, 1500});
+  host_.PointAtMonitor(0);
+  // Beside 108 characters of 200 twips there is room for what is as wide as 16.
+  EXPECT_EQ(ShownFor(std::string(108, 'x')), std::string(108, 'x'));
+  EXPECT_EQ(ShownFor(std::string(109, 'x')), std::string(105, 'x') + "...");
+}
+
 }  // namespace
 }  // namespace korvale

@@ -1,6 +1,8 @@
 #include "ui/windows/windows_screen.h"
 
 #include <windows.h>
+// After windows.h, which it needs.
+#include <shellscalingapi.h>
 
 #include "platform/windows/handles.h"
 #include "platform/windows/text.h"
@@ -17,16 +19,26 @@ TwipsRect WorkAreaInTwips(HMONITOR monitor) {
   return ToScreenTwips(WorkAreaOf(monitor), GetDpiForSystem());
 }
 
+HMONITOR MonitorUnderPointer() {
+  POINT mouse{};
+  GetCursorPos(&mouse);
+  return ::MonitorFromPoint(mouse, MONITOR_DEFAULTTONEAREST);
+}
+
 }  // namespace
 
 TwipsRect WindowsScreen::GetMonitorInfoW(WindowHandle hwnd) {
   return WorkAreaInTwips(MonitorFromWindow(ToHwnd(hwnd), MONITOR_DEFAULTTONEAREST));
 }
 
-TwipsRect WindowsScreen::MonitorFromPoint() {
-  POINT mouse{};
-  GetCursorPos(&mouse);
-  return WorkAreaInTwips(::MonitorFromPoint(mouse, MONITOR_DEFAULTTONEAREST));
+TwipsRect WindowsScreen::MonitorFromPoint() { return WorkAreaInTwips(MonitorUnderPointer()); }
+
+int WindowsScreen::GetDpiForMonitor() {
+  UINT x = GetDpiForSystem();
+  UINT y = x;
+  const auto ask = shcore_.Find<decltype(::GetDpiForMonitor)>("GetDpiForMonitor");
+  if (ask != nullptr) ask(MonitorUnderPointer(), MDT_EFFECTIVE_DPI, &x, &y);
+  return static_cast<int>(x);
 }
 
 TwipsRect WindowsScreen::GetWindowRect(WindowHandle hwnd) {

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "platform/screen_queries.h"
+#include "platform/windows/system_library.h"
 #include "ui/windows/open_forms.h"
 
 namespace korvale {
@@ -13,6 +14,7 @@ class WindowsScreen : public ScreenQueries {
 
   TwipsRect GetMonitorInfoW(WindowHandle hwnd) override;
   TwipsRect MonitorFromPoint() override;
+  int GetDpiForMonitor() override;
   TwipsRect GetWindowRect(WindowHandle hwnd) override;
   int GetDpiForWindow(WindowHandle hwnd) override;
   int GetDpiOfForm(WindowHandle hwnd) override;
@@ -22,6 +24,7 @@ class WindowsScreen : public ScreenQueries {
 
  private:
   const OpenForms* forms_;
+  SystemLibrary shcore_{L"shcore.dll"};
 };
 
 }  // namespace korvale
