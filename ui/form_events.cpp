@@ -224,9 +224,16 @@ void Form::OnPlaced(ShowState state, const TwipsRect& place) {
   if (state != ShowState::kMinimized) {
     moved = place.left != state_.place.left || place.top != state_.place.top;
     changed = changed || place.width != state_.place.width || place.height != state_.place.height;
-    const TwipsRect growth = FrameGrowth();
     state_.place = place;
-    place_ = {place.left, place.top, place.width - growth.width, place.height - growth.height};
+    place_.left = place.left;
+    place_.top = place.top;
+    // A form of a fixed size has that of its design, also while its frame is still that of the
+    // monitor which it comes from.
+    if (state_.border == BorderStyle::kSizable) {
+      const TwipsRect growth = FrameGrowth();
+      place_.width = place.width - growth.width;
+      place_.height = place.height - growth.height;
+    }
   }
   if (!shownBefore_) return;
   if (changed) {

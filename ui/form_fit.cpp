@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cstdint>
 
 #include "ui/form.h"
@@ -12,17 +13,20 @@ void Form::FitIntoWorkArea() {
   const RaisedFlag fitting(fitting_);
   wished_ = PlaceToKeep();
   wished_->height = place_.height;
-  SetPlace(*wished_);
-  if (!IsLoaded()) return;
   ScreenQueries& screen = forms_->Screen();
   const TwipsRect area = screen.GetMonitorInfoW(handle_);
-  const Twips width = screen.GetWindowRect(handle_).width;
+  const TwipsRect now = screen.GetWindowRect(handle_);
+  // It goes there in one step: on the way, most of it might lie on another monitor.
+  const std::int64_t width =
+      std::int64_t{now.width} * wished_->width / std::max<Twips>(1, place_.width);
+  TwipsRect place = *wished_;
   if (width > area.width) {
-    TwipsRect narrow = place_;
-    narrow.left = area.left;
-    narrow.width = static_cast<Twips>(std::int64_t{narrow.width} * area.width / width);
-    SetPlace(narrow);
+    place.width = static_cast<Twips>(std::int64_t{place.width} * area.width / width);
   }
+  place.left = Inside(place.left, area.left, area.width,
+                      static_cast<Twips>(std::clamp<std::int64_t>(width, 0, area.width)));
+  place.top = Inside(place.top, area.top, area.height, now.height);
+  SetPlace(place);
   if (IsLoaded()) KeepInWorkArea(*this);
   wished_->height = place_.height;
   if (wished_ == place_) wished_.reset();

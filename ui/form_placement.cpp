@@ -22,11 +22,6 @@ void MoveTo(Form& form, Twips left, Twips top) {
 /// Where a stretch of this length begins when it is centred in the room.
 Twips Centred(Twips start, Twips room, Twips length) { return start + (room - length) / 2; }
 
-/// The nearest beginning inside the room; what is longer than the room begins where it does.
-Twips Inside(Twips wished, Twips start, Twips room, Twips length) {
-  return std::max(start, std::min(wished, start + room - length));
-}
-
 /// The length that two stretches have in common, negative when they lie apart.
 Twips Overlap(Twips start, Twips length, Twips otherStart, Twips otherLength) {
   return std::min(start + length, otherStart + otherLength) - std::max(start, otherStart);
@@ -38,6 +33,10 @@ bool CanBeCentredOn(const Form* owner) {
 }
 
 }  // namespace
+
+Twips Inside(Twips wished, Twips start, Twips room, Twips length) {
+  return std::max(start, std::min(wished, start + room - length));
+}
 
 void PlaceForm(Form& form, WindowHandle workedIn, const PlaceHints& hints, const Form* owner) {
   ScreenQueries& screen = form.Collection().Screen();

@@ -1,6 +1,10 @@
 #pragma once
 
+#include <algorithm>
+#include <optional>
+
 #include "tests/contract/contract_fixture.h"
+#include "ui/form_placement.h"
 
 namespace korvale {
 
@@ -33,6 +37,40 @@ TEST_F(MetricsContract, BiggerTextEnlargesWhatAFormOfAFixedSizeHolds) {
   EXPECT_NEAR(OnScreen(form_).width, before.width + 3000, 15);
   User().ChangeTextSize(100);
   EXPECT_EQ(OnScreen(form_), before);
+}
+
+TEST_F(MetricsContract, AtEveryScaleTheTwipsStayAndTenTimesThereAndBackChangeNothing) {
+  ShowForm();
+  strip_.Show();
+  const Twips room = Screen().GetMonitorInfoW(strip_.Handle()).width;
+  const TwipsRect before = OnScreen(form_);
+  for (const int percent : {125, 150, 175, 200, 250, 300}) {
+    std::optional<TwipsRect> moved;
+    for (int times = 0; times < (percent == 300 ? 10 : 1); ++times) {
+      User().ChangeTextSize(percent);
+      EXPECT_EQ(Screen().GetDpiOfForm(strip_.Handle()), 96 * percent / 100);
+      EXPECT_NEAR(OnScreen(strip_).width, std::min(60 * percent, room), 15);
+      EXPECT_EQ(strip_.PlaceToKeep(), kStripDesign.place);
+      EXPECT_TRUE(IsInWorkArea(form_));
+      User().ChangeTextSize(100);
+      EXPECT_EQ(OnScreen(strip_), kStripDesign.place);
+      // Where it would have hung over the edge it has been moved, once.
+      const TwipsRect after = OnScreen(form_);
+      EXPECT_EQ(after.width, before.width);
+      EXPECT_EQ(after.height, before.height);
+      EXPECT_EQ(after, moved.value_or(after));
+      moved = after;
+    }
+  }
+}
+
+TEST_F(MetricsContract, AMaximizedFormOfOneHeightIsAsWideAsWhatTaskbarsLeave) {
+  strip_.Show();
+  if (!User().NarrowWorkArea(1500)) GTEST_SKIP() << "the monitors keep their work areas";
+  strip_.SetSizeLimits({.minimumWidth = 1500, .height = 1500});
+  strip_.SetWindowState(ShowState::kMaximized);
+  // The frame may lie beyond the edges.
+  EXPECT_NEAR(OnScreen(strip_).width, Screen().GetMonitorInfoW(strip_.Handle()).width, 300);
 }
 
 TEST_F(MetricsContract, BiggerTextReachesAHiddenFormWhenItIsShown) {

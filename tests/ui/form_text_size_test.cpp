@@ -237,5 +237,15 @@ TEST_F(FormTextSizeTest, TheFocusStaysAndNoControlRaisesAnything) {
   EXPECT_EQ(form_.Take(), Lines{});
 }
 
+TEST_F(StripTextSizeTest, GrowsOnItsOwnMonitorAlsoWhereAnotherBegins) {
+  host_.SetMonitors({{{0, 0, 15360, 11100}, {0, 0, 15360, 11100}, 96},
+                     {{15360, 0, 20000, 12000}, {15360, 0, 20000, 12000}, 192}});
+  for (const int percent : {150, 225, 300, 200, 100}) {
+    host_.ChangeTextSize(percent);
+    EXPECT_EQ(host_.GetDpiForWindow(strip_.Handle()), 96);
+    EXPECT_LE(OnScreen(strip_).left + OnScreen(strip_).width, 15360);
+  }
+}
+
 }  // namespace
 }  // namespace korvale

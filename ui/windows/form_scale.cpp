@@ -1,5 +1,6 @@
 #include "ui/windows/form_scale.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 
@@ -76,6 +77,16 @@ bool FormScale::FollowTo(HWND window) {
   monitor_ = monitor;
   workArea_ = WorkAreaOf(monitor);
   return true;
+}
+
+RECT FormScale::Kept(RECT place) const {
+  if (MonitorFromRect(&place, MONITOR_DEFAULTTONEAREST) == monitor_) return place;
+  const auto inside = [](LONG start, LONG end, LONG first, LONG last) {
+    return std::max(first, std::min(start, last - (end - start))) - start;
+  };
+  OffsetRect(&place, inside(place.left, place.right, workArea_.left, workArea_.right),
+             inside(place.top, place.bottom, workArea_.top, workArea_.bottom));
+  return place;
 }
 
 bool FormScale::LooksLike(const FormScale& other) const {

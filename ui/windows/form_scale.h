@@ -19,6 +19,8 @@ class FormScale {
 
   /// The dots per inch of places and sizes.
   UINT Dpi() const { return dpi_; }
+  /// The width of the work area, in pixels.
+  LONG WorkWidth() const { return workArea_.right - workArea_.left; }
   /// The font of messages and of tool tips, no larger than goes with Dpi().
   UniqueFont MakeMessageFont() const { return MakeFont(metrics_.lfMessageFont); }
   UniqueFont MakeToolTipFont() const { return MakeFont(metrics_.lfStatusFont); }
@@ -26,6 +28,10 @@ class FormScale {
   /// The window has been moved: the work area is that of the monitor where it is now. False when it
   /// is still the same monitor.
   bool FollowTo(HWND window);
+
+  /// Where a window that becomes larger here stays on its monitor: one that reaches over to another
+  /// would take on its dots, become smaller and come back, and so on without end.
+  RECT Kept(RECT place) const;
 
   /// The form looks the same.
   bool LooksLike(const FormScale& other) const;

@@ -96,6 +96,10 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   void Resize();
   /// Resizes what a minimized or maximized window will be restored to.
   void ResizeRestored();
+  /// Neither minimized nor maximized.
+  bool IsNormal() const { return IsIconic(hwnd_) == FALSE && IsZoomed(hwnd_) == FALSE; }
+  /// The size of the model in pixels.
+  SIZE OwnSize(const FormScale& scale) const;
   /// Tells Windows the size that the form will take at these dots per inch (WM_GETDPISCALEDSIZE);
   /// nothing where it is in proportion.
   std::optional<LRESULT> ScaledSize(WPARAM dpi, LPARAM wanted) const;

@@ -3,6 +3,19 @@
 #include "ui/windows/units.h"
 
 namespace korvale {
+namespace {
+
+SIZE SizeOf(const RECT& rect) { return {rect.right - rect.left, rect.bottom - rect.top}; }
+
+/// The user has a title bar or an edge of the window in hand.
+bool IsDragged(HWND window) {
+  GUITHREADINFO info{};
+  info.cbSize = sizeof(info);
+  return GetGUIThreadInfo(GetCurrentThreadId(), &info) != FALSE &&
+         (info.flags & GUI_INMOVESIZE) != 0 && info.hwndMoveSize == window;
+}
+
+}  // namespace
 
 void FormWindow::HandleLook(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
@@ -10,6 +23,8 @@ void FormWindow::HandleLook(UINT message, WPARAM wParam, LPARAM lParam) {
       OnDpiChanged(LOWORD(wParam), lParam);
       break;
     case WM_ACTIVATE:
+    // The user may have dragged the form to a monitor with less room for it.
+    case WM_EXITSIZEMOVE:
     case WM_SETTINGCHANGE:
     case WM_DISPLAYCHANGE:
     case WM_THEMECHANGED:
@@ -46,12 +61,13 @@ bool FormWindow::Rescale() {
 
 void FormWindow::Resize() {
   placing_ = true;
-  if (IsIconic(hwnd_) != FALSE || IsZoomed(hwnd_) != FALSE) {
-    ResizeRestored();
-  } else {
-    const PixelPlace place = ToScreenPixels(form_->place, scale_.Dpi());
-    SetWindowPos(hwnd_, nullptr, place.left, place.top, place.width, place.height,
+  if (IsNormal()) {
+    const PixelPlace own = ToScreenPixels(form_->place, scale_.Dpi());
+    const RECT place = scale_.Kept({own.left, own.top, own.left + own.width, own.top + own.height});
+    SetWindowPos(hwnd_, nullptr, place.left, place.top, own.width, own.height,
                  SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+  } else {
+    ResizeRestored();
   }
   placing_ = false;
   TellPlaced();
@@ -71,12 +87,21 @@ void FormWindow::ResizeRestored() {
 std::optional<LRESULT> FormWindow::ScaledSize(WPARAM dpi, LPARAM wanted) const {
   constexpr WPARAM kMostDots = 10 * USER_DEFAULT_SCREEN_DPI;
   // Others cannot know an address in our memory.
-  const bool known = form_->content != TwipsSize{} && wanted != 0 && !IsSentByOthers();
-  if (!known || dpi == 0 || dpi > kMostDots) return std::nullopt;
-  const FormScale scale(*form_, hwnd_, static_cast<UINT>(dpi));
-  *reinterpret_cast<SIZE*>(wanted) = {ToPixels(form_->place.width, scale.Dpi()),
-                                      ToPixels(form_->place.height, scale.Dpi())};
+  if (wanted == 0 || IsSentByOthers() || dpi == 0 || dpi > kMostDots) return std::nullopt;
+  SIZE& size = *reinterpret_cast<SIZE*>(wanted);
+  if (form_->content == TwipsSize{}) {
+    // While the user sizes it, it is to have another size, which only Windows knows.
+    RECT place{};
+    GetWindowRect(hwnd_, &place);
+    const SIZE now = SizeOf(place);
+    if (!IsNormal() || size.cx != now.cx || size.cy != now.cy) return std::nullopt;
+  }
+  size = OwnSize(FormScale(*form_, hwnd_, static_cast<UINT>(dpi)));
   return TRUE;
+}
+
+SIZE FormWindow::OwnSize(const FormScale& scale) const {
+  return {ToPixels(form_->place.width, scale.Dpi()), ToPixels(form_->place.height, scale.Dpi())};
 }
 
 void FormWindow::OnDpiChanged(UINT dpi, LPARAM wanted) {
@@ -88,16 +113,23 @@ void FormWindow::OnDpiChanged(UINT dpi, LPARAM wanted) {
   scale_ = FormScale(*form_, hwnd_);
   controls_.Rescale();
   ShowIcons();
-  SIZE size{place.right - place.left, place.bottom - place.top};
-  // Where Windows has not asked for it first, it does not know that a dialog grows only as far as
-  // there is room for it.
-  if (form_->content != TwipsSize{}) {
-    size = {ToPixels(form_->place.width, scale_.Dpi()),
-            ToPixels(form_->place.height, scale_.Dpi())};
+  const bool dragged = IsDragged(hwnd_);
+  // Windows does not know that a dialog grows only as far as there is room for it, and rounds the
+  // size of others anew each time.
+  const bool own = form_->content != TwipsSize{} || (IsNormal() && !dragged);
+  const SIZE size = own ? OwnSize(scale_) : SizeOf(place);
+  if (!dragged && IsNormal()) {
+    place = scale_.Kept({place.left, place.top, place.left + size.cx, place.top + size.cy});
   }
   SetWindowPos(hwnd_, nullptr, place.left, place.top, size.cx, size.cy,
                SWP_NOZORDER | SWP_NOACTIVATE);
-  events_.Tell([](FormEvents& events) { events.OnDpiChanged(); });
+  if (dragged || placing_) {
+    events_.Tell([](FormEvents& events) { events.OnDpiChanged(); });
+  } else {
+    // The monitor has changed, or the form is on another without having been put at this place, so
+    // it must not grow beyond the edge.
+    events_.Tell([](FormEvents& events) { events.OnMetricsChanged(); });
+  }
 }
 
 void FormWindow::OnMetricsChanged() {

@@ -57,6 +57,8 @@ void FormWindow::LimitSize(MINMAXINFO& limits) const {
   limits.ptMinTrackSize.y = height;
   limits.ptMaxTrackSize.y = height;
   limits.ptMaxSize.y = height;
+  // What covers the primary monitor Windows fits to the window's own one. A strip does not.
+  limits.ptMaxSize.x += scale_.WorkWidth() - GetSystemMetrics(SM_CXSCREEN);
 }
 
 void FormWindow::KeepHeight(WPARAM edge, RECT& place) const {

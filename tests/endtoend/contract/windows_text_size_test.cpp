@@ -148,8 +148,8 @@ TEST_F(WindowsTextSizeTest, AFormWiderThanTheScreenIsNarrowedAndComesBack) {
 
 TEST_F(WindowsTextSizeTest, EveryMessageThatMayTellOfItIsHeard) {
   ShowForm();
-  for (const UINT message :
-       {WM_SETTINGCHANGE, WM_THEMECHANGED, WM_DISPLAYCHANGE, WM_SYSCOLORCHANGE, WM_ACTIVATE}) {
+  for (const UINT message : {WM_SETTINGCHANGE, WM_THEMECHANGED, WM_DISPLAYCHANGE, WM_SYSCOLORCHANGE,
+                             WM_ACTIVATE, WM_EXITSIZEMOVE}) {
     ChangeUntold(150);
     EXPECT_EQ(SizeOf(Control("txtName")).cx, 200) << message;
     SendMessageW(Hwnd(), message, WA_ACTIVE, 0);

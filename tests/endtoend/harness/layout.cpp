@@ -73,6 +73,17 @@ bool IsCut(Window control, HFONT font, int textHeight) {
   return room.cx > client.right - beside || room.cy > client.bottom;
 }
 
+/// Places are rounded to pixels.
+bool IsWithin(Window holder, RECT area) {
+  RECT client{};
+  GetClientRect(holder.handle(), &client);
+  InflateRect(&client, 1, 1);
+  MapWindowPoints(nullptr, holder.handle(), reinterpret_cast<POINT*>(&area), 2);
+  RECT common{};
+  IntersectRect(&common, &client, &area);
+  return EqualRect(&common, &area) != FALSE;
+}
+
 std::string NameOf(Window control) { return control.ClassName() + " '" + control.Text() + "'"; }
 
 std::string FlawWithin(Window holder, HFONT font, int textHeight) {
@@ -81,6 +92,7 @@ std::string FlawWithin(Window holder, HFONT font, int textHeight) {
   for (size_t i = 0; i < controls.size(); ++i) {
     const Window control = controls[i];
     if (IsCut(control, font, textHeight)) return NameOf(control) + " is cut";
+    if (!IsWithin(holder, AreaOf(control))) return NameOf(control) + " is not whole";
     if (control.ClassName().starts_with("Korvale.")) {
       const std::string inner = FlawWithin(control, font, textHeight);
       if (!inner.empty()) return inner;
