@@ -90,7 +90,7 @@ wine_begin() {
   wine_template
 }
 
-# A fresh prefix for the suite that follows.
+# A fresh prefix for the suite that follows; with WINE_DPI, its screen has so many dots per inch.
 wine_suite() {
   export WINEPREFIX=$WINE_WORK/prefix-${#WINE_PREFIXES[@]}
   WINE_PREFIXES+=("$WINEPREFIX")
@@ -105,6 +105,9 @@ wine_suite() {
   # of buttons.
   cp /usr/share/wine/fonts/marlett.ttf "$WINEPREFIX/drive_c/windows/Fonts/" || true
   [ "$WINE_SCREEN" = "$WINE_USUAL_SCREEN" ] || wine_screen "$WINE_SCREEN"
+  [ -z "${WINE_DPI:-}" ] ||
+    printf '\n[Control Panel\\\\Desktop]\n"LogPixels"=dword:%08x\n' "$WINE_DPI" \
+      >>"$WINEPREFIX/user.reg"
   # Where Wine believes the pointer to be at first.
   [ -z "${KORVALE_POINTER:-}" ] || : >"$WINE_WORK/pointer/0,0"
 }
