@@ -89,9 +89,9 @@ TEST_F(MenuWidthTest, ThePopUpHasTheDotsOfTheMonitorUnderThePointer) {
 }
 
 TEST_F(MenuWidthTest, ACoarserMonitorUnderThePointerIsNoNarrowerForThat) {
-  host_.SetMonitors({{{0, 0, 24800, 18000}, {0, 0, 24800, 18000}, 96},
-                     {{24800, 0, 24800, 18000}, {24800, 0, 24800, 18000}, 192}});
-  form_.SetPlace({24800, 900, 3000, 1500});
+  host_.SetMonitors({{{0, 0, 12400, 9000}, {0, 0, 12400, 9000}, 96},
+                     {{12400, 0, 24800, 18000}, {12400, 0, 24800, 18000}, 192}});
+  form_.SetPlace({14000, 900, 3000, 1500});
   host_.PointAtMonitor(0);
   // Beside 108 characters of 200 twips there is room for what is as wide as 16.
   EXPECT_EQ(ShownFor(std::string(108, 'x')), std::string(108, 'x'));
