@@ -56,6 +56,18 @@ TEST_F(AddWindowStory, OffersTag3WhenTags1And2And4AreAssigned) {
   ExpectTagSelects(3, window_);
 }
 
+TEST_F(AddWindowStory, TellsAWindowCalledAvailableFromAFreeTagWithoutItsColour) {
+  StoreTag(1, "Available");
+  KorvaleCopy& korvale = StartedAfter("Alpha");
+  korvale.TagPrevious([&](class Form& dialog) {
+    EXPECT_EQ(dialog.Find("cboWindow").SelectedText(), "2");
+    ExpectState(dialog, "Available", kBlue);
+    Pick(korvale, dialog, 1);
+    EXPECT_EQ(dialog.Find("cboWindow").SelectedText(), "1  Available");
+    ExpectState(dialog, "Available", kRed);
+  });
+}
+
 TEST_F(AddWindowStory, OffersTag1InRedWhenAllNineAreAssignedAndReplacesIt) {
   for (int tag = 1; tag <= 9; ++tag) StoreTag(tag, "Window " + std::to_string(tag));
   KorvaleCopy& korvale = StartedAfter("Alpha");
