@@ -8,8 +8,9 @@
 
 namespace korvale::endtoend {
 
-/// What a user sees of menus: another program's menus can be looked at, but not read.
-///
+// What a user sees of menus: another program's menus can be looked at, but not read. So far only
+// Wine's own have been looked at.
+
 /// The middles of the titles in the menu bar of a window, on the screen, from left to right.
 std::vector<POINT> MenuTitles(Window window);
 
