@@ -16,7 +16,8 @@ OptionsDialog OptionsTest::WaitForOptions() {
 }
 
 OptionsDialog OptionsTest::OpenOptions() {
-  Press(kOptionsKey);
+  // All at once, as PopUpWindowMenu() does.
+  PressAtOnce(kOptionsKey);
   return WaitForOptions();
 }
 
