@@ -55,6 +55,16 @@ TEST_F(ShownAboutTest, ShowsItsPictureBesideTheTexts) {
   }
 }
 
+TEST_F(ShownAboutTest, ItsTextsStandBelowEachOtherAboveTheButton) {
+  Twips bottom = 0;
+  for (const char* const text :
+       {"lblProduct", "lblFileDescription", "lblCopyright", "lblWebSite", "cmdOK"}) {
+    const TwipsRect place = user_.Place(about_.Handle(), Id(about_, text));
+    EXPECT_GE(place.top, bottom) << text;
+    bottom = place.top + place.height;
+  }
+}
+
 TEST_F(ShownAboutTest, TheToolTipsSayWhatALinkAndAButtonDo) {
   EXPECT_EQ(Look(about_, "lblWebSite").toolTip, " opens the web site in your browser  (Click) ");
   EXPECT_EQ(Look(about_, "cmdOK").toolTip, " Close  (Enter) ");
