@@ -80,11 +80,11 @@ constexpr ControlRow kAddWindowControls[] = {
     Row(kLine, "Line1", -1, "", "", {1500, 195, 6090, 15}, kOrderLines),
     Row(kLabel, "lblIdentifyWindow", -1, "Identify &Window  (Parent)", "", {120, 735, 2160, 225},
         kOrderLblIdentifyWindow),
+    Row(kLabel, "lblAssignHotKey", -1, "Assign a &Tag", "", {120, 90, 1320, 225},
+        kOrderLblAssignHotKey),
     // A screen reader calls the text box by the label before it; nobody sees this one.
     Row(kLabel, "lblWindowClass", -1, "Class of Window", "", {}, kOrderLblWindowClass,
         kHidden | kNoPrefix),
-    Row(kLabel, "lblAssignHotKey", -1, "Assign a &Tag", "", {120, 90, 1320, 225},
-        kOrderLblAssignHotKey),
 };
 
 constexpr FormDesign kGetWindowDesign = {.name = "frmGetWindow",

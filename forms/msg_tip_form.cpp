@@ -15,14 +15,20 @@ constexpr Twips kTextAboveBottom = 1800;
 constexpr Twips kCheckBoxAboveBottom = 1275;
 constexpr Twips kButtonAboveBottom = 795;
 
+/// Gives a control its place among the windows; a screen reader reads the text first.
+constexpr ControlRow InOrder(int tabIndex, ControlRow row) {
+  row.tabIndex = tabIndex;
+  return row;
+}
+
 constexpr ControlRow kTipControls[] = {
-    MakeRow(kLabel, "lblTip", -1, "*get what*", "",
-            {150, 150, 8010, kDesignHeight - kTextAboveBottom}, kWordWrap | kNoPrefix),
-    MakeRow(kCheckBox, "chkStopMsg", -1, "&In the future, do not show this message",
-            " Do not show this message again  (Alt+I) ",
-            {150, kDesignHeight - kCheckBoxAboveBottom, 5000, 270}),
-    MakeRow(kButton, "cmdOK", -1, "OK", " Close  (Enter) ",
-            {3540, kDesignHeight - kButtonAboveBottom, 1215, 345}, kDefaultButton),
+    InOrder(1, MakeRow(kCheckBox, "chkStopMsg", -1, "&In the future, do not show this message",
+                       " Do not show this message again  (Alt+I) ",
+                       {150, kDesignHeight - kCheckBoxAboveBottom, 5000, 270})),
+    InOrder(2, MakeRow(kButton, "cmdOK", -1, "OK", " Close  (Enter) ",
+                       {3540, kDesignHeight - kButtonAboveBottom, 1215, 345}, kDefaultButton)),
+    InOrder(0, MakeRow(kLabel, "lblTip", -1, "*get what*", "",
+                       {150, 150, 8010, kDesignHeight - kTextAboveBottom}, kWordWrap | kNoPrefix)),
 };
 
 constexpr FormDesign kMsgTipDesign = {.name = "frmMsgTip",
@@ -35,6 +41,8 @@ constexpr bool ClosesTip(int key, unsigned shift) {
 }
 
 }  // namespace
+
+const FormDesign& MsgTipDesign() { return kMsgTipDesign; }
 
 frmMsgTip::frmMsgTip(FormCollection& forms) : Form(kMsgTipDesign, forms) {
   WhenClicked("cmdOK", [this](int) { cmdOK_Click(); });

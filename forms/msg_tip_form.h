@@ -6,6 +6,9 @@
 
 namespace korvale {
 
+/// The controls and the place of frmMsgTip as designed.
+const FormDesign& MsgTipDesign();
+
 /// The tip window. Its tag is "NO_SHOW" after it has closed when the user does not want to see the
 /// tip again, otherwise "".
 class frmMsgTip : public Form {

@@ -183,8 +183,8 @@ TEST(AddWindowDesign, HasItsControlsInTheirOrderWithTheirKindsAndCaptions) {
           {kLine, "Line2", -1, ""},
           {kLine, "Line1", -1, ""},
           {kLabel, "lblIdentifyWindow", -1, "Identify &Window  (Parent)"},
-          {kLabel, "lblWindowClass", -1, "Class of Window"},
           {kLabel, "lblAssignHotKey", -1, "Assign a &Tag"},
+          {kLabel, "lblWindowClass", -1, "Class of Window"},
       }));
 }
 
