@@ -68,6 +68,26 @@ TEST_F(WindowsTextSizeTest, AnOpenFormFollowsTheTextThereAndBack) {
   EXPECT_EQ(form_.Place(), kContractDesign.place);
 }
 
+/// Windows itself draws letters that the font lacks with its fall-backs, but only of that font.
+TEST_F(WindowsTextSizeTest, EveryControlHasTheSystemsOwnFont) {
+  NONCLIENTMETRICSW metrics{};
+  metrics.cbSize = sizeof(metrics);
+  SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof(metrics), &metrics, 0);
+  ShowForm();
+  for (const ControlState& control : form_.State().controls) {
+    const HWND window = FindControl(Window(), control.id);
+    const auto font = reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0));
+    LOGFONTW used{};
+    if (window == nullptr || font == nullptr) continue;
+    GetObjectW(font, sizeof(used), &used);
+    EXPECT_STREQ(used.lfFaceName, metrics.lfMessageFont.lfFaceName) << control.name;
+  }
+  const auto hasFont = [this](const char* name) {
+    return SendMessageW(Control(name), WM_GETFONT, 0, 0) != 0;
+  };
+  for (const char* name : {"txtName", "cboSize", "cboPlace", "cmdGo"}) EXPECT_TRUE(hasFont(name));
+}
+
 TEST_F(WindowsTextSizeTest, AListIsAsHighAsItsDesignWhateverTheHeightOfALine) {
   ShowForm();
   EXPECT_EQ(SizeOf(Control("cboSize")).cy, 21);
