@@ -213,6 +213,11 @@ void Gallery::TakeColors() {
   BringToFront(main.window());
   ClickAt(main.TitleBox(), {20, 4});
   const ColorDialog dialog(*korvale_);
+  // Below the fields that it colours.
+  RECT strip{};
+  GetWindowRect(main.window().handle(), &strip);
+  const SIZE size = SizeOf(dialog.window());
+  Place(dialog.window(), strip.left, strip.bottom, size.cx, size.cy);
   photographer_.Take("colors", {main.window(), dialog.window()});
   Need(dialog.Choose({255, 214, 165}), "the colour is not taken");
   Choose('V', {'C'});
