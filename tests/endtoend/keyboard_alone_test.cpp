@@ -38,6 +38,7 @@ class KeyboardAlone : public KeyboardUser {
   void ReviewTheHotKeys() {
     const OptionsDialog options(korvale_->Form("frmOptions"));
     ASSERT_TRUE(FocusIs(options.form(), options.ListBox(List::kTagModifier)));
+    EXPECT_FALSE(HotKeyIsFree(kDefaultOptionsKey));
     for (int tag = 0; tag <= 8; ++tag) ASSERT_TRUE(TabTo(options.form(), options.TagBox(tag)));
     Press({0, VK_SPACE});
     EXPECT_TRUE(WaitFor([&] { return !IsChecked(options.TagBox(8)); }));
@@ -60,7 +61,7 @@ class KeyboardAlone : public KeyboardUser {
     ASSERT_TRUE(Leave(options.form(), VK_RETURN));
     EXPECT_FALSE(HotKeyIsFree(kPopUpKey));
     EXPECT_TRUE(HotKeyIsFree(TagKey(8)));
-    EXPECT_TRUE(HotKeyIsFree(kOptionsKey));
+    EXPECT_EQ(HotKeyIsFree(kDefaultOptionsKey), !windows_keeps_options_key_);
   }
 
   void TagThreeWindows() {

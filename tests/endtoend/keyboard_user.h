@@ -32,6 +32,8 @@ class KeyboardUser : public OptionsTest {
   int Checked(UINT menu);
   static ::testing::AssertionResult HasColor(Window box, Rgb color);
 
+  /// Asked before Korvale starts.
+  const bool windows_keeps_options_key_ = !HotKeyIsFree(kDefaultOptionsKey);
   Window alpha_;
   Window beta_;
   Window letter_;
