@@ -143,6 +143,21 @@ tab 'Hot Keys', selected
 tab 'Window Identification')");
 }
 
+TEST_F(ScreenReader, IsToldWhichHotKeysAreDisabled) {
+  const OptionsDialog dialog = StartWithOptions(Page::kHotKeys);
+  Click(dialog.TagBox(8));
+  ASSERT_TRUE(WaitFor([&] { return !IsChecked(dialog.TagBox(8)); }));
+  ASSERT_TRUE(Pick(dialog, List::kMinimizeKey, VK_SPACE, " "));
+  ASSERT_TRUE(WaitFor([&] { return !HasBorder(dialog.Label(" Minimize Window")); }));
+  const std::vector<std::string> lines = Spoken(dialog.form());
+  for (const char* const line :
+       {"check box '7', checked", "check box '8'", "check box '9', checked",
+        "list 'minimizes individual desktop windows -- Hot Key is Disabled' = '', focused",
+        "list 'alternately maximizes/restores individual desktop windows' = 'UpArrow'"}) {
+    EXPECT_EQ(std::ranges::count(lines, line), 1) << line << Table(lines);
+  }
+}
+
 TEST_F(ScreenReader, ReadsTheWindowIdentificationPageOfTheOptions) {
   EXPECT_EQ(Read(OpenOptionsOn(Page::kWindowIdentification)), std::string(R"(
 window 'Korvale - Options'

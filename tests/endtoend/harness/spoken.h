@@ -14,9 +14,9 @@ namespace korvale::endtoend {
 ///   check box 'Display splash screen on startup', checked, Alt+D
 ///   list 'Assign a Tag' = '1', focused, Alt+T
 ///
-/// It is asked for as screen readers do, by Active Accessibility (IAccessible). Where that knows no
-/// more of a control than that it is a window, as in Wine, the line has what Windows documents for
-/// controls of this class.
+/// It is asked for as screen readers do, by Active Accessibility (IAccessible), because Wine 8 has
+/// no client of the newer UI Automation. Where it knows no more of a control than that it is a
+/// window, as in Wine, the line has what Windows documents for controls of this class.
 std::vector<std::string> Spoken(Window window);
 
 /// Hears what screen readers are told of a program while this exists.
