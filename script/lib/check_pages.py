@@ -1,6 +1,6 @@
 """Checks the pages that strangers read: every link of web/*.html and *.md that stays in this folder
-leads to a file, or to an anchor of a page, that is there, and every picture of a page tells its size
-and is used."""
+leads to a file, or to an anchor of a page, that is there, every picture of a page tells its size and
+is used, and what a page or stylesheet loads by itself comes from no other host."""
 
 import html.parser
 import pathlib
@@ -18,21 +18,29 @@ def complain(page, what):
     print(f"{page}: {what}")
 
 
+def loaded_by_styles(text):
+    found = re.findall(r"""url\(\s*["']?([^"')]*)|@import\s+["']([^"']*)""", text)
+    return [part.strip() for parts in found for part in parts if part]
+
+
 class Page(html.parser.HTMLParser):
-    """What a page names: anchors, links and pictures."""
+    """What a page names: anchors, links, pictures, and what is loaded without being asked for."""
 
     def __init__(self, path):
         super().__init__()
         self.path = path
         self.anchors = set()
         self.links = []
+        self.loaded = []
         self.pictures = []
         text = path.read_text(encoding="utf-8")
         if path.suffix == ".md":
             text = re.sub(r"```.*?```|`[^`\n]*`", "", text, flags=re.S)
             self.links += re.findall(r"\]\(([^)\s]+)\)", text)
+            self.loaded += re.findall(r"!\[[^\]]*\]\(([^)\s]+)", text)
             for heading in re.findall(r"^#+ (.*)$", text, re.M):
                 self.anchors.add(re.sub(r"[^\w -]", "", heading).lower().replace(" ", "-"))
+        self.loaded += loaded_by_styles(text)
         self.feed(text)
 
     def handle_starttag(self, tag, attributes):
@@ -41,8 +49,10 @@ class Page(html.parser.HTMLParser):
             if given["id"] in self.anchors:
                 complain(self.path, f"two anchors {given['id']}")
             self.anchors.add(given["id"])
-        self.links += [given[name] for name in ("href", "src") if name in given]
-        self.links += [part.split()[0] for part in given.get("srcset", "").split(",") if part]
+        self.loaded += [given[name] for name in ("src", "poster", "data") if name in given]
+        self.loaded += [part.split()[0] for part in given.get("srcset", "").split(",") if part]
+        if "href" in given:
+            (self.loaded if tag == "link" else self.links).append(given["href"])
         if tag == "img":
             self.pictures.append(given)
             if not given.get("alt"):
@@ -62,9 +72,16 @@ def check_sizes(page):
             complain(page.path, f"{given['src']} is {size_of(picture)}, not {told}")
 
 
+def check_loaded(path, loaded):
+    for link in loaded:
+        parts = urllib.parse.urlsplit(link)
+        if parts.netloc or parts.scheme not in ("", "data"):
+            complain(path, f"{link} is loaded from elsewhere")
+
+
 def check_links(page, pages):
     reached = set()
-    for link in page.links:
+    for link in sorted({*page.links, *page.loaded}):
         parts = urllib.parse.urlsplit(link)
         if parts.scheme or parts.netloc:
             continue
@@ -84,8 +101,11 @@ pages = {path.resolve(): Page(path) for path in paths}
 reached = set()
 for page in pages.values():
     reached |= check_links(page, pages)
+    check_loaded(page.path, page.loaded)
     if page.path.suffix == ".html":
         check_sizes(page)
+for path in pathlib.Path("web").rglob("*.css"):
+    check_loaded(path, loaded_by_styles(path.read_text(encoding="utf-8")))
 for folder in ("web/pictures", "docs/pictures"):
     for picture in sorted(pathlib.Path(folder).iterdir()):
         if picture.resolve() not in reached:
