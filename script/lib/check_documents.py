@@ -1,7 +1,8 @@
 """Checks what the pages for developers name in `backticks`: every test (`Suite.Test`) and every file
 must exist. A file stands with its folder or, like `title_match.cpp`, alone; `*` is any part of its
-name."""
+name. So must every preset of CMake that they name anywhere."""
 
+import json
 import pathlib
 import re
 import sys
@@ -9,6 +10,7 @@ import sys
 TEST = re.compile(r"^(?:TEST|TEST_F|TEST_P|TYPED_TEST|TYPED_TEST_P)\((\w+),\s*(\w+)\)", re.M)
 # A name of a suite begins with a capital letter, and so does the test's; files have small ones.
 NAMED = re.compile(r"`([A-Z]\w+\.[A-Z]\w+)`")
+PRESET = re.compile(r"--preset (\S+)")
 QUOTED = re.compile(r"`([^`\n]+)`|\]\(([^)#:\n]+)\)")
 # What builds leave is not there in a fresh checkout.
 FOLDERS = {path.name for path in pathlib.Path().iterdir() if path.is_dir()} - {"build", "dist"}
@@ -41,6 +43,8 @@ def exists(word, page):
 
 
 existing = set(tests())
+presets = json.loads(pathlib.Path("CMakePresets.json").read_text(encoding="utf-8"))
+presets = {preset["name"] for preset in presets["configurePresets"]}
 files = {path.name for folder in FOLDERS for path in pathlib.Path(folder).rglob("*")}
 files |= {path.name for path in pathlib.Path().iterdir()}
 # What a script makes may be named before it is there.
@@ -49,6 +53,9 @@ files |= {line.strip("/") for line in ignored}
 problems = 0 if existing else 1
 for page in pages():
     for number, line in enumerate(page.read_text(encoding="utf-8").splitlines(), 1):
+        for name in set(PRESET.findall(line.replace("`", " "))) - presets:
+            print(f"{page}:{number}: there is no preset {name}")
+            problems += 1
         for name in NAMED.findall(line):
             if name not in existing:
                 print(f"{page}:{number}: there is no test {name}")
