@@ -1,4 +1,5 @@
-"""Fills in the manifests for winget and scoop and checks them against their schemas.
+"""Fills in the manifests for winget and scoop and checks them against schemas that were written by
+hand after the fields that both document.
 Usage: manifests.py [--check]. Without --check they go into dist/manifests/, with the checksums of
 dist/SHA256SUMS; with it only the templates are checked, with a checksum of zeros."""
 
