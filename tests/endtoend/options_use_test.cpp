@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <functional>
 
+#include "tests/endtoend/harness/color_dialog.h"
 #include "tests/endtoend/options_test.h"
 
 namespace korvale::endtoend {
@@ -120,6 +121,26 @@ TEST_F(Options, TakeTheDefaultColourAgainByAShiftClickOnTheLegend) {
   ASSERT_TRUE(Apply(dialog));
   EXPECT_EQ(settings().Get("Options", "HotKeyEnabled"), Defaults("Options")["HotKeyEnabled"]);
   EXPECT_FALSE(korvale_->HasMessageBox());
+}
+
+TEST_F(Options, ChooseTheColourByAltCAndTakeTheDefaultAgainByShiftAltC) {
+  constexpr Rgb kDefault{255, 255, 128};
+  constexpr Rgb kChosen{10, 255, 159};
+  const OptionsDialog dialog = StartWithOptions(Page::kHotKeys);
+  Press({MOD_ALT, 'C'});
+  const ColorDialog colors(*korvale_);
+  ASSERT_TRUE(InFront(colors.window()));
+  EXPECT_EQ(colors.Shown(), kDefault);
+  ASSERT_TRUE(colors.Choose(kChosen));
+  ASSERT_TRUE(InFront(dialog.form()));
+  EXPECT_TRUE(WaitFor([&] { return ColorOnScreen(dialog.EnabledLegend()) == kChosen; }));
+  ASSERT_TRUE(Apply(dialog));
+  EXPECT_EQ(settings().Get("Options", "HotKeyEnabled"), StoredColor(kChosen));
+  Press({MOD_SHIFT | MOD_ALT, 'C'});
+  EXPECT_TRUE(WaitFor([&] { return ColorOnScreen(dialog.EnabledLegend()) == kDefault; }));
+  EXPECT_FALSE(korvale_->HasMessageBox());
+  ASSERT_TRUE(Apply(dialog));
+  EXPECT_EQ(settings().Get("Options", "HotKeyEnabled"), Defaults("Options")["HotKeyEnabled"]);
 }
 
 TEST_F(Options, ShowByABorderWhichHotKeysAreEnabled) {
