@@ -42,7 +42,8 @@ AssertionResult KeyboardUser::GoTo(int tag, Window window) {
 }
 
 AssertionResult KeyboardUser::OpenPopUp(Chord chord) {
-  Press(chord);
+  // All at once, as PopUpWindowMenu() does.
+  PressAtOnce(chord);
   if (korvale_->OpenMenu()) return AssertionSuccess();
   return AssertionFailure() << "no menu pops up";
 }
