@@ -206,6 +206,16 @@ TEST_F(WindowMenuPoppedUp, GivesTheMainWindowNoFocus) {
   EXPECT_EQ(tracker.WindowInFront(), 0);
 }
 
+TEST_F(WindowMenuPoppedUp, StaysTheWindowInFrontWhereTheUserWasInItBefore) {
+  CloseMenu();
+  WorkIn(alpha);
+  WorkIn(mainWindow.handle);
+  mainWindow.windowMenuPoppedUp = true;
+  tracker.tmrWindow_Timer();
+  CloseMenu();
+  EXPECT_EQ(tracker.WindowInFront(), mainWindow.handle);
+}
+
 TEST_F(WindowMenuPoppedUp, LeavesNoTraceWhenTheForegroundGoesBackAMomentLate) {
   CloseMenu();
   tracker.tmrWindow_Timer();

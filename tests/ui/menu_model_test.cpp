@@ -161,6 +161,8 @@ TEST(MenuTextTest, ShowsALiteralPartAsItIsAndOnOneLine) {
   item.caption = "&1  R&D\tof\n& \x1f\x7f 日";
   item.literalFrom = 2;
   EXPECT_EQ(MenuText(item), "&1  R&&D of &&    日");
+  item.literalFrom = 0;
+  EXPECT_EQ(MenuText(item), "&&1  R&&D of &&    日");
   item.literalFrom = -1;
   EXPECT_EQ(MenuText(item), item.caption);
 }
