@@ -132,7 +132,7 @@ class KeyboardAlone : public KeyboardUser {
     EXPECT_TRUE(WaitFor([this] { return alpha_.Minimized(); }));
     ASSERT_TRUE(WaitFor([this] { return Foreground() && Foreground() != alpha_; }));
     ASSERT_TRUE(GoTo(1, alpha_));
-    EXPECT_FALSE(alpha_.Minimized());
+    EXPECT_TRUE(WaitFor([this] { return !alpha_.Minimized(); }));
     for (const bool maximized : {true, false}) {
       Press(kMaximizeKey);
       EXPECT_TRUE(WaitFor([&] { return alpha_.Maximized() == maximized; }));
