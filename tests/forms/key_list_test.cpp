@@ -117,6 +117,11 @@ TEST_F(KeyListTest, AKeyWithTheWindowsKeyIsForWindows) {
   Press(dialog_, 'K', kWindows);
   Press(dialog_, fakes::kVkSnapshot, kWindows);
   EXPECT_EQ(Chosen(), "DownArrow");
+  // Also when it was pressed alone before and came up elsewhere.
+  Hold('K');
+  EXPECT_TRUE(dialog_.OnKeyDown(Id(dialog_, "cboHotKeyAction", 0), 'K', kWindows, false));
+  Release('K');
+  EXPECT_EQ(Chosen(), "DownArrow");
 }
 
 TEST_F(KeyListTest, ArrowsAreEntriesOfAClosedListAndMoveInAnOpenOne) {
