@@ -62,7 +62,10 @@ constexpr DWORD kCppException = 0x20474343;
 /// The thread that reports the crash of another one, which may have no stack left for it.
 class WindowsCrashApi::Reporter {
  public:
-  explicit Reporter(std::function<void(const Crash&)> filter) : filter_(std::move(filter)) {}
+  /// Waits until its thread runs: a crash may come while no thread can begin.
+  explicit Reporter(std::function<void(const Crash&)> filter) : filter_(std::move(filter)) {
+    if (Runs()) WaitForSingleObject(begun_.Get(), INFINITE);
+  }
   ~Reporter() {
     SetEvent(finished_.Get());
     if (Runs()) WaitForSingleObject(thread_.Get(), INFINITE);
@@ -106,6 +109,7 @@ class WindowsCrashApi::Reporter {
   }
   void WaitAndReport() {
     reporting_ = GetCurrentThreadId();
+    SetEvent(begun_.Get());
     const HANDLE events[] = {toReport_.Get(), finished_.Get()};
     if (WaitForMultipleObjects(2, events, FALSE, INFINITE) != WAIT_OBJECT_0) return;
     Report();
@@ -122,6 +126,7 @@ class WindowsCrashApi::Reporter {
   }
 
   std::function<void(const Crash&)> filter_;
+  UniqueKernelHandle begun_{CreateEventW(nullptr, TRUE, FALSE, nullptr)};
   UniqueKernelHandle toReport_{CreateEventW(nullptr, TRUE, FALSE, nullptr)};
   UniqueKernelHandle finished_{CreateEventW(nullptr, TRUE, FALSE, nullptr)};
   std::atomic_flag crashed_;
