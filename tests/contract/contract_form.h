@@ -115,6 +115,7 @@ class RecordingForm : public Form {
   bool refusesToClose = false;
   int activations = 0;
   int resizes = 0;
+  int moves = 0;
   int colorChanges = 0;
   std::vector<CloseReason> closeReasons;
   MouseInput lastMouse;
@@ -128,6 +129,7 @@ class RecordingForm : public Form {
     ++resizes;
     if (onResize) onResize();
   }
+  void Form_Move() override { ++moves; }
   void Form_SysColorChange() override { ++colorChanges; }
   void Form_Unload() override { log.emplace_back("unload"); }
   void Form_QueryUnload(bool& cancel, CloseReason reason) override {

@@ -208,6 +208,9 @@ TEST_F(OpenOptionsLookTest, EachHotKeyIsNamedRightBeforeItsLists) {
     EXPECT_EQ(Id(dialog_, "lblTagParent", tag) + 1, Id(dialog_, "chkHotKeyParent", tag));
   }
   EXPECT_EQ(Id(dialog_, "lblModParent") + 1, Id(dialog_, "cboHotKeyModParent"));
+  // "Alt", "+", and the Tags.
+  EXPECT_EQ(Id(dialog_, "cboHotKeyModParent") + 1, Id(dialog_, "lblPlusParent"));
+  EXPECT_EQ(Id(dialog_, "lblPlusParent") + 1, Id(dialog_, "lblTagParent", 0));
 }
 
 TEST_F(OpenOptionsLookTest, TheAccessKeysOfTheFramesLeadToTheirFirstLists) {

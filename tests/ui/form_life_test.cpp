@@ -192,6 +192,14 @@ TEST_F(FormLifeTest, WhatIsSetBeforeLoadingDoesNotReachTheHost) {
   EXPECT_FALSE(clock_.AnyTimerOf(0));
 }
 
+TEST_F(FormLifeTest, TheCaptionThatItHasIsNotSetAgain) {
+  form_.Show();
+  form_.SetCaption("other");
+  const std::size_t calls = log_.Calls().size();
+  form_.SetCaption("other");
+  EXPECT_EQ(log_.Calls().size(), calls);
+}
+
 TEST_F(FormLifeTest, WhatIsSetBeforeTheFirstLoadingHolds) {
   form_.SetCaption("early");
   form_.SetEnabled(false);

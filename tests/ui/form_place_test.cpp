@@ -95,6 +95,24 @@ TEST_F(FormPlaceTest, WhatTheUserDragsCountsTheClassicFrameToo) {
   EXPECT_EQ(form.resizes, 2);
 }
 
+TEST_F(FormPlaceTest, ADragToTheSideMovesAndOneOfAnEdgeSizes) {
+  FormDesign sizable = Bare("frmSizable");
+  sizable.border = BorderStyle::kSizable;
+  RecordingForm form(sizable, forms_);
+  form.Show();
+  TwipsRect place = form.Place();
+  const int moves = form.moves;
+  const int resizes = form.resizes;
+  place.left += 300;
+  user_.Drag(form.Handle(), place);
+  EXPECT_EQ(form.moves, moves + 1);
+  EXPECT_EQ(form.resizes, resizes);
+  place.width += 300;
+  user_.Drag(form.Handle(), place);
+  EXPECT_EQ(form.moves, moves + 1);
+  EXPECT_EQ(form.resizes, resizes + 1);
+}
+
 TEST_F(FormPlaceTest, AStateSetBeforeShowingHoldsWhenShown) {
   form_.Load();
   form_.SetWindowState(ShowState::kMinimized);
