@@ -4,6 +4,7 @@
 // After windows.h, which it needs.
 #include <commctrl.h>
 
+#include <string>
 #include <string_view>
 
 #include "platform/windows/handles.h"
@@ -32,6 +33,20 @@ class RealForm : public FormHostContract {
     PostMessageW(Hwnd(), WM_MOUSEMOVE, 0, 0);
     User().LetPass(50);
     return FindToolTips();
+  }
+  /// Opens a list of nine entries, all of which must be whole, and tells its window.
+  HWND OpenNineEntries() {
+    for (int entry = 4; entry <= 9; ++entry) form_.Find("cboSize").AddItem(std::to_string(entry));
+    SendMessageW(Control("cboSize"), CB_SHOWDROPDOWN, TRUE, 0);
+    COMBOBOXINFO info{};
+    info.cbSize = sizeof(info);
+    GetComboBoxInfo(Control("cboSize"), &info);
+    RECT last{};
+    RECT list{};
+    SendMessageW(info.hwndList, LB_GETITEMRECT, 8, reinterpret_cast<LPARAM>(&last));
+    GetClientRect(info.hwndList, &list);
+    EXPECT_LE(last.bottom, list.bottom);
+    return info.hwndList;
   }
   /// The colour of a control's first pixel.
   COLORREF ColorOf(HWND window) {
