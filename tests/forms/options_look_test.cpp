@@ -195,6 +195,13 @@ TEST_F(OpenOptionsLookTest, HasTheCaptionsOfItsControls) {
   }
 }
 
+/// Windows paints the body of a tab strip so.
+TEST_F(OpenOptionsLookTest, PagesHaveTheColorsOfADocument) {
+  EXPECT_EQ(Look(dialog_, "picOptions", 1).backColor, kWindowColor);
+  EXPECT_EQ(Look(dialog_, "chkSplashScreen").backColor, kWindowColor);
+  EXPECT_NE(Look(dialog_, "cmdOK").backColor, kWindowColor);
+}
+
 TEST_F(OpenOptionsLookTest, EachHotKeyIsNamedRightBeforeItsLists) {
   for (int i = 0; i < 2; ++i) {
     EXPECT_EQ(Id(dialog_, "lblAction", i) + 1, Id(dialog_, "cboHotKeyModAction", i));
