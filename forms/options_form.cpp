@@ -12,6 +12,7 @@ namespace korvale {
 namespace {
 
 constexpr int kPages = static_cast<int>(kPageTitles.size());
+constexpr int kHotKeysTab = 1;
 constexpr std::string_view kLegend = "lblLegend";
 /// Where the focus goes on each page.
 constexpr const char* kFirstControls[kPages] = {"chkSplashScreen", "cboHotKeyModParent",
@@ -185,7 +186,8 @@ void frmOptions::Form_KeyDown(int& key, unsigned shift) {
   if (key == win32::kVkTab && (shift & ~kShift) == kCtrl) {
     key = 0;
     TurnPage((shift & kShift) != 0);
-  } else if (key == 'C' && (shift & ~kShift) == kAlt && Find("tabOptions").ListIndex() == 1) {
+  } else if (key == 'C' && (shift & ~kShift) == kAlt &&
+             Find("tabOptions").ListIndex() == kHotKeysTab) {
     key = 0;
     if (!KeyRepeats()) PressLegend(shift & kShift);
   } else if (FocusedControl() != 0 && IsKeyList(ById(FocusedControl()))) {

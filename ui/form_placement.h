@@ -16,7 +16,8 @@ struct PlaceHints {
 /// `owner` may be null.
 void PlaceForm(Form& form, WindowHandle workedIn, const PlaceHints& hints, const Form* owner);
 
-/// The nearest beginning inside the room; what is longer than the room begins where it does.
+/// The nearest beginning inside the room, all in twips or all in pixels; what is longer than the
+/// room begins where it does.
 Twips Inside(Twips wished, Twips start, Twips room, Twips length);
 
 /// Moves a form into the work area of its monitor; a larger one begins where the area does.

@@ -1,10 +1,10 @@
 #include "ui/windows/form_scale.h"
 
-#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 
 #include "ui/form_dpi.h"
+#include "ui/form_placement.h"
 #include "ui/windows/system_fonts.h"
 
 namespace korvale {
@@ -81,11 +81,10 @@ bool FormScale::FollowTo(HWND window) {
 
 RECT FormScale::Kept(RECT place) const {
   if (MonitorFromRect(&place, MONITOR_DEFAULTTONEAREST) == monitor_) return place;
-  const auto inside = [](LONG start, LONG end, LONG first, LONG last) {
-    return std::max(first, std::min(start, last - (end - start))) - start;
-  };
-  OffsetRect(&place, inside(place.left, place.right, workArea_.left, workArea_.right),
-             inside(place.top, place.bottom, workArea_.top, workArea_.bottom));
+  const auto left = Inside(place.left, workArea_.left, WorkWidth(), place.right - place.left);
+  const auto top =
+      Inside(place.top, workArea_.top, workArea_.bottom - workArea_.top, place.bottom - place.top);
+  OffsetRect(&place, left - place.left, top - place.top);
   return place;
 }
 
