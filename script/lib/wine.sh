@@ -34,10 +34,31 @@ wine_display() {
 # Lets the display tell Wine nothing about keys: only SendInput presses any.
 wine_keyboard() {
   cc -shared -fPIC -O1 -Wall -Wextra -Werror -o "$WINE_WORK/no_keymap.so" script/lib/no_keymap.c &&
-    printf '#!/bin/sh\nLD_PRELOAD=%q exec %q "$@"\n' "$WINE_WORK/no_keymap.so" "$WINE_LOADER" \
-      >"$WINE_WORK/wine" &&
-    chmod +x "$WINE_WORK/wine" &&
-    WINE_LOADER=$WINE_WORK/wine
+    wine_start_by env LD_PRELOAD="$WINE_WORK/no_keymap.so"
+}
+
+# Wine wants the page at 7FFE0000 of every program for itself. Debian's has no preloader that keeps
+# it free, and its heap begins at random within the gigabyte that holds this page: once in about
+# 1,000 starts it is taken, and CreateProcess fails with error 1359. So nothing is at random.
+wine_addresses() {
+  if setarch -R true 2>/dev/null; then
+    wine_start_by setarch -R
+  else
+    echo "addresses stay random here: one in 1,000 programs will not start under Wine" >&2
+  fi
+}
+
+# From now on Wine starts by this command; what it changes, the programs that Wine starts inherit.
+wine_start_by() {
+  local start=$WINE_WORK/wine-by-$1
+  {
+    echo '#!/bin/sh'
+    printf 'exec'
+    printf ' %q' "$@" "$WINE_LOADER"
+    echo ' "$@"'
+  } >"$start"
+  chmod +x "$start"
+  WINE_LOADER=$start
 }
 
 # The display tells every window late where the pointer was, and Wine puts it back there. So
@@ -86,6 +107,7 @@ wine_begin() {
   export WINEDEBUG=${WINEDEBUG:--all} WINEDLLOVERRIDES='mscoree,mshtml='
   export WINESERVER=$WINE_SERVER WINELOADER=$WINE_LOADER
   export FONTCONFIG_FILE=${KORVALE_FONTS:-$PWD/script/lib/fonts.conf}
+  wine_addresses
   wine_display
   wine_template
 }
