@@ -56,22 +56,29 @@ build() {
     { grep -vE '^\[[0-9]+/' "build/$preset.log" | tail -60; return 1; }
 }
 
-# count_tests WHAT...: sets good, bad and names to what count_tests.py prints for WHAT.
+# count_tests WHAT...: sets good, bad, names and skipped to what count_tests.py prints for WHAT.
 count_tests() {
   local said
   said=$(python3 script/lib/count_tests.py "$@") || said='0 1'
   # shellcheck disable=SC2034 # for the caller
   read -r good bad names <<<"$said"
+  # shellcheck disable=SC2034 # for the caller
+  skipped=$(tail -n +2 <<<"$said")
 }
 
-# native_tests PRESET: all tests of this build, on all cores; sets good, bad and names. What ctest
-# itself says of them is in the results.
+# native_tests PRESET: all tests of this build, on all cores; sets good, bad, names and skipped. What
+# ctest itself says of them is in the results.
 native_tests() {
   local build=build/$1
   rm -rf "$build/reports" "$build/results.xml"
   ctest --test-dir "$build" -j"$(nproc)" --output-on-failure --output-junit results.xml \
     >"$build-tests.log" 2>&1 || true
   count_tests ctest "$build/results.xml" "$build/reports"
+}
+
+# show_skipped LINES: how many tests skipped themselves, which and why.
+show_skipped() {
+  [ -z "$1" ] || echo "$(wc -l <<<"$1") skipped: ${1//$'\n'/, }"
 }
 
 # show_failures LOG: the tests that did not pass, and what GoogleTest printed of them.
