@@ -11,10 +11,23 @@ WINE_SCREEN=${WINE_SCREEN:-$WINE_USUAL_SCREEN}
 wine_display() {
   if [ -n "${KORVALE_DISPLAY:-}" ]; then
     export DISPLAY=$KORVALE_DISPLAY
-    return
+  else
+    wine_xvfb "$WINE_SCREEN" && wine_keyboard && wine_pointer
   fi
+}
+
+# wine_other_display SIZE: the suites that follow have a virtual display of that size, WIDTHxHEIGHT.
+wine_other_display() {
+  wine_end_suites
+  kill "$WINE_POINTER" "$WINE_XVFB"
+  wait "$WINE_POINTER" "$WINE_XVFB" 2>/dev/null
+  wine_xvfb "$1" && wine_pointer
+}
+
+wine_xvfb() {
+  rm -f "$WINE_WORK/display"
   # Xvfb chooses a free number itself and writes it to the descriptor when it is ready.
-  Xvfb -displayfd 5 -screen 0 "${WINE_SCREEN}x24" -nolisten tcp -noreset \
+  Xvfb -displayfd 5 -screen 0 "${1}x24" -nolisten tcp -noreset \
     5>"$WINE_WORK/display" >/dev/null 2>&1 &
   WINE_XVFB=$!
   local tries=0
@@ -28,7 +41,6 @@ wine_display() {
   done
   DISPLAY=:$(tr -d '[:space:]' <"$WINE_WORK/display")
   export DISPLAY
-  wine_keyboard && wine_pointer
 }
 
 # Lets the display tell Wine nothing about keys: only SendInput presses any.
@@ -65,6 +77,7 @@ wine_start_by() {
 # only the tests tell where it is, Wine by Windows' own calls and the display by KORVALE_POINTER.
 wine_pointer() {
   local folder=$WINE_WORK/pointer kept=$WINE_WORK/pointer-kept
+  rm -rf "$folder" "$kept"
   mkdir "$folder"
   mkfifo "$kept"
   python3 script/lib/keep_pointer.py "$folder" >"$kept" &
@@ -126,7 +139,10 @@ wine_suite() {
   # Debian's Wine does not look for its own fonts; without this one title bars show letters instead
   # of buttons.
   cp /usr/share/wine/fonts/marlett.ttf "$WINEPREFIX/drive_c/windows/Fonts/" || true
-  [ "$WINE_SCREEN" = "$WINE_USUAL_SCREEN" ] || wine_screen "$WINE_SCREEN"
+  # Into the file: a program that told the registry could leave a desktop of the usual size behind.
+  [ "$WINE_SCREEN" = "$WINE_USUAL_SCREEN" ] ||
+    printf '\n[Software\\\\Wine\\\\Explorer\\\\Desktops]\n"Default"="%s"\n' "$WINE_SCREEN" \
+      >>"$WINEPREFIX/user.reg"
   [ -z "${WINE_DPI:-}" ] ||
     printf '\n[Control Panel\\\\Desktop]\n"LogPixels"=dword:%08x\n' "$WINE_DPI" \
       >>"$WINEPREFIX/user.reg"
@@ -155,7 +171,9 @@ wine_pictures() {
     while sleep 0.05; do
       for request in "$folder"/*.request; do
         [ -e "$request" ] || continue
-        import -window root "${request%.request}.png" 2>/dev/null
+        display=$DISPLAY
+        [ ! -s "$WINE_WORK/display" ] || display=:$(<"$WINE_WORK/display")
+        import -display "$display" -window root "${request%.request}.png" 2>/dev/null
         rm -f "$request"
       done
     done

@@ -8,10 +8,15 @@
 namespace korvale::endtoend {
 namespace {
 
-/// The text of a user who has made it bigger, 12 pixels high to begin with.
+/// The text of a user who has made it bigger, 9 points to begin with. script/test lets this run on
+/// screens of more dots per inch too.
 class BiggerText : public OptionsTest {
  protected:
-  static int Height(int percent) { return 12 * percent / 100; }
+  /// The pixels of a length of 96 dots per inch.
+  static int Pixels(int length) {
+    return MulDiv(length, static_cast<int>(GetDpiForSystem()), USER_DEFAULT_SCREEN_DPI);
+  }
+  static int Height(int percent) { return MulDiv(Pixels(12), percent, 100); }
 
   static ::testing::AssertionResult LooksWell(Window form, int textHeight) {
     std::string flaw = "it is not there";
@@ -23,8 +28,7 @@ class BiggerText : public OptionsTest {
 
   /// The text that goes with the size that a dialog has got.
   static int TextIn(const OptionsDialog& dialog) {
-    constexpr int kButtonHeight = 23;
-    return Height(100) * static_cast<int>(SizeOf(dialog.Button("OK")).cy) / kButtonHeight;
+    return Height(100) * static_cast<int>(SizeOf(dialog.Button("OK")).cy) / Pixels(23);
   }
 };
 
@@ -48,6 +52,10 @@ TEST_F(BiggerText, CutsNothingInAnyWindow) {
     const AddWindowDialog add = OpenAddWindow();
     EXPECT_TRUE(LooksWell(add.form(), height));
     ASSERT_TRUE(add.Cancel());
+    ASSERT_TRUE(Choose('T', {'H'}));
+    ASSERT_TRUE(InFront(korvale_->Form("frmMsgTip")));
+    Press({0, VK_RETURN});
+    EXPECT_TRUE(LooksWell(korvale_->Form("frmWaitWindow"), height));
     ASSERT_TRUE(Exit());
   }
 }
@@ -61,7 +69,7 @@ TEST_F(BiggerText, EnlargesTheOptionsAsFarAsTheScreenHasRoom) {
       ASSERT_TRUE(dialog.GoTo(page));
       EXPECT_TRUE(LooksWell(dialog.form(), TextIn(dialog)));
     }
-    EXPECT_GE(TextIn(dialog), Height(percent > 100 ? 125 : 100));
+    EXPECT_GE(TextIn(dialog), Height(100) * (percent > 100 ? 125 : 100) / 100);
     ASSERT_TRUE(dialog.Cancel());
     ASSERT_TRUE(Exit());
   }
@@ -72,7 +80,8 @@ TEST_F(BiggerText, LeavesTheStoredWidthAsItIs) {
   for (const int percent : {150, 225, 100}) {
     const TextSize size(percent);
     Start();
-    EXPECT_EQ(SizeOf(main()).cx, 400 * percent / 100);
+    // As much wider as the text is higher, which has whole pixels.
+    EXPECT_NEAR(SizeOf(main()).cx, Pixels(400) * Height(percent) / Height(100), 1);
     ASSERT_TRUE(Exit());
     EXPECT_TRUE(Stored("Width", "6000"));
   }

@@ -6,6 +6,8 @@
 
 int main(int argc, char** argv) {
   ::testing::InitGoogleTest(&argc, argv);
+  // As Korvale itself, the tests count in the pixels of the screen.
+  SetProcessDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
   // The tests press system-wide hot keys, and a copy that somebody is using would act on them.
   const auto running = [](korvale::endtoend::Window window) {
     return window.ClassName() == "Korvale.frmMain";
