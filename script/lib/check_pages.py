@@ -1,6 +1,7 @@
 """Checks the pages that strangers read: every link of web/*.html and *.md that stays in this folder
 leads to a file, or to an anchor of a page, that is there, every picture of a page tells its size and
-is used, and what a page or stylesheet loads by itself comes from no other host."""
+is used, one of the double scale has twice the width, and what a page or stylesheet loads by itself
+comes from no other host."""
 
 import html.parser
 import pathlib
@@ -8,6 +9,9 @@ import re
 import struct
 import sys
 import urllib.parse
+
+# The frames of windows do not grow evenly.
+FRAMES = 8
 
 problems = 0
 
@@ -72,6 +76,19 @@ def check_sizes(page):
             complain(page.path, f"{given['src']} is {size_of(picture)}, not {told}")
 
 
+def check_double(page):
+    for given in page.pictures:
+        once = page.path.parent / given["src"]
+        for candidate in given.get("srcset", "").split(","):
+            name, scale = (*candidate.split(), "", "")[:2]
+            twice = page.path.parent / name
+            if scale != "2x" or not once.is_file() or not twice.is_file():
+                continue
+            width, expected = size_of(twice)[0], 2 * size_of(once)[0]
+            if abs(width - expected) > FRAMES:
+                complain(page.path, f"{name} is {width} wide, not about {expected}")
+
+
 def check_loaded(path, loaded):
     for link in loaded:
         parts = urllib.parse.urlsplit(link)
@@ -102,6 +119,7 @@ reached = set()
 for page in pages.values():
     reached |= check_links(page, pages)
     check_loaded(page.path, page.loaded)
+    check_double(page)
     if page.path.suffix == ".html":
         check_sizes(page)
 for path in pathlib.Path("web").rglob("*.css"):

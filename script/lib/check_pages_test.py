@@ -1,6 +1,7 @@
 """Holds check_pages.py to finding what is wrong with a page."""
 
 import pathlib
+import struct
 import subprocess
 import sys
 import tempfile
@@ -11,11 +12,14 @@ HEAD = '<link rel="stylesheet" href="style.css">'
 
 
 class CheckPages(unittest.TestCase):
-    def found(self, page, style="p { margin: 0 }", readme="# Korvale"):
+    def found(self, page, style="p { margin: 0 }", readme="# Korvale", pictures=()):
         with tempfile.TemporaryDirectory() as name:
             folder = pathlib.Path(name)
-            for pictures in ("web/pictures", "docs/pictures"):
-                (folder / pictures).mkdir(parents=True)
+            for place in ("web/pictures", "docs/pictures"):
+                (folder / place).mkdir(parents=True)
+            for picture, size in pictures:
+                start = b"\x89PNG\r\n\x1a\n\0\0\0\rIHDR"
+                (folder / "web/pictures" / picture).write_bytes(start + struct.pack(">II", *size))
             (folder / "web/help.html").write_text(page)
             (folder / "web/style.css").write_text(style)
             (folder / "README.md").write_text(readme)
@@ -60,6 +64,18 @@ class CheckPages(unittest.TestCase):
         self.assertEqual(self.found(picture), [f"web/help.html: {expected}"])
         found = self.found(HEAD, readme="![P](https://example.org/p.png)")
         self.assertEqual(found, [f"README.md: {expected}"])
+
+    def test_finds_a_picture_of_another_size(self):
+        page = ('<img src="pictures/p.png" srcset="pictures/p-2x.png 2x" alt="P"'
+                ' width="100" height="50">')  # fmt: skip
+        for sizes, expected in (
+            (((100, 50), (200, 100)), []),
+            (((100, 50), (194, 92)), []),
+            (((100, 51), (200, 100)), ["pictures/p.png is (100, 51), not (100, 50)"]),
+            (((100, 50), (450, 100)), ["pictures/p-2x.png is 450 wide, not about 200"]),
+        ):
+            found = self.found(page, pictures=zip(("p.png", "p-2x.png"), sizes))
+            self.assertEqual(found, [f"web/help.html: {what}" for what in expected])
 
 
 if __name__ == "__main__":
