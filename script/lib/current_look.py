@@ -72,6 +72,7 @@ def keys(dpi, large):
         number("FontSmoothingGamma", 1400),
     ]
     caption, menu = (36, 34) if large else (28, 22)
+    # Wine paints nothing on the padding of borders: it stays black, in every program.
     sizes = {
         "CaptionHeight": caption, "CaptionWidth": caption, "MenuHeight": menu, "MenuWidth": menu,
         "SmCaptionHeight": caption, "SmCaptionWidth": caption,

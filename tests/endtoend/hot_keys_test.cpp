@@ -1,32 +1,13 @@
 #include <algorithm>
 #include <optional>
-#include <stdexcept>
 
+#include "tests/endtoend/harness/stopped_thread.h"
 #include "tests/endtoend/korvale_test.h"
 
 namespace korvale::endtoend {
 namespace {
 
 constexpr char kClass[] = "Test.Window";
-
-/// Keeps the thread of a window from its messages while this exists.
-class StoppedThread {
- public:
-  explicit StoppedThread(Window window)
-      : thread_(OpenThread(THREAD_SUSPEND_RESUME, FALSE,
-                           GetWindowThreadProcessId(window.handle(), nullptr))) {
-    if (SuspendThread(thread_) == static_cast<DWORD>(-1)) throw std::runtime_error("no thread");
-  }
-  StoppedThread(const StoppedThread&) = delete;
-  StoppedThread& operator=(const StoppedThread&) = delete;
-  ~StoppedThread() {
-    ResumeThread(thread_);
-    CloseHandle(thread_);
-  }
-
- private:
-  HANDLE thread_;
-};
 
 class HotKeys : public KorvaleTest {
  protected:

@@ -9,6 +9,7 @@
 #include "tests/endtoend/harness/keyboard.h"
 #include "tests/endtoend/harness/layout.h"
 #include "tests/endtoend/harness/main_window.h"
+#include "tests/endtoend/harness/stopped_thread.h"
 #include "tests/endtoend/harness/wait.h"
 
 namespace korvale::endtoend {
@@ -27,6 +28,23 @@ void Need(bool holds, const std::string& what) {
   if (!holds) throw std::runtime_error(what);
 }
 
+/// Moves the window to the lower left corner of the other, once it has the size that it will have.
+void PutBelow(Window window, Window other) {
+  const auto keeps = [&](const SIZE& size) {
+    const SIZE now = SizeOf(window);
+    return now.cx == size.cx && now.cy == size.cy;
+  };
+  const auto still = [&] {
+    const SIZE size = SizeOf(window);
+    return HoldsFor([&] { return keeps(size); });
+  };
+  Need(WaitFor(still), window.Title() + " does not come to rest");
+  RECT area{};
+  GetWindowRect(other.handle(), &area);
+  SetWindowPos(window.handle(), nullptr, area.left, area.bottom, 0, 0,
+               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 void CloseForm(Window form) {
   BringToFront(form);
   Press({0, VK_ESCAPE});
@@ -42,6 +60,7 @@ void Gallery::Run() {
   TakePopUp();
   TakeAddWindow();
   TakeOptions();
+  TakeNotice();
   TakeConflicts();
   TakeColors();
   TakeAbout();
@@ -124,8 +143,9 @@ void Gallery::TakeMainWindow() {
   Choose('V', {'M'});
   MoveWindow(main.window().handle(), 200, 100, 10, 10, TRUE);
   photographer_.Take("main-window-narrow", {main.window()});
-  Place(main.window(), 120, 60, 440, 90);
+  Place(main.window(), 120, 60, 700, 90);
   photographer_.Take("main-window-wide", {main.window()});
+  Place(main.window(), 120, 60, 440, 90);
 }
 
 void Gallery::TakeMenus() {
@@ -182,10 +202,19 @@ void Gallery::TakeOptions() {
   CloseForm(dialog.form());
 }
 
-void Gallery::TakeConflicts() {
+void Gallery::TakeNotice() {
   Press(kToggleKey);
-  photographer_.Take("notice", {Form("frmWaitWindow")});
+  const Window notice = Form("frmWaitWindow");
+  // It goes by itself in less than a second, on a busy machine before its picture is taken.
+  HoldsFor([&] { return notice.Responds(); }, std::chrono::milliseconds(200));
+  {
+    const StoppedThread stopped(notice);
+    photographer_.TakeAtOnce("notice", {notice});
+  }
   Need(WaitFor([&] { return !korvale_->HasForm("frmWaitWindow"); }), "the notice stays");
+}
+
+void Gallery::TakeConflicts() {
   Need(holder_.TakeHotKey(TagKey(3)) && holder_.TakeHotKey(kDefaultMenuKey),
        "the keys are not free");
   Press(kToggleKey);
@@ -213,11 +242,7 @@ void Gallery::TakeColors() {
   BringToFront(main.window());
   ClickAt(main.TitleBox(), {20, 4});
   const ColorDialog dialog(*korvale_);
-  // Below the fields that it colours.
-  RECT strip{};
-  GetWindowRect(main.window().handle(), &strip);
-  const SIZE size = SizeOf(dialog.window());
-  Place(dialog.window(), strip.left, strip.bottom, size.cx, size.cy);
+  PutBelow(dialog.window(), main.window());
   photographer_.Take("colors", {main.window(), dialog.window()});
   Need(dialog.Choose({255, 214, 165}), "the colour is not taken");
   Choose('V', {'C'});

@@ -28,6 +28,8 @@ class Gallery {
   void TakePopUp();
   void TakeAddWindow();
   void TakeOptions();
+  /// Leaves the hot keys switched off.
+  void TakeNotice();
   void TakeConflicts();
   void TakeColors();
   void TakeAbout();

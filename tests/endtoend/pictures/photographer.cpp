@@ -39,7 +39,15 @@ bool AtRest(const std::vector<Window>& windows) {
 }  // namespace
 
 void Photographer::Take(const std::string& name, const std::vector<Window>& windows) {
-  const bool ready = AtRest(windows);
+  Request(name, windows, AtRest(windows) && ComeToRest(windows));
+}
+
+void Photographer::TakeAtOnce(const std::string& name, const std::vector<Window>& windows) {
+  Request(name, windows, true);
+}
+
+void Photographer::Request(const std::string& name, const std::vector<Window>& windows,
+                           bool ready) {
   const RECT area = AreaAround(windows);
   const char* folder = std::getenv("KORVALE_PICTURES");
   if (folder != nullptr) {
@@ -47,7 +55,8 @@ void Photographer::Take(const std::string& name, const std::vector<Window>& wind
         << area.right - area.left << 'x' << area.bottom - area.top << '+' << area.left << '+'
         << area.top << "\n";
   }
-  const bool taken = ready && ScreenComesToRest() && TakePicture(name);
+  const auto shown = [](Window window) { return window.Visible(); };
+  const bool taken = ready && TakePicture(name) && std::ranges::all_of(windows, shown);
   if (!taken) ++missed_;
   std::cout << (taken ? "  ok    " : "  FAIL  ") << name << std::endl;
 }
