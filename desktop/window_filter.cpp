@@ -28,10 +28,6 @@ bool WindowFilter::IsPutAway(WindowHandle hwnd) const {
   return korvale::IsPutAway(*windows_, *virtualDesktops_, hwnd);
 }
 
-bool WindowFilter::IsShown(WindowHandle hwnd) const {
-  return korvale::IsShown(*windows_, *virtualDesktops_, hwnd);
-}
-
 bool WindowFilter::IsShown(SeenWindow& window) const {
   return korvale::IsShown(*windows_, *virtualDesktops_, window);
 }

@@ -37,7 +37,6 @@ class WindowFilter {
   bool IsPutAway(WindowHandle hwnd) const;
   /// IsShown of window_visibility.h: the user can see the window, here or on another virtual
   /// desktop.
-  bool IsShown(WindowHandle hwnd) const;
   bool IsShown(SeenWindow& window) const;
 
  private:

@@ -62,11 +62,6 @@ bool IsCloakedWindowPutAway(WindowQueries& windows, VirtualDesktops& desktops, W
   return search.found == 0 && search.answered;
 }
 
-bool IsShown(WindowQueries& windows, VirtualDesktops& desktops, WindowHandle hwnd) {
-  SeenWindow window(windows, hwnd);
-  return IsShown(windows, desktops, window);
-}
-
 bool IsShown(WindowQueries& windows, VirtualDesktops& desktops, SeenWindow& window) {
   if (!window.IsVisible()) return false;
   return window.Cloak() == 0 || !IsCloakedWindowPutAway(windows, desktops, window.Handle());

@@ -28,7 +28,6 @@ bool IsPutAway(WindowQueries& windows, VirtualDesktops& desktops, WindowHandle h
 bool IsCloakedWindowPutAway(WindowQueries& windows, VirtualDesktops& desktops, WindowHandle hwnd);
 
 /// Visible, by its style, here or on another virtual desktop.
-bool IsShown(WindowQueries& windows, VirtualDesktops& desktops, WindowHandle hwnd);
 bool IsShown(WindowQueries& windows, VirtualDesktops& desktops, SeenWindow& window);
 
 }  // namespace korvale
