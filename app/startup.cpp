@@ -1,6 +1,7 @@
 #include "app/startup.h"
 
 #include "app/core/error_reporting.h"
+#include "app/core/form_names.h"
 #include "app/core/identity.h"
 #include "app/core/installation.h"
 #include "app/core/save_scope.h"
@@ -17,7 +18,6 @@ constexpr const char* kWhitespace = " \t\r\n\v\f";
 constexpr std::int16_t kOtherInstanceTipHeight = 5400;
 constexpr std::int16_t kCommandLineTipHeight = 2700;
 constexpr std::int16_t kRefusedHotKeysTipHeight = 3600;
-constexpr std::int16_t kHotKeysTab = 2;
 
 }  // namespace
 
@@ -186,7 +186,7 @@ void StartUp::AskToReviewHotKeys(frmMain& form, MainParts& parts) {
       win32::kMbYesNo, std::string(kProductName) + " - CAUTION");
   // The session may end while the question is shown.
   if (parts.state.lastAnswer == win32::kIdYes && form.IsLoaded()) {
-    parts.startup.OptionsTab = kHotKeysTab;
+    parts.startup.OptionsTab = kHotKeysPage;
     form.udmOptions("LOAD_AND_OR_REFRESH");
   }
 }
@@ -199,7 +199,7 @@ void StartUp::Unload(frmMain& form, MainParts& parts, bool booNormalShutDown) {
   parts.desktop.tagPasses.RemoveClosed();
   parts.hotKeys.SetHotKeys("REMOVE");
   parts.hook.HookWindowProc("REMOVE", form.Handle());
-  form.Collection().UnloadAllExcept("frmMain");
+  form.Collection().UnloadAllExcept(kMainForm);
   parts.options.Release();
 }
 

@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "app/core/form_names.h"
 #include "desktop/shell_surfaces.h"
 #include "desktop/window_visibility.h"
 #include "platform/win32_constants.h"
@@ -47,7 +48,7 @@ bool WindowFilter::IsSelectableWindow(SeenWindow& window, bool checkOptions,
 
 OwnWindows WindowFilter::FindOwnWindows() const {
   return {windows_->GetWindow(mainWindow_->MainHandle(), win32::kGwOwner),
-          FormHandle(*forms_, "frmMsgBox2")};
+          FormHandle(*forms_, kAboutForm)};
 }
 
 bool WindowFilter::PassesBasicChecks(SeenWindow& window, const OwnWindows& own) const {
@@ -74,7 +75,7 @@ bool WindowFilter::PassesOptionChecks(SeenWindow& window) const {
 bool WindowFilter::PassesModalFrameCheck(SeenWindow& window) const {
   const bool modalFrame = (window.Style() & win32::kDsModalFrame) != 0;
   // The Options dialog has a modal frame, yet the user works in it as in any other window.
-  if (modalFrame && window.Handle() != FormHandle(*forms_, "frmOptions")) return false;
+  if (modalFrame && window.Handle() != FormHandle(*forms_, kOptionsForm)) return false;
   return (window.Style() & win32::kDsSysModal) == 0;
 }
 

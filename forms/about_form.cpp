@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "app/core/form_names.h"
 #include "platform/win32_constants.h"
 #include "ui/form_collection.h"
 #include "ui/readable_colors.h"
@@ -43,7 +44,7 @@ constexpr ControlRow kAboutControls[] = {
 };
 
 constexpr FormDesign kAboutDesign = {
-    .name = "frmMsgBox2", .caption = "", .place = {0, 0, 5580, 3030}, .controls = kAboutControls};
+    .name = kAboutForm, .caption = "", .place = {0, 0, 5580, 3030}, .controls = kAboutControls};
 
 }  // namespace
 

@@ -152,7 +152,7 @@ void frmMain::ShowTargetWindow(const std::string& title, const std::string& clas
 void frmMain::EnablePreviousWindowItems(bool enabled) {
   Menu("mnuWindowPreviousWindowAlwaysOnTop").enabled = enabled;
   Menu("mnuWindowParentList", 0).enabled = enabled;
-  Menu("mnuWindowAddToList", 2).enabled = enabled;
+  Menu("mnuWindowAddToList", kAddPreviousWindow).enabled = enabled;
 }
 
 void frmMain::CheckAlwaysOnTop(bool checked) { Menu("mnuWindowAlwaysOnTop").checked = checked; }

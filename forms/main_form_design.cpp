@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "app/core/form_names.h"
 #include "app/core/startup_settings.h"
 
 namespace korvale {
@@ -13,13 +14,18 @@ constexpr ControlRow NameOfNext(const char* name, const char* text) {
   return MakeRow(ControlKind::kLabel, name, -1, text, "", {}, kHidden | kNoPrefix);
 }
 
+/// Until the fields are given the width of the window.
+constexpr Twips kTitleWidth = 2600;
+
 constexpr auto kStripControls = std::to_array<ControlRow>({
     NameOfNext("lblWindow", "Target Window"),
     MakeRow(ControlKind::kTextBox, "txtWindow", -1, "", " Target Window ",
-            {45, 45, 2600, kFieldHeight}, kReadOnly, kDefaultTargetColor),
+            {kFieldMargin, kFieldMargin, kTitleWidth, kFieldHeight}, kReadOnly,
+            kDefaultTargetColor),
     NameOfNext("lblWindowClass", "Class of Target Window"),
     MakeRow(ControlKind::kTextBox, "txtWindowClass", -1, "", " Class of Target Window ",
-            {2690, 45, 1600, kFieldHeight}, kReadOnly, kDefaultClassColor),
+            {2 * kFieldMargin + kTitleWidth, kFieldMargin, 1600, kFieldHeight}, kReadOnly,
+            kDefaultClassColor),
     MakeRow(ControlKind::kTimer, "tmrWindow", -1, "", "", {}, kDisabled),
 });
 
@@ -48,8 +54,8 @@ constexpr auto kMenus = std::to_array<MenuRow>({
     {1, "mnuWindowParentList", 0, ""},
     {1, "mnuWindowChildList", -1, ""},
     {1, "mnuWindowSpace40", -1, "-"},
-    {1, "mnuWindowAddToList", 1, "Add  Korvale  to Window men&u..."},
-    {1, "mnuWindowAddToList", 2, ""},
+    {1, "mnuWindowAddToList", kAddThisWindow, "Add  Korvale  to Window men&u..."},
+    {1, "mnuWindowAddToList", kAddPreviousWindow, ""},
     {0, "mnuHelp", -1, "&Help"},
     {1, "mnuHelpDisplayTips", -1, "&Display Tip Messages"},
     {1, "mnuHelpSpace10", -1, "-"},
@@ -63,7 +69,7 @@ constexpr auto kMenus = std::to_array<MenuRow>({
 }  // namespace
 
 FormDesign MainFormDesign() {
-  FormDesign design{"frmMain", "", {3000, 1500, 4500, 1100}};
+  FormDesign design{kMainForm, "", {3000, 1500, 4500, 1100}};
   design.border = BorderStyle::kSizable;
   design.minimizeBox = true;
   design.maximizeBox = true;

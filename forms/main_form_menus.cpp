@@ -1,8 +1,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "app/core/form_names.h"
 #include "forms/main_form.h"
-#include "forms/options_design.h"
 #include "platform/win32_constants.h"
 #include "ui/menu_width.h"
 #include "util/forms.h"

@@ -10,7 +10,6 @@ namespace korvale {
 
 namespace {
 
-constexpr Twips kMargin = 45;
 /// The title needs more room than the class: three fifths of the width.
 constexpr int kTitleShare = 3;
 constexpr int kShares = 5;
@@ -69,12 +68,13 @@ void frmMain::Form_Move() {
 void frmMain::LayOutFields(const TwipsRect& frame) {
   Control& title = Find("txtWindow");
   Control& className = Find("txtWindowClass");
-  const Twips width = std::max(Place().width, kMinimumWidth) - frame.width - 3 * kMargin;
+  const Twips width = std::max(Place().width, kMinimumWidth) - frame.width - 3 * kFieldMargin;
   const Twips titleWidth = width * kTitleShare / kShares;
   title.SetVisible(parts_.startup.WindowInfo);
   className.SetVisible(parts_.startup.WindowInfo);
-  title.SetPlace({kMargin, kMargin, titleWidth, kFieldHeight});
-  className.SetPlace({2 * kMargin + titleWidth, kMargin, width - titleWidth, kFieldHeight});
+  title.SetPlace({kFieldMargin, kFieldMargin, titleWidth, kFieldHeight});
+  className.SetPlace(
+      {2 * kFieldMargin + titleWidth, kFieldMargin, width - titleWidth, kFieldHeight});
 }
 
 void frmMain::RememberPlace() {

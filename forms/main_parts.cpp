@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "forms/options_design.h"
+#include "app/core/form_names.h"
 #include "ui/form.h"
 #include "util/forms.h"
 

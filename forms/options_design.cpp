@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "app/core/form_names.h"
 #include "app/core/stored_tags.h"
 
 namespace korvale {
@@ -21,12 +22,12 @@ constexpr Twips kPageHeight = 3975 + kRowHeight * static_cast<Twips>(kOperations
 /// Collects the rows of the form; every row goes into the container that was opened last.
 class Rows {
  public:
-  void Page(int index) {
+  void Page(int number) {
     ClosePages();
     // Nobody sees the caption; screen readers say it when the user gets to the page.
-    const char* const title = kPageTitles.at(static_cast<std::size_t>(index) - 1);
-    Add(kPage, "picOptions", index, title, "", {210, 495, 13575, kPageHeight});
-    page_ = index;
+    const char* const title = kOptionsPages.at(static_cast<std::size_t>(number) - 1).title;
+    Add(kPage, "picOptions", number, title, "", {210, 495, 13575, kPageHeight});
+    page_ = number;
     CloseFrame();
   }
   void Frame(const char* name, const char* caption, Twips top, Twips height) {
@@ -91,7 +92,7 @@ constexpr const char* kKeyTip =
     " key to press:  choose it from the list or press it here  (the Space bar clears it) ";
 
 void AddGeneralPage(Rows& rows) {
-  rows.Page(1);
+  rows.Page(kGeneralPage);
   rows.CheckBox("chkSplashScreen", "&Display splash screen on startup",
                 " shows the About box for a moment when the program starts  (Alt+D) ", 180);
   rows.CheckBox("chkSelectPrevWinOnStart", "Select the Previous &Window on startup",
@@ -150,7 +151,7 @@ void AddLegend(Rows& rows) {
 }
 
 void AddHotKeysPage(Rows& rows) {
-  rows.Page(2);
+  rows.Page(kHotKeysPage);
   rows.Frame("fraWindowSelection", "&Window Selection", 60, 2055);
   rows.NameOfNext("lblModParent", -1, "Key to hold down with the number of a Tag");
   rows.Add(kDropDownList, "cboHotKeyModParent", -1, "",
@@ -167,7 +168,7 @@ void AddHotKeysPage(Rows& rows) {
 }
 
 void AddWindowIdentificationPage(Rows& rows) {
-  rows.Page(3);
+  rows.Page(kWindowIdentificationPage);
   rows.Frame("fraWindowIdentification", "Window Identification  (Parent)", 60, 1125);
   rows.CheckBox("chkAllowToolbarWindow", "Recognize &Toolbar style windows",
                 " lets small tool windows be the Previous Window and be tagged  (Alt+T) ", 300);

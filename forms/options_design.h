@@ -2,20 +2,32 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 
 #include "app/core/operations.h"
+#include "app/core/startup_settings.h"
 #include "ui/form.h"
 
 namespace korvale {
-
-inline constexpr const char* kOptionsForm = "frmOptions";
 
 /// The labels lblLegend, which explain how a hot key is shown.
 inline constexpr int kDisabledLegend = 0;
 inline constexpr int kEnabledLegend = 1;
 
-/// The pages of the dialog, in the order of their tabs.
-inline constexpr std::array kPageTitles = {"General", "Hot Keys", "Window Identification"};
+/// A page of the dialog.
+struct OptionsPage {
+  std::int16_t number;
+  const char* title;
+  const char* firstControl;  ///< Where the focus goes when the page is turned.
+};
+
+/// In the order of the tabs.
+inline constexpr std::array kOptionsPages = std::to_array<OptionsPage>({
+    {kGeneralPage, "General", "chkSplashScreen"},
+    {kHotKeysPage, "Hot Keys", "cboHotKeyModParent"},
+    {kWindowIdentificationPage, "Window Identification", "chkAllowToolbarWindow"},
+});
+static_assert(kOptionsPages.size() == kLastOptionsPage);
 
 /// The controls in which the hot keys of a group of operations are chosen: a frame with control
 /// arrays, counted by OperationRow::index.

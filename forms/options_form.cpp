@@ -11,12 +11,7 @@
 namespace korvale {
 namespace {
 
-constexpr int kPages = static_cast<int>(kPageTitles.size());
-constexpr int kHotKeysTab = 1;
 constexpr std::string_view kLegend = "lblLegend";
-/// Where the focus goes on each page.
-constexpr const char* kFirstControls[kPages] = {"chkSplashScreen", "cboHotKeyModParent",
-                                                "chkAllowToolbarWindow"};
 
 /// Shows the hourglass for a scope.
 class Hourglass {
@@ -63,7 +58,7 @@ void frmOptions::Form_Load() {
   loading_ = true;
   Control& tabs = Find("tabOptions");
   tabs.Clear();
-  for (const char* const title : kPageTitles) tabs.AddItem(title);
+  for (const OptionsPage& page : kOptionsPages) tabs.AddItem(page.title);
   FillHotKeyLists(*this);
   ShowPage(owner_->OptionsTab());
   loading_ = false;
@@ -78,10 +73,12 @@ void frmOptions::tabOptions_Click() {
 }
 
 void frmOptions::ShowPage(std::int16_t tab) {
-  const std::int16_t shown = tab >= 1 && tab <= kPages ? tab : std::int16_t{1};
+  const std::int16_t shown = tab >= kGeneralPage && tab <= kLastOptionsPage ? tab : kGeneralPage;
   // The new page comes first, so that the focus finds a place on it.
   Find("picOptions", shown).SetVisible(true);
-  for (int page = 1; page <= kPages; ++page) Find("picOptions", page).SetVisible(page == shown);
+  for (const OptionsPage& page : kOptionsPages) {
+    Find("picOptions", page.number).SetVisible(page.number == shown);
+  }
   Find("tabOptions").SetListIndex(shown - 1);
 }
 
@@ -187,7 +184,7 @@ void frmOptions::Form_KeyDown(int& key, unsigned shift) {
     key = 0;
     TurnPage((shift & kShift) != 0);
   } else if (key == 'C' && (shift & ~kShift) == kAlt &&
-             Find("tabOptions").ListIndex() == kHotKeysTab) {
+             Find("tabOptions").ListIndex() == kHotKeysPage - 1) {
     key = 0;
     if (!KeyRepeats()) PressLegend(shift & kShift);
   } else if (FocusedControl() != 0 && IsKeyList(ById(FocusedControl()))) {
@@ -197,9 +194,10 @@ void frmOptions::Form_KeyDown(int& key, unsigned shift) {
 
 void frmOptions::TurnPage(bool backwards) {
   Control& tabs = Find("tabOptions");
+  constexpr int kPages = kLastOptionsPage;
   const int tab = (tabs.ListIndex() + (backwards ? kPages - 1 : 1)) % kPages;
   tabs.SetListIndex(tab);
-  Find(kFirstControls[tab]).SetFocus();
+  Find(kOptionsPages.at(static_cast<std::size_t>(tab)).firstControl).SetFocus();
 }
 
 void frmOptions::Form_KeyUp(Control* focused, int& key, unsigned shift) {

@@ -5,6 +5,7 @@
 #include "app/core/identity.h"
 #include "desktop/window_names.h"
 #include "desktop/window_readers.h"
+#include "forms/main_form_design.h"
 #include "hotkeys/hot_key_names.h"
 #include "platform/win32_constants.h"
 #include "ui/menu_text.h"
@@ -16,8 +17,6 @@ namespace korvale {
 namespace {
 
 constexpr int kShortTitleLength = 30;
-constexpr int kThisWindow = 1;
-constexpr int kPreviousWindow = 2;
 /// How much wider than the application name the pop-up's first Add entry is padded.
 constexpr int kPopUpPadding = 20;
 
@@ -38,7 +37,7 @@ WindowMenu::WindowMenu(Desktop& desktop, Form& form, bool& alwaysOnTop,
 void WindowMenu::mnuWindow_Click() {
   desktop_->tracker.PrepareWindowMenu();
 
-  MenuItem& addThis = form_->Menu("mnuWindowAddToList", kThisWindow);
+  MenuItem& addThis = form_->Menu("mnuWindowAddToList", kAddThisWindow);
   addThis.caption = Trim(addThis.caption);
   if (form_->Menu("mnuWindow").tag == kHotKeyWindowMenuPopup) {
     const int blanks = CharacterCount(kProductName) + kPopUpPadding;
@@ -48,7 +47,7 @@ void WindowMenu::mnuWindow_Click() {
   const std::string title =
       LiteralMenuText(WithDirectionsEnded(ShortTitle(desktop_->previous.current.text)));
   form_->Menu("mnuWindowPreviousWindowAlwaysOnTop").caption = "[" + title + "]  Always On &Top";
-  form_->Menu("mnuWindowAddToList", kPreviousWindow).caption =
+  form_->Menu("mnuWindowAddToList", kAddPreviousWindow).caption =
       "Add  [" + title + "]  to &Window menu...";
 }
 
@@ -57,7 +56,7 @@ void WindowMenu::mnuWindowParentList_Click(std::int16_t Index) {
 }
 
 void WindowMenu::mnuWindowAddToList_Click(std::int16_t Index) {
-  const bool previous = Index == kPreviousWindow;
+  const bool previous = Index == kAddPreviousWindow;
   if (previous && !CheckPreviousOrTell()) return;
   WindowTriple mainWindow{desktop_->mainWindow.MainHandle(), desktop_->mainWindow.MainCaption(),
                           GetWindowClass(desktop_->windows, desktop_->mainWindow.MainHandle())};

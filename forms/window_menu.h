@@ -23,7 +23,7 @@ class WindowMenu {
   void mnuWindow_Click();
   /// Selects the window of Tag `Index` (0-9).
   void mnuWindowParentList_Click(std::int16_t Index);
-  /// 1 adds the main window, 2 the Previous Window.
+  /// `Index` is kAddThisWindow or kAddPreviousWindow.
   void mnuWindowAddToList_Click(std::int16_t Index);
   void mnuWindowAlwaysOnTop_Click();
   void mnuWindowPreviousWindowAlwaysOnTop_Click();

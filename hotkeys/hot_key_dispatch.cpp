@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "app/core/form_names.h"
 #include "app/core/identity.h"
 #include "desktop/foreground_return.h"
 #include "desktop/user_desktop.h"
@@ -156,7 +157,7 @@ void HotKeyDispatch::SelectTag(int tag) {
 }
 
 void HotKeyDispatch::ShowOptions() {
-  if (IsFormLoaded(desktop_->forms, "frmOptions")) {
+  if (IsFormLoaded(desktop_->forms, kOptionsForm)) {
     actions_->BringOptionsToFront();
   } else {
     actions_->udmOptions("LOAD_AND_OR_REFRESH");

@@ -92,7 +92,8 @@ constexpr std::array kStartupRows = std::to_array<SettingRow<StartupSettings>>({
     {kStartupSection, "DisplayTips", Field<&StartupSettings::DisplayTips>, OnImport::kDrop},
     {kStartupSection, "LastColorSelected", Field<&StartupSettings::LastColorSelected>},
     {kStartupSection, "Menu", Field<&StartupSettings::Menu>},
-    {kStartupSection, "OptionsTab", Field<&StartupSettings::OptionsTab>, OnImport::kKeep, 1, 3},
+    {kStartupSection, "OptionsTab", Field<&StartupSettings::OptionsTab>, OnImport::kKeep,
+     kGeneralPage, kLastOptionsPage},
     {kStartupSection, "WindowInfo", Field<&StartupSettings::WindowInfo>},
 });
 

@@ -14,6 +14,12 @@ inline constexpr Color kDefaultLastColor = 0x00FFFFFF;
 /// The largest stored place or size in twips: Windows counts screens in 16 bits of pixels.
 inline constexpr Twips kFarthestPlace = 32767 * 15;
 
+/// The pages of the Options dialog, in the order of their tabs.
+inline constexpr std::int16_t kGeneralPage = 1;
+inline constexpr std::int16_t kHotKeysPage = 2;
+inline constexpr std::int16_t kWindowIdentificationPage = 3;
+inline constexpr std::int16_t kLastOptionsPage = kWindowIdentificationPage;
+
 /// The main window's state as it is kept between runs. Lengths in twips.
 struct StartupSettings {
   std::int32_t WindowState = 0;  ///< 0 normal, 1 minimized, 2 maximized.
@@ -28,7 +34,7 @@ struct StartupSettings {
   bool DisplayTips = true;
   Color LastColorSelected = kDefaultLastColor;
   bool Menu = true;
-  std::int16_t OptionsTab = 1;
+  std::int16_t OptionsTab = kGeneralPage;
   bool WindowInfo = true;
 
   friend bool operator==(const StartupSettings&, const StartupSettings&) = default;
