@@ -19,7 +19,11 @@ struct HotKeyChoice {
 constexpr const char* kModifierList = "cboHotKeyMod";
 
 constexpr HotKeyChoice kModifiers[] = {
-    {" ", 0}, {"Alt", 1}, {"Ctrl", 2}, {"Shift", 4}, {"Windows®", 8},
+    {" ", 0},
+    {"Alt", win32::kModAlt},
+    {"Ctrl", win32::kModControl},
+    {"Shift", win32::kModShift},
+    {"Windows®", win32::kModWin},
 };
 
 // The keypad and the arrows come in the order that users of the program know.

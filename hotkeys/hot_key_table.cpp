@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "app/core/stored_tags.h"
 #include "hotkeys/hot_key_names.h"
 #include "platform/run_time_error.h"
 #include "platform/win32_constants.h"
@@ -35,7 +36,7 @@ void HotKeyTable::SetHotKeys(std::string_view mode) {
 void HotKeyTable::Set() {
   const clsOptions& options = options_->Get();
   hotKeyCount_ = 0;
-  for (std::int16_t tag = 0; tag <= 9; ++tag) {
+  for (std::int16_t tag = 0; tag <= kTagCount; ++tag) {
     if (options.booHotKeyParent.at(static_cast<std::size_t>(tag))) {
       AddHotKey(ParentHotKeyName(tag), options.intHotKeyModParent, AddInt16(kDigitZeroKey, tag));
     }
