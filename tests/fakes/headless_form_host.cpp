@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "platform/win32_constants.h"
+#include "ui/form_scaling.h"
 #include "ui/spoken_name.h"
 #include "util/text.h"
 
@@ -178,7 +179,7 @@ void HeadlessFormHost::MoveWindow(WindowHandle hwnd) {
   const TwipsRect taken = window.place;
   Tell(hwnd, [&](FormEvents& events) { events.OnPlaced(state, taken); });
   if (other && FindWindow(hwnd) != nullptr) {
-    Tell(hwnd, [](FormEvents& events) { events.OnDpiChanged(); });
+    Tell(hwnd, [](FormEvents& events) { TellScaled(events, ScaleCause::kPlaced); });
   }
 }
 

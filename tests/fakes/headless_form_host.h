@@ -183,6 +183,8 @@ class HeadlessFormHost : public FormHost,
   TwipsRect OnScreen(const HeadlessWindow& window) const;
   /// The window's place, moved so that it stays on its monitor if it has become larger there.
   TwipsRect Kept(const HeadlessWindow& window) const;
+  /// The window's place when the screen around it has changed.
+  TwipsRect Rescaled(const HeadlessWindow& window, ShowState state) const;
   /// The whole work area, in the twips of the window.
   TwipsRect Maximized(const HeadlessWindow& window) const;
   /// The monitor whose dots per inch a form has; the primary one while it has no window.

@@ -5,6 +5,7 @@
 
 #include "tests/fakes/headless_form_host.h"
 #include "ui/form_dpi.h"
+#include "ui/form_scaling.h"
 #include "util/text.h"
 
 namespace korvale {
@@ -48,7 +49,7 @@ void HeadlessFormHost::TellMetricsChanged() {
     HeadlessWindow* const window = FindWindow(hwnd);
     if (window == nullptr) continue;
     const ShowState state = desktop_->State(hwnd);
-    Place(*window, state == ShowState::kMaximized ? Maximized(*window) : Kept(*window));
+    Place(*window, Rescaled(*window, state));
     const TwipsRect taken = window->place;
     Tell(hwnd, [&](FormEvents& events) { events.OnPlaced(state, taken); });
     if (FindWindow(hwnd) == nullptr) continue;
@@ -87,6 +88,13 @@ TwipsRect HeadlessFormHost::OnScreen(const HeadlessWindow& window) const {
   const int dpi = DpiOf(*window.form);
   const TwipsRect& place = window.place;
   return {place.left, place.top, Scaled(place.width, dpi, dpi_), Scaled(place.height, dpi, dpi_)};
+}
+
+TwipsRect HeadlessFormHost::Rescaled(const HeadlessWindow& window, ShowState state) const {
+  const bool normal = state == ShowState::kNormal;
+  const bool own = TakesOwnSize(*window.form, normal, false);
+  if (!own && state == ShowState::kMaximized) return Maximized(window);
+  return StaysOnMonitor(normal, ScaleCause::kScreen) ? Kept(window) : window.place;
 }
 
 TwipsRect HeadlessFormHost::Maximized(const HeadlessWindow& window) const {

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "tests/fakes/headless_form_host.h"
+#include "ui/form_scaling.h"
 
 namespace korvale {
 namespace {
@@ -58,12 +59,9 @@ TwipsRect HeadlessFormHost::GetMonitorInfoW(WindowHandle hwnd) {
 
 TwipsRect HeadlessFormHost::Kept(const HeadlessWindow& window) const {
   const TwipsRect grown = OnScreen(window);
-  TwipsRect place = window.place;
-  if (FindMonitor(monitors_, grown) == window.monitor) return place;
-  const TwipsRect& work = monitors_[window.monitor].workArea;
-  place.left = std::max(work.left, std::min(place.left, work.left + work.width - grown.width));
-  place.top = std::max(work.top, std::min(place.top, work.top + work.height - grown.height));
-  return place;
+  const bool over = FindMonitor(monitors_, grown) != window.monitor;
+  const TwipsRect kept = KeptOnMonitor(grown, monitors_[window.monitor].workArea, over);
+  return {kept.left, kept.top, window.place.width, window.place.height};
 }
 
 void HeadlessFormHost::Place(HeadlessWindow& window, const TwipsRect& place) {

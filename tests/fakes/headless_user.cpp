@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "ui/form_scaling.h"
+
 namespace korvale {
 namespace {
 
@@ -87,11 +89,9 @@ void HeadlessUser::Drag(WindowHandle hwnd, const TwipsRect& place) {
   window.restored = taken;
   host_->Tell(hwnd, [&](FormEvents& events) { events.OnPlaced(ShowState::kNormal, taken); });
   if (now == before || host_->FindWindow(hwnd) == nullptr) return;
-  host_->Tell(hwnd, [&](FormEvents& events) {
-    // Where the dots are the same, only the room for the form differs.
-    if (now.dots != before.dots) return events.OnDpiChanged();
-    events.OnMetricsChanged();
-  });
+  // Where the dots are the same, only the room for the form differs.
+  const ScaleCause cause = now.dots == before.dots ? ScaleCause::kScreen : ScaleCause::kDragged;
+  host_->Tell(hwnd, [&](FormEvents& events) { TellScaled(events, cause); });
 }
 
 const ControlState& HeadlessUser::Look(WindowHandle hwnd, int control) {

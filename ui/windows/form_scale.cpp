@@ -4,7 +4,7 @@
 #include <cstring>
 
 #include "ui/form_dpi.h"
-#include "ui/form_placement.h"
+#include "ui/form_scaling.h"
 #include "ui/windows/system_fonts.h"
 
 namespace korvale {
@@ -14,6 +14,14 @@ HMONITOR MonitorOf(HWND window) {
   // Without a window it is the primary monitor.
   return window != nullptr ? MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST)
                            : MonitorFromPoint({}, MONITOR_DEFAULTTOPRIMARY);
+}
+
+TwipsRect ToPlace(const RECT& rect) {
+  return {rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top};
+}
+
+RECT ToRect(const TwipsRect& place) {
+  return {place.left, place.top, place.left + place.width, place.top + place.height};
 }
 
 int TextHeight(const LOGFONTW& font) { return static_cast<int>(std::abs(font.lfHeight)); }
@@ -79,13 +87,9 @@ bool FormScale::FollowTo(HWND window) {
   return true;
 }
 
-RECT FormScale::Kept(RECT place) const {
-  if (MonitorFromRect(&place, MONITOR_DEFAULTTONEAREST) == monitor_) return place;
-  const auto left = Inside(place.left, workArea_.left, WorkWidth(), place.right - place.left);
-  const auto top =
-      Inside(place.top, workArea_.top, workArea_.bottom - workArea_.top, place.bottom - place.top);
-  OffsetRect(&place, left - place.left, top - place.top);
-  return place;
+RECT FormScale::Kept(const RECT& place) const {
+  const bool over = MonitorFromRect(&place, MONITOR_DEFAULTTONEAREST) != monitor_;
+  return ToRect(KeptOnMonitor(ToPlace(place), ToPlace(workArea_), over));
 }
 
 bool FormScale::LooksLike(const FormScale& other) const {

@@ -29,9 +29,8 @@ class FormScale {
   /// is still the same monitor.
   bool FollowTo(HWND window);
 
-  /// Where a window that becomes larger here stays on its monitor: one that reaches over to another
-  /// would take on its dots, become smaller and come back, and so on without end.
-  RECT Kept(RECT place) const;
+  /// Where a window of this place, in pixels, stays on its monitor (MonitorFromRect).
+  RECT Kept(const RECT& place) const;
 
   /// The form looks the same.
   bool LooksLike(const FormScale& other) const;

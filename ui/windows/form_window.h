@@ -7,6 +7,7 @@
 
 #include "platform/form_events.h"
 #include "platform/input_devices.h"
+#include "ui/form_scaling.h"
 #include "ui/windows/brush_cache.h"
 #include "ui/windows/event_sink.h"
 #include "ui/windows/form_controls.h"
@@ -104,6 +105,9 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   /// nothing where it is in proportion.
   std::optional<LRESULT> ScaledSize(WPARAM dpi, LPARAM wanted) const;
   void OnDpiChanged(UINT dpi, LPARAM wanted);
+  /// Why Windows gives it other dots per inch.
+  ScaleCause WhyScaled() const;
+  void TellScale(ScaleCause cause);
   void OnMetricsChanged();
   void OnColorsChanged();
   /// Lets the form see the messages of a control, or of the text field in it, first.

@@ -89,19 +89,23 @@ std::optional<LRESULT> FormWindow::ScaledSize(WPARAM dpi, LPARAM wanted) const {
   // Others cannot know an address in our memory.
   if (wanted == 0 || IsSentByOthers() || dpi == 0 || dpi > kMostDots) return std::nullopt;
   SIZE& size = *reinterpret_cast<SIZE*>(wanted);
-  if (form_->content == TwipsSize{}) {
-    // While the user sizes it, it is to have another size, which only Windows knows.
-    RECT place{};
-    GetWindowRect(hwnd_, &place);
-    const SIZE now = SizeOf(place);
-    if (!IsNormal() || size.cx != now.cx || size.cy != now.cy) return std::nullopt;
-  }
+  RECT place{};
+  GetWindowRect(hwnd_, &place);
+  // While the user sizes it, it is to have another size, which only Windows knows.
+  const SIZE now = SizeOf(place);
+  const bool sized = size.cx != now.cx || size.cy != now.cy;
+  if (!TakesOwnSize(*form_, IsNormal(), sized)) return std::nullopt;
   size = OwnSize(FormScale(*form_, hwnd_, static_cast<UINT>(dpi)));
   return TRUE;
 }
 
 SIZE FormWindow::OwnSize(const FormScale& scale) const {
   return {ToPixels(form_->place.width, scale.Dpi()), ToPixels(form_->place.height, scale.Dpi())};
+}
+
+ScaleCause FormWindow::WhyScaled() const {
+  if (IsDragged(hwnd_)) return ScaleCause::kDragged;
+  return placing_ ? ScaleCause::kPlaced : ScaleCause::kScreen;
 }
 
 void FormWindow::OnDpiChanged(UINT dpi, LPARAM wanted) {
@@ -113,23 +117,16 @@ void FormWindow::OnDpiChanged(UINT dpi, LPARAM wanted) {
   scale_ = FormScale(*form_, hwnd_);
   controls_.Rescale();
   ShowIcons();
-  const bool dragged = IsDragged(hwnd_);
-  // Windows does not know that a dialog grows only as far as there is room for it, and rounds the
-  // size of others anew each time.
-  const bool own = form_->content != TwipsSize{} || (IsNormal() && !dragged);
+  const ScaleCause cause = WhyScaled();
+  const bool normal = IsNormal();
+  const bool own = TakesOwnSize(*form_, normal, cause == ScaleCause::kDragged);
   const SIZE size = own ? OwnSize(scale_) : SizeOf(place);
-  if (!dragged && IsNormal()) {
+  if (StaysOnMonitor(normal, cause)) {
     place = scale_.Kept({place.left, place.top, place.left + size.cx, place.top + size.cy});
   }
   SetWindowPos(hwnd_, nullptr, place.left, place.top, size.cx, size.cy,
                SWP_NOZORDER | SWP_NOACTIVATE);
-  if (dragged || placing_) {
-    events_.Tell([](FormEvents& events) { events.OnDpiChanged(); });
-  } else {
-    // The monitor has changed, or the form is on another without having been put at this place, so
-    // it must not grow beyond the edge.
-    events_.Tell([](FormEvents& events) { events.OnMetricsChanged(); });
-  }
+  TellScale(cause);
 }
 
 void FormWindow::OnMetricsChanged() {
@@ -139,7 +136,11 @@ void FormWindow::OnMetricsChanged() {
   if (hwnd_ == nullptr || !Rescale()) return;
   ShowIcons();
   Resize();
-  events_.Tell([](FormEvents& events) { events.OnMetricsChanged(); });
+  TellScale(ScaleCause::kScreen);
+}
+
+void FormWindow::TellScale(ScaleCause cause) {
+  events_.Tell([&](FormEvents& events) { TellScaled(events, cause); });
 }
 
 void FormWindow::OnColorsChanged() {

@@ -19,11 +19,7 @@ void FormWindow::ShowPlace() {
   if (other) move();
   placing_ = false;
   TellPlaced();
-  if (changed) {
-    events_.Tell([](FormEvents& events) { events.OnMetricsChanged(); });
-  } else if (other) {
-    events_.Tell([](FormEvents& events) { events.OnDpiChanged(); });
-  }
+  if (changed || other) TellScale(changed ? ScaleCause::kScreen : ScaleCause::kPlaced);
 }
 
 void FormWindow::TellPlaced() {
