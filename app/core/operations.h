@@ -76,14 +76,17 @@ constexpr std::size_t OperationCount(OperationGroup group) {
 consteval bool OperationsAreInOrder() {
   std::size_t place = 0;
   std::array<int, 2> next{};
+  OperationGroup group = OperationGroup::kAction;
   for (const OperationRow& row : kOperations) {
     if (static_cast<std::size_t>(row.operation) != place++) return false;
     if (row.index != next.at(static_cast<std::size_t>(row.group))++) return false;
+    if (row.group < group) return false;
+    group = row.group;
   }
   return true;
 }
 static_assert(OperationsAreInOrder(),
-              "each row stands at its enumerator's place, and the indexes of a group count from 0");
+              "rows follow their enumerators, group by group, and indexes count from 0");
 
 /// One value for each operation of a group.
 template <OperationGroup Group>
