@@ -19,9 +19,9 @@ if(KORVALE_RSVG AND KORVALE_ICOTOOL)
       DEPENDS ${drawing})
     list(APPEND pictures ${picture})
     # Since Vista, Windows reads compressed pictures of any size. Those of windows and the task bar
-    # at up to 150 % need no unpacking, which would load a library for it; the others keep the
-    # program small.
-    if(size LESS_EQUAL 48)
+    # at 100 and 150 %, and small ones, need no unpacking, which would load a library for it; the
+    # others keep the program small.
+    if(size LESS 40 OR size EQUAL 48)
       list(APPEND entries ${picture})
     else()
       list(APPEND entries --raw=${picture})
