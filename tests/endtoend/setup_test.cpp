@@ -1,6 +1,14 @@
 #include "tests/endtoend/setup_test.h"
 
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <set>
 #include <stdexcept>
+#include <string>
+
+#include "tests/endtoend/harness/environment.h"
+#include "tests/endtoend/harness/text.h"
 
 namespace korvale::endtoend {
 
@@ -33,6 +41,44 @@ AssertionResult SetupTest::Closed() {
 }
 
 namespace {
+
+namespace fs = std::filesystem;
+
+/// The folder in which copies record errors when they cannot write into their own, with a record
+/// and a dump.
+class ErrorsElsewhere {
+ public:
+  ErrorsElsewhere() {
+    fs::create_directory(folder_);
+    for (const char* const file : {"Error.log", "Korvale 2026-01-31 09.05.07.dmp"}) {
+      std::ofstream(folder_ / file) << "error";
+    }
+  }
+  ErrorsElsewhere(const ErrorsElsewhere&) = delete;
+  ErrorsElsewhere& operator=(const ErrorsElsewhere&) = delete;
+  ~ErrorsElsewhere() { fs::remove_all(folder_); }
+
+  void Put(const char* file) const { std::ofstream(folder_ / file) << "mine"; }
+
+  std::set<std::string> Files() const {
+    std::set<std::string> files;
+    if (!fs::exists(folder_)) return files;
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder_)) {
+      files.insert(entry.path().filename().string());
+    }
+    return files;
+  }
+
+  bool Gone() const { return !fs::exists(folder_); }
+
+ private:
+  fs::path folder_ = fs::path(Wide(Environment(L"LOCALAPPDATA"))) / "Korvale";
+};
+
+/// What the register of all installations knows.
+std::map<std::string, std::string> Registered() {
+  return StoredSettings("Korvale Installations").Section("0");
+}
 
 using SilentSetup = SetupTest;
 
@@ -169,7 +215,9 @@ TEST_F(SilentSetup, KeepsTheSettingsOfWhatItRemoves) {
   Use(work);
   TagNew("Alpha", 3);
   work.Put("Error.log", "");
+  const ErrorsElsewhere errors;
   ASSERT_TRUE(work.Remove());
+  EXPECT_EQ(errors.Files().size(), 2U);
   EXPECT_TRUE(Closed());
   EXPECT_TRUE(work.Gone());
   EXPECT_FALSE(work.HasShortcut());
@@ -185,11 +233,35 @@ TEST_F(SilentSetup, RemovesOnlyItsOwnSettingsWhenAskedTo) {
   ASSERT_TRUE(Exit());
   play.settings().Set("Options", "SplashScreen", "False");
   StoredSettings("Korvale Installations").Set("0", play.name(), play.folder());
+  const ErrorsElsewhere errors;
   ASSERT_TRUE(work.Remove(" /SETTINGS"));
+  EXPECT_EQ(errors.Files().size(), 2U);
   EXPECT_EQ(work.settings().Sections(), std::vector<std::string>());
   EXPECT_EQ(work.RegisteredFolder(), std::nullopt);
   EXPECT_EQ(play.settings().Get("Options", "SplashScreen"), "False");
   EXPECT_EQ(play.RegisteredFolder(), play.folder());
+}
+
+TEST_F(SilentSetup, RemovesWithTheLastSettingsTheErrorsRecordedElsewhere) {
+  if (!Registered().empty()) GTEST_SKIP() << "the user has Korvale installed";
+  const Installed work;
+  ASSERT_EQ(work.Install(), 0U);
+  Use(work);
+  ASSERT_TRUE(Exit());
+  const ErrorsElsewhere errors;
+  ASSERT_TRUE(work.Remove(" /SETTINGS"));
+  EXPECT_TRUE(errors.Gone());
+  EXPECT_EQ(Registered(), (std::map<std::string, std::string>()));
+}
+
+TEST_F(SilentSetup, LeavesTheFilesOfOthersWhereErrorsAreRecorded) {
+  if (!Registered().empty()) GTEST_SKIP() << "the user has Korvale installed";
+  const Installed work;
+  ASSERT_EQ(work.Install(), 0U);
+  const ErrorsElsewhere errors;
+  errors.Put("notes.txt");
+  ASSERT_TRUE(work.Remove(" /SETTINGS"));
+  EXPECT_EQ(errors.Files(), std::set<std::string>{"notes.txt"});
 }
 
 TEST_F(SilentSetup, KeepsTheSettingsOfAnInstallationThatHasMoved) {
@@ -199,7 +271,9 @@ TEST_F(SilentSetup, KeepsTheSettingsOfAnInstallationThatHasMoved) {
   moved.Put("Korvale.exe", "moved");
   moved.settings().Set("Options", "SplashScreen", "False");
   StoredSettings("Korvale Installations").Set("0", moved.name(), moved.folder());
+  const ErrorsElsewhere errors;
   ASSERT_TRUE(work.Remove(" /SETTINGS"));
+  EXPECT_EQ(errors.Files().size(), 2U);
   EXPECT_EQ(moved.settings().Get("Options", "SplashScreen"), "False");
   EXPECT_EQ(moved.RegisteredFolder(), moved.folder());
 }
