@@ -142,6 +142,22 @@ TEST_F(ErrorLogTest, GoesToTheOtherFolderWhenItsOwnRefusesAtLast) {
   EXPECT_NE(Content().find("Error Code:  3"), std::string::npos);
 }
 
+TEST_F(ErrorLogTest, ALineThatCannotBeWrittenTakesNoOtherWithIt) {
+  system_.Session().refusedPiece = 4;
+  EXPECT_EQ(AppendError(), 0);
+  EXPECT_EQ(Content(),
+            "\r\n"
+            "-- Sat 12/15/2001 14:03:27 --\r\n"
+            "Error Code:  1\r\n"
+            "Problem:  problem\r\n"
+            "0000001 = False\r\n"
+            "0000002 = D:\\Work\\\r\n"
+            "0000003 = 1.10.0695\r\n"
+            "0000004 = True\r\n"
+            "0000005 = 0\r\n");
+  EXPECT_EQ(where_, users_) << "where all of it is";
+}
+
 TEST_F(ErrorLogTest, ErrorsWhileWritingAreIgnored) {
   system_.Session().diskFull = true;
   EXPECT_EQ(AppendError(), 0);

@@ -131,8 +131,11 @@ bool FakeSystem::AppendToFile(const std::string& path, std::span<const std::stri
   const std::string real = InPlaceOf(shares, RealPath(path));
   files.insert(real);
   std::string& content = session_->contents[real];
-  for (const std::string& piece : pieces) content += session_->diskFull ? "" : piece;
-  return !session_->diskFull;
+  const std::optional<std::size_t> refused = std::exchange(session_->refusedPiece, std::nullopt);
+  for (std::size_t i = 0; i < pieces.size(); ++i) {
+    if (!session_->diskFull && i != refused) content += pieces[i];
+  }
+  return !session_->diskFull && !(refused && *refused < pieces.size());
 }
 
 bool FakeSystem::CanAppendToFile(const std::string& path) {

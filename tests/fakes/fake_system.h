@@ -29,6 +29,8 @@ class FakeSession {
   std::map<std::string, std::string> contents;
   /// Files can be created, but hold nothing.
   bool diskFull = false;
+  /// Of the pieces that the next AppendToFile writes, Windows refuses this one, counted from 0.
+  std::optional<std::size_t> refusedPiece;
 
  private:
   friend class FakeSystem;

@@ -125,6 +125,20 @@ TEST_F(HotKeyTableTest, RemovesEveryIdentifierFromTheLowestToTheHighest) {
   EXPECT_TRUE(hotKeys.Registered().empty());
 }
 
+/// While it asks for the presses in the queue, Windows delivers what other threads have sent.
+TEST_F(HotKeyTableTest, APressDuringTheRemovalStillHasItsName) {
+  table.SetHotKeys("SET");
+  bool seen = false;
+  log.WhenCalled("PeekMessageW(main", [&] {
+    seen = true;
+    // Alt+1.
+    ASSERT_TRUE(table.IsPress(2, 0x310001));
+    EXPECT_EQ(table.NameOf(2), "HOTKEY_PARENT1");
+  });
+  table.SetHotKeys("REMOVE");
+  EXPECT_TRUE(seen);
+}
+
 TEST_F(HotKeyTableTest, KeepsTheEmptyTableWhenNothingIsEnabled) {
   table.SetHotKeys("SET");
   table.SetHotKeys("REMOVE");

@@ -42,6 +42,21 @@ TEST_F(HotKeyToggleTest, SwitchesOffEveryHotKeyButItsOwn) {
                 {"Korvale - Hot Keys (OFF)", "Hot Keys are now Deactivated", 800}}));
 }
 
+TEST_F(HotKeyToggleTest, TheKeysAreGoneOnlyOnceTheyCountAsInactiveAndBackOnceAsActive) {
+  int seen = 0;
+  const auto expect = [&](bool active) {
+    log.WhenCalled("UnregisterHotKey(main, 1)", [&seen, active, this] {
+      ++seen;
+      EXPECT_EQ(table.HotKeysActive(), active);
+    });
+  };
+  expect(false);
+  toggle.ToggleHotKeys(kToggleFromHotKey);
+  expect(true);
+  toggle.ToggleHotKeys(kToggleFromHotKey);
+  EXPECT_EQ(seen, 2);
+}
+
 TEST_F(HotKeyToggleTest, SwitchesAllEnabledHotKeysOnAgain) {
   toggle.ToggleHotKeys(kToggleFromHotKey);
   log.Clear();

@@ -38,6 +38,21 @@ TEST_F(MessageBoxTest, SuspendsHotKeysTrackingAndMainWindowWhileTheBoxIsShown) {
   ExpectAllGivenBack();
 }
 
+TEST_F(MessageBoxTest, TakesTheHotKeysThenTheTimerAndAtLastTheMainWindow) {
+  bool seen = false;
+  mainWindow.onCall = [&](const std::string& call) {
+    if (call != "SetMainEnabled(false)") return;
+    seen = true;
+    EXPECT_FALSE(mainWindow.timer.enabled);
+    EXPECT_EQ(mainWindow.timer.tag, "OFF");
+    EXPECT_TRUE(suspension.MessageBoxShown);
+  };
+
+  ShowBox();
+
+  EXPECT_TRUE(seen);
+}
+
 TEST_F(MessageBoxTest, GivesTheTimerThenTheMainWindowAndAtLastTheHotKeysBack) {
   bool seen = false;
   mainWindow.onCall = [&](const std::string& call) {

@@ -71,6 +71,15 @@ TEST_F(StartedMainWindow, AWidthThatIsTooNarrowIsRaisedWhoeverHasSetIt) {
   EXPECT_EQ(korvale.Startup().Width, 2640);
 }
 
+TEST_F(StartedMainWindow, AWidthSetPastTheLimitsIsRaised) {
+  TwipsRect place = Place(korvale);
+  place.width = 2000;
+  korvale.host.Tell(korvale.Handle(),
+                    [&](FormEvents& events) { events.OnPlaced(ShowState::kNormal, place); });
+  EXPECT_EQ(Place(korvale).width, 2640);
+  EXPECT_EQ(korvale.Startup().Width, 2640);
+}
+
 TEST_F(StartedMainWindow, TheFieldsShareTheWidthSideBySide) {
   const auto place = [&](const char* field) {
     return korvale.user.Place(korvale.Handle(), Field(korvale, field));
