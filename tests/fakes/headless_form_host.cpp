@@ -144,6 +144,7 @@ void HeadlessFormHost::DestroyWindow(WindowHandle hwnd) {
   log_->Add("DestroyWindow(" + log_->Window(hwnd) + ")");
   std::erase_if(windows_, [&](const auto& window) { return window->handle == hwnd; });
   desktop_->Destroy(hwnd);
+  log_->NameWindow(hwnd, "");
 }
 
 void HeadlessFormHost::UpdateControl(WindowHandle hwnd, int control, ControlProperty property) {

@@ -109,6 +109,11 @@ class HeadlessFormHost : public FormHost,
   bool MessageBoxUp() const { return !boxes_.empty(); }
   /// The texts of the alerts that a screen reader has been told of.
   const std::vector<std::string>& Announced() const { return announced_; }
+  /// Drops the message boxes and alerts so far.
+  void ForgetWhatWasTold() {
+    messages_.clear();
+    announced_.clear();
+  }
   /// A tick of a timer, as the clock gives it.
   void DeliverTimer(WindowHandle hwnd, int id);
 
