@@ -83,7 +83,7 @@ StoredValues Saved(const clsOptions& options, const StartupSettings& startup) {
 }
 
 TEST(SettingRowsTest, EachKeyOfTheOptionsIsReadIntoItsOwnField) {
-  EXPECT_EQ(kOptionKeys.size(), 26U);
+  EXPECT_EQ(kOptionKeys.size(), kAllOptions);
   for (const auto& [key, text, change] : kOptionKeys) {
     FakeSettingsStore store;
     store.SaveSetting(kApp, "Options", key, text);
@@ -106,7 +106,7 @@ TEST(SettingRowsTest, EachFieldOfTheOptionsIsWrittenUnderItsOwnKey) {
 }
 
 TEST(SettingRowsTest, EachKeyOfTheStateIsReadIntoItsOwnField) {
-  EXPECT_EQ(kStartupKeys.size(), 14U);
+  EXPECT_EQ(kStartupKeys.size(), kAllStartupSettings);
   for (const auto& [key, text, change] : kStartupKeys) {
     FakeSettingsStore store;
     store.SaveSetting(kApp, "Startup", key, text);
@@ -133,7 +133,7 @@ TEST(SettingRowsTest, NoKeyStandsTwice) {
   for (const auto& row : OptionRows()) keys.emplace_back(row.key);
   for (const auto& row : StartupRows()) keys.emplace_back(row.key);
   std::ranges::sort(keys);
-  EXPECT_EQ(keys.size(), 40U);
+  EXPECT_EQ(keys.size(), kAllSettings);
   EXPECT_EQ(std::ranges::adjacent_find(keys), keys.end());
 }
 

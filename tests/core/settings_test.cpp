@@ -220,7 +220,7 @@ TEST_F(SettingsTest, OptionsAreWrittenInTheirOrder) {
   for (const auto& [key, text] : kDefaultOptions) {
     expected.push_back("SaveSetting(Korvale - Work, Options, " + key + ", \"" + text + "\")");
   }
-  ASSERT_EQ(expected.size(), 26U);
+  ASSERT_EQ(expected.size(), kAllOptions);
   EXPECT_EQ(Changes(), expected);
 }
 
@@ -234,7 +234,7 @@ TEST_F(SettingsTest, DeleteOptionsLeavesTheRest) {
   settings_.SaveINI(StartupSettings(), {});
   settings_.DeleteOptions();
   EXPECT_TRUE(store_.GetAllSettings(kApp, "Options").empty());
-  EXPECT_EQ(store_.GetAllSettings(kApp, "Startup").size(), 14U);
+  EXPECT_EQ(store_.GetAllSettings(kApp, "Startup").size(), kAllStartupSettings);
 }
 
 TEST_F(SettingsTest, DeleteINILeavesTheOptions) {
@@ -242,7 +242,7 @@ TEST_F(SettingsTest, DeleteINILeavesTheOptions) {
   settings_.SaveINI(StartupSettings(), {});
   settings_.DeleteINI();
   EXPECT_TRUE(store_.GetAllSettings(kApp, "Startup").empty());
-  EXPECT_EQ(store_.GetAllSettings(kApp, "Options").size(), 26U);
+  EXPECT_EQ(store_.GetAllSettings(kApp, "Options").size(), kAllOptions);
 }
 
 TEST_F(SettingsTest, DeletePlacementKeepsTheOtherStartupSettings) {

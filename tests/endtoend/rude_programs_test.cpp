@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "tests/endtoend/harness/color_dialog.h"
+#include "tests/endtoend/harness/default_settings.h"
 #include "tests/endtoend/harness/gui_mode.h"
 #include "tests/endtoend/harness/main_window.h"
 #include "tests/endtoend/korvale_test.h"
@@ -139,7 +140,7 @@ TEST_F(RudePrograms, ChangeNothingInTheMainWindow) {
   Start();
   ASSERT_TRUE(Exit());
   const auto startup = installation_.settings().Section("Startup");
-  ASSERT_EQ(startup.size(), 14U);
+  ASSERT_EQ(startup.size(), kAllStartupSettings);
   StartWithTags();
   PostAndSend();
   EXPECT_TRUE(InFront(alpha_));

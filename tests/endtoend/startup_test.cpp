@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "tests/endtoend/harness/default_settings.h"
 #include "tests/endtoend/harness/options_dialog.h"
 #include "tests/endtoend/store_test.h"
 
@@ -72,7 +73,7 @@ TEST_F(StartUp, TheFirstRunStoresAllDefaultsBeforeItAsksToReviewTheHotKeys) {
   ASSERT_TRUE(question);
   EXPECT_TRUE(LabelText(question).starts_with(kReviewQuestion)) << LabelText(question);
   EXPECT_TRUE(LabelText(question).ends_with("Do you want to review the Hot Keys now ?"));
-  EXPECT_EQ(installation_.settings().Section("Options").size(), 26U);
+  EXPECT_EQ(installation_.settings().Section("Options").size(), kAllOptions);
   EXPECT_EQ(installation_.settings().Get("Options", "HotKeyGeneral2"), "19");
   EXPECT_EQ(installation_.settings().Get("Startup", "WI1BackColor"), "10485759");
   EXPECT_TRUE(AnswerBox(question, IDNO));

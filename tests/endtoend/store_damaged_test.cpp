@@ -38,7 +38,7 @@ const Damage kDamages[] = {
 class DamagedStore : public OptionsTest, public ::testing::WithParamInterface<Damage> {};
 
 TEST_P(DamagedStore, IsReadAsTheDefaultsAndMadeWholeAgain) {
-  ASSERT_EQ(DefaultSettings().size(), 40U);
+  ASSERT_EQ(DefaultSettings().size(), kAllSettings);
   for (const DefaultSetting& setting : DefaultSettings()) GetParam().apply(settings(), setting);
   // When no setting can be read, this counts as a first run, which asks questions.
   installation_.MarkAsUsed();

@@ -1,3 +1,4 @@
+#include "tests/endtoend/harness/default_settings.h"
 #include "tests/endtoend/store_test.h"
 
 namespace korvale::endtoend {
@@ -11,7 +12,7 @@ TEST_F(Store, HoldsEveryDefaultFromTheFirstRunOn) {
   EXPECT_TRUE(HoldsSections("Options", "Startup"));
   EXPECT_EQ(StoredOptions(), Defaults("Options"));
   EXPECT_EQ(StoredStartup(), Defaults("Startup"));
-  EXPECT_EQ(settings().Section("Startup").size(), 14U);
+  EXPECT_EQ(settings().Section("Startup").size(), kAllStartupSettings);
 }
 
 TEST_F(Store, HoldsTheSameAfterAnExitAndARestart) {

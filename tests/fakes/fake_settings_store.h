@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
@@ -8,6 +9,12 @@
 #include "tests/fakes/call_log.h"
 
 namespace korvale {
+
+/// How many settings an installation stores: those of the Options dialog, what else the main window
+/// remembers, and both.
+inline constexpr std::size_t kAllOptions = 26;
+inline constexpr std::size_t kAllStartupSettings = 14;
+inline constexpr std::size_t kAllSettings = 40;
 
 /// Thrown where the program is killed; not an error that anything could handle.
 struct KilledBetweenWrites {};

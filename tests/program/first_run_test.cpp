@@ -21,8 +21,8 @@ TEST_F(FirstRunTest, TheFirstRunStoresAllDefaultsBeforeItAsks) {
     EXPECT_EQ(box.title, "Korvale - CAUTION");
     EXPECT_EQ(box.style, win32::kMbYesNo);
     splashAtQuestion = Stored("Options", "SplashScreen") + Stored("Startup", "Width");
-    EXPECT_EQ(store.GetAllSettings("Korvale - Work", "Options").size(), 26U);
-    EXPECT_EQ(store.GetAllSettings("Korvale - Work", "Startup").size(), 14U);
+    EXPECT_EQ(store.GetAllSettings("Korvale - Work", "Options").size(), kAllOptions);
+    EXPECT_EQ(store.GetAllSettings("Korvale - Work", "Startup").size(), kAllStartupSettings);
     return win32::kIdNo;
   });
 

@@ -106,18 +106,17 @@ TEST_F(SavesTest, AFullSaveOfNineTagsMakesEachChangeOnceBehindItsJournal) {
   KorvaleCopy& korvale = StartedCopy();
   Drag(korvale);
   const Calls calls = StoreCallsOf([this] { ExpectTagLeadsTo(1, "Alpha"); });
-  constexpr std::size_t kState = 14;
   constexpr std::size_t kTags = 2 * 9;
   constexpr std::size_t kDeletions = 2;
   // What earlier saves have left, which sections hold anything, and the end of the journal.
   constexpr std::size_t kAroundIt = 21;
-  EXPECT_EQ(calls.size(), 2 * (kState + kTags + kDeletions) + kAroundIt)
+  EXPECT_EQ(calls.size(), 2 * (kAllStartupSettings + kTags + kDeletions) + kAroundIt)
       << testing::PrintToString(calls);
   std::vector<std::string> changes = calls;
   std::erase_if(changes, [](const std::string& call) {
     return call.starts_with("Get") || call.find("Korvale - Work, Saving") != std::string::npos;
   });
-  EXPECT_EQ(changes.size(), kState + kTags + kDeletions);
+  EXPECT_EQ(changes.size(), kAllStartupSettings + kTags + kDeletions);
   EXPECT_EQ(std::set(changes.begin(), changes.end()).size(), changes.size()) << "one made twice";
 }
 

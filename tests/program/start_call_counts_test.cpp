@@ -46,7 +46,7 @@ TEST_F(StartCallCounts, AStartMakesTheseCallsAndNoOthersUntilTheHotKeysWork) {
       {"CreateWindowExW", 1},
       {"SetWindowTextW", 1},
       {"UpdateControl", 2},
-      {"GetSetting", 40},
+      {"GetSetting", static_cast<int>(kAllSettings)},
       {"GetAllSettings", 17},
       {"SaveSetting", 1},
       {"EnumWindows", 1},
