@@ -20,12 +20,6 @@ tabs 'Pages')";
 /// What a screen reader says of each window.
 class ScreenReader : public OptionsTest {
  protected:
-  /// A line for each thing that it comes to, behind a line's end.
-  static std::string Table(const std::vector<std::string>& lines) {
-    std::string table;
-    for (const std::string& line : lines) table += "\n" + line;
-    return table;
-  }
   static std::string Read(Window window) { return Table(Spoken(window)); }
 
   /// A dialog that the system makes: it may stand in any order, and may have an empty picture.
@@ -169,6 +163,17 @@ check box 'Recognize windows that have no Title', Alt+R)") + kOptionsButtons +
 tab 'General'
 tab 'Hot Keys'
 tab 'Window Identification', selected)");
+}
+
+TEST_F(ScreenReader, ReadsWhichHotKeysAnotherProgramHas) {
+  ASSERT_TRUE(program_.TakeHotKey(TagKey(5)));
+  ASSERT_TRUE(program_.TakeHotKey(kMenuKey));
+  installation_.StoreTag(5, "Alpha", "Test.Window");
+  installation_.settings().Set("Startup", "DisplayTips", "False");
+  const std::vector<std::string> lines = Spoken(OpenOptionsOn(Page::kHotKeys));
+  const char* const refused =
+      "text 'Not available, in use by Windows or another program: Alt+5, Ctrl+F12'";
+  EXPECT_EQ(std::ranges::count(lines, refused), 1) << Table(lines);
 }
 
 TEST_F(ScreenReader, ReadsAMessage) {

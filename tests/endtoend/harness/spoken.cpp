@@ -10,7 +10,7 @@
 #include <array>
 #include <cctype>
 
-#include "tests/endtoend/harness/process.h"
+#include "tests/endtoend/harness/lent_memory.h"
 #include "tests/endtoend/harness/text.h"
 #include "tests/endtoend/harness/wait.h"
 
@@ -27,8 +27,6 @@ std::string OnOneLine(const std::string& text) {
   if (line.ends_with(' ')) line.pop_back();
   return line;
 }
-
-std::string Quote(const std::string& text) { return "'" + OnOneLine(text) + "'"; }
 
 /// What Active Accessibility knows of a window.
 class Accessible {
@@ -162,20 +160,15 @@ std::string States(Window control, LONG role, LONG state) {
 /// program's own memory.
 std::string TabText(Window strip, WPARAM tab) {
   constexpr int kLength = 100;
-  constexpr DWORD kRights = PROCESS_VM_OPERATION | PROCESS_VM_READ | PROCESS_VM_WRITE;
-  const Handle program(OpenProcess(kRights, FALSE, strip.ProcessId()));
-  const SIZE_T size = sizeof(TCITEMW) + kLength * sizeof(wchar_t);
-  auto* const piece = static_cast<std::byte*>(
-      VirtualAllocEx(program.get(), nullptr, size, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE));
+  const LentMemory piece(strip.ProcessId(), sizeof(TCITEMW) + kLength * sizeof(wchar_t));
   TCITEMW question{};
   question.mask = TCIF_TEXT;
-  question.pszText = reinterpret_cast<wchar_t*>(piece + sizeof(question));
+  question.pszText = reinterpret_cast<wchar_t*>(piece.Address() + sizeof(question));
   question.cchTextMax = kLength;
-  WriteProcessMemory(program.get(), piece, &question, sizeof(question), nullptr);
-  strip.Send(TCM_GETITEMW, tab, reinterpret_cast<LPARAM>(piece));
+  piece.Write(&question, sizeof(question));
+  strip.Send(TCM_GETITEMW, tab, reinterpret_cast<LPARAM>(piece.Address()));
   std::array<wchar_t, kLength> text{};
-  ReadProcessMemory(program.get(), question.pszText, text.data(), sizeof(text), nullptr);
-  VirtualFreeEx(program.get(), piece, 0, MEM_RELEASE);
+  piece.Read(sizeof(question), text.data(), sizeof(text));
   return Utf8(text.data());
 }
 
@@ -183,7 +176,7 @@ void AddTabs(Window strip, std::vector<std::string>& lines) {
   const LRESULT count = strip.Send(TCM_GETITEMCOUNT);
   for (LRESULT tab = 0; tab < count; ++tab) {
     const bool chosen = strip.Send(TCM_GETCURSEL) == tab;
-    lines.push_back("tab " + Quote(TabText(strip, static_cast<WPARAM>(tab))) +
+    lines.push_back("tab " + Said(TabText(strip, static_cast<WPARAM>(tab))) +
                     (chosen ? ", selected" : ""));
   }
 }
@@ -195,9 +188,9 @@ void Add(Window control, std::vector<std::string>& lines) {
   const bool list = role == ROLE_SYSTEM_COMBOBOX;
   const Accessible label(list && !known ? LabelOf(control, false) : control);
   const Accessible seen(list && !known ? LabelOf(control, true) : control);
-  std::string line = Word(role) + (" " + Quote(label.Name()));
+  std::string line = Word(role) + (" " + Said(label.Name()));
   if (list || role == ROLE_SYSTEM_TEXT) {
-    line += " = " + Quote(list && !known ? control.Text() : object.Value());
+    line += " = " + Said(list && !known ? control.Text() : object.Value());
   }
   line += States(control, role, object.State());
   std::string key = seen.AccessKey();
@@ -228,6 +221,14 @@ void CALLBACK Note(HWINEVENTHOOK /*hook*/, DWORD event, HWND window, LONG /*obje
 }
 
 }  // namespace
+
+std::string Said(const std::string& text) { return "'" + OnOneLine(text) + "'"; }
+
+std::string Table(const std::vector<std::string>& lines) {
+  std::string table;
+  for (const std::string& line : lines) table += "\n" + line;
+  return table;
+}
 
 std::vector<std::string> Spoken(Window window) {
   const HRESULT com = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);

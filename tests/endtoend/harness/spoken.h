@@ -19,6 +19,12 @@ namespace korvale::endtoend {
 /// window, as in Wine, the line has what Windows documents for controls of this class.
 std::vector<std::string> Spoken(Window window);
 
+/// A text in quotes as it is said: with one blank instead of several and of line breaks.
+std::string Said(const std::string& text);
+
+/// The lines as one text, each behind a line's end.
+std::string Table(const std::vector<std::string>& lines);
+
 /// Hears what screen readers are told of a program while this exists.
 class Told {
  public:
