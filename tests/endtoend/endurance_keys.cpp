@@ -60,6 +60,11 @@ void EnduranceTest::Leave(UINT key, Window form) {
   PressFor("the form goes", {0, key}, [&] { return !form.Exists() || !form.Visible(); });
 }
 
+void EnduranceTest::Dismiss(Window message) {
+  NeedInFront(message);
+  PressFor("the message goes", {0, VK_RETURN}, [&] { return !message.Exists(); });
+}
+
 void EnduranceTest::GoByTagKey() {
   // Where Alt goes down in one program and up in another, Wine tells the first one with its next
   // key that Alt is still down: Korvale would not take that key for Enter.
@@ -78,9 +83,18 @@ void EnduranceTest::GoByTagKeyToAReopenedWindow() {
 
 void EnduranceTest::BeToldThatATagIsNotOpen() {
   PressFor("a message", TagKey(kTagWithoutWindow), [this] { return korvale_->HasMessageBox(); });
-  const Window box = korvale_->MessageBox();
-  NeedInFront(box);
-  PressFor("the message goes", {0, VK_RETURN}, [&] { return !box.Exists(); });
+  Dismiss(korvale_->MessageBox());
+  NeedInFront(Tagged(tag_));
+}
+
+void EnduranceTest::BeToldThatHotKeysAreSuspended() {
+  const auto notices = [this] { return korvale_->MessageBoxes("Korvale     "); };
+  PressFor("a message", TagKey(kTagWithoutWindow), [this] { return korvale_->HasMessageBox(); });
+  const Window message = korvale_->MessageBox();
+  NeedInFront(message);
+  PressFor("the notice", TagKey(tag_), [&] { return !notices().empty(); });
+  Dismiss(notices().front());
+  Dismiss(message);
   NeedInFront(Tagged(tag_));
 }
 

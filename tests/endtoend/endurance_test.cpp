@@ -48,11 +48,12 @@ class Endurance : public EnduranceTest {
 
 const std::vector<Endurance::Kind>& Endurance::Kinds() {
   static const std::vector<Kind> kinds = {
-      {"Tag key, window open", 2300, &Endurance::GoByTagKey},
+      {"Tag key, window open", 1100, &Endurance::GoByTagKey},
       {"Tag key, window reopened", 600, &Endurance::GoByTagKeyToAReopenedWindow},
       {"Tag key, nothing to find", 400, &Endurance::BeToldThatATagIsNotOpen},
-      {"Tag 0", 1200, &Endurance::GoToThePreviousWindow},
-      {"pop-up closed by Esc", 600, &Endurance::PopUpAndEscape},
+      {"hot key while a message is shown", 200, &Endurance::BeToldThatHotKeysAreSuspended},
+      {"Tag 0", 800, &Endurance::GoToThePreviousWindow},
+      {"pop-up closed by Esc", 400, &Endurance::PopUpAndEscape},
       {"pop-up, Tag chosen", 600, &Endurance::PopUpAndChoose},
       {"maximize key, twice", 300, &Endurance::MaximizeAndRestore},
       {"minimize key and back", 300, &Endurance::MinimizeAndComeBack},
@@ -60,10 +61,14 @@ const std::vector<Endurance::Kind>& Endurance::Kinds() {
       {"hot keys off and on", 200, &Endurance::ToggleHotKeys},
       {"Options, all tabs, Cancel", 300, &Endurance::WalkThroughOptions},
       {"Options, OK", 300, &Endurance::ConfirmOptions},
+      {"Options, Reset and Apply", 100, &Endurance::ResetAndApplyOptions},
       {"Add Window, Cancel", 200, &Endurance::LookAtAddWindow},
       {"Add Window, OK, Remove", 200, &Endurance::TagAndRemove},
       {"About", 200, &Endurance::LookAtAbout},
       {"tip and colour dialog", 200, &Endurance::ReadTipAndChooseColor},
+      {"colours put back", 200, &Endurance::PutTheColorsBack},
+      {"tips off and on", 200, &Endurance::SwitchTipsOffAndOn},
+      {"help page", 200, &Endurance::LookForTheHelpPage},
       {"Target Window off and on", 200, &Endurance::HideAndShowTheTarget},
       {"menu bar off and on", 200, &Endurance::HideAndShowTheMenu},
       {"Always On Top on and off", 200, &Endurance::SwitchAlwaysOnTop},
@@ -73,6 +78,11 @@ const std::vector<Endurance::Kind>& Endurance::Kinds() {
       {"window without a Tag, new title", 500, &Endurance::WorkInAnotherWindow},
       {"system colours changed", 200, &Endurance::ChangeSystemColors},
       {"text size changed", 200, &Endurance::ChangeTextSize},
+      {"dots of the monitor told", 200, &Endurance::BeToldOfTheSameDots},
+      {"resume and unlock told", 200, &Endurance::WakeUpAndUnlock},
+      {"read by a screen reader", 200, &Endurance::ReadTheMainWindowAloud},
+      {"second start", 100, &Endurance::StartASecondCopy},
+      {"save that is refused", 200, &Endurance::SaveInAStoreThatRefuses},
   };
   return kinds;
 }
@@ -124,13 +134,16 @@ Resources Endurance::Measure() {
 void Endurance::ExpectNoMoreThan(const Resources& before) {
   // The system's own caches come and go. One handle that any operation leaves comes to five.
   constexpr int kHandles = 4;
-  constexpr int kKilobytes = 4096;
+  // Wine's own labels do not free their 24 bytes when they go, about 0.2 KB an operation. Beyond
+  // that, 10,000 show 2 KB that is left at each opening of the Options dialog, and the short run of
+  // script/test 100 KB.
+  const int kilobytes = 512 + static_cast<int>(done_) / 4;
   const Resources now = Measure();
   EXPECT_LE(now.userObjects, before.userObjects + kHandles);
   EXPECT_LE(now.gdiObjects, before.gdiObjects + kHandles);
   EXPECT_LE(now.kernelHandles, before.kernelHandles + kHandles);
   EXPECT_LE(now.threads, before.threads);
-  EXPECT_LE(now.kilobytes, before.kilobytes + kKilobytes);
+  EXPECT_LE(now.kilobytes, before.kilobytes + kilobytes);
 }
 
 void Endurance::PrintKinds() const {

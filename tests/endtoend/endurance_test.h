@@ -4,14 +4,13 @@
 #include <string>
 #include <vector>
 
-#include "tests/endtoend/harness/options_dialog.h"
-#include "tests/endtoend/korvale_test.h"
+#include "tests/endtoend/options_test.h"
 
 namespace korvale::endtoend {
 
 /// A user who does the same things again and again. Each begins and ends with a tagged window in
 /// front and nothing else open, and throws std::runtime_error when it does not go as it should.
-class EnduranceTest : public KorvaleTest {
+class EnduranceTest : public OptionsTest {
  protected:
   /// Starts Korvale with Tags 1 to 3 open and Tag 4 not.
   void StartWithTags();
@@ -19,6 +18,7 @@ class EnduranceTest : public KorvaleTest {
   void GoByTagKey();
   void GoByTagKeyToAReopenedWindow();
   void BeToldThatATagIsNotOpen();
+  void BeToldThatHotKeysAreSuspended();
   void GoToThePreviousWindow();
   void PopUpAndEscape();
   void PopUpAndChoose();
@@ -28,19 +28,28 @@ class EnduranceTest : public KorvaleTest {
   void ToggleHotKeys();
   void WalkThroughOptions();
   void ConfirmOptions();
+  void ResetAndApplyOptions();
   void LookAtAddWindow();
   void TagAndRemove();
   void LookAtAbout();
   void ReadTipAndChooseColor();
+  void PutTheColorsBack();
   void HideAndShowTheTarget();
   void HideAndShowTheMenu();
   void SwitchAlwaysOnTop();
   void SizeTheMainWindow();
   void MinimizeTheMainWindow();
   void ReadToolTip();
+  void LookForTheHelpPage();
+  void SwitchTipsOffAndOn();
   void WorkInAnotherWindow();
   void ChangeSystemColors();
   void ChangeTextSize();
+  void BeToldOfTheSameDots();
+  void WakeUpAndUnlock();
+  void ReadTheMainWindowAloud();
+  void StartASecondCopy();
+  void SaveInAStoreThatRefuses();
 
   int tag_ = 0;
 
@@ -60,16 +69,18 @@ class EnduranceTest : public KorvaleTest {
   void NeedInFront(Window window);
   /// Leaves a dialog by a key.
   void Leave(UINT key, Window form);
+  /// Reads a message and presses Enter.
+  void Dismiss(Window message);
   void PopUp();
   void ChooseInPopUp(UINT entry);
   /// From the main window's menu bar.
   void ChooseInBar(UINT menu, UINT entry);
-  OptionsDialog OpenOptions();
 
   std::vector<Window> tagged_;
   Window other_;
   int changes_ = 0;
   int color_ = 0;
+  bool told_of_lost_save_ = false;
 };
 
 }  // namespace korvale::endtoend

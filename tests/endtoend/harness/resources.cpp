@@ -123,7 +123,7 @@ int Threads(DWORD process) {
 int Kilobytes(HANDLE process) {
   PROCESS_MEMORY_COUNTERS counters{};
   K32GetProcessMemoryInfo(process, &counters, sizeof(counters));
-  return static_cast<int>(counters.WorkingSetSize / 1024);
+  return static_cast<int>(counters.PagefileUsage / 1024);
 }
 
 }  // namespace

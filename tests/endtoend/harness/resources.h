@@ -13,7 +13,7 @@ struct Resources {
   int gdiObjects = 0;
   int kernelHandles = 0;
   int threads = 0;
-  int kilobytes = 0;  ///< Resident memory.
+  int kilobytes = 0;  ///< Memory of its own; what it shares with others comes and goes.
 };
 
 /// Those of a process. Where Wine does not count, its tables are read; throws std::runtime_error
