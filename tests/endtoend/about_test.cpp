@@ -34,10 +34,8 @@ class About : public KorvaleTest {
   static std::vector<COLORREF> ProgramIcon(int size) {
     const HMODULE program =
         LoadLibraryExW(Wide(KorvaleProgram()).c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
-    const auto icon = static_cast<HICON>(
-        LoadImageW(program, MAKEINTRESOURCEW(1), IMAGE_ICON, size, size, LR_DEFAULTCOLOR));
-    const std::vector<COLORREF> picture = PictureOf(icon, size, GetSysColor(COLOR_BTNFACE));
-    DestroyIcon(icon);
+    const std::vector<COLORREF> picture =
+        PictureOfProgramIcon(program, size, GetSysColor(COLOR_BTNFACE));
     FreeLibrary(program);
     return picture;
   }

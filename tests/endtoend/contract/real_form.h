@@ -10,6 +10,7 @@
 #include "platform/windows/handles.h"
 #include "tests/contract/contract_fixture.h"
 #include "tests/endtoend/contract/windows_user.h"
+#include "tests/endtoend/harness/screen.h"
 
 namespace korvale {
 
@@ -47,6 +48,20 @@ class RealForm : public FormHostContract {
     GetClientRect(info.hwndList, &list);
     EXPECT_LE(last.bottom, list.bottom);
     return info.hwndList;
+  }
+  /// The icon is the program's own, of that size in pixels.
+  static void ExpectProgramIcon(HICON icon, int size) {
+    constexpr COLORREF kGround = RGB(0, 255, 0);
+    ICONINFO info{};
+    ASSERT_NE(GetIconInfo(icon, &info), FALSE) << size;
+    BITMAP bitmap{};
+    GetObjectW(info.hbmMask, sizeof(bitmap), &bitmap);
+    DeleteObject(info.hbmMask);
+    DeleteObject(info.hbmColor);
+    EXPECT_EQ(bitmap.bmWidth, size);
+    EXPECT_TRUE(endtoend::PictureOf(icon, size, kGround) ==
+                endtoend::PictureOfProgramIcon(GetModuleHandleW(nullptr), size, kGround))
+        << size;
   }
   /// The colour of a control's first pixel.
   COLORREF ColorOf(HWND window) {

@@ -91,18 +91,11 @@ TEST_F(WindowsFormLookTest, ALabelThatLosesItsBorderShowsNothingOfItsFormerColor
 TEST_F(WindowsFormLookTest, ADialogHasTheProgramsIconWhereWindowsAsksForIt) {
   ShowForm();
   ASSERT_TRUE(form_.State().modalFrame);
-  const auto width = [&](int which) {
-    ICONINFO icon{};
-    const auto handle = reinterpret_cast<HICON>(GetClassLongPtrW(Hwnd(), which));
-    if (GetIconInfo(handle, &icon) == FALSE) return 0L;
-    BITMAP bitmap{};
-    GetObjectW(icon.hbmMask, sizeof(bitmap), &bitmap);
-    DeleteObject(icon.hbmMask);
-    DeleteObject(icon.hbmColor);
-    return bitmap.bmWidth;
+  const auto icon = [&](int which) {
+    return reinterpret_cast<HICON>(GetClassLongPtrW(Hwnd(), which));
   };
-  EXPECT_EQ(width(GCLP_HICON), GetSystemMetrics(SM_CXICON));
-  EXPECT_EQ(width(GCLP_HICONSM), GetSystemMetrics(SM_CXSMICON));
+  ExpectProgramIcon(icon(GCLP_HICON), GetSystemMetrics(SM_CXICON));
+  ExpectProgramIcon(icon(GCLP_HICONSM), GetSystemMetrics(SM_CXSMICON));
 }
 
 TEST_F(WindowsFormLookTest, AnOpenFormTakesOnOtherSystemColorsAndKeepsTheUsersOwn) {

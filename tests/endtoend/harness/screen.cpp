@@ -46,6 +46,14 @@ std::vector<COLORREF> PictureOf(HICON icon, int size, COLORREF ground) {
   return pixels;
 }
 
+std::vector<COLORREF> PictureOfProgramIcon(HMODULE program, int size, COLORREF ground) {
+  const auto icon = static_cast<HICON>(
+      LoadImageW(program, MAKEINTRESOURCEW(1), IMAGE_ICON, size, size, LR_DEFAULTCOLOR));
+  const std::vector<COLORREF> picture = PictureOf(icon, size, ground);
+  DestroyIcon(icon);
+  return picture;
+}
+
 HCURSOR PointerOnScreen() {
   CURSORINFO info{};
   info.cbSize = sizeof(info);
