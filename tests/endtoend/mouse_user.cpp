@@ -10,17 +10,32 @@ using ::testing::AssertionSuccess;
 
 namespace {
 
-/// Clicks along the tabs until that page is on the screen.
+LONG WidthOf(const wchar_t* text) {
+  NONCLIENTMETRICSW metrics{};
+  metrics.cbSize = sizeof(metrics);
+  SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof(metrics), &metrics, 0);
+  const HFONT font = CreateFontIndirectW(&metrics.lfMessageFont);
+  const HDC screen = GetDC(nullptr);
+  const HGDIOBJ before = SelectObject(screen, font);
+  SIZE size{};
+  GetTextExtentPoint32W(screen, text, lstrlenW(text), &size);
+  SelectObject(screen, before);
+  ReleaseDC(nullptr, screen);
+  DeleteObject(font);
+  return size.cx;
+}
+
+/// Clicks on the tab of that page.
 bool TurnTo(const OptionsDialog& dialog, OptionsDialog::Page page) {
-  if (dialog.CurrentPage() == page) return true;
-  const Window strip = dialog.form().Controls("SysTabControl32").front();
-  for (LONG x = 15; x < 400; x += 40) {
-    ClickAt(strip, {x, 10});
-    if (WaitFor([&] { return dialog.CurrentPage() == page; }, std::chrono::milliseconds(100))) {
-      return true;
-    }
-  }
-  return false;
+  // A tab is as wide as its text and a margin, which need not be known to the pixel to hit it.
+  constexpr LONG kMargin = 14;
+  constexpr const wchar_t* kTabs[] = {L"General", L"Hot Keys", L"Window Identification"};
+  const auto wanted = static_cast<size_t>(page) - 1;
+  LONG left = 0;
+  for (size_t tab = 0; tab < wanted; ++tab) left += WidthOf(kTabs[tab]) + kMargin;
+  ClickAt(dialog.form().Controls("SysTabControl32").front(),
+          {left + (WidthOf(kTabs[wanted]) + kMargin) / 2, 10});
+  return WaitFor([&] { return dialog.CurrentPage() == page; });
 }
 
 }  // namespace
@@ -90,7 +105,7 @@ OptionsDialog MouseUser::OpenOptionsOn(Page page) {
   EXPECT_TRUE(ChooseByMouse(kTools, 1, kToolsEntries));
   const OptionsDialog dialog(korvale_->Form("frmOptions"));
   EXPECT_TRUE(InFront(dialog.form()));
-  EXPECT_TRUE(TurnTo(dialog, page)) << "no click turns to the page";
+  EXPECT_TRUE(TurnTo(dialog, page)) << "the click does not turn to the page";
   return dialog;
 }
 

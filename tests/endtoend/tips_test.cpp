@@ -1,7 +1,6 @@
-#include <functional>
-#include <utility>
+#include <vector>
 
-#include "tests/endtoend/harness/screen.h"
+#include "tests/endtoend/harness/menu_picture.h"
 #include "tests/endtoend/korvale_test.h"
 
 namespace korvale::endtoend {
@@ -70,62 +69,39 @@ class TipMessages : public KorvaleTest {
     return InFront(main());
   }
 
-  /// Opens the View menu, gives whether `look` is true within a while, and closes it.
-  bool LookAtViewMenu(const std::function<bool(Window)>& look) {
-    EXPECT_TRUE(BringToFront(main()));
+  /// Opens the View menu, which shows a check mark at Customize Colors or none, and closes it.
+  ::testing::AssertionResult ColorsAreChecked(bool checked) {
+    constexpr size_t kEntries = 5;
+    constexpr size_t kColors = 2;
+    if (!BringToFront(main())) return ::testing::AssertionFailure() << "no main window";
     Press({MOD_ALT, 'V'});
     const Window menu = korvale_->OpenMenu();
-    const bool seen = WaitFor([&] { return look(menu); });
-    Press({0, VK_ESCAPE});
-    Press({0, VK_ESCAPE});
-    EXPECT_TRUE(WaitFor([this] { return !korvale_->HasMenu(); }));
-    return seen;
-  }
-
-  bool ViewMenuLooksLike(const std::vector<COLORREF>& picture) {
-    return LookAtViewMenu([&](Window menu) { return PictureOf(menu) == picture; });
-  }
-
-  /// What the open View menu looks like once that lasts for a moment.
-  std::vector<COLORREF> LastingLookOfViewMenu() {
-    std::vector<COLORREF> picture;
-    EXPECT_TRUE(LookAtViewMenu([&](Window menu) {
-      const auto lasts = [&] {
-        const std::vector<COLORREF> before = std::exchange(picture, PictureOf(menu));
-        return before == picture;
-      };
-      return HoldsFor(lasts, std::chrono::milliseconds(50));
-    }));
-    return picture;
-  }
-
-  /// What the View menu looks like, when there is nothing yet to compare it with. The screen can
-  /// lag behind, so what lasts need not be the painted menu: it is when two openings look the same.
-  std::vector<COLORREF> PictureOfViewMenu() {
-    std::vector<COLORREF> picture;
-    EXPECT_TRUE(WaitFor([&] {
-      const std::vector<COLORREF> before = std::exchange(picture, LastingLookOfViewMenu());
-      return before == picture;
-    }));
-    return picture;
+    // Entries are drawn from top to bottom: with the last one, all marks are there.
+    const bool seen = WaitFor([&] {
+      const std::vector<SeenEntry> entries = MenuEntries(menu);
+      return entries.size() == kEntries && entries[kColors].checked == checked;
+    });
+    for (int level = 0; level < 2; ++level) Press({0, VK_ESCAPE});
+    if (!WaitFor([this] { return !korvale_->HasMenu(); })) {
+      return ::testing::AssertionFailure() << "the menu does not close";
+    }
+    if (seen) return ::testing::AssertionSuccess();
+    return ::testing::AssertionFailure() << (checked ? "no check mark" : "still a check mark");
   }
 };
 
 TEST_F(TipMessages, ExplainHowColorsAreCustomizedEachTimeTheModeIsTurnedOn) {
   Start();
-  const std::vector<COLORREF> off = PictureOfViewMenu();
-  std::vector<COLORREF> on;
+  EXPECT_TRUE(ColorsAreChecked(false));
   for (int time = 0; time < 2; ++time) {
     ASSERT_TRUE(Choose('V', {'C'}));
     EXPECT_EQ(LabelText(Tip()), kColorTip);
     EXPECT_TRUE(Close());
-    if (time == 0) on = PictureOfViewMenu();
-    EXPECT_TRUE(ViewMenuLooksLike(on)) << "no check mark";
+    EXPECT_TRUE(ColorsAreChecked(true));
     ASSERT_TRUE(Choose('V', {'C'}));
     EXPECT_TRUE(StaysInFront(main()));
-    EXPECT_TRUE(ViewMenuLooksLike(off)) << "still a check mark";
+    EXPECT_TRUE(ColorsAreChecked(false));
   }
-  EXPECT_TRUE(on != off);
   EXPECT_TRUE(Stored("Tips", "1"));
 }
 

@@ -11,11 +11,17 @@ constexpr std::chrono::milliseconds kMoment{250};
 
 }  // namespace
 
-bool ScreenComesToRest() {
-  const Window screen(GetDesktopWindow());
+bool ScreenComesToRest() { return ComeToRest({Window(GetDesktopWindow())}); }
+
+bool ComeToRest(const std::vector<Window>& windows) {
+  const auto look = [&] {
+    std::vector<std::vector<COLORREF>> pictures;
+    for (const Window window : windows) pictures.push_back(PictureOf(window));
+    return pictures;
+  };
   return WaitFor([&] {
-    const std::vector<COLORREF> before = PictureOf(screen);
-    return HoldsFor([&] { return PictureOf(screen) == before; }, kMoment);
+    const auto before = look();
+    return HoldsFor([&] { return look() == before; }, kMoment);
   });
 }
 

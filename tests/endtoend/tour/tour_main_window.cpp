@@ -27,16 +27,11 @@ bool HasColor(Window box, Rgb color) {
   });
 }
 
-/// The pointer at that place, once it stays the same.
+/// The pointer that is on the screen after the mouse has come to that place.
 HCURSOR PointerAt(Window box, POINT at) {
   MoveMouse(box, at);
-  HCURSOR pointer = nullptr;
-  const auto same = [&] { return PointerOnScreen() == pointer; };
-  WaitFor([&] {
-    pointer = PointerOnScreen();
-    return HoldsFor(same, std::chrono::milliseconds(150));
-  });
-  return pointer;
+  box.Responds();
+  return PointerOnScreen();
 }
 
 }  // namespace
@@ -83,8 +78,12 @@ void Tour::BeginCustomizing() {
 
 bool Tour::PointsWithC(Window box) {
   if (!BringToFront(korvale_->Main())) return false;
-  const HCURSOR arrow = PointerAt(box, kLower);
-  return PointerAt(box, kUpperLeft) != arrow;
+  // The screen may lag behind; there and back again it is the same only once it does not.
+  return WaitFor([&] {
+    const HCURSOR letter = PointerAt(box, kUpperLeft);
+    const HCURSOR arrow = PointerAt(box, kLower);
+    return letter != arrow && PointerAt(box, kUpperLeft) == letter;
+  });
 }
 
 bool Tour::AltClick(Window box) {
