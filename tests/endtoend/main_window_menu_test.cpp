@@ -1,3 +1,6 @@
+#include <algorithm>
+#include <vector>
+
 #include "tests/endtoend/harness/main_window.h"
 #include "tests/endtoend/korvale_test.h"
 
@@ -144,6 +147,26 @@ TEST_F(MainWindowMenu, EndsTheProgramByFileExit) {
   ASSERT_TRUE(Choose('F', {'X'}));
   EXPECT_EQ(korvale_->process().WaitForExit(), 0U);
   EXPECT_TRUE(HotKeyIsFree(TagKey(1)));
+}
+
+/// As when the user has taken the pages out of the folder.
+TEST_F(MainWindowMenu, ADocumentThatCannotBeOpenedIsNoErrorAndOpensNothing) {
+  Start();
+  const Window alpha = WorkInNew("Alpha");
+  const std::vector<Window> before = TopLevelWindows();
+  const auto is_new = [&](Window window) {
+    return window.Visible() && std::ranges::find(before, window) == before.end();
+  };
+  for (const UINT page : {'H', 'P', 'R'}) {
+    ASSERT_TRUE(Choose('H', {page}));
+    EXPECT_TRUE(StaysInFront(main()));
+    EXPECT_TRUE(HoldsFor([&] { return !FindTopLevel(is_new); })) << Describe(FindTopLevel(is_new));
+  }
+  EXPECT_TRUE(Target("Alpha"));
+  ASSERT_TRUE(Choose('V', {'T'}));
+  EXPECT_TRUE(WaitFor([this] { return !window().ShowsBoxes(); }));
+  Press(TagKey(0));
+  EXPECT_TRUE(InFront(alpha));
 }
 
 }  // namespace

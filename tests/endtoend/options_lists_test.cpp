@@ -59,6 +59,32 @@ TEST_F(OptionsLists, TakeF4AndArrowsAndStayClosed) {
   EXPECT_TRUE(dialog.Cancel());
 }
 
+TEST_F(OptionsLists, GoUpAndDownByAPageAndStayClosed) {
+  const OptionsDialog dialog = StartWithOptions(Page::kHotKeys);
+  ASSERT_TRUE(dialog.Focus(kMinimizeKey));
+  const Window list = dialog.ListBox(kMinimizeKey);
+  const auto place = [&] { return list.Send(CB_GETCURSEL); };
+  const LRESULT down_arrow = place();
+  ASSERT_EQ(dialog.Chosen(kMinimizeKey), "DownArrow");
+  Press({0, VK_PRIOR});
+  // More than a line; how many, the system decides.
+  EXPECT_TRUE(WaitFor([&] { return place() < down_arrow - 1; })) << dialog.Chosen(kMinimizeKey);
+  EXPECT_TRUE(HasBorder(dialog.Label(" Minimize Window")));
+  Press({0, VK_NEXT});
+  EXPECT_TRUE(Shows(dialog, kMinimizeKey, "DownArrow"));
+  EXPECT_TRUE(HoldsFor([&] { return list.Send(CB_GETDROPPEDSTATE) == 0; }));
+  // The first entry is no key.
+  for (int page = 0; page < 20 && place() != 0; ++page) {
+    const LRESULT before = place();
+    Press({0, VK_PRIOR});
+    ASSERT_TRUE(WaitFor([&] { return place() < before; }));
+  }
+  EXPECT_EQ(dialog.Chosen(kMinimizeKey), " ");
+  EXPECT_TRUE(WaitFor([&] { return !HasBorder(dialog.Label(" Minimize Window")); }));
+  ASSERT_TRUE(Apply(dialog));
+  EXPECT_EQ(settings().Get("Options", "HotKeyAction0"), "0");
+}
+
 TEST_F(OptionsLists, IgnoreAKeyPressedTogetherWithAnother) {
   const OptionsDialog dialog = StartWithOptions(Page::kHotKeys);
   ASSERT_TRUE(dialog.Focus(kToggleKey));
