@@ -1,4 +1,5 @@
 #include "tests/endtoend/harness/main_window.h"
+#include "tests/endtoend/harness/menu_picture.h"
 #include "tests/endtoend/keyboard_user.h"
 
 namespace korvale::endtoend {
@@ -190,7 +191,7 @@ class KeyboardAlone : public KeyboardUser {
     ASSERT_TRUE(FocusIs(tip, buttons[0]));
     ASSERT_TRUE(TabTo(tip, buttons[1]));
     ASSERT_TRUE(Leave(tip, VK_SPACE));
-    EXPECT_EQ(Checked('V'), 3) << "Menu, Target Window and Customize Colors";
+    EXPECT_EQ(Checked('V', kViewEntries), 3) << "Menu, Target Window and Customize Colors";
     Press({0, VK_RETURN});
     const ColorDialog dialog(*korvale_);
     ASSERT_TRUE(InFront(dialog.window()));
@@ -208,7 +209,7 @@ class KeyboardAlone : public KeyboardUser {
   void PutTheColorsBack() {
     ASSERT_TRUE(Choose('V', {'D', 'T'}));
     EXPECT_TRUE(HasColor(MainWindow(main()).TitleBox(), kYellow));
-    EXPECT_EQ(Checked('V'), 2) << "Menu and Target Window";
+    EXPECT_EQ(Checked('V', kViewEntries), 2) << "Menu and Target Window";
     Press({MOD_SHIFT, VK_TAB});
     EXPECT_TRUE(FocusIs(main(), MainWindow(main()).TitleBox()));
   }
@@ -238,18 +239,19 @@ class KeyboardAlone : public KeyboardUser {
     Press({0, VK_RETURN});
     EXPECT_TRUE(WaitFor([&] { return !window.HasMenuBar(); }));
     ASSERT_TRUE(InFront(main()));
-    EXPECT_EQ(Checked('V'), 1) << "Target Window";
+    EXPECT_EQ(Checked('V', kViewEntries), 1) << "Target Window";
     ASSERT_TRUE(Choose('V', {'M'}));
     EXPECT_TRUE(WaitFor([&] { return window.HasMenuBar(); }));
   }
 
   void KeepOnTop() {
+    constexpr size_t kTags = 4;
     for (const bool topmost : {true, false}) {
       ASSERT_TRUE(OpenWindowMenu());
       Press({0, 'O'});
       EXPECT_TRUE(WaitFor([&] { return main().Topmost() == topmost; }));
       EXPECT_TRUE(WaitFor([this] { return !korvale_->HasMenu(); }));
-      EXPECT_EQ(Checked('W'), topmost ? 1 : 0);
+      EXPECT_EQ(Checked('W', kWindowEntries + kTags), topmost ? 1 : 0);
     }
   }
 

@@ -75,13 +75,10 @@ AssertionResult KeyboardUser::LeaveTo(Window window, Window form, UINT key) {
   return InFront(window);
 }
 
-int KeyboardUser::Checked(UINT menu) {
+int KeyboardUser::Checked(UINT menu, size_t entries) {
   Press({MOD_ALT, menu});
-  const Window open = korvale_->OpenMenu();
-  std::vector<SeenEntry> seen;
-  // Until it has been drawn, and then for a while the same.
-  const auto look = [&] { return !(seen = MenuEntries(open)).empty(); };
-  EXPECT_TRUE(WaitFor(look) && HoldsFor(look, std::chrono::milliseconds(150)));
+  const std::vector<SeenEntry> seen = MenuEntries(korvale_->OpenMenu(), entries);
+  EXPECT_EQ(seen.size(), entries);
   Press({0, VK_ESCAPE});
   Press({0, VK_ESCAPE});
   EXPECT_TRUE(WaitFor([this] { return !korvale_->HasMenu(); }));

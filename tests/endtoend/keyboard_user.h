@@ -28,8 +28,8 @@ class KeyboardUser : public OptionsTest {
   /// has come from.
   ::testing::AssertionResult Leave(Window form, UINT key);
   ::testing::AssertionResult LeaveTo(Window window, Window form, UINT key);
-  /// How many entries of the menu with this letter are checked, as it looks on the screen.
-  int Checked(UINT menu);
+  /// How many of the entries of the menu with this letter are checked, as it looks on the screen.
+  int Checked(UINT menu, size_t entries);
   static ::testing::AssertionResult HasColor(Window box, Rgb color);
 
   /// Asked before Korvale starts.

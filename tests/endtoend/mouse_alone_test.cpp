@@ -175,8 +175,8 @@ void MouseAlone::PutTheColorsBack() {
     return window.ClassName() == menu.ClassName() && window.Visible() && window != menu;
   });
   ASSERT_TRUE(second);
-  std::vector<SeenEntry> below;
-  ASSERT_TRUE(WaitFor([&] { return (below = MenuEntries(second)).size() == 1; }));
+  const std::vector<SeenEntry> below = MenuEntries(second, 1);
+  ASSERT_EQ(below.size(), 1U);
   ClickOnScreen(below.front().middle);
   EXPECT_TRUE(Stored("WI1BackColor", "10485759"));
 }

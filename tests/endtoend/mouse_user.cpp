@@ -47,10 +47,8 @@ std::vector<SeenEntry> MouseUser::OpenMenuOf(Menu menu, size_t count) {
   EXPECT_TRUE(WaitFor(all_titles)) << titles.size() << " menus";
   if (titles.size() != kMenus) return {};
   ClickOnScreen(titles[menu]);
-  const Window open = korvale_->OpenMenu();
-  std::vector<SeenEntry> seen;
-  const auto all_entries = [&] { return (seen = MenuEntries(open)).size() == count; };
-  EXPECT_TRUE(WaitFor(all_entries)) << seen.size() << " entries";
+  std::vector<SeenEntry> seen = MenuEntries(korvale_->OpenMenu(), count);
+  EXPECT_EQ(seen.size(), count);
   return seen;
 }
 

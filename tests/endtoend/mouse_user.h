@@ -17,12 +17,6 @@ class MouseUser : public OptionsTest {
   enum ViewEntry : size_t { kViewMenu, kViewTarget, kViewColors, kViewDefaults, kViewOptions };
   enum WindowEntry : size_t { kOnTop, kOtherOnTop, kMinimizeAll, kRestoreAll, kTag0, kTag1, kTag2 };
 
-  static constexpr size_t kViewEntries = 5;
-  static constexpr size_t kToolsEntries = 2;
-  static constexpr size_t kHelpEntries = 5;
-  /// Without Tags.
-  static constexpr size_t kWindowEntries = 7;
-
   static void ClickOnScreen(POINT at) { ClickAt(Window(GetDesktopWindow()), at); }
 
   /// Opens a menu of the bar; its entries, once there are so many.

@@ -71,21 +71,18 @@ class TipMessages : public KorvaleTest {
 
   /// Opens the View menu, which shows a check mark at Customize Colors or none, and closes it.
   ::testing::AssertionResult ColorsAreChecked(bool checked) {
-    constexpr size_t kEntries = 5;
     constexpr size_t kColors = 2;
     if (!BringToFront(main())) return ::testing::AssertionFailure() << "no main window";
     Press({MOD_ALT, 'V'});
-    const Window menu = korvale_->OpenMenu();
-    // Entries are drawn from top to bottom: with the last one, all marks are there.
-    const bool seen = WaitFor([&] {
-      const std::vector<SeenEntry> entries = MenuEntries(menu);
-      return entries.size() == kEntries && entries[kColors].checked == checked;
-    });
+    const std::vector<SeenEntry> seen = MenuEntries(korvale_->OpenMenu(), kViewEntries);
     for (int level = 0; level < 2; ++level) Press({0, VK_ESCAPE});
     if (!WaitFor([this] { return !korvale_->HasMenu(); })) {
       return ::testing::AssertionFailure() << "the menu does not close";
     }
-    if (seen) return ::testing::AssertionSuccess();
+    if (seen.size() != kViewEntries) {
+      return ::testing::AssertionFailure() << seen.size() << " entries";
+    }
+    if (seen[kColors].checked == checked) return ::testing::AssertionSuccess();
     return ::testing::AssertionFailure() << (checked ? "no check mark" : "still a check mark");
   }
 };

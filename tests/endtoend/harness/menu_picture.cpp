@@ -1,6 +1,7 @@
 #include "tests/endtoend/harness/menu_picture.h"
 
 #include "tests/endtoend/harness/screen.h"
+#include "tests/endtoend/harness/wait.h"
 
 namespace korvale::endtoend {
 namespace {
@@ -98,6 +99,12 @@ std::vector<SeenEntry> MenuEntries(Window menu) {
                             [&](int y) { return picture.RowIsDrawn(y, kFrame, marks); });
     entries.push_back({picture.OnScreen(picture.Width() / 2, line.Middle()), !mark.empty()});
   }
+  return entries;
+}
+
+std::vector<SeenEntry> MenuEntries(Window menu, size_t count) {
+  std::vector<SeenEntry> entries;
+  WaitFor([&] { return (entries = MenuEntries(menu)).size() == count; });
   return entries;
 }
 
