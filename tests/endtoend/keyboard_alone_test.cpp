@@ -249,8 +249,7 @@ class KeyboardAlone : public KeyboardUser {
     for (const bool topmost : {true, false}) {
       ASSERT_TRUE(OpenWindowMenu());
       Press({0, 'O'});
-      EXPECT_TRUE(WaitFor([&] { return main().Topmost() == topmost; }));
-      EXPECT_TRUE(WaitFor([this] { return !korvale_->HasMenu(); }));
+      EXPECT_TRUE(WaitFor([&] { return main().Topmost() == topmost && !korvale_->HasMenu(); }));
       EXPECT_EQ(Checked('W', kWindowEntries + kTags), topmost ? 1 : 0);
     }
   }

@@ -74,5 +74,16 @@ TEST_F(MainWindowMenusTest, TheHelpMenuStandsInItsOrder) {
                    "web:  Korvale Home Page (P)", "web:  Readme (R)", "-", "About Korvale (A)"}));
 }
 
+TEST_F(MainWindowMenusTest, DefaultColorsGoToTheFieldsAndTheStore) {
+  Store("WI1BackColor", "255");
+  Store("WI2BackColor", "65280");
+  KorvaleCopy& korvale = StartedCopy();
+  Choose(korvale, {"View", "Default Settings", "Target Window/Class Colors"});
+  EXPECT_EQ(ColorOf(korvale, "txtWindow"), 0x9FFFFF);
+  EXPECT_EQ(ColorOf(korvale, "txtWindowClass"), 0xAEFFAE);
+  EXPECT_EQ(Stored("WI1BackColor"), "10485759");
+  EXPECT_EQ(Stored("WI2BackColor"), "11468718");
+}
+
 }  // namespace
 }  // namespace korvale

@@ -269,17 +269,6 @@ TEST_F(StartedMainWindow, TheTargetWindowCommandTogglesCheckFieldsAndSetting) {
   EXPECT_EQ(Stored("WindowInfo"), "True");
 }
 
-TEST_F(MainWindowTest, DefaultColorsGoToTheFieldsAndTheStore) {
-  Store("WI1BackColor", "255");
-  Store("WI2BackColor", "65280");
-  KorvaleCopy& korvale = StartedCopy();
-  Choose(korvale, {"View", "Default Settings", "Target Window/Class Colors"});
-  EXPECT_EQ(ColorOf(korvale, "txtWindow"), 0x9FFFFF);
-  EXPECT_EQ(ColorOf(korvale, "txtWindowClass"), 0xAEFFAE);
-  EXPECT_EQ(Stored("WI1BackColor"), "10485759");
-  EXPECT_EQ(Stored("WI2BackColor"), "11468718");
-}
-
 TEST_F(StartedMainWindow, TheFieldsAreNamedForScreenReadersAndReadOnly) {
   const auto before = [&](const char* field) {
     return korvale.user.Look(korvale.Handle(), Field(korvale, field) - 1);
