@@ -105,9 +105,7 @@ void EnduranceTest::GoToThePreviousWindow() {
   tag_ = (tag_ + 1) % kTags + 1;
 }
 
-void EnduranceTest::PopUp() {
-  PressFor("the menu pops up", kMenuKey, [this] { return korvale_->HasMenu(); });
-}
+void EnduranceTest::PopUp() { Need(PopUpWindowMenu()); }
 
 void EnduranceTest::PopUpAndEscape() {
   PopUp();
