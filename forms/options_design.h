@@ -27,7 +27,15 @@ inline constexpr std::array kOptionsPages = std::to_array<OptionsPage>({
     {kHotKeysPage, "Hot Keys", "cboHotKeyModParent"},
     {kWindowIdentificationPage, "Window Identification", "chkAllowToolbarWindow"},
 });
-static_assert(kOptionsPages.size() == kLastOptionsPage);
+static_assert(
+    [] {
+      std::int16_t next = kGeneralPage;
+      for (const OptionsPage& page : kOptionsPages) {
+        if (page.number != next++) return false;
+      }
+      return next == kLastOptionsPage + 1;
+    }(),
+    "a row for each page, in the order of their numbers");
 
 /// The controls in which the hot keys of a group of operations are chosen: a frame with control
 /// arrays, counted by OperationRow::index.

@@ -13,11 +13,12 @@ enum class ScaleCause {
 };
 
 /// On a monitor of other dots per inch, a form takes the size of its model, not the one that
-/// Windows suggests. `normal`: neither minimized nor maximized; `sized`: it may be about to get
-/// another size.
+/// Windows suggests. `normal`: neither minimized nor maximized; `sized`: the user or
+/// Windows is giving it another size.
 bool TakesOwnSize(const FormState& form, bool normal, bool sized);
 
-/// There, it is moved to where KeptOnMonitor says.
+/// Whether it is then moved to where KeptOnMonitor says. What the user has in hand, or Windows
+/// places, is left alone.
 bool StaysOnMonitor(bool normal, ScaleCause cause);
 
 /// Where a form of this place stays on its monitor, all in twips or all in pixels. `over`: most of
