@@ -4,6 +4,7 @@ same words and order in all three, up to a semicolon. An operation is known by t
 other's label has."""
 
 import html
+import itertools
 import pathlib
 import re
 import sys
@@ -62,6 +63,8 @@ def check(page, rows, expected):
     if [key for key, _ in rows[: len(TAGS)]] != TAGS:
         complain(page, f"does not begin with {TAGS}")
     told = dict(rows[len(TAGS) :])
+    if len(told) < len(rows) - len(TAGS):
+        complain(page, "tells a key twice")
     for name, key, own in expected:
         if key not in told:
             complain(page, f"{key} for {name} is missing")
@@ -75,7 +78,7 @@ expected = list(operations())
 tables = {page: table(page) for page in PAGES}
 for page, rows in tables.items():
     check(page, rows, expected)
-    for row, first in zip(rows, tables[PAGES[0]]):
+    for row, first in itertools.zip_longest(rows, tables[PAGES[0]]):
         if row != first:
             complain(page, f"says {row}, {PAGES[0]} says {first}")
 sys.exit(1 if problems or not expected else 0)

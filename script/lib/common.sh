@@ -28,8 +28,8 @@ explain() {
 
 say() { printf '\n== %s\n' "$*"; }
 
-# Lets ccache keep what was compiled with precompiled headers, as
-# CMakePresets.json does for builds by hand.
+# Lets ccache keep what was compiled with precompiled headers, as CMakePresets.json does for builds by
+# hand.
 export CCACHE_SLOPPINESS=pch_defines,time_macros
 
 # The time that builds write into what they make, so that the same commit gives the same bytes: the

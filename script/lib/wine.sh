@@ -97,17 +97,13 @@ wine_template() {
   "$WINE_LOADER" wineboot -i >/dev/null 2>&1
   # Without a window manager only Wine's own desktop window knows who is in front.
   "$WINE_LOADER" reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d Default /f >/dev/null
-  wine_screen "$WINE_USUAL_SCREEN"
+  "$WINE_LOADER" reg add 'HKCU\Software\Wine\Explorer\Desktops' /v Default \
+    /d "$WINE_USUAL_SCREEN" /f >/dev/null
   # A program that crashes must end at once, not wait in a debugger.
   "$WINE_LOADER" reg delete 'HKLM\Software\Microsoft\Windows NT\CurrentVersion\AeDebug' /f \
     >/dev/null
   "$WINE_SERVER" -w
   touch "$WINE_TEMPLATE.done"
-}
-
-# Makes Wine's desktop window this large, WIDTHxHEIGHT.
-wine_screen() {
-  "$WINE_LOADER" reg add 'HKCU\Software\Wine\Explorer\Desktops' /v Default /d "$1" /f >/dev/null
 }
 
 # Prepares everything that the suites share; ends it all when the script ends.
@@ -120,9 +116,7 @@ wine_begin() {
   export WINEDEBUG=${WINEDEBUG:--all} WINEDLLOVERRIDES='mscoree,mshtml='
   export WINESERVER=$WINE_SERVER WINELOADER=$WINE_LOADER
   export FONTCONFIG_FILE=${KORVALE_FONTS:-$PWD/script/lib/fonts.conf}
-  wine_addresses
-  wine_display
-  wine_template
+  wine_addresses && wine_display && wine_template
 }
 
 # A fresh prefix for the suite that follows; with WINE_DPI, its screen has so many dots per inch.
