@@ -19,7 +19,7 @@ class BiggerText : public OptionsTest {
   static int Height(int percent) { return MulDiv(Pixels(12), percent, 100); }
 
   static ::testing::AssertionResult LooksWell(Window form, int textHeight) {
-    std::string flaw = "it is not there";
+    std::string flaw;
     if (WaitFor([&] { return (flaw = FlawOf(form, textHeight)).empty(); })) {
       return ::testing::AssertionSuccess();
     }

@@ -128,8 +128,8 @@ void EnduranceTest::SwitchAlwaysOnTop() {
     ChooseInBar('W', 'O');
     ChooseInBar('W', 'T');
     NeedThat("it goes on top and comes down", [&] { return window.Topmost() == topmost; });
-    // The command brings it forward first, and Korvale back where the user was in its window.
-    NeedThat("one of both is in front", [&] { return HasInput(window) || HasInput(main()); });
+    // The command brings the window forward, then Korvale again if the user worked there.
+    NeedThat("one of the two is in front", [&] { return HasInput(window) || HasInput(main()); });
   }
   GoByTagKey();
 }

@@ -150,7 +150,7 @@ TEST_F(MainWindowMenu, EndsTheProgramByFileExit) {
 }
 
 /// As when the user has taken the pages out of the folder.
-TEST_F(MainWindowMenu, ADocumentThatCannotBeOpenedIsNoErrorAndOpensNothing) {
+TEST_F(MainWindowMenu, ADocumentThatCannotBeOpenedDisturbsNothing) {
   Start();
   const Window alpha = WorkInNew("Alpha");
   const std::vector<Window> before = TopLevelWindows();

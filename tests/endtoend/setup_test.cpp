@@ -49,7 +49,9 @@ namespace fs = std::filesystem;
 class ErrorsElsewhere {
  public:
   ErrorsElsewhere() {
-    fs::create_directory(folder_);
+    if (!fs::create_directory(folder_)) {
+      throw std::runtime_error("the user's own errors are in " + folder_.string());
+    }
     for (const char* const file : {"Error.log", "Korvale 2026-01-31 09.05.07.dmp"}) {
       std::ofstream(folder_ / file) << "error";
     }

@@ -14,7 +14,7 @@ namespace korvale {
 /// remembers, and both.
 inline constexpr std::size_t kAllOptions = 26;
 inline constexpr std::size_t kAllStartupSettings = 14;
-inline constexpr std::size_t kAllSettings = 40;
+inline constexpr std::size_t kAllSettings = kAllOptions + kAllStartupSettings;
 
 /// Thrown where the program is killed; not an error that anything could handle.
 struct KilledBetweenWrites {};

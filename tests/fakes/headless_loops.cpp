@@ -80,8 +80,8 @@ HeadlessFormHost::Answer HeadlessFormHost::TakeAnswer(const ShownMessage& messag
   if (answers_.empty() && otherAnswer_) return otherAnswer_;
   if (answers_.empty()) {
     const std::string complaint = "nobody answers the " + Quote(message);
-    // What leaves a test on its way through the program is reported there in a box of its own, at
-    // last where nothing may be thrown: that would end the tests behind this one, too.
+    // The program may catch what fails the test and tell its user in another box, at last where it
+    // must not throw: failing there once more would end all tests.
     if (!testing::Test::HasFailure() || !Offers(message.style, win32::kIdOk)) FailTest(complaint);
     ADD_FAILURE() << complaint;
     return [](const ShownMessage&) { return win32::kIdOk; };

@@ -9,7 +9,7 @@ namespace korvale::endtoend {
 /// remembers, and both.
 inline constexpr std::size_t kAllOptions = 26;
 inline constexpr std::size_t kAllStartupSettings = 14;
-inline constexpr std::size_t kAllSettings = 40;
+inline constexpr std::size_t kAllSettings = kAllOptions + kAllStartupSettings;
 
 /// What is stored for one setting out of the box, and a value beyond what it can hold ("" = there
 /// is none).

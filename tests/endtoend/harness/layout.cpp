@@ -115,6 +115,8 @@ std::string FlawWithin(Window holder, HFONT font, int textHeight) {
 }  // namespace
 
 std::string FlawOf(Window form, int textHeight) {
+  const std::string gone = "it is not there";
+  if (!form.Visible()) return gone;
   NONCLIENTMETRICSW metrics{};
   metrics.cbSize = sizeof(metrics);
   SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof(metrics), &metrics, 0);
@@ -128,6 +130,7 @@ std::string FlawOf(Window form, int textHeight) {
   RECT shown{};
   IntersectRect(&shown, &area, &work);
   if (flaw.empty() && EqualRect(&shown, &area) == 0) flaw = "it reaches beyond the work area";
+  if (!form.Visible()) return gone;
   return flaw;
 }
 

@@ -205,9 +205,9 @@ void Gallery::TakeOptions() {
 void Gallery::TakeNotice() {
   Press(kToggleKey);
   const Window notice = Form("frmWaitWindow");
-  // It goes by itself in less than a second, on a busy machine before its picture is taken.
-  HoldsFor([&] { return notice.Responds(); }, std::chrono::milliseconds(200));
+  Need(ComeToRest({notice}), "the notice does not come to rest");
   {
+    // It goes by itself in less than a second, on a busy machine before its picture is taken.
     const StoppedThread stopped(notice);
     photographer_.TakeAtOnce("notice", {notice});
   }
