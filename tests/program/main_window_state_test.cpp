@@ -36,6 +36,15 @@ TEST_F(MainWindowStateTest, AMinimizedWindowComesUpSoAndIsStoredSo) {
   EXPECT_EQ(Stored("Height"), "1100");
 }
 
+TEST_F(MainWindowStateTest, RestoredOnASmallerScreenAfterAMinimizedStartItIsWhole) {
+  Store("WindowState", "1");
+  Store("Left", "9000");
+  KorvaleCopy& korvale = StartedCopy();
+  korvale.host.SetWorkArea({0, 0, 12000, 9000});
+  desktop.UserRestores(korvale.Handle());
+  EXPECT_EQ(Place(korvale).left, 12000 - 4500);
+}
+
 TEST_F(MainWindowStateTest, AMinimizedStartLeavesTheUserWhereTheyAreAndKnowsIt) {
   Store("WindowState", "1");
   Store("AlwaysOnTop", "True");

@@ -88,6 +88,13 @@ TEST_F(SavesTest, ASelectedTagLeavesTheStoreAloneAfterAStartFromAPlaceOffTheScre
   EXPECT_EQ(StoreCallsOfTags(), Calls());
 }
 
+TEST_F(SavesTest, ASelectedTagLeavesTheStoreAloneAfterAStartWithoutTheMenuBar) {
+  StoreStartup("Menu", "False");
+  StoreStartup("Left", "480000");
+  StartedCopy();
+  EXPECT_EQ(StoreCallsOfTags(), Calls());
+}
+
 TEST_F(SavesTest, ATipSilencedAtTheStartIsSavedWithTheFirstCommand) {
   KorvaleCopy& korvale = UsedCopy();
   korvale.system.commandLine = "/x";

@@ -252,6 +252,18 @@ TEST_F(FormKeysTest, AltIsNoWayToTheMenuOnceAKeyWasTakenWithIt) {
   EXPECT_TRUE(altAlone(kAlt | kCtrl, 'Z'));
 }
 
+TEST_F(FormKeysTest, AltHeldOnBehindAMessageIsStillTheOneThatAKeyWasTakenWith) {
+  form_.onKeyDown = [](int& key, unsigned) {
+    if (key == 'Z') key = 0;
+  };
+  form_.OnKeyDown(0, win32::kVkMenu, kAlt, false);
+  form_.OnKeyDown(0, 'Z', kAlt, false);
+  form_.SetEnabled(false);
+  EXPECT_TRUE(form_.OnKeyDown(0, win32::kVkMenu, kAlt, true));
+  form_.SetEnabled(true);
+  EXPECT_TRUE(form_.OnKeyUp(0, win32::kVkMenu, kNoShift)) << "the menu would open";
+}
+
 TEST_F(FormKeysTest, AltIsNoWayToTheMenuOnceACharacterWasTakenWithIt) {
   form_.Find("cmdStay").SetText("&Ж");
   const auto altAlone = [&](unsigned shift, char32_t character) {

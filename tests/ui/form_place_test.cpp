@@ -145,6 +145,15 @@ TEST_F(FormPlaceTest, OnlyAMaximizedFormTakesANewLimitOfItsHeightAtOnce) {
   EXPECT_EQ(user_.Place(form.Handle()).height, before.height + 600);
 }
 
+TEST_F(FormPlaceTest, AMaximizedFormThatGrewWithItsFrameCountsItsHeightWithoutThat) {
+  host_.SetFrame({60, 500, 120, 560}, 285);
+  form_.Show();
+  form_.SetWindowState(ShowState::kMaximized);
+  form_.SetSizeLimits({.height = 3000});
+  EXPECT_EQ(user_.Place(form_.Handle()).height, 3000);
+  EXPECT_EQ(form_.Place().height, 3000 - 160);
+}
+
 TEST_F(FormPlaceTest, AFormThatNobodySeesTakesItsLimitsWhenShown) {
   RecordingForm form(kStripDesign, forms_);
   form.Load();

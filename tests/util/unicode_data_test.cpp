@@ -1,11 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <charconv>
 #include <filesystem>
 #include <fstream>
 #include <map>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "util/characters.h"
@@ -53,6 +55,33 @@ class UnicodeTable {
   std::vector<std::string> values_;
 };
 
+/// The capital letters that Unicode names for single characters.
+std::map<char32_t, char32_t> Capitals() {
+  constexpr int kCapital = 12;
+  std::map<char32_t, char32_t> capitals;
+  std::ifstream lines(kUnicode / "UnicodeData.txt");
+  for (std::string line; std::getline(lines, line);) {
+    std::istringstream fields(line);
+    std::string first, field;
+    std::getline(fields, first, ';');
+    for (int i = 1; i <= kCapital; ++i) std::getline(fields, field, ';');
+    if (!field.empty()) capitals[CodePoint(first)] = CodePoint(field);
+  }
+  return capitals;
+}
+
+/// Letters that have a capital beside them in the same part of Unicode. The one left out shares its
+/// capital with another letter.
+bool HasOurCapital(char32_t letter) {
+  constexpr std::pair<char32_t, char32_t> kParts[] = {
+      {U'a', U'z'},     {0xE0, 0xFF},     {0x100, 0x130},   {0x132, 0x17E},
+      {0x218, 0x21B},   {0x3AC, 0x3CE},   {0x430, 0x52F},   {0x561, 0x586},
+      {0x1E00, 0x1E9A}, {0x1EA0, 0x1EFF}, {0xFF41, 0xFF5A},
+  };
+  return std::ranges::any_of(
+      kParts, [=](const auto& part) { return letter >= part.first && letter <= part.second; });
+}
+
 class UnicodeDataTest : public testing::Test {
  protected:
   void SetUp() override {
@@ -64,6 +93,24 @@ class UnicodeDataTest : public testing::Test {
 bool JoinsConsonants(const std::string& script) {
   return script == "Devanagari" || script == "Bengali" || script == "Gujarati" ||
          script == "Oriya" || script == "Telugu" || script == "Malayalam";
+}
+
+TEST_F(UnicodeDataTest, KnowsNoOtherCapitalOfALetterThanUnicode) {
+  const std::map<char32_t, char32_t> capitals = Capitals();
+  ASSERT_GT(capitals.size(), 1000U);
+  std::size_t ours = 0;
+  for (char32_t letter = 1; letter < kCodePoints; ++letter) {
+    const auto number = static_cast<std::uint32_t>(letter);
+    const char32_t capital = UpperCase(letter);
+    const auto known = capitals.find(letter);
+    if (capital != letter) {
+      ++ours;
+      EXPECT_TRUE(known != capitals.end() && known->second == capital) << number;
+    } else if (known != capitals.end()) {
+      EXPECT_FALSE(HasOurCapital(letter)) << number;
+    }
+  }
+  EXPECT_GT(ours, 500U);
 }
 
 TEST_F(UnicodeDataTest, KnowsTheClassOfEveryCharacter) {
