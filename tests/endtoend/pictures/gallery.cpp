@@ -9,6 +9,7 @@
 #include "tests/endtoend/harness/keyboard.h"
 #include "tests/endtoend/harness/layout.h"
 #include "tests/endtoend/harness/main_window.h"
+#include "tests/endtoend/harness/resting_screen.h"
 #include "tests/endtoend/harness/stopped_thread.h"
 #include "tests/endtoend/harness/wait.h"
 
