@@ -4,6 +4,7 @@
 
 #include "tests/endtoend/harness/files.h"
 #include "tests/endtoend/harness/text.h"
+#include "tests/endtoend/harness/wait.h"
 
 namespace korvale::endtoend {
 namespace {
@@ -46,6 +47,12 @@ void LetForegroundNotice() {
   for (int times = 0; times < 3; ++times) {
     if (!foreground.Responds()) return;
   }
+}
+
+POINT OnScreen(Window window, POINT at) {
+  RECT area{};
+  GetWindowRect(window.handle(), &area);
+  return {area.left + at.x, area.top + at.y};
 }
 
 // SendInput counts positions in 65536ths of the screen.
@@ -137,14 +144,14 @@ void PutPointer(POINT at) {
   PutDisplayPointer(at.x, at.y);
 }
 
-void MoveMouse(Window window, POINT at) {
-  RECT area{};
-  GetWindowRect(window.handle(), &area);
-  PutPointer({area.left + at.x, area.top + at.y});
-}
+void MoveMouse(Window window, POINT at) { PutPointer(OnScreen(window, at)); }
 
 void ClickAt(Window window, POINT at) {
-  MoveMouse(window, at);
+  const POINT point = OnScreen(window, at);
+  // A window that comes to the front is raised a moment after it has got the focus.
+  const HWND whole = GetAncestor(window.handle(), GA_ROOT);
+  WaitFor([&] { return GetAncestor(WindowFromPoint(point), GA_ROOT) == whole; });
+  PutPointer(point);
   SendMouse(MOUSEEVENTF_LEFTDOWN);
   SendMouse(MOUSEEVENTF_LEFTUP);
 }

@@ -79,7 +79,8 @@ void PutPointer(POINT at);
 /// Moves the mouse to a place in a window or control, counted in pixels from its left upper corner.
 void MoveMouse(Window window, POINT at);
 
-/// Moves the mouse there and clicks its left button.
+/// Waits until nothing lies over the window there, moves the mouse there, and clicks its left
+/// button.
 void ClickAt(Window window, POINT at);
 
 /// Turns the mouse wheel over the middle of a window or control: away from the user above 0.
