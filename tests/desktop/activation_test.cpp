@@ -33,12 +33,12 @@ TEST_F(Activation, WindowInFrontIsNotBroughtThereAgain) {
 TEST_F(Activation, WindowInFrontIsBroughtThereAgainWhileAnotherIsOnItsWay) {
   const WindowHandle gamma = desktop.Open("Gamma");
   desktop.UserActivates(beta);
-  desktop.DelayForeground(true);
+  desktop.DelayForegroundFor(50);
   EXPECT_EQ(Activate(Triple(alpha)), kActivationDone);
   tracker.RecordSelection(Know(desktop, alpha));
   desktop.UserActivates(gamma);
   EXPECT_EQ(Activate(Triple(gamma, "Gamma")), kActivationDone);
-  desktop.DelayForeground(false);
+  clock.Advance(50);
   EXPECT_EQ(desktop.ForegroundTitle(), "Gamma");
 }
 

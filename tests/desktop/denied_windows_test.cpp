@@ -45,9 +45,9 @@ TEST_F(DeniedWindows, OneThatStaysMinimizedGivesTheForegroundBack) {
 
 TEST_F(DeniedWindows, OneThatStaysMinimizedGivesTheForegroundBackBeforeItComesForward) {
   const WindowHandle stubborn = desktop.Open("Stubborn", {.iconic = true, .staysIconic = true});
-  desktop.DelayForeground(true);
+  desktop.DelayForegroundFor(50);
   EXPECT_EQ(Activate(Triple(stubborn, "Stubborn")), kWindowDenied);
-  desktop.DelayForeground(false);
+  clock.Advance(50);
   EXPECT_EQ(desktop.ForegroundTitle(), "Beta");
 }
 

@@ -1,5 +1,6 @@
 #include "tests/fakes/fake_desktop.h"
 
+#include <limits>
 #include <stdexcept>
 #include <utility>
 
@@ -124,7 +125,11 @@ WindowHandle FakeDesktop::ShowGhost(WindowHandle hwnd) {
 
 void FakeDesktop::UseClock(FakeClock& clock) {
   clock_ = &clock;
-  clock.SetTimePassedHandler([this] { ServeFreeWindows(); });
+  clock.SetTimePassedHandler([this] {
+    const bool due = foreground_delayed_until_ <= clock_->GetTickCount64();
+    if (foreground_delayed_ && due) DelayForeground(false);
+    ServeFreeWindows();
+  });
 }
 
 void FakeDesktop::SetBusy(WindowHandle hwnd, std::uint64_t milliseconds) {
@@ -167,10 +172,17 @@ void FakeDesktop::LoseForeground() { windows_.Activate(0); }
 
 void FakeDesktop::DelayForeground(bool delayed) {
   foreground_delayed_ = delayed;
+  foreground_delayed_until_ = std::numeric_limits<std::uint64_t>::max();
   if (delayed) return;
   for (const WindowHandle hwnd : std::exchange(coming_forward_, {})) {
     if (windows_.Find(hwnd) != nullptr) windows_.Activate(hwnd);
   }
+}
+
+void FakeDesktop::DelayForegroundFor(std::uint64_t milliseconds) {
+  if (clock_ == nullptr) throw std::logic_error("a delay needs a clock");
+  DelayForeground(true);
+  foreground_delayed_until_ = clock_->GetTickCount64() + milliseconds;
 }
 
 std::string FakeDesktop::Title(WindowHandle hwnd) const {

@@ -64,8 +64,11 @@ class FakeDesktop : public WindowQueries, public WindowCommands, public VirtualD
   /// While locked, SetForegroundWindow refuses, as Windows does for a program without the right.
   void LockForeground(ForegroundLock lock) { windows_.LockForeground(lock); }
   /// While delayed, SetForegroundWindow succeeds at once, but the windows come forward only when
-  /// the delay ends, as Windows does with a window of another thread.
+  /// the delay ends, as Windows does with a window of another thread. Nothing is asked of one that
+  /// is in front until then, even when another is to take its place.
   void DelayForeground(bool delayed);
+  /// The same until so many ms have passed.
+  void DelayForegroundFor(std::uint64_t milliseconds);
   /// Goes to a virtual desktop, 1 and up, as with a key; its topmost window comes to the front,
   /// unless the one that the user has left stays there.
   void UserSwitchesDesktop(int number, FrontOfLeftDesktop front = FrontOfLeftDesktop::kGoes) {
@@ -150,6 +153,7 @@ class FakeDesktop : public WindowQueries, public WindowCommands, public VirtualD
   FakeWindows windows_;
   FakeClock* clock_ = nullptr;
   bool foreground_delayed_ = false;
+  std::uint64_t foreground_delayed_until_ = 0;  // A moment of the clock; only while delayed.
   std::optional<std::string> lost_desktop_calls_;
   std::vector<WindowHandle> coming_forward_;
   int calls_that_waited_ = 0;

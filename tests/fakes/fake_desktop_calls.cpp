@@ -213,7 +213,7 @@ bool FakeDesktop::SetForegroundWindow(WindowHandle hwnd) {
   const FakeWindow* const window = windows_.Find(hwnd);
   if (window == nullptr || window->parent != 0 || windows_.IsForegroundLocked()) return false;
   if (foreground_delayed_ && window->process == kOtherProcess) {
-    coming_forward_.push_back(hwnd);
+    if (hwnd != windows_.Foreground()) coming_forward_.push_back(hwnd);
   } else {
     windows_.Activate(hwnd);
   }

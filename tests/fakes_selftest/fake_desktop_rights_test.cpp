@@ -2,6 +2,7 @@
 
 #include "platform/win32_constants.h"
 #include "tests/fakes/call_log.h"
+#include "tests/fakes/fake_clock.h"
 #include "tests/fakes/fake_desktop.h"
 #include "tests/fakes/fake_input.h"
 
@@ -12,6 +13,7 @@ namespace {
 class FakeDesktopRightsTest : public testing::Test {
  protected:
   CallLog log_;
+  FakeClock clock_{log_};
   FakeDesktop desktop_{log_};
   FakeInput input_{log_, desktop_.Windows()};
 };
@@ -135,6 +137,23 @@ TEST_F(FakeDesktopRightsTest, OnlyWindowsOfOthersComeForwardWithADelay) {
 
   desktop_.DelayForeground(false);
   EXPECT_EQ(desktop_.ForegroundTitle(), "Alpha");
+}
+
+TEST_F(FakeDesktopRightsTest, AWindowOnItsWayToTheBackIsNotAskedToStay) {
+  const WindowHandle alpha = desktop_.Open("Alpha");
+  const WindowHandle beta = desktop_.Open("Beta");
+  desktop_.UseClock(clock_);
+  desktop_.DelayForegroundFor(30);
+
+  EXPECT_TRUE(desktop_.SetForegroundWindow(alpha));
+  EXPECT_TRUE(desktop_.SetForegroundWindow(beta));
+  clock_.Advance(29);
+  EXPECT_EQ(desktop_.ForegroundTitle(), "Beta");
+
+  clock_.Advance(1);
+  EXPECT_EQ(desktop_.ForegroundTitle(), "Alpha");
+  EXPECT_TRUE(desktop_.SetForegroundWindow(beta));
+  EXPECT_EQ(desktop_.ForegroundTitle(), "Beta");
 }
 
 TEST_F(FakeDesktopRightsTest, TheProgramInFrontMayAlwaysGiveTheForegroundAway) {

@@ -68,10 +68,10 @@ TEST_F(WayBackFromAlpha, TwoQuickTagsLoseNothing) {
 }
 
 TEST_F(WayBackFromAlpha, QuickKeysLoseNothingWhenTheWindowsComeForwardLate) {
-  desktop.DelayForeground(true);
+  desktop.DelayForegroundFor(50);
   PressTagQuickly(0);
   PressTagQuickly(1);
-  desktop.DelayForeground(false);
+  clock.Advance(50);
   LetTick();
   EXPECT_EQ(Front(), "Alpha");
   ExpectTagLeadsTo(0, "Beta");
@@ -113,10 +113,10 @@ TEST_F(WayBackFromAlpha, AMomentInTheWindowThatMinimizingBroughtForwardCounts) {
 }
 
 TEST_F(WayBackFromAlpha, MinimizingRightAfterASelectionMinimizesTheSelectedWindow) {
-  desktop.DelayForeground(true);
+  desktop.DelayForegroundFor(50);
   PressTagQuickly(2);
   EXPECT_TRUE(hotKeys.Press(win32::kModAlt, win32::kVkDown));
-  desktop.DelayForeground(false);
+  clock.Advance(50);
   LetTick();
   EXPECT_TRUE(desktop.IsIconic(beta));
   EXPECT_FALSE(desktop.IsIconic(alpha));
