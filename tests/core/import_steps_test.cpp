@@ -52,6 +52,14 @@ Steps AllOf(const std::string& section, const Steps& keys) {
   return steps;
 }
 
+TEST_F(ImportSteps, AreOfferedForWhatOnlyAnInterruptedSaveHolds) {
+  for (const std::string& section : store_.Sections(kOld)) store_.DeleteSection(kOld, section);
+  store_.SaveSetting(kOld, "Saving", "1\\S\\Korvale - Old\\ParentWindowList\\9", "&9  Late");
+  store_.SaveSetting(kOld, "Saving", "Complete", "1");
+  Run();
+  EXPECT_EQ(store_.GetSetting(kWork, "ParentWindowList", "9"), "&9  Late");
+}
+
 TEST_F(ImportSteps, ChangeTheStoreInTheirOrder) {
   Run();
 

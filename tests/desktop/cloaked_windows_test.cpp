@@ -49,6 +49,14 @@ TEST_F(CloakedWindows, NobodyIsAskedAboutTheOwnerOfAWindowThatHasNone) {
                    "IsWindowOnCurrentVirtualDesktop(Mail)", "GetWindow(Mail, GW_OWNER)"}));
 }
 
+TEST_F(CloakedWindows, OfALongChainOfOwnersOnlyTheNearestAreAsked) {
+  WindowHandle last = alpha;
+  for (int i = 0; i < 40; ++i) last = desktop.Open("Owned", {.owner = last});
+  desktop.UserSwitchesDesktop(2);
+  const Calls calls = CallsOf([&] { IsPutAway(desktop, desktop, last); });
+  EXPECT_EQ(std::ranges::count(calls, "IsWindowOnCurrentVirtualDesktop(Owned)"), 16);
+}
+
 TEST_F(CloakedWindows, TheRefreshOfTheTagsDoesTheSame) {
   AddTag(1, "Mail");
   AddTag(2, "Alpha");

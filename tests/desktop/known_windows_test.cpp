@@ -49,6 +49,14 @@ TEST_F(KnownWindows, ADisabledWindowThatGoesWhileItIsAskedIsNotOpen) {
   EXPECT_EQ(Validate(Triple(alpha)), kWindowNotOpen);
 }
 
+TEST_F(KnownWindows, ADisabledWindowThatIsEnabledWhileItsDialogIsSoughtComesForward) {
+  desktop.SetEnabled(alpha, false);
+  WindowTriple window = Triple(alpha);
+  log.WhenCalled("IsWindowEnabled(Alpha)", [&] { desktop.SetEnabled(alpha, true); });
+  EXPECT_EQ(actions.ActivatePreviousWindow(window), kActivationDone);
+  EXPECT_EQ(desktop.ForegroundTitle(), "Alpha");
+}
+
 TEST_F(KnownWindows, AWindowThatIsNotTheDialogOfADisabledOneStaysBehind) {
   desktop.SetEnabled(alpha, false);
   WindowTriple window = Triple(alpha);

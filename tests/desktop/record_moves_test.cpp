@@ -65,6 +65,15 @@ TEST_F(RecordMovedFromAlpha, FromTheMainWindowKeepsItAsTheAlternate) {
   EXPECT_EQ(previous.alternate, Triple(mainWindow.handle));
 }
 
+TEST_F(DesktopCase, TheOnlyWindowWorkedInIsNotItsOwnWayBackWhileItComesForward) {
+  const WindowHandle alpha = desktop.Open("Alpha");
+  desktop.Open("Tool", {.exStyle = win32::kWsExToolWindow});
+  tracker.tmrWindow_Timer();
+  tracker.RecordSelection(Know(desktop, alpha));
+  EXPECT_EQ(previous.current.handle, alpha);
+  EXPECT_EQ(previous.OfTagZero(false).handle, 0);
+}
+
 TEST_F(RecordMovedBySelection, HasItsMarkRefreshed) {
   desktop.Windows().Find(beta)->exStyle = win32::kWsExTopmost;
   Select(beta);

@@ -151,6 +151,14 @@ TEST_F(StripTextSizeTest, FollowsTheWorkAreaThereAndBack) {
   EXPECT_EQ(strip_.Place(), kAtTheRight);
 }
 
+TEST_F(StripTextSizeTest, ComesBackFromAWorkAreaWithoutRoomForIt) {
+  strip_.SetSizeLimits({.minimumWidth = 5800});
+  host_.ChangeWorkArea({600, 0, 5400, 11100});
+  EXPECT_EQ(OnScreen(strip_), (TwipsRect{600, 300, 5800, 1500}));
+  host_.ChangeWorkArea({0, 0, 15360, 11100});
+  EXPECT_EQ(strip_.Place(), kAtTheRight);
+}
+
 TEST_F(StripTextSizeTest, KeepsTheSizeThatTheUserGivesItMeanwhile) {
   host_.ChangeTextSize(225);
   user_.Drag(strip_.Handle(), {300, 600, 4000, 1500});

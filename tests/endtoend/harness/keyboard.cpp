@@ -150,7 +150,8 @@ void ClickAt(Window window, POINT at) {
   const POINT point = OnScreen(window, at);
   // A window that comes to the front is raised a moment after it has got the focus.
   const HWND whole = GetAncestor(window.handle(), GA_ROOT);
-  WaitFor([&] { return GetAncestor(WindowFromPoint(point), GA_ROOT) == whole; });
+  const bool anywhere = window.handle() == GetDesktopWindow();
+  WaitFor([&] { return anywhere || GetAncestor(WindowFromPoint(point), GA_ROOT) == whole; });
   PutPointer(point);
   SendMouse(MOUSEEVENTF_LEFTDOWN);
   SendMouse(MOUSEEVENTF_LEFTUP);
