@@ -130,13 +130,15 @@ InstallationSettings TakeOver(Settings& settings, const std::string& other) {
   SaveScope save(settings);
   settings.SaveOptions(taken.options);
   settings.SaveINI(taken.startup, taken.tags);
-  settings.DeletePlacement();
   save.DeleteLast();
   save.DeleteSetting(kInstallationRegister, kRegisterSection, other);
-  const PointedAt removed(settings, other);
-  settings.DeleteINI();
-  settings.DeleteOptions();
-  for (const char* const journal : kJournalSections) save.DeleteSection(other, journal);
+  {
+    const PointedAt removed(settings, other);
+    settings.DeleteINI();
+    settings.DeleteOptions();
+    for (const char* const journal : kJournalSections) save.DeleteSection(other, journal);
+  }
+  settings.DeletePlacement();
   save.Commit();
   return taken;
 }

@@ -81,17 +81,17 @@ TEST_F(ImportSteps, ChangeTheStoreInTheirOrder) {
         Steps{"SaveSetting(Korvale - Work, ParentWindowList, 1",
               "SaveSetting(Korvale - Work, ParentWindowList, 4",
               "SaveSetting(Korvale - Work, ParentWindowClass, 4",
+              "DeleteSetting(Korvale Installations, 0, Korvale - Old)",
+              "DeleteSection(Korvale - Old, Startup)", "DeleteSection(Korvale - Old, ButtonTags)",
+              "DeleteSection(Korvale - Old, ParentWindowList)",
+              "DeleteSection(Korvale - Old, ParentWindowClass)",
+              "DeleteSection(Korvale - Old, Options)",
               "DeleteSetting(Korvale - Work, Startup, WindowState)",
               "DeleteSetting(Korvale - Work, Startup, Left)",
               "DeleteSetting(Korvale - Work, Startup, Top)",
               "DeleteSetting(Korvale - Work, Startup, Width)",
               "DeleteSetting(Korvale - Work, Startup, Height)",
-              "DeleteSetting(Korvale - Work, Startup, DisplayTips)",
-              "DeleteSetting(Korvale Installations, 0, Korvale - Old)",
-              "DeleteSection(Korvale - Old, Startup)", "DeleteSection(Korvale - Old, ButtonTags)",
-              "DeleteSection(Korvale - Old, ParentWindowList)",
-              "DeleteSection(Korvale - Old, ParentWindowClass)",
-              "DeleteSection(Korvale - Old, Options)"}}) {
+              "DeleteSetting(Korvale - Work, Startup, DisplayTips)"}}) {
     expected.insert(expected.end(), steps.begin(), steps.end());
   }
   EXPECT_EQ(Changes(), expected);
