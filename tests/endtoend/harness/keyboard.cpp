@@ -1,6 +1,7 @@
 #include "tests/endtoend/harness/keyboard.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 #include "tests/endtoend/harness/files.h"
 #include "tests/endtoend/harness/text.h"
@@ -148,11 +149,15 @@ void MoveMouse(Window window, POINT at) { PutPointer(OnScreen(window, at)); }
 
 void ClickAt(Window window, POINT at) {
   const POINT point = OnScreen(window, at);
-  // A window that comes to the front is raised a moment after it has got the focus.
+  PutPointer(point);
+  // A window that comes to the front is raised a moment after it has got the focus, and the tip of
+  // what the pointer has left stays for a moment.
   const HWND whole = GetAncestor(window.handle(), GA_ROOT);
   const bool anywhere = window.handle() == GetDesktopWindow();
-  WaitFor([&] { return anywhere || GetAncestor(WindowFromPoint(point), GA_ROOT) == whole; });
-  PutPointer(point);
+  const auto uncovered = [&] { return GetAncestor(WindowFromPoint(point), GA_ROOT) == whole; };
+  if (!anywhere && !WaitFor(uncovered) && window.Exists()) {
+    throw std::runtime_error("something lies over " + window.Title());
+  }
   SendMouse(MOUSEEVENTF_LEFTDOWN);
   SendMouse(MOUSEEVENTF_LEFTUP);
 }

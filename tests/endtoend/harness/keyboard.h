@@ -79,8 +79,8 @@ void PutPointer(POINT at);
 /// Moves the mouse to a place in a window or control, counted in pixels from its left upper corner.
 void MoveMouse(Window window, POINT at);
 
-/// Waits until nothing lies over the window there, moves the mouse there, and clicks its left
-/// button.
+/// Moves the mouse there, waits until nothing lies over the window, and clicks its left button.
+/// Throws, and so ends the test, when something stays there.
 void ClickAt(Window window, POINT at);
 
 /// Turns the mouse wheel over the middle of a window or control: away from the user above 0.
