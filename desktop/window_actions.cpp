@@ -160,6 +160,7 @@ ActivationResult WindowActions::BringForward(SeenWindow& window, WindowHandle in
   // What is in front now may be on its way to the back, when another selection came just before,
   // or not on the screen, when the user has just left its virtual desktop.
   if (before.handle != hwnd || previous_->menuSelection || IsCloaked(*windows_, hwnd)) {
+    AwaitTheOneSelectedBefore(hwnd);
     const RequestResult brought = requests_->SetForegroundWindow(hwnd);
     if (brought != RequestResult::kDone) return ResultOf(brought);
   }
@@ -167,6 +168,13 @@ ActivationResult WindowActions::BringForward(SeenWindow& window, WindowHandle in
   // Minimized only this moment.
   if (before.className.empty()) before = Know(*windows_, before.handle);
   return Unfold(hwnd, before);
+}
+
+/// The system asks nothing of a window that is in front: one of the same program that was selected
+/// just before, and is still coming, would take its place afterwards.
+void WindowActions::AwaitTheOneSelectedBefore(WindowHandle hwnd) {
+  if (previous_->leaving != hwnd || !previous_->IsPending(*windows_)) return;
+  requests_->Await(previous_->coming, [&] { return windows_->GetForegroundWindow() != hwnd; });
 }
 
 /// Restores a window for which `before` has left the foreground.

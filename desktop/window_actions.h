@@ -73,6 +73,7 @@ class WindowActions {
   ActivationResult RestoreIconicOwner(WindowHandle hwnd);
   void RefreshRecordedTitle(WindowTriple& window, std::string_view title);
   ActivationResult BringForward(SeenWindow& window, WindowHandle inFront);
+  void AwaitTheOneSelectedBefore(WindowHandle hwnd);
   ActivationResult Unfold(WindowHandle hwnd, const KnownWindow& before);
   bool StaysMinimized(WindowHandle hwnd);
   bool ChangeAll(EnumerationMode mode);

@@ -57,23 +57,10 @@ RequestResult WindowRequests::SetTopmost(WindowHandle hwnd, bool topmost) {
 }
 
 RequestResult WindowRequests::SetForegroundWindow(WindowHandle hwnd) {
-  AwaitTheOneAskedBefore(hwnd);
-  if (!commands_->SetForegroundWindow(hwnd)) {
-    if (!windows_->IsWindow(hwnd)) return RequestResult::kFailed;
-    input_->SendMouseInput();
-    if (!commands_->SetForegroundWindow(hwnd)) return Refused(hwnd);
-  }
-  asked_ = hwnd;
-  askedAt_ = clock_->GetTickCount64();
-  return RequestResult::kDone;
-}
-
-/// The system asks nothing of a window that is in front: another window of its program that is
-/// still coming would take its place afterwards.
-void WindowRequests::AwaitTheOneAskedBefore(WindowHandle hwnd) {
-  constexpr std::uint64_t kComes = 500;  // Whatever has not come by then is not taken to come.
-  if (asked_ == 0 || asked_ == hwnd || clock_->GetTickCount64() - askedAt_ >= kComes) return;
-  Await(asked_, [&] { return windows_->GetForegroundWindow() != hwnd; });
+  if (commands_->SetForegroundWindow(hwnd)) return RequestResult::kDone;
+  if (!windows_->IsWindow(hwnd)) return RequestResult::kFailed;
+  input_->SendMouseInput();
+  return commands_->SetForegroundWindow(hwnd) ? RequestResult::kDone : Refused(hwnd);
 }
 
 bool WindowRequests::Await(WindowHandle hwnd, const std::function<bool()>& done) {

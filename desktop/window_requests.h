@@ -35,8 +35,7 @@ class WindowRequests {
   /// visible window of our own is activated.
   RequestResult SetTopmost(WindowHandle hwnd, bool topmost);
   /// Brings a window to the front. When Windows refuses, asks once more after an input of our own
-  /// (SendMouseInput). When the window is in front, but another is coming that was asked for a
-  /// moment ago, first waits for that one.
+  /// (SendMouseInput).
   RequestResult SetForegroundWindow(WindowHandle hwnd);
 
   /// Waits until `done` holds for the window; false when the patience runs out first, or the
@@ -52,7 +51,6 @@ class WindowRequests {
  private:
   bool IsOurs(WindowHandle hwnd);
   RequestResult Refused(WindowHandle hwnd);
-  void AwaitTheOneAskedBefore(WindowHandle hwnd);
   std::uint64_t PatienceLeft();
   void Spend(std::uint64_t start);
   bool AwaitFor(WindowHandle hwnd, std::uint64_t milliseconds, const std::function<bool()>& done);
@@ -64,8 +62,6 @@ class WindowRequests {
   Clock* clock_;
   std::uint64_t spent_ = 0;     // Patience that waits have used up and time has not given back.
   std::uint64_t lastWait_ = 0;  // When the last wait ended.
-  WindowHandle asked_ = 0;      // The window last asked to the front, and when.
-  std::uint64_t askedAt_ = 0;
 };
 
 }  // namespace korvale

@@ -76,16 +76,6 @@ TEST_F(WayBackFromAlpha, IsKeptByTwoQuickKeys) {
   EXPECT_TRUE(LeadsTo(beta_));
 }
 
-TEST_F(WayBackFromAlpha, IsKeptByTwoKeysThatTheirProgramNoticesLate) {
-  program_.Hang();
-  PressAtOnce(TagKey(0));
-  ASSERT_TRUE(Target("Beta"));
-  PressAtOnce(TagKey(1));
-  program_.Recover();
-  ASSERT_TRUE(ComesToStay(alpha_));
-  EXPECT_TRUE(LeadsTo(beta_));
-}
-
 TEST_F(WayBackFromAlpha, IsKeptByAQuickTagAfterMinimizing) {
   Press({MOD_ALT, VK_DOWN});
   Press(TagKey(1));
