@@ -15,6 +15,7 @@ make_installer() {
 prepare_packages() {
   local folder=$1 setup
   [ -f dist/SHA256SUMS ] || { echo "script/package first" >&2; return 1; }
+  (cd dist && sha256sum --check --strict --quiet SHA256SUMS) || return
   rm -rf "$folder"
   mkdir -p "$folder"
   python3 -m zipfile -e dist/Korvale-*-win64.zip "$folder/unpacked" || return
